@@ -1,0 +1,42 @@
+#pragma once
+
+#include "color/hash_item.h"
+#include "platform/allocation.h"
+#include "platform/types.h"
+
+// A chained hash table of fixed size from 32-bit keys to items that it owns. The bucket of a key is
+// key mod bucket_count; it never grows and never removes single items. Iteration is in bucket order,
+// then in order of insertion, and callers rely on that order to break ties. Used by one thread.
+class SFHash {
+  public:
+    bool fail = false;  // the bucket array could not be allocated; the table is unusable
+    int32 bucket_count = 0;
+    int32 iter_bucket = 0;  // the cursor's bucket
+    int32 iter_depth = 0;   // the cursor's position in that bucket's chain
+
+    static constexpr int32 kDefaultBuckets = 4096;
+
+    explicit SFHash(int32 buckets = kDefaultBuckets);
+    ~SFHash();
+    SFHash(const SFHash&) = delete;
+    SFHash& operator=(const SFHash&) = delete;
+
+    // Takes ownership and appends the item to its chain; equal keys are kept side by side.
+    void AddItem(HashItem* item);
+    // The first item added with the key, or null.
+    HashItem* GetItem(uint32 key) const;
+    // Counts by walking every chain.
+    int32 CountItems() const;
+    // Moves the cursor to the first bucket.
+    void Rewind();
+    // The item at the cursor, which then moves on; null past the last item, and the cursor is back
+    // at the start.
+    HashItem* NextItem();
+    // Deletes every item; the cursor stays where it is.
+    void Reset();
+
+  private:
+    HashItem*& Chain(uint32 key) const { return buckets_[key % static_cast<uint32>(bucket_count)]; }
+
+    kirto::AllocatedArray<HashItem*> buckets_;
+};

@@ -1,0 +1,103 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "color/palette.h"
+#include "document/frame.h"
+#include "platform/messenger.h"
+#include "platform/semaphore.h"
+#include "platform/types.h"
+#include "settings/prefs.h"
+
+// The open animation: its frames, selection and global properties, and the reader/writer lock that
+// guards them. All edits run on one thread (the application's); other threads read between
+// ReaderEnter and ReaderExit (see ReaderScope). The lock is not re-entrant.
+//
+// While no writer is inside: frame i of the list has index i, and selected is -1 exactly when the
+// list is empty.
+class AnimationDocument {
+  public:
+    int32 global_height = 0;  // canvas, pixels
+    int32 global_width = 0;   // canvas, pixels
+    int32 loop_count = 0;     // 0: for ever
+    bool use_pause_global = false;
+    bool use_loop = false;
+    bool modified = false;  // changed since the last reset, open or save
+    double pause_length_global = 0.0;  // same unit as Frame::pause_length
+    std::string file_name;             // "untitled" after a reset; at most 255 bytes
+    std::string file_directory;        // empty after a reset; at most 1023 bytes
+    std::unique_ptr<Palette> global_palette;
+    int32 frame_count = 0;
+    int32 selected = -1;
+    bool open_panel_delivered = false;  // the open panel's next cancel notice is no real cancel
+    Frame* first_frame = nullptr;
+    sem_id frame_sem = -1;
+    int32 reader_count = 0;
+
+    // The settings must outlive the document. window receives the refresh commands; it may be
+    // invalid. Ends with Reset().
+    explicit AnimationDocument(Prefs& settings, BMessenger window_messenger = {});
+    virtual ~AnimationDocument();
+    AnimationDocument(const AnimationDocument&) = delete;
+    AnimationDocument& operator=(const AnimationDocument&) = delete;
+
+    Prefs& prefs;
+    BMessenger window;
+    // Counts the pixel memory of this document's frames.
+    const std::shared_ptr<kirto::PixelBudget> pixel_budget;
+
+    // Empties the document and takes its properties from the settings, under the writer lock. An
+    // unreadable palette file is reported by an alert, and the palette becomes web safe.
+    void Reset();
+
+    // Queries. They do not lock; the caller is inside the lock or on the editing thread.
+    int32 FrameCount() const { return frame_count; }
+    Frame* FirstFrame() const { return first_frame; }
+    int32 Selected() const { return selected; }
+    Frame* CurrentFrame() const { return FrameAt(selected); }
+    // Null outside 0..frame_count - 1.
+    Frame* FrameAt(int32 i) const;
+    // The first frame that is wider or taller than the canvas, or null.
+    const Frame* FrameLargerThanCanvas() const;
+    // Lets the global palette follow the first or the current frame, where its kind says so.
+    void UpdateGlobalPalette();
+
+    // Edits. Each takes the writer lock itself.
+    // Inserts the frame at its own index and posts 'auns' (before it, into an empty list, the
+    // thumbnail-size command). True: the document owns the frame now. False: the index is outside
+    // 0..frame_count, nothing happened and the frame is still the caller's.
+    bool InsertFrame(Frame* frame);
+    // Deletes the current frame.
+    void RemoveFrame();
+    // Swaps the current frame with the one before (up) or after it; the selection follows.
+    void MoveFrame(bool up);
+    // Reverses the list; the selection keeps its number, modified stays.
+    void ReverseFrames();
+    // Makes frame i current; true only if the selection changed.
+    bool Select(int32 i);
+
+    // Readers never exclude each other and are excluded by a writer; a writer waits until no reader
+    // is inside, looking every millisecond, with no priority.
+    void ReaderEnter();
+    void ReaderExit();
+    void WriterEnter();
+    void WriterExit();
+    // Enters as a reader unless a writer is inside; true when entered. Never waits for a writer's
+    // work, for threads that must not block.
+    bool TryReaderEnter();
+
+    // Posts a command without fields to the window.
+    void PostToWindow(uint32 what) const { window.SendMessage(what); }
+    // Posts the progress text that the status line shows.
+    void PostStatus(const std::string& text) const;
+    // Posts the thumbnail-size command that the setting "thumbnail_height" asks for, if any.
+    void PostThumbnailSize() const;
+
+  private:
+    void Relink();
+
+    std::vector<std::unique_ptr<Frame>> frames_;  // owns the list's frames, in order
+};

@@ -1,0 +1,39 @@
+#include "platform/alert.h"
+
+#include <atomic>
+#include <utility>
+
+namespace kirto {
+
+namespace {
+
+std::atomic<AlertPresenter*> g_presenter = nullptr;
+
+}  // namespace
+
+AlertPresenter* InstallAlertPresenter(AlertPresenter* presenter) {
+    return g_presenter.exchange(presenter);
+}
+
+void Warn(const std::string& text) {
+    BAlert("", text, "OK").Go();
+}
+
+void WarnOutOfMemory() {
+    Warn("Out of memory.");
+}
+
+}  // namespace kirto
+
+BAlert::BAlert(std::string title, std::string text, std::string button0, std::string button1,
+               std::string button2, alert_type type)
+    : title_(std::move(title)), text_(std::move(text)), type_(type) {
+    for (std::string* button : {&button0, &button1, &button2}) {
+        if (!button->empty()) buttons_.push_back(std::move(*button));
+    }
+}
+
+int32 BAlert::Go() {
+    if (kirto::AlertPresenter* presenter = kirto::g_presenter) return presenter->Present(*this);
+    return static_cast<int32>(buttons_.size()) - 1;
+}

@@ -1,0 +1,46 @@
+// The one door through which large or countable blocks of memory are taken, so that size arithmetic
+// is checked in one place and tests can make any allocation fail.
+#pragma once
+
+#include <cstdlib>
+#include <memory>
+
+#include "platform/types.h"
+
+namespace kirto {
+
+struct FreeDeleter {
+    void operator()(void* block) const { std::free(block); }
+};
+
+template <typename T>
+using AllocatedArray = std::unique_ptr<T[], FreeDeleter>;
+
+// count * size zero-filled bytes, or null when the product overflows, memory is short or an
+// installed fault says so. Thread-safe.
+void* AllocateZeroed(size_t count, size_t size);
+
+// As AllocateZeroed, typed; T must be trivial and all-zero bytes a valid value.
+template <typename T>
+AllocatedArray<T> AllocateArray(size_t count) {
+    return AllocatedArray<T>(static_cast<T*>(AllocateZeroed(count, sizeof(T))));
+}
+
+// True when an installed fault makes this allocation fail. Called by AllocateZeroed, and directly by
+// code that allocates single objects and must report failure.
+bool AllocationShouldFail();
+
+// While alive, makes the n-th allocation (1-based) of the calling thread and all later ones fail.
+// One at a time; used by tests.
+class AllocationFault {
+  public:
+    explicit AllocationFault(int64 failing_call);
+    ~AllocationFault();
+    AllocationFault(const AllocationFault&) = delete;
+    AllocationFault& operator=(const AllocationFault&) = delete;
+
+    // Allocations asked for since construction.
+    int64 Calls() const;
+};
+
+}  // namespace kirto

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <span>
+
+#include "platform/byte_order.h"
+#include "platform/types.h"
+
+namespace kirto {
+
+// Walks a buffer. Reading past the end gives zeros and is remembered, so a parser can check once a
+// block instead of once a byte. Does not own the bytes.
+class ByteReader {
+  public:
+    explicit ByteReader(std::span<const uint8> bytes) : bytes_(bytes) {}
+
+    // True once a read asked for more than there was.
+    bool Overrun() const { return overrun_; }
+    // Bytes left to read.
+    size_t Left() const { return bytes_.size() - position_; }
+
+    uint8 U8() {
+        if (!Need(1)) return 0;
+        return bytes_[position_++];
+    }
+    int8 S8() { return static_cast<int8>(U8()); }
+    uint16 U16() {
+        if (!Need(2)) return 0;
+        const uint16 value = ReadLittle16(&bytes_[position_]);
+        position_ += 2;
+        return value;
+    }
+    int16 S16() { return static_cast<int16>(U16()); }
+
+  private:
+    bool Need(size_t count) {
+        if (overrun_ || Left() < count) {
+            overrun_ = true;
+            position_ = bytes_.size();
+            return false;
+        }
+        return true;
+    }
+
+    std::span<const uint8> bytes_;
+    size_t position_ = 0;
+    bool overrun_ = false;
+};
+
+}  // namespace kirto

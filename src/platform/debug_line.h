@@ -1,0 +1,20 @@
+// Internal failures are printed, not shown: one line made of the class and method name, a dash and
+// the text. All of them pass through DebugLine.
+#pragma once
+
+#include <functional>
+#include <string>
+
+namespace kirto {
+
+// Formats like printf and hands the text to the installed sink. The text brings its own newline.
+// Thread-safe.
+[[gnu::format(printf, 1, 2)]] void DebugLine(const char* format, ...);
+
+using DebugSink = std::function<void(const std::string& text)>;
+
+// Installs where debug lines go and returns what was installed before. An empty sink means standard
+// output, the default.
+DebugSink InstallDebugSink(DebugSink sink);
+
+}  // namespace kirto

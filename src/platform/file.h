@@ -1,0 +1,94 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/types.h"
+
+enum open_mode : int32 {
+    B_READ_ONLY,
+};
+
+enum seek_mode : int32 {
+    SEEK_FROM_START,
+    SEEK_FROM_CURRENT,
+    SEEK_FROM_END,
+};
+
+// A file of bytes with one position and a buffer of its own; the file is never mapped, so a file
+// that shrinks while it is read gives short reads, not signals. Used by one thread at a time.
+//
+// Three kinds: a file opened for reading; a file written beside its target, which takes the target's
+// place only when Commit() succeeds; and bytes in memory.
+class BFile {
+  public:
+    // Opens an existing file for reading. Folders and other things that are no regular files are
+    // refused with B_NOT_ALLOWED.
+    BFile(const std::string& path, open_mode mode);
+    // Flushes nothing and commits nothing: a written file that was not committed leaves no trace.
+    ~BFile();
+    BFile(const BFile&) = delete;
+    BFile& operator=(const BFile&) = delete;
+
+    // A new file that will replace path on Commit(). Symbolic links in path are resolved; a target
+    // that exists and is no regular file is refused with B_NOT_ALLOWED; the permissions of an
+    // existing target are kept. InitCheck() tells why it failed.
+    static std::unique_ptr<BFile> CreateReplacing(const std::string& path);
+    // A file over the given bytes, for reading and writing.
+    static std::unique_ptr<BFile> OnMemory(std::vector<uint8> bytes = {});
+
+    // B_OK, or why the file can't be used.
+    status_t InitCheck() const { return status_; }
+    // The path as it was given; empty for memory.
+    const std::string& Path() const { return path_; }
+    // Whole size in bytes, unwritten buffer included.
+    int64 Size() const;
+
+    // Reads at most size bytes at the position and moves it. Returns the bytes read (fewer at the
+    // end of the file), or a negative status.
+    int64 Read(void* buffer, size_t size);
+    // True when exactly size bytes were read.
+    bool ReadExactly(void* buffer, size_t size);
+    // Writes at the position and moves it. Returns size, or a negative status; the first failure is
+    // remembered and makes every later write and the Commit() fail.
+    int64 Write(const void* buffer, size_t size);
+
+    // Moves the position; past the end is allowed. Returns the new position, or B_BAD_VALUE for one
+    // before the start (the position stays).
+    int64 Seek(int64 offset, seek_mode mode);
+    int64 Position() const { return position_; }
+
+    // The first write error, or B_OK.
+    status_t WriteStatus() const { return write_status_; }
+    // Writes what is buffered, syncs, takes the target's place and syncs its directory. On failure
+    // the old file is untouched and the new one is removed. Memory and read files: B_NOT_ALLOWED.
+    status_t Commit();
+
+    // Sets the file's MIME type as an extended attribute; where the file system refuses it, nothing
+    // happens.
+    void SetMimeType(const std::string& type);
+
+    // The bytes of a memory file.
+    const std::vector<uint8>& Memory() const { return buffer_; }
+
+  private:
+    BFile() = default;
+
+    void OpenTemporary();
+    bool FillBuffer();
+    status_t FlushBuffer();
+    void DiscardTemporary();
+
+    std::string path_;
+    std::string target_;     // resolved path that Commit() replaces; empty unless written
+    std::string temporary_;  // path of the file being written until it is committed
+    status_t status_ = B_NO_INIT;
+    status_t write_status_ = B_OK;
+    int descriptor_ = -1;  // -1 for memory
+    int64 size_ = 0;       // size of the file behind the descriptor
+    int64 position_ = 0;
+    std::vector<uint8> buffer_;  // memory: the bytes; else a window of the file
+    int64 buffer_start_ = 0;     // file offset of the window's first byte
+    bool buffer_dirty_ = false;  // the window holds bytes not yet written
+};

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <memory>
+
+#include "platform/handler.h"
+#include "platform/message.h"
+
+namespace kirto {
+
+// Where messages are delivered: a looper's queue, the GUI toolkit's event queue, a test's recorder.
+class MessagePort {
+  public:
+    virtual ~MessagePort() = default;
+    // Takes the message for later handling, in order; never blocks on the handler. handler is the
+    // token of the handler meant, or kPreferredHandler. B_NOT_ALLOWED once the port is closed.
+    // Callable from any thread.
+    virtual status_t Post(BMessage message, handler_token handler) = 0;
+    // False once the receiving end is gone.
+    virtual bool IsOpen() const = 0;
+};
+
+}  // namespace kirto

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <atomic>
+
+#include "platform/types.h"
+
+namespace kirto {
+
+// The ceiling on the pixel memory of one document, in bytes. Every bitmap of the document reserves
+// its bytes here before it allocates them and gives them back when it is destroyed. Thread-safe;
+// shared by the document and its bitmaps, so that a bitmap may outlive the document.
+class PixelBudget {
+  public:
+    explicit PixelBudget(uint64 limit = DefaultLimit()) : limit_(limit) {}
+
+    // True and counted when used + bytes stays within the limit; otherwise nothing changes.
+    bool Reserve(uint64 bytes);
+    void Release(uint64 bytes);
+
+    uint64 Used() const { return used_; }
+    uint64 Limit() const { return limit_; }
+    // Applies to later reservations only.
+    void SetLimit(uint64 limit) { limit_ = limit; }
+
+    // min(2 GiB, a quarter of the machine's physical memory).
+    static uint64 DefaultLimit();
+
+  private:
+    std::atomic<uint64> limit_;
+    std::atomic<uint64> used_ = 0;
+};
+
+}  // namespace kirto

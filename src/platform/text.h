@@ -1,0 +1,28 @@
+// Small helpers for byte strings.
+#pragma once
+
+#include <cstdarg>
+#include <string>
+#include <string_view>
+
+#include "platform/types.h"
+
+namespace kirto {
+
+// printf into a string of whatever length it needs.
+[[gnu::format(printf, 1, 2)]] std::string Format(const char* format, ...);
+[[gnu::format(printf, 1, 0)]] std::string FormatV(const char* format, va_list arguments);
+
+// The longest prefix of at most max_bytes bytes that does not end inside a UTF-8 sequence. Bytes
+// that are no UTF-8 count as characters of one byte.
+std::string_view CutUtf8(std::string_view text, size_t max_bytes);
+
+// True when text contains part anywhere.
+inline bool Contains(std::string_view text, std::string_view part) {
+    return text.find(part) != std::string_view::npos;
+}
+
+// True when the bytes are well-formed UTF-8 (no overlong forms, no surrogates).
+bool IsValidUtf8(std::string_view text);
+
+}  // namespace kirto

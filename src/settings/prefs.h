@@ -1,0 +1,85 @@
+#pragma once
+
+#include <string>
+
+#include "platform/node.h"
+#include "platform/rect.h"
+#include "platform/types.h"
+
+// Every user setting of the program, as public fields, kept as typed attributes named like the
+// fields. One object a program, made at start. The application thread reads it; the preferences
+// window edits it.
+class Prefs {
+  public:
+    // The fields in the order in which they are read and written. Reading stops at the first
+    // failure, so the order is part of the contract.
+    int32 global_width = 320;                // of a new animation, pixels
+    int32 global_height = 240;               // of a new animation, pixels
+    bool global_usepause = true;             // new animations pause between frames
+    bool global_useloop = true;              // new animations loop
+    double global_pauselength = 100.0;       // of new animations, in the unit below
+    int32 global_loopcount = 0;              // 0: for ever
+    bool global_setdimensions = true;        // the first inserted frame sets the animation's size
+    bool global_pauseinseconds = false;      // pauses in seconds, else in hundredths
+    int32 palette_mapping = 0;               // 0, 1, 2 or 7 (a kirto::PaletteMode)
+    std::string palette_filename;            // at most 255 bytes
+    bool palette_usetransparent = false;
+    int32 palette_transparentindex = 0;
+    int32 palette_backgroundindex = 0;
+    bool palette_dither = false;
+    int32 thumbnail_height = 0;              // 0: first frame's, 1: half of it, 2: the value below
+    int32 thumbnail_heightvalue = 100;       // pixels
+    int32 thumbnail_maxheight = 400;         // pixels
+    int32 thumbnail_minheight = 30;          // pixels
+    bool thumbnail_drawtransparent = true;
+    int32 animation_gifdisposal = 0;         // written after each frame; above 2 counts as 3
+    bool animation_gifinterlaced = false;
+    bool animation_gifcomment = true;
+    bool animation_gifloadfullframe = true;  // assemble each frame at full animation size
+    bool misc_savewindowdimensions = true;
+    BRect misc_windowdimensions{100, 80, 649, 479};  // screen coordinates
+    std::string misc_tempfilelocation;       // directory; at most 1023 bytes
+    int32 misc_preferredmode = 0;            // 0: thumbnails, 1: frame list
+
+    bool failed = false;        // a read or write failed; never cleared
+    std::string damaged_copy;   // where an unreadable settings file was put aside, or empty
+
+    // Built-in values only; nothing is read or written.
+    struct BuiltIn {};
+    explicit Prefs(BuiltIn);
+    // Loads every setting from the settings file ("Kirto_settings" in the user's configuration
+    // folder), writing back the default of each that is missing.
+    Prefs();
+    // As above, from the given node.
+    explicit Prefs(BNode& node);
+
+    // Writes every setting to the settings file; misc_windowdimensions is written as window_frame.
+    // Stops at the first failure.
+    void Save(const BRect& window_frame);
+    void Save(BNode& node, const BRect& window_frame);
+
+    // Sets one setting from text, for this run only: a whole number for integers, "true" or "false"
+    // for booleans, a number for doubles, any text for strings, "left,top,right,bottom" for
+    // rectangles. False, with a sentence in *reason, for an unknown key or an unfit text.
+    bool SetFromText(const std::string& key, const std::string& text, std::string* reason);
+
+    // The attribute helpers. Get: the stored bytes into *value, or the default, which is then
+    // written back; Put: the value's bytes. False on failure, with a debug line and failed set.
+    bool GetInt(BNode& node, const char* key, int32* value, const int32* default_value);
+    bool GetBool(BNode& node, const char* key, bool* value, const bool* default_value);
+    bool GetDouble(BNode& node, const char* key, double* value, const double* default_value);
+    bool GetString(BNode& node, const char* key, std::string* value,
+                   const std::string* default_value);
+    bool GetRect(BNode& node, const char* key, BRect* value, const BRect* default_value);
+    bool PutInt(BNode& node, const char* key, const int32* value);
+    bool PutBool(BNode& node, const char* key, const bool* value);
+    bool PutDouble(BNode& node, const char* key, const double* value);
+    bool PutString(BNode& node, const char* key, const std::string* value);
+    bool PutRect(BNode& node, const char* key, const BRect* value);
+
+    // The settings file's path.
+    static std::string SettingsPath();
+
+  private:
+    void Load(BNode& node);
+};

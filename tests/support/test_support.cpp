@@ -1,0 +1,135 @@
+#include "support/test_support.h"
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+#include "document/command_codes.h"
+
+namespace kirto::test {
+
+DebugRecorder::DebugRecorder() {
+    previous_ = InstallDebugSink([this](const std::string& text) {
+        const std::lock_guard lock(mutex_);
+        text_ += text;
+    });
+}
+
+DebugRecorder::~DebugRecorder() {
+    InstallDebugSink(previous_);
+}
+
+std::string DebugRecorder::Text() const {
+    const std::lock_guard lock(mutex_);
+    return text_;
+}
+
+AlertRecorder::AlertRecorder(std::vector<int32> answers)
+    : answers_(std::move(answers)), previous_(InstallAlertPresenter(this)) {}
+
+AlertRecorder::~AlertRecorder() {
+    InstallAlertPresenter(previous_);
+}
+
+int32 AlertRecorder::Present(const BAlert& alert) {
+    static constexpr const char* kTypes[] = {"EMPTY", "INFO", "IDEA", "WARNING", "STOP"};
+    const std::lock_guard lock(mutex_);
+    std::string line =
+        std::string(kTypes[alert.Type()]) + " [" + alert.Title() + "] " + alert.Text();
+    for (const std::string& button : alert.Buttons()) line += " | " + button;
+    lines_.push_back(line);
+    const size_t asked = lines_.size() - 1;
+    return asked < answers_.size() ? answers_[asked]
+                                   : static_cast<int32>(alert.Buttons().size()) - 1;
+}
+
+std::vector<std::string> AlertRecorder::Lines() const {
+    const std::lock_guard lock(mutex_);
+    return lines_;
+}
+
+status_t PortRecorder::Post(BMessage message, handler_token) {
+    const std::lock_guard lock(mutex_);
+    messages_.push_back(std::move(message));
+    return B_OK;
+}
+
+std::string PortRecorder::Transcript() const {
+    std::string transcript;
+    for (const BMessage& message : Messages()) {
+        if (!transcript.empty()) transcript += ' ';
+        transcript += CodeText(message.what);
+        std::string text;
+        if (message.what == kStatusUpdate && message.FindString("text", &text) == B_OK) {
+            transcript += "(" + text + ")";
+        }
+    }
+    return transcript;
+}
+
+std::vector<BMessage> PortRecorder::Messages() const {
+    const std::lock_guard lock(mutex_);
+    return messages_;
+}
+
+std::shared_ptr<BBitmap> PictureOf(int32 width, int32 height, const std::vector<uint32>& argb,
+                                   color_space space) {
+    auto bitmap = std::make_shared<BBitmap>(BRect::OfSize(width, height), space);
+    for (size_t i = 0; i < argb.size(); ++i) {
+        uint8* pixel = bitmap->Bits() + i * 4;
+        for (size_t byte = 0; byte < 4; ++byte) {
+            const size_t shift = IsBigEndian(space) ? 24 - byte * 8 : byte * 8;
+            pixel[byte] = static_cast<uint8>(argb[i] >> shift);
+        }
+    }
+    return bitmap;
+}
+
+std::vector<uint32> PixelsOf(const BBitmap& bitmap) {
+    std::vector<uint32> pixels;
+    for (size_t i = 0; i + 4 <= bitmap.BitsLength(); i += 4) {
+        pixels.push_back(ReadLittle32(bitmap.Bits() + i));
+    }
+    return pixels;
+}
+
+Frame* AppendFrame(AnimationDocument& document, std::shared_ptr<BBitmap> bitmap,
+                   const std::string& name) {
+    auto frame = std::make_unique<Frame>(name, bitmap->Width(), bitmap->Height(),
+                                         document.FrameCount());
+    frame->palette->Set(bitmap.get());
+    frame->bitmap = std::move(bitmap);
+    Frame* inserted = frame.get();
+    if (document.InsertFrame(inserted)) static_cast<void>(frame.release());
+    return inserted;
+}
+
+TemporaryFolder::TemporaryFolder() {
+    std::string pattern = (std::filesystem::temp_directory_path() / "kirto-test-XXXXXX").string();
+    if (mkdtemp(pattern.data())) path_ = pattern;
+}
+
+TemporaryFolder::~TemporaryFolder() {
+    std::error_code ignored;
+    if (!path_.empty()) std::filesystem::remove_all(path_, ignored);
+}
+
+std::vector<uint8> ReadBytes(const std::string& path) {
+    std::ifstream stream(path, std::ios::binary);
+    const std::vector<char> chars{std::istreambuf_iterator<char>(stream), {}};
+    return {chars.begin(), chars.end()};
+}
+
+void WriteBytes(const std::string& path, const std::vector<uint8>& bytes) {
+    std::ofstream stream(path, std::ios::binary);
+    for (const uint8 byte : bytes) stream.put(static_cast<char>(byte));
+}
+
+std::string CodeText(uint32 code) {
+    std::string text;
+    for (int shift = 24; shift >= 0; shift -= 8) text += static_cast<char>(code >> shift);
+    return text;
+}
+
+}  // namespace kirto::test
