@@ -1,0 +1,137 @@
+#include "app/open_animation.h"
+
+#include <array>
+
+#include "color/sf_hash.h"
+#include "document/document_scope.h"
+#include "formats/fli_load.h"
+#include "formats/gif_load.h"
+#include "platform/alert.h"
+#include "platform/text.h"
+
+namespace kirto {
+
+namespace {
+
+constexpr int32 kPauseBuckets = 100;
+constexpr int32 kSalvageButton = 0;
+
+bool ContainsAny(const std::string& text, std::initializer_list<const char*> parts) {
+    for (const char* part : parts) {
+        if (Contains(text, part)) return true;
+    }
+    return false;
+}
+
+// The frames that a load inserted, as document positions.
+struct FrameRange {
+    int32 begin = 0;
+    int32 end = 0;
+};
+
+template <typename Action>
+void ForEachFrame(AnimationDocument& document, FrameRange range, Action action) {
+    for (int32 i = range.begin; i < range.end; ++i)
+        action(*document.FrameAt(i));
+}
+
+void RecognisePalettes(AnimationDocument& document, FrameRange range) {
+    document.global_palette->RecogniseBuiltIn();
+    ForEachFrame(document, range, [](Frame& frame) {
+        if (frame.local_palette) frame.palette->RecogniseBuiltIn();
+    });
+}
+
+// The whole-number pause that most frames have; among equals the first in the table's order.
+uint32 CommonestPause(const AnimationDocument& document, FrameRange range) {
+    SFHash counts(kPauseBuckets);
+    for (int32 i = range.begin; i < range.end && !counts.fail; ++i) {
+        const uint32 pause = static_cast<uint32>(document.FrameAt(i)->pause_length);
+        if (HashItem* item = counts.GetItem(pause)) {
+            ++static_cast<ColorItem*>(item)->value;
+        } else {
+            counts.AddItem(new ColorItem(pause, 1));
+        }
+    }
+    const ColorItem* best = nullptr;
+    for (int32 left = counts.fail ? 0 : counts.CountItems(); left > 0; --left) {
+        const auto* item = static_cast<const ColorItem*>(counts.NextItem());
+        if (!best || item->value > best->value) best = item;
+    }
+    return best ? best->key : 0;
+}
+
+// Makes the commonest pause the animation's; the frames that have it follow the animation from then
+// on. Pauses come from the file in hundredths and leave in the unit of the settings.
+void ShareOutPauses(AnimationDocument& document, FrameRange range) {
+    const double commonest = CommonestPause(document, range);
+    const double unit = document.prefs.global_pauseinseconds ? 100.0 : 1.0;
+    if (commonest != 0) {
+        document.pause_length_global = commonest;
+        document.use_pause_global = true;
+    }
+    ForEachFrame(document, range, [&](Frame& frame) {
+        if (frame.pause_length == commonest) {
+            frame.pause_length = 0;
+            frame.use_pause = false;
+        } else {
+            frame.pause_length /= unit;
+        }
+    });
+    document.pause_length_global /= unit;
+}
+
+void OfferSalvage(AnimationDocument& document) {
+    BAlert alert("", "The animation can't be opened because it was corrupted or unreadable.",
+                 "Salvage", "OK");
+    if (alert.Go() != kSalvageButton) document.Reset();
+}
+
+}  // namespace
+
+AnimationType ClassifyAnimation(const std::string& leaf_name, const std::string& mime_type) {
+    if (mime_type == "image/gif" || ContainsAny(leaf_name, {".gif", ".GIF"})) {
+        return AnimationType::kGif;
+    }
+    if (mime_type == "video/x-fli" || mime_type == "video/x-flc" ||
+        ContainsAny(leaf_name, {".fli", ".FLI", ".flc", ".FLC"})) {
+        return AnimationType::kFli;
+    }
+    return AnimationType::kNone;
+}
+
+AnimationType ClassifyContent(BFile* file) {
+    std::array<uint8, 6> start{};
+    file->Seek(0, SEEK_FROM_START);
+    file->Read(start.data(), start.size());
+    file->Seek(0, SEEK_FROM_START);
+    if (start[0] == 'G' && start[1] == 'I' && start[2] == 'F') return AnimationType::kGif;
+    const bool flic_magic = (start[4] == 0x11 || start[4] == 0x12) && start[5] == 0xAF;
+    return flic_magic ? AnimationType::kFli : AnimationType::kNone;
+}
+
+bool OpenGif(BFile* file, int32 position, AnimationDocument& document) {
+    const GifLoad loader(file, position, document);
+    if (loader.failed) {
+        OfferSalvage(document);
+        return false;
+    }
+    const ReaderScope reader(document);
+    const FrameRange range{position, loader.End()};
+    RecognisePalettes(document, range);
+    ShareOutPauses(document, range);
+    return true;
+}
+
+bool OpenFli(BFile* file, int32 position, AnimationDocument& document) {
+    const FliLoad loader(file, position, document);
+    if (loader.failed) {
+        OfferSalvage(document);
+        return false;
+    }
+    document.use_loop = true;
+    document.loop_count = 0;
+    return true;
+}
+
+}  // namespace kirto

@@ -25,7 +25,7 @@ class AnimationDocument {
     int32 loop_count = 0;     // 0: for ever
     bool use_pause_global = false;
     bool use_loop = false;
-    bool modified = false;  // changed since the last reset, open or save
+    bool modified = false;             // changed since the last reset, open or save
     double pause_length_global = 0.0;  // same unit as Frame::pause_length
     std::string file_name;             // "untitled" after a reset; at most 255 bytes
     std::string file_directory;        // empty after a reset; at most 1023 bytes
@@ -97,7 +97,9 @@ class AnimationDocument {
     void PostThumbnailSize() const;
 
   private:
+    // Renews count, indices and links after the order of frames_ changed.
     void Relink();
+    void ResetPalette();
 
     std::vector<std::unique_ptr<Frame>> frames_;  // owns the list's frames, in order
 };

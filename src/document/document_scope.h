@@ -1,9 +1,15 @@
 // Scopes that hold the document's lock; the only callers of its Enter and Exit operations.
 #pragma once
 
+#include <cassert>
+
 #include "document/animation_document.h"
 
 namespace kirto {
+
+// Scopes the calling thread is inside. The lock is not re-entrant, and a thread that asks for it
+// twice hangs only when another thread comes between; counting makes the mistake fail every time.
+inline thread_local int32 t_scopes_held = 0;
 
 // Inside as a reader while it lives. Leave() and Enter() step out and in again, for code that must
 // let a writer through half-way.
@@ -15,11 +21,16 @@ class ReaderScope {
     ReaderScope& operator=(const ReaderScope&) = delete;
 
     void Enter() {
-        if (!inside_) document_.ReaderEnter();
+        if (inside_) return;
+        assert(t_scopes_held == 0);
+        document_.ReaderEnter();
+        ++t_scopes_held;
         inside_ = true;
     }
     void Leave() {
-        if (inside_) document_.ReaderExit();
+        if (!inside_) return;
+        document_.ReaderExit();
+        --t_scopes_held;
         inside_ = false;
     }
 
@@ -32,9 +43,13 @@ class ReaderScope {
 class TryReaderScope {
   public:
     explicit TryReaderScope(AnimationDocument& document)
-        : document_(document), entered_(document.TryReaderEnter()) {}
+        : document_(document), entered_(document.TryReaderEnter()) {
+        if (entered_) ++t_scopes_held;
+    }
     ~TryReaderScope() {
-        if (entered_) document_.ReaderExit();
+        if (!entered_) return;
+        document_.ReaderExit();
+        --t_scopes_held;
     }
     TryReaderScope(const TryReaderScope&) = delete;
     TryReaderScope& operator=(const TryReaderScope&) = delete;
@@ -50,9 +65,14 @@ class TryReaderScope {
 class WriterScope {
   public:
     explicit WriterScope(AnimationDocument& document) : document_(document) {
+        assert(t_scopes_held == 0);
         document_.WriterEnter();
+        ++t_scopes_held;
     }
-    ~WriterScope() { document_.WriterExit(); }
+    ~WriterScope() {
+        document_.WriterExit();
+        --t_scopes_held;
+    }
     WriterScope(const WriterScope&) = delete;
     WriterScope& operator=(const WriterScope&) = delete;
 

@@ -14,21 +14,22 @@
 // Never copied.
 class Frame {
   public:
-    // The pixels, over (0, 0, width - 1, height - 1) unless a creator says otherwise. Shared so that
-    // a painter or a worker may keep them; they do not change once the frame is in the document.
+    // The pixels, over (0, 0, width - 1, height - 1) unless a creator says otherwise. Shared so
+    // that a painter or a worker may keep them; they do not change once the frame is in the
+    // document.
     std::shared_ptr<BBitmap> bitmap;
-    std::string name;           // at most kMaxNameBytes bytes
-    int32 height = 0;           // pixels
-    int32 width = 0;            // pixels
-    int32 x_offset = 0;         // left edge on the canvas, pixels
-    int32 y_offset = 0;         // top edge on the canvas, pixels
-    int32 index = 0;            // position in the document, or where to insert
-    double pause_length = 0.0;  // hundredths of a second, or seconds ("global_pauseinseconds")
-    bool local_palette = false; // written with its own colour table
-    bool use_pause = false;     // pause_length overrides the animation's
-    bool init_failed = false;   // construction failed; only name, palette and bitmap are defined
+    std::string name;            // at most kMaxNameBytes bytes
+    int32 height = 0;            // pixels
+    int32 width = 0;             // pixels
+    int32 x_offset = 0;          // left edge on the canvas, pixels
+    int32 y_offset = 0;          // top edge on the canvas, pixels
+    int32 index = 0;             // position in the document, or where to insert
+    double pause_length = 0.0;   // hundredths of a second, or seconds ("global_pauseinseconds")
+    bool local_palette = false;  // written with its own colour table
+    bool use_pause = false;      // pause_length overrides the animation's
+    bool init_failed = false;    // construction failed; only name, palette and bitmap are defined
     std::unique_ptr<Palette> palette;  // null only when init_failed
-    Frame* next = nullptr;      // the document's link; not owned
+    Frame* next = nullptr;             // the document's link; not owned
 
     static constexpr size_t kMaxNameBytes = 255;
 

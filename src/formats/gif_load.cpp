@@ -1,0 +1,340 @@
+#include "formats/gif_load.h"
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+#include <new>
+
+#include "document/document_scope.h"
+#include "formats/gif_lzw_decoder.h"
+#include "formats/gif_pixel_writer.h"
+#include "platform/byte_order.h"
+#include "platform/debug_line.h"
+#include "platform/text.h"
+
+namespace {
+
+constexpr uint8 kExtensionIntroducer = '!';
+constexpr uint8 kImageSeparator = ',';
+constexpr uint8 kTrailer = ';';
+constexpr uint8 kStrayTerminator = 0;
+
+constexpr uint8 kGraphicControlLabel = 0xF9;
+constexpr uint8 kCommentLabel = 0xFE;
+constexpr uint8 kApplicationLabel = 0xFF;
+
+// Restore-to-previous and the reserved methods all behave as restore-to-background.
+constexpr int32 kDisposalBackground = 2;
+
+constexpr rgb_color kDrawnTransparent = {255, 255, 255, 128};
+constexpr rgb_color kPlainTransparent = {128, 128, 128, 128};
+
+void FillRows(BBitmap& bitmap, int32 top, int32 bottom, int32 left, int32 right, uint32 pixel) {
+    bottom = std::min(bottom, bitmap.Height());
+    right = std::min(right, bitmap.Width());
+    for (int32 y = std::max(top, 0); y < bottom; ++y) {
+        uint8* row = bitmap.Row(y);
+        for (int32 x = std::max(left, 0); x < right; ++x) {
+            std::memcpy(row + static_cast<size_t>(x) * 4, &pixel, 4);
+        }
+    }
+}
+
+bool IsLittleEndian32(const BBitmap& bitmap) {
+    return bitmap.ColorSpace() == B_RGB32 || bitmap.ColorSpace() == B_RGBA32;
+}
+
+}  // namespace
+
+GifLoad::GifLoad(BFile* file, int32 start, AnimationDocument& document)
+    : file_(file),
+      document_(document),
+      start_(start),
+      next_position_(start),
+      full_frame_(document.prefs.animation_gifloadfullframe) {
+    Init();
+    frame_ = NewFrame();
+    if (!frame_ || !ReadGifHeader()) {
+        failed = true;
+        return;
+    }
+    uint8 introducer = 0;
+    do {
+        if (!file_->ReadExactly(&introducer, 1) || !ReadBlock(introducer)) {
+            failed = true;
+            return;
+        }
+    } while (introducer != kTrailer);
+}
+
+void GifLoad::Init() {
+    document_.pause_length_global = 0;
+    document_.use_pause_global = false;
+    document_.use_loop = false;
+}
+
+bool GifLoad::ReadGifHeader() {
+    uint8 header[13];
+    if (!file_->ReadExactly(header, sizeof(header))) return false;
+    document_.global_width = kirto::ReadLittle16(header + 6);
+    document_.global_height = kirto::ReadLittle16(header + 8);
+    Palette* palette = document_.global_palette.get();
+    if ((header[10] & 0x80) == 0) {
+        palette->Set(kirto::kPaletteWebSafe);
+        return true;
+    }
+    if (!ReadColorTable(palette, (header[10] & 7) + 1)) return false;
+    palette->background_index = header[11];
+    return true;
+}
+
+bool GifLoad::ReadBlock(uint8 introducer) {
+    switch (introducer) {
+        case kImageSeparator:
+            return ReadImage();
+        case kExtensionIntroducer:
+            return ReadExtension();
+        case kTrailer:
+        case kStrayTerminator:
+            return true;
+        default:
+            return ReadGifUnknownBlock(introducer);
+    }
+}
+
+bool GifLoad::ReadImage() {
+    const int32 relative = next_position_ - start_;
+    document_.PostStatus(kirto::Format("Status: loading frame %d...", next_position_ + 1));
+    if (!ReadGifImageHeader(frame_.get(), relative, next_position_)) return false;
+    if (!ReadGifImageData(frame_.get(), relative)) return false;
+    if (frame_->local_palette) {
+        frame_->palette->unique_colors = frame_->palette->CountUniqueColors(frame_->bitmap.get());
+    } else {
+        frame_->palette->Set(frame_->bitmap.get());
+    }
+    if (!document_.InsertFrame(frame_.get())) return false;
+    static_cast<void>(frame_.release());
+    ++next_position_;
+    frame_ = NewFrame();
+    if (!frame_) kirto::DebugLine("GifLoad::GifLoad() - Out of memory\n");
+    return frame_ != nullptr;
+}
+
+bool GifLoad::ReadExtension() {
+    uint8 label = 0;
+    if (!file_->ReadExactly(&label, 1)) return false;
+    switch (label) {
+        case kGraphicControlLabel:
+            return ReadGifControlBlock(frame_.get());
+        case kCommentLabel:
+            return ReadGifCommentBlock();
+        case kApplicationLabel:
+            return ReadGifLoopBlock();
+        default:
+            return ReadGifUnknownBlock(label);
+    }
+}
+
+bool GifLoad::ReadGifLoopBlock() {
+    static constexpr char kIdentifier[12] = "NETSCAPE2.0";
+    uint8 size = 0;
+    std::array<uint8, 256> block{};
+    if (!file_->ReadExactly(&size, 1) || !file_->ReadExactly(block.data(), size)) return false;
+    if (std::memcmp(block.data(), kIdentifier, sizeof(kIdentifier)) != 0) return SkipSubBlocks();
+
+    // One read takes the sub-block and the terminator behind it.
+    block.fill(0);
+    if (!file_->ReadExactly(&size, 1)) return false;
+    if (!file_->ReadExactly(block.data(), static_cast<size_t>(size) + 1)) return false;
+    // What the sub-block is too short for counts as 0; the terminator is no part of the count.
+    std::fill(block.begin() + size, block.end(), uint8{0});
+    document_.use_loop = true;
+    document_.loop_count = kirto::ReadLittle16(block.data() + 1);
+    return true;
+}
+
+bool GifLoad::ReadGifControlBlock(Frame* frame) {
+    uint8 block[6];
+    if (!file_->ReadExactly(block, sizeof(block))) return false;
+    // Never cleared: a transparent index stays in force for all later images of the file.
+    if ((block[1] & 1) != 0) {
+        document_.global_palette->use_transparent = true;
+        document_.global_palette->transparent_index = block[4];
+    }
+    previous_disposal_ = current_disposal_;
+    current_disposal_ = std::min((block[1] >> 2) & 7, kDisposalBackground);
+    if (previous_disposal_ == -1) previous_disposal_ = current_disposal_;
+    frame->pause_length = kirto::ReadLittle16(block + 2);
+    frame->use_pause = frame->pause_length != 0;
+    return true;
+}
+
+bool GifLoad::ReadGifCommentBlock() {
+    kirto::DebugLine("GifLoad::ReadGifCommentBlock() - Found:\n");
+    for (;;) {
+        uint8 size = 0;
+        char text[256] = {};
+        if (!file_->ReadExactly(&size, 1) || !file_->ReadExactly(text, size)) return false;
+        if (size == 0) break;
+        kirto::DebugLine("%s", text);
+    }
+    kirto::DebugLine("\n");
+    return true;
+}
+
+bool GifLoad::ReadGifUnknownBlock(uint8 label) {
+    kirto::DebugLine("GifLoad::ReadGifUnknownBlock() - Found: %d\n", label);
+    return SkipSubBlocks();
+}
+
+bool GifLoad::SkipSubBlocks() {
+    uint8 size = 0;
+    do {
+        if (!file_->ReadExactly(&size, 1)) return false;
+        file_->Seek(size, SEEK_FROM_CURRENT);
+    } while (size != 0);
+    return true;
+}
+
+bool GifLoad::ReadGifImageHeader(Frame* frame, int32 relative, int32 absolute) {
+    uint8 header[9];
+    if (!file_->ReadExactly(header, sizeof(header))) return false;
+    frame->x_offset = kirto::ReadLittle16(header);
+    frame->y_offset = kirto::ReadLittle16(header + 2);
+    frame->width = kirto::ReadLittle16(header + 4);
+    frame->height = kirto::ReadLittle16(header + 6);
+    if (frame->width > document_.global_width || frame->height > document_.global_height) {
+        kirto::DebugLine(
+            "GifLoad::ReadGifImageHeader() - Local dimensions exceed global dimensions\n");
+        return false;
+    }
+    frame->local_palette = (header[8] & 0x80) != 0;
+    current_palette_ = frame->local_palette ? frame->palette.get() : document_.global_palette.get();
+    if (frame->local_palette && !ReadColorTable(current_palette_, (header[8] & 7) + 1)) {
+        return false;
+    }
+    interlaced_ = (header[8] & 0x40) != 0;
+    const BRect bounds = full_frame_
+                             ? BRect::OfSize(document_.global_width, document_.global_height)
+                             : BRect::OfSize(frame->width, frame->height);
+    frame->bitmap = std::make_shared<BBitmap>(bounds, B_RGB32, document_.pixel_budget);
+    if (frame->bitmap->InitCheck() != B_OK) return false;
+    return !full_frame_ || FrameDisposal(frame, relative, absolute);
+}
+
+bool GifLoad::ReadColorTable(Palette* palette, int32 bits) {
+    palette->mode = kirto::kPaletteFromFile;
+    palette->bits = bits;
+    palette->size = 1 << bits;
+    uint8 table[256 * 3];
+    const size_t count = static_cast<size_t>(palette->size);
+    if (!file_->ReadExactly(table, count * 3)) return false;
+    for (size_t i = 0; i < count; ++i) {
+        palette->colors[i] = {table[i * 3], table[i * 3 + 1], table[i * 3 + 2], 255};
+    }
+    return true;
+}
+
+// Starts a full-size frame from the picture before it, as that picture's disposal says.
+bool GifLoad::FrameDisposal(Frame* frame, int32 relative, int32 absolute) {
+    const bool covers_screen =
+        frame->width == document_.global_width && frame->height == document_.global_height;
+    if (relative == 0 || covers_screen) return true;
+    const kirto::ReaderScope reader(document_);
+    const Frame* previous = document_.FrameAt(absolute - 1);
+    if (!previous || !previous->bitmap || !IsLittleEndian32(*previous->bitmap)) return false;
+    if (!previous->bitmap->Bits() || !frame->bitmap->Bits()) return false;
+    std::memcpy(frame->bitmap->Bits(), previous->bitmap->Bits(),
+                std::min(frame->bitmap->BitsLength(), previous->bitmap->BitsLength()));
+    if (previous_disposal_ == -1) previous_disposal_ = 0;
+    if (previous_disposal_ == kDisposalBackground) {
+        // A frame decoded at full size claims the whole screen as its rectangle, so this clears
+        // the whole canvas, not only what the image before had drawn. Intended.
+        FillRows(*frame->bitmap, previous->y_offset, previous->y_offset + previous->height,
+                 previous->x_offset, previous->x_offset + previous->width,
+                 kirto::PixelOf(BackgroundColor()));
+    }
+    return true;
+}
+
+// Gives the file's first image, where it leaves part of the screen free, its background.
+bool GifLoad::FillBackground(Frame* frame) {
+    const bool covers_screen =
+        frame->width == document_.global_width && frame->height == document_.global_height;
+    if (covers_screen || previous_disposal_ != kDisposalBackground) return true;
+    if (!frame->bitmap->Bits()) return false;
+    FillRows(*frame->bitmap, 0, document_.global_height, 0, document_.global_width,
+             kirto::PixelOf(BackgroundColor()));
+    return true;
+}
+
+bool GifLoad::ReadGifImageData(Frame* frame, int32 relative) {
+    if (relative == 0 && full_frame_ && !FillBackground(frame)) return false;
+    int32 min_code_size = 0;
+    if (!ReadCodeSize(frame, &min_code_size)) return false;
+
+    kirto::GifPixelColors colors = kirto::PixelColorsOf(*current_palette_);
+    const Palette& global = *document_.global_palette;
+    if (global.use_transparent && global.transparent_index >= 0 && global.transparent_index < 256) {
+        if (full_frame_) {
+            colors.skipped_index = global.transparent_index;
+        } else {
+            const bool drawn = document_.prefs.thumbnail_drawtransparent;
+            colors.pixels[static_cast<size_t>(global.transparent_index)] =
+                kirto::PixelOf(drawn ? kDrawnTransparent : kPlainTransparent);
+        }
+    }
+    kirto::GifImageArea area{0, 0, frame->width, frame->height};
+    if (full_frame_) {
+        area.left = frame->x_offset;
+        area.top = frame->y_offset;
+    }
+    kirto::GifPixelWriter writer(*frame->bitmap, area, interlaced_, colors);
+    const auto decoder = std::make_unique<kirto::GifLzwDecoder>(*file_, min_code_size);
+    if (!decoder->Decode(writer)) return false;
+    if (full_frame_) {
+        frame->width = document_.global_width;
+        frame->height = document_.global_height;
+        frame->x_offset = 0;
+        frame->y_offset = 0;
+    }
+    return true;
+}
+
+// A code size above the palette's depth is allowed, one below it is not: deliberately lopsided. A
+// size of 1 always counts as 2, and a missing byte as 0.
+bool GifLoad::ReadCodeSize(Frame* frame, int32* min_code_size) {
+    const Palette* palette =
+        frame->local_palette ? frame->palette.get() : document_.global_palette.get();
+    const int32 expected = std::max(palette->bits, 2);
+    uint8 byte = 0;
+    file_->ReadExactly(&byte, 1);
+    const int32 actual = byte == 1 ? 2 : byte;
+    *min_code_size = actual;
+    if (actual < expected || actual > kirto::GifLzwDecoder::kMaxMinCodeSize) {
+        kirto::DebugLine(
+            "GifLoad::ReadGifImageData() - Code_size should be %d, but was in fact %d\n", expected,
+            byte);
+        return false;
+    }
+    if (actual > expected) {
+        kirto::DebugLine(
+            "GifLoad::ReadGifImageData() - Code_size should be %d, but was in fact %d, allowing "
+            "it\n",
+            expected, byte);
+    }
+    return true;
+}
+
+std::unique_ptr<Frame> GifLoad::NewFrame() const {
+    if (kirto::AllocationShouldFail()) return nullptr;
+    std::unique_ptr<Frame> frame(new (std::nothrow) Frame);
+    if (!frame || frame->init_failed) return nullptr;
+    frame->index = next_position_;
+    frame->SetName(kirto::Format("frame%04d", next_position_));
+    return frame;
+}
+
+rgb_color GifLoad::BackgroundColor() const {
+    return current_palette_->ColorForIndex(document_.global_palette->background_index);
+}

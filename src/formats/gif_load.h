@@ -6,8 +6,8 @@
 #include "platform/types.h"
 
 // Reads a GIF file (87a or 89a) into a document, one Frame an image. The construction does all the
-// work on the editing thread; each frame is inserted as soon as it is decoded and stays when a later
-// one fails. The methods stand in the order of the file; the layout is described in
+// work on the editing thread; each frame is inserted as soon as it is decoded and stays when a
+// later one fails. The methods stand in the order of the file; the layout is described in
 // docs/formats/gif.md.
 class GifLoad {
   public:
@@ -46,7 +46,7 @@ class GifLoad {
     const bool full_frame_;
     Palette* current_palette_ = nullptr;  // the frame's local one, else the document's; not owned
     bool interlaced_ = false;
-    int32 current_disposal_ = -1;   // -1: no control block seen yet
+    int32 current_disposal_ = -1;  // -1: no control block seen yet
     int32 previous_disposal_ = -1;
     std::unique_ptr<Frame> frame_;  // the frame being filled, not yet inserted
 };

@@ -1,0 +1,176 @@
+#include "formats/gif_save.h"
+
+#include <algorithm>
+#include <bit>
+#include <cmath>
+#include <cstring>
+#include <vector>
+
+#include "formats/gif_lzw_encoder.h"
+#include "formats/gif_row_order.h"
+#include "platform/byte_order.h"
+#include "platform/debug_line.h"
+#include "platform/text.h"
+
+namespace {
+
+constexpr char kComment[] = "Created by Kirto v1.4 by Morvik on BeOS";
+
+// The integer part of a delay in hundredths. A value a hair below a whole number counts as that
+// number, so that 0.29 seconds stays 29 through any number of saves.
+int32 WholeHundredths(double hundredths) {
+    constexpr double kTolerance = 1e-6;
+    constexpr double kLimit = 2e9;
+    if (std::isnan(hundredths)) return 0;
+    const double nearest = std::ceil(hundredths);
+    const double whole = nearest - hundredths < kTolerance ? nearest : std::trunc(hundredths);
+    return static_cast<int32>(std::clamp(whole, -kLimit, kLimit));
+}
+
+bool HasTransparentPixel(const Frame& frame) {
+    for (int32 y = 0; y < frame.height; ++y) {
+        for (int32 x = 0; x < frame.width; ++x) {
+            if (kirto::PixelColor(frame.bitmap.get(), x, y).alpha < 255) return true;
+        }
+    }
+    return false;
+}
+
+uint8 LowByte(int32 value) {
+    return static_cast<uint8>(value);
+}
+
+}  // namespace
+
+GifSave::GifSave(std::shared_ptr<BFile> file, AnimationDocument& document)
+    : file_(std::move(file)),
+      document_(document),
+      interlaced_(document.prefs.animation_gifinterlaced),
+      mapper_(LowByte(document.global_palette->transparent_index), document.global_palette->dither,
+              WidestFrame()) {
+    WriteGifHeader();
+    const int32 count = document_.FrameCount();
+    for (int32 i = 0; i < count; ++i) {
+        Frame* frame = document_.FrameAt(i);
+        if (!frame) {
+            kirto::DebugLine("GifSave::GifSave() - FrameAt() returned NULL\n");
+            break;
+        }
+        document_.PostStatus(kirto::Format("Status: writing frame %d of %d...", i + 1, count));
+        encoding_ = EncodingOf(*frame);
+        WriteGifControlBlock(frame);
+        WriteGifImageHeader(frame);
+        WriteGifImageData(frame);
+    }
+    file_->Write(";", 1);
+    file_->SetMimeType("image/gif");
+}
+
+void GifSave::WriteGifHeader() {
+    const Palette& palette = *document_.global_palette;
+    uint8 header[13] = {'G', 'I', 'F', '8', '9', 'a'};
+    kirto::WriteLittle16(header + 6, document_.global_width);
+    kirto::WriteLittle16(header + 8, document_.global_height);
+    // A global table, of the highest colour resolution, unsorted.
+    header[10] = LowByte((palette.bits - 1) | 0xF0);
+    header[11] = LowByte(palette.background_index);
+    file_->Write(header, sizeof(header));
+    WriteColorTable(palette, palette.bits);
+    if (document_.use_loop) {
+        uint8 loop[19] = {0x21, 0xFF, 0x0B, 'N', 'E', 'T', 'S', 'C', 'A', 'P',
+                          'E',  '2',  '.',  '0', 3,   1,   0,   0,   0};
+        kirto::WriteLittle16(loop + 16, document_.loop_count);
+        file_->Write(loop, sizeof(loop));
+    }
+    if (document_.prefs.animation_gifcomment) {
+        const uint8 start[3] = {0x21, 0xFE, LowByte(sizeof(kComment) - 1)};
+        file_->Write(start, sizeof(start));
+        // The text's own terminating zero ends the chain of sub-blocks.
+        file_->Write(kComment, sizeof(kComment));
+    }
+}
+
+void GifSave::WriteGifControlBlock(Frame* frame) {
+    const Palette& global = *document_.global_palette;
+    const int32 setting = document_.prefs.animation_gifdisposal;
+    const int32 disposal = setting >= 0 && setting <= 2 ? setting : 3;
+    uint8 block[8] = {0x21, 0xF9, 4};
+    block[3] = LowByte(disposal << 2);
+    kirto::WriteLittle16(block + 4, DelayOf(*frame));
+    if (global.use_transparent) {
+        block[3] |= 1;
+        block[6] = LowByte(global.transparent_index);
+    }
+    file_->Write(block, sizeof(block));
+}
+
+void GifSave::WriteGifImageHeader(Frame* frame) {
+    uint8 header[10] = {','};
+    kirto::WriteLittle16(header + 1, frame->x_offset);
+    kirto::WriteLittle16(header + 3, frame->y_offset);
+    kirto::WriteLittle16(header + 5, frame->width);
+    kirto::WriteLittle16(header + 7, frame->height);
+    if (encoding_.local_table) header[9] = LowByte((encoding_.bits - 1) | 0x80);
+    if (interlaced_) header[9] |= 0x40;
+    file_->Write(header, sizeof(header));
+    if (encoding_.local_table) WriteColorTable(*encoding_.palette, encoding_.bits);
+}
+
+void GifSave::WriteGifImageData(Frame* frame) {
+    mapper_.StartPicture(*encoding_.palette, interlaced_);
+    kirto::GifLzwEncoder encoder(*file_, std::max(encoding_.bits, 2));
+    std::vector<uint8> indices;
+    for (kirto::GifRowOrder rows(frame->height, interlaced_); !rows.Done(); rows.Next()) {
+        mapper_.MapRow(frame->bitmap.get(), rows.Row(), frame->width, &indices);
+        for (const uint8 index : indices)
+            encoder.Add(index);
+    }
+    encoder.Finish();
+}
+
+// The transparent index is the global palette's even in frames with a narrower palette of their
+// own. A frame that uses an index past its palette is written wider, with a table of its own.
+GifSave::Encoding GifSave::EncodingOf(const Frame& frame) const {
+    const Palette& global = *document_.global_palette;
+    Encoding encoding;
+    encoding.local_table = frame.local_palette;
+    encoding.palette = frame.local_palette ? frame.palette.get() : &global;
+    encoding.bits = encoding.palette->bits;
+    const uint32 transparent = LowByte(global.transparent_index);
+    const int32 needed = static_cast<int32>(std::bit_width(transparent));
+    if (needed > encoding.bits && HasTransparentPixel(frame)) {
+        encoding.bits = needed;
+        encoding.local_table = true;
+    }
+    return encoding;
+}
+
+// Hundredths of a second.
+int32 GifSave::DelayOf(const Frame& frame) const {
+    double pause = 0;
+    if (frame.use_pause) {
+        pause = frame.pause_length;
+    } else if (document_.use_pause_global) {
+        pause = document_.pause_length_global;
+    }
+    return WholeHundredths(document_.prefs.global_pauseinseconds ? pause * 100 : pause);
+}
+
+void GifSave::WriteColorTable(const Palette& palette, int32 bits) {
+    const size_t count = size_t{1} << bits;
+    std::vector<uint8> table;
+    table.reserve(count * 3);
+    for (size_t i = 0; i < count; ++i) {
+        const rgb_color color = palette.colors[i];
+        table.insert(table.end(), {color.red, color.green, color.blue});
+    }
+    file_->Write(table.data(), table.size());
+}
+
+int32 GifSave::WidestFrame() const {
+    int32 widest = document_.global_width;
+    for (const Frame* frame = document_.FirstFrame(); frame; frame = frame->next) {
+        widest = std::max(widest, frame->width);
+    }
+    return widest;
+}

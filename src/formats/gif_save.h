@@ -1,23 +1,21 @@
 #pragma once
 
 #include <memory>
-#include <vector>
 
 #include "color/palette.h"
-#include "color/sf_hash.h"
 #include "document/animation_document.h"
 #include "document/frame.h"
-#include "formats/error_diffusion.h"
-#include "formats/gif_lzw_encoder.h"
+#include "formats/pixel_mapper.h"
 #include "platform/file.h"
 #include "platform/types.h"
 
 // Writes a document as an animated GIF89a. The construction does all the work; the caller holds the
 // reader lock meanwhile. Write results are not checked here: the file remembers its first error.
+// The methods stand in the order of the file; the layout is described in docs/formats/gif.md.
 class GifSave {
   public:
-    // file: empty and writable; shared with the caller, who commits it. The loader's share ends with
-    // this object.
+    // file: empty and writable; this object's share of it ends with the object, the caller keeps
+    // one to commit it.
     GifSave(std::shared_ptr<BFile> file, AnimationDocument& document);
 
   private:
@@ -26,6 +24,20 @@ class GifSave {
     void WriteGifImageHeader(Frame* frame);
     void WriteGifImageData(Frame* frame);
 
+    // How one frame is written: settled once, used by its header and its data.
+    struct Encoding {
+        const Palette* palette = nullptr;  // the frame's local one, else the document's; not owned
+        int32 bits = 0;                    // of the colour table and of the codes
+        bool local_table = false;
+    };
+    Encoding EncodingOf(const Frame& frame) const;
+    int32 DelayOf(const Frame& frame) const;
+    void WriteColorTable(const Palette& palette, int32 bits);
+    int32 WidestFrame() const;
+
     std::shared_ptr<BFile> file_;
     AnimationDocument& document_;
+    const bool interlaced_;
+    kirto::PixelMapper mapper_;
+    Encoding encoding_;  // of the frame being written
 };

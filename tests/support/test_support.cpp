@@ -37,7 +37,8 @@ int32 AlertRecorder::Present(const BAlert& alert) {
     const std::lock_guard lock(mutex_);
     std::string line =
         std::string(kTypes[alert.Type()]) + " [" + alert.Title() + "] " + alert.Text();
-    for (const std::string& button : alert.Buttons()) line += " | " + button;
+    for (const std::string& button : alert.Buttons())
+        line += " | " + button;
     lines_.push_back(line);
     const size_t asked = lines_.size() - 1;
     return asked < answers_.size() ? answers_[asked]
@@ -96,8 +97,8 @@ std::vector<uint32> PixelsOf(const BBitmap& bitmap) {
 
 Frame* AppendFrame(AnimationDocument& document, std::shared_ptr<BBitmap> bitmap,
                    const std::string& name) {
-    auto frame = std::make_unique<Frame>(name, bitmap->Width(), bitmap->Height(),
-                                         document.FrameCount());
+    auto frame =
+        std::make_unique<Frame>(name, bitmap->Width(), bitmap->Height(), document.FrameCount());
     frame->palette->Set(bitmap.get());
     frame->bitmap = std::move(bitmap);
     Frame* inserted = frame.get();
@@ -123,12 +124,14 @@ std::vector<uint8> ReadBytes(const std::string& path) {
 
 void WriteBytes(const std::string& path, const std::vector<uint8>& bytes) {
     std::ofstream stream(path, std::ios::binary);
-    for (const uint8 byte : bytes) stream.put(static_cast<char>(byte));
+    for (const uint8 byte : bytes)
+        stream.put(static_cast<char>(byte));
 }
 
 std::string CodeText(uint32 code) {
     std::string text;
-    for (int shift = 24; shift >= 0; shift -= 8) text += static_cast<char>(code >> shift);
+    for (int shift = 24; shift >= 0; shift -= 8)
+        text += static_cast<char>(code >> shift);
     return text;
 }
 

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <array>
+#include <vector>
+
+#include "platform/types.h"
+
+namespace kirto {
+
+// Floyd-Steinberg error diffusion in 15-bit fixed point (weights 7, 3, 5 and 1 sixteenths) along
+// the rows of one picture after the other. After R. W. Floyd and L. Steinberg, "An adaptive
+// algorithm for spatial grey scale", 1976.
+class ErrorDiffusion {
+  public:
+    using Components = std::array<int32, 3>;  // red, green, blue
+
+    // max_width: pixels of the widest picture.
+    explicit ErrorDiffusion(int32 max_width);
+
+    // Before each picture: forgets all errors.
+    void StartPicture();
+    // At a row's first pixel: nothing is carried over from the row before.
+    void StartRow() { carried_ = {}; }
+    // Forgets the errors meant for the next row, where that row is no neighbour.
+    void ClearRows();
+
+    // The colour less the carried error, within 0..255.
+    Components Correct(const Components& color) const;
+    // Spreads the error of pixel x: its palette colour against its corrected colour.
+    void Diffuse(int32 x, const Components& chosen, const Components& corrected);
+
+  private:
+    Components carried_{};
+    // Per component, the errors for the next row, fixed point; entry 0 is column -1.
+    std::array<std::vector<int32>, 3> rows_;
+};
+
+}  // namespace kirto

@@ -1,0 +1,73 @@
+#include "formats/pixel_mapper.h"
+
+#include <new>
+
+namespace kirto {
+
+namespace {
+
+constexpr int32 kCacheBuckets = 65536;
+
+}  // namespace
+
+rgb_color PixelColor(const BBitmap* bitmap, int32 x, int32 y) {
+    if (!bitmap || !Is32Bit(bitmap->ColorSpace())) return {};
+    if (x >= bitmap->Width() || y >= bitmap->Height()) return {};
+    const uint8* pixel = bitmap->Row(y) + static_cast<size_t>(x) * 4;
+    if (IsBigEndian(bitmap->ColorSpace())) return {pixel[1], pixel[2], pixel[3], pixel[0]};
+    return {pixel[2], pixel[1], pixel[0], pixel[3]};
+}
+
+PixelMapper::PixelMapper(uint8 transparent_index, bool dither, int32 max_width)
+    : transparent_index_(transparent_index),
+      dither_(dither),
+      cache_(kCacheBuckets),
+      diffusion_(dither ? max_width : 0) {}
+
+void PixelMapper::StartPicture(const Palette& palette, bool unconnected_rows) {
+    palette_ = &palette;
+    diffusing_ = dither_ && palette.mode != kPaletteGreyscale;
+    unconnected_rows_ = unconnected_rows;
+    if (!cache_.fail) cache_.Reset();
+    if (diffusing_) diffusion_.StartPicture();
+}
+
+void PixelMapper::MapRow(const BBitmap* bitmap, int32 y, int32 width, std::vector<uint8>* indices) {
+    indices->resize(static_cast<size_t>(width));
+    if (diffusing_) diffusion_.StartRow();
+    for (int32 x = 0; x < width; ++x) {
+        // The last pixel's own error still goes into the rows, after the clearing.
+        if (diffusing_ && unconnected_rows_ && x == width - 1) diffusion_.ClearRows();
+        const rgb_color color = PixelColor(bitmap, x, y);
+        (*indices)[static_cast<size_t>(x)] =
+            color.alpha < 255 ? transparent_index_ : MapPixel(color, x);
+    }
+}
+
+uint8 PixelMapper::MapPixel(rgb_color color, int32 x) {
+    if (!diffusing_) return CachedIndex(color.red, color.green, color.blue);
+    const ErrorDiffusion::Components corrected =
+        diffusion_.Correct({color.red, color.green, color.blue});
+    const uint8 index =
+        CachedIndex(static_cast<uint8>(corrected[0]), static_cast<uint8>(corrected[1]),
+                    static_cast<uint8>(corrected[2]));
+    const rgb_color chosen = palette_->colors[index];
+    diffusion_.Diffuse(x, {chosen.red, chosen.green, chosen.blue}, corrected);
+    return index;
+}
+
+uint8 PixelMapper::CachedIndex(uint8 red, uint8 green, uint8 blue) {
+    if (cache_.fail) return palette_->IndexForColor(red, green, blue);
+    const uint32 key = ColorKey(red, green, blue);
+    if (const HashItem* item = cache_.GetItem(key)) {
+        return static_cast<uint8>(static_cast<const ColorItem*>(item)->value);
+    }
+    const uint8 index = palette_->IndexForColor(red, green, blue);
+    // Without memory for the cache the colour is looked up again next time.
+    if (!AllocationShouldFail()) {
+        if (HashItem* item = new (std::nothrow) ColorItem(key, index)) cache_.AddItem(item);
+    }
+    return index;
+}
+
+}  // namespace kirto
