@@ -31,12 +31,12 @@ enum PaletteMode : int32 {
 // who may touch it when.
 class Palette {
   public:
-    kirto::ColorTable colors{};             // every entry written by this class is opaque
+    kirto::ColorTable colors{};  // every entry written by this class is opaque
     const kirto::ColorTable* web_safe = &kirto::kWebSafeColors;
-    int32 mode = 0;                         // a kirto::PaletteMode
-    int32 size = 0;                         // entries in use, from index 0
-    int32 bits = 0;                         // index width, 1 to 8
-    int32 unique_colors = 0;                // distinct colours the last optimal build found
+    int32 mode = 0;           // a kirto::PaletteMode
+    int32 size = 0;           // entries in use, from index 0
+    int32 bits = 0;           // index width, 1 to 8
+    int32 unique_colors = 0;  // distinct colours the last optimal build found
     int32 background_index = 0;
     int32 transparent_index = 0;
     bool use_transparent = false;
@@ -71,9 +71,9 @@ class Palette {
     uint8 IndexForColor(rgb_color color) const;
     uint8 IndexForColor(uint8 red, uint8 green, uint8 blue) const;
 
-    // The picture's most frequent colours in falling order, 2^bits of them (opaque black where there
-    // are fewer); sets unique_colors, bits and size. Nothing on failure: out of memory (the user is
-    // told) or a picture that is not 32-bit.
+    // The picture's most frequent colours in falling order, 2^bits of them (opaque black where
+    // there are fewer); sets unique_colors, bits and size. Nothing on failure: out of memory (the
+    // user is told) or a picture that is not 32-bit.
     std::optional<std::vector<rgb_color>> MakeNearestColorPalette(const BBitmap* picture);
     // Each colour of the picture with its number of pixels, in 65,536 buckets; null on failure, as
     // above.
@@ -85,8 +85,8 @@ class Palette {
     // pictures and other kinds change nothing.
     void UpdateIfNeeded(const BBitmap* first_frame, const BBitmap* current_frame);
 
-    // Gives the palette kind 0, 1 or 2 when all 256 entries equal that built-in table; otherwise the
-    // kind stays. Nothing else changes.
+    // Gives the palette kind 0, 1 or 2 when all 256 entries equal that built-in table; otherwise
+    // the kind stays. Nothing else changes.
     void RecogniseBuiltIn();
 
   private:

@@ -5,11 +5,13 @@
 #include "platform/types.h"
 
 // A chained hash table of fixed size from 32-bit keys to items that it owns. The bucket of a key is
-// key mod bucket_count; it never grows and never removes single items. Iteration is in bucket order,
-// then in order of insertion, and callers rely on that order to break ties. Used by one thread.
+// key mod bucket_count; it never grows and never removes single items. Iteration is in bucket
+// order, then in order of insertion, and callers rely on that order to break ties. Used by one
+// thread.
 class SFHash {
   public:
-    bool fail = false;  // the bucket array could not be allocated; the table is unusable
+    // The bucket array could not be allocated, or no buckets were asked for: nothing can be kept.
+    bool fail = false;
     int32 bucket_count = 0;
     int32 iter_bucket = 0;  // the cursor's bucket
     int32 iter_depth = 0;   // the cursor's position in that bucket's chain
@@ -21,7 +23,8 @@ class SFHash {
     SFHash(const SFHash&) = delete;
     SFHash& operator=(const SFHash&) = delete;
 
-    // Takes ownership and appends the item to its chain; equal keys are kept side by side.
+    // Takes ownership and appends the item to its chain; equal keys are kept side by side. A table
+    // that failed deletes the item at once.
     void AddItem(HashItem* item);
     // The first item added with the key, or null.
     HashItem* GetItem(uint32 key) const;
@@ -36,6 +39,8 @@ class SFHash {
     void Reset();
 
   private:
+    // The head of a bucket's chain, and of the chain that the key belongs to.
+    HashItem*& Bucket(int32 index) const { return buckets_[static_cast<size_t>(index)]; }
     HashItem*& Chain(uint32 key) const { return buckets_[key % static_cast<uint32>(bucket_count)]; }
 
     kirto::AllocatedArray<HashItem*> buckets_;
