@@ -1,0 +1,146 @@
+// Holds the sources against the table of layers in ARCHITECTURE.md.
+#include <gtest/gtest.h>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "house/source_tree.h"
+
+namespace kirto::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+struct Layer {
+    std::string folder;
+    std::string library;            // empty for the programs
+    std::set<std::string> allowed;  // folders that may be included, besides its own
+};
+
+std::vector<std::string> CodeWords(const std::string& cell) {
+    return AllMatches(cell, "`([^`]+)`");
+}
+
+// The rows "| `folder` | `library` | `folder`, `folder` |", from the top.
+std::vector<Layer> ReadLayers() {
+    std::vector<Layer> layers;
+    bool inside = false;
+    for (const std::string& line : LinesOf(ProjectRoot() / "ARCHITECTURE.md")) {
+        const std::vector<std::string> cells = AllMatches(line, "\\|([^|]*)(?=\\|)");
+        const bool is_row = cells.size() == 3;
+        if (is_row && cells[0] == " Folder ") inside = true;
+        if (!is_row) inside = false;
+        if (!inside || CodeWords(cells[0]).size() != 1) continue;
+        const std::vector<std::string> library = CodeWords(cells[1]);
+        const std::vector<std::string> allowed = CodeWords(cells[2]);
+        layers.push_back({CodeWords(cells[0])[0],
+                          library.empty() ? "" : library[0],
+                          {allowed.begin(), allowed.end()}});
+    }
+    return layers;
+}
+
+// The row of a folder, or null.
+const Layer* RowOf(const std::string& folder, const std::vector<Layer>& layers) {
+    for (const Layer& layer : layers) {
+        if (layer.folder == folder) return &layer;
+    }
+    return nullptr;
+}
+
+// The row of the innermost folder that a path lies in, or null.
+const Layer* LayerOf(const fs::path& path, const std::vector<Layer>& layers) {
+    for (fs::path folder = path.parent_path(); !folder.empty(); folder = folder.parent_path()) {
+        if (const Layer* layer = RowOf(folder.string(), layers)) return layer;
+    }
+    return nullptr;
+}
+
+std::vector<fs::path> Sources() {
+    return FilesBelow("src", {".h", ".cpp"});
+}
+
+std::vector<std::string> IncludesOf(const fs::path& source) {
+    return AllMatches(ReadText(ProjectRoot() / "src" / source), "(?:^|\n)#include \"([^\"\n]+)\"");
+}
+
+TEST(Layers, EveryFolderOfTheSourcesHasARow) {
+    const std::vector<Layer> layers = ReadLayers();
+    for (const fs::path& source : Sources()) {
+        EXPECT_NE(LayerOf(source, layers), nullptr) << "src/" << source.string();
+    }
+}
+
+TEST(Layers, EveryRowIsAFolderOfTheSources) {
+    for (const Layer& layer : ReadLayers()) {
+        EXPECT_TRUE(fs::is_directory(ProjectRoot() / "src" / layer.folder)) << layer.folder;
+    }
+}
+
+TEST(Layers, ARowAllowsOnlyFoldersOfTheRowsAboveIt) {
+    std::set<std::string> above;
+    for (const Layer& layer : ReadLayers()) {
+        for (const std::string& allowed : layer.allowed) {
+            EXPECT_EQ(above.count(allowed), 1u) << layer.folder << " and " << allowed;
+        }
+        EXPECT_TRUE(above.insert(layer.folder).second) << layer.folder << " has two rows";
+    }
+}
+
+TEST(Layers, AFolderIncludesOnlyItselfAndWhatItsRowAllows) {
+    const std::vector<Layer> layers = ReadLayers();
+    size_t checked = 0;
+    for (const fs::path& source : Sources()) {
+        const Layer* layer = LayerOf(source, layers);
+        ASSERT_NE(layer, nullptr) << source;
+        for (const std::string& include : IncludesOf(source)) {
+            const Layer* target = LayerOf(include, layers);
+            const bool allowed =
+                target && (target == layer || layer->allowed.count(target->folder) > 0);
+            EXPECT_TRUE(allowed) << "src/" << source.string() << " includes \"" << include << '"';
+            ++checked;
+        }
+    }
+    EXPECT_GT(checked, 0u);
+}
+
+TEST(Layers, IncludesInQuotesNameFilesFromTheRootOfTheSources) {
+    for (const fs::path& source : Sources()) {
+        for (const std::string& include : IncludesOf(source)) {
+            EXPECT_TRUE(fs::is_regular_file(ProjectRoot() / "src" / include))
+                << "src/" << source.string() << " includes \"" << include << '"';
+        }
+    }
+}
+
+TEST(Layers, LibrariesAreLinkedOnlyToThoseThatTheirFolderMayInclude) {
+    const std::vector<Layer> layers = ReadLayers();
+    for (const Layer& layer : layers) {
+        if (layer.library.empty()) continue;
+        const std::string text = ReadText(ProjectRoot() / "src" / layer.folder / "CMakeLists.txt");
+        EXPECT_EQ(AllMatches(text, "kirto_library\\((\\w+)"), std::vector{layer.library});
+        std::set<std::string> allowed;
+        for (const std::string& folder : layer.allowed) {
+            if (const Layer* below = RowOf(folder, layers)) allowed.insert(below->library);
+        }
+        for (const std::string& depends : AllMatches(text, "DEPENDS([^)]*)\\)")) {
+            for (const std::string& library : AllMatches(depends, "(\\w+)")) {
+                EXPECT_EQ(allowed.count(library), 1u) << layer.library << " uses " << library;
+            }
+        }
+    }
+}
+
+TEST(Layers, OnlyTheFarSideOfTheKitAndTheWindowsSeeQt) {
+    for (const fs::path& source : Sources()) {
+        const std::string text = ReadText(ProjectRoot() / "src" / source);
+        const bool sees_qt = !AllMatches(text, "(?:^|\n)#include <(Q[A-Zt][^>\n]*)>").empty();
+        const std::string path = source.string();
+        const bool may_see_qt = path.starts_with("platform/qt/") || path.starts_with("ui/") ||
+                                path.starts_with("main/");
+        EXPECT_TRUE(may_see_qt || !sees_qt) << "src/" << path << " includes Qt";
+    }
+}
+
+}  // namespace
+}  // namespace kirto::test
