@@ -1,0 +1,103 @@
+#include "main/cli/cli_arguments.h"
+
+#include <CLI/CLI.hpp>
+#include <map>
+
+namespace kirto {
+
+namespace {
+
+struct OptionText {
+    const char* name;
+    const char* value;  // what the value stands for; null for an option without one
+    const char* help;
+};
+
+constexpr OptionText kOperations[] = {
+    {"--set", "KEY=VALUE", "Set a setting for this run, from here on"},
+    {"--open", "FILE", "Open a GIF, FLI or FLC animation in place of the current one"},
+    {"--insert-animation", "FILE@N", "Insert an animation's frames so that the first is frame N"},
+    {"--select", "N", "Make frame N the current one (the first is 0)"},
+    {"--remove", nullptr, "Remove the current frame"},
+    {"--move-up", nullptr, "Move the current frame one place towards the start"},
+    {"--move-down", nullptr, "Move the current frame one place towards the end"},
+    {"--reverse", nullptr, "Reverse the order of all frames"},
+    {"--width", "N", "Set the animation's width in pixels"},
+    {"--height", "N", "Set the animation's height in pixels"},
+    {"--loop", "N|off", "Play N times (0: for ever), or once"},
+    {"--pause", "X|off", "Set the pause of frames without one of their own"},
+    {"--palette", "web-safe|system|greyscale|first-frame|current-frame|FILE",
+     "Choose the animation's palette"},
+    {"--dither", "on|off", "Dither when colours are mapped to a palette"},
+    {"--transparent", "N|off", "Set the transparent colour's index"},
+    {"--background", "N", "Set the background colour's index"},
+    {"--frame-offset", "X,Y", "Place the current frame on the canvas"},
+    {"--frame-pause", "X|off", "Give the current frame its own pause"},
+    {"--frame-palette", "off|web-safe|system|greyscale|optimal|FILE",
+     "Give the current frame its own palette"},
+    {"--save", "FILE.gif", "Save as an animated GIF"},
+    {"--info", nullptr, "Print what the animation is made of"},
+    {"--info-json", nullptr, "Print the same as one JSON object"},
+};
+
+constexpr const char* kFooter =
+    "\nOptions are carried out in the order given, on one animation. Pauses are in hundredths of "
+    "a\n"
+    "second, or in seconds after --set global_pauseinseconds=true.\n"
+    "Exit status: 0 done, 1 failed, 2 wrong usage.\n";
+
+std::vector<CliOperation> InOrder(const CLI::App& app) {
+    std::vector<CliOperation> operations;
+    std::map<const CLI::Option*, size_t> used;
+    for (const CLI::Option* option : app.parse_order()) {
+        if (option->get_group() != "Operations") continue;
+        const bool has_value = option->get_expected_max() > 0;
+        operations.push_back(
+            {option->get_name(), has_value ? option->results()[used[option]++] : std::string()});
+    }
+    return operations;
+}
+
+}  // namespace
+
+std::optional<int> ParseArguments(int argc, const char* const* argv, CliArguments* arguments) {
+    CLI::App app("Edits frame animations from the command line.", "kirto-cli");
+    app.footer(kFooter);
+    app.set_version_flag("--version", "kirto-cli " KIRTO_VERSION, "Print the version");
+    app.set_help_flag("--help", "Print this help");
+    app.get_formatter()->column_width(36);
+    for (const OptionText& text : kOperations) {
+        if (text.value) {
+            app.add_option(text.name, text.help)
+                ->type_name(text.value)
+                ->expected(1)
+                ->take_all()
+                ->allow_extra_args(false)
+                ->group("Operations");
+        } else {
+            app.add_flag(text.name)->description(text.help)->group("Operations");
+        }
+    }
+    app.add_flag("--salvage", arguments->salvage,
+                 "Keep the frames before the damage when an animation is damaged");
+    app.add_flag("--quiet", arguments->quiet, "Show no progress and no debug lines");
+    uint64 mebibytes = 0;
+    const CLI::Option* limit =
+        app.add_option("--memory-limit", mebibytes, "Let frames take this much memory")
+            ->type_name("MIB")
+            ->check(CLI::Range(uint64{1}, uint64{1} << 30));
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+        return app.exit(error) == 0 ? kExitDone : kExitUsage;
+    }
+    arguments->operations = InOrder(app);
+    if (limit->count() > 0) arguments->memory_limit = mebibytes << 20;
+    if (arguments->operations.empty()) {
+        std::cerr << app.help();
+        return kExitUsage;
+    }
+    return std::nullopt;
+}
+
+}  // namespace kirto
