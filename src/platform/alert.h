@@ -27,8 +27,9 @@ class AlertPresenter {
     virtual int32 Present(const BAlert& alert) = 0;
 };
 
-// Installs the presenter (not owned; null for none) and returns the one before. Without a presenter
-// an alert is answered with its last button.
+// Installs the presenter (not owned; null for none) and returns the one before, which may be
+// destroyed once no alert of its is up. Without a presenter an alert is answered with its last
+// button. Callable from any thread.
 AlertPresenter* InstallAlertPresenter(AlertPresenter* presenter);
 
 }  // namespace kirto

@@ -4,6 +4,7 @@
 
 #include <cstdlib>
 #include <memory>
+#include <type_traits>
 
 #include "platform/types.h"
 
@@ -20,14 +21,15 @@ using AllocatedArray = std::unique_ptr<T[], FreeDeleter>;
 // installed fault says so. Thread-safe.
 void* AllocateZeroed(size_t count, size_t size);
 
-// As AllocateZeroed, typed; T must be trivial and all-zero bytes a valid value.
+// As AllocateZeroed, typed; all-zero bytes must be a valid T.
 template <typename T>
 AllocatedArray<T> AllocateArray(size_t count) {
+    static_assert(std::is_trivially_copyable_v<T> && std::is_trivially_destructible_v<T>);
     return AllocatedArray<T>(static_cast<T*>(AllocateZeroed(count, sizeof(T))));
 }
 
-// True when an installed fault makes this allocation fail. Called by AllocateZeroed, and directly by
-// code that allocates single objects and must report failure.
+// True when an installed fault makes this allocation fail. Called by AllocateZeroed, and directly
+// by code that allocates single objects and must report failure.
 bool AllocationShouldFail();
 
 // While alive, makes the n-th allocation (1-based) of the calling thread and all later ones fail.

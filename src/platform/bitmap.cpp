@@ -1,5 +1,7 @@
 #include "platform/bitmap.h"
 
+#include <utility>
+
 namespace {
 
 // Bytes a row; rows of the narrower spaces are padded to whole 32-bit words.
@@ -10,13 +12,19 @@ size_t RowBytes(color_space space, int32 width) {
         case B_RGB32:
         case B_RGBA32:
         case B_RGB32_BIG:
-        case B_RGBA32_BIG: return pixels * 4;
-        case B_RGB24: return padded(pixels * 3);
-        case B_RGB16: return padded(pixels * 2);
+        case B_RGBA32_BIG:
+            return pixels * 4;
+        case B_RGB24:
+            return padded(pixels * 3);
+        case B_RGB16:
+            return padded(pixels * 2);
         case B_CMAP8:
-        case B_GRAY8: return padded(pixels);
-        case B_GRAY1: return padded((pixels + 7) / 8);
-        case B_NO_COLOR_SPACE: break;
+        case B_GRAY8:
+            return padded(pixels);
+        case B_GRAY1:
+            return padded((pixels + 7) / 8);
+        case B_NO_COLOR_SPACE:
+            break;
     }
     return 0;
 }
@@ -28,10 +36,9 @@ BBitmap::BBitmap(BRect bounds, color_space space, std::shared_ptr<kirto::PixelBu
     if (!bounds.IsValid()) return;
     width_ = bounds.PixelWidth();
     height_ = bounds.PixelHeight();
-    // Both factors fit 33 bits, so the product can't pass 64.
     bytes_per_row_ = RowBytes(space, width_);
-    if (bytes_per_row_ == 0 || height_ == 0) return;
-    if (bytes_per_row_ > SIZE_MAX / static_cast<size_t>(height_)) return;
+    if (bytes_per_row_ == 0 || bytes_per_row_ > INT32_MAX || height_ == 0) return;
+    // Both factors are below 2^31.
     const size_t bytes = bytes_per_row_ * static_cast<size_t>(height_);
     if (budget_ && !budget_->Reserve(bytes)) return;
     bits_ = kirto::AllocateArray<uint8>(bytes);

@@ -11,8 +11,9 @@
 // thread; whoever shares it (frames share theirs) treats the pixels as read-only.
 class BBitmap {
   public:
-    // Bounds that cover no pixel, sizes past int32 arithmetic, a reservation that the budget refuses
-    // and failed allocations all give a bitmap without bits. No budget: nothing is counted.
+    // Bounds that cover no pixel, a side or a row of bytes past int32, a reservation that the
+    // budget refuses and failed allocations all give a bitmap without bits. No budget: nothing is
+    // counted.
     BBitmap(BRect bounds, color_space space, std::shared_ptr<kirto::PixelBudget> budget = nullptr);
     ~BBitmap();
     BBitmap(const BBitmap&) = delete;

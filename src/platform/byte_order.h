@@ -10,8 +10,8 @@ inline uint16 ReadLittle16(const uint8* bytes) {
 }
 
 inline uint32 ReadLittle32(const uint8* bytes) {
-    return static_cast<uint32>(ReadLittle16(bytes)) |
-           static_cast<uint32>(ReadLittle16(bytes + 2)) << 16;
+    const uint32 high = ReadLittle16(bytes + 2);
+    return high << 16 | ReadLittle16(bytes);
 }
 
 // Stores the low 16 bits.

@@ -30,6 +30,19 @@ class ByteReader {
         return value;
     }
     int16 S16() { return static_cast<int16>(U16()); }
+    uint32 U32() {
+        if (!Need(4)) return 0;
+        const uint32 value = ReadLittle32(&bytes_[position_]);
+        position_ += 4;
+        return value;
+    }
+    // The next count bytes where they lie in the buffer; empty when there are fewer.
+    std::span<const uint8> Bytes(size_t count) {
+        if (!Need(count)) return {};
+        const std::span<const uint8> bytes = bytes_.subspan(position_, count);
+        position_ += count;
+        return bytes;
+    }
 
   private:
     bool Need(size_t count) {

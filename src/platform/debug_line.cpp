@@ -3,6 +3,7 @@
 #include <cstdarg>
 #include <cstdio>
 #include <mutex>
+#include <utility>
 
 #include "platform/text.h"
 
@@ -10,14 +11,15 @@ namespace kirto {
 
 namespace {
 
-std::mutex& SinkMutex() {
-    static std::mutex mutex;
-    return mutex;
-}
+struct Output {
+    std::mutex mutex;
+    DebugSink sink;
+};
 
-DebugSink& Sink() {
-    static DebugSink sink;
-    return sink;
+// Never destroyed: threads and objects with static storage may print until the very end.
+Output& TheOutput() {
+    static Output& output = *new Output;
+    return output;
 }
 
 }  // namespace
@@ -27,18 +29,19 @@ void DebugLine(const char* format, ...) {
     va_start(arguments, format);
     const std::string text = FormatV(format, arguments);
     va_end(arguments);
-    const std::lock_guard lock(SinkMutex());
-    if (Sink()) {
-        Sink()(text);
+    Output& output = TheOutput();
+    const std::lock_guard lock(output.mutex);
+    if (output.sink) {
+        output.sink(text);
     } else {
         std::fwrite(text.data(), 1, text.size(), stdout);
     }
 }
 
 DebugSink InstallDebugSink(DebugSink sink) {
-    const std::lock_guard lock(SinkMutex());
-    std::swap(Sink(), sink);
-    return sink;
+    Output& output = TheOutput();
+    const std::lock_guard lock(output.mutex);
+    return std::exchange(output.sink, std::move(sink));
 }
 
 }  // namespace kirto

@@ -11,6 +11,7 @@ namespace kirto {
 // Thread-safe.
 [[gnu::format(printf, 1, 2)]] void DebugLine(const char* format, ...);
 
+// Called by one thread at a time; must not itself print debug lines.
 using DebugSink = std::function<void(const std::string& text)>;
 
 // Installs where debug lines go and returns what was installed before. An empty sink means standard

@@ -1,12 +1,26 @@
 #include "platform/entry_ref.h"
 
-#include <filesystem>
+#include <string_view>
+
+namespace {
+
+// Without the slashes at its end; "/" alone stays.
+std::string_view WithoutClosingSlashes(std::string_view path) {
+    while (path.size() > 1 && path.back() == '/')
+        path.remove_suffix(1);
+    return path;
+}
+
+}  // namespace
 
 std::string entry_ref::Leaf() const {
-    return std::filesystem::path(path).filename().string();
+    const std::string_view entry = WithoutClosingSlashes(path);
+    return std::string(entry.substr(entry.rfind('/') + 1));
 }
 
 std::string entry_ref::Directory() const {
-    const std::string parent = std::filesystem::path(path).parent_path().string();
-    return parent.empty() ? "." : parent;
+    const std::string_view entry = WithoutClosingSlashes(path);
+    const size_t slash = entry.rfind('/');
+    if (slash == std::string_view::npos) return ".";
+    return std::string(WithoutClosingSlashes(entry.substr(0, slash + 1)));
 }

@@ -1,84 +1,122 @@
 #include "platform/file.h"
 
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
 #include <fcntl.h>
+#include <filesystem>
+#include <limits>
+#include <new>
+#include <sys/random.h>
 #include <sys/stat.h>
 #include <sys/xattr.h>
 #include <unistd.h>
 
-#include <algorithm>
-#include <cerrno>
-#include <cstdio>
-#include <cstdlib>
-#include <cstring>
-#include <filesystem>
+#include "platform/text.h"
 
 namespace {
 
 constexpr size_t kBufferSize = 64 * 1024;
+constexpr int64 kMaxPosition = std::numeric_limits<int64>::max();
+// Bytes in memory end here; more can only be a mistake.
+constexpr int64 kMaxMemory = int64{1} << 31;
+constexpr int kMaxLinks = 40;
+constexpr int kMaxNameAttempts = 100;
 
 status_t StatusFromErrno(int error) {
     switch (error) {
         case ENOENT:
-        case ENOTDIR: return B_ENTRY_NOT_FOUND;
+        case ENOTDIR:
+            return B_ENTRY_NOT_FOUND;
         case EACCES:
         case EPERM:
         case EROFS:
         case EISDIR:
-        case ELOOP: return B_NOT_ALLOWED;
-        case ENOMEM: return B_NO_MEMORY;
-        default: return B_IO_ERROR;
+        case ELOOP:
+        case ENXIO:
+            return B_NOT_ALLOWED;
+        case ENAMETOOLONG:
+            return B_BAD_VALUE;
+        case ENOMEM:
+            return B_NO_MEMORY;
+        default:
+            return B_IO_ERROR;
     }
 }
 
-bool WriteAll(int descriptor, const uint8* bytes, size_t size) {
-    while (size > 0) {
-        const ssize_t written = write(descriptor, bytes, size);
+status_t WriteAll(int descriptor, const std::vector<uint8>& bytes, int64 offset) {
+    size_t done = 0;
+    while (done < bytes.size()) {
+        const ssize_t written = pwrite(descriptor, bytes.data() + done, bytes.size() - done,
+                                       offset + static_cast<int64>(done));
         if (written < 0 && errno == EINTR) continue;
-        if (written <= 0) return false;
-        bytes += written;
-        size -= static_cast<size_t>(written);
+        if (written < 0) return StatusFromErrno(errno);
+        if (written == 0) return B_IO_ERROR;
+        done += static_cast<size_t>(written);
     }
-    return true;
+    return B_OK;
 }
 
-// The path with every symbolic link followed, also when the last component does not exist yet;
-// empty when the links run in a circle.
+// The path with every symbolic link in its last component followed, also when what it leads to does
+// not exist yet; empty when the links run in a circle.
 std::string ResolveLinks(const std::string& path) {
     std::filesystem::path current(path);
     std::error_code error;
-    for (int links = 0; links < 40; ++links) {
+    for (int links = 0; links < kMaxLinks; ++links) {
         if (!std::filesystem::is_symlink(std::filesystem::symlink_status(current, error))) {
             return current.string();
         }
         const std::filesystem::path link = std::filesystem::read_symlink(current, error);
         if (error) return {};
-        current = link.is_absolute() ? link : current.parent_path() / link;
+        // An absolute link replaces the folder.
+        current = current.parent_path() / link;
     }
     return {};
 }
 
-bool SyncDirectoryOf(const std::string& path) {
-    std::string directory = std::filesystem::path(path).parent_path().string();
-    if (directory.empty()) directory = ".";
-    const int descriptor = open(directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (descriptor < 0) return false;
-    const bool synced = fsync(descriptor) == 0;
+// Whether a file may be written in place of what is there. B_ENTRY_NOT_FOUND when nothing is there.
+status_t CheckTarget(int directory, const std::string& name, struct stat* info) {
+    if (fstatat(directory, name.c_str(), info, 0) != 0) return StatusFromErrno(errno);
+    if (!S_ISREG(info->st_mode)) return B_NOT_ALLOWED;
+    // A target that its owner made read-only is not replaced behind the owner's back.
+    const bool writable = faccessat(directory, name.c_str(), W_OK, AT_EACCESS) == 0;
+    return writable ? B_OK : StatusFromErrno(errno);
+}
+
+// Creates a file of a free name in the directory. Returns its descriptor, or -1 with errno set.
+int CreateUnique(int directory, mode_t mode, std::string* name) {
+    for (int attempt = 0; attempt < kMaxNameAttempts; ++attempt) {
+        unsigned long long number = 0;
+        if (getrandom(&number, sizeof(number), 0) != sizeof(number)) return -1;
+        *name = kirto::Format(".kirto-%016llx", number);
+        const int descriptor =
+            openat(directory, name->c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, mode);
+        if (descriptor >= 0 || errno != EEXIST) return descriptor;
+    }
+    return -1;
+}
+
+// As good as the file system allows: there are some that can't sync a directory.
+void SyncDirectory(int directory) {
+    const int descriptor = openat(directory, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (descriptor < 0) return;
+    fsync(descriptor);
     close(descriptor);
-    return synced;
 }
 
 }  // namespace
 
 BFile::BFile(const std::string& path, open_mode) : path_(path) {
     // O_NONBLOCK keeps the open of a pipe from waiting for a writer; regular files ignore it.
-    descriptor_ = open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    descriptor_ = open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
     if (descriptor_ < 0) {
         status_ = StatusFromErrno(errno);
         return;
     }
     struct stat info;
     if (fstat(descriptor_, &info) != 0) {
-        status_ = B_IO_ERROR;
+        status_ = StatusFromErrno(errno);
     } else if (!S_ISREG(info.st_mode)) {
         status_ = B_NOT_ALLOWED;
     } else {
@@ -90,13 +128,14 @@ BFile::BFile(const std::string& path, open_mode) : path_(path) {
 BFile::~BFile() {
     DiscardTemporary();
     if (descriptor_ >= 0) close(descriptor_);
+    if (directory_ >= 0) close(directory_);
 }
 
 std::unique_ptr<BFile> BFile::CreateReplacing(const std::string& path) {
     std::unique_ptr<BFile> file(new BFile);
     file->path_ = path;
-    file->target_ = ResolveLinks(path);
-    file->OpenTemporary();
+    file->status_ = file->OpenTemporary();
+    if (file->status_ != B_OK) file->DiscardTemporary();
     return file;
 }
 
@@ -107,40 +146,29 @@ std::unique_ptr<BFile> BFile::OnMemory(std::vector<uint8> bytes) {
     return file;
 }
 
-void BFile::OpenTemporary() {
-    if (target_.empty()) {
-        status_ = B_NOT_ALLOWED;
-        return;
-    }
+status_t BFile::OpenTemporary() {
+    if (path_.empty()) return B_ENTRY_NOT_FOUND;
+    const std::filesystem::path target = ResolveLinks(path_);
+    if (target.empty()) return B_NOT_ALLOWED;
+    const std::string folder = target.has_parent_path() ? target.parent_path().string() : ".";
+    // All further steps go through this descriptor, so that they happen in one and the same
+    // directory whatever becomes of the names that lead to it.
+    directory_ = open(folder.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC);
+    if (directory_ < 0) return StatusFromErrno(errno);
+    // A path that ends in a slash asks for a folder.
+    target_ = target.has_filename() ? target.filename().string() : ".";
     struct stat info;
-    const bool exists = stat(target_.c_str(), &info) == 0;
-    if (exists && !S_ISREG(info.st_mode)) {
-        status_ = B_NOT_ALLOWED;
-        return;
+    const status_t found = CheckTarget(directory_, target_, &info);
+    if (found == B_ENTRY_NOT_FOUND) {
+        descriptor_ = CreateUnique(directory_, 0666, &temporary_);
+        return descriptor_ >= 0 ? B_OK : StatusFromErrno(errno);
     }
-    // A target that its owner made read-only is not replaced behind the owner's back.
-    if (exists && access(target_.c_str(), W_OK) != 0) {
-        status_ = StatusFromErrno(errno);
-        return;
-    }
-    const std::filesystem::path target(target_);
-    std::string name = (target.parent_path() / ".kirto-XXXXXX").string();
-    descriptor_ = mkostemp(name.data(), O_CLOEXEC);
-    if (descriptor_ < 0) {
-        status_ = StatusFromErrno(errno);
-        return;
-    }
-    temporary_ = name;
-    mode_t mode = 0666;
-    if (exists) {
-        mode = info.st_mode & 07777;
-    } else {
-        const mode_t mask = umask(0);
-        umask(mask);
-        mode &= ~mask;
-    }
-    status_ = fchmod(descriptor_, mode) == 0 ? B_OK : StatusFromErrno(errno);
-    if (status_ != B_OK) DiscardTemporary();
+    if (found != B_OK) return found;
+    descriptor_ = CreateUnique(directory_, 0600, &temporary_);
+    if (descriptor_ < 0) return StatusFromErrno(errno);
+    // The owner stays only if the process may give files away; the permissions stay either way.
+    [[maybe_unused]] const int ignored = fchown(descriptor_, info.st_uid, info.st_gid);
+    return fchmod(descriptor_, info.st_mode & 0777) == 0 ? B_OK : StatusFromErrno(errno);
 }
 
 int64 BFile::Size() const {
@@ -149,16 +177,22 @@ int64 BFile::Size() const {
     return std::max(size_, buffer_start_ + static_cast<int64>(buffer_.size()));
 }
 
-bool BFile::FillBuffer() {
-    if (FlushBuffer() != B_OK) return false;
-    buffer_.resize(kBufferSize);
+status_t BFile::FillBuffer() {
+    const status_t flushed = FlushBuffer();
+    buffer_.clear();
     buffer_start_ = position_;
+    // No file reaches so far, and the end of the window must stay a number.
+    if (flushed != B_OK || position_ > kMaxPosition - static_cast<int64>(kBufferSize)) {
+        return flushed;
+    }
+    buffer_.resize(kBufferSize);
     ssize_t count = 0;
     do {
         count = pread(descriptor_, buffer_.data(), buffer_.size(), position_);
     } while (count < 0 && errno == EINTR);
+    const status_t status = count < 0 ? StatusFromErrno(errno) : B_OK;
     buffer_.resize(static_cast<size_t>(std::max<ssize_t>(count, 0)));
-    return count >= 0;
+    return status;
 }
 
 int64 BFile::Read(void* buffer, size_t size) {
@@ -168,9 +202,9 @@ int64 BFile::Read(void* buffer, size_t size) {
         const int64 buffer_end = buffer_start_ + static_cast<int64>(buffer_.size());
         if (position_ < buffer_start_ || position_ >= buffer_end) {
             if (descriptor_ < 0) break;
-            if (!FillBuffer()) return B_IO_ERROR;
+            const status_t status = FillBuffer();
+            if (status != B_OK && done == 0) return status;
             if (buffer_.empty()) break;
-            continue;
         }
         const size_t offset = static_cast<size_t>(position_ - buffer_start_);
         const size_t step = std::min(size - done, buffer_.size() - offset);
@@ -187,8 +221,25 @@ bool BFile::ReadExactly(void* buffer, size_t size) {
 
 int64 BFile::Write(const void* buffer, size_t size) {
     if (status_ != B_OK) return status_;
+    if (write_status_ == B_OK) write_status_ = PrepareWrite(size);
     if (write_status_ != B_OK) return write_status_;
-    if (descriptor_ >= 0 && temporary_.empty()) return write_status_ = B_NOT_ALLOWED;
+    if (size > 0) {
+        const size_t offset = static_cast<size_t>(position_ - buffer_start_);
+        std::memcpy(buffer_.data() + offset, buffer, size);
+        position_ += static_cast<int64>(size);
+        buffer_dirty_ = descriptor_ >= 0;
+    }
+    if (buffer_dirty_ && buffer_.size() >= kBufferSize && FlushBuffer() != B_OK) {
+        return write_status_;
+    }
+    return static_cast<int64>(size);
+}
+
+// Makes the buffer reach from the position over size bytes.
+status_t BFile::PrepareWrite(size_t size) {
+    if (descriptor_ >= 0 && temporary_.empty()) return B_NOT_ALLOWED;
+    const int64 limit = descriptor_ >= 0 ? kMaxPosition : kMaxMemory;
+    if (position_ > limit || size > static_cast<size_t>(limit - position_)) return B_NO_MEMORY;
     const int64 buffer_end = buffer_start_ + static_cast<int64>(buffer_.size());
     const bool continues = position_ >= buffer_start_ && position_ <= buffer_end;
     if (descriptor_ >= 0 && (!continues || !buffer_dirty_)) {
@@ -196,26 +247,22 @@ int64 BFile::Write(const void* buffer, size_t size) {
         buffer_.clear();
         buffer_start_ = position_;
     }
-    const size_t offset = static_cast<size_t>(position_ - buffer_start_);
-    if (buffer_.size() < offset + size) buffer_.resize(offset + size);
-    std::memcpy(buffer_.data() + offset, buffer, size);
-    position_ += static_cast<int64>(size);
-    buffer_dirty_ = true;
-    if (descriptor_ >= 0 && buffer_.size() >= kBufferSize && FlushBuffer() != B_OK) {
-        return write_status_;
+    const size_t needed = static_cast<size_t>(position_ - buffer_start_) + size;
+    if (size == 0 || needed <= buffer_.size()) return B_OK;
+    try {
+        buffer_.resize(needed);
+    } catch (const std::bad_alloc&) {
+        return B_NO_MEMORY;
     }
-    return static_cast<int64>(size);
+    return B_OK;
 }
 
 status_t BFile::FlushBuffer() {
-    if (!buffer_dirty_ || descriptor_ < 0) return B_OK;
+    if (!buffer_dirty_) return B_OK;
     buffer_dirty_ = false;
-    const bool written = lseek(descriptor_, buffer_start_, SEEK_SET) >= 0 &&
-                         WriteAll(descriptor_, buffer_.data(), buffer_.size());
-    if (!written) return write_status_ = StatusFromErrno(errno);
+    const status_t status = WriteAll(descriptor_, buffer_, buffer_start_);
+    if (status != B_OK) return write_status_ = status;
     size_ = std::max(size_, buffer_start_ + static_cast<int64>(buffer_.size()));
-    buffer_start_ += static_cast<int64>(buffer_.size());
-    buffer_.clear();
     return B_OK;
 }
 
@@ -230,10 +277,14 @@ int64 BFile::Seek(int64 offset, seek_mode mode) {
 
 status_t BFile::Commit() {
     if (status_ != B_OK) return status_;
+    if (write_status_ != B_OK) {
+        DiscardTemporary();
+        return write_status_;
+    }
     if (temporary_.empty()) return B_NOT_ALLOWED;
-    if (write_status_ == B_OK) FlushBuffer();
-    if (write_status_ == B_OK && fsync(descriptor_) != 0) write_status_ = B_IO_ERROR;
-    if (write_status_ == B_OK && std::rename(temporary_.c_str(), target_.c_str()) != 0) {
+    if (FlushBuffer() == B_OK && fsync(descriptor_) != 0) write_status_ = StatusFromErrno(errno);
+    if (write_status_ == B_OK &&
+        renameat(directory_, temporary_.c_str(), directory_, target_.c_str()) != 0) {
         write_status_ = StatusFromErrno(errno);
     }
     if (write_status_ != B_OK) {
@@ -241,12 +292,12 @@ status_t BFile::Commit() {
         return write_status_;
     }
     temporary_.clear();
-    // The new file is in place; only its survival of a power loss is at stake here.
-    return SyncDirectoryOf(target_) ? B_OK : B_IO_ERROR;
+    SyncDirectory(directory_);
+    return B_OK;
 }
 
 void BFile::DiscardTemporary() {
-    if (!temporary_.empty()) unlink(temporary_.c_str());
+    if (descriptor_ >= 0 && !temporary_.empty()) unlinkat(directory_, temporary_.c_str(), 0);
     temporary_.clear();
 }
 

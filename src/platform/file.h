@@ -19,8 +19,8 @@ enum seek_mode : int32 {
 // A file of bytes with one position and a buffer of its own; the file is never mapped, so a file
 // that shrinks while it is read gives short reads, not signals. Used by one thread at a time.
 //
-// Three kinds: a file opened for reading; a file written beside its target, which takes the target's
-// place only when Commit() succeeds; and bytes in memory.
+// Three kinds: a file opened for reading; a file written beside its target, which takes the
+// target's place only when Commit() succeeds; and bytes in memory.
 class BFile {
   public:
     // Opens an existing file for reading. Folders and other things that are no regular files are
@@ -32,10 +32,11 @@ class BFile {
     BFile& operator=(const BFile&) = delete;
 
     // A new file that will replace path on Commit(). Symbolic links in path are resolved; a target
-    // that exists and is no regular file is refused with B_NOT_ALLOWED; the permissions of an
-    // existing target are kept. InitCheck() tells why it failed.
+    // that exists and is read-only or no regular file is refused with B_NOT_ALLOWED. The
+    // permissions of an existing target are kept, a new file gets the process's default ones.
+    // InitCheck() tells why it failed.
     static std::unique_ptr<BFile> CreateReplacing(const std::string& path);
-    // A file over the given bytes, for reading and writing.
+    // A file over the given bytes, for reading and writing, up to 2 GiB.
     static std::unique_ptr<BFile> OnMemory(std::vector<uint8> bytes = {});
 
     // B_OK, or why the file can't be used.
@@ -46,12 +47,13 @@ class BFile {
     int64 Size() const;
 
     // Reads at most size bytes at the position and moves it. Returns the bytes read (fewer at the
-    // end of the file), or a negative status.
+    // end of the file or before an error), or a negative status.
     int64 Read(void* buffer, size_t size);
     // True when exactly size bytes were read.
     bool ReadExactly(void* buffer, size_t size);
-    // Writes at the position and moves it. Returns size, or a negative status; the first failure is
-    // remembered and makes every later write and the Commit() fail.
+    // Writes at the position and moves it; a gap before the position is filled with zeros. Returns
+    // size, or a negative status; the first failure is remembered and makes every later write and
+    // the Commit() fail.
     int64 Write(const void* buffer, size_t size);
 
     // Moves the position; past the end is allowed. Returns the new position, or B_BAD_VALUE for one
@@ -61,8 +63,9 @@ class BFile {
 
     // The first write error, or B_OK.
     status_t WriteStatus() const { return write_status_; }
-    // Writes what is buffered, syncs, takes the target's place and syncs its directory. On failure
-    // the old file is untouched and the new one is removed. Memory and read files: B_NOT_ALLOWED.
+    // Writes what is buffered, syncs, takes the target's place and syncs its directory where the
+    // file system can. On failure the old file is untouched and the new one is removed. Once only;
+    // memory and read files: B_NOT_ALLOWED.
     status_t Commit();
 
     // Sets the file's MIME type as an extended attribute; where the file system refuses it, nothing
@@ -75,14 +78,16 @@ class BFile {
   private:
     BFile() = default;
 
-    void OpenTemporary();
-    bool FillBuffer();
+    status_t OpenTemporary();
+    status_t FillBuffer();
+    status_t PrepareWrite(size_t size);
     status_t FlushBuffer();
     void DiscardTemporary();
 
     std::string path_;
-    std::string target_;     // resolved path that Commit() replaces; empty unless written
-    std::string temporary_;  // path of the file being written until it is committed
+    int directory_ = -1;     // the directory of a written file's target
+    std::string target_;     // name there that Commit() replaces
+    std::string temporary_;  // name there of the file being written until it is committed
     status_t status_ = B_NO_INIT;
     status_t write_status_ = B_OK;
     int descriptor_ = -1;  // -1 for memory

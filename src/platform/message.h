@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -10,7 +11,7 @@
 #include "platform/types.h"
 
 // A command code with named, typed fields; each field holds one or more values of its type. A plain
-// value: copied, moved and compared like one, not shared between threads.
+// value: copied, moved and compared (bit by bit) like one, not shared between threads.
 class BMessage {
   public:
     uint32 what = 0;
@@ -18,7 +19,8 @@ class BMessage {
     BMessage() = default;
     explicit BMessage(uint32 code) : what(code) {}
 
-    // Append a value to the field. B_BAD_TYPE when the field holds another type.
+    // Append a value to the field. B_BAD_TYPE when the field holds another type; B_BAD_VALUE for a
+    // path with a zero byte in it and for a message that would nest deeper than 64.
     status_t AddInt32(std::string_view name, int32 value);
     status_t AddInt64(std::string_view name, int64 value);
     status_t AddBool(std::string_view name, bool value);
@@ -31,7 +33,8 @@ class BMessage {
     status_t AddMessage(std::string_view name, const BMessage& value);
     // The pointer travels as a number; whoever reads it knows whether it still lives.
     status_t AddPointer(std::string_view name, const void* value);
-    // A value of any type as raw bytes.
+    // A value of any type as its bytes, numbers in little-endian order. B_BAD_VALUE for bytes that
+    // the type can't have: a number of another size, a message that Unflatten would refuse.
     status_t AddData(std::string_view name, type_code type, const void* data, size_t size);
 
     // Find value number index of the field. B_NAME_NOT_FOUND without such a field of the type,
@@ -55,12 +58,13 @@ class BMessage {
     status_t GetInfo(std::string_view name, type_code* type, int32* count) const;
     // Values in the field; 0 without one.
     int32 CountItems(std::string_view name) const;
-    // Number of fields, and the name of the i-th in order of their first Add.
+    // Number of fields, and the name of the i-th in order of their first Add; no name past them.
     int32 CountNames() const { return static_cast<int32>(fields_.size()); }
     std::string_view NameAt(int32 index) const;
     bool HasField(std::string_view name) const { return CountItems(name) > 0; }
 
-    // Replace value number index; the field and the value must exist with that type.
+    // Replace value number index; the field and the value must exist with that type, or the status
+    // is that of Find. B_BAD_VALUE as for Add.
     status_t ReplaceInt32(std::string_view name, int32 value, int32 index = 0);
     status_t ReplaceBool(std::string_view name, bool value, int32 index = 0);
     status_t ReplaceString(std::string_view name, std::string_view value, int32 index = 0);
@@ -88,8 +92,11 @@ class BMessage {
     };
 
     const Field* FieldNamed(std::string_view name) const;
-    status_t ReplaceData(std::string_view name, type_code type, int32 index, const void* data,
-                         size_t size);
+    Field* FieldNamed(std::string_view name);
+    status_t Append(std::string_view name, type_code type, std::string_view value);
+    status_t Replace(std::string_view name, type_code type, int32 index, std::string_view value);
+    // Of bytes that have been checked.
+    static BMessage FromSound(std::span<const uint8> bytes);
 
     std::vector<Field> fields_;
 };

@@ -7,8 +7,9 @@
 #include "platform/message.h"
 #include "platform/messenger.h"
 
-// Sends the same message again and again, every interval microseconds, count times (negative: until
-// it is destroyed).
+// Sends the same message again and again from a thread of its own, every interval microseconds, the
+// first after one interval, count times (negative: until it is destroyed). An interval of 0 or less
+// sends nothing; a target that refuses a message gets no more of them.
 class BMessageRunner {
   public:
     BMessageRunner(BMessenger target, const BMessage& message, bigtime_t interval,

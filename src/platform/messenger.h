@@ -4,13 +4,14 @@
 
 #include "platform/message_port.h"
 
-// An address to send messages to, from any thread. Copies freely; stays safe to use after its target
-// is gone (sending then fails). A default messenger has no target and swallows nothing: sending
-// fails with B_NO_INIT.
+// An address to send messages to, from any thread. Copies freely; stays safe to use after its
+// target is gone (sending then fails). A default messenger has no target and swallows nothing:
+// sending fails with B_NO_INIT.
 class BMessenger {
   public:
     BMessenger() = default;
-    // The handler inside its looper, or the looper itself. The handler must be in a looper.
+    // The handler inside its looper, or the looper itself. A handler without looper gives a
+    // messenger without target.
     explicit BMessenger(const BHandler& handler);
     // A port of any other kind.
     explicit BMessenger(std::shared_ptr<kirto::MessagePort> port,
@@ -18,6 +19,7 @@ class BMessenger {
         : port_(std::move(port)), handler_(handler) {}
 
     bool IsValid() const { return port_ && port_->IsOpen(); }
+    // B_NO_INIT without a target, B_NOT_ALLOWED when the target is gone.
     status_t SendMessage(const BMessage& message) const;
     status_t SendMessage(uint32 what) const { return SendMessage(BMessage(what)); }
 

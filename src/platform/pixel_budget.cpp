@@ -1,8 +1,7 @@
 #include "platform/pixel_budget.h"
 
-#include <unistd.h>
-
 #include <algorithm>
+#include <unistd.h>
 
 namespace kirto {
 

@@ -29,5 +29,6 @@ void BRect::OffsetBy(float dx, float dy) {
 }
 
 BRect BRect::OfSize(int32 width, int32 height) {
-    return {0, 0, static_cast<float>(width - 1), static_cast<float>(height - 1)};
+    const auto last = [](int32 size) { return static_cast<float>(int64{size} - 1); };
+    return {0, 0, last(width), last(height)};
 }

@@ -27,7 +27,7 @@ struct BRect {
     void OffsetBy(float dx, float dy);
     void OffsetTo(float x, float y) { OffsetBy(x - left, y - top); }
 
-    // The rectangle of a picture of width x height pixels at the origin.
+    // The rectangle of a picture of width x height pixels at the origin. Exact up to 2^24 pixels.
     static BRect OfSize(int32 width, int32 height);
 
     friend bool operator==(const BRect&, const BRect&) = default;
