@@ -1,33 +1,41 @@
 #pragma once
 
 #include <map>
+#include <optional>
 #include <string>
+#include <string_view>
 
 #include "platform/node.h"
 
-// Typed attributes in one readable TOML file, one attribute a key, in the order of the names:
+// Typed attributes in one readable TOML file, one attribute a line, in the byte order of the names,
+// below a comment that tells what the file is:
 //
-//   global_width = 320                            LONG
-//   global_usepause = true                        BOOL
-//   global_pauselength = 100.0                    DBLE
-//   palette_filename = "/home/ann/colours.gif"    CSTR
+//   global_pauselength = 100.0                             DBLE
+//   global_usepause = true                                 BOOL
+//   global_width = 320                                     LONG, or LLNG when 32 bits are too few
 //   misc_windowdimensions = [100.0, 80.0, 649.0, 479.0]    RECT
-//   odd = { type = "LONG", bytes = "4001" }       any other type, or bytes of another size
+//   odd = { type = "LONG", bytes = "4001" }                any other type or size
+//   palette_filename = "/home/ann/colours.gif"             CSTR
 //
-// Values of an unusual size or type keep their bytes exactly (in memory order, as hexadecimal
-// digits). The file is replaced as a whole by Sync(), never rewritten in place. Used by one thread.
+// Every attribute is kept exactly: what the short forms can't carry (an unusual type or size, a
+// string that is no UTF-8, a truth value above 1) stands as its bytes, in memory order, as
+// hexadecimal digits. The file is replaced as a whole by Sync(), never rewritten in place; a
+// symbolic link to it stays one. Used by one thread.
 class AttributeFile : public BNode {
   public:
-    // Reads the file, if there is one; the directory is made when it is missing. A file that is
-    // not of this form is renamed to a free name beside it ("NAME.damaged", "NAME.damaged-2", ...)
-    // and the attributes start empty.
+    // Reads the file, if there is one; its directory is made (for the user only) when it is
+    // missing. A file that is not of this form, or larger than 1 MiB, is renamed to a free name
+    // beside it ("NAME.damaged", "NAME.damaged-2", ...), a debug line says why, and the attributes
+    // start empty. InitCheck() fails for a file that can't be read, put aside or made.
     explicit AttributeFile(const std::string& path);
 
     status_t InitCheck() const override { return status_; }
     int64 ReadAttr(std::string_view name, type_code type, void* buffer, size_t size) override;
-    // Fails at once where the directory can't be written.
+    // Kept in memory until Sync(). Fails at once where the file can't be replaced; B_BAD_VALUE for
+    // a name that is no UTF-8.
     int64 WriteAttr(std::string_view name, type_code type, const void* buffer,
                     size_t size) override;
+    // B_BAD_VALUE for attributes that make a file of more than 1 MiB; nothing is written then.
     status_t Sync() override;
 
     // Where a damaged file was put aside; empty when the file was sound.
@@ -42,15 +50,20 @@ class AttributeFile : public BNode {
     };
     using Attributes = std::map<std::string, Attribute, std::less<>>;
 
-    // The file's text to attributes and back. Parse returns false, with the reason, for text that
-    // is not of the form above.
+    // The file's text to attributes and back. Parse returns false, with the reason and without
+    // attributes, for text that is not of the form above.
     static bool Parse(std::string_view text, Attributes* attributes, std::string* reason);
     static std::string Print(const Attributes& attributes);
 
   private:
+    status_t Load();
+    status_t PutAside(const std::string& reason);
+    status_t CheckWritable();
+
     std::string path_;
     status_t status_ = B_NO_INIT;
     Attributes attributes_;
-    bool changed_ = false;
+    std::optional<status_t> writable_;  // whether the file can be replaced, once that was tried
+    bool changed_ = false;              // attributes_ holds what the file does not
     std::string damaged_copy_;
 };

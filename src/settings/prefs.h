@@ -13,36 +13,36 @@ class Prefs {
   public:
     // The fields in the order in which they are read and written. Reading stops at the first
     // failure, so the order is part of the contract.
-    int32 global_width = 320;                // of a new animation, pixels
-    int32 global_height = 240;               // of a new animation, pixels
-    bool global_usepause = true;             // new animations pause between frames
-    bool global_useloop = true;              // new animations loop
-    double global_pauselength = 100.0;       // of new animations, in the unit below
-    int32 global_loopcount = 0;              // 0: for ever
-    bool global_setdimensions = true;        // the first inserted frame sets the animation's size
-    bool global_pauseinseconds = false;      // pauses in seconds, else in hundredths
-    int32 palette_mapping = 0;               // 0, 1, 2 or 7 (a kirto::PaletteMode)
-    std::string palette_filename;            // at most 255 bytes
+    int32 global_width = 320;            // of a new animation, pixels
+    int32 global_height = 240;           // of a new animation, pixels
+    bool global_usepause = true;         // new animations pause between frames
+    bool global_useloop = true;          // new animations loop
+    double global_pauselength = 100.0;   // of new animations, in the unit below
+    int32 global_loopcount = 0;          // 0: for ever
+    bool global_setdimensions = true;    // the first inserted frame sets the animation's size
+    bool global_pauseinseconds = false;  // pauses in seconds, else in hundredths
+    int32 palette_mapping = 0;           // 0, 1, 2 or 7 (a kirto::PaletteMode)
+    std::string palette_filename;        // at most 255 bytes
     bool palette_usetransparent = false;
     int32 palette_transparentindex = 0;
     int32 palette_backgroundindex = 0;
     bool palette_dither = false;
-    int32 thumbnail_height = 0;              // 0: first frame's, 1: half of it, 2: the value below
-    int32 thumbnail_heightvalue = 100;       // pixels
-    int32 thumbnail_maxheight = 400;         // pixels
-    int32 thumbnail_minheight = 30;          // pixels
+    int32 thumbnail_height = 0;         // 0: first frame's, 1: half of it, 2: the value below
+    int32 thumbnail_heightvalue = 100;  // pixels
+    int32 thumbnail_maxheight = 400;    // pixels
+    int32 thumbnail_minheight = 30;     // pixels
     bool thumbnail_drawtransparent = true;
-    int32 animation_gifdisposal = 0;         // written after each frame; above 2 counts as 3
+    int32 animation_gifdisposal = 0;  // written after each frame; above 2 counts as 3
     bool animation_gifinterlaced = false;
     bool animation_gifcomment = true;
     bool animation_gifloadfullframe = true;  // assemble each frame at full animation size
     bool misc_savewindowdimensions = true;
     BRect misc_windowdimensions{100, 80, 649, 479};  // screen coordinates
-    std::string misc_tempfilelocation;       // directory; at most 1023 bytes
-    int32 misc_preferredmode = 0;            // 0: thumbnails, 1: frame list
+    std::string misc_tempfilelocation;               // directory; at most 1023 bytes
+    int32 misc_preferredmode = 0;                    // 0: thumbnails, 1: frame list
 
-    bool failed = false;        // a read or write failed; never cleared
-    std::string damaged_copy;   // where an unreadable settings file was put aside, or empty
+    bool failed = false;       // a read or write failed; never cleared
+    std::string damaged_copy;  // where an unreadable settings file was put aside, or empty
 
     // Built-in values only; nothing is read or written.
     struct BuiltIn {};
@@ -82,4 +82,14 @@ class Prefs {
 
   private:
     void Load(BNode& node);
+    // The two halves of the helpers; verb is "Get" or "Put", for the debug line of a failed write.
+    template <typename T>
+    bool Get(BNode& node, const char* key, T* value, const T* default_value);
+    template <typename T>
+    bool Write(BNode& node, const char* verb, const char* key, const T& value);
+    // Makes what was written permanent. A failure is the last write's failure; its line is printed
+    // unless a line was printed before (complete is false).
+    void SyncWrites(BNode& node, bool complete);
+
+    std::string unsynced_write_;  // the last write's debug line, should it fail after all
 };
