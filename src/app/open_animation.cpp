@@ -82,6 +82,8 @@ void ShareOutPauses(AnimationDocument& document, FrameRange range) {
 }
 
 void OfferSalvage(AnimationDocument& document) {
+    // The user broke it off and needs no telling.
+    if (document.StopRequested()) return;
     BAlert alert("", "The animation can't be opened because it was corrupted or unreadable.",
                  "Salvage", "OK");
     if (alert.Go() != kSalvageButton) document.Reset();

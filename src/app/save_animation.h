@@ -1,10 +1,9 @@
-// Writing a document to an animated GIF file.
+// Writing a document to animated GIF files.
 #pragma once
 
 #include <string>
 
 #include "document/animation_document.h"
-#include "platform/types.h"
 
 namespace kirto {
 
@@ -13,11 +12,17 @@ enum class SaveResult {
     kFrameTooLarge,   // a frame is larger than the canvas; nothing was written
     kFileNotCreated,  // the file can't be made at this place
     kWriteFailed,     // writing broke off; an old file is untouched
+    kStopped,         // the user asked to stop; an old file is untouched
 };
 
-// Encodes the document into the file at path, which is replaced as a whole or not at all. The
-// caller holds the reader lock and has let the global palette follow its frame
-// (UpdateGlobalPalette). The document is not changed.
+// Encode the document into the file at path, which is replaced as a whole or not at all. The caller
+// holds the reader lock and has let the global palette follow its frame (UpdateGlobalPalette). The
+// document is not changed.
+
+// Into a file of the user's: a symbolic link leads to its target, permissions are kept.
 SaveResult SaveAnimatedGif(AnimationDocument& document, const std::string& path);
+// Into a private file that only the user can read; a symbolic link in its place is replaced, never
+// followed. Frames may be larger than the canvas.
+SaveResult SavePreviewGif(AnimationDocument& document, const std::string& path);
 
 }  // namespace kirto

@@ -1,7 +1,7 @@
 #include "document/animation_document.h"
 
 #include <algorithm>
-#include <new>
+#include <thread>
 
 #include "document/command_codes.h"
 #include "document/document_scope.h"
@@ -86,18 +86,42 @@ bool AnimationDocument::InsertFrame(Frame* frame) {
     if (frame->index < 0 || frame->index > frame_count) return false;
     {
         const kirto::WriterScope writer(*this);
-        if (frame_count == 0) PostThumbnailSize();
-        const size_t position = static_cast<size_t>(frame->index);
-        frames_.insert(frames_.begin() + frame->index, std::unique_ptr<Frame>(frame));
-        if (position > 0) frames_[position - 1]->next = frame;
-        frame->next = position + 1 < frames_.size() ? frames_[position + 1].get() : nullptr;
-        for (Frame* later = frame->next; later; later = later->next)
-            ++later->index;
-        first_frame = frames_.front().get();
-        if (frame_count++ == 0) selected = 0;
+        if (frame_count == 0) {
+            PostThumbnailSize();
+            selected = 0;
+        }
+        Link(frame);
     }
     PostToWindow(kirto::kUpdateFramesNoStatus);
     return true;
+}
+
+void AnimationDocument::InsertFrameAsCurrent(Frame* frame) {
+    {
+        const kirto::WriterScope writer(*this);
+        frame->index = std::clamp(frame->index, 0, frame_count);
+        if (frame_count == 0) {
+            if (prefs.global_setdimensions) {
+                global_width = frame->width;
+                global_height = frame->height;
+            }
+            PostThumbnailSize();
+        }
+        selected = frame->index;
+        Link(frame);
+    }
+    PostToWindow(kirto::kUpdateFramesNoStatus);
+}
+
+void AnimationDocument::Link(Frame* frame) {
+    const size_t position = static_cast<size_t>(frame->index);
+    frames_.insert(frames_.begin() + frame->index, std::unique_ptr<Frame>(frame));
+    if (position > 0) frames_[position - 1]->next = frame;
+    frame->next = position + 1 < frames_.size() ? frames_[position + 1].get() : nullptr;
+    for (Frame* later = frame->next; later; later = later->next)
+        ++later->index;
+    first_frame = frames_.front().get();
+    ++frame_count;
 }
 
 void AnimationDocument::RemoveFrame() {
@@ -170,14 +194,22 @@ void AnimationDocument::WriterEnter() {
         snooze(kWriterPollInterval);
         status = acquire_sem(frame_sem);
     }
+    writer_inside_ = status == B_OK;
 }
 
 void AnimationDocument::WriterExit() {
+    writer_inside_ = false;
     release_sem(frame_sem);
 }
 
 bool AnimationDocument::TryReaderEnter() {
-    if (try_acquire_sem(frame_sem) != B_OK) return false;
+    status_t status = try_acquire_sem(frame_sem);
+    // Only a writer keeps the semaphore; others have it for the moment that counting takes.
+    while (status == B_WOULD_BLOCK && !writer_inside_) {
+        std::this_thread::yield();
+        status = try_acquire_sem(frame_sem);
+    }
+    if (status != B_OK) return false;
     ++reader_count;
     release_sem(frame_sem);
     return true;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <functional>
+#include <atomic>
 #include <memory>
 #include <string>
 #include <vector>
@@ -70,6 +70,10 @@ class AnimationDocument {
     // thumbnail-size command). True: the document owns the frame now. False: the index is outside
     // 0..frame_count, nothing happened and the frame is still the caller's.
     bool InsertFrame(Frame* frame);
+    // Inserts the frame at its own index, clamped to the list, takes ownership and makes it the
+    // current frame. Into an empty list it also gives the canvas its size, where the setting
+    // "global_setdimensions" says so. Posts as InsertFrame does.
+    void InsertFrameAsCurrent(Frame* frame);
     // Deletes the current frame.
     void RemoveFrame();
     // Swaps the current frame with the one before (up) or after it; the selection follows.
@@ -96,10 +100,18 @@ class AnimationDocument {
     // Posts the thumbnail-size command that the setting "thumbnail_height" asks for, if any.
     void PostThumbnailSize() const;
 
+    // Asks work in progress to end before its next frame, from any thread. What is done stays done.
+    void RequestStop() { stop_requested_ = true; }
+    bool StopRequested() const { return stop_requested_; }
+
   private:
+    // Links the frame in at its index, which is within 0..frame_count.
+    void Link(Frame* frame);
     // Renews count, indices and links after the order of frames_ changed.
     void Relink();
     void ResetPalette();
 
+    std::atomic<bool> stop_requested_ = false;
     std::vector<std::unique_ptr<Frame>> frames_;  // owns the list's frames, in order
+    std::atomic<bool> writer_inside_ = false;
 };

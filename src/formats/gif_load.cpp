@@ -53,8 +53,8 @@ GifLoad::GifLoad(BFile* file, int32 start, AnimationDocument& document)
       next_position_(start),
       full_frame_(document.prefs.animation_gifloadfullframe) {
     Init();
-    frame_ = NewFrame();
-    if (!frame_ || !ReadGifHeader()) {
+    if (ReadGifHeader()) frame_ = NewFrame();
+    if (!frame_) {
         failed = true;
         return;
     }
@@ -105,6 +105,7 @@ bool GifLoad::ReadBlock(uint8 introducer) {
 bool GifLoad::ReadImage() {
     const int32 relative = next_position_ - start_;
     document_.PostStatus(kirto::Format("Status: loading frame %d...", next_position_ + 1));
+    if (document_.StopRequested()) return false;
     if (!ReadGifImageHeader(frame_.get(), relative, next_position_)) return false;
     if (!ReadGifImageData(frame_.get(), relative)) return false;
     if (frame_->local_palette) {
@@ -290,8 +291,8 @@ bool GifLoad::ReadGifImageData(Frame* frame, int32 relative) {
         area.top = frame->y_offset;
     }
     kirto::GifPixelWriter writer(*frame->bitmap, area, interlaced_, colors);
-    const auto decoder = std::make_unique<kirto::GifLzwDecoder>(*file_, min_code_size);
-    if (!decoder->Decode(writer)) return false;
+    kirto::GifLzwDecoder decoder(*file_, min_code_size);
+    if (!decoder.Decode(writer)) return false;
     if (full_frame_) {
         frame->width = document_.global_width;
         frame->height = document_.global_height;

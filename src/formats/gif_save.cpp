@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <bit>
 #include <cmath>
-#include <cstring>
 #include <vector>
 
 #include "formats/gif_lzw_encoder.h"
@@ -18,26 +17,39 @@ constexpr char kComment[] = "Created by Kirto v1.4 by Morvik on BeOS";
 
 // The integer part of a delay in hundredths. A value a hair below a whole number counts as that
 // number, so that 0.29 seconds stays 29 through any number of saves.
-int32 WholeHundredths(double hundredths) {
+int64 WholeHundredths(double hundredths) {
     constexpr double kTolerance = 1e-6;
-    constexpr double kLimit = 2e9;
+    constexpr double kLimit = 9e18;
     if (std::isnan(hundredths)) return 0;
     const double nearest = std::ceil(hundredths);
     const double whole = nearest - hundredths < kTolerance ? nearest : std::trunc(hundredths);
-    return static_cast<int32>(std::clamp(whole, -kLimit, kLimit));
-}
-
-bool HasTransparentPixel(const Frame& frame) {
-    for (int32 y = 0; y < frame.height; ++y) {
-        for (int32 x = 0; x < frame.width; ++x) {
-            if (kirto::PixelColor(frame.bitmap.get(), x, y).alpha < 255) return true;
-        }
-    }
-    return false;
+    return static_cast<int64>(std::clamp(whole, -kLimit, kLimit));
 }
 
 uint8 LowByte(int32 value) {
     return static_cast<uint8>(value);
+}
+
+int32 BitWidth(uint8 value) {
+    return static_cast<int32>(std::bit_width(value));
+}
+
+// The largest of the indices that pixels get whatever the number of entries in use: the transparent
+// one, and the levels of the grey ramp.
+uint8 LargestUnboundIndex(const Frame& frame, const Palette& palette, uint8 transparent) {
+    const bool grey_ramp = palette.mode == kirto::kPaletteGreyscale;
+    uint8 largest = 0;
+    for (int32 y = 0; y < frame.height; ++y) {
+        for (int32 x = 0; x < frame.width; ++x) {
+            const rgb_color color = kirto::PixelColor(frame.bitmap.get(), x, y);
+            if (color.alpha < 255) {
+                largest = std::max(largest, transparent);
+            } else if (grey_ramp) {
+                largest = std::max(largest, palette.IndexForColor(color));
+            }
+        }
+    }
+    return largest;
 }
 
 }  // namespace
@@ -57,6 +69,7 @@ GifSave::GifSave(std::shared_ptr<BFile> file, AnimationDocument& document)
             break;
         }
         document_.PostStatus(kirto::Format("Status: writing frame %d of %d...", i + 1, count));
+        if (document_.StopRequested()) break;
         encoding_ = EncodingOf(*frame);
         WriteGifControlBlock(frame);
         WriteGifImageHeader(frame);
@@ -129,16 +142,20 @@ void GifSave::WriteGifImageData(Frame* frame) {
 }
 
 // The transparent index is the global palette's even in frames with a narrower palette of their
-// own. A frame that uses an index past its palette is written wider, with a table of its own.
+// own, and a palette may be recognised as the grey ramp though fewer entries were read. A frame
+// that uses an index past its palette is written wider, with a table of its own.
 GifSave::Encoding GifSave::EncodingOf(const Frame& frame) const {
     const Palette& global = *document_.global_palette;
     Encoding encoding;
     encoding.local_table = frame.local_palette;
     encoding.palette = frame.local_palette ? frame.palette.get() : &global;
     encoding.bits = encoding.palette->bits;
-    const uint32 transparent = LowByte(global.transparent_index);
-    const int32 needed = static_cast<int32>(std::bit_width(transparent));
-    if (needed > encoding.bits && HasTransparentPixel(frame)) {
+    const uint8 transparent = LowByte(global.transparent_index);
+    const bool grey_ramp = encoding.palette->mode == kirto::kPaletteGreyscale;
+    // Most frames can't need more bits and are spared the look at their pixels.
+    if (encoding.bits >= (grey_ramp ? 8 : BitWidth(transparent))) return encoding;
+    const int32 needed = BitWidth(LargestUnboundIndex(frame, *encoding.palette, transparent));
+    if (needed > encoding.bits) {
         encoding.bits = needed;
         encoding.local_table = true;
     }
@@ -146,7 +163,7 @@ GifSave::Encoding GifSave::EncodingOf(const Frame& frame) const {
 }
 
 // Hundredths of a second.
-int32 GifSave::DelayOf(const Frame& frame) const {
+int64 GifSave::DelayOf(const Frame& frame) const {
     double pause = 0;
     if (frame.use_pause) {
         pause = frame.pause_length;
@@ -168,7 +185,7 @@ void GifSave::WriteColorTable(const Palette& palette, int32 bits) {
 }
 
 int32 GifSave::WidestFrame() const {
-    int32 widest = document_.global_width;
+    int32 widest = 0;
     for (const Frame* frame = document_.FirstFrame(); frame; frame = frame->next) {
         widest = std::max(widest, frame->width);
     }

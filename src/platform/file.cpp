@@ -132,9 +132,17 @@ BFile::~BFile() {
 }
 
 std::unique_ptr<BFile> BFile::CreateReplacing(const std::string& path) {
+    return Create(path, false);
+}
+
+std::unique_ptr<BFile> BFile::CreatePrivate(const std::string& path) {
+    return Create(path, true);
+}
+
+std::unique_ptr<BFile> BFile::Create(const std::string& path, bool for_owner_only) {
     std::unique_ptr<BFile> file(new BFile);
     file->path_ = path;
-    file->status_ = file->OpenTemporary();
+    file->status_ = file->OpenTemporary(for_owner_only);
     if (file->status_ != B_OK) file->DiscardTemporary();
     return file;
 }
@@ -146,9 +154,9 @@ std::unique_ptr<BFile> BFile::OnMemory(std::vector<uint8> bytes) {
     return file;
 }
 
-status_t BFile::OpenTemporary() {
+status_t BFile::OpenTemporary(bool for_owner_only) {
     if (path_.empty()) return B_ENTRY_NOT_FOUND;
-    const std::filesystem::path target = ResolveLinks(path_);
+    const std::filesystem::path target = for_owner_only ? path_ : ResolveLinks(path_);
     if (target.empty()) return B_NOT_ALLOWED;
     const std::string folder = target.has_parent_path() ? target.parent_path().string() : ".";
     // All further steps go through this descriptor, so that they happen in one and the same
@@ -157,6 +165,10 @@ status_t BFile::OpenTemporary() {
     if (directory_ < 0) return StatusFromErrno(errno);
     // A path that ends in a slash asks for a folder.
     target_ = target.has_filename() ? target.filename().string() : ".";
+    if (for_owner_only) {
+        descriptor_ = CreateUnique(directory_, 0600, &temporary_);
+        return descriptor_ >= 0 ? B_OK : StatusFromErrno(errno);
+    }
     struct stat info;
     const status_t found = CheckTarget(directory_, target_, &info);
     if (found == B_ENTRY_NOT_FOUND) {

@@ -36,6 +36,9 @@ class BFile {
     // permissions of an existing target are kept, a new file gets the process's default ones.
     // InitCheck() tells why it failed.
     static std::unique_ptr<BFile> CreateReplacing(const std::string& path);
+    // As CreateReplacing, but only its owner may read the new file, and a symbolic link at path is
+    // replaced itself, never followed.
+    static std::unique_ptr<BFile> CreatePrivate(const std::string& path);
     // A file over the given bytes, for reading and writing, up to 2 GiB.
     static std::unique_ptr<BFile> OnMemory(std::vector<uint8> bytes = {});
 
@@ -78,7 +81,9 @@ class BFile {
   private:
     BFile() = default;
 
-    status_t OpenTemporary();
+    static std::unique_ptr<BFile> Create(const std::string& path, bool for_owner_only);
+
+    status_t OpenTemporary(bool for_owner_only);
     status_t FillBuffer();
     status_t PrepareWrite(size_t size);
     status_t FlushBuffer();

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "app/file_panel.h"
+#include "platform/alert.h"
+#include "platform/messenger.h"
+#include "platform/rect.h"
+
+namespace kirto {
+
+// Everything the application asks of a screen and of the desktop behind it: windows, the command
+// line or a test's script. Called on the application's thread; implementations do their own
+// crossing to other threads. Outlives the application.
+class Desktop : public AlertPresenter {
+  public:
+    // Makes and shows the main window and returns its address.
+    virtual BMessenger OpenMainWindow(const BRect& frame, const std::string& title) = 0;
+    // Makes the main window forget the command that waits for the document to be saved.
+    virtual void AbandonPendingCommand() = 0;
+    // The main screen, in pixels.
+    virtual BRect ScreenFrame() = 0;
+    // A file panel that posts to target; not shown yet.
+    virtual std::unique_ptr<FilePanel> MakeFilePanel(FilePanelKind kind, BMessenger target) = 0;
+    // The file's MIME type, or an empty text when nobody knows it.
+    virtual std::string MimeTypeOf(const std::string& path) = 0;
+    // Shows the file in the user's web browser, or in the viewer for its kind.
+    virtual void OpenInBrowser(const std::string& path) = 0;
+};
+
+}  // namespace kirto

@@ -1,0 +1,93 @@
+#pragma once
+
+#include <map>
+#include <memory>
+#include <string>
+
+#include "app/desktop.h"
+#include "app/file_panel.h"
+#include "document/animation_document.h"
+#include "framework/ie_application.h"
+#include "platform/translator_roster.h"
+
+// The application object, and at the same time the one open document. It is driven by messages:
+// each command is looked up in a table and carried out on the application's own thread, in the
+// order of arrival; refresh commands go back to the main window. The work itself is done by the
+// units beside this class and the layers below.
+class Kirto : public IEApplication, public AnimationDocument {
+  public:
+    static constexpr const char* kSignature = "application/x-vnd.Tavon-Kirto";
+
+    // Everything handed in outlives the application. Makes and shows the main window; the loop is
+    // started by the caller (Run() or Loop()).
+    Kirto(Prefs& settings, kirto::Desktop& desktop, BTranslatorRoster& roster);
+    // Ends the loop, deletes all frames and removes the preview file.
+    ~Kirto() override;
+
+    // Settings of the image writers by translator id, as the save panel's settings leave them.
+    std::map<translator_id, BMessage> translator_settings;
+
+    void MessageReceived(BMessage* message) override;
+    // Files dropped on the window, or opened from the desktop: routed to opening or inserting.
+    void RefsReceived(BMessage* message) override;
+    void AboutRequested() override;
+    // A file panel closed. True when the window must be refreshed.
+    bool Cancel(BMessage* message);
+
+    // 'aofp': a file chosen to be opened, inserted or used as a palette.
+    void Open(BMessage* message);
+    // 'asfp': a place and a format chosen in the save panel.
+    void Save(BMessage* message);
+    // To file_directory/file_name. format: 0 or 0xFFFFFFFF for animated GIF, else the translator of
+    // an image sequence.
+    void Save(uint32 format);
+    // One image file a frame. The caller is inside the reader lock.
+    bool SaveSequence(uint32 translator);
+    // Writes a temporary GIF and shows it in the browser.
+    void Preview();
+
+    using AnimationDocument::InsertFrame;
+    // 'aifp': image files as frames.
+    void InsertFrame(BMessage* message);
+    // 'aitp': a picture cut into frames, as the insert-tiled panel says.
+    void InsertTiledFrame(BMessage* message);
+    // One of the four fade commands.
+    void Fade(BMessage* message);
+
+    // Each made on first use.
+    kirto::FilePanel* GetOpenFilePanel() {
+        return GetPanel(open_panel_, kirto::FilePanelKind::kOpen);
+    }
+    kirto::FilePanel* GetInsertFilePanel() {
+        return GetPanel(insert_panel_, kirto::FilePanelKind::kInsert);
+    }
+    kirto::FilePanel* GetSaveFilePanel() {
+        return GetPanel(save_panel_, kirto::FilePanelKind::kSave);
+    }
+    kirto::FilePanel* GetInsertTiledFilePanel() {
+        return GetPanel(insert_tiled_panel_, kirto::FilePanelKind::kInsertTiled);
+    }
+
+  private:
+    using PanelPointer = std::unique_ptr<kirto::FilePanel>;
+    struct Command;
+
+    static const Command* CommandFor(uint32 code);
+    kirto::FilePanel* GetPanel(PanelPointer& panel, kirto::FilePanelKind kind);
+    BRect MainWindowFrame();
+    bool LoadAwaitedPalette(const std::string& path);
+    void SelectFrame(BMessage* message);
+    void SetFramePalette(BMessage* message);
+    void ForgetFile();
+    bool WriteSequenceFile(const Frame& frame, const std::string& path, uint32 translator,
+                           uint32 format);
+    void RemovePreview();
+
+    kirto::Desktop& desktop_;
+    BTranslatorRoster& roster_;
+    PanelPointer open_panel_;
+    PanelPointer insert_panel_;
+    PanelPointer save_panel_;
+    PanelPointer insert_tiled_panel_;
+    int32 fade_name_base_ = 0;
+};

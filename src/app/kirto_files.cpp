@@ -1,0 +1,246 @@
+// Moving whole animations between the document and files.
+#include <algorithm>
+#include <filesystem>
+
+#include "app/kirto.h"
+#include "app/open_animation.h"
+#include "app/save_animation.h"
+#include "document/command_codes.h"
+#include "document/document_scope.h"
+#include "platform/alert.h"
+#include "platform/debug_line.h"
+#include "platform/directories.h"
+#include "platform/text.h"
+
+namespace {
+
+constexpr uint32 kAnimatedGif = 0xFFFFFFFF;
+constexpr const char* kPreviewName = "kirtotemp.gif";
+constexpr const char* kNotCreated =
+    "The animation can't be saved because the file could not be created at this location.";
+constexpr const char* kInvalidTranslator =
+    "The animation can't be saved because the selected translator is not valid.";
+
+constexpr size_t kMaxNameBytes = 255;
+constexpr size_t kMaxDirectoryBytes = 1023;
+
+constexpr int32 kOpenButton = 1;
+constexpr int32 kInsertButton = 2;
+
+std::string Join(const std::string& directory, const std::string& name) {
+    return (std::filesystem::path(directory) / name).string();
+}
+
+bool IsDirectory(const std::string& path) {
+    std::error_code error;
+    return std::filesystem::is_directory(path, error);
+}
+
+// The translator's first format that is a file format; 0 without one.
+uint32 FileFormat(const BTranslatorRoster& roster, uint32 translator) {
+    for (const translation_format& format : roster.OutputFormats(translator)) {
+        if (format.type != B_TRANSLATOR_BITMAP) return format.type;
+    }
+    return 0;
+}
+
+}  // namespace
+
+void Kirto::RefsReceived(BMessage* message) {
+    entry_ref ref;
+    if (message->FindRef("refs", &ref) != B_OK) return;
+    const bool animation = kirto::ClassifyAnimation(ref.Leaf(), desktop_.MimeTypeOf(ref.path)) !=
+                           kirto::AnimationType::kNone;
+    const bool dropped = message->what == B_SIMPLE_DATA;
+    BMessage command = *message;
+    command.what = animation ? kirto::kOpenFile : kirto::kInsertFiles;
+    if (animation && dropped) {
+        BAlert alert("",
+                     "Do you wish to insert this image into the current animation or open it as a "
+                     "new animation?",
+                     "Cancel", "Open", "Insert", B_INFO_ALERT);
+        const int32 answer = alert.Go();
+        if (answer != kOpenButton && answer != kInsertButton) return;
+        command.RemoveName("reset");
+        command.AddBool("reset", answer == kOpenButton);
+    }
+    PostMessage(command);
+}
+
+void Kirto::Open(BMessage* message) {
+    entry_ref ref;
+    if (message->FindRef("refs", &ref) != B_OK) return;
+    open_panel_delivered = true;
+    if (LoadAwaitedPalette(ref.path)) return;
+
+    bool reset = true;
+    int32 position = 0;
+    message->FindBool("reset", &reset);
+    if (reset) {
+        Reset();
+    } else {
+        message->FindInt32("position", &position);
+        position = std::clamp(position, 0, frame_count);
+    }
+    const kirto::AnimationType type =
+        kirto::ClassifyAnimation(ref.Leaf(), desktop_.MimeTypeOf(ref.path));
+    if (type == kirto::AnimationType::kNone) {
+        kirto::Warn("The animation can't be opened because this file type is unsupported.");
+        return;
+    }
+    BFile file(ref.path, B_READ_ONLY);
+    const bool opened = type == kirto::AnimationType::kGif ? kirto::OpenGif(&file, position, *this)
+                                                           : kirto::OpenFli(&file, position, *this);
+    if (!opened) return;
+    if (reset) {
+        file_directory = kirto::CutUtf8(ref.Directory(), kMaxDirectoryBytes);
+        file_name = kirto::CutUtf8(ref.Leaf(), kMaxNameBytes);
+    } else {
+        modified = true;
+    }
+}
+
+// True when a palette was waiting for this file: the global one, or else the current frame's.
+bool Kirto::LoadAwaitedPalette(const std::string& path) {
+    const kirto::ReaderScope reader(*this);
+    Frame* current = CurrentFrame();
+    Palette* palette = nullptr;
+    if (global_palette->mode == kirto::kPaletteAwaitingFile) {
+        palette = global_palette.get();
+    } else if (current && current->palette->mode == kirto::kPaletteAwaitingFile) {
+        palette = current->palette.get();
+    }
+    if (!palette) return false;
+    if (!palette->Set(path.c_str())) {
+        kirto::Warn("The palette can't be loaded because the file was corrupted or unreadable.");
+        palette->Set(kirto::kPaletteWebSafe);
+    }
+    modified = true;
+    return true;
+}
+
+void Kirto::Save(BMessage* message) {
+    int64 translator = 0;
+    if (message->FindInt64("translator_id", &translator) != B_OK) {
+        kirto::DebugLine(
+            "Kirto::Save() - Could not recover translator_id from message, using animated GIF\n");
+        translator = kAnimatedGif;
+    }
+    entry_ref directory;
+    std::string name;
+    if (message->FindRef("directory", &directory) != B_OK) return;
+    if (message->FindString("name", &name) != B_OK) return;
+    file_directory = kirto::CutUtf8(directory.path, kMaxDirectoryBytes);
+    file_name = kirto::CutUtf8(name, kMaxNameBytes);
+    Save(static_cast<uint32>(translator));
+}
+
+void Kirto::Save(uint32 format) {
+    {
+        const kirto::ReaderScope reader(*this);
+        UpdateGlobalPalette();
+        if (format != 0 && format != kAnimatedGif) {
+            if (SaveSequence(format)) modified = false;
+        } else {
+            switch (kirto::SaveAnimatedGif(*this, Join(file_directory, file_name))) {
+                case kirto::SaveResult::kFrameTooLarge:
+                    kirto::Warn(
+                        "The animation can't be saved because one of the frames has a larger size "
+                        "than the animation.");
+                    ForgetFile();
+                    return;
+                case kirto::SaveResult::kFileNotCreated:
+                case kirto::SaveResult::kWriteFailed:
+                    kirto::Warn(kNotCreated);
+                    ForgetFile();
+                    return;
+                case kirto::SaveResult::kStopped:
+                    return;
+                case kirto::SaveResult::kSaved:
+                    modified = false;
+            }
+        }
+    }
+    PostToWindow(kirto::kResume);
+}
+
+// The next save asks for a name again.
+void Kirto::ForgetFile() {
+    file_name = "untitled";
+    file_directory.clear();
+}
+
+bool Kirto::SaveSequence(uint32 translator) {
+    std::string translator_name;
+    if (!roster_.GetTranslatorInfo(translator, &translator_name)) {
+        kirto::Warn(kInvalidTranslator);
+        return false;
+    }
+    const uint32 format = FileFormat(roster_, translator);
+    if (format == 0) {
+        kirto::DebugLine("Kirto::SaveSequence() - Desired format is 0, this is not good\n");
+    }
+    const size_t dot = std::min(file_name.find('.'), file_name.size());
+    const std::string base = file_name.substr(0, dot);
+    const std::string extension = file_name.substr(dot);
+    for (const Frame* frame = first_frame; frame; frame = frame->next) {
+        if (StopRequested()) return false;
+        const std::string name =
+            kirto::Format("%s%04d%s", base.c_str(), frame->index, extension.c_str());
+        if (!WriteSequenceFile(*frame, Join(file_directory, name), translator, format)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+bool Kirto::WriteSequenceFile(const Frame& frame, const std::string& path, uint32 translator,
+                              uint32 format) {
+    const std::unique_ptr<BFile> file = BFile::CreateReplacing(path);
+    if (file->InitCheck() != B_OK) {
+        kirto::Warn(kNotCreated);
+        return false;
+    }
+    const BMessage& settings = translator_settings[translator];
+    if (roster_.Translate(*frame.bitmap, translator, format, settings, *file) != B_OK &&
+        file->WriteStatus() == B_OK) {
+        kirto::Warn(kInvalidTranslator);
+        return false;
+    }
+    if (file->Commit() != B_OK) {
+        kirto::Warn(kNotCreated);
+        return false;
+    }
+    return true;
+}
+
+void Kirto::Preview() {
+    std::string path;
+    {
+        const kirto::ReaderScope reader(*this);
+        if (FrameLargerThanCanvas()) {
+            kirto::Warn(
+                "The animation can't be previewed because one of the frames has a larger size "
+                "than the animation.");
+            return;
+        }
+        UpdateGlobalPalette();
+        if (!IsDirectory(prefs.misc_tempfilelocation)) {
+            prefs.misc_tempfilelocation = kirto::HomeDirectory();
+        }
+        path = Join(prefs.misc_tempfilelocation, kPreviewName);
+        const kirto::SaveResult result = kirto::SavePreviewGif(*this, path);
+        if (result == kirto::SaveResult::kStopped) return;
+        if (result != kirto::SaveResult::kSaved) {
+            kirto::Warn(
+                "The animation can't be previewed because a temporary file could not be created.");
+            return;
+        }
+    }
+    desktop_.OpenInBrowser(path);
+}
+
+void Kirto::RemovePreview() {
+    std::error_code ignored;
+    std::filesystem::remove(Join(prefs.misc_tempfilelocation, kPreviewName), ignored);
+}

@@ -1,0 +1,29 @@
+// Cutting one picture into a grid of frames.
+#pragma once
+
+#include "document/animation_document.h"
+#include "platform/bitmap.h"
+#include "platform/entry_ref.h"
+#include "platform/translator_roster.h"
+
+namespace kirto {
+
+struct TileGrid {
+    int32 rows = 0;
+    int32 columns = 0;
+    bool column_by_column = false;  // order of the tiles; else row by row
+};
+
+// Copies the tile at (row, column) of a grid of the tile's size out of the picture, pixels
+// unchanged. Both are 32-bit in the same colour space and the tile lies within the picture.
+void CopyTile(const BBitmap& picture, int32 row, int32 column, BBitmap* tile);
+
+// Cuts the file's picture into rows x columns tiles of equal size (what is left over at the right
+// and the bottom belongs to no tile) and inserts each as a frame behind the current one. Grids
+// without rows or columns, or with more of them than pixels, unreadable files and running out of
+// memory are reported; in the last case the tiles inserted so far stay. Without a file (null) a
+// sound grid does nothing. Runs on the editing thread, outside the document's lock.
+void InsertTiles(AnimationDocument& document, const entry_ref* ref, const TileGrid& grid,
+                 BTranslatorRoster& roster);
+
+}  // namespace kirto
