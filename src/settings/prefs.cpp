@@ -112,7 +112,7 @@ int64 ReadValue(BNode& node, const char* key, T* value) {
 // By way of a byte: a bool must never hold another pattern than 0 or 1.
 int64 ReadValue(BNode& node, const char* key, bool* value) {
     uint8 byte = *value;
-    const int64 read = node.ReadAttr(key, B_BOOL_TYPE, &byte, sizeof(byte));
+    const int64 read = node.ReadAttr(key, Kind<bool>::kType, &byte, sizeof(byte));
     if (read >= 0) *value = byte != 0;
     return read;
 }
@@ -120,7 +120,7 @@ int64 ReadValue(BNode& node, const char* key, bool* value) {
 // The string ends after the bytes read, or at the first zero byte among them.
 int64 ReadValue(BNode& node, const char* key, std::string* value) {
     std::array<char, kMaxStringBytes + 1> text = {};
-    const int64 read = node.ReadAttr(key, B_STRING_TYPE, text.data(), kMaxStringBytes);
+    const int64 read = node.ReadAttr(key, Kind<std::string>::kType, text.data(), kMaxStringBytes);
     if (read >= 0) *value = text.data();
     return read;
 }
@@ -132,7 +132,7 @@ bool WriteValue(BNode& node, const char* key, const T& value) {
 }
 
 bool WriteValue(BNode& node, const char* key, const std::string& value) {
-    return node.WriteAttr(key, B_STRING_TYPE, value.data(), value.size()) ==
+    return node.WriteAttr(key, Kind<std::string>::kType, value.data(), value.size()) ==
            static_cast<int64>(value.size());
 }
 
