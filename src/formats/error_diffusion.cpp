@@ -7,16 +7,21 @@ namespace kirto {
 namespace {
 
 constexpr int32 kFractionBits = 15;
-constexpr int32 kSevenSixteenths = 14336;
-constexpr int32 kThreeSixteenths = 6144;
-constexpr int32 kFiveSixteenths = 10240;
-constexpr int32 kOneSixteenth = 2048;
+constexpr uint32 kSevenSixteenths = 14336;
+constexpr uint32 kThreeSixteenths = 6144;
+constexpr uint32 kFiveSixteenths = 10240;
+constexpr uint32 kOneSixteenth = 2048;
 
 }  // namespace
 
-ErrorDiffusion::ErrorDiffusion(int32 max_width) {
+ErrorDiffusion::ErrorDiffusion(int32 max_width)
+    : entries_(static_cast<size_t>(std::max(max_width, 0)) + 2) {
     for (auto& row : rows_)
-        row.resize(static_cast<size_t>(std::max(max_width, 0)) + 2);
+        row = AllocateArray<uint32>(entries_);
+}
+
+bool ErrorDiffusion::Ready() const {
+    return std::all_of(rows_.begin(), rows_.end(), [](const auto& row) { return row != nullptr; });
 }
 
 void ErrorDiffusion::StartPicture() {
@@ -26,7 +31,7 @@ void ErrorDiffusion::StartPicture() {
 
 void ErrorDiffusion::ClearRows() {
     for (auto& row : rows_)
-        std::fill(row.begin(), row.end(), 0);
+        std::fill_n(row.get(), entries_, 0);
 }
 
 ErrorDiffusion::Components ErrorDiffusion::Correct(const Components& color) const {
@@ -39,11 +44,11 @@ ErrorDiffusion::Components ErrorDiffusion::Correct(const Components& color) cons
 void ErrorDiffusion::Diffuse(int32 x, const Components& chosen, const Components& corrected) {
     const size_t column = static_cast<size_t>(x) + 1;
     for (size_t i = 0; i < 3; ++i) {
-        const int32 error = chosen[i] - corrected[i];
-        int32* row = &rows_[i][column];
-        carried_[i] = (error * kSevenSixteenths + row[1]) >> kFractionBits;
-        // Column -1 is never read back; leaving it out keeps it from growing with the height.
-        if (x > 0) row[-1] += error * kThreeSixteenths;
+        const uint32 error = static_cast<uint32>(chosen[i] - corrected[i]);
+        uint32* row = &rows_[i][column];
+        const int32 carried = static_cast<int32>(error * kSevenSixteenths + row[1]);
+        carried_[i] = static_cast<int16>(carried >> kFractionBits);
+        row[-1] += error * kThreeSixteenths;
         row[0] += error * kFiveSixteenths;
         row[1] = error * kOneSixteenth;
     }

@@ -1,8 +1,8 @@
 #pragma once
 
 #include <array>
-#include <vector>
 
+#include "platform/allocation.h"
 #include "platform/types.h"
 
 namespace kirto {
@@ -16,6 +16,8 @@ class ErrorDiffusion {
 
     // max_width: pixels of the widest picture.
     explicit ErrorDiffusion(int32 max_width);
+    // False when there is no memory for the errors; nothing below may be called then.
+    bool Ready() const;
 
     // Before each picture: forgets all errors.
     void StartPicture();
@@ -30,9 +32,12 @@ class ErrorDiffusion {
     void Diffuse(int32 x, const Components& chosen, const Components& corrected);
 
   private:
-    Components carried_{};
-    // Per component, the errors for the next row, fixed point; entry 0 is column -1.
-    std::array<std::vector<int32>, 3> rows_;
+    std::array<int16, 3> carried_{};
+    const size_t entries_;  // of each row
+    // Per component, the errors for the next row, fixed point; entry 0 is column -1. The two
+    // leftmost columns, and those beside pixels that are never diffused, add up for as long as the
+    // picture is high: the sums wrap, which signed numbers may not.
+    std::array<AllocatedArray<uint32>, 3> rows_;
 };
 
 }  // namespace kirto

@@ -31,7 +31,7 @@ class GifSave {
         bool local_table = false;
     };
     Encoding EncodingOf(const Frame& frame) const;
-    int32 DelayOf(const Frame& frame) const;
+    int64 DelayOf(const Frame& frame) const;
     void WriteColorTable(const Palette& palette, int32 bits);
     int32 WidestFrame() const;
 

@@ -26,7 +26,7 @@ PixelMapper::PixelMapper(uint8 transparent_index, bool dither, int32 max_width)
 
 void PixelMapper::StartPicture(const Palette& palette, bool unconnected_rows) {
     palette_ = &palette;
-    diffusing_ = dither_ && palette.mode != kPaletteGreyscale;
+    diffusing_ = dither_ && diffusion_.Ready() && palette.mode != kPaletteGreyscale;
     unconnected_rows_ = unconnected_rows;
     if (!cache_.fail) cache_.Reset();
     if (diffusing_) diffusion_.StartPicture();

@@ -16,7 +16,7 @@ namespace kirto {
 class PixelMapper {
   public:
     // transparent_index: what pixels with alpha below 255 become. dither: spread errors, in
-    // pictures of at most max_width pixels.
+    // pictures at most max_width pixels wide; without memory for the errors it is left out.
     PixelMapper(uint8 transparent_index, bool dither, int32 max_width);
 
     // Before each picture: the palette to map to, which outlives the picture. The grey ramp is
