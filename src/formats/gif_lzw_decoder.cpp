@@ -84,6 +84,8 @@ void GifLzwDecoder::AddString(int32 prefix, uint8 suffix) {
 }
 
 void GifLzwDecoder::Emit(int32 string, GifPixelWriter& writer) {
+    // A few bytes of a hostile file expand to thousands of pixels that no row takes.
+    if (writer.Full()) return;
     const size_t length = strings_[static_cast<size_t>(string)].length;
     size_t left = length;
     while (left > 0) {

@@ -45,7 +45,7 @@ void GifPixelWriter::Write(const uint8* indices, size_t count) {
 void GifPixelWriter::WriteRun(const uint8* indices, int32 count) {
     const int32 x = area_.left + column_;
     const int32 y = area_.top + rows_.Row();
-    if (y >= bitmap_.Height()) return;
+    if (x >= bitmap_.Width() || y >= bitmap_.Height()) return;
     const int32 visible = std::min(count, bitmap_.Width() - x);
     uint8* target = bitmap_.Row(y) + static_cast<size_t>(x) * 4;
     for (int32 i = 0; i < visible; ++i) {

@@ -39,6 +39,8 @@ class GifPixelWriter {
                    const GifPixelColors& colors);
 
     void Write(const uint8* indices, size_t count);
+    // True once every row is written: whatever comes is dropped.
+    bool Full() const { return rows_.Done(); }
 
   private:
     void WriteRun(const uint8* indices, int32 count);
