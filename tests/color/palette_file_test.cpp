@@ -310,12 +310,23 @@ TEST(StripFli, NeedsTheSixBytesBehindTheChunk) {
     EXPECT_EQ(palette.colors[0], (rgb_color{10, 20, 30, 255}));
 }
 
+TEST(StripFli, NeedsTheSixBytesBehindALongChunkToo) {
+    const Bytes chunk =
+        ChunkHeader(6 + 7 + 50000, 11) + Bytes{1, 0, 0, 1, 10, 20, 30} + Bytes(50000);
+    Palette palette;
+
+    EXPECT_FALSE(StripFli(palette, FliHeaders(1) + chunk + Bytes(5)));
+    EXPECT_TRUE(IsAllBlack(palette));
+    EXPECT_TRUE(StripFli(palette, FliHeaders(1) + chunk + Bytes(6)));
+    EXPECT_EQ(palette.colors[0], (rgb_color{10, 20, 30, 255}));
+}
+
 TEST(StripFli, FailsOnImpossibleChunkSizes) {
-    for (const int64 size : {int64{-1}, int64{INT32_MIN}, int64{INT32_MAX}, int64{14}}) {
+    const Bytes data = Bytes{1, 0, 0, 1, 10, 20, 30} + Bytes(5000);
+    for (const int64 size : {int64{-1}, int64{INT32_MIN}, int64{INT32_MAX}, int64{5008}}) {
         Palette palette;
 
-        EXPECT_FALSE(StripFli(palette, FliHeaders(1) + ChunkHeader(size, 11) +
-                                           Bytes{1, 0, 0, 1, 10, 20, 30} + Bytes(6)));
+        EXPECT_FALSE(StripFli(palette, FliHeaders(1) + ChunkHeader(size, 11) + data));
 
         EXPECT_TRUE(IsAllBlack(palette));
     }

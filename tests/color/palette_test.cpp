@@ -144,6 +144,12 @@ TEST(Palette, ReturnsTheFirstOfTwoEqualEntries) {
     EXPECT_EQ(palette.IndexForColor(1, 2, 3), 1);
 }
 
+TEST(Palette, PrefersAnExactMatchToANearEntryInFrontOfIt) {
+    const Palette palette = PaletteOf({{1, 2, 4, 255}, {1, 2, 3, 255}});
+
+    EXPECT_EQ(palette.IndexForColor(1, 2, 3), 1);
+}
+
 TEST(Palette, MeasuresTheSumOfDifferences) {
     // Straight-line distance would prefer the second entry.
     const Palette palette = PaletteOf({{16, 0, 0, 255}, {6, 6, 6, 255}});

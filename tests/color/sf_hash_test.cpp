@@ -189,8 +189,9 @@ TEST(SFHash, LeavesTheCursorWhereItIsOnReset) {
 
 TEST(SFHash, GoesOnWithTheNextBucketWhenAResetLeftTheCursorPastAChain) {
     SFHash table(10);
-    Add(table, 5);
-    Add(table, 15);
+    for (const uint32 key : {5U, 15U, 25U})
+        Add(table, key);
+    table.NextItem();
     table.NextItem();
     table.Reset();
     Add(table, 5);
