@@ -1,5 +1,8 @@
 // Holds the documents against the files that they point at.
+#include <cstdio>
 #include <gtest/gtest.h>
+#include <memory>
+#include <set>
 #include <string>
 #include <vector>
 

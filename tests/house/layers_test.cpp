@@ -118,7 +118,7 @@ TEST(Layers, LibrariesAreLinkedOnlyToThoseThatTheirFolderMayInclude) {
     for (const Layer& layer : layers) {
         if (layer.library.empty()) continue;
         const std::string text = ReadText(ProjectRoot() / "src" / layer.folder / "CMakeLists.txt");
-        EXPECT_EQ(AllMatches(text, "kirto_library\\((\\w+)"), std::vector{layer.library});
+        EXPECT_EQ(AllMatches(text, "(?:kirto|add)_library\\((\\w+)"), std::vector{layer.library});
         std::set<std::string> allowed;
         for (const std::string& folder : layer.allowed) {
             if (const Layer* below = RowOf(folder, layers)) allowed.insert(below->library);
