@@ -41,7 +41,7 @@ const Kirto::Command* Kirto::CommandFor(uint32 code) {
         {kirto::kOpenFile, open_file, kUpdateAll},
         {kirto::kInsertFiles, [](Kirto& app, BMessage* message) { app.InsertFrame(message); },
          kUpdateAll},
-        {kirto::kInsertTiled, [](Kirto& app, BMessage* message) { app.InsertTiledFrame(message); },
+        {kirto::kInsertTiledFile, [](Kirto& app, BMessage* message) { app.InsertTiledFrame(message); },
          kUpdateAll},
         {kirto::kSaveFile, [](Kirto& app, BMessage* message) { app.Save(message); }, kUpdateAll},
         {kirto::kSaveAgain, save_again, kUpdateAll},

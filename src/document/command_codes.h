@@ -25,7 +25,7 @@ inline constexpr uint32 kStatusUpdate = FourCharCode("svup");
 // File panels and desktop to application. Refs "refs"; the first only, but for kInsertFiles.
 inline constexpr uint32 kOpenFile = FourCharCode("aofp");     // bool "reset", int32 "position"
 inline constexpr uint32 kInsertFiles = FourCharCode("aifp");  // int32 "position"
-inline constexpr uint32 kInsertTiled = FourCharCode("aitp");
+inline constexpr uint32 kInsertTiledFile = FourCharCode("aitp");
 // Save panel to application. Int64 "translator_id", ref "directory", string "name".
 inline constexpr uint32 kSaveFile = FourCharCode("asfp");
 

@@ -16,9 +16,10 @@ inline constexpr uint32 B_TRANSLATOR_BITMAP = kirto::FourCharCode("bits");
 
 // One format that a translator reads or writes.
 struct translation_format {
-    uint32 type = 0;   // four-character code
-    std::string mime;  // "image/png"
-    std::string name;  // "PNG image"
+    uint32 type = 0;                      // four-character code
+    std::string mime;                     // "image/png"
+    std::string name;                     // "PNG image"
+    std::vector<std::string> extensions;  // without dot, lower case, the usual one first
 };
 
 // Turns image files into pictures and pictures into image files. One roster a process, owned by the
@@ -45,4 +46,6 @@ class BTranslatorRoster {
     virtual std::vector<translation_format> InputFormats(translator_id translator) const = 0;
     // Includes B_TRANSLATOR_BITMAP where the translator can read.
     virtual std::vector<translation_format> OutputFormats(translator_id translator) const = 0;
+    // The settings the translator knows, each with its default value; empty for none.
+    virtual BMessage DefaultSettings(translator_id translator) const = 0;
 };

@@ -17,6 +17,10 @@ constexpr OptionText kOperations[] = {
     {"--set", "KEY=VALUE", "Set a setting for this run, from here on"},
     {"--open", "FILE", "Open a GIF, FLI or FLC animation in place of the current one"},
     {"--insert-animation", "FILE@N", "Insert an animation's frames so that the first is frame N"},
+    {"--insert", "FILE[@N]", "Insert an image as frame N, or behind the current frame"},
+    {"--insert-tiled", "FILE,ROWS,COLUMNS[,by-column]", "Cut an image into frames"},
+    {"--fade", "MODE:COUNT[:RRGGBB]",
+     "Fade the current frame: to-color, from-color, to-next or from-previous"},
     {"--select", "N", "Make frame N the current one (the first is 0)"},
     {"--remove", nullptr, "Remove the current frame"},
     {"--move-up", nullptr, "Move the current frame one place towards the start"},
@@ -36,6 +40,9 @@ constexpr OptionText kOperations[] = {
     {"--frame-palette", "off|web-safe|system|greyscale|optimal|FILE",
      "Give the current frame its own palette"},
     {"--save", "FILE.gif", "Save as an animated GIF"},
+    {"--save-sequence", "NAME.EXT", "Save each frame as an image NAME0000.EXT, NAME0001.EXT, ..."},
+    {"--list-formats", nullptr, "List the image formats that can be read and written"},
+    {"--preview", nullptr, "Show the animation in the web browser"},
     {"--info", nullptr, "Print what the animation is made of"},
     {"--info-json", nullptr, "Print the same as one JSON object"},
 };
@@ -81,6 +88,9 @@ std::optional<int> ParseArguments(int argc, const char* const* argv, CliArgument
     app.add_flag("--salvage", arguments->salvage,
                  "Keep the frames before the damage when an animation is damaged");
     app.add_flag("--quiet", arguments->quiet, "Show no progress and no debug lines");
+    app.add_option("--format", arguments->format,
+                   "Write image sequences in this format, whatever their extension")
+        ->type_name("NAME");
     uint64 mebibytes = 0;
     const CLI::Option* limit =
         app.add_option("--memory-limit", mebibytes, "Let frames take this much memory")

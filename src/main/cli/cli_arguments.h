@@ -26,6 +26,7 @@ struct CliArguments {
     bool salvage = false;
     bool quiet = false;
     std::optional<uint64> memory_limit;  // bytes
+    std::string format;                  // of image sequences; empty: by their extension
 };
 
 // Reads the command line. An exit status means that the program ends with it at once: help or the

@@ -1,43 +1,59 @@
 #pragma once
 
 #include <memory>
-#include <optional>
 #include <string>
 
-#include "document/animation_document.h"
+#include "app/kirto.h"
 #include "main/cli/cli_arguments.h"
-#include "main/cli/progress_line.h"
-#include "platform/alert.h"
-#include "platform/file.h"
+#include "main/cli/headless_desktop.h"
+#include "main/cli/idle_barrier.h"
+#include "platform/translator_roster.h"
 #include "settings/prefs.h"
 
 namespace kirto {
 
-// Carries out the operations of one command line, in order, on one document. Speaks to the user on
-// standard error, each line opening with the program's name; results go to standard output.
-class CliSession : private AlertPresenter {
+// Drives the application object through the operations of one command line: commands are posted to
+// it as a window would post them, plain fields are written as a window would write them, and each
+// operation is over before the next begins. Speaks to the user on standard error; results go to
+// standard output.
+class CliSession {
   public:
-    explicit CliSession(CliArguments arguments);
-    ~CliSession() override;
+    // The roster outlives the session.
+    CliSession(CliArguments arguments, BTranslatorRoster& roster);
+    ~CliSession();
 
     // Runs to the end or to the first operation that fails; the program's exit status.
     int Run();
+
+    // Ends the operation in hand before its next frame, and the run with it. Safe in a signal
+    // handler.
+    void RequestStop();
 
   private:
     enum class Outcome { kDone, kFailed, kUsage };
     using Handler = Outcome (CliSession::*)(const std::string& value);
 
     static Handler HandlerFor(const std::string& option);
-    int32 Present(const BAlert& alert) override;
+    void StartApplication();
 
-    Outcome Set(const std::string& value);
+    // Operations on files (cli_session_files.cpp).
     Outcome Open(const std::string& value);
     Outcome InsertAnimation(const std::string& value);
+    Outcome InsertImages(const std::string& value);
+    Outcome InsertTiled(const std::string& value);
+    Outcome Save(const std::string& value);
+    Outcome SaveSequence(const std::string& value);
+    Outcome ListFormats(const std::string& value);
+    Outcome Preview(const std::string& value);
+
+    // Operations in memory (cli_session_edits.cpp).
+    Outcome Set(const std::string& value);
     Outcome SelectFrame(const std::string& value);
     Outcome Remove(const std::string& value);
     Outcome MoveUp(const std::string& value);
     Outcome MoveDown(const std::string& value);
     Outcome Reverse(const std::string& value);
+    Outcome FadeFrames(const std::string& value);
     Outcome SetWidth(const std::string& value);
     Outcome SetHeight(const std::string& value);
     Outcome SetLoop(const std::string& value);
@@ -49,13 +65,14 @@ class CliSession : private AlertPresenter {
     Outcome SetFrameOffset(const std::string& value);
     Outcome SetFramePause(const std::string& value);
     Outcome SetFramePalette(const std::string& value);
-    Outcome Save(const std::string& value);
     Outcome PrintInfo(const std::string& value);
     Outcome PrintInfoJson(const std::string& value);
 
-    // Decodes the animation at path into the document from the position on; *complete tells whether
-    // all of it was sound.
-    Outcome Decode(const std::string& path, int32 position, bool* complete);
+    // Posts the command and waits until the application is idle; fails when an alert told of a
+    // failure.
+    Outcome Post(const BMessage& message);
+    Outcome Post(uint32 what) { return Post(BMessage(what)); }
+    Outcome SaveAs(const std::string& path, translator_id translator);
     Outcome LoadPalette(Palette* palette, const std::string& path);
     // Numbers as the windows check them: at least 0 and, where maximum is not -1, at most that.
     Outcome CheckInput(const char* name, const std::string& text, int32 maximum, int32* number);
@@ -65,19 +82,23 @@ class CliSession : private AlertPresenter {
     Outcome SetPaletteIndex(const char* name, const std::string& text, int32* field);
     // Fails without a current frame.
     Outcome FindCurrentFrame(Frame** frame);
+    // The translator that writes the format: by its name or, with a dot, by a file's extension.
+    translator_id WriterNamed(const std::string& name) const;
     Outcome Modified();
 
-    void Complain(const std::string& text);
     Outcome Fail(const std::string& text);
     Outcome Refuse(const std::string& text);
 
-    CliArguments arguments_;
-    Prefs prefs_;
-    std::shared_ptr<ProgressLine> progress_;
-    // Made just before the first operation that is no "--set", so that settings come first.
-    std::unique_ptr<AnimationDocument> document_;
-    std::string file_;  // what the operation in hand works on, for messages
+    const CliArguments arguments_;
+    BTranslatorRoster& roster_;
+    HeadlessDesktop desktop_;
     AlertPresenter* previous_presenter_;
+    Prefs prefs_;
+    IdleBarrier barrier_;
+    // Made just before the first operation that is no "--set", so that settings come first.
+    std::unique_ptr<Kirto> app_;
+    std::atomic<AnimationDocument*> running_ = nullptr;  // app_, for RequestStop
+    std::atomic<bool> stopped_ = false;
 };
 
 }  // namespace kirto

@@ -1,0 +1,176 @@
+// The operations that read and write files.
+#include <algorithm>
+#include <cctype>
+#include <cstdio>
+#include <filesystem>
+
+#include "document/command_codes.h"
+#include "main/cli/cli_session.h"
+#include "platform/entry_ref.h"
+#include "platform/number.h"
+#include "platform/text.h"
+
+namespace kirto {
+
+namespace {
+
+entry_ref AbsoluteRef(const std::string& path) {
+    std::error_code error;
+    const std::filesystem::path absolute = std::filesystem::absolute(path, error);
+    return entry_ref(error ? path : absolute.lexically_normal().string());
+}
+
+// "FILE@N" as a file and a position; the whole text and -1 where it does not end in a number.
+std::string SplitPosition(const std::string& value, int32* position) {
+    const size_t at = value.rfind('@');
+    *position = -1;
+    if (at == std::string::npos || !ParseNumber(value.substr(at + 1), position)) return value;
+    return value.substr(0, at);
+}
+
+// Takes the text behind the last comma off the value; empty without a comma.
+std::string TakeLastItem(std::string* value) {
+    const size_t comma = value->rfind(',');
+    if (comma == std::string::npos) return {};
+    std::string item = value->substr(comma + 1);
+    value->resize(comma);
+    return item;
+}
+
+std::string LowerCase(std::string text) {
+    std::transform(text.begin(), text.end(), text.begin(),
+                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    return text;
+}
+
+const translation_format* FileFormatOf(const std::vector<translation_format>& formats) {
+    for (const translation_format& format : formats) {
+        if (format.type != B_TRANSLATOR_BITMAP) return &format;
+    }
+    return nullptr;
+}
+
+}  // namespace
+
+CliSession::Outcome CliSession::Open(const std::string& value) {
+    desktop_.SetSubject(value);
+    const BFile file(value, B_READ_ONLY);
+    if (file.InitCheck() != B_OK) return Fail(value + ": " + StatusText(file.InitCheck()) + ".");
+    BMessage message(kOpenFile);
+    message.AddRef("refs", AbsoluteRef(value));
+    return Post(message);
+}
+
+CliSession::Outcome CliSession::InsertAnimation(const std::string& value) {
+    int32 position = -1;
+    const std::string path = SplitPosition(value, &position);
+    if (path == value) return Refuse("--insert-animation: \"" + value + "\" is no FILE@N.");
+    desktop_.SetSubject(path);
+    const BFile file(path, B_READ_ONLY);
+    if (file.InitCheck() != B_OK) return Fail(path + ": " + StatusText(file.InitCheck()) + ".");
+    BMessage message(kOpenFile);
+    message.AddRef("refs", AbsoluteRef(path));
+    message.AddBool("reset", false);
+    message.AddInt32("position", position);
+    return Post(message);
+}
+
+CliSession::Outcome CliSession::InsertImages(const std::string& value) {
+    int32 position = -1;
+    std::string path = SplitPosition(value, &position);
+    // A file whose own name ends so is meant as it stands.
+    std::error_code error;
+    if (path != value && std::filesystem::exists(value, error)) {
+        path = value;
+        position = -1;
+    }
+    desktop_.SetSubject(path);
+    BMessage message(kInsertFiles);
+    message.AddRef("refs", AbsoluteRef(path));
+    message.AddInt32("position", position);
+    return Post(message);
+}
+
+CliSession::Outcome CliSession::InsertTiled(const std::string& value) {
+    std::string path = value;
+    TileChoice tiles;
+    tiles.columns = TakeLastItem(&path);
+    tiles.column_by_column = tiles.columns == "by-column";
+    if (tiles.column_by_column) tiles.columns = TakeLastItem(&path);
+    tiles.rows = TakeLastItem(&path);
+    int32 number = 0;
+    if (!ParseNumber(tiles.rows, &number) || !ParseNumber(tiles.columns, &number)) {
+        return Refuse("--insert-tiled: \"" + value + "\" is no FILE,ROWS,COLUMNS[,by-column].");
+    }
+    desktop_.SetSubject(path);
+    desktop_.SetTiles(tiles);
+    BMessage message(kInsertTiledFile);
+    message.AddRef("refs", AbsoluteRef(path));
+    return Post(message);
+}
+
+CliSession::Outcome CliSession::Save(const std::string& value) {
+    return SaveAs(value, 0);
+}
+
+CliSession::Outcome CliSession::SaveSequence(const std::string& value) {
+    const std::string extension = std::filesystem::path(value).extension().string();
+    const std::string wanted = arguments_.format.empty() ? extension : arguments_.format;
+    const translator_id translator = WriterNamed(wanted);
+    if (translator == 0) {
+        return Refuse("--save-sequence: There is no format \"" + wanted +
+                      "\" to write; --list-formats names them.");
+    }
+    return SaveAs(value, translator);
+}
+
+CliSession::Outcome CliSession::SaveAs(const std::string& path, translator_id translator) {
+    desktop_.SetSubject(path);
+    const entry_ref ref = AbsoluteRef(path);
+    BMessage message(kSaveFile);
+    message.AddInt64("translator_id", translator);
+    message.AddRef("directory", entry_ref(ref.Directory()));
+    message.AddString("name", ref.Leaf());
+    return Post(message);
+}
+
+translator_id CliSession::WriterNamed(const std::string& name) const {
+    const std::string wanted = LowerCase(name);
+    for (const translator_id id : roster_.Translators()) {
+        const std::vector<translation_format> formats = roster_.OutputFormats(id);
+        const translation_format* format = FileFormatOf(formats);
+        if (!format) continue;
+        if (wanted == LowerCase(format->name)) return id;
+        const std::string bare = wanted.substr(wanted.rfind('.') + 1);
+        for (const std::string& extension : format->extensions) {
+            if (bare == extension) return id;
+        }
+    }
+    return 0;
+}
+
+CliSession::Outcome CliSession::ListFormats(const std::string&) {
+    for (const translator_id id : roster_.Translators()) {
+        const std::vector<translation_format> inputs = roster_.InputFormats(id);
+        const std::vector<translation_format> outputs = roster_.OutputFormats(id);
+        const translation_format* output = FileFormatOf(outputs);
+        const translation_format* shown = output ? output : FileFormatOf(inputs);
+        if (!shown) continue;
+        std::string extensions;
+        for (const std::string& extension : shown->extensions)
+            extensions += " ." + extension;
+        std::printf("%-24s %-28s %-10s%s\n", shown->name.c_str(), shown->mime.c_str(),
+                    inputs.empty() ? "write"
+                    : output       ? "read/write"
+                                   : "read",
+                    extensions.c_str());
+    }
+    return Outcome::kDone;
+}
+
+CliSession::Outcome CliSession::Preview(const std::string&) {
+    desktop_.SetSubject("--preview");
+    return app_->FirstFrame() ? Post(kPreview) : Fail("There is no frame to preview.");
+}
+
+}  // namespace kirto

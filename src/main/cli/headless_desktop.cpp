@@ -1,0 +1,87 @@
+#include "main/cli/headless_desktop.h"
+
+#include <cstdio>
+#include <unistd.h>
+
+#include "app/open_animation.h"
+#include "main/cli/viewer.h"
+#include "platform/entry_ref.h"
+#include "platform/file.h"
+
+namespace kirto {
+
+namespace {
+
+// Answers for the one panel whose fields a command reads.
+class HeadlessPanel : public FilePanel {
+  public:
+    explicit HeadlessPanel(const TileChoice& tiles) : tiles_(tiles) {}
+    std::string RowsText() const override { return tiles_.rows; }
+    std::string ColumnsText() const override { return tiles_.columns; }
+    bool ColumnByColumn() const override { return tiles_.column_by_column; }
+
+  private:
+    const TileChoice& tiles_;
+};
+
+}  // namespace
+
+HeadlessDesktop::HeadlessDesktop(bool salvage, bool quiet)
+    : salvage_(salvage), progress_(std::make_shared<ProgressLine>(!quiet)) {}
+
+int32 HeadlessDesktop::Present(const BAlert& alert) {
+    Complain(subject_.empty() ? alert.Text() : subject_ + ": " + alert.Text());
+    if (salvage_ && alert.Buttons().front() == "Salvage") return 0;
+    failure_ = true;
+    return static_cast<int32>(alert.Buttons().size()) - 1;
+}
+
+BMessenger HeadlessDesktop::OpenMainWindow(const BRect&, const std::string&) {
+    return BMessenger(progress_);
+}
+
+BRect HeadlessDesktop::ScreenFrame() {
+    return {0, 0, 1023, 767};
+}
+
+std::unique_ptr<FilePanel> HeadlessDesktop::MakeFilePanel(FilePanelKind, BMessenger) {
+    return std::make_unique<HeadlessPanel>(tiles_);
+}
+
+// On the command line a file's name decides first, then its first bytes.
+std::string HeadlessDesktop::MimeTypeOf(const std::string& path) {
+    if (ClassifyAnimation(entry_ref(path).Leaf(), "") != AnimationType::kNone) return {};
+    BFile file(path, B_READ_ONLY);
+    switch (ClassifyContent(&file)) {
+        case AnimationType::kGif:
+            return "image/gif";
+        case AnimationType::kFli:
+            return "video/x-fli";
+        case AnimationType::kNone:
+            break;
+    }
+    return {};
+}
+
+// The preview goes with the program, so the program stays until it has been seen.
+void HeadlessDesktop::OpenInBrowser(const std::string& path) {
+    ClearProgress();
+    if (!RunViewer(path)) {
+        Complain(path + ": The preview is written, but no program to show it was found.");
+        failure_ = true;
+        return;
+    }
+    if (!isatty(STDIN_FILENO)) return;
+    std::fputs("Press Enter when you have seen the preview.", stderr);
+    int character = 0;
+    do {
+        character = std::getchar();
+    } while (character != EOF && character != '\n');
+}
+
+void HeadlessDesktop::Complain(const std::string& text) {
+    ClearProgress();
+    std::fprintf(stderr, "kirto-cli: %s\n", text.c_str());
+}
+
+}  // namespace kirto

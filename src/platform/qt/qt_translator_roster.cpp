@@ -1,0 +1,207 @@
+#include "platform/qt/qt_translator_roster.h"
+
+#include <QCoreApplication>
+#include <QImage>
+#include <QImageReader>
+#include <QImageWriter>
+#include <QLibraryInfo>
+#include <algorithm>
+#include <cstring>
+
+#include "platform/qt/file_device.h"
+#include "platform/targa.h"
+
+namespace kirto {
+
+namespace {
+
+bool IsTarga(const ImageFormat& format) {
+    return *format.qt_name == '\0';
+}
+
+bool HasTransparency(const BBitmap& bitmap) {
+    const size_t alpha = IsBigEndian(bitmap.ColorSpace()) ? 0 : 3;
+    for (size_t i = alpha; i < bitmap.BitsLength(); i += 4) {
+        if (bitmap.Bits()[i] != 255) return true;
+    }
+    return false;
+}
+
+// The picture for Qt; without transparent pixels it says so, so that files get no alpha channel for
+// nothing.
+QImage ImageOf(const BBitmap& bitmap) {
+    const QImage::Format format =
+        HasTransparency(bitmap) ? QImage::Format_ARGB32 : QImage::Format_RGB32;
+    QImage image(bitmap.Width(), bitmap.Height(), format);
+    if (image.isNull()) return image;
+    for (int32 y = 0; y < bitmap.Height(); ++y) {
+        uchar* target = image.scanLine(y);
+        std::memcpy(target, bitmap.Row(y), bitmap.BytesPerRow());
+        if (!IsBigEndian(bitmap.ColorSpace())) continue;
+        for (int32 x = 0; x < bitmap.Width(); ++x)
+            std::reverse(target + x * 4, target + x * 4 + 4);
+    }
+    return image;
+}
+
+std::shared_ptr<BBitmap> BitmapOf(const QImage& image, std::shared_ptr<PixelBudget> budget) {
+    const bool has_alpha = image.hasAlphaChannel();
+    auto bitmap = std::make_shared<BBitmap>(BRect::OfSize(image.width(), image.height()),
+                                            has_alpha ? B_RGBA32 : B_RGB32, std::move(budget));
+    if (bitmap->InitCheck() != B_OK) return nullptr;
+    const QImage pixels =
+        image.convertToFormat(has_alpha ? QImage::Format_ARGB32 : QImage::Format_RGB32);
+    if (pixels.isNull()) return nullptr;
+    for (int32 y = 0; y < bitmap->Height(); ++y) {
+        std::memcpy(bitmap->Row(y), pixels.constScanLine(y), bitmap->BytesPerRow());
+    }
+    return bitmap;
+}
+
+// Bytes that the budget still allows, rounded down to the whole mebibytes that Qt's own limit
+// knows.
+int AllocationLimit(const PixelBudget* budget) {
+    const uint64 limit = budget ? budget->Limit() : PixelBudget::DefaultLimit();
+    const uint64 used = budget ? budget->Used() : 0;
+    const uint64 left = limit > used ? limit - used : 0;
+    return static_cast<int>(std::clamp<uint64>(left >> 20, 1, 1 << 20));
+}
+
+bool FitsBudget(QSize size, const PixelBudget* budget) {
+    if (!size.isValid()) return true;
+    const uint64 bytes = static_cast<uint64>(size.width()) * static_cast<uint64>(size.height()) * 4;
+    const uint64 limit = budget ? budget->Limit() : PixelBudget::DefaultLimit();
+    const uint64 used = budget ? budget->Used() : 0;
+    return used <= limit && bytes <= limit - used;
+}
+
+// The settings of the writer, absent ones at the format's defaults, as Qt's writer knows them.
+void ApplySettings(const BMessage& settings, const ImageFormat& format, QImageWriter* writer) {
+    const auto number = [&](const char* name, int32* value) {
+        return settings.FindInt32(name, value) == B_OK ||
+               format.settings.FindInt32(name, value) == B_OK;
+    };
+    const auto flag = [&](const char* name, bool* value) {
+        return settings.FindBool(name, value) == B_OK ||
+               format.settings.FindBool(name, value) == B_OK;
+    };
+    int32 value = 0;
+    bool on = false;
+    if (number("quality", &value)) writer->setQuality(std::clamp(value, 0, 100));
+    // 100 is how the WebP writer is asked for lossless files; below it, they are lossy.
+    if (flag("lossless", &on)) writer->setQuality(on ? 100 : std::clamp(value, 0, 99));
+    // Qt counts PNG's levels 0 to 9 as per cent, rounding down.
+    if (number("compression", &value)) {
+        writer->setCompression((std::clamp(value, 0, 9) * 100 + 8) / 9);
+    }
+    if (flag("compression", &on)) writer->setCompression(on ? 1 : 0);
+}
+
+status_t WriteTargaImage(const BBitmap& source, const BMessage& settings, const ImageFormat& format,
+                         BFile& destination) {
+    bool packed = false;
+    if (settings.FindBool("rle", &packed) != B_OK) format.settings.FindBool("rle", &packed);
+    const QImage image = ImageOf(source);
+    const QImage rgba = image.convertToFormat(QImage::Format_RGBA8888);
+    if (rgba.isNull()) return B_NO_MEMORY;
+    return WriteTarga(rgba.constBits(), rgba.width(), rgba.height(), image.hasAlphaChannel(),
+                      packed, destination);
+}
+
+}  // namespace
+
+QtTranslatorRoster::QtTranslatorRoster() {
+    const QList<QByteArray> readable = QImageReader::supportedImageFormats();
+    const QList<QByteArray> writable = QImageWriter::supportedImageFormats();
+    for (const ImageFormat& format : KnownImageFormats()) {
+        const bool reads = IsTarga(format) || readable.contains(format.qt_name);
+        const bool writes = IsTarga(format) || writable.contains(format.qt_name);
+        if (reads || writes) entries_.push_back({&format, reads, writes});
+    }
+}
+
+void QtTranslatorRoster::RestrictPluginFolders() {
+    qunsetenv("QT_PLUGIN_PATH");
+    QCoreApplication::setLibraryPaths({QLibraryInfo::path(QLibraryInfo::PluginsPath)});
+}
+
+status_t QtTranslatorRoster::Translate(BFile& source, std::shared_ptr<PixelBudget> budget,
+                                       std::shared_ptr<BBitmap>* result) {
+    result->reset();
+    if (source.InitCheck() != B_OK) return source.InitCheck();
+    FileDevice device(source, QIODevice::ReadOnly);
+    QImageReader reader(&device);
+    reader.setDecideFormatFromContent(true);
+    reader.setAutoTransform(true);
+    // Qt's own Targa reader knows only some of the format's forms.
+    if (!reader.canRead() || reader.format() == "tga") {
+        return ReadTarga(source, std::move(budget), result) == B_OK ? B_OK : B_NO_TRANSLATOR;
+    }
+    if (!FitsBudget(reader.size(), budget.get())) return B_NO_MEMORY;
+    QImageReader::setAllocationLimit(AllocationLimit(budget.get()));
+    const QImage image = reader.read();
+    if (image.isNull()) return B_NO_TRANSLATOR;
+    *result = BitmapOf(image, std::move(budget));
+    return *result ? B_OK : B_NO_MEMORY;
+}
+
+status_t QtTranslatorRoster::Translate(const BBitmap& source, translator_id translator,
+                                       uint32 format, const BMessage& settings,
+                                       BFile& destination) {
+    const Entry* entry = EntryFor(translator);
+    if (!entry || !entry->writes || format != entry->format->format.type) return B_NO_TRANSLATOR;
+    if (source.InitCheck() != B_OK || !Is32Bit(source.ColorSpace())) return B_BAD_TYPE;
+    if (IsTarga(*entry->format)) {
+        return WriteTargaImage(source, settings, *entry->format, destination);
+    }
+    const QImage image = ImageOf(source);
+    if (image.isNull()) return B_NO_MEMORY;
+    FileDevice device(destination, QIODevice::WriteOnly);
+    QImageWriter writer(&device, entry->format->qt_name);
+    ApplySettings(settings, *entry->format, &writer);
+    if (!writer.write(image)) return B_IO_ERROR;
+    return destination.WriteStatus();
+}
+
+std::vector<translator_id> QtTranslatorRoster::Translators() const {
+    std::vector<translator_id> ids;
+    for (const Entry& entry : entries_)
+        ids.push_back(entry.format->id);
+    return ids;
+}
+
+bool QtTranslatorRoster::GetTranslatorInfo(translator_id translator, std::string* name) const {
+    const Entry* entry = EntryFor(translator);
+    if (entry) *name = entry->format->format.name;
+    return entry != nullptr;
+}
+
+std::vector<translation_format> QtTranslatorRoster::InputFormats(translator_id translator) const {
+    const Entry* entry = EntryFor(translator);
+    if (!entry || !entry->reads) return {};
+    return {entry->format->format};
+}
+
+std::vector<translation_format> QtTranslatorRoster::OutputFormats(translator_id translator) const {
+    std::vector<translation_format> formats;
+    const Entry* entry = EntryFor(translator);
+    if (entry && entry->reads) {
+        formats.push_back({B_TRANSLATOR_BITMAP, "image/x-be-bitmap", "Bitmap", {}});
+    }
+    if (entry && entry->writes) formats.push_back(entry->format->format);
+    return formats;
+}
+
+BMessage QtTranslatorRoster::DefaultSettings(translator_id translator) const {
+    const Entry* entry = EntryFor(translator);
+    return entry && entry->writes ? entry->format->settings : BMessage();
+}
+
+const QtTranslatorRoster::Entry* QtTranslatorRoster::EntryFor(translator_id translator) const {
+    for (const Entry& entry : entries_) {
+        if (entry.format->id == translator) return &entry;
+    }
+    return nullptr;
+}
+
+}  // namespace kirto

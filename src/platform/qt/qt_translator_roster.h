@@ -1,0 +1,42 @@
+#pragma once
+
+#include <vector>
+
+#include "platform/qt/image_format.h"
+#include "platform/translator_roster.h"
+
+namespace kirto {
+
+// The image formats of Qt's installed plugins, one translator a format, and Targa. Pictures are
+// refused by their size before they are decoded. Needs a QGuiApplication while it is used;
+// Translate may be called from any thread, one call at a time.
+class QtTranslatorRoster : public BTranslatorRoster {
+  public:
+    QtTranslatorRoster();
+
+    status_t Translate(BFile& source, std::shared_ptr<PixelBudget> budget,
+                       std::shared_ptr<BBitmap>* result) override;
+    status_t Translate(const BBitmap& source, translator_id translator, uint32 format,
+                       const BMessage& settings, BFile& destination) override;
+    std::vector<translator_id> Translators() const override;
+    bool GetTranslatorInfo(translator_id translator, std::string* name) const override;
+    std::vector<translation_format> InputFormats(translator_id translator) const override;
+    std::vector<translation_format> OutputFormats(translator_id translator) const override;
+    BMessage DefaultSettings(translator_id translator) const override;
+
+    // Keeps Qt from loading plugins from anywhere but its own installed folder. Call before the
+    // first use of Qt's image classes and before the QGuiApplication is made.
+    static void RestrictPluginFolders();
+
+  private:
+    struct Entry {
+        const ImageFormat* format;
+        bool reads;
+        bool writes;
+    };
+    const Entry* EntryFor(translator_id translator) const;
+
+    std::vector<Entry> entries_;
+};
+
+}  // namespace kirto

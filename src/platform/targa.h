@@ -1,0 +1,21 @@
+// Targa images, read and written through the stb libraries.
+#pragma once
+
+#include <memory>
+
+#include "platform/bitmap.h"
+#include "platform/file.h"
+
+namespace kirto {
+
+// Reads the file as Targa, of any of its pixel and packing forms. Targa has no signature, so ask
+// last. B_BAD_DATA for what is no Targa file, B_NO_MEMORY when the budget refuses the picture.
+status_t ReadTarga(BFile& source, std::shared_ptr<PixelBudget> budget,
+                   std::shared_ptr<BBitmap>* result);
+
+// Writes rows of 4-byte pixels in the order red, green, blue, alpha, without padding; alpha is
+// dropped unless with_alpha. Not to be called by two threads at once.
+status_t WriteTarga(const uint8* rgba, int32 width, int32 height, bool with_alpha, bool packed,
+                    BFile& destination);
+
+}  // namespace kirto
