@@ -1,17 +1,18 @@
 #pragma once
 
 #include <memory>
-#include <span>
-#include <vector>
 
 #include "document/animation_document.h"
 #include "document/frame.h"
+#include "formats/fli_input.h"
+#include "formats/fli_pixel_writer.h"
 #include "platform/file.h"
 #include "platform/types.h"
 
 // Reads a FLI or FLC animation into a document, one Frame a displayed frame, each at full size. The
 // construction does all the work on the editing thread; frames are inserted as soon as they are
-// complete and stay when a later one fails. The layout is described in docs/formats/fli.md.
+// complete and stay when a later one fails. The methods stand in the order of the file; the layout
+// is described in docs/formats/fli.md.
 class FliLoad {
   public:
     bool failed = false;  // decoding ended before the last frame
@@ -23,23 +24,46 @@ class FliLoad {
     int32 End() const { return position_; }
 
   private:
+    // size: of the chunk in the file, its header included; may be anything.
+    struct Chunk {
+        int32 size = 0;
+        uint16 type = 0;
+        int64 DataSize() const;
+    };
+
     bool ReadFliHeader();
     bool ReadFliFrameHeader();
-    bool ReadFliFrameData(int32 index, int32 position);
+    bool ReadRecord(int32 index);
     bool ReadFLCNewFrame();
-    bool ReadFliCOLORChunk(Frame* frame, int32 size, int32 position, bool full8bit);
-    bool ReadFliLCChunk(Frame* frame, int32 size);
-    bool ReadFliBRUNChunk(Frame* frame, int32 size);
-    bool ReadFliCOPYChunk(Frame* frame);
-    bool ReadFliDELTAChunk(Frame* frame, int32 size);
-    bool ReadFliMINIChunk(int32 size);
-    bool ReadFliBLACKChunk(Frame* frame);
+    bool ShowPreviousFrameLonger();
+    bool ReadFliFrameData(int32 index, int32 position);
+    std::unique_ptr<Frame> NewFrame(int32 index, int32 position);
+    bool CopyPreviousFrame(Frame* frame, int32 position);
+    bool ReadChunkHeader(Chunk* chunk);
+    bool ReadChunk(Frame* frame, int32 position);
+    bool SkipUnknownChunk(const Chunk& chunk);
+    void FinishPalette(Frame* frame);
 
-    BFile* file_;
+    // The chunk readers. size: bytes of the chunk's data, as its header says. False when the file
+    // holds fewer or a seek or an allocation fails.
+    bool ReadFliCOLORChunk(Frame* frame, int64 size, int32 position, bool full8bit);
+    Palette* PaletteToChange(Frame* frame, int32 position);
+    bool ReadFliLCChunk(Frame* frame, int64 size);
+    bool ReadFliBRUNChunk(Frame* frame, int64 size);
+    bool ReadFliCOPYChunk(Frame* frame);
+    bool ReadFliDELTAChunk(Frame* frame, int64 size);
+    bool ReadFliMINIChunk(int64 size);
+    bool ReadFliBLACKChunk(Frame* frame);
+    kirto::FliPixelWriter WriterFor(Frame* frame);
+    void StartPicture(Frame* frame);
+    const Palette& PaletteOf(const Frame* frame) const;
+
+    kirto::FliInput input_;
     AnimationDocument& document_;
     int32 position_;
     int32 frame_count_ = 0;
-    int32 bytes_left_ = 0;       // of the current record
-    int32 chunk_count_ = 0;      // of the current record
-    bool skipped_block_ = false; // the current record is of type 0x00A1
+    int64 bytes_left_ = 0;        // of the current record, as far as its chunks are read
+    int32 chunk_count_ = 0;       // of the current record
+    bool skipped_block_ = false;  // the current record is of type 0x00A1
+    bool blank_ = false;          // the current picture is still to be filled with black
 };

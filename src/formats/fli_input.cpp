@@ -1,0 +1,50 @@
+#include "formats/fli_input.h"
+
+#include <algorithm>
+
+namespace kirto {
+
+namespace {
+
+// What a read costs beyond its bytes. Together with the factor it leaves every file that is read
+// once below its allowance: the smallest chunk, 6 bytes in one read, may cost 96 and costs 38.
+constexpr int64 kReadCost = 32;
+constexpr int64 kWorkPerByte = 16;
+// For small files whose sizes are a little wrong.
+constexpr int64 kSlack = int64{16} << 20;
+constexpr int64 kLargestFile = int64{1} << 56;
+
+}  // namespace
+
+FliInput::FliInput(BFile& file)
+    : file_(file), work_left_(kSlack + kWorkPerByte * std::min(file.Size(), kLargestFile)) {}
+
+bool FliInput::Read(std::span<uint8> buffer) {
+    const int64 size = static_cast<int64>(buffer.size());
+    return Spend(kReadCost + size) && file_.ReadExactly(buffer.data(), buffer.size());
+}
+
+bool FliInput::ReadBlock(int64 size, std::span<const uint8>* block) {
+    *block = {};
+    if (size == 0) return true;
+    if (size < 0 || size > file_.Size() - file_.Position()) return false;
+    const size_t count = static_cast<size_t>(size);
+    if (count > capacity_) {
+        block_ = AllocateArray<uint8>(count);
+        capacity_ = block_ ? count : 0;
+    }
+    if (!block_ || !Read({block_.get(), count})) return false;
+    *block = {block_.get(), count};
+    return true;
+}
+
+bool FliInput::Skip(int64 distance) {
+    return file_.Seek(distance, SEEK_FROM_CURRENT) >= 0;
+}
+
+bool FliInput::Spend(int64 work) {
+    work_left_ -= work;
+    return work_left_ >= 0;
+}
+
+}  // namespace kirto

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <span>
+
+#include "platform/allocation.h"
+#include "platform/file.h"
+#include "platform/types.h"
+
+namespace kirto {
+
+// A FLI or FLC file as its decoder reads it: whole blocks, skips in both directions, and an account
+// of the work. A sound file is read once; one whose sizes lie can lead back to the same bytes
+// 65535 times in each of 65535 records. So every read and every filled picture is charged, and a
+// file that asks for much more than its size explains ends as if it were cut off.
+class FliInput {
+  public:
+    // file: outlives this. Positioned by its owner.
+    explicit FliInput(BFile& file);
+
+    // True when the buffer was filled from the file's position.
+    bool Read(std::span<uint8> buffer);
+    // The next size bytes, as a view that is valid until the next call. False when the size is
+    // negative, the file holds fewer bytes, or memory is short.
+    bool ReadBlock(int64 size, std::span<const uint8>* block);
+    // Moves by the distance, which may be negative. False before the file's start; past its end is
+    // allowed.
+    bool Skip(int64 distance);
+
+    // Charges work, in bytes handled. False when the account is used up.
+    bool Spend(int64 work);
+    // Allows this much more work: each picture brings its own.
+    void Allow(int64 work) { work_left_ += work; }
+
+  private:
+    BFile& file_;
+    int64 work_left_;
+    AllocatedArray<uint8> block_;
+    size_t capacity_ = 0;  // of block_
+};
+
+}  // namespace kirto
