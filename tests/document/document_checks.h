@@ -1,0 +1,56 @@
+// Frames for list tests, and what a sound list looks like.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include "support/test_support.h"
+
+namespace kirto::test {
+
+// A frame of one black pixel.
+inline std::unique_ptr<Frame> MakeFrame(const std::string& name, int32 index) {
+    auto frame = std::make_unique<Frame>(name, 1, 1, index);
+    frame->bitmap = PictureOf(1, 1, {0xFF000000});
+    return frame;
+}
+
+// Inserts a frame of the name at the index; the result of InsertFrame.
+inline bool Insert(AnimationDocument& document, const std::string& name, int32 index) {
+    auto frame = MakeFrame(name, index);
+    if (!document.InsertFrame(frame.get())) return false;
+    static_cast<void>(frame.release());
+    return true;
+}
+
+using NameList = std::vector<std::string>;
+
+// The frames' names in the order of the links.
+inline NameList Names(const AnimationDocument& document) {
+    NameList names;
+    for (const Frame* frame = document.FirstFrame(); frame; frame = frame->next) {
+        names.push_back(frame->name);
+    }
+    return names;
+}
+
+// What holds whenever no writer is inside.
+inline void ExpectConsistent(const AnimationDocument& document) {
+    int32 visited = 0;
+    for (Frame* frame = document.FirstFrame(); frame; frame = frame->next) {
+        ASSERT_EQ(frame->index, visited);
+        ASSERT_EQ(document.FrameAt(visited), frame);
+        ++visited;
+    }
+    ASSERT_EQ(document.FrameCount(), visited);
+    ASSERT_EQ(document.FrameAt(visited), nullptr);
+    ASSERT_EQ(document.FrameAt(-1), nullptr);
+    ASSERT_EQ(document.CurrentFrame(), document.FrameAt(document.Selected()));
+    if (visited == 0) {
+        ASSERT_EQ(document.Selected(), -1);
+    } else {
+        ASSERT_GE(document.Selected(), 0);
+        ASSERT_LT(document.Selected(), visited);
+    }
+}
+
+}  // namespace kirto::test

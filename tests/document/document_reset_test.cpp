@@ -1,0 +1,227 @@
+#include <gtest/gtest.h>
+#include <thread>
+
+#include "document/document_scope.h"
+#include "support/gif_builder.h"
+#include "support/test_support.h"
+
+namespace kirto::test {
+
+namespace {
+
+constexpr const char* kPaletteAlert =
+    "WARNING [] The palette can't be loaded because the file was corrupted or unreadable. | OK";
+
+// A document whose settings ask for a palette from a file.
+struct PaletteFileFixture : DocumentFixture {
+    TemporaryFolder folder;
+
+    PaletteFileFixture() {
+        prefs.palette_mapping = kPaletteFromFile;
+        prefs.palette_filename = folder.File("palette.gif");
+    }
+    void WritePalette() {
+        WriteBytes(prefs.palette_filename, GifBuilder(1, 1, {0x112233, 0x445566}).Trailer());
+    }
+};
+
+// While an alert is up, tries to read the document on a thread of its own.
+class ReadingPresenter : public AlertPresenter {
+  public:
+    explicit ReadingPresenter(AnimationDocument& document)
+        : document_(document), previous_(InstallAlertPresenter(this)) {}
+    ~ReadingPresenter() override { InstallAlertPresenter(previous_); }
+
+    int32 Present(const BAlert&) override {
+        std::thread([this] {
+            const TryReaderScope reader(document_);
+            entered = reader.Entered();
+        }).join();
+        ++shown;
+        return 0;
+    }
+
+    int32 shown = 0;
+    bool entered = true;
+
+  private:
+    AnimationDocument& document_;
+    AlertPresenter* previous_;
+};
+
+}  // namespace
+
+TEST(AnimationDocument, IsEmptyUntitledAndUnmodifiedAtFirst) {
+    const DocumentFixture fixture;
+    const AnimationDocument& document = fixture.document;
+
+    EXPECT_EQ(document.FrameCount(), 0);
+    EXPECT_EQ(document.FirstFrame(), nullptr);
+    EXPECT_EQ(document.CurrentFrame(), nullptr);
+    EXPECT_EQ(document.Selected(), -1);
+    EXPECT_FALSE(document.modified);
+    EXPECT_EQ(document.file_name, "untitled");
+    EXPECT_EQ(document.file_directory, "");
+    EXPECT_FALSE(document.open_panel_delivered);
+    EXPECT_EQ(document.reader_count, 0);
+    EXPECT_EQ(fixture.port->Transcript(), "");
+}
+
+TEST(AnimationDocument, SaysSoWhenItGetsNoSemaphoreAndGoesOn) {
+    Prefs prefs{Prefs::BuiltIn{}};
+    const DebugRecorder debug;
+    std::unique_ptr<AnimationDocument> document;
+    {
+        const AllocationFault fault(1);
+        document = std::make_unique<AnimationDocument>(prefs);
+    }
+
+    EXPECT_EQ(debug.Text(), "Kirto::Kirto() - Create sem died\n");
+    EXPECT_EQ(document->global_width, 320);
+    AppendFrame(*document, PictureOf(1, 1, {0}), "frame");
+    EXPECT_EQ(document->FrameCount(), 1);
+}
+
+TEST(AnimationDocument, DeletesEveryFrameAtAReset) {
+    DocumentFixture fixture;
+    AnimationDocument& document = fixture.document;
+    for (int32 i = 0; i < 3; ++i) {
+        AppendFrame(document,
+                    std::make_shared<BBitmap>(BRect::OfSize(2, 2), B_RGB32, document.pixel_budget),
+                    "frame");
+    }
+    document.Select(2);
+    document.modified = true;
+    document.file_name = "movie.gif";
+    document.file_directory = "/films";
+
+    document.Reset();
+
+    EXPECT_EQ(document.FrameCount(), 0);
+    EXPECT_EQ(document.FirstFrame(), nullptr);
+    EXPECT_EQ(document.FrameAt(0), nullptr);
+    EXPECT_EQ(document.Selected(), -1);
+    EXPECT_FALSE(document.modified);
+    EXPECT_EQ(document.file_name, "untitled");
+    EXPECT_EQ(document.file_directory, "");
+    EXPECT_EQ(document.pixel_budget->Used(), 0U);
+}
+
+TEST(AnimationDocument, TakesItsPropertiesFromTheSettingsAtAReset) {
+    DocumentFixture fixture;
+    Prefs& prefs = fixture.prefs;
+    prefs.global_width = 11;
+    prefs.global_height = 22;
+    prefs.global_usepause = false;
+    prefs.global_useloop = false;
+    prefs.global_pauselength = 3.5;
+    prefs.global_loopcount = 4;
+    AnimationDocument& document = fixture.document;
+
+    document.Reset();
+
+    EXPECT_EQ(document.global_width, 11);
+    EXPECT_EQ(document.global_height, 22);
+    EXPECT_FALSE(document.use_pause_global);
+    EXPECT_FALSE(document.use_loop);
+    EXPECT_EQ(document.pause_length_global, 3.5);
+    EXPECT_EQ(document.loop_count, 4);
+}
+
+TEST(AnimationDocument, SetsThePaletteThatTheSettingsNameAtAReset) {
+    for (const int32 kind : {kPaletteWebSafe, kPaletteSystem, kPaletteGreyscale}) {
+        DocumentFixture fixture;
+        fixture.prefs.palette_mapping = kind;
+
+        fixture.document.Reset();
+
+        EXPECT_EQ(fixture.document.global_palette->mode, kind);
+        EXPECT_EQ(fixture.document.global_palette->colors, Palette(kind).colors);
+        EXPECT_EQ(fixture.port->Transcript(), "");
+    }
+}
+
+TEST(AnimationDocument, CopiesThePaletteSettingsAtAReset) {
+    DocumentFixture fixture;
+    Prefs& prefs = fixture.prefs;
+    prefs.palette_usetransparent = true;
+    prefs.palette_transparentindex = 7;
+    prefs.palette_backgroundindex = 8;
+    prefs.palette_dither = true;
+
+    fixture.document.Reset();
+
+    const Palette& palette = *fixture.document.global_palette;
+    EXPECT_TRUE(palette.use_transparent);
+    EXPECT_EQ(palette.transparent_index, 7);
+    EXPECT_EQ(palette.background_index, 8);
+    EXPECT_TRUE(palette.dither);
+}
+
+TEST(AnimationDocument, LoadsThePaletteFileThatTheSettingsNameAtAReset) {
+    PaletteFileFixture fixture;
+    fixture.WritePalette();
+    const AlertRecorder alerts;
+
+    fixture.document.Reset();
+
+    const Palette& palette = *fixture.document.global_palette;
+    EXPECT_EQ(palette.mode, kPaletteFromFile);
+    EXPECT_EQ(palette.size, 2);
+    EXPECT_EQ(palette.ColorForIndex(1), (rgb_color{0x44, 0x55, 0x66, 255}));
+    EXPECT_TRUE(alerts.Lines().empty());
+    EXPECT_EQ(fixture.port->Transcript(), "");
+}
+
+TEST(AnimationDocument, WarnsOfAnUnreadablePaletteFileAndIsWebSafe) {
+    PaletteFileFixture fixture;
+    fixture.prefs.palette_dither = true;
+    const AlertRecorder alerts;
+
+    fixture.document.Reset();
+
+    EXPECT_EQ(alerts.Lines(), std::vector<std::string>{kPaletteAlert});
+    EXPECT_EQ(fixture.document.global_palette->mode, kPaletteWebSafe);
+    EXPECT_EQ(fixture.document.global_palette->colors, kWebSafeColors);
+    EXPECT_TRUE(fixture.document.global_palette->dither);
+    EXPECT_EQ(fixture.port->Transcript(), "auda");
+}
+
+TEST(AnimationDocument, LeavesNothingOfAPaletteFileThatEndsEarly) {
+    PaletteFileFixture fixture;
+    std::vector<uint8> bytes = GifBuilder(1, 1, {0x112233, 0x445566});
+    bytes.pop_back();
+    WriteBytes(fixture.prefs.palette_filename, bytes);
+    const AlertRecorder alerts;
+
+    fixture.document.Reset();
+
+    EXPECT_EQ(alerts.Lines(), std::vector<std::string>{kPaletteAlert});
+    EXPECT_EQ(fixture.document.global_palette->colors, kWebSafeColors);
+    EXPECT_EQ(fixture.document.global_palette->size, kWebSafeSize);
+}
+
+TEST(AnimationDocument, ShowsThePaletteWarningWhileOthersCanNotReadYet) {
+    PaletteFileFixture fixture;
+    ReadingPresenter presenter(fixture.document);
+
+    fixture.document.Reset();
+
+    EXPECT_EQ(presenter.shown, 1);
+    EXPECT_FALSE(presenter.entered);
+    const TryReaderScope reader(fixture.document);
+    EXPECT_TRUE(reader.Entered());
+}
+
+TEST(AnimationDocument, GivesBackItsSemaphore) {
+    Prefs prefs{Prefs::BuiltIn{}};
+    sem_id semaphore = -1;
+    {
+        const AnimationDocument document(prefs);
+        semaphore = document.frame_sem;
+    }
+
+    EXPECT_EQ(delete_sem(semaphore), B_BAD_SEM_ID);
+}
+
+}  // namespace kirto::test
