@@ -9,6 +9,8 @@
 #include <string>
 #include <thread>
 
+#include "platform/allocation.h"
+
 namespace {
 
 // What the users of one semaphore share. Waiters keep it alive past its deletion.
@@ -64,6 +66,7 @@ SemaphoreTable& Table() {
 
 sem_id create_sem(int32 count, const char* name) {
     if (count < 0) return B_BAD_VALUE;
+    if (kirto::AllocationShouldFail()) return B_NO_MEMORY;
     auto semaphore = std::make_shared<Semaphore>();
     semaphore->count = count;
     if (name) semaphore->name = name;
