@@ -22,7 +22,6 @@ constexpr const char* kInvalidTranslator =
     "The animation can't be saved because the selected translator is not valid.";
 
 constexpr size_t kMaxNameBytes = 255;
-constexpr size_t kMaxDirectoryBytes = 1023;
 
 constexpr int32 kOpenButton = 1;
 constexpr int32 kInsertButton = 2;
@@ -93,7 +92,7 @@ void Kirto::Open(BMessage* message) {
                                                            : kirto::OpenFli(&file, position, *this);
     if (!opened) return;
     if (reset) {
-        file_directory = kirto::CutUtf8(ref.Directory(), kMaxDirectoryBytes);
+        file_directory = ref.Directory();
         file_name = kirto::CutUtf8(ref.Leaf(), kMaxNameBytes);
     } else {
         modified = true;
@@ -130,7 +129,7 @@ void Kirto::Save(BMessage* message) {
     std::string name;
     if (message->FindRef("directory", &directory) != B_OK) return;
     if (message->FindString("name", &name) != B_OK) return;
-    file_directory = kirto::CutUtf8(directory.path, kMaxDirectoryBytes);
+    file_directory = directory.path;
     file_name = kirto::CutUtf8(name, kMaxNameBytes);
     Save(static_cast<uint32>(translator));
 }

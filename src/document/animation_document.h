@@ -28,7 +28,7 @@ class AnimationDocument {
     bool modified = false;             // changed since the last reset, open or save
     double pause_length_global = 0.0;  // same unit as Frame::pause_length
     std::string file_name;             // "untitled" after a reset; at most 255 bytes
-    std::string file_directory;        // empty after a reset; at most 1023 bytes
+    std::string file_directory;        // empty after a reset
     std::unique_ptr<Palette> global_palette;
     int32 frame_count = 0;
     int32 selected = -1;

@@ -17,7 +17,7 @@ namespace {
 entry_ref AbsoluteRef(const std::string& path) {
     std::error_code error;
     const std::filesystem::path absolute = std::filesystem::absolute(path, error);
-    return entry_ref(error ? path : absolute.lexically_normal().string());
+    return entry_ref(error ? path : absolute.string());
 }
 
 // "FILE@N" as a file and a position; the whole text and -1 where it does not end in a number.
