@@ -1,5 +1,7 @@
 #include "platform/allocation.h"
 
+#include <limits>
+
 namespace kirto {
 
 namespace {
@@ -16,6 +18,8 @@ bool AllocationShouldFail() {
 
 void* AllocateZeroed(size_t count, size_t size) {
     if (AllocationShouldFail()) return nullptr;
+    // calloc checks this too, but instrumented ones end the program over it.
+    if (size > 0 && count > std::numeric_limits<size_t>::max() / size) return nullptr;
     return std::calloc(count, size);
 }
 
