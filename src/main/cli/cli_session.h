@@ -6,7 +6,7 @@
 #include "app/kirto.h"
 #include "main/cli/cli_arguments.h"
 #include "main/cli/headless_desktop.h"
-#include "main/cli/idle_barrier.h"
+#include "platform/idle_barrier.h"
 #include "platform/translator_roster.h"
 #include "settings/prefs.h"
 

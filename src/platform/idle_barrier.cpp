@@ -1,4 +1,4 @@
-#include "main/cli/idle_barrier.h"
+#include "platform/idle_barrier.h"
 
 namespace kirto {
 
