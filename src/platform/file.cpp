@@ -77,7 +77,11 @@ std::string ResolveLinks(const std::string& path) {
 
 // Whether a file may be written in place of what is there. B_ENTRY_NOT_FOUND when nothing is there.
 status_t CheckTarget(int directory, const std::string& name, struct stat* info) {
-    if (fstatat(directory, name.c_str(), info, 0) != 0) return StatusFromErrno(errno);
+    // Links that were to be followed have been; one that is still here is replaced itself.
+    if (fstatat(directory, name.c_str(), info, AT_SYMLINK_NOFOLLOW) != 0) {
+        return StatusFromErrno(errno);
+    }
+    if (S_ISLNK(info->st_mode)) return B_OK;
     if (!S_ISREG(info->st_mode)) return B_NOT_ALLOWED;
     // A target that its owner made read-only is not replaced behind the owner's back.
     const bool writable = faccessat(directory, name.c_str(), W_OK, AT_EACCESS) == 0;
@@ -165,19 +169,13 @@ status_t BFile::OpenTemporary(bool for_owner_only) {
     if (directory_ < 0) return StatusFromErrno(errno);
     // A path that ends in a slash asks for a folder.
     target_ = target.has_filename() ? target.filename().string() : ".";
-    if (for_owner_only) {
-        descriptor_ = CreateUnique(directory_, 0600, &temporary_);
-        return descriptor_ >= 0 ? B_OK : StatusFromErrno(errno);
-    }
     struct stat info;
     const status_t found = CheckTarget(directory_, target_, &info);
-    if (found == B_ENTRY_NOT_FOUND) {
-        descriptor_ = CreateUnique(directory_, 0666, &temporary_);
-        return descriptor_ >= 0 ? B_OK : StatusFromErrno(errno);
-    }
-    if (found != B_OK) return found;
-    descriptor_ = CreateUnique(directory_, 0600, &temporary_);
+    const bool is_new = found == B_ENTRY_NOT_FOUND;
+    if (found != B_OK && !is_new) return found;
+    descriptor_ = CreateUnique(directory_, is_new && !for_owner_only ? 0666 : 0600, &temporary_);
     if (descriptor_ < 0) return StatusFromErrno(errno);
+    if (is_new || for_owner_only || S_ISLNK(info.st_mode)) return B_OK;
     // The owner stays only if the process may give files away; the permissions stay either way.
     [[maybe_unused]] const int ignored = fchown(descriptor_, info.st_uid, info.st_gid);
     return fchmod(descriptor_, info.st_mode & 0777) == 0 ? B_OK : StatusFromErrno(errno);

@@ -554,6 +554,43 @@ TEST(BFile, FollowsAFolderThatIsRenamed) {
     EXPECT_THAT(NamesIn(folder.File("after")), UnorderedElementsAre("file"));
 }
 
+TEST(BFile, APrivateFileIsForItsOwnerOnly) {
+    const ReplacingFixture fixture;
+    chmod(fixture.path.c_str(), 0666);
+    const Umask mask(0);
+    for (const std::string& path : {fixture.path, fixture.folder.File("new")}) {
+        const auto file = BFile::CreatePrivate(path);
+        file->Write("private", 7);
+        EXPECT_EQ(file->Commit(), B_OK);
+        EXPECT_EQ(TextAt(path), "private");
+        EXPECT_EQ(PermissionsOf(path), mode_t{0600});
+    }
+    EXPECT_THAT(NamesIn(fixture.folder.Path()), UnorderedElementsAre("target", "new"));
+}
+
+TEST(BFile, APrivateFileReplacesALinkItself) {
+    const ReplacingFixture fixture;
+    for (const char* destination : {"target", "absent", "link"}) {
+        std::filesystem::remove(fixture.folder.File("link"));
+        std::filesystem::create_symlink(destination, fixture.folder.File("link"));
+        const auto file = BFile::CreatePrivate(fixture.folder.File("link"));
+        file->Write("private", 7);
+        EXPECT_EQ(file->Commit(), B_OK);
+        EXPECT_FALSE(std::filesystem::is_symlink(fixture.folder.File("link")));
+        EXPECT_EQ(TextAt(fixture.folder.File("link")), "private");
+    }
+    EXPECT_EQ(TextAt(fixture.path), "old");
+    EXPECT_THAT(NamesIn(fixture.folder.Path()), UnorderedElementsAre("target", "link"));
+}
+
+TEST(BFile, APrivateFileReplacesNothingElse) {
+    const TemporaryFolder folder;
+    mkfifo(folder.File("pipe").c_str(), 0600);
+    EXPECT_EQ(BFile::CreatePrivate(folder.File("pipe"))->InitCheck(), B_NOT_ALLOWED);
+    EXPECT_EQ(BFile::CreatePrivate(folder.Path())->InitCheck(), B_NOT_ALLOWED);
+    EXPECT_THAT(NamesIn(folder.Path()), UnorderedElementsAre("pipe"));
+}
+
 TEST(BFile, SeveralReplaceTheSameTargetOneAfterTheOther) {
     const ReplacingFixture fixture;
     const auto first = BFile::CreateReplacing(fixture.path);
