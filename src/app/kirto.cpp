@@ -41,8 +41,8 @@ const Kirto::Command* Kirto::CommandFor(uint32 code) {
         {kirto::kOpenFile, open_file, kUpdateAll},
         {kirto::kInsertFiles, [](Kirto& app, BMessage* message) { app.InsertFrame(message); },
          kUpdateAll},
-        {kirto::kInsertTiledFile, [](Kirto& app, BMessage* message) { app.InsertTiledFrame(message); },
-         kUpdateAll},
+        {kirto::kInsertTiledFile,
+         [](Kirto& app, BMessage* message) { app.InsertTiledFrame(message); }, kUpdateAll},
         {kirto::kSaveFile, [](Kirto& app, BMessage* message) { app.Save(message); }, kUpdateAll},
         {kirto::kSaveAgain, save_again, kUpdateAll},
         {kirto::kResetDocument, [](Kirto& app, BMessage*) { app.Reset(); }, kNothing},
@@ -90,15 +90,23 @@ kirto::FadeMode FadeModeOf(uint32 code) {
     }
 }
 
-}  // namespace
-
-Kirto::Kirto(Prefs& settings, kirto::Desktop& desktop, BTranslatorRoster& roster)
-    : IEApplication(kSignature), AnimationDocument(settings), desktop_(desktop), roster_(roster) {
-    if (prefs.failed) {
+// Told before the document takes its properties from the settings, which may fail in turn.
+Prefs& WarnIfFailed(Prefs& settings) {
+    if (settings.failed) {
         kirto::Warn(
             "Unable to open or create a settings file. Default values will be used instead, but "
             "may not be saved.");
     }
+    return settings;
+}
+
+}  // namespace
+
+Kirto::Kirto(Prefs& settings, kirto::Desktop& desktop, BTranslatorRoster& roster)
+    : IEApplication(kSignature),
+      AnimationDocument(WarnIfFailed(settings)),
+      desktop_(desktop),
+      roster_(roster) {
     window = desktop_.OpenMainWindow(MainWindowFrame(), "Kirto - untitled");
     PostToWindow(kirto::kUpdateAll);
 }
@@ -147,7 +155,7 @@ bool Kirto::Cancel(BMessage* message) {
         open_panel_delivered = false;
         return false;
     }
-    const kirto::ReaderScope reader(*this);
+    const kirto::WriterScope writer(*this);
     const Frame* current = CurrentFrame();
     if (global_palette->mode == kirto::kPaletteAwaitingFile) {
         global_palette->Set(kirto::kPaletteWebSafe);
@@ -165,7 +173,8 @@ void Kirto::SelectFrame(BMessage* message) {
 }
 
 void Kirto::SetFramePalette(BMessage* message) {
-    const kirto::ReaderScope reader(*this);
+    // A window may be reading the palette meanwhile.
+    const kirto::WriterScope writer(*this);
     Frame* frame = CurrentFrame();
     if (!frame) return;
     switch (message->what) {
@@ -186,16 +195,7 @@ void Kirto::SetFramePalette(BMessage* message) {
 }
 
 void Kirto::InsertFrame(BMessage* message) {
-    int32 position = -1;
-    message->FindInt32("position", &position);
-    if (position == -1) position = selected >= 0 ? selected + 1 : 0;
-    std::vector<entry_ref> refs(static_cast<size_t>(message->CountItems("refs")));
-    for (size_t i = 0; i < refs.size(); ++i) {
-        if (message->FindRef("refs", &refs[i], static_cast<int32>(i)) == B_OK) continue;
-        refs.resize(i);
-        break;
-    }
-    kirto::InsertImages(*this, refs, position, roster_);
+    kirto::InsertImages(*this, *message, roster_);
 }
 
 void Kirto::InsertTiledFrame(BMessage* message) {

@@ -41,7 +41,8 @@ class Kirto : public IEApplication, public AnimationDocument {
     // To file_directory/file_name. format: 0 or 0xFFFFFFFF for animated GIF, else the translator of
     // an image sequence.
     void Save(uint32 format);
-    // One image file a frame. The caller is inside the reader lock.
+    // One image file a frame, of file_name with a number before its first dot. False after telling
+    // the user what went wrong.
     bool SaveSequence(uint32 translator);
     // Writes a temporary GIF and shows it in the browser.
     void Preview();
@@ -78,7 +79,8 @@ class Kirto : public IEApplication, public AnimationDocument {
     bool LoadAwaitedPalette(const std::string& path);
     void SelectFrame(BMessage* message);
     void SetFramePalette(BMessage* message);
-    void ForgetFile();
+    bool SaveGif();
+    void SetFile(const std::string& directory, const std::string& name);
     bool WriteSequenceFile(const Frame& frame, const std::string& path, uint32 translator,
                            uint32 format);
     void RemovePreview();

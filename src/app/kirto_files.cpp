@@ -1,6 +1,7 @@
 // Moving whole animations between the document and files.
 #include <algorithm>
 #include <filesystem>
+#include <unistd.h>
 
 #include "app/kirto.h"
 #include "app/open_animation.h"
@@ -92,16 +93,14 @@ void Kirto::Open(BMessage* message) {
                                                            : kirto::OpenFli(&file, position, *this);
     if (!opened) return;
     if (reset) {
-        file_directory = ref.Directory();
-        file_name = kirto::CutUtf8(ref.Leaf(), kMaxNameBytes);
+        SetFile(ref.Directory(), ref.Leaf());
     } else {
-        modified = true;
+        SetModified(true);
     }
 }
 
 // True when a palette was waiting for this file: the global one, or else the current frame's.
 bool Kirto::LoadAwaitedPalette(const std::string& path) {
-    const kirto::ReaderScope reader(*this);
     Frame* current = CurrentFrame();
     Palette* palette = nullptr;
     if (global_palette->mode == kirto::kPaletteAwaitingFile) {
@@ -110,11 +109,16 @@ bool Kirto::LoadAwaitedPalette(const std::string& path) {
         palette = current->palette.get();
     }
     if (!palette) return false;
-    if (!palette->Set(path.c_str())) {
-        kirto::Warn("The palette can't be loaded because the file was corrupted or unreadable.");
-        palette->Set(kirto::kPaletteWebSafe);
+    bool loaded = false;
+    {
+        const kirto::WriterScope writer(*this);
+        loaded = palette->Set(path.c_str());
+        if (!loaded) palette->Set(kirto::kPaletteWebSafe);
+        modified = true;
     }
-    modified = true;
+    if (!loaded) {
+        kirto::Warn("The palette can't be loaded because the file was corrupted or unreadable.");
+    }
     return true;
 }
 
@@ -129,44 +133,51 @@ void Kirto::Save(BMessage* message) {
     std::string name;
     if (message->FindRef("directory", &directory) != B_OK) return;
     if (message->FindString("name", &name) != B_OK) return;
-    file_directory = directory.path;
-    file_name = kirto::CutUtf8(name, kMaxNameBytes);
+    SetFile(directory.path, name);
     Save(static_cast<uint32>(translator));
 }
 
 void Kirto::Save(uint32 format) {
-    {
-        const kirto::ReaderScope reader(*this);
-        UpdateGlobalPalette();
-        if (format != 0 && format != kAnimatedGif) {
-            if (SaveSequence(format)) modified = false;
-        } else {
-            switch (kirto::SaveAnimatedGif(*this, Join(file_directory, file_name))) {
-                case kirto::SaveResult::kFrameTooLarge:
-                    kirto::Warn(
-                        "The animation can't be saved because one of the frames has a larger size "
-                        "than the animation.");
-                    ForgetFile();
-                    return;
-                case kirto::SaveResult::kFileNotCreated:
-                case kirto::SaveResult::kWriteFailed:
-                    kirto::Warn(kNotCreated);
-                    ForgetFile();
-                    return;
-                case kirto::SaveResult::kStopped:
-                    return;
-                case kirto::SaveResult::kSaved:
-                    modified = false;
-            }
-        }
+    UpdateGlobalPalette();
+    if (format == 0 || format == kAnimatedGif) {
+        if (!SaveGif()) return;
+        SetModified(false);
+    } else if (SaveSequence(format)) {
+        SetModified(false);
     }
     PostToWindow(kirto::kResume);
 }
 
-// The next save asks for a name again.
-void Kirto::ForgetFile() {
-    file_name = "untitled";
-    file_directory.clear();
+// False after telling the user what went wrong. The next save then asks for a name again.
+bool Kirto::SaveGif() {
+    kirto::SaveResult result;
+    {
+        const kirto::ReaderScope reader(*this);
+        result = kirto::SaveAnimatedGif(*this, Join(file_directory, file_name));
+    }
+    switch (result) {
+        case kirto::SaveResult::kSaved:
+            return true;
+        case kirto::SaveResult::kStopped:
+            return false;
+        case kirto::SaveResult::kFrameTooLarge:
+            kirto::Warn(
+                "The animation can't be saved because one of the frames has a larger size than the "
+                "animation.");
+            break;
+        case kirto::SaveResult::kFileNotCreated:
+        case kirto::SaveResult::kWriteFailed:
+            kirto::Warn(kNotCreated);
+            break;
+    }
+    SetFile("", "untitled");
+    return false;
+}
+
+void Kirto::SetFile(const std::string& directory, const std::string& name) {
+    const kirto::WriterScope writer(*this);
+    file_directory = directory;
+    file_name = kirto::CutUtf8(name, kMaxNameBytes);
 }
 
 bool Kirto::SaveSequence(uint32 translator) {
@@ -182,6 +193,7 @@ bool Kirto::SaveSequence(uint32 translator) {
     const size_t dot = std::min(file_name.find('.'), file_name.size());
     const std::string base = file_name.substr(0, dot);
     const std::string extension = file_name.substr(dot);
+    const kirto::ReaderScope reader(*this);
     for (const Frame* frame = first_frame; frame; frame = frame->next) {
         if (StopRequested()) return false;
         const std::string name =
@@ -214,32 +226,33 @@ bool Kirto::WriteSequenceFile(const Frame& frame, const std::string& path, uint3
 }
 
 void Kirto::Preview() {
-    std::string path;
+    if (FrameLargerThanCanvas()) {
+        kirto::Warn(
+            "The animation can't be previewed because one of the frames has a larger size than the "
+            "animation.");
+        return;
+    }
+    UpdateGlobalPalette();
+    if (!IsDirectory(prefs.misc_tempfilelocation)) {
+        prefs.misc_tempfilelocation = kirto::HomeDirectory();
+    }
+    const std::string path = Join(prefs.misc_tempfilelocation, kPreviewName);
+    kirto::SaveResult result;
     {
         const kirto::ReaderScope reader(*this);
-        if (FrameLargerThanCanvas()) {
-            kirto::Warn(
-                "The animation can't be previewed because one of the frames has a larger size "
-                "than the animation.");
-            return;
-        }
-        UpdateGlobalPalette();
-        if (!IsDirectory(prefs.misc_tempfilelocation)) {
-            prefs.misc_tempfilelocation = kirto::HomeDirectory();
-        }
-        path = Join(prefs.misc_tempfilelocation, kPreviewName);
-        const kirto::SaveResult result = kirto::SavePreviewGif(*this, path);
-        if (result == kirto::SaveResult::kStopped) return;
-        if (result != kirto::SaveResult::kSaved) {
-            kirto::Warn(
-                "The animation can't be previewed because a temporary file could not be created.");
-            return;
-        }
+        result = kirto::SavePreviewGif(*this, path);
+    }
+    if (result == kirto::SaveResult::kStopped) return;
+    if (result != kirto::SaveResult::kSaved) {
+        kirto::Warn(
+            "The animation can't be previewed because a temporary file could not be created.");
+        return;
     }
     desktop_.OpenInBrowser(path);
 }
 
 void Kirto::RemovePreview() {
-    std::error_code ignored;
-    std::filesystem::remove(Join(prefs.misc_tempfilelocation, kPreviewName), ignored);
+    if (!IsDirectory(prefs.misc_tempfilelocation)) return;
+    // A folder of this name is none of ours.
+    unlink(Join(prefs.misc_tempfilelocation, kPreviewName).c_str());
 }

@@ -118,7 +118,7 @@ bool OpenGif(BFile* file, int32 position, AnimationDocument& document) {
         OfferSalvage(document);
         return false;
     }
-    const ReaderScope reader(document);
+    const WriterScope writer(document);
     const FrameRange range{position, loader.End()};
     RecognisePalettes(document, range);
     ShareOutPauses(document, range);
@@ -131,6 +131,7 @@ bool OpenFli(BFile* file, int32 position, AnimationDocument& document) {
         OfferSalvage(document);
         return false;
     }
+    const WriterScope writer(document);
     document.use_loop = true;
     document.loop_count = 0;
     return true;

@@ -78,10 +78,6 @@ const Frame* AnimationDocument::FrameLargerThanCanvas() const {
     return nullptr;
 }
 
-void AnimationDocument::UpdateGlobalPalette() {
-    global_palette->UpdateIfNeeded(PictureOf(first_frame), PictureOf(CurrentFrame()));
-}
-
 bool AnimationDocument::InsertFrame(Frame* frame) {
     if (frame->index < 0 || frame->index > frame_count) return false;
     {
@@ -108,6 +104,7 @@ void AnimationDocument::InsertFrameAsCurrent(Frame* frame) {
             PostThumbnailSize();
         }
         selected = frame->index;
+        modified = true;
         Link(frame);
     }
     PostToWindow(kirto::kUpdateFramesNoStatus);
@@ -162,6 +159,16 @@ bool AnimationDocument::Select(int32 i) {
     if (i > frame_count - 1 || i < 0 || i == selected) return false;
     selected = i;
     return true;
+}
+
+void AnimationDocument::SetModified(bool changed) {
+    const kirto::WriterScope writer(*this);
+    modified = changed;
+}
+
+void AnimationDocument::UpdateGlobalPalette() {
+    const kirto::WriterScope writer(*this);
+    global_palette->UpdateIfNeeded(PictureOf(first_frame), PictureOf(CurrentFrame()));
 }
 
 void AnimationDocument::Relink() {

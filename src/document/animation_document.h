@@ -62,17 +62,14 @@ class AnimationDocument {
     Frame* FrameAt(int32 i) const;
     // The first frame that is wider or taller than the canvas, or null.
     const Frame* FrameLargerThanCanvas() const;
-    // Lets the global palette follow the first or the current frame, where its kind says so.
-    void UpdateGlobalPalette();
-
     // Edits. Each takes the writer lock itself.
     // Inserts the frame at its own index and posts 'auns' (before it, into an empty list, the
     // thumbnail-size command). True: the document owns the frame now. False: the index is outside
     // 0..frame_count, nothing happened and the frame is still the caller's.
     bool InsertFrame(Frame* frame);
     // Inserts the frame at its own index, clamped to the list, takes ownership and makes it the
-    // current frame. Into an empty list it also gives the canvas its size, where the setting
-    // "global_setdimensions" says so. Posts as InsertFrame does.
+    // current frame; the document is modified then. Into an empty list it also gives the canvas its
+    // size, where the setting "global_setdimensions" says so. Posts as InsertFrame does.
     void InsertFrameAsCurrent(Frame* frame);
     // Deletes the current frame.
     void RemoveFrame();
@@ -82,6 +79,9 @@ class AnimationDocument {
     void ReverseFrames();
     // Makes frame i current; true only if the selection changed.
     bool Select(int32 i);
+    void SetModified(bool changed);
+    // Lets the global palette follow the first or the current frame, where its kind says so.
+    void UpdateGlobalPalette();
 
     // Readers never exclude each other and are excluded by a writer; a writer waits until no reader
     // is inside, looking every millisecond, with no priority.

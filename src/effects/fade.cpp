@@ -21,15 +21,17 @@ bool IsBlendable(const Frame* frame) {
 
 // Blends each row as far as both pictures reach; beyond the other one the current pixels stay.
 void BlendFrames(const BBitmap& current, const BBitmap& other, BBitmap* target, float f) {
-    const int32 common = std::min(target->Width(), other.Width());
+    const color_space space = current.ColorSpace();
+    const int32 width = target->Width();
     for (int32 y = 0; y < target->Height(); ++y) {
-        const uint8* row = current.Row(y);
-        FadeToFrame(row, current.ColorSpace(), row, current.ColorSpace(), target->Row(y),
-                    target->Width(), 1, 1.0f);
-        if (y < other.Height()) {
-            FadeToFrame(row, current.ColorSpace(), other.Row(y), other.ColorSpace(), target->Row(y),
+        const int32 common = y < other.Height() ? std::min(width, other.Width()) : 0;
+        const size_t rest = static_cast<size_t>(common) * 4;
+        if (common > 0) {
+            FadeToFrame(current.Row(y), space, other.Row(y), other.ColorSpace(), target->Row(y),
                         common, 1, f);
         }
+        FadeToFrame(current.Row(y) + rest, space, current.Row(y) + rest, space,
+                    target->Row(y) + rest, width - common, 1, 1.0f);
     }
 }
 
@@ -58,20 +60,19 @@ std::unique_ptr<Frame> MakeFrame(const std::string& name, const BBitmap& picture
 }  // namespace
 
 float FadeFactor(FadeMode mode, int32 i, int32 count) {
-    const float step = static_cast<float>(i + 1);
-    const float steps = static_cast<float>(count);
+    const double step = i;
+    const double steps = count;
     switch (mode) {
         case FadeMode::kToColor:
-            return step / steps;
+            return static_cast<float>((step + 1) / steps);
         case FadeMode::kFromColor:
-            return static_cast<float>(i) / steps;
+            return static_cast<float>(step / steps);
         case FadeMode::kToNext:
-            return static_cast<float>(1.0 -
-                                      static_cast<double>(i + 1) / static_cast<double>(count + 1));
+            return static_cast<float>(1 - (step + 1) / (steps + 1));
         case FadeMode::kFromPrevious:
             break;
     }
-    return step / static_cast<float>(count + 1);
+    return static_cast<float>((step + 1) / (steps + 1));
 }
 
 void Fade(AnimationDocument& document, FadeMode mode, int32 count, rgb_color color,
@@ -90,7 +91,7 @@ void Fade(AnimationDocument& document, FadeMode mode, int32 count, rgb_color col
     }
     int32 position = after ? current->index + 1 : current->index;
     for (int32 i = 0; i < count && !document.StopRequested(); ++i) {
-        const std::string name = Format("fade%04d", i + *name_base);
+        const std::string name = Format("fade%04d", *name_base + i);
         std::unique_ptr<Frame> frame = MakeFrame(name, *picture, position);
         if (frame) {
             document.PostStatus(Format("Status: generating frame %d of %d...", i + 1, count));
@@ -107,7 +108,8 @@ void Fade(AnimationDocument& document, FadeMode mode, int32 count, rgb_color col
         reader.Enter();
         ++position;
     }
-    document.modified = true;
+    reader.Leave();
+    document.SetModified(true);
     *name_base += kNamesPerFade;
 }
 

@@ -9,19 +9,34 @@
 
 namespace kirto {
 
-void InsertImages(AnimationDocument& document, const std::vector<entry_ref>& refs, int32 position,
-                  BTranslatorRoster& roster) {
-    const int32 count = static_cast<int32>(refs.size());
-    int32 loaded = 0;
-    for (const entry_ref& ref : refs) {
-        document.PostStatus(Format("Status: loading frame %d of %d...", ++loaded, count));
-        if (document.StopRequested()) return;
+namespace {
+
+constexpr int32 kBehindCurrent = -1;
+
+int32 PositionIn(const AnimationDocument& document, const BMessage& message) {
+    int32 position = kBehindCurrent;
+    message.FindInt32("position", &position);
+    return position == kBehindCurrent ? document.selected + 1 : position;
+}
+
+std::unique_ptr<Frame> MakeFrame(AnimationDocument& document, const entry_ref& ref, int32 position,
+                                 BTranslatorRoster& roster) {
+    if (AllocationShouldFail()) return nullptr;
+    return std::unique_ptr<Frame>(new (std::nothrow) Frame(ref.path.c_str(), ref.Leaf(), position,
+                                                           roster, document.pixel_budget));
+}
+
+}  // namespace
+
+void InsertImages(AnimationDocument& document, const BMessage& message, BTranslatorRoster& roster) {
+    int32 position = PositionIn(document, message);
+    const int32 count = message.CountItems("refs");
+    for (int32 i = 0; i < count && !document.StopRequested(); ++i) {
+        document.PostStatus(Format("Status: loading frame %d of %d...", i + 1, count));
+        entry_ref ref;
+        if (message.FindRef("refs", &ref, i) != B_OK) return;
         position = std::clamp(position, 0, document.FrameCount());
-        std::unique_ptr<Frame> frame;
-        if (!AllocationShouldFail()) {
-            frame.reset(new (std::nothrow) Frame(ref.path.c_str(), ref.Leaf(), position, roster,
-                                                 document.pixel_budget));
-        }
+        std::unique_ptr<Frame> frame = MakeFrame(document, ref, position, roster);
         if (!frame) {
             WarnOutOfMemory();
             return;
@@ -32,7 +47,6 @@ void InsertImages(AnimationDocument& document, const std::vector<entry_ref>& ref
             continue;
         }
         document.InsertFrameAsCurrent(frame.release());
-        document.modified = true;
         ++position;
     }
 }

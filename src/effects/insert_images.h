@@ -1,19 +1,17 @@
 // Turning image files into frames.
 #pragma once
 
-#include <vector>
-
 #include "document/animation_document.h"
-#include "platform/entry_ref.h"
+#include "platform/message.h"
 #include "platform/translator_roster.h"
 
 namespace kirto {
 
-// Inserts each file as one frame, in order, from the position on (clamped to the list), and makes
-// the last one current. Files that no translator reads are reported and passed over; running out of
-// memory is reported and ends the insertion. Runs on the editing thread, outside the document's
-// lock; the frames inserted so far stay.
-void InsertImages(AnimationDocument& document, const std::vector<entry_ref>& refs, int32 position,
-                  BTranslatorRoster& roster);
+// Inserts each file of the message's field "refs" as one frame, in order, from the position on that
+// the int32 "position" says (clamped to the list; -1 and no field mean behind the current frame),
+// and makes the last one current. Files that no translator reads are reported and passed over; what
+// is no file name ends the insertion, and so does running out of memory, which is reported. Runs on
+// the editing thread, outside the document's lock; the frames inserted so far stay.
+void InsertImages(AnimationDocument& document, const BMessage& message, BTranslatorRoster& roster);
 
 }  // namespace kirto

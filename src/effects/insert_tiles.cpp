@@ -4,6 +4,7 @@
 #include <memory>
 #include <new>
 
+#include "document/document_scope.h"
 #include "platform/alert.h"
 #include "platform/text.h"
 
@@ -78,11 +79,12 @@ void InsertTiles(AnimationDocument& document, const entry_ref* ref, const TileGr
     if (!ref) return;
     const std::shared_ptr<BBitmap> picture = ReadPicture(document, *ref, roster);
     if (!picture) return;
-    if (grid.rows > picture->Height() || grid.columns > picture->Width()) {
+    const int64 tiles = int64{grid.rows} * grid.columns;
+    if (grid.rows > picture->Height() || grid.columns > picture->Width() || tiles > INT32_MAX) {
         Warn(kIllegalGrid);
         return;
     }
-    const int32 count = grid.rows * grid.columns;
+    const int32 count = static_cast<int32>(tiles);
     for (int32 tile = 0; tile < count && !document.StopRequested(); ++tile) {
         document.PostStatus(Format("Status: loading tile %d of %d...", tile + 1, count));
         std::unique_ptr<Frame> frame = MakeTile(document, *picture, tile, grid, position);
@@ -94,12 +96,13 @@ void InsertTiles(AnimationDocument& document, const entry_ref* ref, const TileGr
         const int32 height = frame->height;
         if (document.InsertFrame(frame.get())) static_cast<void>(frame.release());
         if (position == 0 && document.prefs.global_setdimensions) {
+            const WriterScope writer(document);
             document.global_width = width;
             document.global_height = height;
         }
         ++position;
     }
-    document.modified = true;
+    document.SetModified(true);
 }
 
 }  // namespace kirto

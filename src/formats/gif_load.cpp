@@ -68,6 +68,7 @@ GifLoad::GifLoad(BFile* file, int32 start, AnimationDocument& document)
 }
 
 void GifLoad::Init() {
+    const kirto::WriterScope writer(document_);
     document_.pause_length_global = 0;
     document_.use_pause_global = false;
     document_.use_loop = false;
@@ -76,6 +77,7 @@ void GifLoad::Init() {
 bool GifLoad::ReadGifHeader() {
     uint8 header[13];
     if (!file_->ReadExactly(header, sizeof(header))) return false;
+    const kirto::WriterScope writer(document_);
     document_.global_width = kirto::ReadLittle16(header + 6);
     document_.global_height = kirto::ReadLittle16(header + 8);
     Palette* palette = document_.global_palette.get();
@@ -149,6 +151,7 @@ bool GifLoad::ReadGifLoopBlock() {
     if (!file_->ReadExactly(block.data(), static_cast<size_t>(size) + 1)) return false;
     // What the sub-block is too short for counts as 0; the terminator is no part of the count.
     std::fill(block.begin() + size, block.end(), uint8{0});
+    const kirto::WriterScope writer(document_);
     document_.use_loop = true;
     document_.loop_count = kirto::ReadLittle16(block.data() + 1);
     return true;
@@ -159,6 +162,7 @@ bool GifLoad::ReadGifControlBlock(Frame* frame) {
     if (!file_->ReadExactly(block, sizeof(block))) return false;
     // Never cleared: a transparent index stays in force for all later images of the file.
     if ((block[1] & 1) != 0) {
+        const kirto::WriterScope writer(document_);
         document_.global_palette->use_transparent = true;
         document_.global_palette->transparent_index = block[4];
     }
