@@ -123,6 +123,7 @@ TEST(AnimationDocument, MakesAFrameInsertedAsCurrentTheCurrentOne) {
 
     EXPECT_EQ(Names(fixture.document), (NameList{"one", "new", "two", "three"}));
     EXPECT_EQ(fixture.document.Selected(), 1);
+    EXPECT_TRUE(fixture.document.modified);
     EXPECT_EQ(fixture.document.global_width, 320);
     EXPECT_EQ(fixture.port->Transcript(), "tvff auns auns auns auns");
     ExpectConsistent(fixture.document);
@@ -356,6 +357,16 @@ TEST(AnimationDocument, KeepsAFollowingPaletteWhileThereAreNoFrames) {
     fixture.document.UpdateGlobalPalette();
 
     EXPECT_EQ(fixture.document.global_palette->colors, kWebSafeColors);
+}
+
+TEST(AnimationDocument, IsModifiedAndUnmodifiedOnDemand) {
+    DocumentFixture fixture;
+
+    fixture.document.SetModified(true);
+    EXPECT_TRUE(fixture.document.modified);
+    fixture.document.SetModified(false);
+    EXPECT_FALSE(fixture.document.modified);
+    EXPECT_EQ(fixture.port->Transcript(), "");
 }
 
 TEST(AnimationDocument, PostsStatusTexts) {

@@ -1,0 +1,345 @@
+#include "app/open_animation.h"
+
+#include <gtest/gtest.h>
+
+#include "platform/text.h"
+#include "support/fli_builder.h"
+#include "support/gif_builder.h"
+#include "support/test_support.h"
+
+namespace kirto::test {
+
+namespace {
+
+constexpr const char* kDamaged =
+    "WARNING [] The animation can't be opened because it was corrupted or unreadable. | Salvage | "
+    "OK";
+constexpr int32 kSalvage = 0;
+constexpr int32 kOk = 1;
+
+const std::vector<uint32> kBlackAndWhite = {0x000000, 0xFFFFFF};
+
+GifBuilder::Image Pixel(const std::vector<uint32>& local_table = {}) {
+    GifBuilder::Image image;
+    image.indices = {1};
+    image.local_table = local_table;
+    image.min_code_size = 2;
+    return image;
+}
+
+// A GIF of one-pixel images with these delays.
+GifBuilder GifWithPauses(const std::vector<int32>& pauses) {
+    GifBuilder gif(1, 1, kBlackAndWhite);
+    for (const int32 pause : pauses)
+        gif.Control(0, pause).Add(Pixel());
+    return gif.Trailer();
+}
+
+bool OpenGifBytes(const std::vector<uint8>& bytes, AnimationDocument& document,
+                  int32 position = 0) {
+    return OpenGif(BFile::OnMemory(bytes).get(), position, document);
+}
+
+bool OpenFliBytes(const std::vector<uint8>& bytes, AnimationDocument& document,
+                  int32 position = 0) {
+    return OpenFli(BFile::OnMemory(bytes).get(), position, document);
+}
+
+std::string Pause(bool used, double length) {
+    return Format("%s%g", used ? "" : "off ", length);
+}
+
+// The animation's pause and those of its frames: "10: off 0, off 0, 20".
+std::string Pauses(const AnimationDocument& document) {
+    std::string text = Pause(document.use_pause_global, document.pause_length_global) + ":";
+    for (const Frame* frame = document.FirstFrame(); frame; frame = frame->next) {
+        text += (frame->index == 0 ? " " : ", ") + Pause(frame->use_pause, frame->pause_length);
+    }
+    return text;
+}
+
+// What opening a GIF of these pauses makes of them.
+std::string PausesOf(const std::vector<int32>& pauses, bool in_seconds = false) {
+    DocumentFixture fixture;
+    fixture.prefs.global_pauseinseconds = in_seconds;
+    EXPECT_TRUE(OpenGifBytes(GifWithPauses(pauses), fixture.document));
+    return Pauses(fixture.document);
+}
+
+std::vector<uint32> TableOf(const ColorTable& colors, size_t count = 256) {
+    std::vector<uint32> table;
+    for (size_t i = 0; i < count; ++i) {
+        table.push_back(ColorKey(colors[i].red, colors[i].green, colors[i].blue));
+    }
+    return table;
+}
+
+// A one-pixel image with a full local table.
+GifBuilder::Image PixelOf(const ColorTable& colors) {
+    GifBuilder::Image image = Pixel(TableOf(colors));
+    image.min_code_size = 8;
+    return image;
+}
+
+int32 KindOfGlobalTable(const ColorTable& colors) {
+    DocumentFixture fixture;
+    GifBuilder gif(1, 1, TableOf(colors));
+    EXPECT_TRUE(OpenGifBytes(gif.Trailer(), fixture.document));
+    EXPECT_EQ(fixture.document.global_palette->size, 256);
+    return fixture.document.global_palette->mode;
+}
+
+}  // namespace
+
+TEST(ClassifyAnimation, KnowsTheThreeMimeTypes) {
+    EXPECT_EQ(ClassifyAnimation("clip", "image/gif"), AnimationType::kGif);
+    EXPECT_EQ(ClassifyAnimation("clip", "video/x-fli"), AnimationType::kFli);
+    EXPECT_EQ(ClassifyAnimation("clip", "video/x-flc"), AnimationType::kFli);
+    EXPECT_EQ(ClassifyAnimation("clip", "image/gif2"), AnimationType::kNone);
+    EXPECT_EQ(ClassifyAnimation("clip", "IMAGE/GIF"), AnimationType::kNone);
+    EXPECT_EQ(ClassifyAnimation("clip", ""), AnimationType::kNone);
+}
+
+TEST(ClassifyAnimation, FindsTheNamePartsAnywhereInTheName) {
+    for (const char* name : {"a.gif", "a.GIF", "clip.gif.png", ".gift"}) {
+        EXPECT_EQ(ClassifyAnimation(name, ""), AnimationType::kGif) << name;
+    }
+    for (const char* name : {"a.fli", "a.FLI", "a.flc", "a.FLC", "a.flick.png"}) {
+        EXPECT_EQ(ClassifyAnimation(name, ""), AnimationType::kFli) << name;
+    }
+}
+
+TEST(ClassifyAnimation, TellsLettersOfMixedCaseApart) {
+    for (const char* name : {"a.Gif", "a.gIF", "a.Fli", "a.Flc", "gif", "agif", "notes.txt", ""}) {
+        EXPECT_EQ(ClassifyAnimation(name, ""), AnimationType::kNone) << name;
+    }
+}
+
+TEST(ClassifyAnimation, AsksForGifFirst) {
+    EXPECT_EQ(ClassifyAnimation("a.flc.gif", ""), AnimationType::kGif);
+    EXPECT_EQ(ClassifyAnimation("a.flc", "image/gif"), AnimationType::kGif);
+    EXPECT_EQ(ClassifyAnimation("a.gif", "video/x-flc"), AnimationType::kGif);
+}
+
+TEST(ClassifyContent, KnowsAnimationsByTheirFirstBytes) {
+    const auto classify = [](std::vector<uint8> bytes) {
+        return ClassifyContent(BFile::OnMemory(std::move(bytes)).get());
+    };
+    EXPECT_EQ(classify(GifWithPauses({})), AnimationType::kGif);
+    EXPECT_EQ(classify({'G', 'I', 'F'}), AnimationType::kGif);
+    EXPECT_EQ(classify(FliBuilder(1, 1, FliBuilder::kFli)), AnimationType::kFli);
+    EXPECT_EQ(classify(FliBuilder(1, 1, FliBuilder::kFlc)), AnimationType::kFli);
+    EXPECT_EQ(classify({0, 0, 0, 0, 0x13, 0xAF}), AnimationType::kNone);
+    EXPECT_EQ(classify({0, 0, 0, 0, 0x11}), AnimationType::kNone);
+    EXPECT_EQ(classify({'G', 'I'}), AnimationType::kNone);
+    EXPECT_EQ(classify({}), AnimationType::kNone);
+}
+
+TEST(ClassifyContent, GoesBackToTheStart) {
+    const auto file = BFile::OnMemory(GifWithPauses({}));
+    file->Seek(4, SEEK_FROM_START);
+
+    EXPECT_EQ(ClassifyContent(file.get()), AnimationType::kGif);
+
+    EXPECT_EQ(file->Position(), 0);
+}
+
+TEST(OpenGif, MakesTheCommonestPauseTheAnimations) {
+    EXPECT_EQ(PausesOf({10, 10, 20}), "10: off 0, off 0, 20");
+    EXPECT_EQ(PausesOf({20, 10, 10}), "10: 20, off 0, off 0");
+    EXPECT_EQ(PausesOf({65535}), "65535: off 0");
+}
+
+TEST(OpenGif, TurnsPausesIntoSecondsWhereTheSettingsSaySo) {
+    EXPECT_EQ(PausesOf({10, 10, 20}, true), "0.1: off 0, off 0, 0.2");
+    EXPECT_EQ(PausesOf({7}, true), "0.07: off 0");
+}
+
+TEST(OpenGif, LeavesNoPauseWhenAllPausesAreZero) {
+    EXPECT_EQ(PausesOf({0, 0}), "off 0: off 0, off 0");
+    EXPECT_EQ(PausesOf({0, 0}, true), "off 0: off 0, off 0");
+}
+
+TEST(OpenGif, LeavesNoPauseForAnAnimationWithoutFrames) {
+    EXPECT_EQ(PausesOf({}), "off 0:");
+}
+
+TEST(OpenGif, LeavesThePauseToFewFramesWhenMostHaveNone) {
+    EXPECT_EQ(PausesOf({0, 0, 20}), "off 0: off 0, off 0, 20");
+    EXPECT_EQ(PausesOf({0, 0, 20}, true), "off 0: off 0, off 0, 0.2");
+}
+
+TEST(OpenGif, LetsFramesWithoutAPauseFollowTheAnimations) {
+    EXPECT_EQ(PausesOf({10, 0, 10}), "10: off 0, off 0, off 0");
+}
+
+TEST(OpenGif, TakesTheFirstPauseInTheTablesOrderAmongEquallyCommonOnes) {
+    EXPECT_EQ(PausesOf({20, 10}), "10: 20, off 0");
+    EXPECT_EQ(PausesOf({99, 5, 99, 5}), "5: 99, off 0, 99, off 0");
+    // 110 and 10 share a bucket of the hundred, and 110 is the first in it.
+    EXPECT_EQ(PausesOf({20, 110, 10}), "110: 20, off 0, 10");
+    EXPECT_EQ(PausesOf({99, 100}), "100: 99, off 0");
+}
+
+TEST(OpenGif, LeavesThePausesWhenThereIsNoMemoryToCountThem) {
+    DocumentFixture fixture;
+    const std::vector<uint8> bytes = GifWithPauses({10, 10});
+    int64 calls = 0;
+    {
+        const AllocationFault counter(1 << 30);
+        OpenGifBytes(bytes, fixture.document);
+        calls = counter.Calls();
+    }
+    fixture.document.Reset();
+    const AllocationFault fault(calls);
+
+    EXPECT_TRUE(OpenGifBytes(bytes, fixture.document));
+
+    EXPECT_EQ(Pauses(fixture.document), "off 0: 10, 10");
+}
+
+TEST(OpenGif, LeavesFramesThatWereThereBeforeAsTheyAre) {
+    DocumentFixture fixture;
+    AnimationDocument& document = fixture.document;
+    fixture.prefs.global_pauseinseconds = true;
+    for (const double pause : {10.0, 0.5}) {
+        Frame* frame = AppendFrame(document, PictureOf(1, 1, {0}), "old");
+        frame->pause_length = pause;
+        frame->use_pause = true;
+        frame->local_palette = true;
+        frame->palette->Set(kPaletteGreyscale);
+        frame->palette->mode = kPaletteFromFile;
+    }
+
+    EXPECT_TRUE(OpenGifBytes(GifWithPauses({10, 10, 20}), document, 1));
+
+    EXPECT_EQ(Pauses(document), "0.1: 10, off 0, off 0, 0.2, 0.5");
+    EXPECT_EQ(document.FrameAt(0)->palette->mode, kPaletteFromFile);
+    EXPECT_EQ(document.FrameAt(4)->palette->mode, kPaletteFromFile);
+    EXPECT_EQ(document.FrameAt(0)->name, "old");
+    EXPECT_EQ(document.FrameAt(1)->name, "frame0001");
+    EXPECT_EQ(document.FrameAt(3)->name, "frame0003");
+    EXPECT_EQ(document.FrameAt(4)->name, "old");
+}
+
+TEST(OpenGif, RecognisesTheBuiltInPalettes) {
+    EXPECT_EQ(KindOfGlobalTable(kWebSafeColors), kPaletteWebSafe);
+    EXPECT_EQ(KindOfGlobalTable(kSystemColors), kPaletteSystem);
+    EXPECT_EQ(KindOfGlobalTable(Palette(kPaletteGreyscale).colors), kPaletteGreyscale);
+}
+
+TEST(OpenGif, KeepsThePaletteOfTheFileWhereOneOfTheColoursDiffers) {
+    for (const int32 kind : {kPaletteWebSafe, kPaletteSystem, kPaletteGreyscale}) {
+        ColorTable colors = Palette(kind).colors;
+        colors[255].blue ^= 1;
+        EXPECT_EQ(KindOfGlobalTable(colors), kPaletteFromFile);
+    }
+}
+
+TEST(OpenGif, ComparesTheEntriesBehindTheTableToo) {
+    DocumentFixture fixture;
+    GifBuilder gif(1, 1, TableOf(kWebSafeColors, 128));
+
+    EXPECT_TRUE(OpenGifBytes(gif.Trailer(), fixture.document));
+
+    // They are web safe since the reset; size and bits stay those of the file.
+    EXPECT_EQ(fixture.document.global_palette->mode, kPaletteWebSafe);
+    EXPECT_EQ(fixture.document.global_palette->size, 128);
+    EXPECT_EQ(fixture.document.global_palette->bits, 7);
+}
+
+TEST(OpenGif, RecognisesThePalettesOfFramesThatHaveTheirOwn) {
+    DocumentFixture fixture;
+    AnimationDocument& document = fixture.document;
+    GifBuilder gif(1, 1, kBlackAndWhite);
+    gif.Add(PixelOf(kSystemColors)).Add(Pixel({0x123456, 0x654321})).Add(Pixel());
+
+    EXPECT_TRUE(OpenGifBytes(gif.Trailer(), document));
+
+    EXPECT_EQ(document.FrameAt(0)->palette->mode, kPaletteSystem);
+    EXPECT_EQ(document.FrameAt(1)->palette->mode, kPaletteFromFile);
+    EXPECT_EQ(document.FrameAt(2)->palette->mode, kPaletteOptimal);
+}
+
+TEST(OpenGif, AsksWhetherToKeepWhatIsBeforeTheDamage) {
+    DocumentFixture fixture;
+    AnimationDocument& document = fixture.document;
+    const AlertRecorder alerts({kSalvage});
+    GifBuilder gif(1, 1, TableOf(kSystemColors));
+    gif.Control(0, 10).Add(PixelOf(kWebSafeColors)).Control(0, 20);
+
+    EXPECT_FALSE(OpenGifBytes(gif, document));
+
+    EXPECT_EQ(alerts.Lines(), std::vector<std::string>{kDamaged});
+    EXPECT_EQ(document.FrameCount(), 1);
+    EXPECT_EQ(Pauses(document), "off 0: 10");
+    EXPECT_EQ(document.global_palette->mode, kPaletteFromFile);
+    EXPECT_EQ(document.FrameAt(0)->palette->mode, kPaletteFromFile);
+    EXPECT_EQ(document.file_name, "untitled");
+    EXPECT_FALSE(document.modified);
+}
+
+TEST(OpenGif, ResetsTheDocumentWhenADamagedAnimationIsNotWanted) {
+    DocumentFixture fixture;
+    AnimationDocument& document = fixture.document;
+    AppendFrame(document, PictureOf(1, 1, {0}), "old");
+    const AlertRecorder alerts({kOk});
+    GifBuilder gif(7, 7, kBlackAndWhite);
+    gif.Add(Pixel());
+
+    EXPECT_FALSE(OpenGifBytes(gif, document, 1));
+
+    EXPECT_EQ(alerts.Lines(), std::vector<std::string>{kDamaged});
+    EXPECT_EQ(document.FrameCount(), 0);
+    EXPECT_EQ(document.global_width, 320);
+    EXPECT_EQ(document.global_palette->mode, kPaletteWebSafe);
+}
+
+TEST(OpenGif, SaysNothingAboutDamageWhenItWasToldToStop) {
+    DocumentFixture fixture;
+    const AlertRecorder alerts;
+    fixture.document.RequestStop();
+
+    EXPECT_FALSE(OpenGifBytes(GifWithPauses({10, 10}), fixture.document));
+
+    EXPECT_TRUE(alerts.Lines().empty());
+}
+
+TEST(OpenFli, LoopsForEver) {
+    DocumentFixture fixture;
+    AnimationDocument& document = fixture.document;
+    document.use_loop = false;
+    document.loop_count = 3;
+    FliBuilder fli(2, 1);
+    fli.Record().Color256({{0, {0x000000, 0xFF0000}}}).Copy({0, 1});
+    fli.Record().Copy({1, 0});
+
+    EXPECT_TRUE(OpenFliBytes(fli, document));
+
+    EXPECT_GE(document.FrameCount(), 1);
+    EXPECT_TRUE(document.use_loop);
+    EXPECT_EQ(document.loop_count, 0);
+}
+
+TEST(OpenFli, AsksWhetherToKeepWhatIsBeforeTheDamage) {
+    for (const int32 answer : {kSalvage, kOk}) {
+        DocumentFixture fixture;
+        AnimationDocument& document = fixture.document;
+        fixture.prefs.global_useloop = false;
+        document.Reset();
+        const AlertRecorder alerts({answer});
+        FliBuilder fli(2, 1);
+        fli.Record().Color256({{0, {0x000000, 0xFF0000}}}).Copy({0, 1});
+        fli.Record().Copy({1, 0});
+        std::vector<uint8> bytes = fli;
+        bytes.pop_back();
+
+        EXPECT_FALSE(OpenFliBytes(bytes, document));
+
+        EXPECT_EQ(alerts.Lines(), std::vector<std::string>{kDamaged});
+        EXPECT_EQ(document.FrameCount(), answer == kSalvage ? 1 : 0);
+        EXPECT_FALSE(document.use_loop);
+    }
+}
+
+}  // namespace kirto::test
