@@ -33,7 +33,8 @@ void ChoosePalette(ChoiceSource& choices, Palette* palette) {
     }
 }
 
-// The palette's colours that are found again at their own index, which is not the transparent one.
+// The palette's colours that are found again at their own index, which is not the transparent one;
+// the first colour if there are none.
 std::vector<rgb_color> FittingColors(const Palette& palette, const Palette& global) {
     std::vector<rgb_color> colors;
     for (int32 i = 0; i < palette.size; ++i) {
@@ -41,6 +42,7 @@ std::vector<rgb_color> FittingColors(const Palette& palette, const Palette& glob
         const bool transparent = global.use_transparent && global.transparent_index == i;
         if (palette.IndexForColor(color) == i && !transparent) colors.push_back(color);
     }
+    if (colors.empty()) colors.push_back(palette.ColorForIndex(0));
     return colors;
 }
 
@@ -90,8 +92,9 @@ color_space ChooseColorSpace(ChoiceSource& choices, const DocumentStyle& style) 
 void ChoosePicture(ChoiceSource& choices, const DocumentStyle& style, const Palette& global,
                    Frame* frame) {
     const Palette& palette = frame->local_palette ? *frame->palette : global;
+    const bool opaque = !style.transparency || (style.opaque_start && frame->index == 0);
     const bool transparent =
-        style.transparency && (style.oddities || global.use_transparent) && choices.OneIn(2);
+        !opaque && (style.oddities || global.use_transparent) && choices.OneIn(2);
     std::vector<rgb_color> colors;
     if (style.fitting_colors) colors = FittingColors(palette, global);
     PixelChoices pixels(choices, std::move(colors), transparent);
@@ -111,7 +114,7 @@ void ChoosePlace(ChoiceSource& choices, const DocumentStyle& style,
                  const AnimationDocument& document, Frame* frame) {
     frame->width = document.global_width;
     frame->height = document.global_height;
-    if (choices.OneIn(3)) return;
+    if (choices.OneIn(3) || (style.opaque_start && frame->index == 0)) return;
     frame->width = choices.Between(1, document.global_width);
     frame->height = choices.Between(1, document.global_height);
     const bool anywhere = style.oddities && choices.OneIn(4);

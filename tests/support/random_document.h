@@ -56,6 +56,7 @@ struct DocumentStyle {
     bool fitting_colors = true;
     bool transparency = true;    // pixels with alpha below 255; only with fitting settings
     bool local_palettes = true;  // frames with a palette of their own
+    bool opaque_start = false;   // the first frame covers the canvas and has no transparent pixel
     // Also what a file can't bring back: transparent pixels though transparency is off, other
     // colour spaces, frames off the canvas, numbers beyond their fields.
     bool oddities = false;

@@ -1,0 +1,144 @@
+// What gifsicle and ffmpeg make of the files that we write. Each program is run once over all of
+// them.
+#include <cstdio>
+#include <cstdlib>
+#include <gtest/gtest.h>
+#include <string>
+#include <sys/wait.h>
+
+#include "oracle/giflib_reader.h"
+#include "platform/text.h"
+#include "support/meant_picture.h"
+
+namespace kirto::test {
+
+namespace {
+
+constexpr uint32 kFileCount = 60;
+
+// Runs a command line; true when it ended with 0. What it printed, also as errors, is in *output.
+bool RunCommand(const std::string& command, std::string* output) {
+    output->clear();
+    FILE* pipe = popen((command + " 2>&1").c_str(), "r");
+    if (!pipe) return false;
+    char buffer[4096];
+    for (size_t count = 0; (count = fread(buffer, 1, sizeof(buffer), pipe)) > 0;)
+        output->append(buffer, count);
+    const int status = pclose(pipe);
+    return WIFEXITED(status) && WEXITSTATUS(status) == 0;
+}
+
+bool IsInstalled(const std::string& program) {
+    std::string ignored;
+    return RunCommand("command -v " + program, &ignored);
+}
+
+// Animations of which nothing is disposed, saved as 0.gif, 1.gif, ... in a folder.
+class SavedAnimations {
+  public:
+    explicit SavedAnimations(DocumentStyle style) {
+        style.max_side = 24;
+        style.opaque_start = true;
+        for (uint32 i = 0; i < kFileCount; ++i) {
+            animations_.push_back(std::make_unique<MadeUpAnimation>(style, 5000 + i));
+            // Transparent pixels show what lies below; readers differ in what they dispose of.
+            animations_.back()->prefs.animation_gifdisposal = static_cast<int32>(i % 2);
+            WriteBytes(Path(i, ".gif"), animations_.back()->Save());
+        }
+    }
+    const AnimationDocument& Document(uint32 i) const { return animations_[i]->document; }
+    std::string Path(uint32 i, const std::string& ending) const {
+        return folder_.File(std::to_string(i) + ending);
+    }
+    // The paths of all, each behind a space.
+    std::string Paths(const std::string& ending) const {
+        std::string paths;
+        for (uint32 i = 0; i < kFileCount; ++i)
+            paths += " " + Path(i, ending);
+        return paths;
+    }
+
+  private:
+    TemporaryFolder folder_;
+    std::vector<std::unique_ptr<MadeUpAnimation>> animations_;
+};
+
+DocumentStyle WithoutLocalPalettes() {
+    DocumentStyle style;
+    style.local_palettes = false;
+    return style;
+}
+
+TEST(Gifsicle, DescribesEveryFileWithoutAWarning) {
+    if (!IsInstalled("gifsicle")) GTEST_SKIP() << "gifsicle is not installed";
+    const SavedAnimations saved{DocumentStyle()};
+    const std::string errors = saved.Path(0, ".errors");
+    std::string output;
+    ASSERT_TRUE(RunCommand("(gifsicle --info" + saved.Paths(".gif") + ") 2>" + errors, &output))
+        << output;
+    EXPECT_TRUE(ReadBytes(errors).empty());
+    for (uint32 i = 0; i < kFileCount; ++i) {
+        const AnimationDocument& document = saved.Document(i);
+        const std::string expected =
+            Format("* %s %d image%s\n  logical screen %dx%d\n", saved.Path(i, ".gif").c_str(),
+                   document.frame_count, document.frame_count == 1 ? "" : "s",
+                   document.global_width, document.global_height);
+        EXPECT_TRUE(Contains(output, expected)) << expected;
+    }
+}
+
+TEST(Gifsicle, UnfoldsEveryFileToTheCanvasesThatWereMeant) {
+    if (!IsInstalled("gifsicle")) GTEST_SKIP() << "gifsicle is not installed";
+#ifdef KIRTO_HAVE_GIFLIB
+    // It does not unfold files with local palettes.
+    const SavedAnimations saved(WithoutLocalPalettes());
+    std::string output;
+    ASSERT_TRUE(RunCommand("gifsicle --unoptimize --batch" + saved.Paths(".gif"), &output))
+        << output;
+    EXPECT_EQ(output, "");
+    for (uint32 i = 0; i < kFileCount; ++i) {
+        const std::vector<uint8> bytes = ReadBytes(saved.Path(i, ".gif"));
+        const Slurped unfolded(bytes);
+        ASSERT_TRUE(unfolded.Complete()) << "file " << i;
+        const std::vector<Pixels> meant = MeantCanvases(saved.Document(i));
+        ASSERT_EQ(static_cast<size_t>(unfolded.Gif().ImageCount), meant.size());
+        for (int32 frame = 0; frame < unfolded.Gif().ImageCount; ++frame) {
+            ASSERT_TRUE(unfolded.ImagePixels(frame) == meant[static_cast<size_t>(frame)])
+                << "file " << i << ", frame " << frame;
+        }
+    }
+#else
+    GTEST_SKIP() << "giflib, which reads what gifsicle writes, was not there at build time";
+#endif
+}
+
+TEST(Ffmpeg, DecodesEveryFileToTheCanvasesThatWereMeant) {
+    if (!IsInstalled("ffmpeg")) GTEST_SKIP() << "ffmpeg is not installed";
+    const SavedAnimations saved{DocumentStyle()};
+    // All pauses are read as equally short: it takes a low bit rate for a mistake.
+    std::string command = "ffmpeg -nostdin -v warning";
+    for (uint32 i = 0; i < kFileCount; ++i)
+        command += " -max_gif_delay 2 -default_delay 2 -i " + saved.Path(i, ".gif");
+    for (uint32 i = 0; i < kFileCount; ++i) {
+        command += Format(" -map %u -fps_mode passthrough -f rawvideo -pix_fmt bgra ", i) +
+                   saved.Path(i, ".raw");
+    }
+    std::string output;
+    ASSERT_TRUE(RunCommand(command, &output)) << output;
+    EXPECT_EQ(output, "");
+    for (uint32 i = 0; i < kFileCount; ++i) {
+        Pixels meant;
+        for (const Pixels& canvas : MeantCanvases(saved.Document(i)))
+            meant.insert(meant.end(), canvas.begin(), canvas.end());
+        const std::vector<uint8> raw = ReadBytes(saved.Path(i, ".raw"));
+        ASSERT_EQ(raw.size(), meant.size() * 4) << "file " << i;
+        Pixels decoded;
+        for (size_t byte = 0; byte < raw.size(); byte += 4)
+            decoded.push_back(ReadLittle32(&raw[byte]));
+        ASSERT_TRUE(decoded == meant) << "file " << i;
+    }
+}
+
+}  // namespace
+
+}  // namespace kirto::test

@@ -1,0 +1,113 @@
+// giflib's reading of the files that we write.
+#include <gtest/gtest.h>
+
+#include "oracle/giflib_reader.h"
+
+#ifdef KIRTO_HAVE_GIFLIB
+
+#include <algorithm>
+#include <string>
+
+namespace kirto::test {
+
+namespace {
+
+void ExpectImageAsMeant(const Slurped& slurped, const AnimationDocument& document,
+                        const Frame& frame, bool pixels_are_known) {
+    const SavedImage& image = slurped.Image(frame.index);
+    EXPECT_EQ(image.ImageDesc.Left, frame.x_offset);
+    EXPECT_EQ(image.ImageDesc.Top, frame.y_offset);
+    ASSERT_EQ(image.ImageDesc.Width, frame.width);
+    ASSERT_EQ(image.ImageDesc.Height, frame.height);
+    EXPECT_EQ(image.ImageDesc.Interlace, document.prefs.animation_gifinterlaced);
+    const GraphicsControlBlock control = slurped.Control(frame.index);
+    const Palette& palette = *document.global_palette;
+    EXPECT_EQ(control.DelayTime, DelayOf(document, frame));
+    EXPECT_EQ(control.DisposalMode, std::min(document.prefs.animation_gifdisposal, 3));
+    EXPECT_EQ(control.TransparentColor,
+              palette.use_transparent ? palette.transparent_index : NO_TRANSPARENT_COLOR);
+    if (!pixels_are_known) return;
+    ASSERT_TRUE(slurped.ImagePixels(frame.index) == MeantPixels(document, frame));
+}
+
+// The content of the extension blocks before the first image, label before content.
+std::vector<std::string> ExtensionsOf(const Slurped& slurped) {
+    std::vector<std::string> extensions;
+    const SavedImage& first = slurped.Image(0);
+    for (int i = 0; i < first.ExtensionBlockCount; ++i) {
+        const ExtensionBlock& block = first.ExtensionBlocks[i];
+        extensions.push_back(static_cast<char>(block.Function) +
+                             std::string(block.Bytes, block.Bytes + block.ByteCount));
+    }
+    return extensions;
+}
+
+void ExpectLoopAndComment(const Slurped& slurped, const AnimationDocument& document) {
+    std::vector<std::string> expected;
+    if (document.use_loop) {
+        const auto low = static_cast<char>(document.loop_count);
+        const auto high = static_cast<char>(document.loop_count >> 8);
+        expected.push_back(static_cast<char>(APPLICATION_EXT_FUNC_CODE) +
+                           std::string("NETSCAPE2.0"));
+        expected.push_back(static_cast<char>(CONTINUE_EXT_FUNC_CODE) + std::string{1, low, high});
+    }
+    if (document.prefs.animation_gifcomment) {
+        expected.push_back(static_cast<char>(COMMENT_EXT_FUNC_CODE) +
+                           std::string("Created by Kirto v1.4 by Morvik on BeOS"));
+    }
+    std::vector<std::string> extensions = ExtensionsOf(slurped);
+    ASSERT_FALSE(extensions.empty());
+    extensions.pop_back();  // the graphic control block
+    EXPECT_EQ(extensions, expected);
+}
+
+void ExpectReadAsMeant(const DocumentStyle& style, uint32 first_seed, uint32 count) {
+    for (uint32 seed = first_seed; seed < first_seed + count; ++seed) {
+        SCOPED_TRACE("seed " + std::to_string(seed));
+        MadeUpAnimation made(style, seed);
+        const AnimationDocument& document = made.document;
+        const std::vector<uint8> bytes = made.Save();
+        const Slurped slurped(bytes);
+        ASSERT_TRUE(slurped.Complete());
+        ASSERT_EQ(slurped.Gif().ImageCount, document.frame_count);
+        EXPECT_EQ(slurped.Gif().SWidth, document.global_width);
+        EXPECT_EQ(slurped.Gif().SHeight, document.global_height);
+        EXPECT_EQ(slurped.Gif().SBackGroundColor, document.global_palette->background_index);
+        ExpectLoopAndComment(slurped, document);
+        for (const Frame* frame = document.FirstFrame(); frame; frame = frame->next)
+            ExpectImageAsMeant(slurped, document, *frame, made.PixelsAreKnown(style));
+        if (testing::Test::HasFailure()) return;
+    }
+}
+
+TEST(Giflib, ReadsAThousandAnimationsAsTheyWereMeant) {
+    DocumentStyle style;
+    style.max_side = 24;
+    ExpectReadAsMeant(style, 1, 500);
+    style.max_side = 6;
+    ExpectReadAsMeant(style, 501, 480);
+    style.max_frames = 16;
+    ExpectReadAsMeant(style, 981, 10);
+    style.max_side = 200;
+    style.max_frames = 2;
+    ExpectReadAsMeant(style, 991, 10);
+}
+
+TEST(Giflib, ReadsAnyColoursAsTheNearestOfThePalette) {
+    DocumentStyle style;
+    style.max_side = 24;
+    style.fitting_colors = false;
+    ExpectReadAsMeant(style, 2001, 150);
+}
+
+}  // namespace
+
+}  // namespace kirto::test
+
+#else
+
+TEST(Giflib, ReadsAThousandAnimationsAsTheyWereMeant) {
+    GTEST_SKIP() << "giflib was not there when this was built";
+}
+
+#endif
