@@ -1,1 +1,31 @@
-extern "C" int LLVMFuzzerTestOneInput(const unsigned char*, unsigned long) { return 0; }
+// Documents spelled by arbitrary bytes: what is written must be read back, frame for frame, and
+// where no dithering comes between, pixel for pixel.
+#include <cstdlib>
+
+#include "formats/gif_load.h"
+#include "platform/debug_line.h"
+#include "support/meant_picture.h"
+
+using namespace kirto::test;
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
+    kirto::InstallDebugSink([](const std::string&) {});
+    ByteChoices choices(data, size);
+    DocumentStyle style;
+    style.max_side = 20;
+    style.fitting_colors = choices.OneIn(2);
+    style.oddities = choices.OneIn(2);
+    MadeUpAnimation made(style, choices);
+
+    DocumentFixture loaded;
+    loaded.prefs = made.prefs;
+    const auto file = BFile::OnMemory(made.Save());
+    if (GifLoad(file.get(), 0, loaded.document).failed) std::abort();
+    if (loaded.document.FrameCount() != made.document.FrameCount()) std::abort();
+    if (made.prefs.animation_gifloadfullframe || !made.PixelsAreKnown(style)) return 0;
+    for (const Frame* frame = made.document.FirstFrame(); frame; frame = frame->next) {
+        const Frame& other = *loaded.document.FrameAt(frame->index);
+        if (PixelsOf(*other.bitmap) != MeantOwnSizePixels(made.document, *frame)) std::abort();
+    }
+    return 0;
+}
