@@ -67,7 +67,7 @@ count_calls() {
 failing_calls() {
     local errors=(ENOSPC) call count first n error
     [ "$size" = whole ] && errors=(ENOSPC EIO EROFS EDQUOT)
-    for call in openat write fsync renameat fchmod; do
+    for call in openat write pwrite64 fsync renameat fchmod; do
         count=$(count_calls "$call")
         first=1
         [ "$size" = short ] && [ "$count" -gt 6 ] && first=$((count - 5))
@@ -76,7 +76,8 @@ failing_calls() {
                 inject "$call" "$n" "error=$error" no
                 inject "$call" "$n+" "error=$error" no
             done
-            inject "$call" "$n" "signal=KILL" yes
+            # The shell's own word on the killed program is of no interest.
+            inject "$call" "$n" "signal=KILL" yes 2>/dev/null
         done
     done
 }
@@ -132,11 +133,11 @@ full_disk() {
 # before the new file takes the old one's name, and the folder after it.
 power_loss_order() {
     reset
-    strace -f -qq -y -o "$work/trace" -e trace=write,fsync,rename,renameat,renameat2 \
+    strace -f -qq -y -o "$work/trace" -e trace=pwrite64,fsync,rename,renameat,renameat2 \
         "$cli" --quiet --open "$work/old.gif" --reverse --save "$document"
     cases=$((cases + 1))
     if ! awk -v folder="$work/folder" '
-        /write\(/ && index($0, folder "/.") { written = NR }
+        /pwrite64\(/ && index($0, folder "/.") { written = NR }
         /fsync\(/ && index($0, folder "/.") { synced = NR }
         /rename/ && index($0, "doc.gif") { renamed = NR }
         /fsync\(/ && index($0, "<" folder ">") { folder_synced = NR }
