@@ -38,6 +38,8 @@ constexpr uint16 kChunkMini = 18;
 
 // Pictures' worth of work that each frame may take, beside what the file's size allows.
 constexpr int64 kFillsPerFrame = 4;
+// What a frame costs however small it is: building its palette takes a while.
+constexpr int64 kFrameCost = 200;
 
 void MarkReadFromFile(Palette* palette) {
     palette->mode = kirto::kPaletteFromFile;
@@ -70,6 +72,21 @@ rgb_color ReadColor(ByteReader& reader, bool full8bit) {
     return {FromSixBits(red), FromSixBits(green), FromSixBits(blue), 255};
 }
 
+// Carries out the packets of a colour chunk; colours past the last entry are dropped.
+void ReadColorPackets(std::span<const uint8> data, bool full8bit, kirto::ColorTable* colors) {
+    ByteReader reader(data);
+    size_t index = 0;
+    for (int32 packets = reader.U16(); packets > 0 && !reader.Overrun(); --packets) {
+        index += reader.U8();
+        const int32 count = reader.U8();
+        for (int32 left = count == 0 ? 256 : count; left > 0; --left, ++index) {
+            const rgb_color color = ReadColor(reader, full8bit);
+            if (reader.Overrun()) break;
+            if (index < colors->size()) (*colors)[index] = color;
+        }
+    }
+}
+
 }  // namespace
 
 FliLoad::FliLoad(BFile* file, int32 start, AnimationDocument& document)
@@ -94,6 +111,7 @@ bool FliLoad::ReadFliHeader() {
         return false;
     }
     frame_count_ = kirto::ReadLittle16(header + 6);
+    const kirto::WriterScope writer(document_);
     document_.global_width = kirto::ReadLittle16(header + 8);
     document_.global_height = kirto::ReadLittle16(header + 10);
     const double seconds = kirto::ReadLittle16(header + 16) / (is_fli ? 70.0 : 1000.0);
@@ -141,7 +159,7 @@ bool FliLoad::ReadFLCNewFrame() {
 
 // A record without chunks repeats the picture: instead of another frame, the last one waits longer.
 bool FliLoad::ShowPreviousFrameLonger() {
-    const kirto::ReaderScope reader(document_);
+    const kirto::WriterScope writer(document_);
     Frame* frame = document_.FrameAt(position_ - 1);
     if (!frame) return false;
     if (frame->use_pause) {
@@ -183,6 +201,7 @@ std::unique_ptr<Frame> FliLoad::NewFrame(int32 index, int32 position) {
         std::make_shared<BBitmap>(BRect::OfSize(width, height), B_RGB32, document_.pixel_budget);
     if (frame->bitmap->InitCheck() != B_OK) return nullptr;
     input_.Allow(kFillsPerFrame * static_cast<int64>(frame->bitmap->BitsLength()));
+    if (!input_.Spend(kFrameCost)) return nullptr;
     return frame;
 }
 
@@ -250,40 +269,28 @@ void FliLoad::FinishPalette(Frame* frame) {
     }
 }
 
+// The document's first frame defines the global palette, any other frame one of its own. Pixels
+// already drawn keep their colours either way.
 bool FliLoad::ReadFliCOLORChunk(Frame* frame, int64 size, int32 position, bool full8bit) {
     std::span<const uint8> data;
     if (!input_.ReadBlock(size, &data)) return false;
-    Palette* palette = PaletteToChange(frame, position);
-    if (!palette) return false;
-    ByteReader reader(data);
-    size_t index = 0;
-    for (int32 packets = reader.U16(); packets > 0 && !reader.Overrun(); --packets) {
-        index += reader.U8();
-        const int32 count = reader.U8();
-        for (int32 left = count == 0 ? 256 : count; left > 0; --left, ++index) {
-            const rgb_color color = ReadColor(reader, full8bit);
-            if (reader.Overrun()) break;
-            if (index < palette->colors.size()) palette->colors[index] = color;
-        }
+    if (position == 0) {
+        const kirto::WriterScope writer(document_);
+        MarkReadFromFile(document_.global_palette.get());
+        ReadColorPackets(data, full8bit, &document_.global_palette->colors);
+        return true;
     }
+    if (!frame->local_palette && !TakePreviousPalette(frame, position)) return false;
+    ReadColorPackets(data, full8bit, &frame->palette->colors);
     return true;
 }
 
-// The document's first frame defines the global palette. Any other frame gets one of its own, which
-// starts as that of the frame before it; null when there is no frame before it. Pixels already
-// drawn keep their colours either way.
-Palette* FliLoad::PaletteToChange(Frame* frame, int32 position) {
-    if (position == 0) {
-        MarkReadFromFile(document_.global_palette.get());
-        return document_.global_palette.get();
-    }
-    if (!frame->local_palette) {
-        const kirto::ReaderScope reader(document_);
-        const Frame* previous = document_.FrameAt(position - 1);
-        if (!previous) return nullptr;
-        TakeLocalPalette(frame, PaletteOf(previous));
-    }
-    return frame->palette.get();
+bool FliLoad::TakePreviousPalette(Frame* frame, int32 position) {
+    const kirto::ReaderScope reader(document_);
+    const Frame* previous = document_.FrameAt(position - 1);
+    if (!previous) return false;
+    TakeLocalPalette(frame, PaletteOf(previous));
+    return true;
 }
 
 bool FliLoad::ReadFliLCChunk(Frame* frame, int64 size) {

@@ -47,7 +47,7 @@ class FliLoad {
     // The chunk readers. size: bytes of the chunk's data, as its header says. False when the file
     // holds fewer or a seek or an allocation fails.
     bool ReadFliCOLORChunk(Frame* frame, int64 size, int32 position, bool full8bit);
-    Palette* PaletteToChange(Frame* frame, int32 position);
+    bool TakePreviousPalette(Frame* frame, int32 position);
     bool ReadFliLCChunk(Frame* frame, int64 size);
     bool ReadFliBRUNChunk(Frame* frame, int64 size);
     bool ReadFliCOPYChunk(Frame* frame);

@@ -206,6 +206,25 @@ TEST_F(FliLoadTest, ChunksThatLeadBackToThemselvesEndAsIfTheFileWereCut) {
     EXPECT_EQ(document_.FrameCount(), 1);
 }
 
+TEST_F(FliLoadTest, ARecordThatLeadsBackToItselfGivesNoEndOfFrames) {
+    FliBuilder fli(1, 1);
+    fli.Record().Black().RecordSize(0).FrameCount(65535);
+
+    const Load load = LoadFile(fli);
+
+    EXPECT_TRUE(load.failed);
+    EXPECT_LT(document_.FrameCount(), 5000);
+}
+
+TEST_F(FliLoadTest, ALongSoundFileOfTheSmallestRecordsIsReadToItsEnd) {
+    FliBuilder fli(1, 1);
+    for (int i = 0; i < 1200; ++i)
+        fli.Record().Black();
+
+    EXPECT_FALSE(LoadFile(fli).failed);
+    EXPECT_EQ(document_.FrameCount(), 1200);
+}
+
 TEST_F(FliLoadTest, APictureIsNotBlackenedWithoutEnd) {
     FliBuilder fli(1000, 1000);
     fli.Record();
