@@ -1,1 +1,36 @@
-extern "C" int LLVMFuzzerTestOneInput(const unsigned char*, unsigned long) { return 0; }
+// Arbitrary bytes as an FLI or FLC: into an empty document, then once more behind what came of it.
+#include <cstdlib>
+
+#include "formats/fli_load.h"
+#include "platform/debug_line.h"
+
+namespace {
+
+constexpr uint64 kPixelBytes = uint64{64} << 20;
+
+void Check(const AnimationDocument& document, int32 end) {
+    if (end != document.FrameCount()) std::abort();
+    int32 index = 0;
+    for (const Frame* frame = document.FirstFrame(); frame; frame = frame->next) {
+        if (frame->index != index++ || !frame->palette || !frame->bitmap) std::abort();
+        if (!frame->bitmap->Bits() || frame->bitmap->Width() != frame->width) std::abort();
+    }
+    if (index != document.FrameCount()) std::abort();
+    if (document.pixel_budget->Used() > kPixelBytes) std::abort();
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
+    kirto::InstallDebugSink([](const std::string&) {});
+    Prefs prefs{Prefs::BuiltIn{}};
+    AnimationDocument document(prefs);
+    document.pixel_budget->SetLimit(kPixelBytes);
+    for (int32 start : {0, 1}) {
+        const auto file = BFile::OnMemory({data, data + size});
+        if (start > 0) start = document.FrameCount();
+        const FliLoad loader(file.get(), start, document);
+        Check(document, loader.End());
+    }
+    return 0;
+}
