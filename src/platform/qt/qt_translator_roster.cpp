@@ -110,14 +110,17 @@ status_t WriteTargaImage(const BBitmap& source, const BMessage& settings, const 
 
 }  // namespace
 
-QtTranslatorRoster::QtTranslatorRoster() {
-    const QList<QByteArray> readable = QImageReader::supportedImageFormats();
-    const QList<QByteArray> writable = QImageWriter::supportedImageFormats();
-    for (const ImageFormat& format : KnownImageFormats()) {
-        const bool reads = IsTarga(format) || readable.contains(format.qt_name);
-        const bool writes = IsTarga(format) || writable.contains(format.qt_name);
-        if (reads || writes) entries_.push_back({&format, reads, writes});
-    }
+const std::vector<QtTranslatorRoster::Entry>& QtTranslatorRoster::Entries() const {
+    std::call_once(entries_found_, [this] {
+        const QList<QByteArray> readable = QImageReader::supportedImageFormats();
+        const QList<QByteArray> writable = QImageWriter::supportedImageFormats();
+        for (const ImageFormat& format : KnownImageFormats()) {
+            const bool reads = IsTarga(format) || readable.contains(format.qt_name);
+            const bool writes = IsTarga(format) || writable.contains(format.qt_name);
+            if (reads || writes) entries_.push_back({&format, reads, writes});
+        }
+    });
+    return entries_;
 }
 
 void QtTranslatorRoster::RestrictPluginFolders() {
@@ -165,7 +168,7 @@ status_t QtTranslatorRoster::Translate(const BBitmap& source, translator_id tran
 
 std::vector<translator_id> QtTranslatorRoster::Translators() const {
     std::vector<translator_id> ids;
-    for (const Entry& entry : entries_)
+    for (const Entry& entry : Entries())
         ids.push_back(entry.format->id);
     return ids;
 }
@@ -198,7 +201,7 @@ BMessage QtTranslatorRoster::DefaultSettings(translator_id translator) const {
 }
 
 const QtTranslatorRoster::Entry* QtTranslatorRoster::EntryFor(translator_id translator) const {
-    for (const Entry& entry : entries_) {
+    for (const Entry& entry : Entries()) {
         if (entry.format->id == translator) return &entry;
     }
     return nullptr;

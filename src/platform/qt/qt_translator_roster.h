@@ -1,5 +1,6 @@
 #pragma once
 
+#include <mutex>
 #include <vector>
 
 #include "platform/qt/image_format.h"
@@ -12,8 +13,6 @@ namespace kirto {
 // Translate may be called from any thread, one call at a time.
 class QtTranslatorRoster : public BTranslatorRoster {
   public:
-    QtTranslatorRoster();
-
     status_t Translate(BFile& source, std::shared_ptr<PixelBudget> budget,
                        std::shared_ptr<BBitmap>* result) override;
     status_t Translate(const BBitmap& source, translator_id translator, uint32 format,
@@ -34,9 +33,12 @@ class QtTranslatorRoster : public BTranslatorRoster {
         bool reads;
         bool writes;
     };
+    // What is installed; plugins are looked for when it is first asked.
+    const std::vector<Entry>& Entries() const;
     const Entry* EntryFor(translator_id translator) const;
 
-    std::vector<Entry> entries_;
+    mutable std::once_flag entries_found_;
+    mutable std::vector<Entry> entries_;
 };
 
 }  // namespace kirto
