@@ -88,17 +88,43 @@ status_t CheckTarget(int directory, const std::string& name, struct stat* info) 
     return writable ? B_OK : StatusFromErrno(errno);
 }
 
-// Creates a file of a free name in the directory. Returns its descriptor, or -1 with errno set.
-int CreateUnique(int directory, mode_t mode, std::string* name) {
+// Calls action with free-looking names until it does not fail for a taken one; its last result.
+template <typename Action>
+int WithUniqueName(std::string* name, Action action) {
     for (int attempt = 0; attempt < kMaxNameAttempts; ++attempt) {
         unsigned long long number = 0;
         if (getrandom(&number, sizeof(number), 0) != sizeof(number)) return -1;
         *name = kirto::Format(".kirto-%016llx", number);
-        const int descriptor =
-            openat(directory, name->c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, mode);
-        if (descriptor >= 0 || errno != EEXIST) return descriptor;
+        const int result = action(name->c_str());
+        if (result >= 0 || errno != EEXIST) return result;
     }
     return -1;
+}
+
+std::string DescriptorPath(int descriptor) {
+    return kirto::Format("/proc/self/fd/%d", descriptor);
+}
+
+// Creates a file in the directory, without a name where the file system and the machine can do
+// that, so that nothing is left of it if the program is killed; else under a free name. Returns its
+// descriptor, or -1 with errno set.
+int CreateTemporary(int directory, mode_t mode, std::string* name) {
+    const int unnamed = openat(directory, ".", O_TMPFILE | O_RDWR | O_CLOEXEC, mode);
+    if (unnamed >= 0 && access(DescriptorPath(unnamed).c_str(), F_OK) == 0) return unnamed;
+    if (unnamed >= 0) close(unnamed);
+    return WithUniqueName(name, [&](const char* free_name) {
+        return openat(directory, free_name, O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, mode);
+    });
+}
+
+// Gives a file without a name a free one.
+bool NameTemporary(int descriptor, int directory, std::string* name) {
+    const std::string source = DescriptorPath(descriptor);
+    const int linked = WithUniqueName(name, [&](const char* free_name) {
+        return linkat(AT_FDCWD, source.c_str(), directory, free_name, AT_SYMLINK_FOLLOW);
+    });
+    if (linked != 0) name->clear();
+    return linked == 0;
 }
 
 // As good as the file system allows: there are some that can't sync a directory.
@@ -173,8 +199,9 @@ status_t BFile::OpenTemporary(bool for_owner_only) {
     const status_t found = CheckTarget(directory_, target_, &info);
     const bool is_new = found == B_ENTRY_NOT_FOUND;
     if (found != B_OK && !is_new) return found;
-    descriptor_ = CreateUnique(directory_, is_new && !for_owner_only ? 0666 : 0600, &temporary_);
+    descriptor_ = CreateTemporary(directory_, is_new && !for_owner_only ? 0666 : 0600, &temporary_);
     if (descriptor_ < 0) return StatusFromErrno(errno);
+    uncommitted_ = true;
     if (is_new || for_owner_only || S_ISLNK(info.st_mode)) return B_OK;
     // The owner stays only if the process may give files away; the permissions stay either way.
     [[maybe_unused]] const int ignored = fchown(descriptor_, info.st_uid, info.st_gid);
@@ -247,7 +274,7 @@ int64 BFile::Write(const void* buffer, size_t size) {
 
 // Makes the buffer reach from the position over size bytes.
 status_t BFile::PrepareWrite(size_t size) {
-    if (descriptor_ >= 0 && temporary_.empty()) return B_NOT_ALLOWED;
+    if (descriptor_ >= 0 && !uncommitted_) return B_NOT_ALLOWED;
     const int64 limit = descriptor_ >= 0 ? kMaxPosition : kMaxMemory;
     if (position_ > limit || size > static_cast<size_t>(limit - position_)) return B_NO_MEMORY;
     const int64 buffer_end = buffer_start_ + static_cast<int64>(buffer_.size());
@@ -291,8 +318,12 @@ status_t BFile::Commit() {
         DiscardTemporary();
         return write_status_;
     }
-    if (temporary_.empty()) return B_NOT_ALLOWED;
+    if (!uncommitted_) return B_NOT_ALLOWED;
     if (FlushBuffer() == B_OK && fsync(descriptor_) != 0) write_status_ = StatusFromErrno(errno);
+    if (write_status_ == B_OK && temporary_.empty() &&
+        !NameTemporary(descriptor_, directory_, &temporary_)) {
+        write_status_ = StatusFromErrno(errno);
+    }
     if (write_status_ == B_OK &&
         renameat(directory_, temporary_.c_str(), directory_, target_.c_str()) != 0) {
         write_status_ = StatusFromErrno(errno);
@@ -302,6 +333,7 @@ status_t BFile::Commit() {
         return write_status_;
     }
     temporary_.clear();
+    uncommitted_ = false;
     SyncDirectory(directory_);
     return B_OK;
 }
@@ -309,6 +341,7 @@ status_t BFile::Commit() {
 void BFile::DiscardTemporary() {
     if (descriptor_ >= 0 && !temporary_.empty()) unlinkat(directory_, temporary_.c_str(), 0);
     temporary_.clear();
+    uncommitted_ = false;
 }
 
 void BFile::SetMimeType(const std::string& type) {

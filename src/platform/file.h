@@ -90,9 +90,10 @@ class BFile {
     void DiscardTemporary();
 
     std::string path_;
-    int directory_ = -1;     // the directory of a written file's target
-    std::string target_;     // name there that Commit() replaces
-    std::string temporary_;  // name there of the file being written until it is committed
+    int directory_ = -1;        // the directory of a written file's target
+    std::string target_;        // name there that Commit() replaces
+    std::string temporary_;     // name there of the file being written, while it has one
+    bool uncommitted_ = false;  // a file is being written and has not taken the target's place
     status_t status_ = B_NO_INIT;
     status_t write_status_ = B_OK;
     int descriptor_ = -1;  // -1 for memory

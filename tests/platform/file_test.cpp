@@ -251,7 +251,7 @@ TEST(BFile, LeavesNoTraceWithoutCommit) {
     {
         const auto file = BFile::CreateReplacing(fixture.path);
         file->Write("new", 3);
-        EXPECT_EQ(NamesIn(fixture.folder.Path()).size(), 2u);
+        EXPECT_EQ(TextAt(fixture.path), "old");
     }
     EXPECT_EQ(TextAt(fixture.path), "old");
     EXPECT_THAT(NamesIn(fixture.folder.Path()), UnorderedElementsAre("target"));

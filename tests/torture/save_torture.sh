@@ -67,7 +67,7 @@ count_calls() {
 failing_calls() {
     local errors=(ENOSPC) call count first n error
     [ "$size" = whole ] && errors=(ENOSPC EIO EROFS EDQUOT)
-    for call in openat write pwrite64 fsync renameat fchmod; do
+    for call in openat write pwrite64 fsync linkat renameat fchmod; do
         count=$(count_calls "$call")
         first=1
         [ "$size" = short ] && [ "$count" -gt 6 ] && first=$((count - 5))
@@ -137,8 +137,8 @@ power_loss_order() {
         "$cli" --quiet --open "$work/old.gif" --reverse --save "$document"
     cases=$((cases + 1))
     if ! awk -v folder="$work/folder" '
-        /pwrite64\(/ && index($0, folder "/.") { written = NR }
-        /fsync\(/ && index($0, folder "/.") { synced = NR }
+        /pwrite64\(/ && index($0, folder "/") { written = NR }
+        /fsync\(/ && index($0, folder "/") { synced = NR }
         /rename/ && index($0, "doc.gif") { renamed = NR }
         /fsync\(/ && index($0, "<" folder ">") { folder_synced = NR }
         END { exit !(written && synced > written && renamed > synced && folder_synced > renamed) }
