@@ -60,7 +60,7 @@ inject() {
 count_calls() {
     reset
     strace -f -qq -o "$work/trace" -e trace="$1" \
-        "$cli" --quiet --open "$work/old.gif" --reverse --save "$document"
+        "$cli" --quiet --open "$work/old.gif" --reverse --save "$document" >"$work/out" 2>&1
     grep -c "$1(" "$work/trace" || true
 }
 
@@ -134,7 +134,7 @@ full_disk() {
 power_loss_order() {
     reset
     strace -f -qq -y -o "$work/trace" -e trace=pwrite64,fsync,rename,renameat,renameat2 \
-        "$cli" --quiet --open "$work/old.gif" --reverse --save "$document"
+        "$cli" --quiet --open "$work/old.gif" --reverse --save "$document" >"$work/out" 2>&1
     cases=$((cases + 1))
     if ! awk -v folder="$work/folder" '
         /pwrite64\(/ && index($0, folder "/") { written = NR }
