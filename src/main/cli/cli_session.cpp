@@ -20,8 +20,9 @@ CliSession::CliSession(CliArguments arguments, BTranslatorRoster& roster)
 
 CliSession::~CliSession() {
     running_ = nullptr;
-    app_.reset();
+    // The application's last reset has nobody to warn any more.
     InstallAlertPresenter(previous_presenter_);
+    app_.reset();
 }
 
 int CliSession::Run() {

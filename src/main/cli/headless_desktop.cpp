@@ -27,7 +27,17 @@ class HeadlessPanel : public FilePanel {
 }  // namespace
 
 HeadlessDesktop::HeadlessDesktop(bool salvage, bool quiet)
-    : salvage_(salvage), progress_(std::make_shared<ProgressLine>(!quiet)) {}
+    : salvage_(salvage),
+      progress_(std::make_shared<ProgressLine>(!quiet)),
+      previous_sink_(InstallDebugSink([this, quiet](const std::string& text) {
+          if (quiet) return;
+          ClearProgress();
+          std::fputs(text.c_str(), stderr);
+      })) {}
+
+HeadlessDesktop::~HeadlessDesktop() {
+    InstallDebugSink(previous_sink_);
+}
 
 int32 HeadlessDesktop::Present(const BAlert& alert) {
     Complain(subject_.empty() ? alert.Text() : subject_ + ": " + alert.Text());

@@ -6,6 +6,7 @@
 
 #include "app/desktop.h"
 #include "main/cli/progress_line.h"
+#include "platform/debug_line.h"
 
 namespace kirto {
 
@@ -18,11 +19,12 @@ struct TileChoice {
 
 // The desktop of a program without a screen: alerts become lines on standard error and are answered
 // with their last button, or with "Salvage" where that was asked for; the status line becomes a
-// progress line; panels hold what the command line says. The command line's thread writes the
-// values while the application is idle.
+// progress line; debug lines go to standard error unless it is quiet; panels hold what the command
+// line says. The command line's thread writes the values while the application is idle.
 class HeadlessDesktop : public Desktop {
   public:
     HeadlessDesktop(bool salvage, bool quiet);
+    ~HeadlessDesktop() override;
 
     int32 Present(const BAlert& alert) override;
     BMessenger OpenMainWindow(const BRect& frame, const std::string& title) override;
@@ -47,6 +49,7 @@ class HeadlessDesktop : public Desktop {
     std::string subject_;
     TileChoice tiles_;
     std::atomic<bool> failure_ = false;
+    DebugSink previous_sink_;
 };
 
 }  // namespace kirto

@@ -24,8 +24,7 @@ status_t ProgressLine::Post(BMessage message, handler_token) {
 }
 
 void ProgressLine::Clear() {
-    if (shown_) std::fputs("\r\033[K", stderr);
-    shown_ = false;
+    if (shown_.exchange(false)) std::fputs("\r\033[K", stderr);
 }
 
 }  // namespace kirto

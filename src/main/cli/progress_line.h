@@ -1,5 +1,6 @@
 #pragma once
 
+#include <atomic>
 #include <string>
 
 #include "platform/message_port.h"
@@ -8,7 +9,7 @@ namespace kirto {
 
 // The command line's stand-in for the window's status line: shows the status texts posted to it as
 // one line that is rewritten in place, on a standard error that is a terminal. Other commands are
-// for windows and are passed over. Used by the thread that posts.
+// for windows and are passed over. Used by the threads that do the work.
 class ProgressLine : public MessagePort {
   public:
     explicit ProgressLine(bool enabled);
@@ -23,7 +24,7 @@ class ProgressLine : public MessagePort {
 
   private:
     const bool enabled_;
-    bool shown_ = false;
+    std::atomic<bool> shown_ = false;
 };
 
 }  // namespace kirto
