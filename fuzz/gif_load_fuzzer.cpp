@@ -1,1 +1,50 @@
-extern "C" int LLVMFuzzerTestOneInput(const unsigned char*, unsigned long) { return 0; }
+// Arbitrary bytes as a GIF file. The first byte chooses how: odd, every frame at the size of the
+// screen; even, every image at its own.
+#include <cstdlib>
+
+#include "formats/gif_load.h"
+#include "platform/debug_line.h"
+
+namespace {
+
+constexpr uint64 kMemoryLimit = uint64{64} << 20;
+
+void Check(bool holds) {
+    if (!holds) std::abort();
+}
+
+void CheckFrame(const Frame& frame, const AnimationDocument& document) {
+    Check(frame.bitmap && frame.bitmap->InitCheck() == B_OK && frame.palette);
+    Check(frame.bitmap->Width() == frame.width && frame.bitmap->Height() == frame.height);
+    Check(frame.width <= document.global_width && frame.height <= document.global_height);
+    Check(frame.palette->bits >= 1 && frame.palette->bits <= 8);
+    Check(frame.use_pause == (frame.pause_length != 0));
+}
+
+void CheckList(const AnimationDocument& document) {
+    const int32 count = document.FrameCount();
+    Check(document.Selected() == (count > 0 ? 0 : -1));
+    const Frame* linked = document.FirstFrame();
+    for (int32 i = 0; i < count; ++i, linked = linked->next) {
+        Check(linked && linked == document.FrameAt(i) && linked->index == i);
+        CheckFrame(*linked, document);
+    }
+    Check(!linked);
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
+    if (size == 0) return 0;
+    kirto::InstallDebugSink([](const std::string&) {});
+    Prefs prefs{Prefs::BuiltIn{}};
+    prefs.animation_gifloadfullframe = (data[0] & 1) != 0;
+    AnimationDocument document(prefs);
+    document.pixel_budget->SetLimit(kMemoryLimit);
+    const auto file = BFile::OnMemory({data + 1, data + size});
+    const GifLoad loader(file.get(), 0, document);
+    Check(loader.End() == document.FrameCount());
+    CheckList(document);
+    Check(document.pixel_budget->Used() <= kMemoryLimit);
+    return 0;
+}

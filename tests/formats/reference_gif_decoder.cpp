@@ -150,9 +150,9 @@ bool TakeImage(Bytes* bytes, const ReferenceGif& gif, ReferenceImage* image) {
     image->interlaced = (packed & 0x40) != 0;
     image->has_local_table = (packed & 0x80) != 0;
     image->table = image->has_local_table ? bytes->TakeTable(packed) : gif.table;
-    const int32 min_code_size = bytes->Take();
-    if (!bytes->Ok() || min_code_size < 2 || min_code_size > 11) return false;
-    const ReferencePixels pixels = DecodeReferenceLzw(bytes->Rest(), min_code_size);
+    image->code_size = bytes->Take();
+    if (!bytes->Ok() || image->code_size < 1 || image->code_size > 11) return false;
+    const ReferencePixels pixels = DecodeReferenceLzw(bytes->Rest(), std::max(image->code_size, 2));
     if (!pixels.success) return false;
     image->indices = PlacePixels(*image, pixels.indices);
     *bytes = Bytes(pixels.leftover);

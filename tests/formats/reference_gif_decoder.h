@@ -29,6 +29,7 @@ struct ReferenceImage {
     int32 disposal = 0;         // of its own control block
     int32 delay = 0;            // hundredths of a second
     int32 transparent = -1;     // of its own control block; -1: none
+    int32 code_size = 0;        // the byte; 1 is decoded as 2
     // One a pixel, row by row from the top; -1 where the data delivered none.
     std::vector<int32> indices;
 };
