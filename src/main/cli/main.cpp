@@ -6,7 +6,6 @@
 
 #include "main/cli/cli_arguments.h"
 #include "main/cli/cli_session.h"
-#include "platform/debug_line.h"
 #include "platform/qt/qt_translator_roster.h"
 
 namespace {
@@ -51,12 +50,8 @@ int main(int argc, char** argv) {
     std::signal(SIGXFSZ, SIG_IGN);
     kirto::CliArguments arguments;
     if (const auto status = kirto::ParseArguments(argc, argv, &arguments)) return *status;
-    const bool quiet = arguments.quiet;
-    kirto::InstallDebugSink([quiet](const std::string& text) {
-        if (!quiet) std::fputs(text.c_str(), stderr);
-    });
     const int status = RunSession(std::move(arguments));
-    if (std::fflush(stdout) == 0) return status;
+    if (std::fflush(stdout) == 0 && !std::ferror(stdout)) return status;
     std::fputs("kirto-cli: standard output can't be written.\n", stderr);
     return kirto::kExitFailed;
 }
