@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <utility>
 
 #include "document/command_codes.h"
 
@@ -25,6 +26,15 @@ std::string DebugRecorder::Text() const {
     return text_;
 }
 
+std::string AlertLine(const BAlert& alert) {
+    static constexpr const char* kTypes[] = {"EMPTY", "INFO", "IDEA", "WARNING", "STOP"};
+    std::string line =
+        std::string(kTypes[alert.Type()]) + " [" + alert.Title() + "] " + alert.Text();
+    for (const std::string& button : alert.Buttons())
+        line += " | " + button;
+    return line;
+}
+
 AlertRecorder::AlertRecorder(std::vector<int32> answers)
     : answers_(std::move(answers)), previous_(InstallAlertPresenter(this)) {}
 
@@ -33,13 +43,8 @@ AlertRecorder::~AlertRecorder() {
 }
 
 int32 AlertRecorder::Present(const BAlert& alert) {
-    static constexpr const char* kTypes[] = {"EMPTY", "INFO", "IDEA", "WARNING", "STOP"};
     const std::lock_guard lock(mutex_);
-    std::string line =
-        std::string(kTypes[alert.Type()]) + " [" + alert.Title() + "] " + alert.Text();
-    for (const std::string& button : alert.Buttons())
-        line += " | " + button;
-    lines_.push_back(line);
+    lines_.push_back(AlertLine(alert));
     const size_t asked = lines_.size() - 1;
     return asked < answers_.size() ? answers_[asked]
                                    : static_cast<int32>(alert.Buttons().size()) - 1;
@@ -56,9 +61,11 @@ status_t PortRecorder::Post(BMessage message, handler_token) {
     return B_OK;
 }
 
-std::string PortRecorder::Transcript() const {
+namespace {
+
+std::string TranscriptOf(const std::vector<BMessage>& messages) {
     std::string transcript;
-    for (const BMessage& message : Messages()) {
+    for (const BMessage& message : messages) {
         if (!transcript.empty()) transcript += ' ';
         transcript += CodeText(message.what);
         std::string text;
@@ -67,6 +74,17 @@ std::string PortRecorder::Transcript() const {
         }
     }
     return transcript;
+}
+
+}  // namespace
+
+std::string PortRecorder::Transcript() const {
+    return TranscriptOf(Messages());
+}
+
+std::string PortRecorder::TakeTranscript() {
+    const std::lock_guard lock(mutex_);
+    return TranscriptOf(std::exchange(messages_, {}));
 }
 
 std::vector<BMessage> PortRecorder::Messages() const {

@@ -28,7 +28,10 @@ class DebugRecorder {
     DebugSink previous_;
 };
 
-// Answers alerts from a script and records them as "TYPE [title] text | button | button".
+// An alert as "TYPE [title] text | button | button".
+std::string AlertLine(const BAlert& alert);
+
+// Answers alerts from a script and records their lines.
 class AlertRecorder : public AlertPresenter {
   public:
     // answers: button indices in order; the last button once they are used up.
@@ -51,6 +54,8 @@ class PortRecorder : public MessagePort {
     bool IsOpen() const override { return true; }
     // The messages so far, joined by single spaces; status texts as svup(TEXT).
     std::string Transcript() const;
+    // The same, and forgets them.
+    std::string TakeTranscript();
     std::vector<BMessage> Messages() const;
 
   private:
