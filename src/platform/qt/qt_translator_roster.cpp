@@ -58,21 +58,24 @@ std::shared_ptr<BBitmap> BitmapOf(const QImage& image, std::shared_ptr<PixelBudg
     return bitmap;
 }
 
-// Bytes that the budget still allows, rounded down to the whole mebibytes that Qt's own limit
-// knows.
-int AllocationLimit(const PixelBudget* budget) {
+// Bytes that the budget still allows.
+uint64 BytesLeft(const PixelBudget* budget) {
     const uint64 limit = budget ? budget->Limit() : PixelBudget::DefaultLimit();
     const uint64 used = budget ? budget->Used() : 0;
-    const uint64 left = limit > used ? limit - used : 0;
-    return static_cast<int>(std::clamp<uint64>(left >> 20, 1, 1 << 20));
+    return limit > used ? limit - used : 0;
+}
+
+// Qt's own limit, in its whole mebibytes, for pictures that tell their size only while they are
+// decoded. It leaves room for pixels of 16 bits a channel, which take twice the bytes until they
+// are converted; the bitmap's own reservation is exact.
+int AllocationLimit(const PixelBudget* budget) {
+    return static_cast<int>(std::min<uint64>((BytesLeft(budget) >> 19) + 1, 1 << 20));
 }
 
 bool FitsBudget(QSize size, const PixelBudget* budget) {
     if (!size.isValid()) return true;
-    const uint64 bytes = static_cast<uint64>(size.width()) * static_cast<uint64>(size.height()) * 4;
-    const uint64 limit = budget ? budget->Limit() : PixelBudget::DefaultLimit();
-    const uint64 used = budget ? budget->Used() : 0;
-    return used <= limit && bytes <= limit - used;
+    const uint64 pixels = static_cast<uint64>(size.width()) * static_cast<uint64>(size.height());
+    return pixels <= BytesLeft(budget) / 4;
 }
 
 // The settings of the writer, absent ones at the format's defaults, as Qt's writer knows them.
@@ -125,6 +128,7 @@ const std::vector<QtTranslatorRoster::Entry>& QtTranslatorRoster::Entries() cons
 
 void QtTranslatorRoster::RestrictPluginFolders() {
     qunsetenv("QT_PLUGIN_PATH");
+    qunsetenv("QT_QPA_PLATFORM_PLUGIN_PATH");
     QCoreApplication::setLibraryPaths({QLibraryInfo::path(QLibraryInfo::PluginsPath)});
 }
 
@@ -138,7 +142,8 @@ status_t QtTranslatorRoster::Translate(BFile& source, std::shared_ptr<PixelBudge
     reader.setAutoTransform(true);
     // Qt's own Targa reader knows only some of the format's forms.
     if (!reader.canRead() || reader.format() == "tga") {
-        return ReadTarga(source, std::move(budget), result) == B_OK ? B_OK : B_NO_TRANSLATOR;
+        const status_t status = ReadTarga(source, std::move(budget), result);
+        return status == B_BAD_DATA ? B_NO_TRANSLATOR : status;
     }
     if (!FitsBudget(reader.size(), budget.get())) return B_NO_MEMORY;
     QImageReader::setAllocationLimit(AllocationLimit(budget.get()));
