@@ -4,7 +4,7 @@
 #include <fstream>
 #include <gtest/gtest.h>
 #include <iterator>
-#include <regex>
+#include <regex.h>
 #include <sstream>
 
 namespace kirto::test {
@@ -46,11 +46,19 @@ std::vector<fs::path> FilesBelow(const std::string& folder,
 }
 
 std::vector<std::string> AllMatches(const std::string& text, const std::string& expression) {
-    const std::regex regex(expression);
     std::vector<std::string> matches;
-    for (std::sregex_iterator match(text.begin(), text.end(), regex), end; match != end; ++match) {
-        matches.push_back((*match)[1].str());
+    regex_t regex;
+    if (regcomp(&regex, expression.c_str(), REG_EXTENDED) != 0) {
+        ADD_FAILURE() << expression << " is no regular expression";
+        return matches;
     }
+    const char* rest = text.c_str();
+    regmatch_t groups[2];
+    for (int flags = 0; regexec(&regex, rest, 2, groups, flags) == 0; flags = REG_NOTBOL) {
+        matches.emplace_back(rest + groups[1].rm_so, rest + groups[1].rm_eo);
+        rest += groups[0].rm_eo;
+    }
+    regfree(&regex);
     return matches;
 }
 

@@ -19,7 +19,8 @@ std::vector<std::string> LinesOf(const std::filesystem::path& path);
 std::vector<std::filesystem::path> FilesBelow(const std::string& folder,
                                               const std::vector<std::string>& endings);
 
-// Every text that the first group of the regular expression matches in the text, in order.
+// Every text that the first group of the regular expression (POSIX, extended; it matches at least
+// one character) matches in the text, in order.
 std::vector<std::string> AllMatches(const std::string& text, const std::string& expression);
 
 }  // namespace kirto::test
