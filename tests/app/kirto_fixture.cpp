@@ -1,5 +1,8 @@
 #include "app/kirto_fixture.h"
 
+#include <algorithm>
+#include <filesystem>
+
 #include "support/fli_builder.h"
 
 namespace kirto::test {
@@ -80,6 +83,14 @@ Lines KirtoFixture::Names() const {
         EXPECT_EQ(frame->index, static_cast<int32>(names.size()));
         names.push_back(frame->index == app_->Selected() ? "[" + frame->name + "]" : frame->name);
     }
+    return names;
+}
+
+Lines KirtoFixture::FolderContent() const {
+    Lines names;
+    for (const auto& entry : std::filesystem::directory_iterator(folder_.Path()))
+        names.push_back(entry.path().filename().string());
+    std::sort(names.begin(), names.end());
     return names;
 }
 

@@ -52,6 +52,8 @@ class KirtoFixture : public ::testing::Test {
     void Append(const Lines& names);
     // The frames' names in order, with the current one in brackets.
     Lines Names() const;
+    // The names in the folder, sorted.
+    Lines FolderContent() const;
     std::string File(const std::string& name) const { return folder_.File(name); }
     void Write(const std::string& name, const std::vector<uint8>& bytes) const {
         WriteBytes(File(name), bytes);

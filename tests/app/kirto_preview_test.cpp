@@ -1,0 +1,143 @@
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include "app/kirto_fixture.h"
+#include "support/full_disk.h"
+
+namespace kirto::test {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* kNoPreview =
+    "The animation can't be previewed because a temporary file could not be created.";
+
+class KirtoPreview : public KirtoFixture {};
+
+TEST_F(KirtoPreview, WritesAFileThatOnlyTheUserCanRead) {
+    Start();
+    Append({"one"});
+    app_->modified = true;
+
+    EXPECT_EQ(Do(kPreview), "svup(Status: writing frame 1 of 1...) auda");
+
+    struct stat info {};
+    ASSERT_EQ(stat(File("kirtotemp.gif").c_str(), &info), 0);
+    EXPECT_EQ(info.st_mode & 07777, 0600u);
+    EXPECT_EQ(ReadBytes(File("kirtotemp.gif")).at(0), 'G');
+    EXPECT_EQ(FolderContent(), Lines{"kirtotemp.gif"});
+    EXPECT_EQ(app_->file_name, "untitled");
+    EXPECT_TRUE(app_->modified);
+}
+
+TEST_F(KirtoPreview, ReplacesALinkInItsPlaceAndLeavesTheTargetAlone) {
+    Write("precious.gif", {'o', 'l', 'd'});
+    fs::create_symlink(File("precious.gif"), File("kirtotemp.gif"));
+    Start();
+    Append({"one"});
+
+    Do(kPreview);
+
+    EXPECT_FALSE(fs::is_symlink(File("kirtotemp.gif")));
+    EXPECT_EQ(ReadBytes(File("kirtotemp.gif")).at(0), 'G');
+    EXPECT_EQ(ReadBytes(File("precious.gif")), (std::vector<uint8>{'o', 'l', 'd'}));
+}
+
+TEST_F(KirtoPreview, ReplacesThePreviewBefore) {
+    Write("kirtotemp.gif", {'o', 'l', 'd'});
+    Start();
+    Append({"one"});
+
+    Do(kPreview);
+
+    EXPECT_EQ(ReadBytes(File("kirtotemp.gif")).at(0), 'G');
+}
+
+TEST_F(KirtoPreview, FallsBackToTheHomeFolderAndTheSettingSaysSo) {
+    prefs_.misc_tempfilelocation = File("missing");
+    Start();
+    Append({"one"});
+
+    Do(kPreview);
+
+    EXPECT_EQ(prefs_.misc_tempfilelocation, folder_.Path());
+    EXPECT_EQ(TakeLines(), Lines{"browser " + File("kirtotemp.gif")});
+}
+
+TEST_F(KirtoPreview, RefusesFramesLargerThanTheAnimation) {
+    prefs_.misc_tempfilelocation = File("missing");
+    Start();
+    Append({"one"});
+    app_->global_width = 0;
+    app_->file_name = "kept.gif";
+    app_->file_directory = folder_.Path();
+
+    EXPECT_EQ(Do(kPreview), "auda");
+
+    EXPECT_EQ(TakeLines(), Lines{WarningLine("The animation can't be previewed because one of the "
+                                             "frames has a larger size than the animation.")});
+    EXPECT_EQ(app_->file_name, "kept.gif");
+    EXPECT_EQ(app_->file_directory, folder_.Path());
+    EXPECT_EQ(prefs_.misc_tempfilelocation, File("missing"));
+}
+
+TEST_F(KirtoPreview, TellsWhenItCantBeWritten) {
+    Start();
+    Append({"one"});
+    {
+        const FullDisk disk;
+        Do(kPreview);
+    }
+
+    EXPECT_EQ(TakeLines(), Lines{WarningLine(kNoPreview)});
+    EXPECT_EQ(FolderContent(), Lines{});
+}
+
+TEST_F(KirtoPreview, TellsWhenItsFolderRefusesIt) {
+    fs::create_directory(File("kirtotemp.gif"));
+    Write("kirtotemp.gif/full", {1});
+    Start();
+    Append({"one"});
+
+    Do(kPreview);
+
+    EXPECT_EQ(TakeLines(), Lines{WarningLine(kNoPreview)});
+    EXPECT_EQ(FolderContent(), Lines{"kirtotemp.gif"});
+}
+
+TEST_F(KirtoPreview, LetsThePaletteFollowItsFrameFirst) {
+    Start();
+    Append({"one"});
+    app_->global_palette->Set(kPaletteCurrentFrame);
+
+    Do(kPreview);
+
+    EXPECT_EQ(app_->global_palette->ColorForIndex(0), (rgb_color{0x64, 0x64, 0x64, 255}));
+}
+
+TEST_F(KirtoPreview, AskedToStopShowsNothing) {
+    Start();
+    Append({"one"});
+    app_->RequestStop();
+
+    Do(kPreview);
+
+    EXPECT_EQ(TakeLines(), Lines{});
+    EXPECT_EQ(FolderContent(), Lines{});
+}
+
+TEST_F(KirtoPreview, IsRemovedAtTheEnd) {
+    Start();
+    Append({"one"});
+    Do(kPreview);
+
+    app_.reset();
+
+    EXPECT_EQ(FolderContent(), Lines{});
+}
+
+}  // namespace
+
+}  // namespace kirto::test

@@ -1,0 +1,294 @@
+#include <filesystem>
+#include <gtest/gtest.h>
+
+#include "app/kirto_fixture.h"
+#include "support/full_disk.h"
+
+namespace kirto::test {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* kNotCreated =
+    "The animation can't be saved because the file could not be created at this location.";
+constexpr const char* kInvalidTranslator =
+    "The animation can't be saved because the selected translator is not valid.";
+
+class KirtoSave : public KirtoFixture {};
+
+TEST_F(KirtoSave, WritesAGifAndTellsTheWindowToGoOn) {
+    Start();
+    Append({"one", "two"});
+    app_->modified = true;
+
+    EXPECT_EQ(Do(SaveTo(folder_.Path(), "out.gif")),
+              "svup(Status: writing frame 1 of 2...) svup(Status: writing frame 2 of 2...) arsm "
+              "auda");
+
+    EXPECT_FALSE(app_->modified);
+    EXPECT_EQ(ReadBytes(File("out.gif")).at(0), 'G');
+    EXPECT_EQ(FolderContent(), Lines{"out.gif"});
+    EXPECT_EQ(TakeLines(), Lines{});
+}
+
+TEST_F(KirtoSave, TakesBothNumbersOfTheAnimatedGifAndNoNumberForIt) {
+    Start();
+    Append({"one"});
+    DebugRecorder debug;
+    BMessage without_number(kSaveFile);
+    without_number.AddRef("directory", entry_ref(folder_.Path()));
+    without_number.AddString("name", "none.gif");
+
+    Do(SaveTo(folder_.Path(), "zero.gif", 0));
+    Do(SaveTo(folder_.Path(), "ones.gif", 0xFFFFFFFF));
+    Do(SaveTo(folder_.Path(), "minus.gif", -1));
+    EXPECT_EQ(debug.Text(), "");
+    Do(without_number);
+
+    EXPECT_EQ(debug.Text(),
+              "Kirto::Save() - Could not recover translator_id from message, using animated GIF\n");
+    EXPECT_EQ(FolderContent(), (Lines{"minus.gif", "none.gif", "ones.gif", "zero.gif"}));
+}
+
+TEST_F(KirtoSave, WithoutADirectoryOrANameSavesNothing) {
+    Start();
+    Append({"one"});
+    app_->modified = true;
+    BMessage without_name(kSaveFile);
+    without_name.AddInt64("translator_id", 0);
+    without_name.AddRef("directory", entry_ref(folder_.Path()));
+    BMessage without_directory(kSaveFile);
+    without_directory.AddInt64("translator_id", 0);
+    without_directory.AddString("name", "out.gif");
+
+    EXPECT_EQ(Do(without_name), "auda");
+    EXPECT_EQ(Do(without_directory), "auda");
+
+    EXPECT_TRUE(app_->modified);
+    EXPECT_EQ(app_->file_name, "untitled");
+    EXPECT_EQ(FolderContent(), Lines{});
+}
+
+TEST_F(KirtoSave, CutsTheNameAtAWholeCharacter) {
+    Start();
+    const std::string name = std::string(254, 'n') + "\xC3\xA4.gif";
+
+    // A sequence keeps its name even where its files can't be made.
+    Do(SaveTo(folder_.Path(), name, FakeRoster::kRaw));
+
+    EXPECT_EQ(app_->file_name, std::string(254, 'n'));
+}
+
+TEST_F(KirtoSave, LetsThePaletteFollowItsFrameFirst) {
+    Start();
+    Append({"one"});
+    app_->global_palette->Set(kPaletteFirstFrame);
+
+    Do(SaveTo(folder_.Path(), "out.gif"));
+
+    EXPECT_EQ(app_->global_palette->mode, kPaletteFirstFrame);
+    EXPECT_EQ(app_->global_palette->ColorForIndex(0), (rgb_color{0x64, 0x64, 0x64, 255}));
+}
+
+TEST_F(KirtoSave, RefusesFramesLargerThanTheAnimation) {
+    Start();
+    Append({"one"});
+    for (const bool too_wide : {true, false}) {
+        app_->global_width = too_wide ? 0 : 5;
+        app_->global_height = too_wide ? 5 : 0;
+        app_->modified = true;
+
+        EXPECT_EQ(Do(SaveTo(folder_.Path(), "out.gif")), "auda");
+
+        EXPECT_EQ(TakeLines(), Lines{WarningLine("The animation can't be saved because one of the "
+                                                 "frames has a larger size than the animation.")});
+        EXPECT_EQ(app_->file_name, "untitled");
+        EXPECT_EQ(app_->file_directory, "");
+        EXPECT_TRUE(app_->modified);
+    }
+    EXPECT_EQ(FolderContent(), Lines{});
+}
+
+TEST_F(KirtoSave, ForgetsANameThatCantBeCreated) {
+    Start();
+    Append({"one"});
+    app_->modified = true;
+
+    EXPECT_EQ(Do(SaveTo(File("missing"), "out.gif")), "auda");
+
+    EXPECT_EQ(TakeLines(), Lines{WarningLine(kNotCreated)});
+    EXPECT_EQ(app_->file_name, "untitled");
+    EXPECT_EQ(app_->file_directory, "");
+    EXPECT_TRUE(app_->modified);
+}
+
+TEST_F(KirtoSave, KeepsTheOldFileWhenTheNewOneCantBeWritten) {
+    Write("out.gif", {'o', 'l', 'd'});
+    Start();
+    Append({"one"});
+    app_->modified = true;
+    std::string transcript;
+    {
+        const FullDisk disk;
+        transcript = Do(SaveTo(folder_.Path(), "out.gif"));
+    }
+
+    EXPECT_EQ(transcript, "svup(Status: writing frame 1 of 1...) auda");
+    EXPECT_EQ(TakeLines(), Lines{WarningLine(kNotCreated)});
+    EXPECT_EQ(ReadBytes(File("out.gif")), (std::vector<uint8>{'o', 'l', 'd'}));
+    EXPECT_EQ(FolderContent(), Lines{"out.gif"});
+    EXPECT_EQ(app_->file_name, "untitled");
+    EXPECT_TRUE(app_->modified);
+}
+
+TEST_F(KirtoSave, AskedToStopKeepsTheOldFileAndTheNameAndSaysNothing) {
+    Write("out.gif", {'o', 'l', 'd'});
+    Start();
+    Append({"one"});
+    app_->modified = true;
+    app_->RequestStop();
+
+    const std::string transcript = Do(SaveTo(folder_.Path(), "out.gif"));
+
+    EXPECT_EQ(transcript.find("arsm"), std::string::npos);
+    EXPECT_EQ(TakeLines(), Lines{});
+    EXPECT_EQ(ReadBytes(File("out.gif")), (std::vector<uint8>{'o', 'l', 'd'}));
+    EXPECT_EQ(app_->file_name, "out.gif");
+    EXPECT_TRUE(app_->modified);
+}
+
+class KirtoSaveSequence : public KirtoFixture {
+  protected:
+    BMessage SequenceTo(const std::string& name, int64 translator = FakeRoster::kRaw) const {
+        return SaveTo(folder_.Path(), name, translator);
+    }
+};
+
+TEST_F(KirtoSaveSequence, NumbersTheFilesBeforeTheEnding) {
+    Start();
+    Append({"one", "two", "three"});
+    app_->modified = true;
+
+    EXPECT_EQ(Do(SequenceTo("movie.tiff")), "arsm auda");
+
+    EXPECT_EQ(FolderContent(), (Lines{"movie0000.tiff", "movie0001.tiff", "movie0002.tiff"}));
+    EXPECT_EQ(ReadBytes(File("movie0002.tiff")), RawPicture(*app_->FrameAt(2)->bitmap));
+    EXPECT_FALSE(app_->modified);
+    EXPECT_EQ(app_->file_name, "movie.tiff");
+    EXPECT_TRUE(app_->FrameAt(2)->bitmap->Bits());
+}
+
+TEST_F(KirtoSaveSequence, SplitsTheNameAtItsFirstDot) {
+    Start();
+    Append({"one"});
+
+    for (const std::string name : {"a.b.png", "plain", ".hidden", "100%d.png"})
+        Do(SequenceTo(name));
+
+    EXPECT_EQ(FolderContent(), (Lines{"0000.hidden", "100%d0000.png", "a0000.b.png", "plain0000"}));
+}
+
+TEST_F(KirtoSaveSequence, OfNoFramesSucceedsWithoutAFile) {
+    Start();
+
+    EXPECT_EQ(Do(SequenceTo("movie.raw")), "arsm auda");
+
+    EXPECT_EQ(FolderContent(), Lines{});
+}
+
+TEST_F(KirtoSaveSequence, HandsTheTranslatorItsSettings) {
+    Start();
+    Append({"one"});
+    BMessage settings;
+    settings.AddInt32("quality", 7);
+    app_->translator_settings[FakeRoster::kRaw] = settings;
+
+    Do(SequenceTo("movie.raw"));
+
+    EXPECT_EQ(roster_.written_settings, settings);
+}
+
+TEST_F(KirtoSaveSequence, RefusesAnUnknownTranslator) {
+    Start();
+    Append({"one"});
+    app_->modified = true;
+
+    EXPECT_EQ(Do(SequenceTo("movie.raw", 99)), "arsm auda");
+
+    EXPECT_EQ(TakeLines(), Lines{WarningLine(kInvalidTranslator)});
+    EXPECT_TRUE(app_->modified);
+    EXPECT_EQ(FolderContent(), Lines{});
+}
+
+TEST_F(KirtoSaveSequence, GoesOnWithoutAFileFormat) {
+    Start();
+    Append({"one"});
+    app_->modified = true;
+    DebugRecorder debug;
+
+    EXPECT_EQ(Do(SequenceTo("movie.raw", FakeRoster::kReadOnly)), "arsm auda");
+
+    EXPECT_EQ(debug.Text(), "Kirto::SaveSequence() - Desired format is 0, this is not good\n");
+    EXPECT_EQ(TakeLines(), Lines{WarningLine(kInvalidTranslator)});
+    EXPECT_TRUE(app_->modified);
+}
+
+TEST_F(KirtoSaveSequence, StopsAtAFrameThatCantBeTranslated) {
+    Start();
+    Append({"one", "two"});
+    app_->modified = true;
+    roster_.write_status = B_NO_TRANSLATOR;
+
+    EXPECT_EQ(Do(SequenceTo("movie.raw")), "arsm auda");
+
+    EXPECT_EQ(TakeLines(), Lines{WarningLine(kInvalidTranslator)});
+    EXPECT_EQ(FolderContent(), Lines{});
+    EXPECT_TRUE(app_->modified);
+    EXPECT_EQ(app_->file_name, "movie.raw");
+}
+
+TEST_F(KirtoSaveSequence, StopsAtAFileThatCantBeCreated) {
+    fs::create_directory(File("movie0001.raw"));
+    Start();
+    Append({"one", "two", "three"});
+    app_->modified = true;
+
+    EXPECT_EQ(Do(SequenceTo("movie.raw")), "arsm auda");
+
+    EXPECT_EQ(TakeLines(), Lines{WarningLine(kNotCreated)});
+    EXPECT_EQ(FolderContent(), (Lines{"movie0000.raw", "movie0001.raw"}));
+    EXPECT_TRUE(app_->modified);
+}
+
+TEST_F(KirtoSaveSequence, KeepsTheOldFileWhenTheNewOneCantBeWritten) {
+    Write("movie0000.raw", {'o', 'l', 'd'});
+    Start();
+    Append({"one"});
+    app_->modified = true;
+    {
+        const FullDisk disk;
+        Do(SequenceTo("movie.raw"));
+    }
+
+    EXPECT_EQ(TakeLines(), Lines{WarningLine(kNotCreated)});
+    EXPECT_EQ(ReadBytes(File("movie0000.raw")), (std::vector<uint8>{'o', 'l', 'd'}));
+    EXPECT_EQ(FolderContent(), Lines{"movie0000.raw"});
+    EXPECT_TRUE(app_->modified);
+}
+
+TEST_F(KirtoSaveSequence, EndsBeforeTheNextFrameWhenAskedToStop) {
+    Start();
+    Append({"one"});
+    app_->modified = true;
+    app_->RequestStop();
+
+    Do(SequenceTo("movie.raw"));
+
+    EXPECT_EQ(FolderContent(), Lines{});
+    EXPECT_TRUE(app_->modified);
+}
+
+}  // namespace
+
+}  // namespace kirto::test
