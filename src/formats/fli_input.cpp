@@ -12,7 +12,7 @@ namespace {
 constexpr int64 kReadCost = 32;
 constexpr int64 kWorkPerByte = 16;
 // For small files whose sizes are a little wrong.
-constexpr int64 kSlack = int64{256} << 10;
+constexpr int64 kSlack = int64{64} << 10;
 constexpr int64 kLargestFile = int64{1} << 56;
 
 }  // namespace
