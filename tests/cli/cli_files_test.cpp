@@ -155,6 +155,10 @@ TEST(KirtoCli, NamesTheKindOfPaletteAndTheUnitOfPauses) {
     EXPECT_EQ(home.Run({"--loop", "off", "--pause", "off", "--info"}).out,
               "untitled: 320 x 240, 0 frame(s), modified\nloop: off\npause: off\n"
               "palette: web safe, 216 colours, background 0, transparent off\n");
+    home.Write("three.gif", ThreeFrameGif());
+    EXPECT_NE(home.Run({"--open", "three.gif", "--frame-palette", "optimal", "--info"})
+                  .out.find("*    0  frame0000                2 x 1 at 0,0  pause off  optimal\n"),
+              std::string::npos);
 }
 
 TEST(KirtoCli, OpensAnimationsByNameAndByTheirFirstBytes) {

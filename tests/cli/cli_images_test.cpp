@@ -25,6 +25,14 @@ struct ImageHome : CliHome {
         Write("picture.ppm", SmallPicture());
         Write("three.gif", ThreeFrameGif());
     }
+    // Makes a shell script the user's web browser.
+    void SetBrowser(const std::string& commands) {
+        const std::string path = File("browser");
+        const std::string script = "#!/bin/sh\n" + commands + "\n";
+        WriteBytes(path, {script.begin(), script.end()});
+        fs::permissions(path, fs::perms::owner_all);
+        SetEnvironment("BROWSER", path);
+    }
     void ExpectRefused(const Arguments& arguments, const std::string& line, int status = 2) const {
         const RunResult result = Run(arguments);
         EXPECT_EQ(result.status, status);
@@ -166,11 +174,7 @@ TEST(KirtoCli, ListsTheImageFormats) {
 
 TEST(KirtoCli, ShowsAPreviewAndRemovesItAfterwards) {
     ImageHome home;
-    const std::string viewer = home.File("viewer");
-    const std::string script = "#!/bin/sh\ncp \"$1\" seen.gif\necho \"$1\" > seen.txt\n";
-    WriteBytes(viewer, {script.begin(), script.end()});
-    fs::permissions(viewer, fs::perms::owner_all);
-    home.SetEnvironment("BROWSER", viewer);
+    home.SetBrowser("cp \"$1\" seen.gif; echo \"$1\" > seen.txt");
 
     const RunResult result = home.Run({"--open", "three.gif", "--preview"});
 
@@ -179,6 +183,29 @@ TEST(KirtoCli, ShowsAPreviewAndRemovesItAfterwards) {
     EXPECT_EQ(std::string(seen.begin(), seen.end()), home.HomeFile("kirtotemp.gif") + "\n");
     EXPECT_FALSE(fs::exists(home.HomeFile("kirtotemp.gif")));
     EXPECT_EQ(home.Info({"--quiet", "--open", "seen.gif"})["frame_count"], 3);
+}
+
+TEST(KirtoCli, FailsWhereNoProgramShowsThePreview) {
+    ImageHome home;
+    home.SetBrowser("exit 1");
+    home.SetEnvironment("PATH", home.File("nowhere"));
+
+    home.ExpectRefused({"--open", "three.gif", "--preview"},
+                       home.HomeFile("kirtotemp.gif") +
+                           ": The preview is written, but no program to show it was found.",
+                       1);
+}
+
+TEST(KirtoCli, StopsWhenItIsInterrupted) {
+    for (const char* signal : {"INT", "TERM"}) {
+        ImageHome home;
+        home.SetBrowser("kill -" + std::string(signal) + " $PPID");
+
+        home.ExpectRefused({"--open", "three.gif", "--preview", "--save", "new.gif"}, "Stopped.",
+                           1);
+
+        EXPECT_FALSE(fs::exists(home.File("new.gif")));
+    }
 }
 
 TEST(KirtoCli, PreviewsNothingWithoutFrames) {

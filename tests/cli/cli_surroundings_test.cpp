@@ -224,6 +224,17 @@ TEST(KirtoSample, WritesAnAnimationOf24Frames) {
     EXPECT_NE(info["frames"][0]["md5"], info["frames"][6]["md5"]);
 }
 
+TEST(KirtoSample, WritesPicturesToInsert) {
+    const CliHome home;
+
+    const RunResult sample = home.RunProgram(KIRTO_SAMPLE, {"--pictures", "."});
+
+    EXPECT_EQ(sample.status, 0);
+    const Json info = home.Info(
+        {"--insert", "dawn.tga", "--insert", "noon.tga", "--insert-tiled", "wheel-4x3.tga,3,4"});
+    EXPECT_EQ(info["frame_count"], 14);
+}
+
 TEST(KirtoSample, TellsItsUsageAndItsFailures) {
     const CliHome home;
 
