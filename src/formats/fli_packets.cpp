@@ -20,7 +20,7 @@ void DrawRepeat(int32 count, ByteReader& reader, FliPixelWriter& writer) {
 
 void DrawLcPacket(ByteReader& reader, FliPixelWriter& writer) {
     writer.Skip(reader.U8());
-    const int32 count = reader.S8();
+    const int8 count = reader.S8();
     if (count < 0) {
         DrawRepeat(-count, reader, writer);
     } else {
@@ -29,7 +29,7 @@ void DrawLcPacket(ByteReader& reader, FliPixelWriter& writer) {
 }
 
 void DrawBrunPacket(ByteReader& reader, FliPixelWriter& writer) {
-    const int32 count = reader.S8();
+    const int8 count = reader.S8();
     if (count < 0) {
         DrawLiterals(-count, reader, writer);
     } else {
@@ -39,7 +39,7 @@ void DrawBrunPacket(ByteReader& reader, FliPixelWriter& writer) {
 
 void DrawDeltaPacket(ByteReader& reader, FliPixelWriter& writer) {
     writer.Skip(reader.U8());
-    const int32 count = reader.S8();
+    const int8 count = reader.S8();
     if (count >= 0) {
         DrawLiterals(count * 2, reader, writer);
         return;
