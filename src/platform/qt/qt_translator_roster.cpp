@@ -19,6 +19,12 @@ bool IsTarga(const ImageFormat& format) {
     return *format.qt_name == '\0';
 }
 
+// Qt's own Targa reader knows only some of the format's forms, and to Qt many a Targa file looks
+// like a Windows cursor.
+bool MayBeTarga(const QByteArray& qt_format) {
+    return qt_format.isEmpty() || qt_format == "tga" || qt_format == "ico" || qt_format == "cur";
+}
+
 bool HasTransparency(const BBitmap& bitmap) {
     const size_t alpha = IsBigEndian(bitmap.ColorSpace()) ? 0 : 3;
     for (size_t i = alpha; i < bitmap.BitsLength(); i += 4) {
@@ -78,15 +84,18 @@ bool FitsBudget(QSize size, const PixelBudget* budget) {
     return pixels <= BytesLeft(budget) / 4;
 }
 
-// The settings of the writer, absent ones at the format's defaults, as Qt's writer knows them.
+// The settings that the format has, absent ones and those of another kind at its defaults, as Qt's
+// writer knows them.
 void ApplySettings(const BMessage& settings, const ImageFormat& format, QImageWriter* writer) {
     const auto number = [&](const char* name, int32* value) {
-        return settings.FindInt32(name, value) == B_OK ||
-               format.settings.FindInt32(name, value) == B_OK;
+        if (format.settings.FindInt32(name, value) != B_OK) return false;
+        settings.FindInt32(name, value);
+        return true;
     };
     const auto flag = [&](const char* name, bool* value) {
-        return settings.FindBool(name, value) == B_OK ||
-               format.settings.FindBool(name, value) == B_OK;
+        if (format.settings.FindBool(name, value) != B_OK) return false;
+        settings.FindBool(name, value);
+        return true;
     };
     int32 value = 0;
     bool on = false;
@@ -103,7 +112,8 @@ void ApplySettings(const BMessage& settings, const ImageFormat& format, QImageWr
 status_t WriteTargaImage(const BBitmap& source, const BMessage& settings, const ImageFormat& format,
                          BFile& destination) {
     bool packed = false;
-    if (settings.FindBool("rle", &packed) != B_OK) format.settings.FindBool("rle", &packed);
+    format.settings.FindBool("rle", &packed);
+    settings.FindBool("rle", &packed);
     const QImage image = ImageOf(source);
     const QImage rgba = image.convertToFormat(QImage::Format_RGBA8888);
     if (rgba.isNull()) return B_NO_MEMORY;
@@ -140,10 +150,12 @@ status_t QtTranslatorRoster::Translate(BFile& source, std::shared_ptr<PixelBudge
     QImageReader reader(&device);
     reader.setDecideFormatFromContent(true);
     reader.setAutoTransform(true);
-    // Qt's own Targa reader knows only some of the format's forms.
-    if (!reader.canRead() || reader.format() == "tga") {
-        const status_t status = ReadTarga(source, std::move(budget), result);
-        return status == B_BAD_DATA ? B_NO_TRANSLATOR : status;
+    const QByteArray format = reader.canRead() ? reader.format() : QByteArray();
+    if (MayBeTarga(format)) {
+        const status_t status = ReadTarga(source, budget, result);
+        if (status != B_BAD_DATA) return status;
+        if (format.isEmpty() || format == "tga") return B_NO_TRANSLATOR;
+        device.seek(0);
     }
     if (!FitsBudget(reader.size(), budget.get())) return B_NO_MEMORY;
     QImageReader::setAllocationLimit(AllocationLimit(budget.get()));

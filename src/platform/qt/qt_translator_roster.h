@@ -24,7 +24,7 @@ class QtTranslatorRoster : public BTranslatorRoster {
     BMessage DefaultSettings(translator_id translator) const override;
 
     // Keeps Qt from loading plugins from anywhere but its own installed folder. Call before the
-    // first use of Qt's image classes and before the QGuiApplication is made.
+    // QGuiApplication is made, and once more after it, as it adds the program's own folder.
     static void RestrictPluginFolders();
 
   private:

@@ -1,0 +1,170 @@
+// Files that are damaged, or made to do harm.
+#include <algorithm>
+#include <random>
+
+#include "platform_qt/roster_fixture.h"
+
+namespace kirto::test {
+
+namespace {
+
+Bytes BytesOf(const std::string& text) {
+    return {text.begin(), text.end()};
+}
+
+void AppendBig32(Bytes* bytes, uint32 value) {
+    for (const int shift : {24, 16, 8, 0})
+        bytes->push_back(static_cast<uint8>(value >> shift));
+}
+
+uint32 Crc(const Bytes& bytes) {
+    uint32 crc = 0xFFFFFFFF;
+    for (const uint8 byte : bytes) {
+        crc ^= byte;
+        for (int bit = 0; bit < 8; ++bit)
+            crc = crc >> 1 ^ (crc & 1 ? 0xEDB88320 : 0);
+    }
+    return ~crc;
+}
+
+void AppendChunk(Bytes* png, const std::string& type, const Bytes& data) {
+    Bytes checked = BytesOf(type);
+    checked.insert(checked.end(), data.begin(), data.end());
+    AppendBig32(png, static_cast<uint32>(data.size()));
+    png->insert(png->end(), checked.begin(), checked.end());
+    AppendBig32(png, Crc(checked));
+}
+
+// A true-colour PNG that says its size and has next to no data.
+Bytes PngHeader(uint32 width, uint32 height) {
+    Bytes png = {0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n'};
+    Bytes header;
+    AppendBig32(&header, width);
+    AppendBig32(&header, height);
+    header.insert(header.end(), {8, 2, 0, 0, 0});
+    AppendChunk(&png, "IHDR", header);
+    AppendChunk(&png, "IDAT", {0x78, 0x9C, 3, 0, 0, 0, 0, 1});
+    AppendChunk(&png, "IEND", {});
+    return png;
+}
+
+}  // namespace
+
+TEST_F(QtTranslatorRosterTest, RefusesAHugePictureByTheSizeInItsHeader) {
+    const auto budget = std::make_shared<PixelBudget>(uint64{1} << 30);
+
+    EXPECT_EQ(Read(PngHeader(60000, 60000), budget).status, B_NO_MEMORY);
+    EXPECT_EQ(Read(PngHeader(60000, 60000)).status, B_NO_MEMORY);
+    EXPECT_EQ(Read(BytesOf("P6\n30000 30000\n255\n"), budget).status, B_NO_MEMORY);
+    EXPECT_EQ(budget->Used(), 0U);
+}
+
+TEST_F(QtTranslatorRosterTest, AllowsPicturesOverQtsOwnCeiling) {
+    QImage image(6000, 6000, QImage::Format_Mono);
+    image.fill(0);
+
+    const Reading reading = Read(FileOf(image, "png"));
+
+    ASSERT_EQ(reading.status, B_OK);
+    EXPECT_EQ(reading.bitmap->Width(), 6000);
+}
+
+TEST_F(QtTranslatorRosterTest, ReadsExactlyWhatTheBudgetAllows) {
+    const auto picture = PictureOf(10, 10, Pixels(100, 0xFF336699));
+    for (const char* extension : {"png", "jpg", "webp", "tiff", "bmp", "tga", "ppm", "ico"}) {
+        if (!Writes(extension)) continue;
+        const Bytes file = Write(extension, *picture);
+        const auto enough = std::make_shared<PixelBudget>(400);
+        const auto too_small = std::make_shared<PixelBudget>(399);
+        const Reading reading = Read(file, enough);
+        EXPECT_EQ(reading.status, B_OK) << extension;
+        EXPECT_EQ(enough->Used(), 400U) << extension;
+        EXPECT_EQ(Read(file, enough).status, B_NO_MEMORY) << extension;
+        EXPECT_EQ(Read(file, too_small).status, B_NO_MEMORY) << extension;
+        EXPECT_EQ(too_small->Used(), 0U) << extension;
+    }
+}
+
+TEST_F(QtTranslatorRosterTest, RefusesADrawingThatAsksForAHugePicture) {
+    if (!Reads("svg")) GTEST_SKIP() << "no SVG plugin";
+    const auto budget = std::make_shared<PixelBudget>(uint64{1} << 20);
+
+    const Reading reading = Read(BytesOf("<svg xmlns='http://www.w3.org/2000/svg' width='30000' "
+                                         "height='30000'><rect width='9' height='9'/></svg>"),
+                                 budget);
+
+    EXPECT_NE(reading.status, B_OK);
+}
+
+TEST_F(QtTranslatorRosterTest, SurvivesDrawingsOfDeeplyNestedGroups) {
+    if (!Reads("svg")) GTEST_SKIP() << "no SVG plugin";
+    std::string text = "<svg xmlns='http://www.w3.org/2000/svg' width='3' height='3'>";
+    for (int i = 0; i < 200000; ++i)
+        text += "<g>";
+    text += "<rect width='3' height='3'/>";
+    for (int i = 0; i < 200000; ++i)
+        text += "</g>";
+
+    Read(BytesOf(text + "</svg>"));
+}
+
+TEST_F(QtTranslatorRosterTest, SurvivesFilesThatAreCutShort) {
+    const auto picture = Photograph(20, 20);
+    for (const ImageFormat& format : KnownImageFormats()) {
+        const std::string& extension = format.format.extensions.front();
+        if (!Writes(extension)) continue;
+        const Bytes whole = Write(extension, *picture);
+        const size_t step = std::max<size_t>(1, whole.size() / 60);
+        for (size_t size = 0; size < whole.size(); size += step) {
+            const Reading reading = Read({whole.begin(), whole.begin() + static_cast<long>(size)});
+            EXPECT_FALSE(size < 8 && reading.status == B_OK) << extension << ' ' << size;
+        }
+    }
+}
+
+TEST_F(QtTranslatorRosterTest, SurvivesDamagedFiles) {
+    const auto picture = Photograph(20, 20);
+    std::minstd_rand random(7);
+    const auto budget = std::make_shared<PixelBudget>(uint64{1} << 24);
+    for (const ImageFormat& format : KnownImageFormats()) {
+        const std::string& extension = format.format.extensions.front();
+        if (!Writes(extension)) continue;
+        const Bytes whole = Write(extension, *picture);
+        for (int i = 0; i < 60; ++i) {
+            Bytes damaged = whole;
+            for (int j = 0; j < 4; ++j) {
+                const size_t reach = j < 2 ? std::min<size_t>(64, damaged.size()) : damaged.size();
+                damaged[random() % reach] = static_cast<uint8>(random());
+            }
+            Read(damaged, budget);
+        }
+    }
+    EXPECT_EQ(budget->Used(), 0U);
+}
+
+TEST_F(QtTranslatorRosterTest, RefusesWhatIsNoImage) {
+    std::minstd_rand random(3);
+    Bytes noise(5000);
+    for (int i = 0; i < 100; ++i) {
+        std::generate(noise.begin(), noise.end(), [&] { return static_cast<uint8>(random()); });
+        // No Targa file by its first bytes.
+        noise[1] = 7;
+        EXPECT_EQ(Read(noise).status, B_NO_TRANSLATOR);
+    }
+    EXPECT_EQ(Read({}).status, B_NO_TRANSLATOR);
+    EXPECT_EQ(Read(BytesOf("Hello, this is a text.\n")).status, B_NO_TRANSLATOR);
+    EXPECT_EQ(Read(Bytes(100000)).status, B_NO_TRANSLATOR);
+}
+
+TEST_F(QtTranslatorRosterTest, RefusesTargaFilesThatAreNotWhole) {
+    Bytes targa = Write("tga", *Photograph(20, 20), FlagSetting("rle", false));
+    for (const size_t size : {17U, 18U, 100U, 1217U}) {
+        EXPECT_EQ(Read({targa.begin(), targa.begin() + static_cast<long>(size)}).status,
+                  B_NO_TRANSLATOR);
+    }
+    EXPECT_EQ(Read(targa).status, B_OK);
+    targa[13] = 0xFF;
+    EXPECT_EQ(Read(targa).status, B_NO_TRANSLATOR);
+}
+
+}  // namespace kirto::test
