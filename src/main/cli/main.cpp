@@ -1,8 +1,12 @@
 // kirto-cli: edits frame animations without a window.
 #include <QGuiApplication>
+#include <algorithm>
 #include <atomic>
+#include <clocale>
 #include <csignal>
 #include <cstdio>
+#include <memory>
+#include <set>
 
 #include "main/cli/cli_arguments.h"
 #include "main/cli/cli_session.h"
@@ -21,16 +25,39 @@ void StopOnInterrupt(int signal) {
 // What Qt has to remark about the surroundings of a program without a screen is of no use here.
 void IgnoreRemark(QtMsgType, const QMessageLogContext&, const QString&) {}
 
+bool UsesImages(const kirto::CliArguments& arguments) {
+    static const std::set<std::string> kImageOptions = {"--insert", "--insert-tiled",
+                                                        "--save-sequence", "--list-formats"};
+    return std::any_of(
+        arguments.operations.begin(), arguments.operations.end(),
+        [](const auto& operation) { return kImageOptions.contains(operation.option); });
+}
+
+// What Qt's image formats need: an application object, but no screen. It looks through the fonts of
+// the machine, so it is made only where images are used.
+class ImageSupport {
+  public:
+    explicit ImageSupport(bool wanted) {
+        if (!wanted) return;
+        qInstallMessageHandler(IgnoreRemark);
+        kirto::QtTranslatorRoster::RestrictPluginFolders();
+        application_ = std::make_unique<QGuiApplication>(argc_, argv_);
+        kirto::QtTranslatorRoster::RestrictPluginFolders();
+        // The application object takes over the user's locale; numbers stay as they are without it.
+        std::setlocale(LC_NUMERIC, "C");
+    }
+
+  private:
+    char name_[10] = "kirto-cli";
+    char option_[10] = "-platform";
+    char platform_[10] = "offscreen";
+    int argc_ = 3;
+    char* argv_[4] = {name_, option_, platform_, nullptr};
+    std::unique_ptr<QGuiApplication> application_;
+};
+
 int RunSession(kirto::CliArguments arguments) {
-    qInstallMessageHandler(IgnoreRemark);
-    // Qt's image formats need an application object, but no screen.
-    kirto::QtTranslatorRoster::RestrictPluginFolders();
-    int argc = 3;
-    char name[] = "kirto-cli";
-    char option[] = "-platform";
-    char platform[] = "offscreen";
-    char* argv[] = {name, option, platform, nullptr};
-    const QGuiApplication application(argc, argv);
+    const ImageSupport image_support(UsesImages(arguments));
     kirto::QtTranslatorRoster roster;
     kirto::CliSession session(std::move(arguments), roster);
     g_session = &session;
