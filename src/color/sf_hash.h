@@ -28,8 +28,7 @@ class SFHash {
     void AddItem(HashItem* item);
     // The first item added with the key, or null.
     HashItem* GetItem(uint32 key) const;
-    // Counts by walking every chain.
-    int32 CountItems() const;
+    int32 CountItems() const { return item_count_; }
     // Moves the cursor to the first bucket.
     void Rewind();
     // The item at the cursor, which then moves on; null past the last item, and the cursor is back
@@ -43,5 +42,13 @@ class SFHash {
     HashItem*& Bucket(int32 index) const { return buckets_[static_cast<size_t>(index)]; }
     HashItem*& Chain(uint32 key) const { return buckets_[key % static_cast<uint32>(bucket_count)]; }
 
+    // The first bucket from index on that holds an item, or bucket_count.
+    int32 UsedBucketFrom(int32 index) const;
+    uint64& UsedBits(int32 bucket) const { return used_[bucket / 64]; }
+
     kirto::AllocatedArray<HashItem*> buckets_;
+    // One bit a bucket that holds an item, behind the buckets in the same block: most tables are
+    // nearly empty, and walking all their buckets would cost more than filling them.
+    uint64* used_ = nullptr;
+    int32 item_count_ = 0;
 };
