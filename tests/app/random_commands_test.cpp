@@ -1,0 +1,211 @@
+// Drives the running application with random commands while other threads read the document as
+// windows do. Made for ThreadSanitizer, and a test of the list's invariants everywhere.
+#include <atomic>
+#include <gtest/gtest.h>
+#include <iterator>
+#include <thread>
+
+#include "app/kirto_fixture.h"
+#include "document/document_scope.h"
+#include "support/random_document.h"
+
+namespace kirto::test {
+
+namespace {
+
+constexpr int32 kBatches = 20;
+constexpr int32 kCommandsPerBatch = 1000;
+constexpr int32 kReaders = 3;
+// A stream of readers without pauses would keep the writer out for ever.
+constexpr bigtime_t kReaderPause = 2000;  // microseconds
+constexpr int32 kManyFrames = 60;
+
+const Lines kAnimations = {"anim.gif", "broken.gif", "anim.flc", "notes.txt"};
+const Lines kImages = {"one.raw", "two.raw", "notes.txt"};
+
+template <typename Container>
+const auto& OneOf(ChoiceSource& choices, const Container& values) {
+    return *std::next(std::begin(values), choices.Below(static_cast<uint32>(std::size(values))));
+}
+
+uint64 SumOf(const Palette& palette) {
+    return static_cast<uint64>(palette.mode) + static_cast<uint64>(palette.size) +
+           palette.colors.front().red + palette.colors.back().blue + (palette.dither ? 1 : 0);
+}
+
+uint64 SumOf(const Frame& frame) {
+    const uint8* bits = frame.bitmap->Bits();
+    return frame.name.size() + static_cast<uint64>(frame.width + frame.x_offset) +
+           static_cast<uint64>(frame.pause_length) + (frame.use_pause ? 1 : 0) + bits[0] +
+           bits[frame.bitmap->BitsLength() - 1] + SumOf(*frame.palette);
+}
+
+// Reads all that a window shows, and checks the list on the way. The caller is inside the lock.
+// The sum keeps the reads from being left out.
+uint64 ReadDocument(const AnimationDocument& document) {
+    uint64 sum = document.file_name.size() + document.file_directory.size() +
+                 static_cast<uint64>(document.global_width + document.global_height) +
+                 static_cast<uint64>(document.loop_count) +
+                 static_cast<uint64>(document.pause_length_global) + (document.modified ? 1 : 0) +
+                 (document.use_loop ? 1 : 0) + (document.use_pause_global ? 1 : 0) +
+                 SumOf(*document.global_palette);
+    int32 visited = 0;
+    for (const Frame* frame = document.FirstFrame(); frame; frame = frame->next) {
+        EXPECT_EQ(frame->index, visited);
+        EXPECT_EQ(document.FrameAt(visited), frame);
+        ++visited;
+        sum += SumOf(*frame);
+    }
+    EXPECT_EQ(document.FrameCount(), visited);
+    EXPECT_GE(document.Selected(), visited == 0 ? -1 : 0);
+    EXPECT_LT(document.Selected(), visited == 0 ? 0 : visited);
+    return sum;
+}
+
+// Threads that read the document for as long as it lives.
+class Readers {
+  public:
+    explicit Readers(AnimationDocument& document) {
+        for (int32 i = 0; i < kReaders; ++i)
+            threads_.emplace_back([this, &document, i] { Read(document, i == 0); });
+    }
+    ~Readers() {
+        done_ = true;
+        for (std::thread& thread : threads_)
+            thread.join();
+    }
+    uint64 Reads() const { return reads_; }
+
+  private:
+    void Read(AnimationDocument& document, bool waits) {
+        while (!done_) {
+            if (waits) {
+                const ReaderScope reader(document);
+                Count(ReadDocument(document));
+            } else if (const TryReaderScope reader(document); reader.Entered()) {
+                Count(ReadDocument(document));
+            }
+            snooze(kReaderPause);
+        }
+    }
+    void Count(uint64 sum) {
+        sum_ += sum;
+        ++reads_;
+    }
+
+    std::atomic<bool> done_ = false;
+    std::atomic<uint64> reads_ = 0;
+    std::atomic<uint64> sum_ = 0;
+    std::vector<std::thread> threads_;
+};
+
+class RandomCommands : public KirtoFixture, public ::testing::WithParamInterface<uint32> {
+  protected:
+    void WriteFiles() const {
+        Write("anim.gif", GifOf({10, 10, 20}));
+        std::vector<uint8> broken = GifOf({5, 0});
+        broken.resize(broken.size() - 5);
+        Write("broken.gif", broken);
+        Write("anim.flc", SmallFlc());
+        Write("one.raw", RawPicture(*PictureOf(2, 1, {0xFF0000FF, 0x00FF0000})));
+        Write("two.raw", RawPicture(*PictureOf(1, 3, {1, 2, 3}, B_RGBA32_BIG)));
+        Write("notes.txt", {'n', 'o'});
+    }
+
+    BMessage NextCommand() {
+        // Most commands only move things about; those that make palettes take a while.
+        if (choices_.OneIn(40)) return LongCommand();
+        if (choices_.OneIn(600)) return SavingCommand();
+        static constexpr uint32 kCodes[] = {kSelectFrame,   kSelectFrame,    kSelectFrame,
+                                            kMoveFrameUp,   kMoveFrameDown,  kMoveFrameUp,
+                                            kReverseFrames, kMoveFrameDown,  kFrameWebSafe,
+                                            kFrameSystem,   kFrameGreyscale, B_CANCEL};
+        if (choices_.OneIn(120)) return BMessage(kRemoveFrame);
+        if (choices_.OneIn(3000)) return BMessage(kResetDocument);
+        if (choices_.OneIn(50)) return BMessage(choices_.Below(1u << 31));
+        BMessage message(OneOf(choices_, kCodes));
+        if (message.what == kSelectFrame) message.AddInt32("number", choices_.Between(-2, 20));
+        if (message.what == B_CANCEL) message.AddPointer("source", AnyPanel());
+        return message;
+    }
+
+    BMessage LongCommand() {
+        static constexpr uint32 kCodes[] = {
+            kOpenFile,    kInsertFiles, kInsertTiledFile, B_SIMPLE_DATA,     B_REFS_RECEIVED,
+            kFadeToColor, kFadeToNext,  kFadeFromColor,   kFadeFromPrevious, kFrameOptimal};
+        const uint32 code = OneOf(choices_, kCodes);
+        const bool of_animations = code == kOpenFile || (code != kInsertFiles && choices_.OneIn(2));
+        BMessage message = Files(code, {OneOf(choices_, of_animations ? kAnimations : kImages)});
+        if (choices_.OneIn(10)) message.MakeEmpty();
+        if (choices_.OneIn(2)) message.AddInt32("position", choices_.Between(-3, 12));
+        if (!choices_.OneIn(10)) message.AddBool("reset", choices_.OneIn(10));
+        message.AddInt32("count", choices_.Between(-1, 3));
+        message.AddInt32("color", static_cast<int32>(choices_.Below(1u << 31)));
+        return message;
+    }
+
+    BMessage SavingCommand() {
+        if (choices_.OneIn(3)) return BMessage(kPreview);
+        if (choices_.OneIn(3)) return BMessage(kSaveAgain);
+        return SaveTo(choices_.OneIn(8) ? File("missing") : folder_.Path(), "out.gif",
+                      choices_.Between(0, FakeRoster::kReadOnly));
+    }
+
+    const FilePanel* AnyPanel() {
+        return OneOf(choices_, std::vector<const FilePanel*>{open_panel_, save_panel_, nullptr});
+    }
+
+    // What a user does between commands, while the application is idle.
+    void ChangeCircumstances() {
+        // Saving may have written over the files, and a reset leaves little to move about.
+        WriteFiles();
+        if (app_->FrameCount() > kManyFrames) Do(kResetDocument);
+        if (app_->FrameCount() < 3) Append({"one", "two", "three", "four", "five", "six"});
+        std::vector<int32> answers(kCommandsPerBatch);
+        for (int32& answer : answers)
+            answer = choices_.OneIn(6) ? 1 : choices_.OneIn(2) ? 0 : 2;
+        desktop_.Answer(answers);
+        desktop_.fields = {choices_.Below(2), choices_.OneIn(4) ? "" : "1", "2", choices_.OneIn(2)};
+        prefs_.thumbnail_height = choices_.Between(0, 3);
+        prefs_.palette_mapping = choices_.OneIn(5) ? kPaletteFromFile : choices_.Between(0, 2);
+        prefs_.palette_filename = File(OneOf(choices_, kAnimations));
+        prefs_.animation_gifloadfullframe = choices_.OneIn(2);
+        prefs_.global_pauseinseconds = choices_.OneIn(2);
+        prefs_.global_setdimensions = choices_.OneIn(2);
+        const WriterScope writer(*app_);
+        if (choices_.OneIn(4)) app_->global_palette->Set(choices_.Between(0, 8));
+        if (choices_.OneIn(4) && app_->CurrentFrame()) {
+            app_->CurrentFrame()->palette->Set(kPaletteAwaitingFile);
+        }
+    }
+
+    SeededChoices choices_{GetParam()};
+    const FilePanel* open_panel_ = nullptr;
+    const FilePanel* save_panel_ = nullptr;
+};
+
+TEST_P(RandomCommands, KeepTheDocumentWholeForEveryReader) {
+    Start();
+    open_panel_ = app_->GetOpenFilePanel();
+    save_panel_ = app_->GetSaveFilePanel();
+    app_->GetInsertTiledFilePanel();
+    const Readers readers(*app_);
+
+    for (int32 batch = 0; batch < kBatches && !HasFailure(); ++batch) {
+        ChangeCircumstances();
+        for (int32 i = 0; i < kCommandsPerBatch; ++i)
+            app_->PostMessage(NextCommand());
+        Do(kReverseFrames);
+        TakeLines();
+        const ReaderScope reader(*app_);
+        ReadDocument(*app_);
+    }
+
+    EXPECT_GT(readers.Reads(), 0u);
+}
+
+INSTANTIATE_TEST_SUITE_P(Seeds, RandomCommands, ::testing::Values(1u, 2u, 3u, 4u, 5u));
+
+}  // namespace
+
+}  // namespace kirto::test
