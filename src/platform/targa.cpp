@@ -25,6 +25,9 @@ namespace kirto {
 namespace {
 
 constexpr int64 kHeaderBytes = 18;
+constexpr int64 kDescriptorOffset = 17;
+constexpr uint8 kAlphaBits = 8;
+constexpr uint8 kFromTheTop = 0x20;
 constexpr int32 kMaxSide = 65535;
 
 // What a header says about the bytes behind it.
@@ -111,6 +114,16 @@ void WriteBytes(void* context, void* data, int size) {
     static_cast<BFile*>(context)->Write(data, static_cast<size_t>(size));
 }
 
+// Rows stand in the file from the top, as not every reader turns a picture over; the library writes
+// them so, but does not say it in the header.
+status_t SetRowOrder(bool with_alpha, BFile& destination) {
+    const uint8 descriptor = kFromTheTop | (with_alpha ? kAlphaBits : 0);
+    destination.Seek(kDescriptorOffset, SEEK_FROM_START);
+    destination.Write(&descriptor, 1);
+    destination.Seek(0, SEEK_FROM_END);
+    return destination.WriteStatus() == B_OK ? B_OK : B_IO_ERROR;
+}
+
 // The pixels without their alpha; null when memory is short.
 AllocatedArray<uint8> WithoutAlpha(const uint8* rgba, size_t pixels) {
     AllocatedArray<uint8> rgb = AllocateArray<uint8>(pixels * 3);
@@ -154,10 +167,12 @@ status_t WriteTarga(const uint8* rgba, int32 width, int32 height, bool with_alph
         if (!rgb) return B_NO_MEMORY;
     }
     stbi_write_tga_with_rle = packed ? 1 : 0;
+    stbi_flip_vertically_on_write(1);
     const void* data = with_alpha ? rgba : rgb.get();
     const int written =
         stbi_write_tga_to_func(WriteBytes, &destination, width, height, with_alpha ? 4 : 3, data);
-    return written && destination.WriteStatus() == B_OK ? B_OK : B_IO_ERROR;
+    if (!written) return B_IO_ERROR;
+    return SetRowOrder(with_alpha, destination);
 }
 
 }  // namespace kirto

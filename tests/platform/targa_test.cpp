@@ -228,6 +228,16 @@ TEST(Targa, TakesFewerBytesPackedWherePixelsRepeat) {
     EXPECT_LT(Written(rgba, 100, 10, true, true).size(), 18 + 100U);
 }
 
+TEST(Targa, WritesRowsFromTheTopAndSaysSo) {
+    const Bytes rgba = {3, 2, 1, 9, 6, 5, 4, 9};
+
+    const Bytes plain = Written(rgba, 1, 2, true, false);
+    const Bytes packed = Written(rgba, 1, 2, false, true);
+
+    EXPECT_EQ(plain, Header(kColor, 1, 2, 32, 0x28) + Bytes({1, 2, 3, 9, 4, 5, 6, 9}));
+    EXPECT_EQ(packed, Header(kPacked, 1, 2, 24, 0x20) + Bytes({0, 1, 2, 3, 0, 4, 5, 6}));
+}
+
 TEST(Targa, DoesNotWriteSidesThatItsHeaderCanNotHold) {
     const Bytes rgba(4);
     const auto file = BFile::OnMemory();
