@@ -15,7 +15,7 @@ rgb_color PaintSprites(int32 x, int32 y, int32 step);
 // A desktop of 800 x 600 pixels: flat areas, a window of text that scrolls by a line a step, a
 // progress bar and a pointer.
 rgb_color PaintScreen(int32 x, int32 y, int32 step);
-// Clouds of colour with grain, drifting; some hundred thousand colours, of any size.
+// Clouds of colour with grain, drifting, of any size; tens of thousands of colours.
 rgb_color PaintPhoto(int32 x, int32 y, int32 step);
 
 }  // namespace kirto::bench
