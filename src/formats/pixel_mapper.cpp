@@ -57,7 +57,8 @@ uint8 PixelMapper::MapPixel(rgb_color color, int32 x) {
 }
 
 uint8 PixelMapper::CachedIndex(uint8 red, uint8 green, uint8 blue) {
-    if (cache_.fail) return palette_->IndexForColor(red, green, blue);
+    // Corrected colours hardly ever repeat, so keeping them would cost more than it saves.
+    if (cache_.fail || diffusing_) return palette_->IndexForColor(red, green, blue);
     const uint32 key = ColorKey(red, green, blue);
     if (const HashItem* item = cache_.GetItem(key)) {
         return static_cast<uint8>(static_cast<const ColorItem*>(item)->value);

@@ -17,8 +17,7 @@ namespace {
 std::atomic<kirto::CliSession*> g_session = nullptr;
 
 // The first Ctrl-C ends the work between two frames; a second one ends the program.
-void StopOnInterrupt(int signal) {
-    std::signal(signal, SIG_DFL);
+void StopOnInterrupt(int) {
     if (kirto::CliSession* session = g_session) session->RequestStop();
 }
 
@@ -61,8 +60,12 @@ int RunSession(kirto::CliArguments arguments) {
     kirto::QtTranslatorRoster roster;
     kirto::CliSession session(std::move(arguments), roster);
     g_session = &session;
-    std::signal(SIGINT, StopOnInterrupt);
-    std::signal(SIGTERM, StopOnInterrupt);
+    struct sigaction action = {};
+    action.sa_handler = StopOnInterrupt;
+    // Once only; and a wait for the Enter key ends, instead of being taken up again.
+    action.sa_flags = static_cast<int>(SA_RESETHAND);
+    sigaction(SIGINT, &action, nullptr);
+    sigaction(SIGTERM, &action, nullptr);
     const int status = session.Run();
     g_session = nullptr;
     return status;
