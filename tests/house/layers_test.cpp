@@ -14,7 +14,7 @@ namespace fs = std::filesystem;
 
 struct Layer {
     std::string folder;
-    std::string library;            // empty for the programs
+    std::string target;             // empty for the programs
     std::set<std::string> allowed;  // folders that may be included, besides its own
 };
 
@@ -140,16 +140,16 @@ TEST(Layers, IncludesInQuotesNameFilesFromTheRootOfTheSources) {
 TEST(Layers, LibrariesAreLinkedOnlyToThoseThatTheirFolderMayInclude) {
     const std::vector<Layer> layers = ReadLayers();
     for (const Layer& layer : layers) {
-        if (layer.library.empty()) continue;
+        if (layer.target.empty()) continue;
         const std::string text = ReadText(ProjectRoot() / "src" / layer.folder / "CMakeLists.txt");
-        EXPECT_EQ(AllMatches(text, "_library\\(([a-z_]+)"), std::vector{layer.library});
+        EXPECT_EQ(AllMatches(text, "_library\\(([a-z_]+)"), std::vector{layer.target});
         std::set<std::string> allowed;
         for (const std::string& folder : layer.allowed) {
-            if (const Layer* below = RowOf(folder, layers)) allowed.insert(below->library);
+            if (const Layer* below = RowOf(folder, layers)) allowed.insert(below->target);
         }
         for (const std::string& depends : AllMatches(text, "DEPENDS([^)]*)\\)")) {
             for (const std::string& library : AllMatches(depends, "([a-z_]+)")) {
-                EXPECT_EQ(allowed.count(library), 1u) << layer.library << " uses " << library;
+                EXPECT_EQ(allowed.count(library), 1u) << layer.target << " uses " << library;
             }
         }
     }
