@@ -9,6 +9,7 @@
 #include <cstring>
 
 #include "platform/qt/file_device.h"
+#include "platform/qt/straight_tiff.h"
 #include "platform/targa.h"
 
 namespace kirto {
@@ -155,6 +156,11 @@ status_t QtTranslatorRoster::Translate(BFile& source, std::shared_ptr<PixelBudge
         const status_t status = ReadTarga(source, budget, result);
         if (status != B_BAD_DATA) return status;
         if (format.isEmpty() || format == "tga") return B_NO_TRANSLATOR;
+        device.seek(0);
+    }
+    if (format == "tiff" || format == "tif") {
+        const status_t status = ReadStraightTiff(source, budget, result);
+        if (status != B_BAD_DATA) return status;
         device.seek(0);
     }
     if (!FitsBudget(reader.size(), budget.get())) return B_NO_MEMORY;
