@@ -124,7 +124,9 @@ BRect Kirto::MainWindowFrame() {
     const int32 width = screen.PixelWidth() - 1;
     const int32 height = screen.PixelHeight() - 1;
     BRect frame(0, 0, 549, 399);
-    frame.OffsetTo(static_cast<float>((width - 548) / 2), static_cast<float>((height - 398) / 2));
+    const int32 left = (width - 548) / 2;
+    const int32 top = (height - 398) / 2;
+    frame.OffsetTo(static_cast<float>(left), static_cast<float>(top));
     return frame;
 }
 

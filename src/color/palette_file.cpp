@@ -77,7 +77,9 @@ bool Palette::Set(const char* path) {
     mode = kirto::kPaletteFromFile;
     BFile file(path, B_READ_ONLY);
     const std::string_view name(path);
-    const auto contains = [name](const char* part) { return name.find(part) != name.npos; };
+    const auto contains = [name](const char* part) {
+        return name.find(part) != std::string_view::npos;
+    };
     bool loaded = false;
     if (contains("gif") || contains("GIF")) {
         loaded = StripGif(&file);

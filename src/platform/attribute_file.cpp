@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cerrno>
 #include <charconv>
 #include <cmath>
@@ -25,7 +26,7 @@ namespace {
 
 using Attribute = AttributeFile::Attribute;
 
-constexpr size_t kMaxFileSize = 1024 * 1024;
+constexpr size_t kMaxFileSize = size_t{1024} * 1024;
 constexpr int kMaxDamagedCopies = 1000;
 // The deepest value of the form is a table in the root; a rectangle's line has four dots.
 constexpr int kMaxDotsInLine = 64;
@@ -91,8 +92,9 @@ std::string EdgeText(float edge) {
 // "nan" has no sign and no payload, so it stands for one pattern of bits only.
 template <typename T>
 bool IsCarried(T value) {
-    const T nan = std::numeric_limits<T>::quiet_NaN();
-    return !std::isnan(value) || std::memcmp(&value, &nan, sizeof(T)) == 0;
+    using Bits = std::array<uint8, sizeof(T)>;
+    constexpr T kNan = std::numeric_limits<T>::quiet_NaN();
+    return !std::isnan(value) || std::bit_cast<Bits>(value) == std::bit_cast<Bits>(kNan);
 }
 
 bool FitsInt32(int64 value) {
@@ -287,8 +289,8 @@ std::string MoveAside(const std::string& path) {
     std::error_code error;
     const std::string file = std::filesystem::canonical(path, error).string();
     for (int number = 1; !error && number <= kMaxDamagedCopies; ++number) {
-        const std::string suffix = number == 1 ? "" : "-" + std::to_string(number);
-        const std::string copy = file + ".damaged" + suffix;
+        std::string copy = file + ".damaged";
+        if (number > 1) copy.append("-").append(std::to_string(number));
         // Only a name that this call has created is renamed over, so no other copy is lost.
         const int descriptor = open(copy.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
         if (descriptor < 0 && errno == EEXIST) continue;

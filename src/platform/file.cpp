@@ -17,7 +17,7 @@
 
 namespace {
 
-constexpr size_t kBufferSize = 64 * 1024;
+constexpr size_t kBufferSize = size_t{64} * 1024;
 constexpr int64 kMaxPosition = std::numeric_limits<int64>::max();
 // Bytes in memory end here; more can only be a mistake.
 constexpr int64 kMaxMemory = int64{1} << 31;

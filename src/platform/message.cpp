@@ -187,7 +187,7 @@ status_t BMessage::Append(std::string_view name, type_code type, std::string_vie
         return B_OK;
     }
     if (field->type != type) return B_BAD_TYPE;
-    field->values.push_back(std::string(value));
+    field->values.emplace_back(value);
     return B_OK;
 }
 

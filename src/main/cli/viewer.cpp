@@ -5,8 +5,6 @@
 #include <spawn.h>
 #include <sys/wait.h>
 
-extern char** environ;
-
 namespace kirto {
 
 namespace {

@@ -32,7 +32,8 @@ SamplePicture Draw(int32 width, int32 height, ColorAt color_at) {
 // warmth: 0 for a blue sky, 1 for a red one.
 rgb_color SkyAt(int32 y, double warmth) {
     if (y >= kFloor) return {70, 60, 90, 255};
-    const double shade = y / 9 * 9;
+    const int32 band = y / 9;
+    const double shade = 9.0 * band;
     return {Level(40 + shade * (0.4 + 0.6 * warmth) + 40 * warmth), Level(50 + shade / 2),
             Level(190 - 70 * warmth), 255};
 }

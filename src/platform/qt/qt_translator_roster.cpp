@@ -45,8 +45,8 @@ QImage ImageOf(const BBitmap& bitmap) {
         uchar* target = image.scanLine(y);
         std::memcpy(target, bitmap.Row(y), bitmap.BytesPerRow());
         if (!IsBigEndian(bitmap.ColorSpace())) continue;
-        for (int32 x = 0; x < bitmap.Width(); ++x)
-            std::reverse(target + x * 4, target + x * 4 + 4);
+        for (int32 x = 0; x < bitmap.Width(); ++x, target += 4)
+            std::reverse(target, target + 4);
     }
     return image;
 }
