@@ -21,7 +21,8 @@ if(KIRTO_FUZZ)
     target_compile_options(kirto_flags INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 if(KIRTO_COVERAGE)
-    target_compile_options(kirto_flags INTERFACE --coverage -O0)
+    # Counters are shared by threads.
+    target_compile_options(kirto_flags INTERFACE --coverage -fprofile-update=atomic -O0)
     target_link_options(kirto_flags INTERFACE --coverage)
 endif()
 
