@@ -132,6 +132,18 @@ TEST(KirtoCli, GoesOnWhenThePaletteOfTheSettingsCanNotBeLoaded) {
     EXPECT_EQ(Json::parse(result.out)["global_palette"]["mode"], kPaletteWebSafe);
 }
 
+TEST(KirtoCli, OpensAnAnimationThoughThePaletteOfTheSettingsCanNotBeLoaded) {
+    const CliHome home;
+    WriteBytes(home.File("a.gif"), GifWithComment());
+
+    const RunResult result =
+        home.Run({"--quiet", "--set", "palette_mapping=7", "--set", "palette_filename=missing.gif",
+                  "--open", home.File("a.gif"), "--info-json"});
+
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(Json::parse(result.out)["file_name"], "a.gif");
+}
+
 TEST(KirtoCli, SendsDebugLinesToStandardError) {
     const CliHome home;
     home.Write("comment.gif", GifWithComment());

@@ -56,9 +56,14 @@ CliSession::Outcome CliSession::Open(const std::string& value) {
     desktop_.SetSubject(value);
     const BFile file(value, B_READ_ONLY);
     if (file.InitCheck() != B_OK) return Fail(value + ": " + StatusText(file.InitCheck()) + ".");
+    const entry_ref ref = AbsoluteRef(value);
     BMessage message(kOpenFile);
-    message.AddRef("refs", AbsoluteRef(value));
-    return Post(message);
+    message.AddRef("refs", ref);
+    const Outcome outcome = Post(message);
+    // A palette file of the settings that can't be read is told of whenever the document starts
+    // afresh, but that is no failure of what is opened: a document named like the file is open.
+    const bool opened = app_->file_directory == ref.Directory() && app_->file_name == ref.Leaf();
+    return opened ? Outcome::kDone : outcome;
 }
 
 CliSession::Outcome CliSession::InsertAnimation(const std::string& value) {
