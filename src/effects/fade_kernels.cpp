@@ -1,5 +1,7 @@
 #include "effects/fade_kernels.h"
 
+#include "platform/bitmap.h"
+
 namespace kirto {
 
 namespace {
@@ -16,10 +18,6 @@ struct Components {
 Components ReadPixel(const uint8* pixel, bool little_endian) {
     if (little_endian) return {pixel[0], pixel[1], pixel[2], pixel[3]};
     return {pixel[3], pixel[2], pixel[1], pixel[0]};
-}
-
-bool IsLittleEndian(color_space space) {
-    return space == B_RGB32 || space == B_RGBA32;
 }
 
 // Double precision holds the products of a single-precision factor and a byte, and their sum,

@@ -40,10 +40,6 @@ void FillRows(BBitmap& bitmap, int32 top, int32 bottom, int32 left, int32 right,
     }
 }
 
-bool IsLittleEndian32(const BBitmap& bitmap) {
-    return bitmap.ColorSpace() == B_RGB32 || bitmap.ColorSpace() == B_RGBA32;
-}
-
 }  // namespace
 
 GifLoad::GifLoad(BFile* file, int32 start, AnimationDocument& document)
@@ -247,7 +243,8 @@ bool GifLoad::FrameDisposal(Frame* frame, int32 relative, int32 absolute) {
     if (relative == 0 || covers_screen) return true;
     const kirto::ReaderScope reader(document_);
     const Frame* previous = document_.FrameAt(absolute - 1);
-    if (!previous || !previous->bitmap || !IsLittleEndian32(*previous->bitmap)) return false;
+    if (!previous || !previous->bitmap || !kirto::IsLittleEndian(previous->bitmap->ColorSpace()))
+        return false;
     if (!previous->bitmap->Bits() || !frame->bitmap->Bits()) return false;
     std::memcpy(frame->bitmap->Bits(), previous->bitmap->Bits(),
                 std::min(frame->bitmap->BitsLength(), previous->bitmap->BitsLength()));

@@ -56,7 +56,11 @@ BBitmap::~BBitmap() {
 namespace kirto {
 
 bool Is32Bit(color_space space) {
-    return space == B_RGB32 || space == B_RGBA32 || IsBigEndian(space);
+    return IsLittleEndian(space) || IsBigEndian(space);
+}
+
+bool IsLittleEndian(color_space space) {
+    return space == B_RGB32 || space == B_RGBA32;
 }
 
 bool IsBigEndian(color_space space) {

@@ -54,6 +54,9 @@ namespace kirto {
 // True for the four colour spaces of 4 bytes a pixel.
 bool Is32Bit(color_space space);
 
+// True for the two 32-bit spaces in the order blue, green, red, alpha.
+bool IsLittleEndian(color_space space);
+
 // True for the two 32-bit spaces in the order alpha, red, green, blue.
 bool IsBigEndian(color_space space);
 
