@@ -72,6 +72,8 @@ class CliSession {
     // failure.
     Outcome Post(const BMessage& message);
     Outcome Post(uint32 what) { return Post(BMessage(what)); }
+    // Fails, with the reason, when the file can't be opened for reading.
+    Outcome CheckReadable(const std::string& path);
     Outcome SaveAs(const std::string& path, translator_id translator);
     Outcome LoadPalette(Palette* palette, const std::string& path);
     // Numbers as the windows check them: at least 0 and, where maximum is not -1, at most that.

@@ -52,10 +52,15 @@ const translation_format* FileFormatOf(const std::vector<translation_format>& fo
 
 }  // namespace
 
+CliSession::Outcome CliSession::CheckReadable(const std::string& path) {
+    const BFile file(path, B_READ_ONLY);
+    if (file.InitCheck() == B_OK) return Outcome::kDone;
+    return Fail(path + ": " + StatusText(file.InitCheck()) + ".");
+}
+
 CliSession::Outcome CliSession::Open(const std::string& value) {
+    if (CheckReadable(value) != Outcome::kDone) return Outcome::kFailed;
     desktop_.SetSubject(value);
-    const BFile file(value, B_READ_ONLY);
-    if (file.InitCheck() != B_OK) return Fail(value + ": " + StatusText(file.InitCheck()) + ".");
     const entry_ref ref = AbsoluteRef(value);
     BMessage message(kOpenFile);
     message.AddRef("refs", ref);
@@ -70,9 +75,8 @@ CliSession::Outcome CliSession::InsertAnimation(const std::string& value) {
     int32 position = -1;
     const std::string path = SplitPosition(value, &position);
     if (path == value) return Refuse("--insert-animation: \"" + value + "\" is no FILE@N.");
+    if (CheckReadable(path) != Outcome::kDone) return Outcome::kFailed;
     desktop_.SetSubject(path);
-    const BFile file(path, B_READ_ONLY);
-    if (file.InitCheck() != B_OK) return Fail(path + ": " + StatusText(file.InitCheck()) + ".");
     BMessage message(kOpenFile);
     message.AddRef("refs", AbsoluteRef(path));
     message.AddBool("reset", false);
