@@ -10,7 +10,8 @@ enum class FilePanelKind { kOpen, kInsert, kInsertTiled, kSave };
 
 // A file dialog of the application. It posts its own message to the application when files are
 // chosen, and B_CANCEL with itself as pointer "source" whenever it closes. Made by the Desktop,
-// owned and called by the application.
+// owned by the application. Made on any thread; what its fields hold may be asked from any thread,
+// showing it belongs to the GUI thread, and so does its end.
 class FilePanel {
   public:
     virtual ~FilePanel() = default;
@@ -21,6 +22,20 @@ class FilePanel {
     virtual std::string RowsText() const { return {}; }
     virtual std::string ColumnsText() const { return {}; }
     virtual bool ColumnByColumn() const { return false; }
+
+    virtual void SetTitle(const std::string&) {}
+    // The save panel's field for the file's name.
+    virtual void SetSaveText(const std::string&) {}
+    // Shows the panel, or brings it to the front. Returns at once.
+    virtual void Show() {}
+};
+
+// The program's file panels, each made on first use and the same ever after. Callable from any
+// thread.
+class FilePanelSource {
+  public:
+    virtual ~FilePanelSource() = default;
+    virtual FilePanel* GetPanel(FilePanelKind kind) = 0;
 };
 
 }  // namespace kirto

@@ -25,7 +25,10 @@ class AnimationDocument {
     int32 loop_count = 0;     // 0: for ever
     bool use_pause_global = false;
     bool use_loop = false;
-    bool modified = false;             // changed since the last reset, open or save
+    std::atomic<bool> modified = false;  // changed since the last reset, open or save
+    // The serial number of the last edit of a window's that is carried out. A window that numbers
+    // its edits knows by it which of them the document does not show yet.
+    std::atomic<int32> edits_done = 0;
     double pause_length_global = 0.0;  // same unit as Frame::pause_length
     std::string file_name;             // "untitled" after a reset; at most 255 bytes
     std::string file_directory;        // empty after a reset

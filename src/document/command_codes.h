@@ -39,6 +39,66 @@ inline constexpr uint32 kMoveFrameDown = FourCharCode("awfd");
 inline constexpr uint32 kReverseFrames = FourCharCode("awfv");
 inline constexpr uint32 kPreview = FourCharCode("awvp");
 
+// Main window to application: edits of the document that panels ask for, with the value checked.
+// Each may carry int32 "serial", see AnimationDocument::edits_done.
+inline constexpr uint32 kSetWidth = FourCharCode("gvwd");        // int32 "value"
+inline constexpr uint32 kSetHeight = FourCharCode("gvht");       // int32 "value"
+inline constexpr uint32 kUsePause = FourCharCode("gvpa");        // bool "value"
+inline constexpr uint32 kSetPauseLength = FourCharCode("gvpl");  // double "value"
+inline constexpr uint32 kUseLoop = FourCharCode("gvlp");         // bool "value"
+inline constexpr uint32 kSetLoopCount = FourCharCode("gvlc");    // int32 "value"
+inline constexpr uint32 kPaletteToWebSafe = FourCharCode("pvwp");
+inline constexpr uint32 kPaletteToSystem = FourCharCode("pvbp");
+inline constexpr uint32 kPaletteToGreyscale = FourCharCode("pvgp");
+inline constexpr uint32 kPaletteToFirstFrame = FourCharCode("pvfp");
+inline constexpr uint32 kPaletteToCurrentFrame = FourCharCode("pvcp");
+inline constexpr uint32 kPaletteToFile = FourCharCode("pvfi");        // the next opened file
+inline constexpr uint32 kSetBackgroundIndex = FourCharCode("pvbk");   // int32 "value"
+inline constexpr uint32 kUseTransparent = FourCharCode("pvtp");       // bool "value"
+inline constexpr uint32 kSetTransparentIndex = FourCharCode("pvti");  // int32 "value"
+inline constexpr uint32 kSetDither = FourCharCode("pvdi");            // bool "value"
+inline constexpr uint32 kFrameSetXOffset = FourCharCode("lvxo");      // int32 "value"
+inline constexpr uint32 kFrameSetYOffset = FourCharCode("lvyo");      // int32 "value"
+inline constexpr uint32 kFrameUsePause = FourCharCode("lvps");        // bool "value"
+inline constexpr uint32 kFrameSetPauseLength = FourCharCode("lvpl");  // double "value"
+inline constexpr uint32 kFrameUsePalette = FourCharCode("lvlp");      // bool "value"
+inline constexpr uint32 kFramePaletteToFile = FourCharCode("lvfp");   // the next opened file
+
+// Windows to application: the settings (Prefs::AddTo) and where the main window stands (rect
+// "window_frame"); they are taken over and written to the settings file.
+inline constexpr uint32 kStoreSettings = FourCharCode("asts");
+
+// Menus and buttons to main window. No fields.
+inline constexpr uint32 kNew = FourCharCode("awfn");
+inline constexpr uint32 kOpen = FourCharCode("awfo");
+inline constexpr uint32 kSave = FourCharCode("awfs");
+inline constexpr uint32 kSaveAs = FourCharCode("awfa");
+inline constexpr uint32 kToggleMode = FourCharCode("awvm");
+inline constexpr uint32 kPreferences = FourCharCode("awvr");
+inline constexpr uint32 kInsert = FourCharCode("awfi");
+inline constexpr uint32 kInsertTiled = FourCharCode("awit");
+inline constexpr uint32 kFadeEffects = FourCharCode("awfe");
+
+// Panels to main window. No fields; the window reads the control that sent the command.
+inline constexpr uint32 kThumbnailMode = FourCharCode("lvtm");
+inline constexpr uint32 kFrameListMode = FourCharCode("lvfm");
+inline constexpr uint32 kThumbnailSlider = FourCharCode("tvsl");
+inline constexpr uint32 kThumbnailCurrentHalf = FourCharCode("tvch");
+inline constexpr uint32 kThumbnailCurrentFull = FourCharCode("tvcf");
+inline constexpr uint32 kFrameListSelection = FourCharCode("flsl");
+
+// Thumbnails to themselves: the button is still held. Point "point": the grab offset.
+inline constexpr uint32 kThumbnailDrag = FourCharCode("tdvd");
+
+// Fade dialog to itself. No fields.
+inline constexpr uint32 kFadeCount = FourCharCode("fwfc");
+inline constexpr uint32 kFadeOk = FourCharCode("fwok");
+inline constexpr uint32 kFadeCancel = FourCharCode("fwcn");
+
+// Save panel to itself. No fields.
+inline constexpr uint32 kSaveFormat = FourCharCode("asff");
+inline constexpr uint32 kSaveFormatSettings = FourCharCode("asfs");
+
 // Fade dialog to application. Int32 "count", int32 "color" (red, green, blue from the top byte on).
 inline constexpr uint32 kFadeToColor = FourCharCode("fwtr");
 inline constexpr uint32 kFadeFromColor = FourCharCode("fwfr");

@@ -117,6 +117,38 @@ int64 ReadValue(BNode& node, const char* key, bool* value) {
     return read;
 }
 
+void AddField(BMessage* message, const char* key, int32 value) {
+    message->AddInt32(key, value);
+}
+void AddField(BMessage* message, const char* key, bool value) {
+    message->AddBool(key, value);
+}
+void AddField(BMessage* message, const char* key, double value) {
+    message->AddDouble(key, value);
+}
+void AddField(BMessage* message, const char* key, const std::string& value) {
+    message->AddString(key, value);
+}
+void AddField(BMessage* message, const char* key, const BRect& value) {
+    message->AddRect(key, value);
+}
+
+void FindField(const BMessage& message, const char* key, int32* value) {
+    message.FindInt32(key, value);
+}
+void FindField(const BMessage& message, const char* key, bool* value) {
+    message.FindBool(key, value);
+}
+void FindField(const BMessage& message, const char* key, double* value) {
+    message.FindDouble(key, value);
+}
+void FindField(const BMessage& message, const char* key, std::string* value) {
+    message.FindString(key, value);
+}
+void FindField(const BMessage& message, const char* key, BRect* value) {
+    message.FindRect(key, value);
+}
+
 // The string ends after the bytes read, or at the first zero byte among them.
 int64 ReadValue(BNode& node, const char* key, std::string* value) {
     std::array<char, kMaxStringBytes + 1> text = {};
@@ -259,6 +291,20 @@ bool Prefs::Write(BNode& node, const char* verb, const char* key, const T& value
     kirto::DebugLine("%s", failure.c_str());
     failed = true;
     return false;
+}
+
+void Prefs::AddTo(BMessage* message) const {
+    ForEachMember([&](const char* key, auto member) {
+        AddField(message, key, this->*member);
+        return true;
+    });
+}
+
+void Prefs::TakeFrom(const BMessage& message) {
+    ForEachMember([&](const char* key, auto member) {
+        FindField(message, key, &(this->*member));
+        return true;
+    });
 }
 
 bool Prefs::SetFromText(const std::string& key, const std::string& text, std::string* reason) {

@@ -2,13 +2,14 @@
 
 #include <string>
 
+#include "platform/message.h"
 #include "platform/node.h"
 #include "platform/rect.h"
 #include "platform/types.h"
 
 // Every user setting of the program, as public fields, kept as typed attributes named like the
-// fields. One object a program, made at start. The application thread reads it; the preferences
-// window edits it.
+// fields. The program's settings are one object, made at start, that belongs to the application
+// thread and changes under the document's writer lock; windows keep copies.
 class Prefs {
   public:
     // The fields in the order in which they are read and written. Reading stops at the first
@@ -62,6 +63,11 @@ class Prefs {
     // for booleans, a number for doubles, any text for strings, "left,top,right,bottom" for
     // rectangles. False, with a sentence in *reason, for an unknown key or an unfit text.
     bool SetFromText(const std::string& key, const std::string& text, std::string* reason);
+
+    // Adds every setting to the message, as a field of its key and type; and takes over those that
+    // the message has. What the program keeps besides the settings stays.
+    void AddTo(BMessage* message) const;
+    void TakeFrom(const BMessage& message);
 
     // The attribute helpers. Get: the stored bytes into *value, or the default, which is then
     // written back; Put: the value's bytes. False on failure, with a debug line and failed set.

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QObject>
+#include <QTimer>
+#include <deque>
+#include <functional>
+#include <memory>
+#include <mutex>
+#include <vector>
+
+#include "platform/message_port.h"
+
+namespace kirto {
+
+// Delivers messages on the GUI thread, in order. Posting is safe from any thread and never waits.
+//
+// Refresh commands say only that something is to be shown again, so of several that wait with the
+// same code the last alone is delivered; and while nothing else waits, they are delivered at most
+// once a display frame. A thousand refreshes cost one.
+class GuiPort : public MessagePort, public std::enable_shared_from_this<GuiPort> {
+  public:
+    using Receiver = std::function<void(BMessage*)>;
+
+    // Made and closed on the GUI thread. refresh_codes: the commands that coalesce.
+    static std::shared_ptr<GuiPort> Create(Receiver receiver,
+                                           std::vector<uint32> refresh_codes = {});
+    ~GuiPort() override;
+
+    // Delivers nothing any more. Called by the receiver's owner before the receiver goes.
+    void Close();
+
+    status_t Post(BMessage message, handler_token handler) override;
+    bool IsOpen() const override;
+
+  private:
+    class Waker;
+
+    GuiPort(Receiver receiver, std::vector<uint32> refresh_codes);
+    bool IsRefresh(uint32 code) const;
+    // GUI thread: delivers what waits, now or when the display frame is over.
+    void Wake();
+    void DeliverAll();
+    bool TakeNext(BMessage* message);
+
+    const std::vector<uint32> refresh_codes_;
+    mutable std::mutex mutex_;
+    std::deque<BMessage> queue_;  // guarded by mutex_, like the flags
+    bool open_ = true;
+    bool wake_posted_ = false;
+    Receiver receiver_;  // the GUI thread's, like what follows
+    std::unique_ptr<Waker> waker_;
+    QTimer frame_timer_;
+    QElapsedTimer since_delivery_;
+};
+
+}  // namespace kirto
