@@ -8,6 +8,8 @@
 #include "platform/messenger.h"
 #include "platform/rect.h"
 
+class Kirto;
+
 namespace kirto {
 
 // Everything the application asks of a screen and of the desktop behind it: windows, the command
@@ -15,8 +17,10 @@ namespace kirto {
 // crossing to other threads. Outlives the application.
 class Desktop : public AlertPresenter {
   public:
-    // Makes and shows the main window and returns its address.
-    virtual BMessenger OpenMainWindow(const BRect& frame, const std::string& title) = 0;
+    // Makes and shows the main window of the application, which is still being constructed, and
+    // returns the window's address.
+    virtual BMessenger OpenMainWindow(Kirto& application, const BRect& frame,
+                                      const std::string& title) = 0;
     // Makes the main window forget the command that waits for the document to be saved.
     virtual void AbandonPendingCommand() = 0;
     // The main screen, in pixels.

@@ -2,6 +2,7 @@
 
 #include <charconv>
 
+#include "app/document_edits.h"
 #include "document/command_codes.h"
 #include "document/document_scope.h"
 #include "effects/fade.h"
@@ -61,6 +62,10 @@ const Kirto::Command* Kirto::CommandFor(uint32 code) {
         {kirto::kFrameSystem, frame_palette, kNothing},
         {kirto::kFrameGreyscale, frame_palette, kNothing},
         {kirto::kFrameOptimal, frame_palette, kNothing},
+        {kirto::kStoreSettings, [](Kirto& app, BMessage* message) { app.StoreSettings(*message); },
+         kUpdateAll},
+        {kirto::kTranslatorSettings,
+         [](Kirto& app, BMessage* message) { app.StoreTranslatorSettings(*message); }, kNothing},
     };
     for (const Command& command : kCommands) {
         if (command.code == code) return &command;
@@ -107,7 +112,7 @@ Kirto::Kirto(Prefs& settings, kirto::Desktop& desktop, BTranslatorRoster& roster
       AnimationDocument(WarnIfFailed(settings)),
       desktop_(desktop),
       roster_(roster) {
-    window = desktop_.OpenMainWindow(MainWindowFrame(), "Kirto - untitled");
+    window = desktop_.OpenMainWindow(*this, MainWindowFrame(), "Kirto - untitled");
     PostToWindow(kirto::kUpdateAll);
 }
 
@@ -131,13 +136,16 @@ BRect Kirto::MainWindowFrame() {
 }
 
 void Kirto::MessageReceived(BMessage* message) {
-    const Command* command = CommandFor(message->what);
-    if (!command) {
+    if (const Command* command = CommandFor(message->what)) {
+        command->run(*this, message);
+        if (command->refresh != 0) PostToWindow(command->refresh);
+    } else if (!kirto::ApplyEdit(*this, *message)) {
         IEApplication::MessageReceived(message);
-        return;
     }
-    command->run(*this, message);
-    if (command->refresh != 0) PostToWindow(command->refresh);
+    int32 serial = 0;
+    if (message->FindInt32("serial", &serial) != B_OK) return;
+    edits_done = serial;
+    PostToWindow(kirto::kEditDone);
 }
 
 void Kirto::AboutRequested() {
@@ -147,11 +155,11 @@ void Kirto::AboutRequested() {
 bool Kirto::Cancel(BMessage* message) {
     void* source = nullptr;
     if (message->FindPointer("source", &source) != B_OK || !source) return false;
-    if (source == save_panel_.get()) {
+    if (IsPanel(kirto::FilePanelKind::kSave, source)) {
         desktop_.AbandonPendingCommand();
         return false;
     }
-    if (source != open_panel_.get()) return false;
+    if (!IsPanel(kirto::FilePanelKind::kOpen, source)) return false;
     // The panel also reports its closing after it has delivered a file.
     if (open_panel_delivered) {
         open_panel_delivered = false;
@@ -172,6 +180,24 @@ void Kirto::SelectFrame(BMessage* message) {
     if (message->FindInt32("number", &number) == B_OK && Select(number)) {
         PostToWindow(kirto::kUpdateFrames);
     }
+}
+
+void Kirto::StoreSettings(const BMessage& message) {
+    {
+        const kirto::WriterScope writer(*this);
+        prefs.TakeFrom(message);
+    }
+    BRect frame = prefs.misc_windowdimensions;
+    message.FindRect("window_frame", &frame);
+    prefs.Save(frame);
+}
+
+void Kirto::StoreTranslatorSettings(const BMessage& message) {
+    int32 translator = 0;
+    BMessage settings;
+    if (message.FindInt32("translator", &translator) != B_OK) return;
+    if (message.FindMessage("settings", &settings) != B_OK) return;
+    translator_settings[static_cast<translator_id>(translator)] = settings;
 }
 
 void Kirto::SetFramePalette(BMessage* message) {
@@ -223,7 +249,15 @@ void Kirto::Fade(BMessage* message) {
                 &fade_name_base_);
 }
 
-kirto::FilePanel* Kirto::GetPanel(PanelPointer& panel, kirto::FilePanelKind kind) {
+kirto::FilePanel* Kirto::GetPanel(kirto::FilePanelKind kind) {
+    const std::lock_guard lock(panels_mutex_);
+    std::unique_ptr<kirto::FilePanel>& panel = panels_[kind];
     if (!panel) panel = desktop_.MakeFilePanel(kind, BMessenger(*this));
     return panel.get();
+}
+
+bool Kirto::IsPanel(kirto::FilePanelKind kind, const void* source) {
+    const std::lock_guard lock(panels_mutex_);
+    const auto found = panels_.find(kind);
+    return found != panels_.end() && found->second.get() == source;
 }

@@ -2,6 +2,7 @@
 
 #include <map>
 #include <memory>
+#include <mutex>
 #include <string>
 
 #include "app/desktop.h"
@@ -14,7 +15,7 @@
 // each command is looked up in a table and carried out on the application's own thread, in the
 // order of arrival; refresh commands go back to the main window. The work itself is done by the
 // units beside this class and the layers below.
-class Kirto : public IEApplication, public AnimationDocument {
+class Kirto : public IEApplication, public AnimationDocument, public kirto::FilePanelSource {
   public:
     static constexpr const char* kSignature = "application/x-vnd.Tavon-Kirto";
 
@@ -24,7 +25,8 @@ class Kirto : public IEApplication, public AnimationDocument {
     // Ends the loop, deletes all frames and removes the preview file.
     ~Kirto() override;
 
-    // Settings of the image writers by translator id, as the save panel's settings leave them.
+    // Settings of the image writers by translator id, as the save panel's settings leave them. The
+    // application thread's.
     std::map<translator_id, BMessage> translator_settings;
 
     void MessageReceived(BMessage* message) override;
@@ -55,29 +57,25 @@ class Kirto : public IEApplication, public AnimationDocument {
     // One of the four fade commands.
     void Fade(BMessage* message);
 
-    // Each made on first use.
-    kirto::FilePanel* GetOpenFilePanel() {
-        return GetPanel(open_panel_, kirto::FilePanelKind::kOpen);
-    }
-    kirto::FilePanel* GetInsertFilePanel() {
-        return GetPanel(insert_panel_, kirto::FilePanelKind::kInsert);
-    }
-    kirto::FilePanel* GetSaveFilePanel() {
-        return GetPanel(save_panel_, kirto::FilePanelKind::kSave);
-    }
+    kirto::FilePanel* GetPanel(kirto::FilePanelKind kind) override;
+    kirto::FilePanel* GetOpenFilePanel() { return GetPanel(kirto::FilePanelKind::kOpen); }
+    kirto::FilePanel* GetInsertFilePanel() { return GetPanel(kirto::FilePanelKind::kInsert); }
+    kirto::FilePanel* GetSaveFilePanel() { return GetPanel(kirto::FilePanelKind::kSave); }
     kirto::FilePanel* GetInsertTiledFilePanel() {
-        return GetPanel(insert_tiled_panel_, kirto::FilePanelKind::kInsertTiled);
+        return GetPanel(kirto::FilePanelKind::kInsertTiled);
     }
 
   private:
-    using PanelPointer = std::unique_ptr<kirto::FilePanel>;
     struct Command;
 
     static const Command* CommandFor(uint32 code);
-    kirto::FilePanel* GetPanel(PanelPointer& panel, kirto::FilePanelKind kind);
+    // True when that panel exists and is the source.
+    bool IsPanel(kirto::FilePanelKind kind, const void* source);
     BRect MainWindowFrame();
     bool LoadAwaitedPalette(const std::string& path);
     void SelectFrame(BMessage* message);
+    void StoreSettings(const BMessage& message);
+    void StoreTranslatorSettings(const BMessage& message);
     void SetFramePalette(BMessage* message);
     bool SaveGif();
     void SetFile(const std::string& directory, const std::string& name);
@@ -87,9 +85,7 @@ class Kirto : public IEApplication, public AnimationDocument {
 
     kirto::Desktop& desktop_;
     BTranslatorRoster& roster_;
-    PanelPointer open_panel_;
-    PanelPointer insert_panel_;
-    PanelPointer save_panel_;
-    PanelPointer insert_tiled_panel_;
+    std::mutex panels_mutex_;
+    std::map<kirto::FilePanelKind, std::unique_ptr<kirto::FilePanel>> panels_;  // guarded by it
     int32 fade_name_base_ = 0;
 };

@@ -14,6 +14,12 @@ inline constexpr uint32 kUpdateFramesNoStatus = FourCharCode("auns");  // frame 
 // Application to main window: a save has finished, go on with what waited for it. No fields.
 inline constexpr uint32 kResume = FourCharCode("arsm");
 
+// Application to main window: an edit that carried a serial number is done. No fields.
+inline constexpr uint32 kEditDone = FourCharCode("aued");
+
+// Application to main window: forget the command that waits for a save. No fields.
+inline constexpr uint32 kAbandonPending = FourCharCode("aabn");
+
 // Application to main window: thumbnail height after the first frame came in. No fields.
 inline constexpr uint32 kThumbnailFirstFull = FourCharCode("tvff");  // the first frame's height
 inline constexpr uint32 kThumbnailFirstHalf = FourCharCode("tvfh");  // half of it
@@ -67,6 +73,9 @@ inline constexpr uint32 kFramePaletteToFile = FourCharCode("lvfp");   // the nex
 // Windows to application: the settings (Prefs::AddTo) and where the main window stands (rect
 // "window_frame"); they are taken over and written to the settings file.
 inline constexpr uint32 kStoreSettings = FourCharCode("asts");
+
+// Save panel to application: an image writer's settings. Int32 "translator", message "settings".
+inline constexpr uint32 kTranslatorSettings = FourCharCode("atst");
 
 // Menus and buttons to main window. No fields.
 inline constexpr uint32 kNew = FourCharCode("awfn");

@@ -72,7 +72,7 @@ int32 FakeDesktop::Present(const BAlert& alert) {
     return answer;
 }
 
-BMessenger FakeDesktop::OpenMainWindow(const BRect& frame, const std::string& title) {
+BMessenger FakeDesktop::OpenMainWindow(Kirto&, const BRect& frame, const std::string& title) {
     AddLine(Format("window %g %g %g %g %s", static_cast<double>(frame.left),
                    static_cast<double>(frame.top), static_cast<double>(frame.right),
                    static_cast<double>(frame.bottom), title.c_str()));

@@ -43,7 +43,8 @@ class FakeDesktop : public Desktop {
     void AddLine(const std::string& line);
 
     int32 Present(const BAlert& alert) override;
-    BMessenger OpenMainWindow(const BRect& frame, const std::string& title) override;
+    BMessenger OpenMainWindow(Kirto& application, const BRect& frame,
+                              const std::string& title) override;
     void AbandonPendingCommand() override;
     BRect ScreenFrame() override { return screen; }
     std::unique_ptr<FilePanel> MakeFilePanel(FilePanelKind kind, BMessenger target) override;

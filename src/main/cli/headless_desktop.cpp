@@ -46,7 +46,7 @@ int32 HeadlessDesktop::Present(const BAlert& alert) {
     return static_cast<int32>(alert.Buttons().size()) - 1;
 }
 
-BMessenger HeadlessDesktop::OpenMainWindow(const BRect&, const std::string&) {
+BMessenger HeadlessDesktop::OpenMainWindow(Kirto&, const BRect&, const std::string&) {
     return BMessenger(progress_);
 }
 

@@ -27,7 +27,8 @@ class HeadlessDesktop : public Desktop {
     ~HeadlessDesktop() override;
 
     int32 Present(const BAlert& alert) override;
-    BMessenger OpenMainWindow(const BRect& frame, const std::string& title) override;
+    BMessenger OpenMainWindow(Kirto& application, const BRect& frame,
+                              const std::string& title) override;
     void AbandonPendingCommand() override {}
     BRect ScreenFrame() override;
     std::unique_ptr<FilePanel> MakeFilePanel(FilePanelKind kind, BMessenger target) override;
