@@ -78,15 +78,15 @@ inline constexpr uint32 kStoreSettings = FourCharCode("asts");
 inline constexpr uint32 kTranslatorSettings = FourCharCode("atst");
 
 // Menus and buttons to main window. No fields.
-inline constexpr uint32 kNew = FourCharCode("awfn");
-inline constexpr uint32 kOpen = FourCharCode("awfo");
-inline constexpr uint32 kSave = FourCharCode("awfs");
-inline constexpr uint32 kSaveAs = FourCharCode("awfa");
+inline constexpr uint32 kMenuNew = FourCharCode("awfn");
+inline constexpr uint32 kMenuOpen = FourCharCode("awfo");
+inline constexpr uint32 kMenuSave = FourCharCode("awfs");
+inline constexpr uint32 kMenuSaveAs = FourCharCode("awfa");
 inline constexpr uint32 kToggleMode = FourCharCode("awvm");
-inline constexpr uint32 kPreferences = FourCharCode("awvr");
-inline constexpr uint32 kInsert = FourCharCode("awfi");
-inline constexpr uint32 kInsertTiled = FourCharCode("awit");
-inline constexpr uint32 kFadeEffects = FourCharCode("awfe");
+inline constexpr uint32 kMenuPreferences = FourCharCode("awvr");
+inline constexpr uint32 kMenuInsert = FourCharCode("awfi");
+inline constexpr uint32 kMenuInsertTiled = FourCharCode("awit");
+inline constexpr uint32 kMenuFadeEffects = FourCharCode("awfe");
 
 // Panels to main window. No fields; the window reads the control that sent the command.
 inline constexpr uint32 kThumbnailMode = FourCharCode("lvtm");
