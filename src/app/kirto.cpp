@@ -107,8 +107,9 @@ Prefs& WarnIfFailed(Prefs& settings) {
 
 }  // namespace
 
-Kirto::Kirto(Prefs& settings, kirto::Desktop& desktop, BTranslatorRoster& roster)
-    : IEApplication(kSignature),
+Kirto::Kirto(Prefs& settings, kirto::Desktop& desktop, BTranslatorRoster& roster,
+             const entry_ref& resource_file)
+    : IEApplication(kSignature, resource_file),
       AnimationDocument(WarnIfFailed(settings)),
       desktop_(desktop),
       roster_(roster) {

@@ -20,8 +20,9 @@ class Kirto : public IEApplication, public AnimationDocument, public kirto::File
     static constexpr const char* kSignature = "application/x-vnd.Tavon-Kirto";
 
     // Everything handed in outlives the application. Makes and shows the main window; the loop is
-    // started by the caller (Run() or Loop()).
-    Kirto(Prefs& settings, kirto::Desktop& desktop, BTranslatorRoster& roster);
+    // started by the caller (Run() or Loop()). resource_file: as for IEApplication.
+    Kirto(Prefs& settings, kirto::Desktop& desktop, BTranslatorRoster& roster,
+          const entry_ref& resource_file = {});
     // Ends the loop, deletes all frames and removes the preview file.
     ~Kirto() override;
 
