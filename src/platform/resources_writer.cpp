@@ -10,6 +10,13 @@ namespace kirto {
 namespace {
 
 constexpr size_t kMaxName = 0xFFFE;
+// What a resource takes beside its bytes and its name: the entry in the index; id, position, length
+// and terminator in the info table; and there, if it is the first of its type, the type's own
+// words.
+constexpr size_t kMostBesides = kIndexEntrySize + 4 + 4 + 2 + 1 + 3 * 4;
+// What resources may take: the index may be a step larger than its entries.
+constexpr size_t kRoom = kMaxContainerSize - kContainerHeaderSize - kIndexHeaderSize - kIndexStep -
+                         kReservedSectionSize - kInfoTableTail;
 
 // Stores the low 32 bits; containers are far smaller than those can say.
 void PutWord(std::vector<uint8>* bytes, uint64 value) {
@@ -51,7 +58,9 @@ void PutIndexHeader(std::vector<uint8>* container, size_t resources, size_t info
 status_t ResourcesWriter::Add(type_code type, int32 id, std::string_view name,
                               std::vector<uint8> bytes) {
     if (name.size() > kMaxName || name.find('\0') != std::string_view::npos) return B_BAD_VALUE;
-    if (bytes.size() > kMaxContainerSize) return B_NO_MEMORY;
+    const size_t more = bytes.size() + name.size() + kMostBesides;
+    if (bytes.size() > kRoom || more > kRoom - needed_) return B_NO_MEMORY;
+    needed_ += more;
     resources_.push_back({type, id, std::string(name), std::move(bytes)});
     return B_OK;
 }
@@ -62,7 +71,6 @@ std::vector<uint8> ResourcesWriter::Container() const {
     size_t info_offset = data_offset;
     for (const Resource& resource : resources_)
         info_offset += resource.bytes.size();
-    if (info_offset + info_table.size() > kMaxContainerSize) return {};
 
     std::vector<uint8> container;
     PutHeader(&container, resources_.size());
