@@ -21,6 +21,8 @@ class BWindow : public BHandler {
     // Invalid once the window is gone.
     BMessenger Messenger() const { return BMessenger(port_); }
 
+    const std::shared_ptr<kirto::MessagePort>& Port() const { return port_; }
+
     // The windows that exist. Callable from any thread.
     static int32 CountWindows();
 

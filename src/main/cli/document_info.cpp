@@ -109,7 +109,7 @@ std::string DescribeDocumentAsJson(const AnimationDocument& document) {
                        {"loop_count", document.loop_count},
                        {"use_pause_global", document.use_pause_global},
                        {"pause_length_global", document.pause_length_global},
-                       {"modified", document.modified},
+                       {"modified", document.modified.load()},
                        {"selected", document.selected},
                        {"frame_count", document.frame_count},
                        {"global_palette", PaletteJson(*document.global_palette)},

@@ -1,0 +1,71 @@
+// kirto: the editor.
+#include <QApplication>
+#include <clocale>
+#include <csignal>
+#include <cstdio>
+#include <filesystem>
+#include <thread>
+
+#include "app/kirto.h"
+#include "framework/resource_file_path.h"
+#include "main/editor/editor_arguments.h"
+#include "main/editor/screenshot.h"
+#include "platform/qt/qt_translator_roster.h"
+#include "ui/qt_desktop.h"
+
+namespace {
+
+BMessage RefsMessage(const std::vector<std::string>& files) {
+    BMessage refs(B_REFS_RECEIVED);
+    for (const std::string& file : files) {
+        refs.AddRef("refs", entry_ref(std::filesystem::absolute(file).string()));
+    }
+    return refs;
+}
+
+// Runs until the application's loop has ended; the loop ends when the main window has agreed.
+int RunEditor(const kirto::EditorArguments& arguments) {
+    kirto::QtTranslatorRoster roster;
+    kirto::QtDesktop desktop(roster);
+    Prefs prefs;
+    Kirto application(prefs, desktop, roster, entry_ref(kirto::ResourceFilePath()));
+    if (!arguments.files.empty()) application.PostMessage(RefsMessage(arguments.files));
+
+    int status = 0;
+    const kirto::Screenshot screenshot(application, *desktop.MainWindow(), arguments.screenshot,
+                                       &status);
+    std::thread loop([&application] {
+        application.Loop();
+        QMetaObject::invokeMethod(qApp, &QApplication::quit, Qt::QueuedConnection);
+    });
+    QApplication::exec();
+    desktop.CloseWindows();
+    application.Quit();
+    loop.join();
+    return status;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    // A reader that goes away, or a file that may grow no further, is a failed write and not the
+    // end of the program.
+    std::signal(SIGPIPE, SIG_IGN);
+    std::signal(SIGXFSZ, SIG_IGN);
+    // What needs no screen is answered without one.
+    kirto::EditorArguments arguments;
+    if (const auto status = kirto::ParseInformation(argc, argv)) return *status;
+    kirto::QtTranslatorRoster::RestrictPluginFolders();
+    QApplication application(argc, argv);
+    kirto::QtTranslatorRoster::RestrictPluginFolders();
+    // The application object takes over the user's locale; numbers stay as they are without it.
+    std::setlocale(LC_NUMERIC, "C");
+    QApplication::setApplicationName("kirto");
+    QApplication::setApplicationDisplayName("Kirto");
+    QApplication::setApplicationVersion(KIRTO_VERSION);
+    QApplication::setDesktopFileName("kirto");
+    // The main window's closing is a request; the application decides.
+    QApplication::setQuitOnLastWindowClosed(false);
+    if (const auto status = kirto::ParseArguments(argc, argv, &arguments)) return *status;
+    return RunEditor(arguments);
+}

@@ -1,0 +1,21 @@
+// The checks of numbers that a user types.
+#pragma once
+
+#include <string>
+
+#include "framework/qt/text_control.h"
+#include "platform/types.h"
+
+namespace kirto {
+
+inline constexpr int32 kNoUpperBound = -1;
+inline constexpr double kNoUpperBoundReal = -1.0;
+
+// Returns the number that the field holds, and leaves the field showing just that number: what
+// follows the number is dropped, an empty field becomes 0, and past a bound an alert tells the user
+// ("Width can't be less than 0.") and the bound holds. subject: what the alert calls the field.
+int32 CheckInput(TextControl& control, int32 min, int32 max, const std::string& subject);
+// The same with two decimals.
+double CheckInput(TextControl& control, double min, double max, const std::string& subject);
+
+}  // namespace kirto

@@ -1,0 +1,45 @@
+// Makers of the controls that panels are built of. Every control carries its view name as object
+// name, and its label as accessible name where it has one; it sends its command to the target when
+// the user changes it, never when the program does. GUI thread; the parent owns what is made.
+#pragma once
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <vector>
+
+#include "framework/qt/text_control.h"
+#include "platform/messenger.h"
+
+namespace kirto {
+
+// An item of a pop-up menu: its text, the command it sends and the value it stands for.
+struct MenuChoice {
+    const char* label;
+    uint32 command;
+    int32 value;
+};
+
+QLabel* MakeLabel(const char* name, const char* text, QWidget* parent);
+TextControl* MakeField(const char* name, uint32 command, BMessenger target, QWidget* parent);
+QCheckBox* MakeCheckBox(const char* name, const char* label, uint32 command, BMessenger target,
+                        QWidget* parent);
+QRadioButton* MakeRadioButton(const char* name, const char* label, uint32 command,
+                              BMessenger target, QWidget* parent);
+QPushButton* MakeButton(const char* name, const char* label, uint32 command, BMessenger target,
+                        QWidget* parent);
+// Choosing an item sends its command, also when it was chosen already.
+QComboBox* MakePopUpMenu(const char* name, const std::vector<MenuChoice>& choices,
+                         BMessenger target, QWidget* parent);
+// Marks the item that stands for the value; none when no item does.
+void MarkChoice(QComboBox& menu, int32 value);
+// Marks the item of the palette's kind, in a menu of PaletteModes. To the user a palette from a
+// file and one whose file is being chosen are the same.
+void MarkPalette(QComboBox& menu, int32 mode);
+
+// Puts the text in, when it differs.
+void ShowText(QLabel& label, const QString& text);
+
+}  // namespace kirto

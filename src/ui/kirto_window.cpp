@@ -1,0 +1,310 @@
+#include "ui/kirto_window.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QMimeData>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QSplitter>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <cmath>
+
+#include "document/command_codes.h"
+#include "document/document_scope.h"
+#include "platform/alert.h"
+#include "ui/frame_list.h"
+#include "ui/frame_list_view.h"
+#include "ui/global_view.h"
+#include "ui/local_view.h"
+#include "ui/main_menu.h"
+#include "ui/palette_view.h"
+#include "ui/preferences_window.h"
+#include "ui/status_view.h"
+#include "ui/thumb_drawing_view.h"
+#include "ui/thumbnail_view.h"
+#include "ui/window_state.h"
+
+namespace {
+
+// In pixels, as the window's frame counts them: one less than there are.
+constexpr int kMinimumWidth = 549;
+constexpr int kMinimumHeight = 399;
+constexpr int kRetryMilliseconds = 10;
+
+const std::vector<uint32>& RefreshCodes() {
+    static const std::vector<uint32> kCodes = {
+        kirto::kUpdateAll, kirto::kUpdateFrames, kirto::kUpdateFramesNoStatus,
+        kirto::kEditDone,  kirto::kStatusUpdate,
+    };
+    return kCodes;
+}
+
+}  // namespace
+
+KirtoWindow::KirtoWindow(BRect frame, const char* title, const kirto::Editor& editor)
+    : BWindow("KirtoWindow",
+              kirto::GuiPort::Create([this](BMessage* message) { MessageReceived(message); },
+                                     RefreshCodes())),
+      editor_(editor),
+      port_(std::static_pointer_cast<kirto::GuiPort>(Port())) {
+    setObjectName("KirtoWindow");
+    setWindowTitle(QString::fromUtf8(title));
+    setMinimumSize(kMinimumWidth + 1, kMinimumHeight + 1);
+    setAcceptDrops(true);
+    retry_timer_.setSingleShot(true);
+    retry_timer_.setInterval(kRetryMilliseconds);
+    connect(&retry_timer_, &QTimer::timeout, this, [this] { Refresh(0); });
+
+    shown_.Take(editor_.document);
+    setMenuBar(kirto::MakeMainMenu(this, [this](uint32 command) { ChooseCommand(command); }));
+    MakePanels();
+    ArrangePanels();
+    Place(frame);
+    ShowMode(shown_.prefs.misc_preferredmode == 1);
+    ShowParts(kEverything & ~kTitle);
+}
+
+KirtoWindow::~KirtoWindow() {
+    port_->Close();
+}
+
+void KirtoWindow::MakePanels() {
+    const BMessenger window = Messenger();
+    global_view_ = new GlobalView(shown_, window);
+    palette_view_ = new PaletteView(shown_, window);
+    status_view_ = new StatusView(shown_);
+    local_view_ = new LocalView(shown_, window);
+    frame_list_view_ = new FrameListView(shown_, window);
+    thumbnail_view_ = new ThumbnailView(shown_, editor_, window);
+}
+
+// The panels in a column at the left that scrolls when the window is low, the frames in all the
+// room that is left, the status line below both.
+void KirtoWindow::ArrangePanels() {
+    auto* column = new QWidget;
+    auto* column_layout = new QVBoxLayout(column);
+    column_layout->addWidget(global_view_);
+    column_layout->addWidget(palette_view_);
+    column_layout->addWidget(local_view_);
+    column_layout->addStretch();
+
+    panel_area_ = new QScrollArea;
+    panel_area_->setObjectName("Panels");
+    panel_area_->setFrameShape(QFrame::NoFrame);
+    panel_area_->setWidgetResizable(true);
+    panel_area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    panel_area_->setFocusPolicy(Qt::NoFocus);
+    panel_area_->setWidget(column);
+    panel_area_->setMinimumWidth(column->minimumSizeHint().width() +
+                                 panel_area_->verticalScrollBar()->sizeHint().width());
+
+    frame_area_ = new QStackedWidget;
+    frame_area_->addWidget(thumbnail_view_);
+    frame_area_->addWidget(frame_list_view_);
+
+    splitter_ = new QSplitter;
+    splitter_->setChildrenCollapsible(false);
+    splitter_->addWidget(panel_area_);
+    splitter_->addWidget(frame_area_);
+    splitter_->setStretchFactor(1, 1);
+
+    auto* content = new QWidget;
+    auto* layout = new QVBoxLayout(content);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(splitter_, 1);
+    layout->addWidget(status_view_);
+    setCentralWidget(content);
+}
+
+void KirtoWindow::Place(const BRect& frame) {
+    QRect place(std::lround(frame.left), std::lround(frame.top), frame.PixelWidth(),
+                frame.PixelHeight());
+    place.setSize(place.size().expandedTo(minimumSize()));
+    // The screen where the window was last may be gone.
+    const bool visible = std::any_of(
+        QGuiApplication::screens().begin(), QGuiApplication::screens().end(),
+        [&](const QScreen* screen) { return screen->availableGeometry().intersects(place); });
+    if (!visible) {
+        const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+        place.setSize(place.size().boundedTo(screen.size()));
+        place.moveCenter(screen.center());
+    }
+    setGeometry(place);
+    if (shown_.prefs.misc_savewindowdimensions) kirto::RestoreSplitter(*splitter_);
+}
+
+BRect KirtoWindow::ScreenPlace() const {
+    const QRect place = isMaximized() || isFullScreen() ? normalGeometry() : geometry();
+    BRect frame = BRect::OfSize(place.width(), place.height());
+    frame.OffsetTo(static_cast<float>(place.left()), static_cast<float>(place.top()));
+    return frame;
+}
+
+void KirtoWindow::ResetDisplay() {
+    stale_parts_ = 0;
+    retry_timer_.stop();
+    shown_.Reset();
+    setWindowTitle("Kirto - untitled");
+    global_view_->ResetDisplay();
+    palette_view_->ResetDisplay();
+    local_view_->ResetDisplay();
+    thumbnail_view_->ResetDisplay();
+    frame_list_view_->ResetDisplay();
+    status_view_->ResetDisplay();
+    kirto::EnableFrameItems(*menuBar(), false);
+}
+
+void KirtoWindow::UpdateDisplay() {
+    Refresh(kEverything);
+}
+
+void KirtoWindow::Refresh(uint32 parts) {
+    stale_parts_ |= parts;
+    if (!shown_.Take(editor_.document)) {
+        retry_timer_.start();
+        return;
+    }
+    ShowParts(std::exchange(stale_parts_, 0));
+}
+
+void KirtoWindow::ShowParts(uint32 parts) {
+    if (parts & kTitle) {
+        setWindowTitle("Kirto - " + QString::fromStdString(shown_.file_name));
+    }
+    if (parts & kPanels) {
+        global_view_->UpdateDisplay();
+        palette_view_->UpdateDisplay();
+    }
+    if (parts & kLocal) local_view_->UpdateDisplay();
+    if (parts & kFrames) {
+        thumbnail_view_->UpdateDisplay();
+        frame_list_view_->UpdateDisplay();
+    }
+    if (parts & kStatus) status_view_->UpdateDisplay();
+    kirto::EnableFrameItems(*menuBar(), !shown_.frames.empty());
+    ApplyPreset();
+}
+
+bool KirtoWindow::ShowsFrameList() const {
+    return frame_area_->currentWidget() == frame_list_view_;
+}
+
+void KirtoWindow::ShowMode(bool frame_list) {
+    if (frame_list) {
+        frame_area_->setCurrentWidget(frame_list_view_);
+        frame_list_view_->List()->setFocus();
+    } else {
+        frame_area_->setCurrentWidget(thumbnail_view_);
+        thumbnail_view_->DrawingView()->setFocus();
+    }
+    local_view_->ShowMode(frame_list);
+}
+
+void KirtoWindow::SetThumbnailHeight(int32 height) {
+    const int32 raised = std::max(height, shown_.prefs.thumbnail_minheight);
+    thumbnail_view_->SetHeight(std::min(raised, shown_.prefs.thumbnail_maxheight));
+    thumbnail_view_->UpdateDisplay();
+}
+
+void KirtoWindow::ShowPreferences(const char* tab) {
+    if (!preferences_window_) {
+        preferences_window_ = new PreferencesWindow(editor_, shown_.prefs, this);
+        preferences_window_->setAttribute(Qt::WA_DeleteOnClose);
+        preferences_window_->Show();
+    }
+    if (tab) preferences_window_->ShowTab(tab);
+    preferences_window_->raise();
+    preferences_window_->activateWindow();
+}
+
+bool KirtoWindow::QuitRequested() {
+    if (!LoseChanges(B_QUIT_REQUESTED)) return false;
+    BMessage settings(kirto::kStoreSettings);
+    settings.AddRect("window_frame", ScreenPlace());
+    PostToApplication(settings);
+    kirto::StoreSplitter(*splitter_);
+    PostToApplication(BMessage(B_QUIT_REQUESTED));
+    return true;
+}
+
+bool KirtoWindow::LoseChanges(uint32 command) {
+    if (!MayLoseChanges()) {
+        pending_command_ = 0;
+        return true;
+    }
+    BAlert alert("", "Do you want to save your changes?", "Cancel", "Discard", "Save");
+    constexpr int32 kDiscard = 1;
+    constexpr int32 kSaveFirst = 2;
+    const int32 answer = alert.Go();
+    pending_command_ = answer == kSaveFirst ? command : 0;
+    if (answer == kSaveFirst) SaveOrAsk();
+    return answer == kDiscard;
+}
+
+// Edits on their way to the application count as changes already.
+bool KirtoWindow::MayLoseChanges() {
+    const bool modified = editor_.document.modified || editor_.document.edits_done != edits_posted_;
+    const kirto::TryReaderScope reader(editor_.document);
+    const bool has_frames =
+        reader.Entered() ? editor_.document.frame_count > 0 : !shown_.frames.empty();
+    return modified && has_frames;
+}
+
+// A field holds what was typed until it is left; a command of the keyboard leaves nothing.
+bool KirtoWindow::CommitEdit() {
+    auto* field = dynamic_cast<kirto::TextControl*>(focusWidget());
+    if (!field || !field->IsBeingEdited()) return false;
+    field->Commit();
+    return true;
+}
+
+void KirtoWindow::ChooseCommand(uint32 command) {
+    CommitEdit();
+    Messenger().SendMessage(command);
+}
+
+void KirtoWindow::PostToApplication(const BMessage& message) {
+    editor_.application.SendMessage(message);
+}
+
+void KirtoWindow::PostEdit(BMessage message) {
+    message.RemoveName("serial");
+    message.AddInt32("serial", ++edits_posted_);
+    PostToApplication(message);
+}
+
+void KirtoWindow::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    // What was typed reaches the document before the question whether to save it.
+    if (CommitEdit()) {
+        Messenger().SendMessage(B_QUIT_REQUESTED);
+        return;
+    }
+    if (!may_close_) may_close_ = QuitRequested();
+    event->setAccepted(may_close_);
+}
+
+void KirtoWindow::resizeEvent(QResizeEvent* event) {
+    QMainWindow::resizeEvent(event);
+    if (!thumbnail_view_) return;
+    frame_list_view_->UpdateDisplay();
+    thumbnail_view_->UpdateDisplay();
+}
+
+void KirtoWindow::dragEnterEvent(QDragEnterEvent* event) {
+    if (event->mimeData()->hasUrls()) event->acceptProposedAction();
+}
+
+void KirtoWindow::dropEvent(QDropEvent* event) {
+    BMessage drop(B_SIMPLE_DATA);
+    for (const QUrl& url : event->mimeData()->urls()) {
+        const QByteArray path = url.toLocalFile().toLocal8Bit();
+        if (!path.isEmpty()) drop.AddRef("refs", entry_ref(path.toStdString()));
+    }
+    event->acceptProposedAction();
+    if (drop.HasField("refs")) Messenger().SendMessage(drop);
+}

@@ -1,0 +1,152 @@
+#pragma once
+
+#include <QMainWindow>
+#include <QPointer>
+#include <QTimer>
+
+#include "platform/qt/gui_port.h"
+#include "platform/rect.h"
+#include "platform/window.h"
+#include "ui/document_snapshot.h"
+#include "ui/editor.h"
+
+class FrameListView;
+class GlobalView;
+class LocalView;
+class PaletteView;
+class PreferencesWindow;
+class QScrollArea;
+class QSplitter;
+class QStackedWidget;
+class StatusView;
+class ThumbnailView;
+
+// The main window: menus and panels around the frames. It turns choices and edits into commands for
+// the application, after checking what was typed, and shows the document again when the application
+// says that it changed. What it shows is a copy of the document, taken without ever waiting for the
+// document's lock. GUI thread.
+class KirtoWindow : public QMainWindow, public BWindow {
+  public:
+    // frame: the window's place on the screen, without its decoration. Not shown yet.
+    KirtoWindow(BRect frame, const char* title, const kirto::Editor& editor);
+    ~KirtoWindow() override;
+
+    // Handles one command; what its sender's control holds is read here.
+    void MessageReceived(BMessage* message) override;
+    // Offers to save unsaved changes. True when the window may close; the settings are saved and
+    // the application is asked to quit then.
+    bool QuitRequested();
+    // True when the document's changes may go, or there are none. When the user wants them saved
+    // first, the save is started and the command is carried out after it.
+    bool LoseChanges(uint32 command);
+    // Sets the height of the thumbnails in pixels, within the settings' bounds.
+    void SetThumbnailHeight(int32 height);
+    // Show the document in all panels: an empty one, and as it is now. While the document is being
+    // changed the panels stay as they are, and follow a moment later.
+    void ResetDisplay();
+    void UpdateDisplay();
+    // Opens the preferences, or brings them to the front; with a tab's name that tab.
+    void ShowPreferences(const char* tab = nullptr);
+
+    // The command that waits for a save; 0 for none.
+    uint32 PendingCommand() const { return pending_command_; }
+    bool ShowsFrameList() const;
+    // The window's place on the screen, as the settings keep it.
+    BRect ScreenPlace() const;
+    const kirto::DocumentSnapshot& Shown() const { return shown_; }
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+  private:
+    using Handler = void (KirtoWindow::*)(BMessage* message);
+    struct Command;
+    // Groups of panels that a refresh shows again.
+    enum Part : uint32 { kTitle = 1, kPanels = 2, kLocal = 4, kFrames = 8, kStatus = 16 };
+    static constexpr uint32 kEverything = kTitle | kPanels | kLocal | kFrames | kStatus;
+
+    static const Command* CommandFor(uint32 code);
+    void MakePanels();
+    void ArrangePanels();
+    void Place(const BRect& frame);
+    void RememberSplitter();
+
+    // Shows the parts again, now or as soon as the document can be read.
+    void Refresh(uint32 parts);
+    void ShowParts(uint32 parts);
+    void ChooseCommand(uint32 command);
+    // Sends the command of the field that is being edited; true when there was one.
+    bool CommitEdit();
+    bool MayLoseChanges();
+    void ResumePending();
+    void ApplyPreset();
+    void SaveOrAsk();
+    void StartNew();
+    void OpenAnother();
+    void ShowMode(bool frame_list);
+    void PostToApplication(const BMessage& message);
+    // The same for a command that changes the document.
+    void PostEdit(BMessage message);
+    template <typename Value>
+    void PostValue(uint32 code, Value value);
+
+    // The commands' handlers.
+    void UpdateAll(BMessage* message);
+    void UpdateFrames(BMessage* message);
+    void UpdateFramesNoStatus(BMessage* message);
+    void Resume(BMessage* message);
+    void AbandonPending(BMessage* message);
+    void ShowStatus(BMessage* message);
+    void New(BMessage* message);
+    void Open(BMessage* message);
+    void Save(BMessage* message);
+    void SaveAs(BMessage* message);
+    void About(BMessage* message);
+    void RequestQuit(BMessage* message);
+    void Preview(BMessage* message);
+    void ToggleMode(BMessage* message);
+    void OpenPreferences(BMessage* message);
+    void Insert(BMessage* message);
+    void InsertTiled(BMessage* message);
+    void FadeEffects(BMessage* message);
+    void ForwardEdit(BMessage* message);
+    void GlobalNumber(BMessage* message);
+    void GlobalPauseLength(BMessage* message);
+    void GlobalSwitch(BMessage* message);
+    void PaletteKind(BMessage* message);
+    void PaletteFromFile(BMessage* message);
+    void PaletteIndex(BMessage* message);
+    void PaletteSwitch(BMessage* message);
+    void FrameOffset(BMessage* message);
+    void FramePauseLength(BMessage* message);
+    void FrameSwitch(BMessage* message);
+    void FramePaletteFromFile(BMessage* message);
+    void ChooseMode(BMessage* message);
+    void SlideThumbnails(BMessage* message);
+    void PresetThumbnails(BMessage* message);
+    void SelectInList(BMessage* message);
+
+    kirto::Editor editor_;
+    std::shared_ptr<kirto::GuiPort> port_;
+    kirto::DocumentSnapshot shown_;
+    uint32 stale_parts_ = 0;  // to be shown as soon as the document can be read
+    QTimer retry_timer_;
+    uint32 pending_command_ = 0;
+    int32 edits_posted_ = 0;  // the serial number of the last edit
+    uint32 preset_ = 0;       // the preset height to be set as soon as the frames can be read
+    bool may_close_ = false;
+
+    GlobalView* global_view_ = nullptr;
+    PaletteView* palette_view_ = nullptr;
+    StatusView* status_view_ = nullptr;
+    LocalView* local_view_ = nullptr;
+    FrameListView* frame_list_view_ = nullptr;
+    ThumbnailView* thumbnail_view_ = nullptr;
+    QStackedWidget* frame_area_ = nullptr;
+    QScrollArea* panel_area_ = nullptr;
+    QSplitter* splitter_ = nullptr;
+    QPointer<PreferencesWindow> preferences_window_;
+};

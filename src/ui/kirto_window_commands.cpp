@@ -1,0 +1,357 @@
+// What the main window does on each command.
+#include "document/command_codes.h"
+#include "platform/alert.h"
+#include "ui/check_input.h"
+#include "ui/fade_window.h"
+#include "ui/frame_list.h"
+#include "ui/frame_list_view.h"
+#include "ui/global_view.h"
+#include "ui/kirto_window.h"
+#include "ui/local_view.h"
+#include "ui/main_menu.h"
+#include "ui/palette_view.h"
+#include "ui/status_view.h"
+#include "ui/thumbnail_view.h"
+
+// One row of the command table.
+struct KirtoWindow::Command {
+    uint32 code;
+    Handler handle;
+};
+
+const KirtoWindow::Command* KirtoWindow::CommandFor(uint32 code) {
+    static constexpr Command kCommands[] = {
+        {kirto::kUpdateAll, &KirtoWindow::UpdateAll},
+        {kirto::kUpdateFrames, &KirtoWindow::UpdateFrames},
+        {kirto::kUpdateFramesNoStatus, &KirtoWindow::UpdateFramesNoStatus},
+        {kirto::kEditDone, &KirtoWindow::UpdateAll},
+        {kirto::kResume, &KirtoWindow::Resume},
+        {kirto::kAbandonPending, &KirtoWindow::AbandonPending},
+        {kirto::kStatusUpdate, &KirtoWindow::ShowStatus},
+        {kirto::kMenuNew, &KirtoWindow::New},
+        {kirto::kMenuOpen, &KirtoWindow::Open},
+        {kirto::kMenuSave, &KirtoWindow::Save},
+        {kirto::kMenuSaveAs, &KirtoWindow::SaveAs},
+        {B_ABOUT_REQUESTED, &KirtoWindow::About},
+        {B_QUIT_REQUESTED, &KirtoWindow::RequestQuit},
+        {kirto::kPreview, &KirtoWindow::Preview},
+        {kirto::kToggleMode, &KirtoWindow::ToggleMode},
+        {kirto::kMenuPreferences, &KirtoWindow::OpenPreferences},
+        {kirto::kMenuInsert, &KirtoWindow::Insert},
+        {kirto::kMenuInsertTiled, &KirtoWindow::InsertTiled},
+        {kirto::kMenuFadeEffects, &KirtoWindow::FadeEffects},
+        {kirto::kRemoveFrame, &KirtoWindow::ForwardEdit},
+        {kirto::kMoveFrameUp, &KirtoWindow::ForwardEdit},
+        {kirto::kMoveFrameDown, &KirtoWindow::ForwardEdit},
+        {kirto::kReverseFrames, &KirtoWindow::ForwardEdit},
+        {B_SIMPLE_DATA, &KirtoWindow::ForwardEdit},
+        {kirto::kFrameSystem, &KirtoWindow::ForwardEdit},
+        {kirto::kFrameGreyscale, &KirtoWindow::ForwardEdit},
+        {kirto::kFrameOptimal, &KirtoWindow::ForwardEdit},
+        {kirto::kFrameWebSafe, &KirtoWindow::ForwardEdit},
+        {kirto::kSetWidth, &KirtoWindow::GlobalNumber},
+        {kirto::kSetHeight, &KirtoWindow::GlobalNumber},
+        {kirto::kSetLoopCount, &KirtoWindow::GlobalNumber},
+        {kirto::kSetPauseLength, &KirtoWindow::GlobalPauseLength},
+        {kirto::kUsePause, &KirtoWindow::GlobalSwitch},
+        {kirto::kUseLoop, &KirtoWindow::GlobalSwitch},
+        {kirto::kPaletteToWebSafe, &KirtoWindow::PaletteKind},
+        {kirto::kPaletteToSystem, &KirtoWindow::PaletteKind},
+        {kirto::kPaletteToGreyscale, &KirtoWindow::PaletteKind},
+        {kirto::kPaletteToFirstFrame, &KirtoWindow::PaletteKind},
+        {kirto::kPaletteToCurrentFrame, &KirtoWindow::PaletteKind},
+        {kirto::kPaletteToFile, &KirtoWindow::PaletteFromFile},
+        {kirto::kSetBackgroundIndex, &KirtoWindow::PaletteIndex},
+        {kirto::kSetTransparentIndex, &KirtoWindow::PaletteIndex},
+        {kirto::kUseTransparent, &KirtoWindow::PaletteSwitch},
+        {kirto::kSetDither, &KirtoWindow::PaletteSwitch},
+        {kirto::kFrameSetXOffset, &KirtoWindow::FrameOffset},
+        {kirto::kFrameSetYOffset, &KirtoWindow::FrameOffset},
+        {kirto::kFrameSetPauseLength, &KirtoWindow::FramePauseLength},
+        {kirto::kFrameUsePause, &KirtoWindow::FrameSwitch},
+        {kirto::kFrameUsePalette, &KirtoWindow::FrameSwitch},
+        {kirto::kFramePaletteToFile, &KirtoWindow::FramePaletteFromFile},
+        {kirto::kThumbnailMode, &KirtoWindow::ChooseMode},
+        {kirto::kFrameListMode, &KirtoWindow::ChooseMode},
+        {kirto::kThumbnailSlider, &KirtoWindow::SlideThumbnails},
+        {kirto::kThumbnailFirstHalf, &KirtoWindow::PresetThumbnails},
+        {kirto::kThumbnailCurrentHalf, &KirtoWindow::PresetThumbnails},
+        {kirto::kThumbnailFirstFull, &KirtoWindow::PresetThumbnails},
+        {kirto::kThumbnailCurrentFull, &KirtoWindow::PresetThumbnails},
+        {kirto::kThumbnailPreset, &KirtoWindow::PresetThumbnails},
+        {kirto::kFrameListSelection, &KirtoWindow::SelectInList},
+    };
+    for (const Command& command : kCommands) {
+        if (command.code == code) return &command;
+    }
+    return nullptr;
+}
+
+void KirtoWindow::MessageReceived(BMessage* message) {
+    if (const Command* command = CommandFor(message->what)) {
+        (this->*command->handle)(message);
+    } else {
+        BWindow::MessageReceived(message);
+    }
+}
+
+template <typename Value>
+void KirtoWindow::PostValue(uint32 code, Value value) {
+    BMessage edit(code);
+    if constexpr (std::is_same_v<Value, bool>) {
+        edit.AddBool("value", value);
+    } else if constexpr (std::is_same_v<Value, double>) {
+        edit.AddDouble("value", value);
+    } else {
+        edit.AddInt32("value", value);
+    }
+    PostEdit(std::move(edit));
+}
+
+void KirtoWindow::UpdateAll(BMessage*) {
+    Refresh(kEverything);
+}
+
+void KirtoWindow::UpdateFrames(BMessage*) {
+    Refresh(kLocal | kFrames | kStatus);
+}
+
+void KirtoWindow::UpdateFramesNoStatus(BMessage*) {
+    Refresh(kLocal | kFrames);
+}
+
+void KirtoWindow::Resume(BMessage*) {
+    const uint32 command = std::exchange(pending_command_, 0);
+    // A save that failed, and edits made during it, leave changes that the command would lose.
+    if (MayLoseChanges()) return;
+    switch (command) {
+        case kirto::kMenuNew:
+            StartNew();
+            break;
+        case kirto::kMenuOpen:
+            OpenAnother();
+            break;
+        case B_QUIT_REQUESTED:
+            close();
+            break;
+        default:
+            break;
+    }
+}
+
+void KirtoWindow::AbandonPending(BMessage*) {
+    pending_command_ = 0;
+}
+
+void KirtoWindow::ShowStatus(BMessage* message) {
+    std::string text;
+    if (message->FindString("text", &text) == B_OK) status_view_->UpdateDisplay(text.c_str());
+}
+
+void KirtoWindow::New(BMessage*) {
+    if (LoseChanges(kirto::kMenuNew)) StartNew();
+}
+
+void KirtoWindow::StartNew() {
+    PostEdit(BMessage(kirto::kResetDocument));
+    ResetDisplay();
+}
+
+void KirtoWindow::Open(BMessage*) {
+    if (LoseChanges(kirto::kMenuOpen)) OpenAnother();
+}
+
+void KirtoWindow::OpenAnother() {
+    kirto::FilePanel* panel = editor_.panels.GetPanel(kirto::FilePanelKind::kOpen);
+    panel->SetTitle("Open Animation");
+    panel->Show();
+}
+
+void KirtoWindow::Save(BMessage*) {
+    if (MayLoseChanges()) SaveOrAsk();
+}
+
+void KirtoWindow::SaveOrAsk() {
+    if (shown_.file_name == "untitled") {
+        SaveAs(nullptr);
+    } else {
+        PostToApplication(BMessage(kirto::kSaveAgain));
+    }
+}
+
+void KirtoWindow::SaveAs(BMessage*) {
+    if (shown_.frames.empty()) return;
+    kirto::FilePanel* panel = editor_.panels.GetPanel(kirto::FilePanelKind::kSave);
+    panel->SetSaveText("");
+    panel->Show();
+}
+
+void KirtoWindow::About(BMessage*) {
+    BAlert alert("",
+                 "Kirto v1.4\n"
+                 "An editor for frame animations, by Morvik\n"
+                 "https://kirto.example.org\n\n"
+                 "Please send in bug reports and feature requests.\n\n"
+                 "Thanks to all who shared their code for GIF files, and for a long conversation "
+                 "about dithering.",
+                 "OK", {}, {}, B_INFO_ALERT);
+    alert.Go();
+}
+
+void KirtoWindow::RequestQuit(BMessage*) {
+    close();
+}
+
+void KirtoWindow::Preview(BMessage* message) {
+    if (shown_.FirstFrame()) PostToApplication(*message);
+}
+
+void KirtoWindow::ToggleMode(BMessage*) {
+    ShowMode(!ShowsFrameList());
+}
+
+void KirtoWindow::OpenPreferences(BMessage*) {
+    ShowPreferences();
+}
+
+void KirtoWindow::Insert(BMessage*) {
+    editor_.panels.GetPanel(kirto::FilePanelKind::kInsert)->Show();
+}
+
+void KirtoWindow::InsertTiled(BMessage*) {
+    editor_.panels.GetPanel(kirto::FilePanelKind::kInsertTiled)->Show();
+}
+
+void KirtoWindow::FadeEffects(BMessage*) {
+    if (!shown_.CurrentFrame()) return;
+    auto* window = new FadeWindow(editor_.application, this);
+    window->show();
+}
+
+void KirtoWindow::ForwardEdit(BMessage* message) {
+    PostEdit(*message);
+}
+
+void KirtoWindow::GlobalNumber(BMessage* message) {
+    kirto::TextControl* field = message->what == kirto::kSetWidth    ? global_view_->width
+                                : message->what == kirto::kSetHeight ? global_view_->height
+                                                                     : global_view_->loop_count;
+    PostValue(message->what, kirto::CheckInput(*field, 0, kirto::kNoUpperBound,
+                                               field->objectName().toStdString()));
+}
+
+void KirtoWindow::GlobalPauseLength(BMessage* message) {
+    kirto::TextControl& field = *global_view_->pause_length;
+    PostValue(message->what, kirto::CheckInput(field, 0.0, kirto::kNoUpperBoundReal,
+                                               field.objectName().toStdString()));
+}
+
+void KirtoWindow::GlobalSwitch(BMessage* message) {
+    const bool pause = message->what == kirto::kUsePause;
+    const bool on = (pause ? global_view_->pause : global_view_->loop)->isChecked();
+    (pause ? global_view_->pause_length : global_view_->loop_count)->setEnabled(on);
+    PostValue(message->what, on);
+}
+
+void KirtoWindow::PaletteKind(BMessage* message) {
+    palette_view_->EnableDither(message->what == kirto::kPaletteToGreyscale);
+    PostEdit(*message);
+}
+
+void KirtoWindow::PaletteFromFile(BMessage* message) {
+    palette_view_->EnableDither(false);
+    PostEdit(*message);
+    kirto::FilePanel* panel = editor_.panels.GetPanel(kirto::FilePanelKind::kOpen);
+    panel->SetTitle("Open Paletted File");
+    panel->Show();
+}
+
+void KirtoWindow::PaletteIndex(BMessage* message) {
+    const bool background = message->what == kirto::kSetBackgroundIndex;
+    kirto::TextControl& field =
+        *(background ? palette_view_->background_index : palette_view_->transparent_index);
+    const int32 last_index = (1 << shown_.palette_bits) - 1;
+    PostValue(message->what,
+              kirto::CheckInput(field, 0, last_index, field.objectName().toStdString()));
+}
+
+void KirtoWindow::PaletteSwitch(BMessage* message) {
+    if (message->what == kirto::kSetDither) {
+        PostValue(message->what, palette_view_->dither->isChecked());
+        return;
+    }
+    const bool on = palette_view_->transparent->isChecked();
+    palette_view_->transparent_index->setEnabled(on);
+    PostValue(message->what, on);
+}
+
+void KirtoWindow::FrameOffset(BMessage* message) {
+    const bool x = message->what == kirto::kFrameSetXOffset;
+    kirto::TextControl& field = *(x ? local_view_->x_offset : local_view_->y_offset);
+    const int32 offset =
+        kirto::CheckInput(field, 0, kirto::kNoUpperBound, field.objectName().toStdString());
+    if (shown_.CurrentFrame()) PostValue(message->what, offset);
+}
+
+void KirtoWindow::FramePauseLength(BMessage* message) {
+    kirto::TextControl& field = *local_view_->pause_length;
+    const double length =
+        kirto::CheckInput(field, 0.0, kirto::kNoUpperBoundReal, field.objectName().toStdString());
+    if (shown_.CurrentFrame()) PostValue(message->what, length);
+}
+
+void KirtoWindow::FrameSwitch(BMessage* message) {
+    if (!shown_.CurrentFrame()) return;
+    const bool pause = message->what == kirto::kFrameUsePause;
+    const bool on = (pause ? local_view_->pause : local_view_->palette)->isChecked();
+    if (pause) {
+        local_view_->pause_length->setEnabled(on);
+    } else {
+        local_view_->palette_menu->setEnabled(on);
+    }
+    PostValue(message->what, on);
+}
+
+void KirtoWindow::FramePaletteFromFile(BMessage* message) {
+    if (!shown_.CurrentFrame()) return;
+    PostEdit(*message);
+    kirto::FilePanel* panel = editor_.panels.GetPanel(kirto::FilePanelKind::kOpen);
+    panel->SetTitle("Open Paletted File");
+    panel->Show();
+}
+
+void KirtoWindow::ChooseMode(BMessage* message) {
+    const bool frame_list = message->what == kirto::kFrameListMode;
+    if (frame_list != ShowsFrameList()) ShowMode(frame_list);
+}
+
+void KirtoWindow::SlideThumbnails(BMessage*) {
+    thumbnail_view_->SetHeight(thumbnail_view_->SliderValue());
+    thumbnail_view_->UpdateDisplay();
+}
+
+void KirtoWindow::PresetThumbnails(BMessage* message) {
+    // The command may be ahead of the frames that the window knows.
+    preset_ = message->what;
+    Refresh(kFrames);
+}
+
+void KirtoWindow::ApplyPreset() {
+    const uint32 preset = std::exchange(preset_, 0);
+    if (preset == 0) return;
+    if (preset == kirto::kThumbnailPreset) {
+        SetThumbnailHeight(shown_.prefs.thumbnail_heightvalue);
+        return;
+    }
+    const bool first = preset == kirto::kThumbnailFirstHalf || preset == kirto::kThumbnailFirstFull;
+    const bool half =
+        preset == kirto::kThumbnailFirstHalf || preset == kirto::kThumbnailCurrentHalf;
+    const kirto::FrameSnapshot* frame = first ? shown_.FirstFrame() : shown_.CurrentFrame();
+    if (frame) SetThumbnailHeight(half ? frame->height / 2 : frame->height);
+}
+
+void KirtoWindow::SelectInList(BMessage*) {
+    BMessage select(kirto::kSelectFrame);
+    select.AddInt32("number", frame_list_view_->List()->CurrentSelection());
+    PostToApplication(select);
+}

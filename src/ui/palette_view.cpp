@@ -1,0 +1,68 @@
+#include "ui/palette_view.h"
+
+#include <QAbstractItemView>
+
+#include "document/command_codes.h"
+#include "ui/panel_layout.h"
+
+PaletteView::PaletteView(const kirto::DocumentSnapshot& shown, BMessenger window, QWidget* parent)
+    : QGroupBox("Palette:", parent), shown_(shown) {
+    setObjectName("PaletteView");
+    menu = kirto::MakePopUpMenu(
+        "PaletteMenuField",
+        {{"BeOS system", kirto::kPaletteToSystem, kirto::kPaletteSystem},
+         {"web safe", kirto::kPaletteToWebSafe, kirto::kPaletteWebSafe},
+         {"greyscale", kirto::kPaletteToGreyscale, kirto::kPaletteGreyscale},
+         {"first frame", kirto::kPaletteToFirstFrame, kirto::kPaletteFirstFrame},
+         {"current frame", kirto::kPaletteToCurrentFrame, kirto::kPaletteCurrentFrame},
+         {"from a file", kirto::kPaletteToFile, kirto::kPaletteFromFile}},
+        window, this);
+    dither = kirto::MakeCheckBox("Dither", "Dither", kirto::kSetDither, window, this);
+    background_index =
+        kirto::MakeField("Background index", kirto::kSetBackgroundIndex, window, this);
+    transparent = kirto::MakeCheckBox("Transparent", "Transparent index:", kirto::kUseTransparent,
+                                      window, this);
+    transparent_index =
+        kirto::MakeField("Transparent index", kirto::kSetTransparentIndex, window, this);
+
+    background_index->SetText("0");
+    transparent_index->SetText("0");
+    menu->view()->setObjectName("WhichPalette");
+    menu->setToolTip("The colours that all frames without a palette of their own are saved with");
+    dither->setToolTip("Mix the palette's colours where it lacks the picture's");
+    background_index->setToolTip("Palette index of the colour behind the frames");
+    transparent->setToolTip("One colour of the palette is transparent");
+    transparent_index->setToolTip("Palette index of the transparent colour");
+
+    auto* layout = new kirto::PanelLayout(this);
+    layout->AddField("Mapping:", menu);
+    layout->AddWide(dither);
+    layout->AddField("Background index:", background_index);
+    layout->AddField(transparent, transparent_index);
+}
+
+void PaletteView::EnableDither(bool greyscale) {
+    if (greyscale) dither->setChecked(false);
+    dither->setEnabled(!greyscale);
+}
+
+void PaletteView::UpdateDisplay() {
+    kirto::MarkPalette(*menu, shown_.palette_mode);
+    dither->setChecked(shown_.dither);
+    EnableDither(shown_.palette_mode == kirto::kPaletteGreyscale);
+    background_index->ShowText(QString::number(shown_.background_index));
+    transparent->setChecked(shown_.use_transparent);
+    transparent_index->setEnabled(shown_.use_transparent);
+    transparent_index->ShowText(QString::number(shown_.transparent_index));
+}
+
+void PaletteView::ResetDisplay() {
+    const Prefs& prefs = shown_.prefs;
+    kirto::MarkPalette(*menu, prefs.palette_mapping);
+    dither->setChecked(prefs.palette_dither);
+    EnableDither(prefs.palette_mapping == kirto::kPaletteGreyscale);
+    background_index->SetText(QString::number(prefs.palette_backgroundindex));
+    transparent->setChecked(prefs.palette_usetransparent);
+    transparent_index->setEnabled(prefs.palette_usetransparent);
+    transparent_index->SetText(QString::number(prefs.palette_transparentindex));
+}

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QGridLayout>
+
+#include "framework/qt/text_control.h"
+
+class QAbstractButton;
+
+namespace kirto {
+
+// The rows of a panel: labels or boxes at the left, fields of one width at the right. GUI thread;
+// owned by the panel.
+class PanelLayout : public QGridLayout {
+  public:
+    explicit PanelLayout(QWidget* panel);
+
+    // A labelled field; the label is its buddy and its accessible name.
+    void AddField(const QString& label, QWidget* field);
+    // A field that the box switches on and off.
+    void AddField(QAbstractButton* box, TextControl* field);
+    // A row of its own.
+    void AddWide(QWidget* widget);
+};
+
+}  // namespace kirto
