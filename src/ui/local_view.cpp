@@ -29,11 +29,10 @@ LocalView::LocalView(const kirto::DocumentSnapshot& shown, BMessenger window, QW
     layout->AddField("Y offset:", y_offset);
     layout->AddWide(pause);
     layout->AddField("Length:", pause_length);
-    layout->AddWide(palette);
-    layout->AddWide(palette_menu);
+    layout->AddField(palette, palette_menu);
+    layout->AddGap();
     layout->AddWide(kirto::MakeLabel("ModeTitle", "Mode", this));
-    layout->AddWide(thumbnail_mode);
-    layout->AddWide(frame_list_mode);
+    layout->AddPair(thumbnail_mode, frame_list_mode);
     ResetDisplay();
 }
 

@@ -2,8 +2,6 @@
 
 #include <QGridLayout>
 
-#include "framework/qt/text_control.h"
-
 class QAbstractButton;
 
 namespace kirto {
@@ -16,10 +14,14 @@ class PanelLayout : public QGridLayout {
 
     // A labelled field; the label is its buddy and its accessible name.
     void AddField(const QString& label, QWidget* field);
-    // A field that the box switches on and off.
-    void AddField(QAbstractButton* box, TextControl* field);
+    // A field or menu that the box switches on and off.
+    void AddField(QAbstractButton* box, QWidget* field);
     // A row of its own.
     void AddWide(QWidget* widget);
+    // Two that belong together, side by side.
+    void AddPair(QWidget* left, QWidget* right);
+    // Sets what follows apart from what came before.
+    void AddGap();
 };
 
 }  // namespace kirto
