@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "app/kirto_fixture.h"
+#include "platform/resources_writer.h"
 
 namespace kirto::test {
 
@@ -179,6 +180,32 @@ TEST_F(KirtoConstruction, MakesEachPanelOnFirstUseAndKeepsIt) {
 
     EXPECT_EQ(TakeLines(),
               (Lines{"panel save made", "panel insert made", "panel insert tiled made"}));
+}
+
+TEST_F(KirtoConstruction, NeedsNoResourceFile) {
+    Make();
+
+    EXPECT_EQ(app_->Error(), 0);
+    EXPECT_EQ(app_->Resources(), nullptr);
+}
+
+TEST_F(KirtoConstruction, OpensTheResourceFileItIsGiven) {
+    Write("kirto.rsrc", ResourcesWriter().Container());
+
+    app_ = std::make_unique<Kirto>(prefs_, desktop_, roster_, entry_ref(File("kirto.rsrc")));
+
+    EXPECT_EQ(app_->Error(), 0);
+    EXPECT_NE(app_->Resources(), nullptr);
+}
+
+TEST_F(KirtoConstruction, EndsAsSoonAsItRunsWithoutTheResourceFileItIsGiven) {
+    const AlertRecorder alerts;
+
+    app_ = std::make_unique<Kirto>(prefs_, desktop_, roster_, entry_ref(File("absent.rsrc")));
+    app_->Loop();
+
+    EXPECT_EQ(app_->Error(), -1);
+    EXPECT_EQ(alerts.Lines(), Lines{"STOP [] Resource file open error!\n | Cancel"});
 }
 
 }  // namespace
