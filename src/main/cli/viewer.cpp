@@ -1,21 +1,24 @@
 #include "main/cli/viewer.h"
 
 #include <cerrno>
-#include <cstdlib>
 #include <spawn.h>
 #include <sys/wait.h>
+#include <vector>
+
+#include "platform/browser_variable.h"
 
 namespace kirto {
 
 namespace {
 
 // True when the program could be started and says that it succeeded.
-bool RunProgram(const std::string& program, const std::string& argument) {
-    std::string name = program;
-    std::string file = argument;
-    char* arguments[] = {name.data(), file.data(), nullptr};
+bool RunProgram(ProgramCall call) {
+    std::vector<char*> arguments;
+    for (std::string& argument : call)
+        arguments.push_back(argument.data());
+    arguments.push_back(nullptr);
     pid_t child = 0;
-    if (posix_spawnp(&child, name.c_str(), nullptr, nullptr, arguments, environ) != 0) {
+    if (posix_spawnp(&child, arguments[0], nullptr, nullptr, arguments.data(), environ) != 0) {
         return false;
     }
     int status = 0;
@@ -28,9 +31,10 @@ bool RunProgram(const std::string& program, const std::string& argument) {
 }  // namespace
 
 bool RunViewer(const std::string& path) {
-    const char* browser = std::getenv("BROWSER");
-    if (browser && *browser && RunProgram(browser, path)) return true;
-    return RunProgram("x-www-browser", path) || RunProgram("xdg-open", path);
+    for (const ProgramCall& call : BrowserVariableCalls(path)) {
+        if (RunProgram(call)) return true;
+    }
+    return RunProgram({"x-www-browser", path}) || RunProgram({"xdg-open", path});
 }
 
 }  // namespace kirto

@@ -5,9 +5,9 @@
 
 namespace kirto {
 
-// Shows the file in the program named by $BROWSER, else in the default web browser, else in the
-// default program for its kind, and waits for that program to return. False when none of them could
-// be started.
+// Shows the file in one of the programs that $BROWSER names, else in the default web browser, else
+// in the default program for its kind, and waits for that program to return. False when none of
+// them could be started.
 bool RunViewer(const std::string& path);
 
 }  // namespace kirto
