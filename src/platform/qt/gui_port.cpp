@@ -103,8 +103,14 @@ bool GuiPort::TakeNext(BMessage* message) {
 void GuiPort::DeliverAll() {
     // The receiver may close the port, or drop the last reference to it.
     const std::shared_ptr<GuiPort> self = shared_from_this();
+    // What comes in meanwhile waits for its own turn, or a busy sender would keep the thread here.
+    size_t waiting = 0;
+    {
+        const std::lock_guard lock(mutex_);
+        waiting = queue_.size();
+    }
     BMessage message;
-    while (TakeNext(&message)) {
+    while (waiting-- > 0 && TakeNext(&message)) {
         receiver_(&message);
     }
     since_delivery_.start();
