@@ -1,5 +1,6 @@
 // kirto: the editor.
 #include <QApplication>
+#include <QIcon>
 #include <clocale>
 #include <csignal>
 #include <cstdio>
@@ -64,6 +65,7 @@ int main(int argc, char** argv) {
     QApplication::setApplicationDisplayName("Kirto");
     QApplication::setApplicationVersion(KIRTO_VERSION);
     QApplication::setDesktopFileName("kirto");
+    QApplication::setWindowIcon(QIcon(":/kirto.svg"));
     // The main window's closing is a request; the application decides.
     QApplication::setQuitOnLastWindowClosed(false);
     if (const auto status = kirto::ParseArguments(argc, argv, &arguments)) return *status;

@@ -1,0 +1,162 @@
+// kirto-pictures: draws the editor's windows into PNG files, for the documents and for looking at.
+//   kirto-pictures FOLDER ANIMATION [dark]
+// Runs offscreen unless told otherwise; the toolkit's QT_SCALE_FACTOR gives sharper pictures.
+#include <QApplication>
+#include <QDialog>
+#include <QElapsedTimer>
+#include <QPixmap>
+#include <QStyleFactory>
+#include <QTabWidget>
+#include <cstdio>
+#include <functional>
+#include <string>
+#include <thread>
+
+#include "app/kirto.h"
+#include "document/command_codes.h"
+#include "framework/resource_file_path.h"
+#include "platform/qt/qt_translator_roster.h"
+#include "ui/qt_desktop.h"
+
+namespace {
+
+constexpr int kDeadline = 20000;  // milliseconds
+constexpr int kSettle = 150;      // milliseconds
+
+void SettleFor(int milliseconds) {
+    QElapsedTimer timer;
+    timer.start();
+    while (timer.elapsed() < milliseconds)
+        QApplication::processEvents(QEventLoop::AllEvents, 10);
+}
+
+bool WaitUntil(const std::function<bool()>& reached) {
+    QElapsedTimer timer;
+    timer.start();
+    while (!reached() && timer.elapsed() < kDeadline)
+        SettleFor(10);
+    SettleFor(kSettle);
+    return reached();
+}
+
+QWidget* WindowTitled(const QString& title) {
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (window->isVisible() && window->windowTitle() == title) return window;
+    }
+    return nullptr;
+}
+
+QPalette DarkPalette() {
+    QPalette dark(QColor(49, 54, 59), QColor(42, 46, 50));
+    dark.setColor(QPalette::Base, QColor(27, 30, 32));
+    dark.setColor(QPalette::Highlight, QColor(61, 174, 233));
+    dark.setColor(QPalette::HighlightedText, Qt::white);
+    return dark;
+}
+
+// The editor on its animation, and what is drawn of it.
+class Pictures {
+  public:
+    explicit Pictures(std::string folder)
+        : folder_(std::move(folder)),
+          application_(prefs_, desktop_, roster_, entry_ref(kirto::ResourceFilePath())),
+          loop_([this] { application_.Loop(); }) {}
+    ~Pictures() {
+        desktop_.CloseWindows();
+        application_.Quit();
+        loop_.join();
+    }
+
+    void DrawAll(const std::string& animation) {
+        Grab(*Main(), "empty");
+        Main()->resize(900, 640);
+        Open(animation);
+        Grab(*Main(), "thumbnails");
+        Send(kirto::kToggleMode);
+        SettleFor(kSettle);
+        Grab(*Main(), "framelist");
+        Send(kirto::kToggleMode);
+        GrabDialog(kirto::kMenuFadeEffects, "Fade Effects", "fade");
+        GrabDialog(kirto::kMenuInsertTiled, "Insert Tiled Frame", "insert-tiled");
+        GrabDialog(kirto::kMenuSaveAs, "Save Animation", "save");
+        GrabPreferences();
+    }
+
+    int Failures() const { return failures_; }
+
+  private:
+    KirtoWindow* Main() { return desktop_.MainWindow(); }
+
+    void Send(uint32 command) { Main()->Messenger().SendMessage(command); }
+
+    void Open(const std::string& animation) {
+        BMessage open(kirto::kOpenFile);
+        open.AddRef("refs", entry_ref(animation));
+        application_.PostMessage(open);
+        WaitUntil([this] { return Main()->Shown().file_name != "untitled"; });
+    }
+
+    void Grab(QWidget& window, const std::string& name) {
+        const QString path = QString::fromStdString(folder_ + "/" + name + ".png");
+        if (window.grab().save(path)) return;
+        std::fprintf(stderr, "kirto-pictures: %s can't be written.\n", qPrintable(path));
+        ++failures_;
+    }
+
+    QWidget* OpenWindow(uint32 command, const QString& title) {
+        Send(command);
+        WaitUntil([&] { return WindowTitled(title) != nullptr; });
+        QWidget* window = WindowTitled(title);
+        if (window) return window;
+        std::fprintf(stderr, "kirto-pictures: there is no window \"%s\".\n", qPrintable(title));
+        ++failures_;
+        return nullptr;
+    }
+
+    void GrabDialog(uint32 command, const QString& title, const std::string& name) {
+        QWidget* window = OpenWindow(command, title);
+        if (!window) return;
+        Grab(*window, name);
+        window->close();
+        SettleFor(kSettle);
+    }
+
+    void GrabPreferences() {
+        QWidget* window = OpenWindow(kirto::kMenuPreferences, "Preferences");
+        if (!window) return;
+        auto* tabs = window->findChild<QTabWidget*>();
+        for (int i = 0; tabs && i < tabs->count(); ++i) {
+            tabs->setCurrentIndex(i);
+            SettleFor(kSettle);
+            Grab(*window, "preferences-" + tabs->tabText(i).toLower().toStdString());
+        }
+        window->close();
+    }
+
+    const std::string folder_;
+    int failures_ = 0;
+    Prefs prefs_{Prefs::BuiltIn{}};
+    kirto::QtTranslatorRoster roster_;
+    kirto::QtDesktop desktop_{roster_};
+    Kirto application_;
+    std::thread loop_;
+};
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", qEnvironmentVariable("QT_QPA_PLATFORM", "offscreen").toLocal8Bit());
+    QApplication application(argc, argv);
+    QApplication::setApplicationDisplayName("Kirto");
+    if (argc < 3) {
+        std::fprintf(stderr, "usage: kirto-pictures FOLDER ANIMATION [dark]\n");
+        return 2;
+    }
+    if (argc > 3 && std::string(argv[3]) == "dark") {
+        QApplication::setStyle(QStyleFactory::create("Fusion"));
+        QApplication::setPalette(DarkPalette());
+    }
+    Pictures pictures(argv[1]);
+    pictures.DrawAll(argv[2]);
+    return pictures.Failures() == 0 ? 0 : 1;
+}
