@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <algorithm>
+#include <utility>
 
 namespace kirto {
 
@@ -46,7 +47,8 @@ void GuiPort::Close() {
     {
         const std::lock_guard lock(mutex_);
         open_ = false;
-        queue_.clear();
+        commands_.clear();
+        refreshes_.clear();
         waker_.reset();
     }
     frame_timer_.stop();
@@ -65,53 +67,60 @@ status_t GuiPort::Post(BMessage message, handler_token) {
     const std::lock_guard lock(mutex_);
     if (!open_) return B_NOT_ALLOWED;
     if (IsRefresh(message.what)) {
-        std::erase_if(queue_, [&](const BMessage& queued) { return queued.what == message.what; });
+        std::erase_if(refreshes_,
+                      [&](const BMessage& queued) { return queued.what == message.what; });
+        refreshes_.push_back(std::move(message));
+    } else {
+        commands_.push_back(std::move(message));
     }
-    queue_.push_back(std::move(message));
-    if (!wake_posted_) {
-        wake_posted_ = true;
-        QCoreApplication::postEvent(waker_.get(), new QEvent(QEvent::User));
-    }
+    CallGuiThread();
     return B_OK;
 }
 
+void GuiPort::CallGuiThread() {
+    if (wake_posted_) return;
+    wake_posted_ = true;
+    QCoreApplication::postEvent(waker_.get(), new QEvent(QEvent::User));
+}
+
 void GuiPort::Wake() {
-    bool only_refreshes = false;
+    bool commands_wait = false;
+    bool refreshes_wait = false;
     {
         const std::lock_guard lock(mutex_);
         wake_posted_ = false;
-        only_refreshes = std::all_of(queue_.begin(), queue_.end(), [this](const BMessage& queued) {
-            return IsRefresh(queued.what);
-        });
+        commands_wait = !delivering_ && !commands_.empty();
+        refreshes_wait = !refreshes_.empty();
     }
-    const qint64 elapsed = since_delivery_.isValid() ? since_delivery_.elapsed() : 1000;
-    if (only_refreshes && elapsed < kDisplayFrameMilliseconds) {
+    const qint64 elapsed =
+        since_delivery_.isValid() ? since_delivery_.elapsed() : kDisplayFrameMilliseconds;
+    if (commands_wait || (refreshes_wait && elapsed >= kDisplayFrameMilliseconds)) {
+        DeliverAll();
+    } else if (refreshes_wait) {
         frame_timer_.start(static_cast<int>(kDisplayFrameMilliseconds - elapsed));
-        return;
     }
-    DeliverAll();
 }
 
 bool GuiPort::TakeNext(BMessage* message) {
     const std::lock_guard lock(mutex_);
-    if (queue_.empty()) return false;
-    *message = std::move(queue_.front());
-    queue_.pop_front();
+    const bool take_command = !delivering_ && !commands_.empty();
+    std::deque<BMessage>& queue = take_command ? commands_ : refreshes_;
+    if (queue.empty()) return false;
+    *message = std::move(queue.front());
+    queue.pop_front();
+    // An event loop of the receiver's own is to hear of what is left.
+    if (!refreshes_.empty()) CallGuiThread();
     return true;
 }
 
 void GuiPort::DeliverAll() {
     // The receiver may close the port, or drop the last reference to it.
     const std::shared_ptr<GuiPort> self = shared_from_this();
-    // What comes in meanwhile waits for its own turn, or a busy sender would keep the thread here.
-    size_t waiting = 0;
-    {
-        const std::lock_guard lock(mutex_);
-        waiting = queue_.size();
-    }
     BMessage message;
-    while (waiting-- > 0 && TakeNext(&message)) {
+    while (TakeNext(&message)) {
+        const bool outer = std::exchange(delivering_, true);
         receiver_(&message);
+        delivering_ = outer;
     }
     since_delivery_.start();
 }

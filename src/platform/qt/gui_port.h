@@ -16,8 +16,13 @@ namespace kirto {
 // Delivers messages on the GUI thread, in order. Posting is safe from any thread and never waits.
 //
 // Refresh commands say only that something is to be shown again, so of several that wait with the
-// same code the last alone is delivered; and while nothing else waits, they are delivered at most
-// once a display frame. A thousand refreshes cost one.
+// same code the last alone is delivered, in its place among the refreshes; and while nothing else
+// waits, they are delivered at most once a display frame. A thousand refreshes cost one.
+//
+// Every other command comes before the refreshes that wait: what the user has just put into a
+// control is read before something older is shown there. While a command is being handled the next
+// one waits, also when the receiver runs an event loop of its own, for a question to the user;
+// refreshes go on.
 class GuiPort : public MessagePort, public std::enable_shared_from_this<GuiPort> {
   public:
     using Receiver = std::function<void(BMessage*)>;
@@ -38,6 +43,8 @@ class GuiPort : public MessagePort, public std::enable_shared_from_this<GuiPort>
 
     GuiPort(Receiver receiver, std::vector<uint32> refresh_codes);
     bool IsRefresh(uint32 code) const;
+    // The caller holds mutex_ and the port is open.
+    void CallGuiThread();
     // GUI thread: delivers what waits, now or when the display frame is over.
     void Wake();
     void DeliverAll();
@@ -45,10 +52,12 @@ class GuiPort : public MessagePort, public std::enable_shared_from_this<GuiPort>
 
     const std::vector<uint32> refresh_codes_;
     mutable std::mutex mutex_;
-    std::deque<BMessage> queue_;  // guarded by mutex_, like the flags
+    std::deque<BMessage> commands_;  // guarded by mutex_, like the next three
+    std::deque<BMessage> refreshes_;
     bool open_ = true;
     bool wake_posted_ = false;
     Receiver receiver_;  // the GUI thread's, like what follows
+    bool delivering_ = false;
     std::unique_ptr<Waker> waker_;
     QTimer frame_timer_;
     QElapsedTimer since_delivery_;
