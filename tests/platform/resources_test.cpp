@@ -293,8 +293,10 @@ TEST(BResources, RefusesNamesWithoutTheirTerminator) {
 }
 
 TEST(BResources, RefusesATypeWithoutItsEnd) {
-    ExpectRefused(WithInfoTable([](Bytes* blocks) { blocks->resize(blocks->size() - 8); }));
-    ExpectRefused(WithInfoTable([](Bytes* blocks) { blocks->resize(blocks->size() - 4); }));
+    ExpectRefused(
+        WithInfoTable([](Bytes* blocks) { blocks->erase(blocks->end() - 8, blocks->end()); }));
+    ExpectRefused(
+        WithInfoTable([](Bytes* blocks) { blocks->erase(blocks->end() - 4, blocks->end()); }));
     ExpectRefused(WithInfoTable([](Bytes* blocks) { SetWord(blocks, kTextEnd + 4, 0xFFFFFFFE); }));
     ExpectRefused(WithInfoTable([](Bytes* blocks) { blocks->push_back(0); }));
 }

@@ -20,7 +20,7 @@ constexpr int32 kIconId = 101;
 // A version record: five numbers and two texts with a terminating zero.
 constexpr size_t kVersionShort = 64;
 constexpr size_t kVersionLong = 256;
-constexpr size_t kVersionRecord = 5 * 4 + kVersionShort + kVersionLong;
+constexpr size_t kVersionRecord = size_t{5} * 4 + kVersionShort + kVersionLong;
 
 void PutNumber(std::vector<uint8>* bytes, uint32 value) {
     for (int shift = 0; shift < 32; shift += 8)

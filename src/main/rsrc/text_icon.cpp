@@ -81,7 +81,7 @@ std::optional<std::vector<uint8>> ReadTextIcon(std::string_view text, int32 side
     }
     Legend legend;
     if (!ReadLegend(lines, *colors, &legend)) {
-        *error = "a colour that is neither \"X c #RRGGBB\" nor \"X c None\"";
+        *error = R"(a colour that is neither "X c #RRGGBB" nor "X c None")";
         return std::nullopt;
     }
     std::vector<uint8> pixels;
