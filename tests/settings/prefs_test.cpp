@@ -725,5 +725,109 @@ TEST_F(PrefsTest, TextThatDoesNotFitIsRefusedAndChangesNothing) {
     EXPECT_EQ(prefs.misc_windowdimensions, BRect(100, 80, 649, 479));
 }
 
+// Settings of which none has its built-in value.
+Prefs OtherSettings() {
+    Prefs prefs{Prefs::BuiltIn{}};
+    for (const std::string& key : kKeysInOrder) {
+        std::string reason;
+        if (!prefs.SetFromText(key, "false", &reason) && !prefs.SetFromText(key, "7", &reason)) {
+            prefs.SetFromText(key, "1,2,3,4", &reason);
+        }
+    }
+    for (bool Prefs::*member : {&Prefs::global_pauseinseconds, &Prefs::palette_usetransparent,
+                                &Prefs::palette_dither, &Prefs::animation_gifinterlaced}) {
+        prefs.*member = true;
+    }
+    return prefs;
+}
+
+BMessage MessageOf(const Prefs& prefs) {
+    BMessage message;
+    prefs.AddTo(&message);
+    return message;
+}
+
+TEST(PrefsMessage, HasAFieldForEveryKeyInOrder) {
+    const BMessage message = MessageOf(Prefs(Prefs::BuiltIn{}));
+
+    std::vector<std::string> keys;
+    for (int32 i = 0; i < message.CountNames(); ++i)
+        keys.emplace_back(message.NameAt(i));
+    EXPECT_EQ(keys, kKeysInOrder);
+}
+
+TEST(PrefsMessage, HasAFieldOfEachTypeWithTheSettingsValue) {
+    Prefs prefs{Prefs::BuiltIn{}};
+    prefs.global_width = 7;
+    prefs.global_useloop = false;
+    prefs.global_pauselength = 2.5;
+    prefs.palette_filename = "some.gif";
+    prefs.misc_windowdimensions = BRect(1, 2, 3, 4);
+
+    const BMessage message = MessageOf(prefs);
+
+    int32 number = 0;
+    bool flag = true;
+    double real = 0;
+    std::string text;
+    BRect rect;
+    EXPECT_EQ(message.FindInt32("global_width", &number), B_OK);
+    EXPECT_EQ(message.FindBool("global_useloop", &flag), B_OK);
+    EXPECT_EQ(message.FindDouble("global_pauselength", &real), B_OK);
+    EXPECT_EQ(message.FindString("palette_filename", &text), B_OK);
+    EXPECT_EQ(message.FindRect("misc_windowdimensions", &rect), B_OK);
+    EXPECT_EQ(number, 7);
+    EXPECT_FALSE(flag);
+    EXPECT_EQ(real, 2.5);
+    EXPECT_EQ(text, "some.gif");
+    EXPECT_EQ(rect, BRect(1, 2, 3, 4));
+}
+
+TEST(PrefsMessage, CarriesEverySettingOver) {
+    const Prefs other = OtherSettings();
+    Prefs prefs{Prefs::BuiltIn{}};
+    const BMessage built_in = MessageOf(prefs);
+
+    prefs.TakeFrom(MessageOf(other));
+
+    EXPECT_EQ(MessageOf(prefs), MessageOf(other));
+    for (const std::string& key : kKeysInOrder) {
+        std::string_view before;
+        std::string_view after;
+        type_code type = 0;
+        int32 count = 0;
+        ASSERT_EQ(built_in.GetInfo(key, &type, &count), B_OK) << key;
+        const BMessage taken = MessageOf(prefs);
+        ASSERT_EQ(built_in.FindData(key, type, 0, &before), B_OK) << key;
+        ASSERT_EQ(taken.FindData(key, type, 0, &after), B_OK) << key;
+        EXPECT_NE(before, after) << key;
+    }
+}
+
+TEST(PrefsMessage, LeavesAloneWhatItLacksOrHasInAnotherType) {
+    Prefs prefs{Prefs::BuiltIn{}};
+    const BMessage before = MessageOf(prefs);
+    BMessage message;
+    message.AddString("global_width", "7");
+    message.AddInt32("global_usepause", 0);
+    message.AddInt32("unknown", 1);
+
+    prefs.TakeFrom(message);
+
+    EXPECT_EQ(MessageOf(prefs), before);
+}
+
+TEST(PrefsMessage, LeavesWhatIsKeptBesidesTheSettings) {
+    Prefs other{Prefs::BuiltIn{}};
+    Prefs prefs{Prefs::BuiltIn{}};
+    prefs.failed = true;
+    prefs.damaged_copy = "/copy";
+
+    prefs.TakeFrom(MessageOf(other));
+
+    EXPECT_TRUE(prefs.failed);
+    EXPECT_EQ(prefs.damaged_copy, "/copy");
+}
+
 }  // namespace
 }  // namespace kirto::test
