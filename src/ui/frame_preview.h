@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QWidget>
+#include <functional>
+#include <memory>
+
+#include "ui/document_snapshot.h"
+#include "ui/thumbnail_cache.h"
+
+namespace kirto {
+
+// One picture, scaled to fit. GUI thread.
+class FramePreview : public QWidget {
+  public:
+    // scaled: called with the scale in per cent whenever it may have become another one.
+    explicit FramePreview(std::function<void(int32 percent)> scaled, QWidget* parent = nullptr);
+
+    // Shows the frame; null shows none. draw_transparent: as PicturePainter's.
+    void ShowFrame(const FrameSnapshot* frame, bool draw_transparent);
+    // Where the picture stands, in the widget's coordinates; invalid without one.
+    BRect PictureArea() const;
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+  private:
+    void ReportScale();
+
+    const std::function<void(int32)> scaled_;
+    FrameSnapshot frame_;
+    bool draw_transparent_ = true;
+    ThumbnailCache cache_;
+};
+
+}  // namespace kirto
