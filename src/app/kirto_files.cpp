@@ -190,14 +190,10 @@ bool Kirto::SaveSequence(uint32 translator) {
     if (format == 0) {
         kirto::DebugLine("Kirto::SaveSequence() - Desired format is 0, this is not good\n");
     }
-    const size_t dot = std::min(file_name.find('.'), file_name.size());
-    const std::string base = file_name.substr(0, dot);
-    const std::string extension = file_name.substr(dot);
     const kirto::ReaderScope reader(*this);
     for (const Frame* frame = first_frame; frame; frame = frame->next) {
         if (StopRequested()) return false;
-        const std::string name =
-            kirto::Format("%s%04d%s", base.c_str(), frame->index, extension.c_str());
+        const std::string name = kirto::SequenceFileName(file_name, frame->index);
         if (!WriteSequenceFile(*frame, Join(file_directory, name), translator, format)) {
             return false;
         }

@@ -1,9 +1,11 @@
 #include "app/save_animation.h"
 
+#include <algorithm>
 #include <memory>
 
 #include "formats/gif_save.h"
 #include "platform/file.h"
+#include "platform/text.h"
 
 namespace kirto {
 
@@ -17,6 +19,11 @@ SaveResult Encode(AnimationDocument& document, const std::shared_ptr<BFile>& fil
 }
 
 }  // namespace
+
+std::string SequenceFileName(const std::string& file_name, int32 index) {
+    const size_t dot = std::min(file_name.find('.'), file_name.size());
+    return file_name.substr(0, dot) + Format("%04d", index) + file_name.substr(dot);
+}
 
 SaveResult SaveAnimatedGif(AnimationDocument& document, const std::string& path) {
     if (document.FrameLargerThanCanvas()) return SaveResult::kFrameTooLarge;

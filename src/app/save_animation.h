@@ -7,6 +7,10 @@
 
 namespace kirto {
 
+// The name of one image file of a sequence that is saved as file_name: the number goes before the
+// first dot, "anim.png" gives "anim0007.png".
+std::string SequenceFileName(const std::string& file_name, int32 index);
+
 enum class SaveResult {
     kSaved,
     kFrameTooLarge,   // a frame is larger than the canvas; nothing was written
