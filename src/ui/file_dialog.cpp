@@ -1,0 +1,55 @@
+#include "ui/file_dialog.h"
+
+#include <QAbstractItemView>
+#include <QFileInfo>
+#include <QGridLayout>
+#include <QLineEdit>
+
+#include "ui/filter_proxy.h"
+
+namespace kirto {
+
+FileDialog::FileDialog(QWidget* parent) : QFileDialog(parent) {
+    // The desktop's own dialog has no room for more controls.
+    setOption(QFileDialog::DontUseNativeDialog);
+    setOption(QFileDialog::DontConfirmOverwrite);
+    setWindowModality(Qt::WindowModal);
+    // A filter of types is none that the user may choose.
+    for (const char* name : {"fileTypeLabel", "fileTypeCombo"}) {
+        if (auto* widget = findChild<QWidget*>(name)) widget->hide();
+    }
+}
+
+void FileDialog::SetFilter(std::unique_ptr<BRefFilter> filter) {
+    proxy_ = new FilterProxy(std::move(filter));
+    setProxyModel(proxy_);
+}
+
+void FileDialog::SetReplaceCheck(std::function<bool(const QString& path)> may_write) {
+    may_write_ = std::move(may_write);
+}
+
+void FileDialog::AddRow(QWidget* controls) {
+    auto* grid = static_cast<QGridLayout*>(layout());
+    grid->addWidget(controls, grid->rowCount(), 0, 1, grid->columnCount());
+}
+
+void FileDialog::Restart(const QString& name) {
+    if (proxy_) proxy_->ForgetTypes();
+    for (auto* view : findChildren<QAbstractItemView*>()) {
+        if (view->selectionModel()) view->selectionModel()->clear();
+    }
+    auto* field = findChild<QLineEdit*>("fileNameEdit");
+    field->setText(name);
+    field->setFocus();
+}
+
+void FileDialog::accept() {
+    const QStringList files = selectedFiles();
+    // A folder is entered, not written to.
+    const bool writes = may_write_ && !files.isEmpty() && !QFileInfo(files.front()).isDir();
+    if (writes && !may_write_(files.front())) return;
+    QFileDialog::accept();
+}
+
+}  // namespace kirto

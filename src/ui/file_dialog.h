@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QFileDialog>
+#include <functional>
+#include <memory>
+
+#include "ui/ref_filter.h"
+
+class QLineEdit;
+
+namespace kirto {
+
+class FilterProxy;
+
+// The toolkit's file dialog, with room for controls of our own, a filter of our own and our own
+// question before a file is replaced. GUI thread.
+class FileDialog : public QFileDialog {
+  public:
+    // parent: the window that can't be used meanwhile; null for none.
+    explicit FileDialog(QWidget* parent);
+
+    // Shows only the entries that the filter offers. What is typed is taken all the same.
+    void SetFilter(std::unique_ptr<BRefFilter> filter);
+    // Asked when a place to save to has been chosen, with its path; false leaves the dialog open.
+    void SetReplaceCheck(std::function<bool(const QString& path)> may_write);
+    // Puts the controls into a row below the field for the name.
+    void AddRow(QWidget* controls);
+    // Starts over in the same folder, with the text in the field for the name.
+    void Restart(const QString& name);
+
+    void accept() override;
+
+  private:
+    FilterProxy* proxy_ = nullptr;
+    std::function<bool(const QString& path)> may_write_;
+};
+
+}  // namespace kirto

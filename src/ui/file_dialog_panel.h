@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QPointer>
+#include <QStringList>
+#include <QWidget>
+
+#include "app/file_panel.h"
+#include "platform/message.h"
+#include "platform/messenger.h"
+#include "ui/file_dialog.h"
+
+namespace kirto {
+
+// What the file panels have in common: a dialog that is made when it is first shown and that keeps
+// its folder from then on, and what it tells the application. Threads as for FilePanel.
+class FileDialogPanel : public FilePanel {
+  public:
+    ~FileDialogPanel() override;
+
+    void SetTitle(const std::string& title) override;
+    void SetSaveText(const std::string& text) override;
+    void Show() override;
+
+    // The dialog; null before it is first shown, and once its parent is gone. GUI thread.
+    FileDialog* Dialog() const { return dialog_; }
+
+  protected:
+    // target: the application. parent: the window that can't be used while the dialog is shown.
+    FileDialogPanel(std::string title, BMessenger target, QPointer<QWidget> parent);
+
+    // Sets a new dialog up.
+    virtual void Prepare(FileDialog& dialog) = 0;
+    // The command for the files that were chosen, at least one, by their absolute paths.
+    virtual BMessage CommandFor(const QStringList& files) const = 0;
+
+    void SendToTarget(const BMessage& message) const { target_.SendMessage(message); }
+
+  private:
+    void MakeDialog();
+    // The dialog has been closed, with files chosen or not.
+    void Finish(bool chosen);
+
+    std::string title_;
+    BMessenger target_;
+    QPointer<QWidget> parent_;
+    std::string save_text_;
+    QString directory_;  // where the dialog was left; empty before
+    QPointer<FileDialog> dialog_;
+};
+
+}  // namespace kirto
