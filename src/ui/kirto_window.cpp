@@ -10,7 +10,6 @@
 #include <QStackedWidget>
 #include <QVBoxLayout>
 #include <algorithm>
-#include <cmath>
 
 #include "document/command_codes.h"
 #include "document/document_scope.h"
@@ -121,8 +120,7 @@ void KirtoWindow::ArrangePanels() {
 }
 
 void KirtoWindow::Place(const BRect& frame) {
-    QRect place(std::lround(frame.left), std::lround(frame.top), frame.PixelWidth(),
-                frame.PixelHeight());
+    QRect place(qRound(frame.left), qRound(frame.top), frame.PixelWidth(), frame.PixelHeight());
     place.setSize(place.size().expandedTo(minimumSize()));
     // The screen where the window was last may be gone.
     const bool visible = std::any_of(
@@ -212,8 +210,8 @@ void KirtoWindow::SetThumbnailHeight(int32 height) {
 
 void KirtoWindow::ShowPreferences(const char* tab) {
     if (!preferences_window_) {
-        preferences_window_ = new PreferencesWindow(editor_, shown_.prefs, this);
-        preferences_window_->setAttribute(Qt::WA_DeleteOnClose);
+        preferences_window_ =
+            new PreferencesWindow(editor_, shown_.prefs, this, [this] { return ScreenPlace(); });
         preferences_window_->Show();
     }
     if (tab) preferences_window_->ShowTab(tab);

@@ -101,11 +101,11 @@ void GuiPort::Wake() {
     }
 }
 
-bool GuiPort::TakeNext(BMessage* message) {
+bool GuiPort::TakeNext(BMessage* message, size_t* refreshes_left) {
     const std::lock_guard lock(mutex_);
     const bool take_command = !delivering_ && !commands_.empty();
+    if (!take_command && (refreshes_.empty() || (*refreshes_left)-- == 0)) return false;
     std::deque<BMessage>& queue = take_command ? commands_ : refreshes_;
-    if (queue.empty()) return false;
     *message = std::move(queue.front());
     queue.pop_front();
     // An event loop of the receiver's own is to hear of what is left.
@@ -116,8 +116,15 @@ bool GuiPort::TakeNext(BMessage* message) {
 void GuiPort::DeliverAll() {
     // The receiver may close the port, or drop the last reference to it.
     const std::shared_ptr<GuiPort> self = shared_from_this();
+    // Refreshes that come in meanwhile wait for their own turn, or a busy sender would keep the
+    // thread here.
+    size_t refreshes_left = 0;
+    {
+        const std::lock_guard lock(mutex_);
+        refreshes_left = refreshes_.size();
+    }
     BMessage message;
-    while (TakeNext(&message)) {
+    while (TakeNext(&message, &refreshes_left)) {
         const bool outer = std::exchange(delivering_, true);
         receiver_(&message);
         delivering_ = outer;

@@ -48,7 +48,8 @@ class GuiPort : public MessagePort, public std::enable_shared_from_this<GuiPort>
     // GUI thread: delivers what waits, now or when the display frame is over.
     void Wake();
     void DeliverAll();
-    bool TakeNext(BMessage* message);
+    // Counts down the refreshes that may still be taken; false when nothing more may be.
+    bool TakeNext(BMessage* message, size_t* refreshes_left);
 
     const std::vector<uint32> refresh_codes_;
     mutable std::mutex mutex_;
