@@ -25,6 +25,7 @@ void FitToNumbers(QLineEdit* field) {
     const QSize text(metrics.horizontalAdvance(kLongestNumber), metrics.height());
     const QSize frame = field->style()->sizeFromContents(QStyle::CT_LineEdit, &option, text, field);
     field->setFixedWidth(frame.width() + metrics.averageCharWidth());
+    field->setAlignment(Qt::AlignRight);
 }
 
 // Fills a grid, row by row: what labels fields in the first column, fields in the next.
