@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QLayout>
 #include <QMimeData>
 #include <QScreen>
 #include <QScrollArea>
@@ -51,7 +52,6 @@ KirtoWindow::KirtoWindow(BRect frame, const char* title, const kirto::Editor& ed
       port_(std::static_pointer_cast<kirto::GuiPort>(Port())) {
     setObjectName("KirtoWindow");
     setWindowTitle(QString::fromUtf8(title));
-    setMinimumSize(kMinimumWidth + 1, kMinimumHeight + 1);
     setAcceptDrops(true);
     retry_timer_.setSingleShot(true);
     retry_timer_.setInterval(kRetryMilliseconds);
@@ -61,6 +61,7 @@ KirtoWindow::KirtoWindow(BRect frame, const char* title, const kirto::Editor& ed
     setMenuBar(kirto::MakeMainMenu(this, [this](uint32 command) { ChooseCommand(command); }));
     MakePanels();
     ArrangePanels();
+    LimitSize();
     Place(frame);
     ShowMode(shown_.prefs.misc_preferredmode == 1);
     ShowParts(kEverything & ~kTitle);
@@ -117,6 +118,12 @@ void KirtoWindow::ArrangePanels() {
     layout->addWidget(splitter_, 1);
     layout->addWidget(status_view_);
     setCentralWidget(content);
+}
+
+// No smaller than what the controls need in the desktop's font.
+void KirtoWindow::LimitSize() {
+    setMinimumSize(
+        QSize(kMinimumWidth + 1, kMinimumHeight + 1).expandedTo(layout()->totalMinimumSize()));
 }
 
 void KirtoWindow::Place(const BRect& frame) {
@@ -291,6 +298,13 @@ void KirtoWindow::resizeEvent(QResizeEvent* event) {
     if (!thumbnail_view_) return;
     frame_list_view_->UpdateDisplay();
     thumbnail_view_->UpdateDisplay();
+}
+
+void KirtoWindow::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    const bool font_changed =
+        event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange;
+    if (font_changed && splitter_) LimitSize();
 }
 
 void KirtoWindow::dragEnterEvent(QDragEnterEvent* event) {

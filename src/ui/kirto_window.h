@@ -58,6 +58,7 @@ class KirtoWindow : public QMainWindow, public BWindow {
   protected:
     void closeEvent(QCloseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
 
@@ -71,6 +72,7 @@ class KirtoWindow : public QMainWindow, public BWindow {
     static const Command* CommandFor(uint32 code);
     void MakePanels();
     void ArrangePanels();
+    void LimitSize();
     void Place(const BRect& frame);
     void RememberSplitter();
 

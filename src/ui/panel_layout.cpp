@@ -10,16 +10,18 @@ namespace kirto {
 
 namespace {
 
-constexpr int kFieldCharacters = 9;
 constexpr int kRowSpacing = 4;  // pixels
+// Numbers are short mostly, and a field is as wide as they are at any font size; it holds the
+// longest whole number with two decimals, though.
+constexpr int kShownCharacters = 9;
+constexpr int kMostCharacters = 13;
 
-// Numbers are short: a field is as wide as what it may hold, at any font size.
 void SizeField(QWidget* widget) {
     auto* field = dynamic_cast<TextControl*>(widget);
     if (!field) return;
-    field->setMaxLength(kFieldCharacters);
+    field->setMaxLength(kMostCharacters);
     field->setAlignment(Qt::AlignRight);
-    field->setMinimumWidth(field->fontMetrics().horizontalAdvance("0") * (kFieldCharacters + 1));
+    field->setMinimumWidth(field->fontMetrics().horizontalAdvance("0") * (kShownCharacters + 1));
 }
 
 }  // namespace
@@ -52,6 +54,7 @@ void PanelLayout::AddWide(QWidget* widget) {
 
 void PanelLayout::AddPair(QWidget* left, QWidget* right) {
     auto* pair = new QHBoxLayout;
+    pair->setSpacing(4 * kRowSpacing);
     pair->addWidget(left);
     pair->addWidget(right);
     pair->addStretch();
