@@ -1,5 +1,6 @@
 // kirto-pictures: draws the editor's windows into PNG files, for the documents and for looking at.
-//   kirto-pictures FOLDER ANIMATION [dark]
+//   kirto-pictures FOLDER ANIMATION [dark] [large]
+// dark: in dark colours; large: with a font of twice the size.
 // Runs offscreen unless told otherwise; the toolkit's QT_SCALE_FACTOR gives sharper pictures.
 #include <QApplication>
 #include <QDialog>
@@ -11,6 +12,7 @@
 #include <functional>
 #include <string>
 #include <thread>
+#include <vector>
 
 #include "app/kirto.h"
 #include "document/command_codes.h"
@@ -149,12 +151,18 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setApplicationDisplayName("Kirto");
     if (argc < 3) {
-        std::fprintf(stderr, "usage: kirto-pictures FOLDER ANIMATION [dark]\n");
+        std::fprintf(stderr, "usage: kirto-pictures FOLDER ANIMATION [dark] [large]\n");
         return 2;
     }
-    if (argc > 3 && std::string(argv[3]) == "dark") {
-        QApplication::setStyle(QStyleFactory::create("Fusion"));
-        QApplication::setPalette(DarkPalette());
+    for (const std::string& wish : std::vector<std::string>(argv + 3, argv + argc)) {
+        if (wish == "dark") {
+            QApplication::setStyle(QStyleFactory::create("Fusion"));
+            QApplication::setPalette(DarkPalette());
+        } else if (wish == "large") {
+            QFont font = QApplication::font();
+            font.setPointSizeF(2 * font.pointSizeF());
+            QApplication::setFont(font);
+        }
     }
     Pictures pictures(argv[1]);
     pictures.DrawAll(argv[2]);
