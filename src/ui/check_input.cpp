@@ -68,8 +68,9 @@ Number CheckBounds(TextControl& control, Number min, Number max, Number no_bound
     if (!complaint.empty()) {
         BAlert("", subject + complaint + Shown(value) + ".", "OK").Go();
     }
-    control.SetText(QString::fromStdString(Shown(value)));
-    return value;
+    const std::string shown = Shown(value);
+    control.SetText(QString::fromStdString(shown));
+    return LeadingNumber(shown, Number());
 }
 
 }  // namespace

@@ -15,7 +15,7 @@ inline constexpr double kNoUpperBoundReal = -1.0;
 // follows the number is dropped, an empty field becomes 0, and past a bound an alert tells the user
 // ("Width can't be less than 0.") and the bound holds. subject: what the alert calls the field.
 int32 CheckInput(TextControl& control, int32 min, int32 max, const std::string& subject);
-// The same with two decimals.
+// The same with two decimals; further ones are rounded away.
 double CheckInput(TextControl& control, double min, double max, const std::string& subject);
 
 }  // namespace kirto
