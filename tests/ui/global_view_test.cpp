@@ -1,12 +1,12 @@
 #include "ui/global_view.h"
 
-#include "ui/panel_fixture.h"
+#include "ui/view_fixture.h"
 
 namespace kirto::test {
 
 namespace {
 
-class GlobalViewTest : public PanelFixture {
+class GlobalViewTest : public ViewFixture {
   protected:
     GlobalView panel{shown, window};
 };

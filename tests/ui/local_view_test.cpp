@@ -2,7 +2,7 @@
 
 #include <QAbstractItemView>
 
-#include "ui/panel_fixture.h"
+#include "ui/view_fixture.h"
 
 namespace kirto::test {
 
@@ -10,7 +10,7 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-class LocalViewTest : public PanelFixture {
+class LocalViewTest : public ViewFixture {
   protected:
     Frame& AddFrame() {
         return *AppendFrame(document, PictureOf(2, 1, {0xFF000001, 0xFF000002}), "frame0000");

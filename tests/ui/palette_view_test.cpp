@@ -2,7 +2,7 @@
 
 #include <QAbstractItemView>
 
-#include "ui/panel_fixture.h"
+#include "ui/view_fixture.h"
 
 namespace kirto::test {
 
@@ -10,7 +10,7 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-class PaletteViewTest : public PanelFixture {
+class PaletteViewTest : public ViewFixture {
   protected:
     void ShowMode(int32 mode) {
         document.global_palette->mode = mode;

@@ -1,51 +1,64 @@
-// A panel's surroundings: a document, the copy of it that is shown, and a recorded window.
+// File panels shown over a window, with a folder of files and a recorded application.
 #pragma once
 
-#include <QAbstractButton>
-#include <QComboBox>
+#include <QPointer>
+#include <QPushButton>
+#include <QWidget>
 #include <gtest/gtest.h>
 #include <memory>
 #include <string>
 #include <vector>
 
-#include "document/command_codes.h"
-#include "framework/qt/text_control.h"
+#include "app/file_panel.h"
+#include "support/fake_roster.h"
 #include "support/test_support.h"
-#include "ui/document_snapshot.h"
+#include "ui/file_dialog.h"
+#include "ui/file_dialog_panel.h"
+
+class QLineEdit;
 
 namespace kirto::test {
 
-class PanelFixture : public ::testing::Test {
-  protected:
-    // Takes the document as it is now.
-    void Take() { ASSERT_TRUE(shown.Take(document)); }
+// Knows writers of several kinds besides the fake ones.
+class WriterRoster : public FakeRoster {
+  public:
+    static constexpr translator_id kPng = 3;
+    static constexpr translator_id kTwoFormats = 4;
+    static constexpr translator_id kGone = 5;  // listed, but nobody knows its name
 
-    // The command that the control sends when the user changes it.
-    std::string CommandOf(QAbstractButton& button) {
-        button.setEnabled(true);
-        button.click();
-        return port->TakeTranscript();
-    }
-    std::string CommandOf(TextControl& field) {
-        field.setModified(true);
-        field.Commit();
-        return port->TakeTranscript();
-    }
-    // The items with their commands: "label awfn".
-    std::vector<std::string> ItemsOf(QComboBox& menu) {
-        std::vector<std::string> items;
-        for (int item = 0; item < menu.count(); ++item) {
-            emit menu.activated(item);
-            items.push_back(menu.itemText(item).toStdString() + " " + port->TakeTranscript());
-        }
-        return items;
-    }
+    bool no_translators = false;
 
-    DocumentFixture fixture;
-    AnimationDocument& document = fixture.document;
-    DocumentSnapshot shown;
-    std::shared_ptr<PortRecorder> port = std::make_shared<PortRecorder>();
-    BMessenger window{port};
+    std::vector<translator_id> Translators() const override;
+    bool GetTranslatorInfo(translator_id translator, std::string* name) const override;
+    std::vector<translation_format> OutputFormats(translator_id translator) const override;
+    BMessage DefaultSettings(translator_id translator) const override;
+};
+
+struct PanelTest : ::testing::Test {
+    void Make(FilePanelKind kind);
+    // Makes the panel and shows it in the folder.
+    void Show(FilePanelKind kind);
+    void AddFile(const std::string& name, const std::string& content = {}) const;
+
+    FileDialog* Dialog() const;
+    QLineEdit* NameField() const;
+    QPushButton* AcceptButton() const;
+    // The names that the dialog lists, of which there are that many.
+    std::string Offered(int count) const;
+    void Choose(const QString& name) const;
+
+    // The message of that number that the application was sent.
+    BMessage Sent(size_t number) const;
+    static std::vector<std::string> Refs(const BMessage& message);
+    // True for the panel's own notice that it closed.
+    bool IsClosing(const BMessage& message) const;
+
+    TemporaryFolder folder;
+    std::shared_ptr<PortRecorder> application = std::make_shared<PortRecorder>();
+    WriterRoster roster;
+    std::unique_ptr<QWidget> parent = std::make_unique<QWidget>();
+    std::unique_ptr<FilePanel> panel;
+    int preferences_shown = 0;
 };
 
 }  // namespace kirto::test

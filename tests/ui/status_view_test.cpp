@@ -1,12 +1,12 @@
 #include "ui/status_view.h"
 
-#include "ui/panel_fixture.h"
+#include "ui/view_fixture.h"
 
 namespace kirto::test {
 
 namespace {
 
-class StatusViewTest : public PanelFixture {
+class StatusViewTest : public ViewFixture {
   protected:
     void AddFrames(int32 count) {
         for (int32 i = 0; i < count; ++i)
