@@ -15,6 +15,8 @@
 #include "document/command_codes.h"
 #include "document/document_scope.h"
 #include "platform/alert.h"
+#include "ui/file_urls.h"
+#include "ui/frame_drag.h"
 #include "ui/frame_list.h"
 #include "ui/frame_list_view.h"
 #include "ui/global_view.h"
@@ -55,7 +57,9 @@ KirtoWindow::KirtoWindow(BRect frame, const char* title, const kirto::Editor& ed
     setAcceptDrops(true);
     retry_timer_.setSingleShot(true);
     retry_timer_.setInterval(kRetryMilliseconds);
-    connect(&retry_timer_, &QTimer::timeout, this, [this] { Refresh(0); });
+    // By way of the port: what the user has put into a control is read first.
+    connect(&retry_timer_, &QTimer::timeout, this,
+            [this] { Messenger().SendMessage(kirto::kUpdateFramesNoStatus); });
 
     shown_.Take(editor_.document);
     setMenuBar(kirto::MakeMainMenu(this, [this](uint32 command) { ChooseCommand(command); }));
@@ -78,7 +82,11 @@ void KirtoWindow::MakePanels() {
     status_view_ = new StatusView(shown_);
     local_view_ = new LocalView(shown_, window);
     frame_list_view_ = new FrameListView(shown_, window);
-    thumbnail_view_ = new ThumbnailView(shown_, editor_, window);
+    // Thumbnails select by way of the window, so that an edit of the frame that was current goes
+    // before them.
+    kirto::Editor editor = editor_;
+    editor.application = window;
+    thumbnail_view_ = new ThumbnailView(shown_, editor, window);
 }
 
 // The panels in a column at the left that scrolls when the window is low, the frames in all the
@@ -308,15 +316,16 @@ void KirtoWindow::changeEvent(QEvent* event) {
 }
 
 void KirtoWindow::dragEnterEvent(QDragEnterEvent* event) {
-    if (event->mimeData()->hasUrls()) event->acceptProposedAction();
+    if (!event->mimeData()->hasUrls() || kirto::BeganInKirto(*event->mimeData())) return;
+    // The files stay where they are, whatever the other program proposes.
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
 }
 
 void KirtoWindow::dropEvent(QDropEvent* event) {
     BMessage drop(B_SIMPLE_DATA);
-    for (const QUrl& url : event->mimeData()->urls()) {
-        const QByteArray path = url.toLocalFile().toLocal8Bit();
-        if (!path.isEmpty()) drop.AddRef("refs", entry_ref(path.toStdString()));
-    }
-    event->acceptProposedAction();
-    if (drop.HasField("refs")) Messenger().SendMessage(drop);
+    const bool has_files = kirto::AddRefs(*event->mimeData(), &drop);
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    if (has_files) Messenger().SendMessage(drop);
 }

@@ -86,6 +86,7 @@ class KirtoWindow : public QMainWindow, public BWindow {
     void ResumePending();
     void ApplyPreset();
     void SaveOrAsk();
+    void ShowSavePanel();
     void StartNew();
     void OpenAnother();
     void ShowMode(bool frame_list);
@@ -114,6 +115,7 @@ class KirtoWindow : public QMainWindow, public BWindow {
     void Insert(BMessage* message);
     void InsertTiled(BMessage* message);
     void FadeEffects(BMessage* message);
+    void Forward(BMessage* message);
     void ForwardEdit(BMessage* message);
     void GlobalNumber(BMessage* message);
     void GlobalPauseLength(BMessage* message);

@@ -80,6 +80,7 @@ const KirtoWindow::Command* KirtoWindow::CommandFor(uint32 code) {
         {kirto::kThumbnailCurrentFull, &KirtoWindow::PresetThumbnails},
         {kirto::kThumbnailPreset, &KirtoWindow::PresetThumbnails},
         {kirto::kFrameListSelection, &KirtoWindow::SelectInList},
+        {kirto::kSelectFrame, &KirtoWindow::Forward},
     };
     for (const Command& command : kCommands) {
         if (command.code == code) return &command;
@@ -173,14 +174,17 @@ void KirtoWindow::Save(BMessage*) {
 
 void KirtoWindow::SaveOrAsk() {
     if (shown_.file_name == "untitled") {
-        SaveAs(nullptr);
+        ShowSavePanel();
     } else {
         PostToApplication(BMessage(kirto::kSaveAgain));
     }
 }
 
 void KirtoWindow::SaveAs(BMessage*) {
-    if (shown_.frames.empty()) return;
+    if (!shown_.frames.empty()) ShowSavePanel();
+}
+
+void KirtoWindow::ShowSavePanel() {
     kirto::FilePanel* panel = editor_.panels.GetPanel(kirto::FilePanelKind::kSave);
     panel->SetSaveText("");
     panel->Show();
@@ -226,6 +230,10 @@ void KirtoWindow::FadeEffects(BMessage*) {
     if (!shown_.CurrentFrame()) return;
     auto* window = new FadeWindow(editor_.application, this);
     window->show();
+}
+
+void KirtoWindow::Forward(BMessage* message) {
+    PostToApplication(*message);
 }
 
 void KirtoWindow::ForwardEdit(BMessage* message) {
