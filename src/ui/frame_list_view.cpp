@@ -18,7 +18,8 @@ FrameListView::FrameListView(const kirto::DocumentSnapshot& shown, BMessenger wi
     : QWidget(parent), shown_(shown) {
     setObjectName("FrameListView");
     list_ = new FrameList(window, this);
-    list_->setFixedWidth(kStripWidth);
+    list_->setMaximumWidth(kStripWidth);
+    list_->setMinimumWidth(kStripWidth / 2);
     setFocusProxy(list_);
     auto* layout = new QHBoxLayout(this);
     layout->addLayout(MakeStrip(window));
@@ -55,6 +56,8 @@ QLayout* FrameListView::MakeButtons(const BMessenger& window) {
 
 QLayout* FrameListView::MakePreview() {
     title_ = kirto::MakeLabel("Title", "Preview: 100%", this);
+    // Its end may be cut before the list is.
+    title_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     preview_ = new kirto::FramePreview(
         [this](int32 percent) { kirto::ShowText(*title_, QString("Preview: %1%").arg(percent)); },
         this);

@@ -13,15 +13,13 @@ namespace {
 constexpr int kRowSpacing = 4;  // pixels
 // Numbers are short mostly, and a field is as wide as they are at any font size; it holds the
 // longest whole number with two decimals, though.
-constexpr int kShownCharacters = 9;
+constexpr int kShownCharacters = 6;
 constexpr int kMostCharacters = 13;
 
-void SizeField(QWidget* widget) {
-    auto* field = dynamic_cast<TextControl*>(widget);
-    if (!field) return;
-    field->setMaxLength(kMostCharacters);
-    field->setAlignment(Qt::AlignRight);
-    field->setMinimumWidth(field->fontMetrics().horizontalAdvance("0") * (kShownCharacters + 1));
+void SizeField(TextControl& field) {
+    field.setMaxLength(kMostCharacters);
+    field.setAlignment(Qt::AlignRight);
+    field.setMinimumWidth(field.fontMetrics().horizontalAdvance("0") * (kShownCharacters + 1));
 }
 
 }  // namespace
@@ -35,17 +33,28 @@ void PanelLayout::AddField(const QString& label_text, QWidget* field) {
     auto* label = new QLabel(label_text, parentWidget());
     label->setBuddy(field);
     field->setAccessibleName(label_text);
-    SizeField(field);
-    const int row = rowCount();
-    addWidget(label, row, 0);
-    addWidget(field, row, 1);
+    AddRow(label, field);
 }
 
 void PanelLayout::AddField(QAbstractButton* box, QWidget* field) {
-    SizeField(field);
+    AddRow(box, field);
+}
+
+// Numbers stand below each other. A menu takes what its texts need, and must not make the numbers'
+// column as wide.
+void PanelLayout::AddRow(QWidget* left, QWidget* field) {
     const int row = rowCount();
-    addWidget(box, row, 0);
-    addWidget(field, row, 1);
+    if (auto* number = dynamic_cast<TextControl*>(field)) {
+        SizeField(*number);
+        addWidget(left, row, 0);
+        addWidget(field, row, 1);
+        return;
+    }
+    auto* pair = new QHBoxLayout;
+    pair->setSpacing(2 * kRowSpacing);
+    pair->addWidget(left);
+    pair->addWidget(field, 1);
+    addLayout(pair, row, 0, 1, 2);
 }
 
 void PanelLayout::AddWide(QWidget* widget) {

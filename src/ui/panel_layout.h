@@ -22,6 +22,9 @@ class PanelLayout : public QGridLayout {
     void AddPair(QWidget* left, QWidget* right);
     // Sets what follows apart from what came before.
     void AddGap();
+
+  private:
+    void AddRow(QWidget* left, QWidget* field);
 };
 
 }  // namespace kirto

@@ -36,8 +36,7 @@ std::unique_ptr<QMessageBox> MakeDialog(const BAlert& alert, QWidget* parent) {
     auto box = std::make_unique<QMessageBox>(parent);
     box->setObjectName("Alert");
     box->setIcon(IconOf(alert.Type()));
-    box->setWindowTitle(alert.Title().empty() ? QApplication::applicationDisplayName()
-                                              : QString::fromStdString(alert.Title()));
+    box->setWindowTitle(alert.Title().empty() ? "Kirto" : QString::fromStdString(alert.Title()));
     box->setTextFormat(Qt::PlainText);
     box->setText(QString::fromStdString(alert.Text()));
     for (const std::string& label : alert.Buttons()) {

@@ -1,11 +1,13 @@
 #include "ui/thumbnail_view.h"
 
 #include <QAbstractItemView>
-#include <QGridLayout>
+#include <QHBoxLayout>
 #include <QSignalBlocker>
+#include <QVBoxLayout>
 
 #include "document/command_codes.h"
 #include "ui/controls.h"
+#include "ui/folding_row.h"
 #include "ui/thumb_drawing_view.h"
 
 namespace {
@@ -54,14 +56,16 @@ void ThumbnailView::MakeControls(const BMessenger& window) {
     menu->setToolTip("Take the thumbnails' height from a frame");
     menu_label->setBuddy(menu);
 
-    auto* layout = new QGridLayout(this);
-    layout->addWidget(drawing_view_->parentWidget()->parentWidget(), 0, 0, 1, 4);
-    layout->addWidget(height_label_, 1, 0);
-    layout->addWidget(slider_, 1, 1);
-    layout->addWidget(menu_label, 1, 2);
-    layout->addWidget(menu, 1, 3);
-    layout->setRowStretch(0, 1);
-    layout->setColumnStretch(1, 1);
+    auto* height = new QHBoxLayout;
+    height->addWidget(height_label_);
+    height->addWidget(slider_, 1);
+    slider_->setMinimumWidth(slider_->sizeHint().width());
+    auto* preset = new QHBoxLayout;
+    preset->addWidget(menu_label);
+    preset->addWidget(menu, 1);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(drawing_view_->parentWidget()->parentWidget(), 1);
+    layout->addWidget(new kirto::FoldingRow(height, preset, this));
     // The slider keeps its place while the number beside it grows.
     const QString widest = HeightText(8888);
     height_label_->setMinimumWidth(height_label_->fontMetrics().horizontalAdvance(widest));

@@ -70,6 +70,7 @@ class Pictures {
     }
 
     void DrawAll(const std::string& animation) {
+        SettleFor(kSettle);
         Grab(*Main(), "empty");
         Main()->resize(900, 640);
         Open(animation);
@@ -149,7 +150,6 @@ class Pictures {
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", qEnvironmentVariable("QT_QPA_PLATFORM", "offscreen").toLocal8Bit());
     QApplication application(argc, argv);
-    QApplication::setApplicationDisplayName("Kirto");
     if (argc < 3) {
         std::fprintf(stderr, "usage: kirto-pictures FOLDER ANIMATION [dark] [large]\n");
         return 2;

@@ -62,7 +62,6 @@ int main(int argc, char** argv) {
     // The application object takes over the user's locale; numbers stay as they are without it.
     std::setlocale(LC_NUMERIC, "C");
     QApplication::setApplicationName("kirto");
-    QApplication::setApplicationDisplayName("Kirto");
     QApplication::setApplicationVersion(KIRTO_VERSION);
     QApplication::setDesktopFileName("kirto");
     QApplication::setWindowIcon(QIcon(":/kirto.svg"));
