@@ -8,13 +8,9 @@
 #define STBI_NO_STDIO
 #define STBI_NO_HDR
 #define STBI_NO_LINEAR
-#define STB_IMAGE_WRITE_IMPLEMENTATION
-#define STB_IMAGE_WRITE_STATIC
-#define STBI_WRITE_NO_STDIO
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wunused-function"
 #include <stb/stb_image.h>
-#include <stb/stb_image_write.h>
 #pragma GCC diagnostic pop
 
 #include "platform/allocation.h"
@@ -25,10 +21,13 @@ namespace kirto {
 namespace {
 
 constexpr int64 kHeaderBytes = 18;
-constexpr int64 kDescriptorOffset = 17;
+constexpr uint8 kColor = 2;
+constexpr uint8 kPackedColor = 10;
 constexpr uint8 kAlphaBits = 8;
 constexpr uint8 kFromTheTop = 0x20;
 constexpr int32 kMaxSide = 65535;
+constexpr int32 kMaxPacket = 128;  // pixels
+constexpr int32 kRunPacket = 0x80;
 
 // What a header says about the bytes behind it.
 struct TargaLayout {
@@ -110,27 +109,54 @@ status_t Decode(const uint8* bytes, int64 size, const TargaLayout& layout, BBitm
     return B_OK;
 }
 
-void WriteBytes(void* context, void* data, int size) {
-    static_cast<BFile*>(context)->Write(data, static_cast<size_t>(size));
+// The two forms of a row's pixels in the file: blue, green, red and, with a fourth channel, alpha.
+// Each returns the end of what it wrote.
+uint8* PutPixels(const uint8* rgba, int32 count, int32 channels, uint8* out) {
+    for (int32 i = 0; i < count; ++i, rgba += 4) {
+        *out++ = rgba[2];
+        *out++ = rgba[1];
+        *out++ = rgba[0];
+        if (channels == 4) *out++ = rgba[3];
+    }
+    return out;
 }
 
-// Rows stand in the file from the top, as not every reader turns a picture over; the library writes
-// them so, but does not say it in the header.
-status_t SetRowOrder(bool with_alpha, BFile& destination) {
-    const uint8 descriptor = kFromTheTop | (with_alpha ? kAlphaBits : 0);
-    destination.Seek(kDescriptorOffset, SEEK_FROM_START);
-    destination.Write(&descriptor, 1);
-    destination.Seek(0, SEEK_FROM_END);
-    return destination.WriteStatus() == B_OK ? B_OK : B_IO_ERROR;
+// How many pixels from the first on are alike, at most count.
+int32 RunLength(const uint8* rgba, int32 count, int32 channels) {
+    int32 length = 1;
+    while (length < count && std::equal(rgba, rgba + channels, rgba + int64{length} * 4))
+        ++length;
+    return length;
 }
 
-// The pixels without their alpha; null when memory is short.
-AllocatedArray<uint8> WithoutAlpha(const uint8* rgba, size_t pixels) {
-    AllocatedArray<uint8> rgb = AllocateArray<uint8>(pixels * 3);
-    if (!rgb) return nullptr;
-    for (size_t i = 0; i < pixels; ++i)
-        std::copy_n(rgba + i * 4, 3, rgb.get() + i * 3);
-    return rgb;
+uint8* PutPackets(const uint8* rgba, int32 width, int32 channels, uint8* out) {
+    while (width > 0) {
+        const int32 most = std::min(width, kMaxPacket);
+        int32 count = RunLength(rgba, most, channels);
+        if (count > 1) {
+            *out++ = static_cast<uint8>(kRunPacket | (count - 1));
+            out = PutPixels(rgba, 1, channels, out);
+        } else {
+            while (count < most &&
+                   RunLength(rgba + int64{count} * 4, std::min(2, width - count), channels) == 1)
+                ++count;
+            *out++ = static_cast<uint8>(count - 1);
+            out = PutPixels(rgba, count, channels, out);
+        }
+        rgba += int64{count} * 4;
+        width -= count;
+    }
+    return out;
+}
+
+// Rows stand in the file from the top, as not every reader turns a picture over.
+void PutHeader(int32 width, int32 height, bool with_alpha, bool packed, uint8* header) {
+    std::fill_n(header, kHeaderBytes, uint8{0});
+    header[2] = packed ? kPackedColor : kColor;
+    WriteLittle16(header + 12, width);
+    WriteLittle16(header + 14, height);
+    header[16] = with_alpha ? 32 : 24;
+    header[17] = kFromTheTop | (with_alpha ? kAlphaBits : 0);
 }
 
 }  // namespace
@@ -159,20 +185,21 @@ status_t WriteTarga(const uint8* rgba, int32 width, int32 height, bool with_alph
                     BFile& destination) {
     const int64 pixels = int64{width} * height;
     if (width < 1 || height < 1 || width > kMaxSide || height > kMaxSide) return B_BAD_VALUE;
-    // The library counts bytes in 32 bits.
     if (pixels > INT32_MAX / 4) return B_BAD_VALUE;
-    AllocatedArray<uint8> rgb;
-    if (!with_alpha) {
-        rgb = WithoutAlpha(rgba, static_cast<size_t>(pixels));
-        if (!rgb) return B_NO_MEMORY;
+    const int32 channels = with_alpha ? 4 : 3;
+    const int32 packets = (width + kMaxPacket - 1) / kMaxPacket;
+    const auto row = AllocateArray<uint8>(static_cast<size_t>(int64{width} * channels + packets));
+    if (!row) return B_NO_MEMORY;
+    uint8 header[kHeaderBytes];
+    PutHeader(width, height, with_alpha, packed, header);
+    destination.Write(header, sizeof(header));
+    for (int32 y = 0; y < height && destination.WriteStatus() == B_OK; ++y) {
+        const uint8* pixels_of_row = rgba + int64{y} * width * 4;
+        const uint8* end = packed ? PutPackets(pixels_of_row, width, channels, row.get())
+                                  : PutPixels(pixels_of_row, width, channels, row.get());
+        destination.Write(row.get(), static_cast<size_t>(end - row.get()));
     }
-    stbi_write_tga_with_rle = packed ? 1 : 0;
-    stbi_flip_vertically_on_write(1);
-    const void* data = with_alpha ? rgba : rgb.get();
-    const int written =
-        stbi_write_tga_to_func(WriteBytes, &destination, width, height, with_alpha ? 4 : 3, data);
-    if (!written) return B_IO_ERROR;
-    return SetRowOrder(with_alpha, destination);
+    return destination.WriteStatus() == B_OK ? B_OK : B_IO_ERROR;
 }
 
 }  // namespace kirto

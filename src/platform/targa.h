@@ -1,4 +1,4 @@
-// Targa images, read and written through the stb libraries.
+// Targa images; the stb library reads them.
 #pragma once
 
 #include <memory>

@@ -23,7 +23,8 @@ struct translation_format {
 };
 
 // Turns image files into pictures and pictures into image files. One roster a process, owned by the
-// program's main function. Translate may be called from any thread, one call at a time.
+// program's main function. Any thread may read, one file at a time; any thread may write or ask
+// what there is, whatever others do at that time.
 class BTranslatorRoster {
   public:
     virtual ~BTranslatorRoster() = default;

@@ -1,7 +1,9 @@
 #include "platform/targa.h"
 
+#include <atomic>
 #include <gtest/gtest.h>
 #include <random>
+#include <thread>
 
 #include "support/test_support.h"
 
@@ -236,6 +238,35 @@ TEST(Targa, WritesRowsFromTheTopAndSaysSo) {
 
     EXPECT_EQ(plain, Header(kColor, 1, 2, 32, 0x28) + Bytes({1, 2, 3, 9, 4, 5, 6, 9}));
     EXPECT_EQ(packed, Header(kPacked, 1, 2, 24, 0x20) + Bytes({0, 1, 2, 3, 0, 4, 5, 6}));
+}
+
+TEST(Targa, PacksRunsAndKeepsWhatDiffersAsItStands) {
+    // Alpha alone tells pixels apart only where the file has it.
+    const Bytes rgba = {1, 1, 1, 9, 1, 1, 1, 8, 2, 2, 2, 9, 3, 3, 3, 9, 3, 3, 3, 9};
+
+    EXPECT_EQ(Written(rgba, 5, 1, false, true),
+              Header(kPacked, 5, 1, 24, 0x20) + Bytes({0x81, 1, 1, 1, 0, 2, 2, 2, 0x81, 3, 3, 3}));
+    EXPECT_EQ(Written(rgba, 5, 1, true, true),
+              Header(kPacked, 5, 1, 32, 0x28) +
+                  Bytes({2, 1, 1, 1, 9, 1, 1, 1, 8, 2, 2, 2, 9, 0x81, 3, 3, 3, 9}));
+}
+
+TEST(Targa, WritesOnSeveralThreadsAtOnce) {
+    const Bytes rgba = RandomRuns(300 * 20, 3);
+    const Bytes packed = Written(rgba, 300, 20, true, true);
+    const Bytes plain = Written(rgba, 300, 20, false, false);
+    std::vector<std::thread> threads;
+    std::atomic<int> failures = 0;
+    for (int thread = 0; thread < 4; ++thread) {
+        threads.emplace_back([&, pack = thread % 2 == 0] {
+            for (int i = 0; i < 50; ++i)
+                failures += Written(rgba, 300, 20, pack, pack) != (pack ? packed : plain);
+        });
+    }
+    for (std::thread& thread : threads)
+        thread.join();
+
+    EXPECT_EQ(failures, 0);
 }
 
 TEST(Targa, DoesNotWriteSidesThatItsHeaderCanNotHold) {

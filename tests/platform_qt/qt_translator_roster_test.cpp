@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 #include <QLibraryInfo>
 #include <algorithm>
+#include <thread>
 
 #include "platform_qt/roster_fixture.h"
 
@@ -286,6 +287,22 @@ TEST_F(QtTranslatorRosterTest, TellsThatAFileCanNotBeWritten) {
         EXPECT_NE(roster_.Translate(*picture, id, formats.back().type, {}, file), B_OK)
             << formats.back().name;
         EXPECT_NE(file.WriteStatus(), B_OK) << formats.back().name;
+    }
+}
+
+TEST_F(QtTranslatorRosterTest, WritesWhileAnotherThreadReads) {
+    const auto picture = PictureOf(3, 2, kSeeThrough);
+    for (const char* extension : {"png", "tga"}) {
+        const Bytes bytes = Write(extension, *picture);
+        int32 whole_readings = 0;
+        std::thread reader([&] {
+            for (int i = 0; i < 50; ++i)
+                whole_readings += Read(bytes).Argb() == kSeeThrough;
+        });
+        for (int i = 0; i < 50; ++i)
+            EXPECT_EQ(Write(extension, *picture), bytes);
+        reader.join();
+        EXPECT_EQ(whole_readings, 50);
     }
 }
 

@@ -9,8 +9,7 @@
 namespace kirto {
 
 // The image formats of Qt's installed plugins, one translator a format, and Targa. Pictures are
-// refused by their size before they are decoded. Needs a QGuiApplication while it is used;
-// Translate may be called from any thread, one call at a time.
+// refused by their size before they are decoded. Needs a QGuiApplication while it is used.
 class QtTranslatorRoster : public BTranslatorRoster {
   public:
     status_t Translate(BFile& source, std::shared_ptr<PixelBudget> budget,
