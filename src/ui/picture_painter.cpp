@@ -27,9 +27,9 @@ QColor Blend(const QPalette& palette, int text_percent) {
 QBrush Backdrop(const QPalette& palette, bool checkerboard) {
     if (!checkerboard) return Blend(palette, 25);
     QImage squares(2 * kSquare, 2 * kSquare, QImage::Format_RGB32);
-    squares.fill(Blend(palette, 4));
+    squares.fill(Blend(palette, 3));
     QPainter painter(&squares);
-    const QColor dark = Blend(palette, 16);
+    const QColor dark = Blend(palette, 12);
     painter.fillRect(0, 0, kSquare, kSquare, dark);
     painter.fillRect(kSquare, kSquare, kSquare, kSquare, dark);
     return QBrush(squares);
