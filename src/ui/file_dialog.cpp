@@ -1,6 +1,7 @@
 #include "ui/file_dialog.h"
 
 #include <QAbstractItemView>
+#include <QDir>
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QLineEdit>
@@ -45,11 +46,18 @@ void FileDialog::Restart(const QString& name) {
 }
 
 void FileDialog::accept() {
-    const QStringList files = selectedFiles();
-    // A folder is entered, not written to.
-    const bool writes = may_write_ && !files.isEmpty() && !QFileInfo(files.front()).isDir();
-    if (writes && !may_write_(files.front())) return;
+    if (may_write_ && (EntersFolder() || !may_write_(selectedFiles().value(0)))) return;
     QFileDialog::accept();
+}
+
+// The toolkit would take a folder's name for one that lacks its extension.
+bool FileDialog::EntersFolder() {
+    auto* field = findChild<QLineEdit*>("fileNameEdit");
+    const QFileInfo typed(directory(), field->text());
+    if (field->text().isEmpty() || !typed.isDir()) return false;
+    setDirectory(typed.absoluteFilePath());
+    field->clear();
+    return true;
 }
 
 }  // namespace kirto

@@ -31,6 +31,9 @@ class FileDialog : public QFileDialog {
     void accept() override;
 
   private:
+    // Shows the folder that is typed in the place of a name; false where none is.
+    bool EntersFolder();
+
     FilterProxy* proxy_ = nullptr;
     std::function<bool(const QString& path)> may_write_;
 };

@@ -11,6 +11,7 @@ FilterProxy::FilterProxy(std::unique_ptr<BRefFilter> filter) : filter_(std::move
 
 void FilterProxy::ForgetTypes() {
     types_.clear();
+    invalidateFilter();
 }
 
 void FilterProxy::sort(int column, Qt::SortOrder order) {

@@ -15,7 +15,7 @@ class FilterProxy : public QSortFilterProxyModel {
   public:
     explicit FilterProxy(std::unique_ptr<BRefFilter> filter);
 
-    // The files may have become others: their types are looked up again when next they are needed.
+    // Looks the types up again, as the files may have become others.
     void ForgetTypes();
     // Sorts the model behind, which knows folders, sizes and dates.
     void sort(int column, Qt::SortOrder order) override;
