@@ -60,15 +60,6 @@ void OfferDirectSave(const std::string& file_name) {
     xcb_flush(connection);
 }
 
-void WithdrawDirectSave() {
-    xcb_connection_t* connection = Connection();
-    if (!connection) return;
-    const xcb_window_t window = SourceWindow(connection);
-    if (window == XCB_WINDOW_NONE) return;
-    xcb_delete_property(connection, window, Atom(connection, kDirectSaveType));
-    xcb_flush(connection);
-}
-
 std::optional<std::string> DirectSavePath() {
     xcb_connection_t* connection = Connection();
     if (!connection) return std::nullopt;

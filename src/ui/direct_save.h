@@ -15,11 +15,9 @@ inline constexpr char kDirectSaveFailed[] = "E";
 // True where windows speak X.
 bool IsDirectSavePossible();
 
-// Offers the file name to targets. Called when the drag has begun.
+// Offers the file name to targets. Called when the drag has begun. The offer stands until the next
+// one, as targets take it up after the drop.
 void OfferDirectSave(const std::string& file_name);
-
-// Takes the offer back. Called when the drag is over.
-void WithdrawDirectSave();
 
 // The path of the file that the target asks for; nothing when it names none on this machine.
 std::optional<std::string> DirectSavePath();

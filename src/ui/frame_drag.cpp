@@ -82,7 +82,6 @@ void RunFrameDrag(QWidget* source, std::unique_ptr<FrameDrag> data, const QImage
     // The source window is known only once the drag has begun.
     QTimer::singleShot(0, drag, [file_name] { OfferDirectSave(file_name); });
     drag->exec(Qt::CopyAction);
-    WithdrawDirectSave();
 }
 
 }  // namespace kirto
