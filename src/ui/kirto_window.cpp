@@ -138,9 +138,10 @@ void KirtoWindow::Place(const BRect& frame) {
     QRect place(qRound(frame.left), qRound(frame.top), frame.PixelWidth(), frame.PixelHeight());
     place.setSize(place.size().expandedTo(minimumSize()));
     // The screen where the window was last may be gone.
-    const bool visible = std::any_of(
-        QGuiApplication::screens().begin(), QGuiApplication::screens().end(),
-        [&](const QScreen* screen) { return screen->availableGeometry().intersects(place); });
+    const QList<QScreen*> screens = QGuiApplication::screens();
+    const bool visible = std::any_of(screens.begin(), screens.end(), [&](const QScreen* screen) {
+        return screen->availableGeometry().intersects(place);
+    });
     if (!visible) {
         const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
         place.setSize(place.size().boundedTo(screen.size()));
