@@ -1,0 +1,303 @@
+#include "ui/kirto_window.h"
+
+#include <QGroupBox>
+#include <QMenuBar>
+#include <QProgressBar>
+#include <QScreen>
+#include <QSlider>
+#include <thread>
+
+#include "document/document_scope.h"
+#include "ui/frame_list.h"
+#include "ui/kirto_window_fixture.h"
+
+namespace kirto::test {
+
+namespace {
+
+// What the window looks like, and how it follows the document.
+class KirtoWindowTest : public KirtoWindowFixture {
+  protected:
+    QString WidthText() { return Find<TextControl>("Width").text(); }
+    bool IsEnabled(const QString& label) {
+        for (const QAction* menu : window->menuBar()->actions()) {
+            for (const QAction* item : menu->menu()->actions()) {
+                if (item->text().remove('&') == label) return item->isEnabled();
+            }
+        }
+        ADD_FAILURE() << "no " << label.toStdString();
+        return false;
+    }
+};
+
+TEST_F(KirtoWindowTest, HasTheTitleItIsGivenUntilTheApplicationSaysOtherwise) {
+    document.file_name = "some.gif";
+    Open();
+    EXPECT_EQ(window->windowTitle(), "Kirto - untitled");
+
+    Do(kUpdateAll);
+
+    EXPECT_EQ(window->windowTitle(), "Kirto - some.gif");
+}
+
+TEST_F(KirtoWindowTest, HasItsMenusAndPanels) {
+    Open();
+
+    EXPECT_EQ(window->objectName(), "KirtoWindow");
+    for (const char* name : {"MenuBar", "GlobalView", "PaletteView", "StatusView", "LocalView",
+                             "FrameListView", "ThumbnailView"}) {
+        EXPECT_NE(window->findChild<QWidget*>(name), nullptr) << name;
+    }
+    EXPECT_EQ(window->PendingCommand(), 0u);
+    EXPECT_EQ(Posted(), "");
+}
+
+TEST_F(KirtoWindowTest, StandsWhereItIsTold) {
+    Open(BRect(50, 60, 749, 659));
+
+    EXPECT_EQ(window->geometry(), QRect(50, 60, 700, 600));
+    EXPECT_EQ(window->ScreenPlace(), BRect(50, 60, 749, 659));
+}
+
+TEST_F(KirtoWindowTest, IsAtLeast550By400Pixels) {
+    Open(BRect(0, 0, 99, 99));
+
+    EXPECT_GE(window->width(), 550);
+    EXPECT_GE(window->height(), 400);
+    window->resize(10, 10);
+    EXPECT_GE(window->width(), 550);
+    EXPECT_GE(window->height(), 400);
+}
+
+TEST_F(KirtoWindowTest, StandsInTheMiddleOfTheScreenWhenItsPlaceIsOnNone) {
+    Open(BRect(5000, 5000, 5599, 5499));
+
+    const QRect screen = window->screen()->availableGeometry();
+    EXPECT_TRUE(screen.contains(window->geometry().center()));
+}
+
+TEST_F(KirtoWindowTest, KnowsItsPlaceWhileItFillsTheScreen) {
+    Open(BRect(50, 60, 749, 659));
+    const BRect place = window->ScreenPlace();
+
+    window->showMaximized();
+    HandleEvents();
+
+    EXPECT_EQ(window->ScreenPlace(), place);
+}
+
+TEST_F(KirtoWindowTest, ShowsTheDocumentAsSoonAsItOpens) {
+    AddFrame();
+    document.global_width = 77;
+    document.modified = true;
+
+    Open();
+
+    EXPECT_EQ(WidthText(), "77");
+    EXPECT_EQ(Find<QLabel>("FrameName").text(), "frame0");
+    EXPECT_EQ(Find<QListWidget>("FrameList").count(), 1);
+    EXPECT_EQ(StatusText(), "Status: 1 frame(s), modified");
+}
+
+TEST_F(KirtoWindowTest, ShowsEverythingOnAuda) {
+    Open();
+    document.file_name = "some.gif";
+    document.global_width = 77;
+    document.global_palette->dither = true;
+    AddFrame();
+
+    Do(kUpdateAll);
+
+    EXPECT_EQ(window->windowTitle(), "Kirto - some.gif");
+    EXPECT_EQ(WidthText(), "77");
+    EXPECT_TRUE(Find<QAbstractButton>("Dither").isChecked());
+    EXPECT_EQ(Find<QLabel>("FrameName").text(), "frame0");
+    EXPECT_EQ(Find<QListWidget>("FrameList").count(), 1);
+    EXPECT_EQ(StatusText(), "Status: 1 frame(s), unmodified");
+}
+
+TEST_F(KirtoWindowTest, ShowsEverythingWhenAnEditIsDone) {
+    Open();
+    document.global_width = 77;
+
+    Do(kEditDone);
+
+    EXPECT_EQ(WidthText(), "77");
+}
+
+TEST_F(KirtoWindowTest, ShowsFramesAndStatusOnAufr) {
+    Open();
+    document.file_name = "some.gif";
+    document.global_width = 77;
+    AddFrame();
+
+    Do(kUpdateFrames);
+
+    EXPECT_EQ(Find<QLabel>("FrameName").text(), "frame0");
+    EXPECT_EQ(Find<QListWidget>("FrameList").count(), 1);
+    EXPECT_EQ(StatusText(), "Status: 1 frame(s), unmodified");
+    EXPECT_EQ(window->windowTitle(), "Kirto - untitled");
+    EXPECT_NE(WidthText(), "77");
+}
+
+TEST_F(KirtoWindowTest, ShowsFramesAloneOnAuns) {
+    Open();
+    AddFrame();
+
+    Do(kUpdateFramesNoStatus);
+
+    EXPECT_EQ(Find<QLabel>("FrameName").text(), "frame0");
+    EXPECT_EQ(Find<QListWidget>("FrameList").count(), 1);
+    EXPECT_EQ(StatusText(), "Status: 0 frame(s), unmodified");
+}
+
+TEST_F(KirtoWindowTest, ShowsAStatusTextAndHowFarSomethingIs) {
+    Open();
+    BMessage status(kStatusUpdate);
+    status.AddString("text", "Status: saving frame 5 of 20...");
+
+    Do(status);
+
+    EXPECT_EQ(StatusText(), "Status: saving frame 5 of 20...");
+    EXPECT_TRUE(Find<QProgressBar>("Progress").isVisible());
+    Do(kStatusUpdate);
+    EXPECT_EQ(StatusText(), "Status: saving frame 5 of 20...") << "A message without a text.";
+}
+
+TEST_F(KirtoWindowTest, EnablesWhatNeedsAFrameOnlyWhenThereIsOne) {
+    Open();
+    EXPECT_FALSE(IsEnabled("Remove"));
+    EXPECT_TRUE(IsEnabled("Insert..."));
+
+    AddFrame();
+    Do(kUpdateFrames);
+    EXPECT_TRUE(IsEnabled("Remove"));
+
+    Do(kMenuNew);
+    EXPECT_FALSE(IsEnabled("Remove"));
+}
+
+TEST_F(KirtoWindowTest, ResetsAllPanelsToTheSettingsDefaults) {
+    prefs.global_width = 21;
+    AddFrame();
+    document.global_width = 77;
+    document.file_name = "some.gif";
+    Open();
+    Do(kUpdateAll);
+
+    window->ResetDisplay();
+
+    EXPECT_EQ(window->windowTitle(), "Kirto - untitled");
+    EXPECT_EQ(WidthText(), "21");
+    EXPECT_EQ(Find<QLabel>("FrameName").text(), "None");
+    EXPECT_EQ(Find<QListWidget>("FrameList").count(), 0);
+    EXPECT_EQ(StatusText(), "Status: 0 frame(s), unmodified");
+    window->UpdateDisplay();
+    EXPECT_EQ(WidthText(), "77");
+}
+
+TEST_F(KirtoWindowTest, KeepsWhatItShowsWhileTheDocumentIsChangedAndFollowsAfterwards) {
+    Open();
+    const QString before = WidthText();
+    {
+        const WriterScope writer(document);
+        document.global_width = 77;
+        document.file_name = "some.gif";
+        Do(kUpdateFramesNoStatus);
+        Do(kUpdateAll);
+        EXPECT_EQ(WidthText(), before);
+        EXPECT_EQ(window->windowTitle(), "Kirto - untitled");
+    }
+
+    EXPECT_TRUE(WaitFor([&] { return WidthText() == "77"; }));
+    EXPECT_EQ(window->windowTitle(), "Kirto - some.gif");
+}
+
+TEST_F(KirtoWindowTest, FollowsWithoutTheStatusLineWhereOnlyFramesChanged) {
+    Open();
+    BMessage status(kStatusUpdate);
+    status.AddString("text", "Status: loading frame 2...");
+    {
+        const WriterScope writer(document);
+        Do(kUpdateFramesNoStatus);
+    }
+    Do(status);
+    AddFrame();
+
+    EXPECT_TRUE(WaitFor([&] { return window->Shown().FrameCount() == 1; }));
+    EXPECT_EQ(StatusText(), "Status: loading frame 2...");
+}
+
+TEST_F(KirtoWindowTest, FollowsAWriterInAnotherThread) {
+    Open();
+    std::thread writer([this] {
+        for (int32 width = 1; width <= 200; ++width) {
+            {
+                const WriterScope inside(document);
+                document.global_width = width;
+            }
+            window->Messenger().SendMessage(kUpdateAll);
+        }
+    });
+
+    EXPECT_TRUE(WaitFor([&] { return WidthText() == "200"; }));
+    writer.join();
+}
+
+TEST_F(KirtoWindowTest, ANewDocumentIsNotOvertakenByARefreshThatWaited) {
+    document.file_name = "some.gif";
+    AddFrame();
+    Open();
+    {
+        const WriterScope writer(document);
+        Do(kUpdateAll);
+        window->ResetDisplay();
+    }
+
+    QTest::qWait(50);
+
+    EXPECT_EQ(window->windowTitle(), "Kirto - untitled");
+    EXPECT_EQ(window->Shown().FrameCount(), 0);
+}
+
+TEST_F(KirtoWindowTest, TakesSettingsOverThatChangedMeanwhile) {
+    Open();
+    {
+        const WriterScope writer(document);
+        prefs.thumbnail_minheight = 120;
+    }
+
+    Do(kUpdateAll);
+
+    EXPECT_EQ(Find<QSlider>("Slider").minimum(), 120);
+    EXPECT_EQ(Find<QSlider>("Slider").value(), 120);
+}
+
+TEST_F(KirtoWindowTest, LaysItsFramesOutForItsSize) {
+    for (int32 i = 0; i < 20; ++i)
+        AddFrame(100, 100);
+    Open(BRect(0, 0, 799, 599));
+    const QWidget& grid = Find<QWidget>("ThumbDrawingView");
+    const int before = grid.height();
+
+    window->resize(1600, 600);
+    HandleEvents();
+
+    EXPECT_LT(grid.height(), before) << "More thumbnails stand beside each other.";
+}
+
+TEST_F(KirtoWindowTest, IsReachedByNobodyOnceItIsGone) {
+    Open();
+    const BMessenger messenger = window->Messenger();
+    messenger.SendMessage(kUpdateAll);
+
+    window.reset();
+    HandleEvents();
+
+    EXPECT_FALSE(messenger.IsValid());
+    EXPECT_EQ(messenger.SendMessage(kUpdateAll), B_NOT_ALLOWED);
+}
+
+}  // namespace
+
+}  // namespace kirto::test
