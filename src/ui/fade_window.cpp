@@ -19,6 +19,7 @@ namespace {
 
 constexpr int kMinWidth = 350;   // pixels
 constexpr int kMinHeight = 135;  // pixels
+constexpr int kCountDigits = 8;  // that the field shows
 constexpr int32 kMinCount = 1;
 constexpr int32 kMaxCount = 100;
 
@@ -65,6 +66,7 @@ void FadeWindow::MakeControls() {
     mode_->setToolTip("What the new frames blend the current frame with");
     frame_count_ = kirto::MakeField("FrameCount", kirto::kFadeCount, Messenger(), panel);
     frame_count_->setText("1");
+    frame_count_->setFixedWidth(kCountDigits * frame_count_->fontMetrics().horizontalAdvance("0"));
     frame_count_->setToolTip("The number of new frames, from 1 to 100");
     frame_count_->installEventFilter(this);
     color_ = new RTColorControl("ColorControl", panel);

@@ -32,7 +32,15 @@ void FileDialog::SetReplaceCheck(std::function<bool(const QString& path)> may_wr
 
 void FileDialog::AddRow(QWidget* controls) {
     auto* grid = static_cast<QGridLayout*>(layout());
-    grid->addWidget(controls, grid->rowCount(), 0, 1, grid->columnCount());
+    int row = grid->rowCount();
+    int column = 0;
+    int rows = 1;
+    int columns = grid->columnCount();
+    // The choice of types has left its place beside the buttons.
+    const int place = grid->indexOf(findChild<QWidget*>("fileTypeCombo"));
+    if (place >= 0) grid->getItemPosition(place, &row, &column, &rows, &columns);
+    grid->addWidget(controls, row, 0, 1, column + columns);
+    resize(width(), height() + controls->sizeHint().height());
 }
 
 void FileDialog::Restart(const QString& name) {

@@ -23,7 +23,7 @@ class FileDialog : public QFileDialog {
     void SetFilter(std::unique_ptr<BRefFilter> filter);
     // Asked when a place to save to has been chosen, with its path; false leaves the dialog open.
     void SetReplaceCheck(std::function<bool(const QString& path)> may_write);
-    // Puts the controls into a row below the field for the name.
+    // Puts the controls below the field for the name, and makes room for them.
     void AddRow(QWidget* controls);
     // Starts over in the same folder, with the text in the field for the name.
     void Restart(const QString& name);
