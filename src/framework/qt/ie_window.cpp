@@ -181,15 +181,17 @@ bool IEWindow::QuitRequested() {
 
 void IEWindow::UpdateAllViews(QWidget* parent) {
     for (QWidget* child : ChildrenOf(parent ? *parent : *this)) {
+        const bool is_parent = !ChildrenOf(*child).isEmpty();
         if (auto* handler = dynamic_cast<IEVariableHandler*>(child)) handler->UpdateView();
-        if (!ChildrenOf(*child).isEmpty()) UpdateAllViews(child);
+        if (is_parent) UpdateAllViews(child);
     }
 }
 
 void IEWindow::UpdateAllVariables(QWidget* parent) {
     for (QWidget* child : ChildrenOf(parent ? *parent : *this)) {
+        const bool is_parent = !ChildrenOf(*child).isEmpty();
         if (auto* handler = dynamic_cast<IEVariableHandler*>(child)) handler->UpdateVariable();
-        if (!ChildrenOf(*child).isEmpty()) UpdateAllVariables(child);
+        if (is_parent) UpdateAllVariables(child);
     }
 }
 
