@@ -225,10 +225,16 @@ void KirtoWindow::SetThumbnailHeight(int32 height) {
 }
 
 void KirtoWindow::ShowPreferences(const char* tab) {
+    // In front of the dialog that asks for them, which keeps other windows from being used.
+    QWidget* dialog = QApplication::activeModalWidget();
+    QWidget* parent = dialog ? dialog : this;
     if (!preferences_window_) {
         preferences_window_ =
-            new PreferencesWindow(editor_, shown_.prefs, this, [this] { return ScreenPlace(); });
+            new PreferencesWindow(editor_, shown_.prefs, parent, [this] { return ScreenPlace(); });
         preferences_window_->Show();
+    } else if (preferences_window_->parentWidget() != parent) {
+        preferences_window_->setParent(parent, preferences_window_->windowFlags());
+        preferences_window_->show();
     }
     if (tab) preferences_window_->ShowTab(tab);
     preferences_window_->raise();

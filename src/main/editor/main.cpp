@@ -1,6 +1,7 @@
 // kirto: the editor.
 #include <QApplication>
 #include <QIcon>
+#include <QTimer>
 #include <clocale>
 #include <csignal>
 #include <cstdio>
@@ -15,6 +16,8 @@
 #include "ui/qt_desktop.h"
 
 namespace {
+
+constexpr int kIconDelayMilliseconds = 100;
 
 BMessage RefsMessage(const std::vector<std::string>& files) {
     BMessage refs(B_REFS_RECEIVED);
@@ -64,7 +67,9 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName("kirto");
     QApplication::setApplicationVersion(KIRTO_VERSION);
     QApplication::setDesktopFileName("kirto");
-    QApplication::setWindowIcon(QIcon(":/kirto.svg"));
+    // Reading the drawing takes as long as the half of everything else; the window is there first.
+    QTimer::singleShot(kIconDelayMilliseconds, qApp,
+                       [] { QApplication::setWindowIcon(QIcon(":/kirto.svg")); });
     // The main window's closing is a request; the application decides.
     QApplication::setQuitOnLastWindowClosed(false);
     if (const auto status = kirto::ParseArguments(argc, argv, &arguments)) return *status;
