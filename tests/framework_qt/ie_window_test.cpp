@@ -1,22 +1,14 @@
 #include "framework/qt/ie_window.h"
 
-#include <QApplication>
-#include <QLabel>
-#include <QLayout>
-#include <QPointer>
 #include <QPushButton>
 #include <QScreen>
 #include <QTest>
-#include <cmath>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <limits>
 
-#include "framework/ie_variable_handler.h"
-#include "framework/recording_application.h"
-#include "framework/window_archive.h"
+#include "framework_qt/ie_window_fixture.h"
 #include "platform/resources_writer.h"
-#include "support/window_resources.h"
 
 namespace kirto::test {
 
@@ -26,22 +18,6 @@ using ::testing::IsEmpty;
 namespace {
 
 constexpr uint32 kPing = FourCharCode("ping");
-
-float SystemFontHeight() {
-    const QFontMetricsF metrics(QApplication::font());
-    return static_cast<float>(metrics.ascent() + metrics.descent());
-}
-
-// An archive that is drawn for the desktop's font, so that it isn't scaled.
-BMessage WindowArchive(BRect frame = {50, 60, 449, 359}) {
-    BMessage archive;
-    archive.AddString(kArchiveClass, "BWindow");
-    archive.AddString(kArchiveTitle, "A window");
-    archive.AddRect(kArchiveFrame, frame);
-    archive.AddInt32(kArchiveType, kTitledWindow);
-    archive.AddFloat(kArchiveFontHeight, SystemFontHeight());
-    return archive;
-}
 
 void AddLimits(BMessage* archive, float least_width, float most_width, float least_height,
                float most_height) {
@@ -61,67 +37,12 @@ BMessage ButtonArchive(const char* name, const std::string& label) {
     return button;
 }
 
-// Takes down what it handles.
-class TestWindow : public IEWindow {
-  public:
-    using IEWindow::IEWindow;
-
-    void MessageReceived(BMessage* message) override {
-        codes.push_back(CodeText(message->what));
-        IEWindow::MessageReceived(message);
-    }
-    bool QuitRequested() override { return IEWindow::QuitRequested() && agrees; }
-
-    std::vector<std::string> codes;
-    bool agrees = true;
-};
-
-// A view bound to a number, and its number as it stands in the program.
-class NumberView : public QWidget, public IEVariableHandler {
-  public:
-    NumberView(const char* name, QWidget* parent) : QWidget(parent) { setObjectName(name); }
-
-    void SetVariable(void* variable, const char* text) override {
-        variable_ = static_cast<int*>(variable);
-        setAccessibleName(text);
-    }
-    void UpdateView() override { shown = *variable_; }
-    void UpdateVariable() override { *variable_ = shown; }
-
-    int shown = 0;
-
-  private:
-    int none_ = 0;
-    int* variable_ = &none_;
-};
-
-struct IEWindowTest : testing::Test {
-    IEWindowTest() { Use({{"Window", WindowArchive()}}); }
-    ~IEWindowTest() override { delete window; }
-
-    void Use(const std::vector<WindowResources::Window>& windows) {
-        resources = std::make_unique<WindowResources>(windows, &app);
-    }
-    TestWindow& Open(const char* name = "Window") {
-        window = new TestWindow(name, resources->Handler());
-        return *window;
-    }
-    TestWindow& Open(const BMessage& archive) {
-        Use({{"Window", archive}});
-        return Open();
-    }
-    // What was posted to the application, which is over then.
-    std::vector<std::string> AppCodes() { return app.HandleAll(); }
-
-    RecordingApplication<BApplication> app{"application/x-test"};
-    std::unique_ptr<WindowResources> resources;
-    QPointer<TestWindow> window;
-};
-
 void HandleEvents() {
     QCoreApplication::processEvents();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
+
+class IEWindowTest : public IEWindowFixture {};
 
 }  // namespace
 
@@ -415,104 +336,6 @@ TEST_F(IEWindowTest, WindowsThatDependOnItAreAskedToQuitWithIt) {
     EXPECT_TRUE(dependant.isNull());
     EXPECT_FALSE(other.isNull());
     delete other;
-}
-
-TEST_F(IEWindowTest, ShowingItShowsTheVariablesOfAllViewsBoundToOne) {
-    Open();
-    auto* outer = new NumberView("outer", window);
-    auto* plain = new QWidget(outer);
-    auto* inner = new NumberView("inner", plain);
-    int one = 1, two = 2;
-    window->SetViewVariable("outer", &one, "First");
-    window->SetViewVariable("inner", &two, "Second");
-
-    window->Show();
-
-    EXPECT_TRUE(window->isVisible());
-    EXPECT_EQ(outer->shown, 1);
-    EXPECT_EQ(inner->shown, 2);
-    EXPECT_EQ(inner->accessibleName(), "Second");
-}
-
-TEST_F(IEWindowTest, TheWishToQuitStoresTheValuesOfAllViews) {
-    Open();
-    auto* outer = new NumberView("outer", window);
-    auto* inner = new NumberView("inner", new QWidget(outer));
-    int one = 1, two = 2;
-    window->SetViewVariable("outer", &one, "");
-    window->SetViewVariable("inner", &two, "");
-    outer->shown = 10;
-    inner->shown = 20;
-
-    EXPECT_TRUE(window->QuitRequested());
-
-    EXPECT_EQ(one, 10);
-    EXPECT_EQ(two, 20);
-}
-
-TEST_F(IEWindowTest, ViewsBelowAParentAreUpdatedWithoutTheOthers) {
-    Open();
-    auto* parent = new QWidget(window);
-    auto* inside = new NumberView("inside", parent);
-    auto* outside = new NumberView("outside", window);
-    int one = 1, two = 2;
-    window->SetViewVariable("inside", &one, "");
-    window->SetViewVariable("outside", &two, "");
-
-    window->UpdateAllViews(parent);
-    EXPECT_EQ(inside->shown, 1);
-    EXPECT_EQ(outside->shown, 0);
-
-    inside->shown = outside->shown = 7;
-    window->UpdateAllVariables(parent);
-    EXPECT_EQ(one, 7);
-    EXPECT_EQ(two, 2);
-}
-
-TEST_F(IEWindowTest, OneViewIsUpdatedByItsName) {
-    Open();
-    auto* first = new NumberView("first", window);
-    auto* second = new NumberView("second", window);
-    int one = 1, two = 2;
-    window->SetViewVariable("first", &one, "");
-    window->SetViewVariable("second", &two, "");
-
-    window->UpdateView("second");
-    EXPECT_EQ(first->shown, 0);
-    EXPECT_EQ(second->shown, 2);
-
-    second->shown = 5;
-    window->UpdateVariable("second");
-    EXPECT_EQ(one, 1);
-    EXPECT_EQ(two, 5);
-}
-
-TEST_F(IEWindowTest, ViewsThatAreBoundToNothingAreSkipped) {
-    Open();
-    auto* label = new QLabel("text", window);
-    label->setObjectName("label");
-    int number = 1;
-
-    window->SetViewVariable("label", &number, "");
-    window->UpdateView("label");
-    window->UpdateVariable("missing");
-    window->UpdateAllViews(nullptr);
-    window->UpdateAllVariables(nullptr);
-
-    EXPECT_EQ(label->text(), "text");
-    EXPECT_EQ(number, 1);
-}
-
-TEST_F(IEWindowTest, AWindowOfAWindowIsNoViewOfIt) {
-    Open();
-    auto* dialog = new QWidget(window, Qt::Window);
-    auto* inside = new NumberView("inside", dialog);
-    int one = 1;
-    inside->SetVariable(&one, "");
-
-    window->UpdateAllViews(nullptr);
-
-    EXPECT_EQ(inside->shown, 0);
 }
 
 }  // namespace kirto::test
