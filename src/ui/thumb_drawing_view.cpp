@@ -5,7 +5,6 @@
 #include <QPainterPath>
 #include <QToolTip>
 
-#include "document/command_codes.h"
 #include "platform/text.h"
 
 namespace {
