@@ -24,6 +24,8 @@ namespace {
 
 constexpr int kDeadline = 20000;  // milliseconds
 constexpr int kSettle = 150;      // milliseconds
+constexpr int32 kCurrentFrame = 3;
+constexpr int32 kThumbnailHeight = 96;
 
 void SettleFor(int milliseconds) {
     QElapsedTimer timer;
@@ -97,6 +99,11 @@ class Pictures {
         open.AddRef("refs", entry_ref(animation));
         application_.PostMessage(open);
         WaitUntil([this] { return Main()->Shown().file_name != "untitled"; });
+        BMessage select(kirto::kSelectFrame);
+        select.AddInt32("number", kCurrentFrame);
+        application_.PostMessage(select);
+        Main()->SetThumbnailHeight(kThumbnailHeight);
+        SettleFor(kSettle);
     }
 
     void Grab(QWidget& window, const std::string& name) {
