@@ -13,6 +13,8 @@ using translator_id = uint32;
 
 // The generic picture format that every translator reads into or writes from.
 inline constexpr uint32 B_TRANSLATOR_BITMAP = kirto::FourCharCode("bits");
+// Targa files.
+inline constexpr uint32 B_TGA_FORMAT = kirto::FourCharCode("TGA ");
 
 // One format that a translator reads or writes.
 struct translation_format {

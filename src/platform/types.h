@@ -94,4 +94,7 @@ inline constexpr uint32 B_QUIT_REQUESTED = kirto::FourCharCode("_QRQ");
 inline constexpr uint32 B_ABOUT_REQUESTED = kirto::FourCharCode("_ABR");
 inline constexpr uint32 B_CANCEL = kirto::FourCharCode("_CNC");
 inline constexpr uint32 B_SIMPLE_DATA = kirto::FourCharCode("DATA");
+// What the target of a drag asks the drag's beginner for: a file in the ref "directory", called by
+// the string "name".
+inline constexpr uint32 B_COPY_TARGET = kirto::FourCharCode("DDCP");
 inline constexpr uint32 B_REFS_RECEIVED = kirto::FourCharCode("_RRC");

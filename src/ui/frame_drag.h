@@ -13,10 +13,6 @@
 
 class QWidget;
 
-// What the target of a drag asks the drag's beginner for: a file in the ref "directory", called by
-// the string "name".
-inline constexpr uint32 B_COPY_TARGET = kirto::FourCharCode("DDCP");
-
 namespace kirto {
 
 // The data of a drag as a message, for Kirto alone.

@@ -9,7 +9,6 @@ namespace kirto {
 
 namespace {
 
-constexpr uint32 kTarga = FourCharCode("TGA ");
 constexpr char kEnding[] = ".tga";
 constexpr size_t kEndingLength = sizeof kEnding - 1;
 constexpr size_t kMaxFileName = 255;
@@ -26,7 +25,7 @@ bool HasEnding(const std::string& name) {
 translator_id TargaTranslator(const BTranslatorRoster& roster) {
     for (const translator_id translator : roster.Translators()) {
         for (const translation_format& format : roster.OutputFormats(translator)) {
-            if (format.type == kTarga) return translator;
+            if (format.type == B_TGA_FORMAT) return translator;
         }
     }
     return 0;
@@ -47,7 +46,7 @@ bool WriteTargaFile(const BBitmap& picture, const std::string& path, BTranslator
     const std::unique_ptr<BFile> file = BFile::CreateReplacing(path);
     if (file->InitCheck() != B_OK) return false;
     const BMessage settings = roster.DefaultSettings(translator);
-    if (roster.Translate(picture, translator, kTarga, settings, *file) != B_OK) return false;
+    if (roster.Translate(picture, translator, B_TGA_FORMAT, settings, *file) != B_OK) return false;
     file->SetMimeType("image/x-targa");
     return file->Commit() == B_OK;
 }

@@ -40,7 +40,7 @@ const std::vector<ImageFormat>& KnownImageFormats() {
          {FourCharCode("TIFF"), "image/tiff", "TIFF image", {"tiff", "tif"}},
          Flag("compression", true)},
         {5, "bmp", {FourCharCode("BMP "), "image/bmp", "BMP image", {"bmp"}}, {}},
-        {6, "", {FourCharCode("TGA "), "image/x-tga", "Targa image", {"tga"}}, Flag("rle", true)},
+        {6, "", {B_TGA_FORMAT, "image/x-tga", "Targa image", {"tga"}}, Flag("rle", true)},
         {7, "gif", {FourCharCode("GIF "), "image/gif", "GIF image", {"gif"}}, {}},
         {8, "svg", {FourCharCode("SVG "), "image/svg+xml", "SVG drawing", {"svg"}}, {}},
         {9,
