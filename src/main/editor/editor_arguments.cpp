@@ -36,10 +36,12 @@ std::optional<int> ParseArguments(int argc, const char* const* argv, EditorArgum
 }
 
 std::optional<int> ParseInformation(int argc, const char* const* argv) {
-    const char* const* found = std::find_if(argv + 1, argv + argc, [](std::string_view argument) {
+    // Behind two dashes there are only files.
+    const char* const* end = std::find(argv + 1, argv + argc, std::string_view("--"));
+    const char* const* found = std::find_if(argv + 1, end, [](std::string_view argument) {
         return argument == "--help" || argument == "--version";
     });
-    if (found == argv + argc) return std::nullopt;
+    if (found == end) return std::nullopt;
     const char* const asked[] = {argv[0], *found};
     EditorArguments arguments;
     return ParseArguments(2, asked, &arguments);
