@@ -4,7 +4,6 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QThread>
-#include <algorithm>
 #include <future>
 #include <memory>
 
@@ -26,6 +25,8 @@ QMessageBox::Icon IconOf(alert_type type) {
     }
 }
 
+constexpr const char* kIndex = "index";
+
 int32 LastButton(const BAlert& alert) {
     return static_cast<int32>(alert.Buttons().size()) - 1;
 }
@@ -43,6 +44,8 @@ std::unique_ptr<QMessageBox> MakeDialog(const BAlert& alert, QWidget* parent) {
         // The order of the buttons is the alert's, not one of the desktop's for roles.
         QPushButton* button =
             box->addButton(QString::fromStdString(label), QMessageBox::ActionRole);
+        // A desktop may put its mark into the text.
+        button->setProperty(kIndex, static_cast<int>(box->buttons().size()) - 1);
         if (label == "Cancel" || alert.Buttons().size() == 1) box->setEscapeButton(button);
         box->setDefaultButton(button);
     }
@@ -50,11 +53,8 @@ std::unique_ptr<QMessageBox> MakeDialog(const BAlert& alert, QWidget* parent) {
 }
 
 int32 ChosenButton(const QMessageBox& box, const BAlert& alert) {
-    const std::string text =
-        box.clickedButton() ? box.clickedButton()->text().remove('&').toStdString() : "";
-    const auto& labels = alert.Buttons();
-    const auto found = std::find(labels.begin(), labels.end(), text);
-    return found == labels.end() ? LastButton(alert) : static_cast<int32>(found - labels.begin());
+    const QAbstractButton* button = box.clickedButton();
+    return button ? button->property(kIndex).toInt() : LastButton(alert);
 }
 
 // Another thread's wait. It ends when this goes, whether somebody has answered or not.
