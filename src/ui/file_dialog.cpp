@@ -1,6 +1,7 @@
 #include "ui/file_dialog.h"
 
 #include <QAbstractItemView>
+#include <QCompleter>
 #include <QDir>
 #include <QFileInfo>
 #include <QGridLayout>
@@ -56,6 +57,14 @@ void FileDialog::Restart(const QString& name) {
 void FileDialog::accept() {
     if (may_write_ && (EntersFolder() || !may_write_(selectedFiles().value(0)))) return;
     QFileDialog::accept();
+}
+
+// A folder that has only now been read would still bring up what completes the typed name, and that
+// would take the keyboard. The field takes its completer back with the focus.
+void FileDialog::hideEvent(QHideEvent* event) {
+    QFileDialog::hideEvent(event);
+    if (auto* completer = findChild<QLineEdit*>("fileNameEdit")->completer())
+        completer->setWidget(nullptr);
 }
 
 // The toolkit would take a folder's name for one that lacks its extension.

@@ -30,6 +30,9 @@ class FileDialog : public QFileDialog {
 
     void accept() override;
 
+  protected:
+    void hideEvent(QHideEvent* event) override;
+
   private:
     // Shows the folder that is typed in the place of a name; false where none is.
     bool EntersFolder();
