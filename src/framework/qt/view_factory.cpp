@@ -93,6 +93,7 @@ QWidget* ViewFactory::MakeTabView(const BMessage& archive, QWidget& parent) {
     auto* tabs = new QTabWidget(&parent);
     // The window is as wide as its tabs.
     tabs->setUsesScrollButtons(false);
+    tabs->setAccessibleName("Pages");
     BMessage page, container;
     for (int32 i = 0; archive.FindMessage(kArchiveTabViews, &page, i) == B_OK; ++i) {
         BMessage tab;
