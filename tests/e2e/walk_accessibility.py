@@ -17,9 +17,6 @@ from gi.repository import Atspi, GLib  # noqa: E402 (the version comes first)
 ANSWER_MILLISECONDS = 5000
 POLL = 0.05
 
-# Focusable by nature; its parts are what has names.
-NAMELESS = {"application"}
-
 
 def application(name, deadline=60.0):
     """The running program of that name, once it is known to the desktop."""
@@ -70,7 +67,7 @@ def visible_nodes(root, depth=0):
 
 
 def takes_keyboard(node):
-    return has(node, Atspi.StateType.FOCUSABLE) and node.get_role_name() not in NAMELESS
+    return has(node, Atspi.StateType.FOCUSABLE)
 
 
 def describe(node):
