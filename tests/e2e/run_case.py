@@ -13,6 +13,9 @@ import unittest
 
 SKIPPED = 77
 
+# The source tree stays as it is.
+sys.dont_write_bytecode = True
+
 
 def missing():
     """What these tests need and can't have."""
