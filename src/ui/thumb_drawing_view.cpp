@@ -126,6 +126,7 @@ void ThumbDrawingView::showEvent(QShowEvent* event) {
 void ThumbDrawingView::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     DrawThumbnails(painter, event->rect());
+    if (shown_.frames.empty()) DrawInvitation(painter);
     if (drop_position_ < 0) return;
     const QRectF bar = kirto::OnPixels(Layout().DropBar(drop_position_), devicePixelRatioF());
     painter.fillRect(bar, palette().highlight());
@@ -142,6 +143,13 @@ void ThumbDrawingView::DrawThumbnails(QPainter& painter, const QRect& area) {
         if (i == shown_.selected && drop_position_ < 0) DrawOutline(painter, i);
     }
     if (pictures.WasCoarse()) update();
+}
+
+// An empty grid tells how to fill it.
+void ThumbDrawingView::DrawInvitation(QPainter& painter) {
+    painter.setPen(palette().color(QPalette::PlaceholderText));
+    painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap,
+                     "Drop images or an animation here,\nor choose Insert... from the Frame menu.");
 }
 
 void ThumbDrawingView::DrawOutline(QPainter& painter, int32 index) {

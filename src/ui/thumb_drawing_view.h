@@ -74,6 +74,7 @@ class ThumbDrawingView : public QWidget {
     void Describe();
     void ShowToolTip(const QHelpEvent& event);
     void DrawThumbnails(QPainter& painter, const QRect& area);
+    void DrawInvitation(QPainter& painter);
     void DrawOutline(QPainter& painter, int32 index);
     void SelectFrame(int32 number);
     void MoveDropPosition(int32 position);

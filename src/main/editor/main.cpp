@@ -1,6 +1,7 @@
 // kirto: the editor.
 #include <QApplication>
 #include <QIcon>
+#include <QStyle>
 #include <QTimer>
 #include <clocale>
 #include <csignal>
@@ -13,6 +14,7 @@
 #include "main/editor/editor_arguments.h"
 #include "main/editor/screenshot.h"
 #include "platform/qt/qt_translator_roster.h"
+#include "ui/editor_style.h"
 #include "ui/qt_desktop.h"
 
 namespace {
@@ -64,6 +66,7 @@ int main(int argc, char** argv) {
     kirto::QtTranslatorRoster::RestrictPluginFolders();
     // The application object takes over the user's locale; numbers stay as they are without it.
     std::setlocale(LC_NUMERIC, "C");
+    QApplication::setStyle(new kirto::EditorStyle(QApplication::style()->name()));
     QApplication::setApplicationName("kirto");
     QApplication::setApplicationVersion(KIRTO_VERSION);
     QApplication::setDesktopFileName("kirto");
