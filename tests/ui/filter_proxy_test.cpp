@@ -40,12 +40,19 @@ struct FilterProxyTest : testing::Test {
     QModelIndex Root() const {
         return proxy.mapFromSource(files.index(QString::fromStdString(folder.Path())));
     }
-    // The names that are offered, in their order; waits until they are as many.
-    std::string Names(int count) {
+    QStringList Rows(int count) {
         EXPECT_TRUE(WaitFor([&] { return proxy.rowCount(Root()) == count; }));
         QStringList names;
         for (int row = 0; row < proxy.rowCount(Root()); ++row)
             names.append(proxy.index(row, 0, Root()).data().toString());
+        return names;
+    }
+    // The names that are offered, in their order; waits until they are as many.
+    std::string Names(int count) { return Rows(count).join(' ').toStdString(); }
+    // The same by the alphabet: what was never sorted comes in the order of the file system.
+    std::string AnyNames(int count) {
+        QStringList names = Rows(count);
+        names.sort();
         return names.join(' ').toStdString();
     }
 };
@@ -57,7 +64,7 @@ TEST_F(FilterProxyTest, ShowsWhatTheFilterOffers) {
     AddFile("b.txt", 1);
     AddFile("c.gif", 1);
     Show();
-    EXPECT_EQ(Names(2), "a.gif c.gif");
+    EXPECT_EQ(AnyNames(2), "a.gif c.gif");
 }
 
 TEST_F(FilterProxyTest, TellsFoldersAndLinksFromFiles) {
@@ -102,7 +109,7 @@ TEST_F(FilterProxyTest, LooksATypeUpOnceUntilItIsToldToForget) {
     proxy.invalidate();
     EXPECT_EQ(Names(1), "b.gif");
     proxy.ForgetTypes();
-    EXPECT_EQ(Names(2), "a b.gif");
+    EXPECT_EQ(AnyNames(2), "a b.gif");
 }
 
 }  // namespace kirto::test
