@@ -70,7 +70,7 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName("kirto");
     QApplication::setApplicationVersion(KIRTO_VERSION);
     QApplication::setDesktopFileName("kirto");
-    // Reading the drawing takes as long as the half of everything else; the window is there first.
+    // Reading the drawing takes half as long as everything else; the window comes first.
     QTimer::singleShot(kIconDelayMilliseconds, qApp,
                        [] { QApplication::setWindowIcon(QIcon(":/kirto.svg")); });
     // The main window's closing is a request; the application decides.
