@@ -1,4 +1,7 @@
 // What the main window does on each command.
+#include <QGuiApplication>
+#include <QScreen>
+
 #include "document/command_codes.h"
 #include "platform/alert.h"
 #include "ui/check_input.h"
@@ -229,6 +232,10 @@ void KirtoWindow::InsertTiled(BMessage*) {
 void KirtoWindow::FadeEffects(BMessage*) {
     if (!shown_.CurrentFrame()) return;
     auto* window = new FadeWindow(editor_.application, this);
+    window->adjustSize();
+    QRect place = window->frameGeometry();
+    place.moveCenter(QGuiApplication::primaryScreen()->geometry().center());
+    window->move(place.topLeft());
     window->show();
 }
 

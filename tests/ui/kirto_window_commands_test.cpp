@@ -1,8 +1,10 @@
 #include <QDropEvent>
+#include <QGuiApplication>
 #include <QListWidget>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QPushButton>
+#include <QScreen>
 #include <QSlider>
 
 #include "ui/fade_window.h"
@@ -133,6 +135,9 @@ TEST_F(KirtoWindowCommands, FadeEffectsOpensItsWindow) {
     auto* fade = window->findChild<FadeWindow*>();
     ASSERT_NE(fade, nullptr);
     EXPECT_TRUE(fade->isVisible());
+    // Within the decoration, which the window does not know beforehand.
+    const QPoint center = QGuiApplication::primaryScreen()->geometry().center();
+    EXPECT_LE((fade->geometry().center() - center).manhattanLength(), 8);
     fade->close();
     HandleEvents();
 }
