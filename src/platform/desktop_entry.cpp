@@ -52,7 +52,9 @@ bool FindEntry(const std::string& id, Keys* keys) {
         std::string name = id;
         for (size_t dash = 0; dash != std::string::npos; dash = name.find('-', dash)) {
             if (dash != 0) name[dash] = '/';
-            if (ReadKeys(folder + "/applications/" + name, keys)) return true;
+            std::string path = folder;
+            path.append("/applications/").append(name);
+            if (ReadKeys(path, keys)) return true;
             ++dash;
         }
     }

@@ -14,7 +14,7 @@ QString Text(const char* text) {
 }
 
 template <typename Button>
-Button* MakeAnyButton(const char* name, const char* label, uint32 command, BMessenger target,
+Button* MakeAnyButton(const char* name, const char* label, uint32 command, const BMessenger& target,
                       QWidget* parent) {
     auto* button = new Button(Text(label), parent);
     button->setObjectName(Text(name));
@@ -38,23 +38,23 @@ TextControl* MakeField(const char* name, uint32 command, BMessenger target, QWid
     return new TextControl(name, BMessage(command), std::move(target), parent);
 }
 
-QCheckBox* MakeCheckBox(const char* name, const char* label, uint32 command, BMessenger target,
-                        QWidget* parent) {
-    return MakeAnyButton<QCheckBox>(name, label, command, std::move(target), parent);
+QCheckBox* MakeCheckBox(const char* name, const char* label, uint32 command,
+                        const BMessenger& target, QWidget* parent) {
+    return MakeAnyButton<QCheckBox>(name, label, command, target, parent);
 }
 
 QRadioButton* MakeRadioButton(const char* name, const char* label, uint32 command,
-                              BMessenger target, QWidget* parent) {
-    return MakeAnyButton<QRadioButton>(name, label, command, std::move(target), parent);
+                              const BMessenger& target, QWidget* parent) {
+    return MakeAnyButton<QRadioButton>(name, label, command, target, parent);
 }
 
-QPushButton* MakeButton(const char* name, const char* label, uint32 command, BMessenger target,
-                        QWidget* parent) {
-    return MakeAnyButton<QPushButton>(name, label, command, std::move(target), parent);
+QPushButton* MakeButton(const char* name, const char* label, uint32 command,
+                        const BMessenger& target, QWidget* parent) {
+    return MakeAnyButton<QPushButton>(name, label, command, target, parent);
 }
 
 QComboBox* MakePopUpMenu(const char* name, const std::vector<MenuChoice>& choices,
-                         BMessenger target, QWidget* parent) {
+                         const BMessenger& target, QWidget* parent) {
     auto* menu = new QComboBox(parent);
     menu->setObjectName(Text(name));
     for (const MenuChoice& choice : choices) {

@@ -24,15 +24,15 @@ struct MenuChoice {
 
 QLabel* MakeLabel(const char* name, const char* text, QWidget* parent);
 TextControl* MakeField(const char* name, uint32 command, BMessenger target, QWidget* parent);
-QCheckBox* MakeCheckBox(const char* name, const char* label, uint32 command, BMessenger target,
-                        QWidget* parent);
+QCheckBox* MakeCheckBox(const char* name, const char* label, uint32 command,
+                        const BMessenger& target, QWidget* parent);
 QRadioButton* MakeRadioButton(const char* name, const char* label, uint32 command,
-                              BMessenger target, QWidget* parent);
-QPushButton* MakeButton(const char* name, const char* label, uint32 command, BMessenger target,
-                        QWidget* parent);
+                              const BMessenger& target, QWidget* parent);
+QPushButton* MakeButton(const char* name, const char* label, uint32 command,
+                        const BMessenger& target, QWidget* parent);
 // Choosing an item sends its command, also when it was chosen already.
 QComboBox* MakePopUpMenu(const char* name, const std::vector<MenuChoice>& choices,
-                         BMessenger target, QWidget* parent);
+                         const BMessenger& target, QWidget* parent);
 // Marks the item that stands for the value; none when no item does.
 void MarkChoice(QComboBox& menu, int32 value);
 // Marks the item of the palette's kind, in a menu of PaletteModes. To the user a palette from a

@@ -13,7 +13,7 @@ constexpr int kStripWidth = 222;
 
 }  // namespace
 
-FrameListView::FrameListView(const kirto::DocumentSnapshot& shown, BMessenger window,
+FrameListView::FrameListView(const kirto::DocumentSnapshot& shown, const BMessenger& window,
                              QWidget* parent)
     : QWidget(parent), shown_(shown) {
     setObjectName("FrameListView");

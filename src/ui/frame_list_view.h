@@ -11,7 +11,7 @@
 class FrameListView : public QWidget {
   public:
     // shown outlives the view.
-    FrameListView(const kirto::DocumentSnapshot& shown, BMessenger window,
+    FrameListView(const kirto::DocumentSnapshot& shown, const BMessenger& window,
                   QWidget* parent = nullptr);
 
     void UpdateDisplay();

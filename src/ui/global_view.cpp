@@ -5,7 +5,8 @@
 #include "document/command_codes.h"
 #include "ui/panel_layout.h"
 
-GlobalView::GlobalView(const kirto::DocumentSnapshot& shown, BMessenger window, QWidget* parent)
+GlobalView::GlobalView(const kirto::DocumentSnapshot& shown, const BMessenger& window,
+                       QWidget* parent)
     : QGroupBox("Global", parent), shown_(shown) {
     setObjectName("GlobalView");
     width = kirto::MakeField("Width", kirto::kSetWidth, window, this);

@@ -10,7 +10,8 @@
 class GlobalView : public QGroupBox {
   public:
     // shown outlives the panel.
-    GlobalView(const kirto::DocumentSnapshot& shown, BMessenger window, QWidget* parent = nullptr);
+    GlobalView(const kirto::DocumentSnapshot& shown, const BMessenger& window,
+               QWidget* parent = nullptr);
 
     // Shows the document's state; a field that the user is typing in is left alone.
     void UpdateDisplay();

@@ -15,7 +15,8 @@ QString ColorsText(int32 colors) {
 
 }  // namespace
 
-LocalView::LocalView(const kirto::DocumentSnapshot& shown, BMessenger window, QWidget* parent)
+LocalView::LocalView(const kirto::DocumentSnapshot& shown, const BMessenger& window,
+                     QWidget* parent)
     : QGroupBox("Current Frame", parent), shown_(shown) {
     setObjectName("LocalView");
     MakeControls(window);

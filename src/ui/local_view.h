@@ -10,7 +10,8 @@
 class LocalView : public QGroupBox {
   public:
     // shown outlives the panel.
-    LocalView(const kirto::DocumentSnapshot& shown, BMessenger window, QWidget* parent = nullptr);
+    LocalView(const kirto::DocumentSnapshot& shown, const BMessenger& window,
+              QWidget* parent = nullptr);
 
     // Shows the current frame; without one, as ResetDisplay.
     void UpdateDisplay();

@@ -5,7 +5,8 @@
 #include "document/command_codes.h"
 #include "ui/panel_layout.h"
 
-PaletteView::PaletteView(const kirto::DocumentSnapshot& shown, BMessenger window, QWidget* parent)
+PaletteView::PaletteView(const kirto::DocumentSnapshot& shown, const BMessenger& window,
+                         QWidget* parent)
     : QGroupBox("Palette:", parent), shown_(shown) {
     setObjectName("PaletteView");
     menu = kirto::MakePopUpMenu(

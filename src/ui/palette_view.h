@@ -9,7 +9,8 @@
 class PaletteView : public QGroupBox {
   public:
     // shown outlives the panel.
-    PaletteView(const kirto::DocumentSnapshot& shown, BMessenger window, QWidget* parent = nullptr);
+    PaletteView(const kirto::DocumentSnapshot& shown, const BMessenger& window,
+                QWidget* parent = nullptr);
 
     void UpdateDisplay();
     // Shows the settings' default palette choices.

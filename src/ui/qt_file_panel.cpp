@@ -10,7 +10,8 @@
 namespace kirto {
 
 std::unique_ptr<FilePanel> MakeQtFilePanel(FilePanelKind kind, BMessenger target,
-                                           BTranslatorRoster& roster, QPointer<QWidget> parent,
+                                           BTranslatorRoster& roster,
+                                           const QPointer<QWidget>& parent,
                                            std::function<void()> show_preferences) {
     switch (kind) {
         case FilePanelKind::kInsert: {

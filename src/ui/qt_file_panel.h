@@ -17,7 +17,8 @@ namespace kirto {
 // while the panel is shown; the panel outlives it. show_preferences: opens the preferences at the
 // GIF settings; called on the GUI thread.
 std::unique_ptr<FilePanel> MakeQtFilePanel(FilePanelKind kind, BMessenger target,
-                                           BTranslatorRoster& roster, QPointer<QWidget> parent,
+                                           BTranslatorRoster& roster,
+                                           const QPointer<QWidget>& parent,
                                            std::function<void()> show_preferences);
 
 }  // namespace kirto

@@ -21,7 +21,7 @@ QString HeightText(int32 pixels) {
 }  // namespace
 
 ThumbnailView::ThumbnailView(const kirto::DocumentSnapshot& shown, const kirto::Editor& editor,
-                             BMessenger window, QWidget* parent)
+                             const BMessenger& window, QWidget* parent)
     : QWidget(parent), shown_(shown) {
     setObjectName("ThumbnailView");
     auto* scroll_view = new kirto::ThumbScrollView(this);

@@ -14,7 +14,7 @@ class ThumbnailView : public QWidget {
   public:
     // shown outlives the view.
     ThumbnailView(const kirto::DocumentSnapshot& shown, const kirto::Editor& editor,
-                  BMessenger window, QWidget* parent = nullptr);
+                  const BMessenger& window, QWidget* parent = nullptr);
 
     // Shows what is shown now, with the current frame in sight if it is another one; the slider
     // takes its range from the settings.
