@@ -95,6 +95,7 @@ class ThumbDrawingView : public QWidget {
     QMenu menu_;                // what can be done with a frame
 
     bool drag_pending_ = false;  // a thumbnail is held, and its drag has not begun
+    int32 held_ = -1;            // the thumbnail that the button went down on last
     BMessage drag_message_;      // what the timer sends
     QTimer drag_timer_;
     DragStarter start_drag_;

@@ -14,6 +14,7 @@
 namespace {
 
 constexpr int kHoldMilliseconds = 200;
+constexpr int kRetryMilliseconds = 20;
 constexpr int kDragAlpha = 127;
 constexpr int kMaxDragSide = 2048;  // of the picture under the pointer, pixels
 
@@ -55,6 +56,7 @@ void ThumbDrawingView::mousePressEvent(QMouseEvent* event) {
     SelectFrame(index);
     if (event->button() != Qt::LeftButton) return;
     const BRect thumbnail = layout_.At(index);
+    held_ = index;
     StartDragTimer({point.x - thumbnail.left, point.y - thumbnail.top});
 }
 
@@ -115,6 +117,9 @@ void ThumbDrawingView::MessageReceived(BMessage* message) {
     if (message->what == kirto::kThumbnailDrag) {
         drag_timer_.stop();
         BPoint grab;
+        // What is dragged is the current frame; a busy application may take a while to make it the
+        // one that is held.
+        if (drag_pending_ && shown_.selected != held_) return drag_timer_.start(kRetryMilliseconds);
         if (!std::exchange(drag_pending_, false)) return;
         if (message->FindPoint("point", &grab) == B_OK) DragToTracker(grab);
     } else if (message->what == B_COPY_TARGET) {

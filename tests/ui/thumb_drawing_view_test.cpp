@@ -92,6 +92,21 @@ TEST(ThumbDrawingView, DragsTheCurrentFrameWhenTheButtonIsHeld) {
     EXPECT_EQ(drags, 1);
 }
 
+TEST(ThumbDrawingView, WaitsForTheHeldFrameToBecomeCurrentBeforeItIsDragged) {
+    ThumbnailFixture fixture(SameFrames(2, 100, 100));
+    int drags = 0;
+    fixture.Grid().SetDragStarter([&](auto&&...) { ++drags; });
+    Mouse(fixture.Grid(), QEvent::MouseButtonPress, fixture.MiddleOf(1));
+    BMessage held(kThumbnailDrag);
+    held.AddPoint("point", {1, 1});
+    fixture.Grid().MessageReceived(&held);
+    EXPECT_EQ(drags, 0);
+
+    fixture.Select(1);
+    fixture.Grid().MessageReceived(&held);
+    EXPECT_EQ(drags, 1);
+}
+
 TEST(ThumbDrawingView, DoesNotDragWithTheSecondaryButton) {
     ThumbnailFixture fixture(SameFrames(5, 100, 100));
     int drags = 0;
