@@ -74,7 +74,6 @@ class KirtoWindow : public QMainWindow, public BWindow {
     void ArrangePanels();
     void LimitSize();
     void Place(const BRect& frame);
-    void RememberSplitter();
 
     // Shows the parts again, now or as soon as the document can be read.
     void Refresh(uint32 parts);
@@ -83,12 +82,11 @@ class KirtoWindow : public QMainWindow, public BWindow {
     // Sends the command of the field that is being edited; true when there was one.
     bool CommitEdit();
     bool MayLoseChanges();
-    void ResumePending();
     void ApplyPreset();
     void SaveOrAsk();
     void ShowSavePanel();
     void StartNew();
-    void OpenAnother();
+    void ShowOpenPanel(const char* title);
     void ShowMode(bool frame_list);
     void PostToApplication(const BMessage& message);
     // The same for a command that changes the document.

@@ -133,7 +133,7 @@ void KirtoWindow::Resume(BMessage*) {
             StartNew();
             break;
         case kirto::kMenuOpen:
-            OpenAnother();
+            ShowOpenPanel("Open Animation");
             break;
         case B_QUIT_REQUESTED:
             close();
@@ -162,12 +162,12 @@ void KirtoWindow::StartNew() {
 }
 
 void KirtoWindow::Open(BMessage*) {
-    if (LoseChanges(kirto::kMenuOpen)) OpenAnother();
+    if (LoseChanges(kirto::kMenuOpen)) ShowOpenPanel("Open Animation");
 }
 
-void KirtoWindow::OpenAnother() {
+void KirtoWindow::ShowOpenPanel(const char* title) {
     kirto::FilePanel* panel = editor_.panels.GetPanel(kirto::FilePanelKind::kOpen);
-    panel->SetTitle("Open Animation");
+    panel->SetTitle(title);
     panel->Show();
 }
 
@@ -276,9 +276,7 @@ void KirtoWindow::PaletteKind(BMessage* message) {
 void KirtoWindow::PaletteFromFile(BMessage* message) {
     palette_view_->EnableDither(false);
     PostEdit(*message);
-    kirto::FilePanel* panel = editor_.panels.GetPanel(kirto::FilePanelKind::kOpen);
-    panel->SetTitle("Open Paletted File");
-    panel->Show();
+    ShowOpenPanel("Open Paletted File");
 }
 
 void KirtoWindow::PaletteIndex(BMessage* message) {
@@ -330,9 +328,7 @@ void KirtoWindow::FrameSwitch(BMessage* message) {
 void KirtoWindow::FramePaletteFromFile(BMessage* message) {
     if (!shown_.CurrentFrame()) return;
     PostEdit(*message);
-    kirto::FilePanel* panel = editor_.panels.GetPanel(kirto::FilePanelKind::kOpen);
-    panel->SetTitle("Open Paletted File");
-    panel->Show();
+    ShowOpenPanel("Open Paletted File");
 }
 
 void KirtoWindow::ChooseMode(BMessage* message) {
