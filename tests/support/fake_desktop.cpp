@@ -9,20 +9,6 @@ namespace kirto::test {
 
 namespace {
 
-const char* KindName(FilePanelKind kind) {
-    switch (kind) {
-        case FilePanelKind::kOpen:
-            return "open";
-        case FilePanelKind::kInsert:
-            return "insert";
-        case FilePanelKind::kInsertTiled:
-            return "insert tiled";
-        case FilePanelKind::kSave:
-            break;
-    }
-    return "save";
-}
-
 class FakePanel : public FilePanel {
   public:
     FakePanel(FakeDesktop& desktop, FilePanelKind kind) : desktop_(desktop), kind_(kind) {
@@ -98,6 +84,20 @@ void FakeDesktop::OpenInBrowser(const std::string& path) {
 
 std::string WarningLine(const std::string& text) {
     return "WARNING [] " + text + " | OK";
+}
+
+const char* KindName(FilePanelKind kind) {
+    switch (kind) {
+        case FilePanelKind::kOpen:
+            return "open";
+        case FilePanelKind::kInsert:
+            return "insert";
+        case FilePanelKind::kInsertTiled:
+            return "insert tiled";
+        case FilePanelKind::kSave:
+            break;
+    }
+    return "save";
 }
 
 }  // namespace kirto::test

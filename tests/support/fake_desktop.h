@@ -58,6 +58,9 @@ class FakeDesktop : public Desktop {
     AlertPresenter* previous_;
 };
 
+// "open", "insert", "insert tiled" or "save".
+const char* KindName(FilePanelKind kind);
+
 // The line of a warning with the one button "OK".
 std::string WarningLine(const std::string& text);
 

@@ -1,25 +1,9 @@
 #include "ui/kirto_window_fixture.h"
 
 #include "app/document_edits.h"
+#include "support/fake_desktop.h"
 
 namespace kirto::test {
-
-namespace {
-
-const char* NameOf(FilePanelKind kind) {
-    switch (kind) {
-        case FilePanelKind::kOpen:
-            return "open";
-        case FilePanelKind::kInsert:
-            return "insert";
-        case FilePanelKind::kInsertTiled:
-            return "insert tiled";
-        default:
-            return "save";
-    }
-}
-
-}  // namespace
 
 class RecordedPanels::Panel : public FilePanel {
   public:
@@ -37,7 +21,7 @@ class RecordedPanels::Panel : public FilePanel {
 };
 
 FilePanel* RecordedPanels::GetPanel(FilePanelKind kind) {
-    panels_.push_back(std::make_unique<Panel>(lines_, NameOf(kind)));
+    panels_.push_back(std::make_unique<Panel>(lines_, KindName(kind)));
     return panels_.back().get();
 }
 
