@@ -4,6 +4,8 @@
 #include <fstream>
 #include <sstream>
 
+#include "support/source_folder.h"
+
 namespace kirto::test {
 
 namespace fs = std::filesystem;
@@ -22,8 +24,7 @@ std::vector<std::string> Cells(const std::string& line) {
 
 std::optional<fs::path> CorpusFolder() {
     const char* named = std::getenv("KIRTO_CORPUS");
-    const fs::path folder =
-        named ? fs::path(named) : fs::path(PROJECT_SOURCE_DIR) / "../shared/corpus";
+    const fs::path folder = named ? fs::path(named) : SourceFolder() / "../shared/corpus";
     if (!fs::exists(folder / "MANIFEST.tsv")) return std::nullopt;
     return folder;
 }

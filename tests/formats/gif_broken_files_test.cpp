@@ -5,6 +5,7 @@
 
 #include "formats/gif_load_fixture.h"
 #include "support/commented_bytes.h"
+#include "support/source_folder.h"
 
 namespace kirto::test {
 namespace {
@@ -44,7 +45,7 @@ class GifBrokenFiles : public GifLoadTest, public testing::WithParamInterface<st
     }
 };
 
-const fs::path kFolder = GIF_BROKEN_FOLDER;
+const fs::path kFolder = SourceFolder() / "tests/data/gif-broken";
 
 std::vector<std::string> Names() {
     std::vector<std::string> names;

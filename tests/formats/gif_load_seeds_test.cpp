@@ -5,6 +5,7 @@
 #include <map>
 
 #include "formats/gif_load_fixture.h"
+#include "support/source_folder.h"
 
 namespace kirto::test {
 namespace {
@@ -109,7 +110,7 @@ Seeds AllSeeds() {
 }
 
 std::filesystem::path SeedPath(const std::string& name) {
-    return std::filesystem::path(FUZZ_SEEDS_FOLDER) / "gif_load" / name;
+    return SourceFolder() / "fuzz/seeds/gif_load" / name;
 }
 
 TEST(GifLoadSeeds, AreTheFilesOfTheSeedFolder) {

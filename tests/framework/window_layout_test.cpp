@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "framework/window_archive.h"
+#include "support/source_folder.h"
 #include "support/test_support.h"
 
 namespace kirto::test {
@@ -207,7 +208,8 @@ TEST(WindowLayout, MakesThePreferencesWindowOfItsSource) {
     BMessage archive;
     std::string error;
 
-    ASSERT_TRUE(CompileWindowLayout(KIRTO_RESOURCES "/preferences_window.toml", &archive, &error))
+    ASSERT_TRUE(
+        CompileWindowLayout(SourceFolder() / "resources/preferences_window.toml", &archive, &error))
         << error;
 
     EXPECT_EQ(TextOf(archive, "_title"), "Preferences");

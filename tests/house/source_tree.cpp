@@ -7,12 +7,14 @@
 #include <regex.h>
 #include <sstream>
 
+#include "support/source_folder.h"
+
 namespace kirto::test {
 
 namespace fs = std::filesystem;
 
 fs::path ProjectRoot() {
-    return PROJECT_SOURCE_DIR;
+    return SourceFolder();
 }
 
 std::string ReadText(const fs::path& path) {

@@ -8,6 +8,7 @@
 #include "main/rsrc/text_icon.h"
 #include "platform/message.h"
 #include "platform/resources.h"
+#include "support/source_folder.h"
 #include "support/test_support.h"
 
 namespace kirto::test {
@@ -15,6 +16,8 @@ namespace kirto::test {
 namespace {
 
 using Bytes = std::vector<uint8>;
+
+const std::string kManifest = SourceFolder() / "resources/kirto.toml";
 
 // kirto.rsrc, opened once a test.
 class ResourceFile : public ::testing::Test {
@@ -125,7 +128,7 @@ TEST_F(ResourceFile, HoldsTheFlags) {
 TEST(ResourceTool, MakesTheSameFileAgain) {
     const TemporaryFolder folder;
     const std::string target = folder.File("again.rsrc");
-    EXPECT_EQ(RunTool("'" KIRTO_RESOURCES "/kirto.toml' '" + target + "'"), 0);
+    EXPECT_EQ(RunTool("'" + kManifest + "' '" + target + "'"), 0);
     EXPECT_EQ(ReadBytes(target), ReadBytes(KIRTO_RSRC_FILE));
 }
 
@@ -140,7 +143,7 @@ TEST(ResourceTool, FailsWithoutTouchingTheTargetWhereTheSourcesAreWrong) {
 TEST(ResourceTool, FailsWhereTheTargetCantBeWritten) {
     const TemporaryFolder folder;
     const std::string target = folder.File("absent/kirto.rsrc");
-    EXPECT_EQ(RunTool("'" KIRTO_RESOURCES "/kirto.toml' '" + target + "'"), 1);
+    EXPECT_EQ(RunTool("'" + kManifest + "' '" + target + "'"), 1);
     EXPECT_FALSE(std::filesystem::exists(target));
 }
 

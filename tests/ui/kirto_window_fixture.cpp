@@ -2,6 +2,7 @@
 
 #include "app/document_edits.h"
 #include "support/fake_desktop.h"
+#include "support/source_folder.h"
 
 namespace kirto::test {
 
@@ -26,8 +27,8 @@ FilePanel* RecordedPanels::GetPanel(FilePanelKind kind) {
 }
 
 KirtoWindowFixture::KirtoWindowFixture()
-    : resources(
-          {{"PreferencesWindow", ArchiveOfLayout(KIRTO_RESOURCES "/preferences_window.toml")}}) {
+    : resources({{"PreferencesWindow",
+                  ArchiveOfLayout(SourceFolder() / "resources/preferences_window.toml")}}) {
     prefs.misc_savewindowdimensions = false;
 }
 

@@ -14,12 +14,13 @@
 
 #include "document/command_codes.h"
 #include "support/fake_roster.h"
+#include "support/source_folder.h"
 #include "support/window_resources.h"
 #include "ui/preferences_window.h"
 
 namespace kirto::test {
 
-inline constexpr char kPreferencesLayout[] = KIRTO_RESOURCES "/preferences_window.toml";
+inline const std::string kPreferencesLayout = SourceFolder() / "resources/preferences_window.toml";
 
 // The settings as a message, for comparisons.
 inline BMessage Fields(const Prefs& prefs) {
