@@ -4,7 +4,6 @@
 
 #include "app/document_edits.h"
 #include "document/command_codes.h"
-#include "document/document_scope.h"
 #include "effects/fade.h"
 #include "effects/insert_images.h"
 #include "effects/insert_tiles.h"
@@ -32,9 +31,6 @@ const Kirto::Command* Kirto::CommandFor(uint32 code) {
         app.Save(app.GetSaveFilePanel()->OutputFormat());
     };
     static constexpr auto fade = [](Kirto& app, BMessage* message) { app.Fade(message); };
-    static constexpr auto frame_palette = [](Kirto& app, BMessage* message) {
-        app.SetFramePalette(message);
-    };
     static constexpr Command kCommands[] = {
         {B_SIMPLE_DATA, [](Kirto& app, BMessage* message) { app.RefsReceived(message); },
          kUpdateAll},
@@ -58,10 +54,6 @@ const Kirto::Command* Kirto::CommandFor(uint32 code) {
         {kirto::kFadeFromPrevious, fade, kUpdateFrames},
         {kirto::kFadeFromColor, fade, kUpdateFrames},
         {kirto::kFadeToColor, fade, kUpdateFrames},
-        {kirto::kFrameWebSafe, frame_palette, kNothing},
-        {kirto::kFrameSystem, frame_palette, kNothing},
-        {kirto::kFrameGreyscale, frame_palette, kNothing},
-        {kirto::kFrameOptimal, frame_palette, kNothing},
         {kirto::kStoreSettings, [](Kirto& app, BMessage* message) { app.StoreSettings(*message); },
          kUpdateAll},
         {kirto::kTranslatorSettings,
@@ -145,7 +137,7 @@ void Kirto::MessageReceived(BMessage* message) {
     }
     int32 serial = 0;
     if (message->FindInt32("serial", &serial) != B_OK) return;
-    edits_done = serial;
+    SetEditsDone(serial);
     PostToWindow(kirto::kEditDone);
 }
 
@@ -166,13 +158,7 @@ bool Kirto::Cancel(BMessage* message) {
         open_panel_delivered = false;
         return false;
     }
-    const kirto::WriterScope writer(*this);
-    const Frame* current = CurrentFrame();
-    if (global_palette->mode == kirto::kPaletteAwaitingFile) {
-        global_palette->Set(kirto::kPaletteWebSafe);
-    } else if (current && current->palette->mode == kirto::kPaletteAwaitingFile) {
-        current->palette->Set(kirto::kPaletteWebSafe);
-    }
+    EditAwaitedPalette([](Palette& palette) { palette.Set(kirto::kPaletteWebSafe); });
     return true;
 }
 
@@ -184,13 +170,11 @@ void Kirto::SelectFrame(BMessage* message) {
 }
 
 void Kirto::StoreSettings(const BMessage& message) {
-    {
-        const kirto::WriterScope writer(*this);
-        prefs.TakeFrom(message);
-    }
+    prefs.TakeFrom(message);
     BRect frame = prefs.misc_windowdimensions;
     message.FindRect("window_frame", &frame);
     prefs.Save(frame);
+    PublishSettings();
 }
 
 void Kirto::StoreTranslatorSettings(const BMessage& message) {
@@ -199,28 +183,6 @@ void Kirto::StoreTranslatorSettings(const BMessage& message) {
     if (message.FindInt32("translator", &translator) != B_OK) return;
     if (message.FindMessage("settings", &settings) != B_OK) return;
     translator_settings[static_cast<translator_id>(translator)] = settings;
-}
-
-void Kirto::SetFramePalette(BMessage* message) {
-    // A window may be reading the palette meanwhile.
-    const kirto::WriterScope writer(*this);
-    Frame* frame = CurrentFrame();
-    if (!frame) return;
-    switch (message->what) {
-        case kirto::kFrameWebSafe:
-            frame->palette->Set(kirto::kPaletteWebSafe);
-            break;
-        case kirto::kFrameSystem:
-            frame->palette->Set(kirto::kPaletteSystem);
-            break;
-        case kirto::kFrameGreyscale:
-            frame->palette->Set(kirto::kPaletteGreyscale);
-            break;
-        default:
-            frame->palette->Set(frame->bitmap.get());
-            break;
-    }
-    modified = true;
 }
 
 void Kirto::InsertFrame(BMessage* message) {

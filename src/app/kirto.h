@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <mutex>
@@ -25,6 +26,8 @@ class Kirto : public IEApplication, public AnimationDocument, public kirto::File
           const entry_ref& resource_file = {});
     // Ends the loop, deletes all frames and removes the preview file.
     ~Kirto() override;
+
+    bool open_panel_delivered = false;  // the open panel's next cancel notice is no real cancel
 
     // Settings of the image writers by translator id, as the save panel's settings leave them. The
     // application thread's.
@@ -74,12 +77,11 @@ class Kirto : public IEApplication, public AnimationDocument, public kirto::File
     bool IsPanel(kirto::FilePanelKind kind, const void* source);
     BRect MainWindowFrame();
     bool LoadAwaitedPalette(const std::string& path);
+    bool EditAwaitedPalette(const std::function<void(Palette&)>& edit);
     void SelectFrame(BMessage* message);
     void StoreSettings(const BMessage& message);
     void StoreTranslatorSettings(const BMessage& message);
-    void SetFramePalette(BMessage* message);
     bool SaveGif();
-    void SetFile(const std::string& directory, const std::string& name);
     bool WriteSequenceFile(const Frame& frame, const std::string& path, uint32 translator,
                            uint32 format);
     void RemovePreview();

@@ -7,7 +7,6 @@
 #include "app/open_animation.h"
 #include "app/save_animation.h"
 #include "document/command_codes.h"
-#include "document/document_scope.h"
 #include "platform/alert.h"
 #include "platform/debug_line.h"
 #include "platform/directories.h"
@@ -21,8 +20,6 @@ constexpr const char* kNotCreated =
     "The animation can't be saved because the file could not be created at this location.";
 constexpr const char* kInvalidTranslator =
     "The animation can't be saved because the selected translator is not valid.";
-
-constexpr size_t kMaxNameBytes = 255;
 
 constexpr int32 kOpenButton = 1;
 constexpr int32 kInsertButton = 2;
@@ -80,7 +77,7 @@ void Kirto::Open(BMessage* message) {
         Reset();
     } else {
         message->FindInt32("position", &position);
-        position = std::clamp(position, 0, frame_count);
+        position = std::clamp(position, 0, FrameCount());
     }
     const kirto::AnimationType type =
         kirto::ClassifyAnimation(ref.Leaf(), desktop_.MimeTypeOf(ref.path));
@@ -99,23 +96,31 @@ void Kirto::Open(BMessage* message) {
     }
 }
 
-// True when a palette was waiting for this file: the global one, or else the current frame's.
+// Edits the palette that waits for a file: the global one, or else the current frame's. False when
+// none does.
+bool Kirto::EditAwaitedPalette(const std::function<void(Palette&)>& edit) {
+    kirto::Animation next = *Current();
+    const kirto::FramePointer frame = next.CurrentFrame();
+    if (next.palette->mode == kirto::kPaletteAwaitingFile) {
+        kirto::EditPalette(next, edit);
+    } else if (frame && frame->palette->mode == kirto::kPaletteAwaitingFile) {
+        kirto::EditFramePalette(next, next.selected, edit);
+    } else {
+        return false;
+    }
+    Commit(std::move(next));
+    return true;
+}
+
+// True when a palette was waiting for this file.
 bool Kirto::LoadAwaitedPalette(const std::string& path) {
-    Frame* current = CurrentFrame();
-    Palette* palette = nullptr;
-    if (global_palette->mode == kirto::kPaletteAwaitingFile) {
-        palette = global_palette.get();
-    } else if (current && current->palette->mode == kirto::kPaletteAwaitingFile) {
-        palette = current->palette.get();
-    }
-    if (!palette) return false;
     bool loaded = false;
-    {
-        const kirto::WriterScope writer(*this);
-        loaded = palette->Set(path.c_str());
-        if (!loaded) palette->Set(kirto::kPaletteWebSafe);
-        modified = true;
-    }
+    const bool awaited = EditAwaitedPalette([&](Palette& palette) {
+        loaded = palette.Set(path.c_str());
+        if (!loaded) palette.Set(kirto::kPaletteWebSafe);
+    });
+    if (!awaited) return false;
+    SetModified(true);
     if (!loaded) {
         kirto::Warn("The palette can't be loaded because the file was corrupted or unreadable.");
     }
@@ -150,12 +155,8 @@ void Kirto::Save(uint32 format) {
 
 // False after telling the user what went wrong. The next save then asks for a name again.
 bool Kirto::SaveGif() {
-    kirto::SaveResult result;
-    {
-        const kirto::ReaderScope reader(*this);
-        result = kirto::SaveAnimatedGif(*this, Join(file_directory, file_name));
-    }
-    switch (result) {
+    const auto state = CurrentState();
+    switch (kirto::SaveAnimatedGif(*this, Join(state->file_directory, state->file_name))) {
         case kirto::SaveResult::kSaved:
             return true;
         case kirto::SaveResult::kStopped:
@@ -174,12 +175,6 @@ bool Kirto::SaveGif() {
     return false;
 }
 
-void Kirto::SetFile(const std::string& directory, const std::string& name) {
-    const kirto::WriterScope writer(*this);
-    file_directory = directory;
-    file_name = kirto::CutUtf8(name, kMaxNameBytes);
-}
-
 bool Kirto::SaveSequence(uint32 translator) {
     std::string translator_name;
     if (!roster_.GetTranslatorInfo(translator, &translator_name)) {
@@ -190,11 +185,12 @@ bool Kirto::SaveSequence(uint32 translator) {
     if (format == 0) {
         kirto::DebugLine("Kirto::SaveSequence() - Desired format is 0, this is not good\n");
     }
-    const kirto::ReaderScope reader(*this);
-    for (const Frame* frame = first_frame; frame; frame = frame->next) {
+    const auto state = CurrentState();
+    int32 index = 0;
+    for (const kirto::FramePointer& frame : state->animation->frames) {
         if (StopRequested()) return false;
-        const std::string name = kirto::SequenceFileName(file_name, frame->index);
-        if (!WriteSequenceFile(*frame, Join(file_directory, name), translator, format)) {
+        const std::string name = kirto::SequenceFileName(state->file_name, index++);
+        if (!WriteSequenceFile(*frame, Join(state->file_directory, name), translator, format)) {
             return false;
         }
     }
@@ -222,7 +218,7 @@ bool Kirto::WriteSequenceFile(const Frame& frame, const std::string& path, uint3
 }
 
 void Kirto::Preview() {
-    if (FrameLargerThanCanvas()) {
+    if (Current()->FrameLargerThanCanvas()) {
         kirto::Warn(
             "The animation can't be previewed because one of the frames has a larger size than the "
             "animation.");
@@ -233,11 +229,7 @@ void Kirto::Preview() {
         prefs.misc_tempfilelocation = kirto::HomeDirectory();
     }
     const std::string path = Join(prefs.misc_tempfilelocation, kPreviewName);
-    kirto::SaveResult result;
-    {
-        const kirto::ReaderScope reader(*this);
-        result = kirto::SavePreviewGif(*this, path);
-    }
+    const kirto::SaveResult result = kirto::SavePreviewGif(*this, path);
     if (result == kirto::SaveResult::kStopped) return;
     if (result != kirto::SaveResult::kSaved) {
         kirto::Warn(

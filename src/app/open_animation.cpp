@@ -3,7 +3,6 @@
 #include <array>
 
 #include "color/sf_hash.h"
-#include "document/document_scope.h"
 #include "formats/fli_load.h"
 #include "formats/gif_load.h"
 #include "platform/alert.h"
@@ -29,24 +28,19 @@ struct FrameRange {
     int32 end = 0;
 };
 
-template <typename Action>
-void ForEachFrame(AnimationDocument& document, FrameRange range, Action action) {
-    for (int32 i = range.begin; i < range.end; ++i)
-        action(*document.FrameAt(i));
-}
-
-void RecognisePalettes(AnimationDocument& document, FrameRange range) {
-    document.global_palette->RecogniseBuiltIn();
-    ForEachFrame(document, range, [](Frame& frame) {
-        if (frame.local_palette) frame.palette->RecogniseBuiltIn();
-    });
+void RecognisePalettes(Animation& animation, FrameRange range) {
+    EditPalette(animation, [](Palette& palette) { palette.RecogniseBuiltIn(); });
+    for (int32 i = range.begin; i < range.end; ++i) {
+        if (!animation.frames.At(i)->local_palette) continue;
+        EditFramePalette(animation, i, [](Palette& palette) { palette.RecogniseBuiltIn(); });
+    }
 }
 
 // The whole-number pause that most frames have; among equals the first in the table's order.
-uint32 CommonestPause(const AnimationDocument& document, FrameRange range) {
+uint32 CommonestPause(const Animation& animation, FrameRange range) {
     SFHash counts(kPauseBuckets);
     for (int32 i = range.begin; i < range.end && !counts.fail; ++i) {
-        const uint32 pause = static_cast<uint32>(document.FrameAt(i)->pause_length);
+        const uint32 pause = static_cast<uint32>(animation.frames.At(i)->pause_length);
         if (HashItem* item = counts.GetItem(pause)) {
             ++static_cast<ColorItem*>(item)->value;
         } else {
@@ -63,22 +57,24 @@ uint32 CommonestPause(const AnimationDocument& document, FrameRange range) {
 
 // Makes the commonest pause the animation's; the frames that have it follow the animation from then
 // on. Pauses come from the file in hundredths and leave in the unit of the settings.
-void ShareOutPauses(AnimationDocument& document, FrameRange range) {
-    const double commonest = CommonestPause(document, range);
-    const double unit = document.prefs.global_pauseinseconds ? 100.0 : 1.0;
+void ShareOutPauses(Animation& animation, FrameRange range, bool in_seconds) {
+    const double commonest = CommonestPause(animation, range);
+    const double unit = in_seconds ? 100.0 : 1.0;
     if (commonest != 0) {
-        document.pause_length_global = commonest;
-        document.use_pause_global = true;
+        animation.pause_length = commonest;
+        animation.use_pause = true;
     }
-    ForEachFrame(document, range, [&](Frame& frame) {
-        if (frame.pause_length == commonest) {
-            frame.pause_length = 0;
-            frame.use_pause = false;
-        } else {
-            frame.pause_length /= unit;
-        }
-    });
-    document.pause_length_global /= unit;
+    for (int32 i = range.begin; i < range.end; ++i) {
+        EditFrame(animation, i, [&](Frame& frame) {
+            if (frame.pause_length == commonest) {
+                frame.pause_length = 0;
+                frame.use_pause = false;
+            } else {
+                frame.pause_length /= unit;
+            }
+        });
+    }
+    animation.pause_length /= unit;
 }
 
 void OfferSalvage(AnimationDocument& document) {
@@ -118,10 +114,11 @@ bool OpenGif(BFile* file, int32 position, AnimationDocument& document) {
         OfferSalvage(document);
         return false;
     }
-    const WriterScope writer(document);
     const FrameRange range{position, loader.End()};
-    RecognisePalettes(document, range);
-    ShareOutPauses(document, range);
+    document.Change([&](Animation& animation) {
+        RecognisePalettes(animation, range);
+        ShareOutPauses(animation, range, document.prefs.global_pauseinseconds);
+    });
     return true;
 }
 
@@ -131,9 +128,10 @@ bool OpenFli(BFile* file, int32 position, AnimationDocument& document) {
         OfferSalvage(document);
         return false;
     }
-    const WriterScope writer(document);
-    document.use_loop = true;
-    document.loop_count = 0;
+    document.Change([](Animation& animation) {
+        animation.use_loop = true;
+        animation.loop_count = 0;
+    });
     return true;
 }
 

@@ -26,7 +26,7 @@ std::string SequenceFileName(const std::string& file_name, int32 index) {
 }
 
 SaveResult SaveAnimatedGif(AnimationDocument& document, const std::string& path) {
-    if (document.FrameLargerThanCanvas()) return SaveResult::kFrameTooLarge;
+    if (document.Current()->FrameLargerThanCanvas()) return SaveResult::kFrameTooLarge;
     return Encode(document, BFile::CreateReplacing(path));
 }
 

@@ -89,6 +89,8 @@ class Palette {
     // the kind stays. Nothing else changes.
     void RecogniseBuiltIn();
 
+    bool operator==(const Palette&) const = default;
+
   private:
     bool ReadTriples(BFile* file, int32 count);
 };

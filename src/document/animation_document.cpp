@@ -1,225 +1,160 @@
 #include "document/animation_document.h"
 
 #include <algorithm>
-#include <thread>
 
 #include "document/command_codes.h"
 #include "document/document_scope.h"
+#include "document/new_animation.h"
 #include "platform/alert.h"
-#include "platform/debug_line.h"
+#include "platform/text.h"
 
 namespace {
 
-constexpr bigtime_t kWriterPollInterval = 1000;  // microseconds
+constexpr size_t kMaxNameBytes = 255;
 
-const BBitmap* PictureOf(const Frame* frame) {
+const BBitmap* PictureOf(const kirto::FramePointer& frame) {
     return frame ? frame->bitmap.get() : nullptr;
 }
 
 }  // namespace
 
 AnimationDocument::AnimationDocument(Prefs& settings, BMessenger window_messenger)
-    : frame_sem(create_sem(1, "sem")),
-      prefs(settings),
+    : prefs(settings),
       window(std::move(window_messenger)),
       pixel_budget(std::make_shared<kirto::PixelBudget>()) {
-    if (frame_sem < 0) kirto::DebugLine("Kirto::Kirto() - Create sem died\n");
-    global_palette = std::make_unique<Palette>();
+    kirto::DocumentState first;
+    first.animation = std::make_shared<const kirto::Animation>();
+    first.settings = std::make_shared<const Prefs>(prefs);
+    Publish(std::move(first));
     Reset();
 }
 
-AnimationDocument::~AnimationDocument() {
-    delete_sem(frame_sem);
+AnimationDocument::~AnimationDocument() = default;
+
+std::shared_ptr<const kirto::DocumentState> AnimationDocument::CurrentState() const {
+    const std::lock_guard lock(state_mutex_);
+    return state_;
 }
 
-void AnimationDocument::Reset() {
-    std::vector<std::unique_ptr<Frame>> removed;
-    {
-        const kirto::WriterScope writer(*this);
-        removed.swap(frames_);
-        Relink();
-        global_height = prefs.global_height;
-        global_width = prefs.global_width;
-        use_pause_global = prefs.global_usepause;
-        use_loop = prefs.global_useloop;
-        pause_length_global = prefs.global_pauselength;
-        loop_count = prefs.global_loopcount;
-        modified = false;
-        selected = -1;
-        file_name = "untitled";
-        file_directory.clear();
-        ResetPalette();
-    }
-}
-
-void AnimationDocument::ResetPalette() {
-    if (prefs.palette_mapping != kirto::kPaletteFromFile) {
-        global_palette->Set(prefs.palette_mapping);
-    } else if (!global_palette->Set(prefs.palette_filename.c_str())) {
-        kirto::Warn("The palette can't be loaded because the file was corrupted or unreadable.");
-        global_palette->Set(kirto::kPaletteWebSafe);
-        PostToWindow(kirto::kUpdateAll);
-    }
-    global_palette->use_transparent = prefs.palette_usetransparent;
-    global_palette->transparent_index = prefs.palette_transparentindex;
-    global_palette->background_index = prefs.palette_backgroundindex;
-    global_palette->dither = prefs.palette_dither;
-}
-
-Frame* AnimationDocument::FrameAt(int32 i) const {
-    if (i < 0 || static_cast<size_t>(i) >= frames_.size()) return nullptr;
-    return frames_[static_cast<size_t>(i)].get();
-}
-
-const Frame* AnimationDocument::FrameLargerThanCanvas() const {
-    for (const Frame* frame = first_frame; frame; frame = frame->next) {
-        if (frame->width > global_width || frame->height > global_height) return frame;
-    }
-    return nullptr;
-}
-
-bool AnimationDocument::InsertFrame(Frame* frame) {
-    if (frame->index < 0 || frame->index > frame_count) return false;
-    {
-        const kirto::WriterScope writer(*this);
-        if (frame_count == 0) {
-            PostThumbnailSize();
-            selected = 0;
-        }
-        Link(frame);
-    }
-    PostToWindow(kirto::kUpdateFramesNoStatus);
-    return true;
-}
-
-void AnimationDocument::InsertFrameAsCurrent(Frame* frame) {
-    {
-        const kirto::WriterScope writer(*this);
-        frame->index = std::clamp(frame->index, 0, frame_count);
-        if (frame_count == 0) {
-            if (prefs.global_setdimensions) {
-                global_width = frame->width;
-                global_height = frame->height;
-            }
-            PostThumbnailSize();
-        }
-        selected = frame->index;
-        modified = true;
-        Link(frame);
-    }
-    PostToWindow(kirto::kUpdateFramesNoStatus);
-}
-
-void AnimationDocument::Link(Frame* frame) {
-    const size_t position = static_cast<size_t>(frame->index);
-    frames_.insert(frames_.begin() + frame->index, std::unique_ptr<Frame>(frame));
-    if (position > 0) frames_[position - 1]->next = frame;
-    frame->next = position + 1 < frames_.size() ? frames_[position + 1].get() : nullptr;
-    for (Frame* later = frame->next; later; later = later->next)
-        ++later->index;
-    first_frame = frames_.front().get();
-    ++frame_count;
-}
-
-void AnimationDocument::RemoveFrame() {
-    std::unique_ptr<Frame> removed;
-    {
-        const kirto::WriterScope writer(*this);
-        if (selected == -1 || frame_count == 0) return;
-        const auto position = frames_.begin() + selected;
-        removed = std::move(*position);
-        frames_.erase(position);
-        Relink();
-        modified = true;
-        if (frame_count == 0) selected = -1;
-        if (selected == frame_count) --selected;
-    }
-}
-
-void AnimationDocument::MoveFrame(bool up) {
+void AnimationDocument::Publish(kirto::DocumentState next) {
+    // Declared first: what was published before goes when nobody is locked out.
+    auto published = std::make_shared<const kirto::DocumentState>(std::move(next));
     const kirto::WriterScope writer(*this);
-    if (selected == -1 || frame_count == 0) return;
-    const int32 target = up ? selected - 1 : selected + 1;
-    if (target < 0 || target > frame_count - 1) return;
-    std::swap(frames_[static_cast<size_t>(selected)], frames_[static_cast<size_t>(target)]);
-    Relink();
-    selected = target;
-    modified = true;
+    const std::lock_guard lock(state_mutex_);
+    state_.swap(published);
 }
 
-void AnimationDocument::ReverseFrames() {
-    const kirto::WriterScope writer(*this);
-    if (frame_count <= 1) return;
-    std::reverse(frames_.begin(), frames_.end());
-    Relink();
+void AnimationDocument::Commit(kirto::Animation next) {
+    ChangeState([&next](kirto::DocumentState& state) {
+        state.animation = std::make_shared<const kirto::Animation>(std::move(next));
+    });
 }
 
-bool AnimationDocument::Select(int32 i) {
-    const kirto::WriterScope writer(*this);
-    if (i > frame_count - 1 || i < 0 || i == selected) return false;
-    selected = i;
-    return true;
+void AnimationDocument::CommitModified(kirto::Animation next) {
+    ChangeState([&next](kirto::DocumentState& state) {
+        state.animation = std::make_shared<const kirto::Animation>(std::move(next));
+        state.modified = true;
+    });
 }
 
 void AnimationDocument::SetModified(bool changed) {
-    const kirto::WriterScope writer(*this);
-    modified = changed;
+    ChangeState([changed](kirto::DocumentState& state) { state.modified = changed; });
+}
+
+void AnimationDocument::SetFile(const std::string& directory, const std::string& name) {
+    ChangeState([&](kirto::DocumentState& state) {
+        state.file_directory = directory;
+        state.file_name = kirto::CutUtf8(name, kMaxNameBytes);
+    });
+}
+
+void AnimationDocument::SetEditsDone(int32 serial) {
+    ChangeState([serial](kirto::DocumentState& state) { state.edits_done = serial; });
+}
+
+void AnimationDocument::PublishSettings() {
+    ChangeState([this](kirto::DocumentState& state) {
+        state.settings = std::make_shared<const Prefs>(prefs);
+    });
+}
+
+void AnimationDocument::Reset() {
+    kirto::Animation fresh = kirto::NewAnimation(prefs);
+    bool palette_read = true;
+    if (prefs.palette_mapping == kirto::kPaletteFromFile) {
+        kirto::EditPalette(fresh, [&](Palette& palette) {
+            palette_read = palette.Set(prefs.palette_filename.c_str());
+            if (!palette_read) palette.Set(kirto::kPaletteWebSafe);
+        });
+    }
+    ChangeState([&fresh](kirto::DocumentState& state) {
+        state.animation = std::make_shared<const kirto::Animation>(std::move(fresh));
+        state.file_name = kirto::DocumentState().file_name;
+        state.file_directory.clear();
+        state.modified = false;
+    });
+    if (palette_read) return;
+    kirto::Warn("The palette can't be loaded because the file was corrupted or unreadable.");
+    PostToWindow(kirto::kUpdateAll);
+}
+
+bool AnimationDocument::InsertFrame(int32 position, Frame frame) {
+    kirto::Animation next = *Current();
+    const bool first = next.frames.Empty();
+    if (!kirto::InsertFrame(next, position, std::make_shared<const Frame>(std::move(frame)))) {
+        return false;
+    }
+    Commit(std::move(next));
+    PostInserted(first);
+    return true;
+}
+
+void AnimationDocument::InsertFrameAsCurrent(int32 position, Frame frame) {
+    kirto::Animation next = *Current();
+    const bool first = next.frames.Empty();
+    if (first && prefs.global_setdimensions) {
+        next.width = frame.width;
+        next.height = frame.height;
+    }
+    next.selected = std::clamp(position, 0, next.frames.Size());
+    next.frames.Insert(next.selected, std::make_shared<const Frame>(std::move(frame)));
+    CommitModified(std::move(next));
+    PostInserted(first);
+}
+
+void AnimationDocument::PostInserted(bool first) const {
+    if (first) PostThumbnailSize();
+    PostToWindow(kirto::kUpdateFramesNoStatus);
+}
+
+void AnimationDocument::RemoveFrame() {
+    kirto::Animation next = *Current();
+    if (kirto::RemoveCurrentFrame(next)) CommitModified(std::move(next));
+}
+
+void AnimationDocument::MoveFrame(bool up) {
+    kirto::Animation next = *Current();
+    if (kirto::MoveCurrentFrame(next, up)) CommitModified(std::move(next));
+}
+
+void AnimationDocument::ReverseFrames() {
+    Change([](kirto::Animation& animation) { kirto::ReverseFrames(animation); });
+}
+
+bool AnimationDocument::Select(int32 i) {
+    kirto::Animation next = *Current();
+    if (!kirto::SelectFrame(next, i)) return false;
+    Commit(std::move(next));
+    return true;
 }
 
 void AnimationDocument::UpdateGlobalPalette() {
-    const kirto::WriterScope writer(*this);
-    global_palette->UpdateIfNeeded(PictureOf(first_frame), PictureOf(CurrentFrame()));
-}
-
-void AnimationDocument::Relink() {
-    first_frame = nullptr;
-    frame_count = static_cast<int32>(frames_.size());
-    for (int32 i = frame_count - 1; i >= 0; --i) {
-        Frame* frame = frames_[static_cast<size_t>(i)].get();
-        frame->index = i;
-        frame->next = first_frame;
-        first_frame = frame;
-    }
-}
-
-void AnimationDocument::ReaderEnter() {
-    if (acquire_sem(frame_sem) != B_OK) return;
-    ++reader_count;
-    release_sem(frame_sem);
-}
-
-void AnimationDocument::ReaderExit() {
-    if (acquire_sem(frame_sem) != B_OK) return;
-    reader_count = std::max(reader_count - 1, 0);
-    release_sem(frame_sem);
-}
-
-void AnimationDocument::WriterEnter() {
-    status_t status = acquire_sem(frame_sem);
-    while (status == B_OK && reader_count != 0) {
-        release_sem(frame_sem);
-        snooze(kWriterPollInterval);
-        status = acquire_sem(frame_sem);
-    }
-    writer_inside_ = status == B_OK;
-}
-
-void AnimationDocument::WriterExit() {
-    writer_inside_ = false;
-    release_sem(frame_sem);
-}
-
-bool AnimationDocument::TryReaderEnter() {
-    status_t status = try_acquire_sem(frame_sem);
-    // Only a writer keeps the semaphore; others have it for the moment that counting takes.
-    while (status == B_WOULD_BLOCK && !writer_inside_) {
-        std::this_thread::yield();
-        status = try_acquire_sem(frame_sem);
-    }
-    if (status != B_OK) return false;
-    ++reader_count;
-    release_sem(frame_sem);
-    return true;
+    Change([](kirto::Animation& animation) {
+        kirto::EditPalette(animation, [&animation](Palette& palette) {
+            palette.UpdateIfNeeded(PictureOf(animation.FirstFrame()),
+                                   PictureOf(animation.CurrentFrame()));
+        });
+    });
 }
 
 void AnimationDocument::PostStatus(const std::string& text) const {

@@ -2,79 +2,72 @@
 
 #include <atomic>
 #include <memory>
+#include <mutex>
 #include <string>
-#include <vector>
 
-#include "color/palette.h"
-#include "document/frame.h"
+#include "animation/animation.h"
+#include "document/document_lock.h"
+#include "document/document_state.h"
 #include "platform/messenger.h"
-#include "platform/semaphore.h"
 #include "platform/types.h"
 #include "settings/prefs.h"
 
-// The open animation: its frames, selection and global properties, and the reader/writer lock that
-// guards them. All edits run on one thread (the application's); other threads read between
-// ReaderEnter and ReaderExit (see ReaderScope). The lock is not re-entrant.
-//
-// While no writer is inside: frame i of the list has index i, and selected is -1 exactly when the
-// list is empty.
-class AnimationDocument {
+// The open document: the owner of the one current animation. What it owns is constant; a change is
+// a new animation that takes the current one's place. Changes are made on one thread, the
+// application's, and any thread may read the state of the last change without waiting.
+class AnimationDocument : public DocumentLock {
   public:
-    int32 global_height = 0;  // canvas, pixels
-    int32 global_width = 0;   // canvas, pixels
-    int32 loop_count = 0;     // 0: for ever
-    bool use_pause_global = false;
-    bool use_loop = false;
-    std::atomic<bool> modified = false;  // changed since the last reset, open or save
-    // The serial number of the last edit of a window's that is carried out. A window that numbers
-    // its edits knows by it which of them the document does not show yet.
-    std::atomic<int32> edits_done = 0;
-    double pause_length_global = 0.0;  // same unit as Frame::pause_length
-    std::string file_name;             // "untitled" after a reset; at most 255 bytes
-    std::string file_directory;        // empty after a reset
-    std::unique_ptr<Palette> global_palette;
-    int32 frame_count = 0;
-    int32 selected = -1;
-    bool open_panel_delivered = false;  // the open panel's next cancel notice is no real cancel
-    Frame* first_frame = nullptr;
-    sem_id frame_sem = -1;
-    int32 reader_count = 0;
-
     // The settings must outlive the document. window receives the refresh commands; it may be
-    // invalid. Ends with Reset().
+    // invalid. Calls Reset() last.
     explicit AnimationDocument(Prefs& settings, BMessenger window_messenger = {});
     virtual ~AnimationDocument();
-    AnimationDocument(const AnimationDocument&) = delete;
-    AnimationDocument& operator=(const AnimationDocument&) = delete;
 
-    Prefs& prefs;
+    Prefs& prefs;  // the application thread's; others read the copy in the state
     BMessenger window;
     // Counts the pixel memory of this document's frames.
     const std::shared_ptr<kirto::PixelBudget> pixel_budget;
 
-    // Empties the document and takes its properties from the settings, under the writer lock. An
-    // unreadable palette file is reported by an alert, and the palette becomes web safe.
-    void Reset();
+    // The document as it is now. Thread-safe; never null; never waits for a change to be made.
+    std::shared_ptr<const kirto::DocumentState> CurrentState() const;
+    std::shared_ptr<const kirto::Animation> Current() const { return CurrentState()->animation; }
+    int32 FrameCount() const { return Current()->frames.Size(); }
+    kirto::FramePointer FirstFrame() const { return Current()->FirstFrame(); }
+    kirto::FramePointer FrameAt(int32 i) const { return Current()->frames.At(i); }
+    kirto::FramePointer CurrentFrame() const { return Current()->CurrentFrame(); }
+    int32 Selected() const { return Current()->selected; }
+    bool Modified() const { return CurrentState()->modified; }
 
-    // Queries. They do not lock; the caller is inside the lock or on the editing thread.
-    int32 FrameCount() const { return frame_count; }
-    Frame* FirstFrame() const { return first_frame; }
-    int32 Selected() const { return selected; }
-    Frame* CurrentFrame() const { return FrameAt(selected); }
-    // Null outside 0..frame_count - 1.
-    Frame* FrameAt(int32 i) const;
-    // The first frame that is wider or taller than the canvas, or null.
-    const Frame* FrameLargerThanCanvas() const;
-    // Edits. Each takes the writer lock itself.
-    // Inserts the frame at its own index and posts 'auns' (before it, into an empty list, the
-    // thumbnail-size command). True: the document owns the frame now. False: the index is outside
-    // 0..frame_count, nothing happened and the frame is still the caller's.
-    bool InsertFrame(Frame* frame);
-    // Inserts the frame at its own index, clamped to the list, takes ownership and makes it the
-    // current frame; the document is modified then. Into an empty list it also gives the canvas its
-    // size, where the setting "global_setdimensions" says so. Posts as InsertFrame does.
-    void InsertFrameAsCurrent(Frame* frame);
-    // Deletes the current frame.
+    // All that follows is for the application thread.
+
+    // Makes next the document's animation, as the lock's writer. The modified flag stays, or is
+    // set.
+    void Commit(kirto::Animation next);
+    void CommitModified(kirto::Animation next);
+    // Commits a copy of the current animation that edit has changed.
+    template <typename Edit>
+    void Change(Edit edit) {
+        kirto::Animation next = *Current();
+        edit(next);
+        Commit(std::move(next));
+    }
+    void SetModified(bool changed);
+    // The name is cut at a whole UTF-8 character where it is too long.
+    void SetFile(const std::string& directory, const std::string& name);
+    void SetEditsDone(int32 serial);
+    // Makes the settings as they are now part of the state.
+    void PublishSettings();
+
+    // Empties the document and takes its properties from the settings. An unreadable palette file
+    // is reported by an alert, and the palette becomes web safe.
+    void Reset();
+    // Inserts the frame at the position and posts 'auns' (before it, where the list was empty, the
+    // thumbnail-size command). False: the position is outside 0..FrameCount(), nothing happened.
+    bool InsertFrame(int32 position, Frame frame);
+    // Inserts the frame at the position, clamped to the list, and makes it the current frame; the
+    // document is modified then. Into an empty list it also gives the canvas its size, where the
+    // setting "global_setdimensions" says so. Posts as InsertFrame does.
+    void InsertFrameAsCurrent(int32 position, Frame frame);
+    // Removes the current frame.
     void RemoveFrame();
     // Swaps the current frame with the one before (up) or after it; the selection follows.
     void MoveFrame(bool up);
@@ -82,19 +75,8 @@ class AnimationDocument {
     void ReverseFrames();
     // Makes frame i current; true only if the selection changed.
     bool Select(int32 i);
-    void SetModified(bool changed);
     // Lets the global palette follow the first or the current frame, where its kind says so.
     void UpdateGlobalPalette();
-
-    // Readers never exclude each other and are excluded by a writer; a writer waits until no reader
-    // is inside, looking every millisecond, with no priority.
-    void ReaderEnter();
-    void ReaderExit();
-    void WriterEnter();
-    void WriterExit();
-    // Enters as a reader unless a writer is inside; true when entered. Never waits for a writer's
-    // work, for threads that must not block.
-    bool TryReaderEnter();
 
     // Posts a command without fields to the window.
     void PostToWindow(uint32 what) const { window.SendMessage(what); }
@@ -108,13 +90,16 @@ class AnimationDocument {
     bool StopRequested() const { return stop_requested_; }
 
   private:
-    // Links the frame in at its index, which is within 0..frame_count.
-    void Link(Frame* frame);
-    // Renews count, indices and links after the order of frames_ changed.
-    void Relink();
-    void ResetPalette();
+    void PostInserted(bool first) const;
+    void Publish(kirto::DocumentState next);
+    template <typename Edit>
+    void ChangeState(Edit edit) {
+        kirto::DocumentState next = *CurrentState();
+        edit(next);
+        Publish(std::move(next));
+    }
 
     std::atomic<bool> stop_requested_ = false;
-    std::vector<std::unique_ptr<Frame>> frames_;  // owns the list's frames, in order
-    std::atomic<bool> writer_inside_ = false;
+    mutable std::mutex state_mutex_;  // held for as long as a pointer is copied
+    std::shared_ptr<const kirto::DocumentState> state_;
 };

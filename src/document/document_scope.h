@@ -3,7 +3,7 @@
 
 #include <cassert>
 
-#include "document/animation_document.h"
+#include "document/document_lock.h"
 
 namespace kirto {
 
@@ -11,73 +11,27 @@ namespace kirto {
 // twice hangs only when another thread comes between; counting makes the mistake fail every time.
 inline thread_local int32 t_scopes_held = 0;
 
-// Inside as a reader while it lives. Leave() and Enter() step out and in again, for code that must
-// let a writer through half-way.
-class ReaderScope {
+// Inside while it lives: as a reader or as the writer.
+template <void (DocumentLock::*Enter)(), void (DocumentLock::*Exit)()>
+class DocumentScope {
   public:
-    explicit ReaderScope(AnimationDocument& document) : document_(document) { Enter(); }
-    ~ReaderScope() { Leave(); }
-    ReaderScope(const ReaderScope&) = delete;
-    ReaderScope& operator=(const ReaderScope&) = delete;
-
-    void Enter() {
-        if (inside_) return;
+    explicit DocumentScope(DocumentLock& lock) : lock_(lock) {
         assert(t_scopes_held == 0);
-        document_.ReaderEnter();
-        ++t_scopes_held;
-        inside_ = true;
-    }
-    void Leave() {
-        if (!inside_) return;
-        document_.ReaderExit();
-        --t_scopes_held;
-        inside_ = false;
-    }
-
-  private:
-    AnimationDocument& document_;
-    bool inside_ = false;
-};
-
-// Inside as a reader if no writer was when it was made; check Entered() before reading.
-class TryReaderScope {
-  public:
-    explicit TryReaderScope(AnimationDocument& document)
-        : document_(document), entered_(document.TryReaderEnter()) {
-        if (entered_) ++t_scopes_held;
-    }
-    ~TryReaderScope() {
-        if (!entered_) return;
-        document_.ReaderExit();
-        --t_scopes_held;
-    }
-    TryReaderScope(const TryReaderScope&) = delete;
-    TryReaderScope& operator=(const TryReaderScope&) = delete;
-
-    bool Entered() const { return entered_; }
-
-  private:
-    AnimationDocument& document_;
-    bool entered_;
-};
-
-// Inside as the writer while it lives.
-class WriterScope {
-  public:
-    explicit WriterScope(AnimationDocument& document) : document_(document) {
-        assert(t_scopes_held == 0);
-        document_.WriterEnter();
+        (lock_.*Enter)();
         ++t_scopes_held;
     }
-    ~WriterScope() {
-        document_.WriterExit();
+    ~DocumentScope() {
+        (lock_.*Exit)();
         --t_scopes_held;
     }
-    WriterScope(const WriterScope&) = delete;
-    WriterScope& operator=(const WriterScope&) = delete;
+    DocumentScope(const DocumentScope&) = delete;
+    DocumentScope& operator=(const DocumentScope&) = delete;
 
   private:
-    AnimationDocument& document_;
+    DocumentLock& lock_;
 };
+
+using ReaderScope = DocumentScope<&DocumentLock::ReaderEnter, &DocumentLock::ReaderExit>;
+using WriterScope = DocumentScope<&DocumentLock::WriterEnter, &DocumentLock::WriterExit>;
 
 }  // namespace kirto

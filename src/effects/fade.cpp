@@ -2,9 +2,8 @@
 
 #include <algorithm>
 #include <memory>
-#include <new>
+#include <optional>
 
-#include "document/document_scope.h"
 #include "effects/fade_kernels.h"
 #include "platform/alert.h"
 #include "platform/text.h"
@@ -15,7 +14,7 @@ namespace {
 
 constexpr int32 kNamesPerFade = 100;
 
-bool IsBlendable(const Frame* frame) {
+bool IsBlendable(const FramePointer& frame) {
     return frame && frame->bitmap && frame->bitmap->Bits() && Is32Bit(frame->bitmap->ColorSpace());
 }
 
@@ -35,26 +34,32 @@ void BlendFrames(const BBitmap& current, const BBitmap& other, BBitmap* target, 
     }
 }
 
-// The picture of frame i of the fade, or null when memory is short.
-std::shared_ptr<BBitmap> MakePicture(AnimationDocument& document, FadeMode mode, float f,
-                                     const BBitmap& current, const Frame* other, rgb_color color) {
-    auto picture = std::make_shared<BBitmap>(BRect::OfSize(current.Width(), current.Height()),
-                                             B_RGB32, document.pixel_budget);
-    if (picture->InitCheck() != B_OK) return nullptr;
-    if (other) {
-        BlendFrames(current, *other->bitmap, picture.get(), f);
+// What a fade is made of.
+struct FadePlan {
+    FadeMode mode;
+    rgb_color color;
+    FramePointer current;
+    FramePointer other;  // the neighbour; null for fades of a colour
+};
+
+// A frame of the fade, or none when memory is short.
+std::optional<Frame> MakeFrame(const FadePlan& plan, const std::string& name, float f,
+                               std::shared_ptr<PixelBudget> budget) {
+    const BBitmap& current = *plan.current->bitmap;
+    const auto picture = std::make_shared<BBitmap>(
+        BRect::OfSize(current.Width(), current.Height()), B_RGB32, std::move(budget));
+    if (picture->InitCheck() != B_OK) return std::nullopt;
+    if (plan.other) {
+        BlendFrames(current, *plan.other->bitmap, picture.get(), f);
     } else {
         FadeToRGB(current.Bits(), current.ColorSpace(), picture->Bits(), current.Width(),
-                  current.Height(), f, mode == FadeMode::kToColor, color);
+                  current.Height(), f, plan.mode == FadeMode::kToColor, plan.color);
     }
-    return picture;
-}
-
-std::unique_ptr<Frame> MakeFrame(const std::string& name, const BBitmap& picture, int32 index) {
-    if (AllocationShouldFail()) return nullptr;
-    std::unique_ptr<Frame> frame(new (std::nothrow)
-                                     Frame(name, picture.Width(), picture.Height(), index));
-    return frame && !frame->init_failed ? std::move(frame) : nullptr;
+    Frame frame(name, picture->Width(), picture->Height());
+    frame.palette = SharePalette(Palette(static_cast<const BBitmap*>(picture.get())));
+    if (!frame.palette) return std::nullopt;
+    frame.bitmap = picture;
+    return frame;
 }
 
 }  // namespace
@@ -77,38 +82,26 @@ float FadeFactor(FadeMode mode, int32 i, int32 count) {
 
 void Fade(AnimationDocument& document, FadeMode mode, int32 count, rgb_color color,
           int32* name_base) {
-    ReaderScope reader(document);
-    const Frame* current = document.CurrentFrame();
-    if (!IsBlendable(current)) return;
-    // The pixels are shared, so they stay whatever happens to the list between two insertions.
-    const std::shared_ptr<const BBitmap> picture = current->bitmap;
+    const auto before = document.Current();
+    FadePlan plan{mode, color, before->CurrentFrame(), nullptr};
+    if (!IsBlendable(plan.current)) return;
     const bool between = mode == FadeMode::kToNext || mode == FadeMode::kFromPrevious;
     const bool after = mode == FadeMode::kToColor || mode == FadeMode::kToNext;
-    const Frame* other = nullptr;
     if (between) {
-        other = document.FrameAt(after ? current->index + 1 : current->index - 1);
-        if (!IsBlendable(other)) return;
+        plan.other = before->frames.At(before->selected + (after ? 1 : -1));
+        if (!IsBlendable(plan.other)) return;
     }
-    int32 position = after ? current->index + 1 : current->index;
+    int32 position = before->selected + (after ? 1 : 0);
     for (int32 i = 0; i < count && !document.StopRequested(); ++i) {
-        const std::string name = Format("fade%04d", *name_base + i);
-        std::unique_ptr<Frame> frame = MakeFrame(name, *picture, position);
-        if (frame) {
-            document.PostStatus(Format("Status: generating frame %d of %d...", i + 1, count));
-            frame->bitmap =
-                MakePicture(document, mode, FadeFactor(mode, i, count), *picture, other, color);
-        }
-        if (!frame || !frame->bitmap) {
+        document.PostStatus(Format("Status: generating frame %d of %d...", i + 1, count));
+        auto frame = MakeFrame(plan, Format("fade%04d", *name_base + i),
+                               FadeFactor(mode, i, count), document.pixel_budget);
+        if (!frame) {
             WarnOutOfMemory();
             return;
         }
-        frame->palette->Set(frame->bitmap.get());
-        reader.Leave();
-        if (document.InsertFrame(frame.get())) static_cast<void>(frame.release());
-        reader.Enter();
-        ++position;
+        document.InsertFrame(position++, std::move(*frame));
     }
-    reader.Leave();
     document.SetModified(true);
     *name_base += kNamesPerFade;
 }

@@ -20,7 +20,7 @@ float FadeFactor(FadeMode mode, int32 i, int32 count);
 // Inserts count new frames and marks the document modified. Without a current frame or the
 // neighbour that the mode needs, nothing happens. Where the neighbour is smaller than the current
 // frame, the current frame's pixels are kept; pictures are aligned at the top left. Runs on the
-// editing thread, outside the document's lock. *name_base numbers the frames' names and grows by
+// application's thread. *name_base numbers the frames' names and grows by
 // 100 after a fade that ran to its end; running out of memory is reported and ends the fade, the
 // frames inserted so far stay.
 void Fade(AnimationDocument& document, FadeMode mode, int32 count, rgb_color color,

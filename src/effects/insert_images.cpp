@@ -1,9 +1,8 @@
 #include "effects/insert_images.h"
 
 #include <algorithm>
-#include <memory>
-#include <new>
 
+#include "animation/frame.h"
 #include "platform/alert.h"
 #include "platform/text.h"
 
@@ -16,14 +15,7 @@ constexpr int32 kBehindCurrent = -1;
 int32 PositionIn(const AnimationDocument& document, const BMessage& message) {
     int32 position = kBehindCurrent;
     message.FindInt32("position", &position);
-    return position == kBehindCurrent ? document.selected + 1 : position;
-}
-
-std::unique_ptr<Frame> MakeFrame(AnimationDocument& document, const entry_ref& ref, int32 position,
-                                 BTranslatorRoster& roster) {
-    if (AllocationShouldFail()) return nullptr;
-    return std::unique_ptr<Frame>(new (std::nothrow) Frame(ref.path.c_str(), ref.Leaf(), position,
-                                                           roster, document.pixel_budget));
+    return position == kBehindCurrent ? document.Selected() + 1 : position;
 }
 
 }  // namespace
@@ -36,17 +28,19 @@ void InsertImages(AnimationDocument& document, const BMessage& message, BTransla
         entry_ref ref;
         if (message.FindRef("refs", &ref, i) != B_OK) return;
         position = std::clamp(position, 0, document.FrameCount());
-        std::unique_ptr<Frame> frame = MakeFrame(document, ref, position, roster);
-        if (!frame) {
+        Frame frame;
+        const status_t status =
+            Frame::Read(ref.path, ref.Leaf(), roster, document.pixel_budget, &frame);
+        if (status == B_NO_MEMORY) {
             WarnOutOfMemory();
             return;
         }
-        if (frame->init_failed) {
+        if (status != B_OK) {
             Warn("This file can't be inserted because this file type is unsupported: " +
                  ref.Leaf());
             continue;
         }
-        document.InsertFrameAsCurrent(frame.release());
+        document.InsertFrameAsCurrent(position, std::move(frame));
         ++position;
     }
 }

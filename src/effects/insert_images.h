@@ -11,7 +11,7 @@ namespace kirto {
 // the int32 "position" says (clamped to the list; -1 and no field mean behind the current frame),
 // and makes the last one current. Files that no translator reads are reported and passed over; what
 // is no file name ends the insertion, and so does running out of memory, which is reported. Runs on
-// the editing thread, outside the document's lock; the frames inserted so far stay.
+// the application's thread; the frames inserted so far stay.
 void InsertImages(AnimationDocument& document, const BMessage& message, BTranslatorRoster& roster);
 
 }  // namespace kirto

@@ -2,9 +2,8 @@
 
 #include <cstring>
 #include <memory>
-#include <new>
+#include <optional>
 
-#include "document/document_scope.h"
 #include "platform/alert.h"
 #include "platform/text.h"
 
@@ -41,21 +40,19 @@ TilePlace PlaceOf(int32 tile, const TileGrid& grid) {
     return {tile / grid.columns, tile % grid.columns};
 }
 
-// A frame of one tile, or null when memory is short.
-std::unique_ptr<Frame> MakeTile(AnimationDocument& document, const BBitmap& picture, int32 tile,
-                                const TileGrid& grid, int32 position) {
-    const int32 width = picture.Width() / grid.columns;
-    const int32 height = picture.Height() / grid.rows;
-    if (AllocationShouldFail()) return nullptr;
-    std::unique_ptr<Frame> frame(new (std::nothrow)
-                                     Frame(Format("tiled%04d", tile), width, height, position));
-    if (!frame || frame->init_failed) return nullptr;
-    frame->bitmap = std::make_shared<BBitmap>(BRect::OfSize(width, height), picture.ColorSpace(),
-                                              document.pixel_budget);
-    if (frame->bitmap->InitCheck() != B_OK) return nullptr;
+// A frame of one tile, or none when memory is short.
+std::optional<Frame> MakeTile(const BBitmap& picture, int32 tile, const TileGrid& grid,
+                              std::shared_ptr<PixelBudget> budget) {
+    Frame frame(Format("tiled%04d", tile), picture.Width() / grid.columns,
+                picture.Height() / grid.rows);
+    const auto bitmap = std::make_shared<BBitmap>(BRect::OfSize(frame.width, frame.height),
+                                                  picture.ColorSpace(), std::move(budget));
+    if (bitmap->InitCheck() != B_OK) return std::nullopt;
     const TilePlace place = PlaceOf(tile, grid);
-    CopyTile(picture, place.row, place.column, frame->bitmap.get());
-    frame->palette->Set(frame->bitmap.get());
+    CopyTile(picture, place.row, place.column, bitmap.get());
+    frame.palette = SharePalette(Palette(static_cast<const BBitmap*>(bitmap.get())));
+    if (!frame.palette) return std::nullopt;
+    frame.bitmap = bitmap;
     return frame;
 }
 
@@ -75,7 +72,7 @@ void InsertTiles(AnimationDocument& document, const entry_ref* ref, const TileGr
         Warn(kIllegalGrid);
         return;
     }
-    int32 position = document.selected >= 0 ? document.selected + 1 : 0;
+    int32 position = document.Selected() + 1;
     if (!ref) return;
     const std::shared_ptr<BBitmap> picture = ReadPicture(document, *ref, roster);
     if (!picture) return;
@@ -87,18 +84,19 @@ void InsertTiles(AnimationDocument& document, const entry_ref* ref, const TileGr
     const int32 count = static_cast<int32>(tiles);
     for (int32 tile = 0; tile < count && !document.StopRequested(); ++tile) {
         document.PostStatus(Format("Status: loading tile %d of %d...", tile + 1, count));
-        std::unique_ptr<Frame> frame = MakeTile(document, *picture, tile, grid, position);
+        auto frame = MakeTile(*picture, tile, grid, document.pixel_budget);
         if (!frame) {
             WarnOutOfMemory();
             return;
         }
         const int32 width = frame->width;
         const int32 height = frame->height;
-        if (document.InsertFrame(frame.get())) static_cast<void>(frame.release());
+        document.InsertFrame(position, std::move(*frame));
         if (position == 0 && document.prefs.global_setdimensions) {
-            const WriterScope writer(document);
-            document.global_width = width;
-            document.global_height = height;
+            document.Change([width, height](Animation& animation) {
+                animation.width = width;
+                animation.height = height;
+            });
         }
         ++position;
     }

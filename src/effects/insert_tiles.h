@@ -22,7 +22,7 @@ void CopyTile(const BBitmap& picture, int32 row, int32 column, BBitmap* tile);
 // and the bottom belongs to no tile) and inserts each as a frame behind the current one. Grids
 // without rows or columns, or with more of them than pixels, unreadable files and running out of
 // memory are reported; in the last case the tiles inserted so far stay. Without a file (null) a
-// sound grid does nothing. Runs on the editing thread, outside the document's lock.
+// sound grid does nothing. Runs on the application's thread.
 void InsertTiles(AnimationDocument& document, const entry_ref* ref, const TileGrid& grid,
                  BTranslatorRoster& roster);
 

@@ -2,9 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
-#include <new>
 
-#include "document/document_scope.h"
 #include "formats/fli_packets.h"
 #include "formats/fli_pixel_writer.h"
 #include "platform/byte_order.h"
@@ -45,12 +43,6 @@ void MarkReadFromFile(Palette* palette) {
     palette->mode = kirto::kPaletteFromFile;
     palette->size = 256;
     palette->bits = 8;
-}
-
-void TakeLocalPalette(Frame* frame, const Palette& source) {
-    frame->palette->colors = source.colors;
-    frame->local_palette = true;
-    MarkReadFromFile(frame->palette.get());
 }
 
 // Whether a picture's pixels have the byte order of the decoder's own.
@@ -111,12 +103,15 @@ bool FliLoad::ReadFliHeader() {
         return false;
     }
     frame_count_ = kirto::ReadLittle16(header + 6);
-    const kirto::WriterScope writer(document_);
-    document_.global_width = kirto::ReadLittle16(header + 8);
-    document_.global_height = kirto::ReadLittle16(header + 10);
+    width_ = kirto::ReadLittle16(header + 8);
+    height_ = kirto::ReadLittle16(header + 10);
     const double seconds = kirto::ReadLittle16(header + 16) / (is_fli ? 70.0 : 1000.0);
-    document_.pause_length_global =
-        document_.prefs.global_pauseinseconds ? seconds : seconds * 100.0;
+    pause_ = document_.prefs.global_pauseinseconds ? seconds : seconds * 100.0;
+    document_.Change([this](kirto::Animation& animation) {
+        animation.width = width_;
+        animation.height = height_;
+        animation.pause_length = pause_;
+    });
     return true;
 }
 
@@ -144,7 +139,7 @@ bool FliLoad::ReadRecord(int32 index) {
         return true;
     }
     if (chunk_count_ == 0) return ShowPreviousFrameLonger();
-    if (!ReadFliFrameData(index, position_)) return false;
+    if (!ReadFliFrameData(index)) return false;
     ++position_;
     return true;
 }
@@ -159,61 +154,55 @@ bool FliLoad::ReadFLCNewFrame() {
 
 // A record without chunks repeats the picture: instead of another frame, the last one waits longer.
 bool FliLoad::ShowPreviousFrameLonger() {
-    const kirto::WriterScope writer(document_);
-    Frame* frame = document_.FrameAt(position_ - 1);
-    if (!frame) return false;
-    if (frame->use_pause) {
-        frame->pause_length += document_.pause_length_global;
-    } else {
-        frame->use_pause = true;
-        frame->pause_length = document_.pause_length_global * 2;
-    }
+    if (!document_.FrameAt(position_ - 1)) return false;
+    document_.Change([this](kirto::Animation& animation) {
+        kirto::EditFrame(animation, position_ - 1, [this](Frame& frame) {
+            frame.pause_length = frame.use_pause ? frame.pause_length + pause_ : pause_ * 2;
+            frame.use_pause = true;
+        });
+    });
     return true;
 }
 
-bool FliLoad::ReadFliFrameData(int32 index, int32 position) {
-    std::unique_ptr<Frame> frame = NewFrame(index, position);
-    if (!frame) return false;
+bool FliLoad::ReadFliFrameData(int32 index) {
+    if (!StartFrame(index)) return false;
     blank_ = index == 0;
-    if (!blank_ && !CopyPreviousFrame(frame.get(), position)) return false;
+    if (!blank_ && !CopyPreviousFrame()) return false;
     for (int32 i = 0; i < chunk_count_; ++i) {
-        if (!ReadChunk(frame.get(), position)) return false;
+        if (!ReadChunk()) return false;
     }
     // A record whose chunks claim more than it holds ends where it says. Bytes that no chunk covers
     // are deliberately not skipped: the next record follows the last chunk.
     bytes_left_ -= kRecordHeaderSize;
     if (bytes_left_ < 0 && !input_.Skip(bytes_left_)) return false;
-    StartPicture(frame.get());
-    FinishPalette(frame.get());
-    if (!document_.InsertFrame(frame.get())) return false;
-    static_cast<void>(frame.release());
-    return true;
+    StartPicture();
+    return FinishFrame();
 }
 
-std::unique_ptr<Frame> FliLoad::NewFrame(int32 index, int32 position) {
-    if (kirto::AllocationShouldFail()) return nullptr;
-    const int32 width = document_.global_width;
-    const int32 height = document_.global_height;
-    std::unique_ptr<Frame> frame(
-        new (std::nothrow) Frame(kirto::Format("frame%04d", index), width, height, position));
-    if (!frame || frame->init_failed) return nullptr;
-    frame->bitmap =
-        std::make_shared<BBitmap>(BRect::OfSize(width, height), B_RGB32, document_.pixel_budget);
-    if (frame->bitmap->InitCheck() != B_OK) return nullptr;
-    input_.Allow(kFillsPerFrame * static_cast<int64>(frame->bitmap->BitsLength()));
-    if (!input_.Spend(kFrameCost)) return nullptr;
-    return frame;
+bool FliLoad::StartFrame(int32 index) {
+    frame_ = Frame(kirto::Format("frame%04d", index), width_, height_);
+    local_palette_ = Palette();
+    picture_ = std::make_shared<BBitmap>(BRect::OfSize(width_, height_), B_RGB32,
+                                         document_.pixel_budget);
+    if (picture_->InitCheck() != B_OK) return false;
+    input_.Allow(kFillsPerFrame * static_cast<int64>(picture_->BitsLength()));
+    return input_.Spend(kFrameCost);
 }
 
 // Of a picture of another size as many pixels as fit are copied, without regard to its rows.
-bool FliLoad::CopyPreviousFrame(Frame* frame, int32 position) {
-    const kirto::ReaderScope reader(document_);
-    const Frame* previous = document_.FrameAt(position - 1);
+bool FliLoad::CopyPreviousFrame() {
+    const kirto::FramePointer previous = document_.FrameAt(position_ - 1);
     if (!previous || !HasPixelsToCopy(previous->bitmap.get())) return false;
-    std::memcpy(frame->bitmap->Bits(), previous->bitmap->Bits(),
-                std::min(frame->bitmap->BitsLength(), previous->bitmap->BitsLength()));
-    if (previous->local_palette) TakeLocalPalette(frame, *previous->palette);
+    std::memcpy(picture_->Bits(), previous->bitmap->Bits(),
+                std::min(picture_->BitsLength(), previous->bitmap->BitsLength()));
+    if (previous->local_palette) TakeLocalPalette(*previous->palette);
     return true;
+}
+
+void FliLoad::TakeLocalPalette(const Palette& source) {
+    local_palette_.colors = source.colors;
+    MarkReadFromFile(&local_palette_);
+    frame_.local_palette = true;
 }
 
 bool FliLoad::ReadChunkHeader(Chunk* chunk) {
@@ -228,25 +217,25 @@ int64 FliLoad::Chunk::DataSize() const {
     return size - kChunkHeaderSize;
 }
 
-bool FliLoad::ReadChunk(Frame* frame, int32 position) {
+bool FliLoad::ReadChunk() {
     Chunk chunk;
     if (!ReadChunkHeader(&chunk)) return false;
     bytes_left_ -= chunk.size;
     switch (chunk.type) {
         case kChunkColor256:
-            return ReadFliCOLORChunk(frame, chunk.DataSize(), position, true);
+            return ReadFliCOLORChunk(chunk.DataSize(), true);
         case kChunkDelta:
-            return ReadFliDELTAChunk(frame, chunk.DataSize());
+            return ReadFliDELTAChunk(chunk.DataSize());
         case kChunkColor64:
-            return ReadFliCOLORChunk(frame, chunk.DataSize(), position, false);
+            return ReadFliCOLORChunk(chunk.DataSize(), false);
         case kChunkLc:
-            return ReadFliLCChunk(frame, chunk.DataSize());
+            return ReadFliLCChunk(chunk.DataSize());
         case kChunkBlack:
-            return ReadFliBLACKChunk(frame);
+            return ReadFliBLACKChunk();
         case kChunkBrun:
-            return ReadFliBRUNChunk(frame, chunk.DataSize());
+            return ReadFliBRUNChunk(chunk.DataSize());
         case kChunkCopy:
-            return ReadFliCOPYChunk(frame);
+            return ReadFliCOPYChunk();
         case kChunkMini:
             return ReadFliMINIChunk(chunk.DataSize());
         default:
@@ -260,44 +249,50 @@ bool FliLoad::SkipUnknownChunk(const Chunk& chunk) {
     return input_.Skip(chunk.DataSize());
 }
 
-void FliLoad::FinishPalette(Frame* frame) {
-    Palette& palette = *frame->palette;
-    if (frame->local_palette) {
-        palette.unique_colors = palette.CountUniqueColors(frame->bitmap.get());
+// Gives the frame its palette and its pixels, and the document the frame.
+bool FliLoad::FinishFrame() {
+    const BBitmap* picture = picture_.get();
+    if (frame_.local_palette) {
+        local_palette_.unique_colors = local_palette_.CountUniqueColors(picture);
     } else {
-        palette.Set(frame->bitmap.get());
+        local_palette_.Set(picture);
     }
+    frame_.palette = kirto::SharePalette(local_palette_);
+    frame_.bitmap = std::move(picture_);
+    return frame_.palette && document_.InsertFrame(position_, std::move(frame_));
 }
 
 // The document's first frame defines the global palette, any other frame one of its own. Pixels
 // already drawn keep their colours either way.
-bool FliLoad::ReadFliCOLORChunk(Frame* frame, int64 size, int32 position, bool full8bit) {
+bool FliLoad::ReadFliCOLORChunk(int64 size, bool full8bit) {
     std::span<const uint8> data;
     if (!input_.ReadBlock(size, &data)) return false;
-    if (position == 0) {
-        const kirto::WriterScope writer(document_);
-        MarkReadFromFile(document_.global_palette.get());
-        ReadColorPackets(data, full8bit, &document_.global_palette->colors);
+    if (position_ == 0) {
+        document_.Change([&](kirto::Animation& animation) {
+            kirto::EditPalette(animation, [&](Palette& palette) {
+                MarkReadFromFile(&palette);
+                ReadColorPackets(data, full8bit, &palette.colors);
+            });
+        });
         return true;
     }
-    if (!frame->local_palette && !TakePreviousPalette(frame, position)) return false;
-    ReadColorPackets(data, full8bit, &frame->palette->colors);
+    if (!frame_.local_palette && !TakePreviousPalette()) return false;
+    ReadColorPackets(data, full8bit, &local_palette_.colors);
     return true;
 }
 
-bool FliLoad::TakePreviousPalette(Frame* frame, int32 position) {
-    const kirto::ReaderScope reader(document_);
-    const Frame* previous = document_.FrameAt(position - 1);
+bool FliLoad::TakePreviousPalette() {
+    const kirto::FramePointer previous = document_.FrameAt(position_ - 1);
     if (!previous) return false;
-    TakeLocalPalette(frame, PaletteOf(previous));
+    TakeLocalPalette(previous->local_palette ? *previous->palette : *document_.Current()->palette);
     return true;
 }
 
-bool FliLoad::ReadFliLCChunk(Frame* frame, int64 size) {
+bool FliLoad::ReadFliLCChunk(int64 size) {
     std::span<const uint8> data;
     if (!input_.ReadBlock(size, &data)) return false;
     ByteReader reader(data);
-    FliPixelWriter writer = WriterFor(frame);
+    FliPixelWriter writer = Writer();
     int32 y = reader.U16();
     for (int32 lines = reader.U16(); lines > 0 && !reader.Overrun(); --lines, ++y) {
         writer.MoveToRow(y);
@@ -307,32 +302,32 @@ bool FliLoad::ReadFliLCChunk(Frame* frame, int64 size) {
 }
 
 // Rows are deliberately not aligned anew: each starts where the packets of the one before ended.
-bool FliLoad::ReadFliBRUNChunk(Frame* frame, int64 size) {
+bool FliLoad::ReadFliBRUNChunk(int64 size) {
     std::span<const uint8> data;
     if (!input_.ReadBlock(size, &data)) return false;
     ByteReader reader(data);
-    FliPixelWriter writer = WriterFor(frame);
-    for (int32 rows = frame->height; rows > 0 && !reader.Overrun(); --rows) {
+    FliPixelWriter writer = Writer();
+    for (int32 rows = height_; rows > 0 && !reader.Overrun(); --rows) {
         DrawPackets(kirto::DrawBrunPacket, reader.U8(), reader, writer);
     }
     return true;
 }
 
 // Takes one byte a pixel, whatever the chunk's size says.
-bool FliLoad::ReadFliCOPYChunk(Frame* frame) {
+bool FliLoad::ReadFliCOPYChunk() {
     std::span<const uint8> data;
-    if (!input_.ReadBlock(int64{frame->width} * frame->height, &data)) return false;
-    WriterFor(frame).Copy(data);
+    if (!input_.ReadBlock(int64{width_} * height_, &data)) return false;
+    Writer().Copy(data);
     return true;
 }
 
 // Every negative word skips lines, also in the form with the top bits 10 by which some writers set
 // the last pixel of a line of odd width.
-bool FliLoad::ReadFliDELTAChunk(Frame* frame, int64 size) {
+bool FliLoad::ReadFliDELTAChunk(int64 size) {
     std::span<const uint8> data;
     if (!input_.ReadBlock(size, &data)) return false;
     ByteReader reader(data);
-    FliPixelWriter writer = WriterFor(frame);
+    FliPixelWriter writer = Writer();
     int32 lines = reader.U16();
     for (int64 y = 0; lines > 0 && !reader.Overrun();) {
         const int32 word = reader.S16();
@@ -351,30 +346,28 @@ bool FliLoad::ReadFliMINIChunk(int64 size) {
     return input_.Skip(size);
 }
 
-bool FliLoad::ReadFliBLACKChunk(Frame* frame) {
-    if (!input_.Spend(static_cast<int64>(frame->bitmap->BitsLength()))) return false;
+bool FliLoad::ReadFliBLACKChunk() {
+    if (!input_.Spend(static_cast<int64>(picture_->BitsLength()))) return false;
     blank_ = true;
-    StartPicture(frame);
+    StartPicture();
     return true;
 }
 
-kirto::FliPixelWriter FliLoad::WriterFor(Frame* frame) {
-    StartPicture(frame);
-    return FliPixelWriter(*frame->bitmap, PaletteOf(frame));
+// For drawing into the current picture.
+kirto::FliPixelWriter FliLoad::Writer() {
+    StartPicture();
+    const auto animation = document_.Current();
+    return FliPixelWriter(*picture_, frame_.local_palette ? local_palette_ : *animation->palette);
 }
 
 // The file's first picture starts black, but only once there is something to draw into it: until
 // then a few bytes that claim a huge picture cost no memory.
-void FliLoad::StartPicture(Frame* frame) {
+void FliLoad::StartPicture() {
     if (!blank_) return;
     blank_ = false;
     static constexpr uint8 kOpaqueBlack[4] = {0, 0, 0, 255};
-    uint8* bits = frame->bitmap->Bits();
-    for (size_t i = 0; i < frame->bitmap->BitsLength(); i += sizeof(kOpaqueBlack)) {
+    uint8* bits = picture_->Bits();
+    for (size_t i = 0; i < picture_->BitsLength(); i += sizeof(kOpaqueBlack)) {
         std::memcpy(bits + i, kOpaqueBlack, sizeof(kOpaqueBlack));
     }
-}
-
-const Palette& FliLoad::PaletteOf(const Frame* frame) const {
-    return frame->local_palette ? *frame->palette : *document_.global_palette;
 }

@@ -2,8 +2,8 @@
 
 #include <memory>
 
+#include "animation/frame.h"
 #include "document/animation_document.h"
-#include "document/frame.h"
 #include "formats/fli_input.h"
 #include "formats/fli_pixel_writer.h"
 #include "platform/file.h"
@@ -36,27 +36,27 @@ class FliLoad {
     bool ReadRecord(int32 index);
     bool ReadFLCNewFrame();
     bool ShowPreviousFrameLonger();
-    bool ReadFliFrameData(int32 index, int32 position);
-    std::unique_ptr<Frame> NewFrame(int32 index, int32 position);
-    bool CopyPreviousFrame(Frame* frame, int32 position);
+    bool ReadFliFrameData(int32 index);
+    bool StartFrame(int32 index);
+    bool CopyPreviousFrame();
+    void TakeLocalPalette(const Palette& source);
     bool ReadChunkHeader(Chunk* chunk);
-    bool ReadChunk(Frame* frame, int32 position);
+    bool ReadChunk();
     bool SkipUnknownChunk(const Chunk& chunk);
-    void FinishPalette(Frame* frame);
+    bool FinishFrame();
 
     // The chunk readers. size: bytes of the chunk's data, as its header says. False when the file
     // holds fewer or a seek or an allocation fails.
-    bool ReadFliCOLORChunk(Frame* frame, int64 size, int32 position, bool full8bit);
-    bool TakePreviousPalette(Frame* frame, int32 position);
-    bool ReadFliLCChunk(Frame* frame, int64 size);
-    bool ReadFliBRUNChunk(Frame* frame, int64 size);
-    bool ReadFliCOPYChunk(Frame* frame);
-    bool ReadFliDELTAChunk(Frame* frame, int64 size);
+    bool ReadFliCOLORChunk(int64 size, bool full8bit);
+    bool TakePreviousPalette();
+    bool ReadFliLCChunk(int64 size);
+    bool ReadFliBRUNChunk(int64 size);
+    bool ReadFliCOPYChunk();
+    bool ReadFliDELTAChunk(int64 size);
     bool ReadFliMINIChunk(int64 size);
-    bool ReadFliBLACKChunk(Frame* frame);
-    kirto::FliPixelWriter WriterFor(Frame* frame);
-    void StartPicture(Frame* frame);
-    const Palette& PaletteOf(const Frame* frame) const;
+    bool ReadFliBLACKChunk();
+    kirto::FliPixelWriter Writer();
+    void StartPicture();
 
     kirto::FliInput input_;
     AnimationDocument& document_;
@@ -66,4 +66,12 @@ class FliLoad {
     int32 chunk_count_ = 0;       // of the current record
     bool skipped_block_ = false;  // the current record is of type 0x00A1
     bool blank_ = false;          // the current picture is still to be filled with black
+    int32 width_ = 0;             // of all pictures
+    int32 height_ = 0;
+    double pause_ = 0.0;  // after each frame, in the unit of the settings
+    // The frame being read, not yet inserted; its own palette, in force where the frame is marked
+    // local; and its pixels.
+    Frame frame_;
+    Palette local_palette_;
+    std::shared_ptr<BBitmap> picture_;
 };

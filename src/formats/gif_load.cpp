@@ -3,9 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
-#include <new>
 
-#include "document/document_scope.h"
 #include "formats/gif_lzw_decoder.h"
 #include "formats/gif_pixel_writer.h"
 #include "platform/byte_order.h"
@@ -49,11 +47,11 @@ GifLoad::GifLoad(BFile* file, int32 start, AnimationDocument& document)
       next_position_(start),
       full_frame_(document.prefs.animation_gifloadfullframe) {
     Init();
-    if (ReadGifHeader()) frame_ = NewFrame();
-    if (!frame_) {
+    if (!ReadGifHeader()) {
         failed = true;
         return;
     }
+    StartFrame();
     uint8 introducer = 0;
     do {
         if (!file_->ReadExactly(&introducer, 1) || !ReadBlock(introducer)) {
@@ -64,26 +62,32 @@ GifLoad::GifLoad(BFile* file, int32 start, AnimationDocument& document)
 }
 
 void GifLoad::Init() {
-    const kirto::WriterScope writer(document_);
-    document_.pause_length_global = 0;
-    document_.use_pause_global = false;
-    document_.use_loop = false;
+    document_.Change([](kirto::Animation& animation) {
+        animation.pause_length = 0;
+        animation.use_pause = false;
+        animation.use_loop = false;
+    });
 }
 
 bool GifLoad::ReadGifHeader() {
     uint8 header[13];
     if (!file_->ReadExactly(header, sizeof(header))) return false;
-    const kirto::WriterScope writer(document_);
-    document_.global_width = kirto::ReadLittle16(header + 6);
-    document_.global_height = kirto::ReadLittle16(header + 8);
-    Palette* palette = document_.global_palette.get();
+    width_ = kirto::ReadLittle16(header + 6);
+    height_ = kirto::ReadLittle16(header + 8);
+    global_palette_ = *document_.Current()->palette;
+    bool complete = true;
     if ((header[10] & 0x80) == 0) {
-        palette->Set(kirto::kPaletteWebSafe);
-        return true;
+        global_palette_.Set(kirto::kPaletteWebSafe);
+    } else {
+        complete = ReadColorTable(&global_palette_, (header[10] & 7) + 1);
+        if (complete) global_palette_.background_index = header[11];
     }
-    if (!ReadColorTable(palette, (header[10] & 7) + 1)) return false;
-    palette->background_index = header[11];
-    return true;
+    document_.Change([this](kirto::Animation& animation) {
+        animation.width = width_;
+        animation.height = height_;
+        animation.palette = std::make_shared<const Palette>(global_palette_);
+    });
+    return complete;
 }
 
 bool GifLoad::ReadBlock(uint8 introducer) {
@@ -101,22 +105,29 @@ bool GifLoad::ReadBlock(uint8 introducer) {
 }
 
 bool GifLoad::ReadImage() {
-    const int32 relative = next_position_ - start_;
     document_.PostStatus(kirto::Format("Status: loading frame %d...", next_position_ + 1));
     if (document_.StopRequested()) return false;
-    if (!ReadGifImageHeader(frame_.get(), relative, next_position_)) return false;
-    if (!ReadGifImageData(frame_.get(), relative)) return false;
-    if (frame_->local_palette) {
-        frame_->palette->unique_colors = frame_->palette->CountUniqueColors(frame_->bitmap.get());
-    } else {
-        frame_->palette->Set(frame_->bitmap.get());
-    }
-    if (!document_.InsertFrame(frame_.get())) return false;
-    static_cast<void>(frame_.release());
+    if (!ReadGifImageHeader() || !ReadGifImageData() || !FinishFrame()) return false;
     ++next_position_;
-    frame_ = NewFrame();
-    if (!frame_) kirto::DebugLine("GifLoad::GifLoad() - Out of memory\n");
-    return frame_ != nullptr;
+    StartFrame();
+    return true;
+}
+
+// Gives the frame its palette and its pixels, and the document the frame.
+bool GifLoad::FinishFrame() {
+    const BBitmap* picture = picture_.get();
+    if (frame_.local_palette) {
+        local_palette_.unique_colors = local_palette_.CountUniqueColors(picture);
+    } else {
+        local_palette_.Set(picture);
+    }
+    frame_.palette = kirto::SharePalette(local_palette_);
+    frame_.bitmap = std::move(picture_);
+    if (!frame_.palette) {
+        kirto::DebugLine("GifLoad::GifLoad() - Out of memory\n");
+        return false;
+    }
+    return document_.InsertFrame(next_position_, std::move(frame_));
 }
 
 bool GifLoad::ReadExtension() {
@@ -124,7 +135,7 @@ bool GifLoad::ReadExtension() {
     if (!file_->ReadExactly(&label, 1)) return false;
     switch (label) {
         case kGraphicControlLabel:
-            return ReadGifControlBlock(frame_.get());
+            return ReadGifControlBlock();
         case kCommentLabel:
             return ReadGifCommentBlock();
         case kApplicationLabel:
@@ -147,26 +158,29 @@ bool GifLoad::ReadGifLoopBlock() {
     if (!file_->ReadExactly(block.data(), static_cast<size_t>(size) + 1)) return false;
     // What the sub-block is too short for counts as 0; the terminator is no part of the count.
     std::fill(block.begin() + size, block.end(), uint8{0});
-    const kirto::WriterScope writer(document_);
-    document_.use_loop = true;
-    document_.loop_count = kirto::ReadLittle16(block.data() + 1);
+    document_.Change([&block](kirto::Animation& animation) {
+        animation.use_loop = true;
+        animation.loop_count = kirto::ReadLittle16(block.data() + 1);
+    });
     return true;
 }
 
-bool GifLoad::ReadGifControlBlock(Frame* frame) {
+bool GifLoad::ReadGifControlBlock() {
     uint8 block[6];
     if (!file_->ReadExactly(block, sizeof(block))) return false;
     // Never cleared: a transparent index stays in force for all later images of the file.
     if ((block[1] & 1) != 0) {
-        const kirto::WriterScope writer(document_);
-        document_.global_palette->use_transparent = true;
-        document_.global_palette->transparent_index = block[4];
+        global_palette_.use_transparent = true;
+        global_palette_.transparent_index = block[4];
+        document_.Change([this](kirto::Animation& animation) {
+            animation.palette = std::make_shared<const Palette>(global_palette_);
+        });
     }
     previous_disposal_ = current_disposal_;
     current_disposal_ = std::min((block[1] >> 2) & 7, kDisposalBackground);
     if (previous_disposal_ == -1) previous_disposal_ = current_disposal_;
-    frame->pause_length = kirto::ReadLittle16(block + 2);
-    frame->use_pause = frame->pause_length != 0;
+    frame_.pause_length = kirto::ReadLittle16(block + 2);
+    frame_.use_pause = frame_.pause_length != 0;
     return true;
 }
 
@@ -197,30 +211,28 @@ bool GifLoad::SkipSubBlocks() {
     return true;
 }
 
-bool GifLoad::ReadGifImageHeader(Frame* frame, int32 relative, int32 absolute) {
+bool GifLoad::ReadGifImageHeader() {
     uint8 header[9];
     if (!file_->ReadExactly(header, sizeof(header))) return false;
-    frame->x_offset = kirto::ReadLittle16(header);
-    frame->y_offset = kirto::ReadLittle16(header + 2);
-    frame->width = kirto::ReadLittle16(header + 4);
-    frame->height = kirto::ReadLittle16(header + 6);
-    if (frame->width > document_.global_width || frame->height > document_.global_height) {
+    frame_.x_offset = kirto::ReadLittle16(header);
+    frame_.y_offset = kirto::ReadLittle16(header + 2);
+    frame_.width = kirto::ReadLittle16(header + 4);
+    frame_.height = kirto::ReadLittle16(header + 6);
+    if (frame_.width > width_ || frame_.height > height_) {
         kirto::DebugLine(
             "GifLoad::ReadGifImageHeader() - Local dimensions exceed global dimensions\n");
         return false;
     }
-    frame->local_palette = (header[8] & 0x80) != 0;
-    current_palette_ = frame->local_palette ? frame->palette.get() : document_.global_palette.get();
-    if (frame->local_palette && !ReadColorTable(current_palette_, (header[8] & 7) + 1)) {
+    frame_.local_palette = (header[8] & 0x80) != 0;
+    if (frame_.local_palette && !ReadColorTable(&local_palette_, (header[8] & 7) + 1)) {
         return false;
     }
     interlaced_ = (header[8] & 0x40) != 0;
-    const BRect bounds = full_frame_
-                             ? BRect::OfSize(document_.global_width, document_.global_height)
-                             : BRect::OfSize(frame->width, frame->height);
-    frame->bitmap = std::make_shared<BBitmap>(bounds, B_RGB32, document_.pixel_budget);
-    if (frame->bitmap->InitCheck() != B_OK) return false;
-    return !full_frame_ || FrameDisposal(frame, relative, absolute);
+    const BRect bounds = full_frame_ ? BRect::OfSize(width_, height_)
+                                     : BRect::OfSize(frame_.width, frame_.height);
+    picture_ = std::make_shared<BBitmap>(bounds, B_RGB32, document_.pixel_budget);
+    if (picture_->InitCheck() != B_OK) return false;
+    return !full_frame_ || FrameDisposal();
 }
 
 bool GifLoad::ReadColorTable(Palette* palette, int32 bits) {
@@ -237,22 +249,19 @@ bool GifLoad::ReadColorTable(Palette* palette, int32 bits) {
 }
 
 // Starts a full-size frame from the picture before it, as that picture's disposal says.
-bool GifLoad::FrameDisposal(Frame* frame, int32 relative, int32 absolute) {
-    const bool covers_screen =
-        frame->width == document_.global_width && frame->height == document_.global_height;
-    if (relative == 0 || covers_screen) return true;
-    const kirto::ReaderScope reader(document_);
-    const Frame* previous = document_.FrameAt(absolute - 1);
+bool GifLoad::FrameDisposal() {
+    if (IsFirst() || CoversScreen()) return true;
+    const kirto::FramePointer previous = document_.FrameAt(next_position_ - 1);
     if (!previous || !previous->bitmap || !kirto::IsLittleEndian(previous->bitmap->ColorSpace()))
         return false;
-    if (!previous->bitmap->Bits() || !frame->bitmap->Bits()) return false;
-    std::memcpy(frame->bitmap->Bits(), previous->bitmap->Bits(),
-                std::min(frame->bitmap->BitsLength(), previous->bitmap->BitsLength()));
+    if (!previous->bitmap->Bits() || !picture_->Bits()) return false;
+    std::memcpy(picture_->Bits(), previous->bitmap->Bits(),
+                std::min(picture_->BitsLength(), previous->bitmap->BitsLength()));
     if (previous_disposal_ == -1) previous_disposal_ = 0;
     if (previous_disposal_ == kDisposalBackground) {
         // A frame decoded at full size claims the whole screen as its rectangle, so this clears
         // the whole canvas, not only what the image before had drawn. Intended.
-        FillRows(*frame->bitmap, previous->y_offset, previous->y_offset + previous->height,
+        FillRows(*picture_, previous->y_offset, previous->y_offset + previous->height,
                  previous->x_offset, previous->x_offset + previous->width,
                  kirto::PixelOf(BackgroundColor()));
     }
@@ -260,55 +269,50 @@ bool GifLoad::FrameDisposal(Frame* frame, int32 relative, int32 absolute) {
 }
 
 // Gives the file's first image, where it leaves part of the screen free, its background.
-bool GifLoad::FillBackground(Frame* frame) {
-    const bool covers_screen =
-        frame->width == document_.global_width && frame->height == document_.global_height;
-    if (covers_screen || previous_disposal_ != kDisposalBackground) return true;
-    if (!frame->bitmap->Bits()) return false;
-    FillRows(*frame->bitmap, 0, document_.global_height, 0, document_.global_width,
-             kirto::PixelOf(BackgroundColor()));
+bool GifLoad::FillBackground() {
+    if (CoversScreen() || previous_disposal_ != kDisposalBackground) return true;
+    if (!picture_->Bits()) return false;
+    FillRows(*picture_, 0, height_, 0, width_, kirto::PixelOf(BackgroundColor()));
     return true;
 }
 
-bool GifLoad::ReadGifImageData(Frame* frame, int32 relative) {
-    if (relative == 0 && full_frame_ && !FillBackground(frame)) return false;
+bool GifLoad::ReadGifImageData() {
+    if (IsFirst() && full_frame_ && !FillBackground()) return false;
     int32 min_code_size = 0;
-    if (!ReadCodeSize(frame, &min_code_size)) return false;
+    if (!ReadCodeSize(&min_code_size)) return false;
 
-    kirto::GifPixelColors colors = kirto::PixelColorsOf(*current_palette_);
-    const Palette& global = *document_.global_palette;
-    if (global.use_transparent && global.transparent_index >= 0 && global.transparent_index < 256) {
+    kirto::GifPixelColors colors = kirto::PixelColorsOf(CurrentPalette());
+    const int32 transparent = global_palette_.transparent_index;
+    if (global_palette_.use_transparent && transparent >= 0 && transparent < 256) {
         if (full_frame_) {
-            colors.skipped_index = global.transparent_index;
+            colors.skipped_index = transparent;
         } else {
             const bool drawn = document_.prefs.thumbnail_drawtransparent;
-            colors.pixels[static_cast<size_t>(global.transparent_index)] =
+            colors.pixels[static_cast<size_t>(transparent)] =
                 kirto::PixelOf(drawn ? kDrawnTransparent : kPlainTransparent);
         }
     }
-    kirto::GifImageArea area{0, 0, frame->width, frame->height};
+    kirto::GifImageArea area{0, 0, frame_.width, frame_.height};
     if (full_frame_) {
-        area.left = frame->x_offset;
-        area.top = frame->y_offset;
+        area.left = frame_.x_offset;
+        area.top = frame_.y_offset;
     }
-    kirto::GifPixelWriter writer(*frame->bitmap, area, interlaced_, colors);
+    kirto::GifPixelWriter writer(*picture_, area, interlaced_, colors);
     kirto::GifLzwDecoder decoder(*file_, min_code_size);
     if (!decoder.Decode(writer)) return false;
     if (full_frame_) {
-        frame->width = document_.global_width;
-        frame->height = document_.global_height;
-        frame->x_offset = 0;
-        frame->y_offset = 0;
+        frame_.width = width_;
+        frame_.height = height_;
+        frame_.x_offset = 0;
+        frame_.y_offset = 0;
     }
     return true;
 }
 
 // A code size above the palette's depth is allowed, one below it is not: deliberately lopsided. A
 // size of 1 always counts as 2, and a missing byte as 0.
-bool GifLoad::ReadCodeSize(Frame* frame, int32* min_code_size) {
-    const Palette* palette =
-        frame->local_palette ? frame->palette.get() : document_.global_palette.get();
-    const int32 expected = std::max(palette->bits, 2);
+bool GifLoad::ReadCodeSize(int32* min_code_size) {
+    const int32 expected = std::max(CurrentPalette().bits, 2);
     uint8 byte = 0;
     file_->ReadExactly(&byte, 1);
     const int32 actual = byte == 1 ? 2 : byte;
@@ -328,15 +332,19 @@ bool GifLoad::ReadCodeSize(Frame* frame, int32* min_code_size) {
     return true;
 }
 
-std::unique_ptr<Frame> GifLoad::NewFrame() const {
-    if (kirto::AllocationShouldFail()) return nullptr;
-    std::unique_ptr<Frame> frame(new (std::nothrow) Frame);
-    if (!frame || frame->init_failed) return nullptr;
-    frame->index = next_position_;
-    frame->SetName(kirto::Format("frame%04d", next_position_));
-    return frame;
+void GifLoad::StartFrame() {
+    frame_ = Frame(kirto::Format("frame%04d", next_position_), 0, 0);
+    local_palette_ = Palette();
+}
+
+bool GifLoad::CoversScreen() const {
+    return frame_.width == width_ && frame_.height == height_;
+}
+
+const Palette& GifLoad::CurrentPalette() const {
+    return frame_.local_palette ? local_palette_ : global_palette_;
 }
 
 rgb_color GifLoad::BackgroundColor() const {
-    return current_palette_->ColorForIndex(document_.global_palette->background_index);
+    return CurrentPalette().ColorForIndex(global_palette_.background_index);
 }

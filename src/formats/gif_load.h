@@ -1,7 +1,7 @@
 #pragma once
 
+#include "animation/frame.h"
 #include "document/animation_document.h"
-#include "document/frame.h"
 #include "platform/file.h"
 #include "platform/types.h"
 
@@ -26,17 +26,21 @@ class GifLoad {
     bool ReadImage();
     bool ReadExtension();
     bool ReadGifLoopBlock();
-    bool ReadGifControlBlock(Frame* frame);
+    bool ReadGifControlBlock();
     bool ReadGifCommentBlock();
     bool ReadGifUnknownBlock(uint8 label);
-    bool ReadGifImageHeader(Frame* frame, int32 relative, int32 absolute);
-    bool FrameDisposal(Frame* frame, int32 relative, int32 absolute);
-    bool FillBackground(Frame* frame);
-    bool ReadGifImageData(Frame* frame, int32 relative);
-    bool ReadCodeSize(Frame* frame, int32* min_code_size);
+    bool ReadGifImageHeader();
+    bool FrameDisposal();
+    bool FillBackground();
+    bool ReadGifImageData();
+    bool ReadCodeSize(int32* min_code_size);
     bool ReadColorTable(Palette* palette, int32 bits);
     bool SkipSubBlocks();
-    std::unique_ptr<Frame> NewFrame() const;
+    void StartFrame();
+    bool FinishFrame();
+    bool IsFirst() const { return next_position_ == start_; }
+    bool CoversScreen() const;
+    const Palette& CurrentPalette() const;
     rgb_color BackgroundColor() const;
 
     BFile* file_;
@@ -44,9 +48,17 @@ class GifLoad {
     const int32 start_;
     int32 next_position_;
     const bool full_frame_;
-    Palette* current_palette_ = nullptr;  // the frame's local one, else the document's; not owned
     bool interlaced_ = false;
     int32 current_disposal_ = -1;  // -1: no control block seen yet
     int32 previous_disposal_ = -1;
-    std::unique_ptr<Frame> frame_;  // the frame being filled, not yet inserted
+    // What the file says of the whole animation, as far as it is read. Each block that changes it
+    // puts it into the document.
+    int32 width_ = 0;
+    int32 height_ = 0;
+    Palette global_palette_;
+    // The frame being read, not yet inserted; its own palette, in force where the frame is marked
+    // local; and its pixels.
+    Frame frame_;
+    Palette local_palette_;
+    std::shared_ptr<BBitmap> picture_;
 };

@@ -57,42 +57,39 @@ uint8 LargestUnboundIndex(const Frame& frame, const Palette& palette, uint8 tran
 GifSave::GifSave(std::shared_ptr<BFile> file, AnimationDocument& document)
     : file_(std::move(file)),
       document_(document),
+      animation_(document.Current()),
       interlaced_(document.prefs.animation_gifinterlaced),
-      mapper_(LowByte(document.global_palette->transparent_index), document.global_palette->dither,
+      mapper_(LowByte(animation_->palette->transparent_index), animation_->palette->dither,
               WidestFrame()) {
     WriteGifHeader();
-    const int32 count = document_.FrameCount();
-    for (int32 i = 0; i < count; ++i) {
-        Frame* frame = document_.FrameAt(i);
-        if (!frame) {
-            kirto::DebugLine("GifSave::GifSave() - FrameAt() returned NULL\n");
-            break;
-        }
-        document_.PostStatus(kirto::Format("Status: writing frame %d of %d...", i + 1, count));
+    const int32 count = animation_->frames.Size();
+    int32 number = 0;
+    for (const kirto::FramePointer& frame : animation_->frames) {
+        document_.PostStatus(kirto::Format("Status: writing frame %d of %d...", ++number, count));
         if (document_.StopRequested()) break;
         encoding_ = EncodingOf(*frame);
-        WriteGifControlBlock(frame);
-        WriteGifImageHeader(frame);
-        WriteGifImageData(frame);
+        WriteGifControlBlock(*frame);
+        WriteGifImageHeader(*frame);
+        WriteGifImageData(*frame);
     }
     file_->Write(";", 1);
     file_->SetMimeType("image/gif");
 }
 
 void GifSave::WriteGifHeader() {
-    const Palette& palette = *document_.global_palette;
+    const Palette& palette = *animation_->palette;
     uint8 header[13] = {'G', 'I', 'F', '8', '9', 'a'};
-    kirto::WriteLittle16(header + 6, document_.global_width);
-    kirto::WriteLittle16(header + 8, document_.global_height);
+    kirto::WriteLittle16(header + 6, animation_->width);
+    kirto::WriteLittle16(header + 8, animation_->height);
     // A global table, of the highest colour resolution, unsorted.
     header[10] = LowByte((palette.bits - 1) | 0xF0);
     header[11] = LowByte(palette.background_index);
     file_->Write(header, sizeof(header));
     WriteColorTable(palette, palette.bits);
-    if (document_.use_loop) {
+    if (animation_->use_loop) {
         uint8 loop[19] = {0x21, 0xFF, 0x0B, 'N', 'E', 'T', 'S', 'C', 'A', 'P',
                           'E',  '2',  '.',  '0', 3,   1,   0,   0,   0};
-        kirto::WriteLittle16(loop + 16, document_.loop_count);
+        kirto::WriteLittle16(loop + 16, animation_->loop_count);
         file_->Write(loop, sizeof(loop));
     }
     if (document_.prefs.animation_gifcomment) {
@@ -103,13 +100,13 @@ void GifSave::WriteGifHeader() {
     }
 }
 
-void GifSave::WriteGifControlBlock(Frame* frame) {
-    const Palette& global = *document_.global_palette;
+void GifSave::WriteGifControlBlock(const Frame& frame) {
+    const Palette& global = *animation_->palette;
     const int32 setting = document_.prefs.animation_gifdisposal;
     const int32 disposal = setting >= 0 && setting <= 2 ? setting : 3;
     uint8 block[8] = {0x21, 0xF9, 4};
     block[3] = LowByte(disposal << 2);
-    kirto::WriteLittle16(block + 4, DelayOf(*frame));
+    kirto::WriteLittle16(block + 4, DelayOf(frame));
     if (global.use_transparent) {
         block[3] |= 1;
         block[6] = LowByte(global.transparent_index);
@@ -117,24 +114,24 @@ void GifSave::WriteGifControlBlock(Frame* frame) {
     file_->Write(block, sizeof(block));
 }
 
-void GifSave::WriteGifImageHeader(Frame* frame) {
+void GifSave::WriteGifImageHeader(const Frame& frame) {
     uint8 header[10] = {','};
-    kirto::WriteLittle16(header + 1, frame->x_offset);
-    kirto::WriteLittle16(header + 3, frame->y_offset);
-    kirto::WriteLittle16(header + 5, frame->width);
-    kirto::WriteLittle16(header + 7, frame->height);
+    kirto::WriteLittle16(header + 1, frame.x_offset);
+    kirto::WriteLittle16(header + 3, frame.y_offset);
+    kirto::WriteLittle16(header + 5, frame.width);
+    kirto::WriteLittle16(header + 7, frame.height);
     if (encoding_.local_table) header[9] = LowByte((encoding_.bits - 1) | 0x80);
     if (interlaced_) header[9] |= 0x40;
     file_->Write(header, sizeof(header));
     if (encoding_.local_table) WriteColorTable(*encoding_.palette, encoding_.bits);
 }
 
-void GifSave::WriteGifImageData(Frame* frame) {
+void GifSave::WriteGifImageData(const Frame& frame) {
     mapper_.StartPicture(*encoding_.palette, interlaced_);
     kirto::GifLzwEncoder encoder(*file_, std::max(encoding_.bits, 2));
     std::vector<uint8> indices;
-    for (kirto::GifRowOrder rows(frame->height, interlaced_); !rows.Done(); rows.Next()) {
-        mapper_.MapRow(frame->bitmap.get(), rows.Row(), frame->width, &indices);
+    for (kirto::GifRowOrder rows(frame.height, interlaced_); !rows.Done(); rows.Next()) {
+        mapper_.MapRow(frame.bitmap.get(), rows.Row(), frame.width, &indices);
         for (const uint8 index : indices)
             encoder.Add(index);
     }
@@ -145,7 +142,7 @@ void GifSave::WriteGifImageData(Frame* frame) {
 // own, and a palette may be recognised as the grey ramp though fewer entries were read. A frame
 // that uses an index past its palette is written wider, with a table of its own.
 GifSave::Encoding GifSave::EncodingOf(const Frame& frame) const {
-    const Palette& global = *document_.global_palette;
+    const Palette& global = *animation_->palette;
     Encoding encoding;
     encoding.local_table = frame.local_palette;
     encoding.palette = frame.local_palette ? frame.palette.get() : &global;
@@ -167,8 +164,8 @@ int64 GifSave::DelayOf(const Frame& frame) const {
     double pause = 0;
     if (frame.use_pause) {
         pause = frame.pause_length;
-    } else if (document_.use_pause_global) {
-        pause = document_.pause_length_global;
+    } else if (animation_->use_pause) {
+        pause = animation_->pause_length;
     }
     return WholeHundredths(document_.prefs.global_pauseinseconds ? pause * 100 : pause);
 }
@@ -186,8 +183,7 @@ void GifSave::WriteColorTable(const Palette& palette, int32 bits) {
 
 int32 GifSave::WidestFrame() const {
     int32 widest = 0;
-    for (const Frame* frame = document_.FirstFrame(); frame; frame = frame->next) {
+    for (const kirto::FramePointer& frame : animation_->frames)
         widest = std::max(widest, frame->width);
-    }
     return widest;
 }

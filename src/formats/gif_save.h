@@ -4,13 +4,12 @@
 
 #include "color/palette.h"
 #include "document/animation_document.h"
-#include "document/frame.h"
 #include "formats/pixel_mapper.h"
 #include "platform/file.h"
 #include "platform/types.h"
 
-// Writes a document as an animated GIF89a. The construction does all the work; the caller holds the
-// reader lock meanwhile. Write results are not checked here: the file remembers its first error.
+// Writes a document's animation, as it is at the start, as an animated GIF89a. The construction does
+// all the work. Write results are not checked here: the file remembers its first error.
 // The methods stand in the order of the file; the layout is described in docs/formats/gif.md.
 class GifSave {
   public:
@@ -20,9 +19,9 @@ class GifSave {
 
   private:
     void WriteGifHeader();
-    void WriteGifControlBlock(Frame* frame);
-    void WriteGifImageHeader(Frame* frame);
-    void WriteGifImageData(Frame* frame);
+    void WriteGifControlBlock(const Frame& frame);
+    void WriteGifImageHeader(const Frame& frame);
+    void WriteGifImageData(const Frame& frame);
 
     // How one frame is written: settled once, used by its header and its data.
     struct Encoding {
@@ -37,6 +36,7 @@ class GifSave {
 
     std::shared_ptr<BFile> file_;
     AnimationDocument& document_;
+    const std::shared_ptr<const kirto::Animation> animation_;
     const bool interlaced_;
     kirto::PixelMapper mapper_;
     Encoding encoding_;  // of the frame being written

@@ -10,7 +10,7 @@ class IEResourceHandler;
 namespace kirto {
 
 // What windows are made for: the document they show, and where their commands go. Everything
-// outlives every window. The document is read only by way of DocumentSnapshot::Take.
+// outlives every window. The document is read only by way of ShownDocument::Take.
 struct Editor {
     AnimationDocument& document;
     BMessenger application;

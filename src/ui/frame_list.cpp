@@ -1,9 +1,18 @@
 #include "ui/frame_list.h"
 
 #include <QKeyEvent>
+#include <algorithm>
 
 #include "document/command_codes.h"
 #include "platform/text.h"
+
+namespace {
+
+QString RowText(int32 row, const std::string& name) {
+    return QString::fromStdString(kirto::Format("frame #%04d    %s", row, name.c_str()));
+}
+
+}  // namespace
 
 FrameList::FrameList(BMessenger window, QWidget* parent)
     : QListWidget(parent), window_(std::move(window)) {
@@ -16,25 +25,22 @@ FrameList::FrameList(BMessenger window, QWidget* parent)
     });
 }
 
-void FrameList::ShowFrames(const std::vector<kirto::FrameSnapshot>& frames, int32 selected) {
+void FrameList::ShowFrames(const kirto::FrameSequence& frames, int32 selected) {
     showing_ = true;
-    for (size_t i = 0; i < frames.size(); ++i) {
-        const std::string& name = frames[i].name;
-        if (i < names_.size() && names_[i] == name) continue;
-        const auto row = static_cast<int>(i);
-        const QString text =
-            QString::fromStdString(kirto::Format("frame #%04d    %s", row, name.c_str()));
-        if (i < names_.size()) {
-            item(row)->setText(text);
-            names_[i] = name;
-        } else {
-            addItem(text);
-            names_.push_back(name);
-        }
+    const int32 common = std::min(frames.Size(), frames_.Size());
+    const kirto::FrameSequence::Difference changed = frames.DifferenceTo(frames_);
+    // Where frames came or went, all rows behind show others: their numbers stay.
+    const bool moved = changed.end != changed.other_end;
+    const int32 end = moved ? common : changed.end;
+    for (int32 row = changed.begin; row < end; ++row) {
+        const std::string& name = frames.At(row)->name;
+        if (frames_.At(row)->name != name) item(row)->setText(RowText(row, name));
     }
-    names_.resize(frames.size());
-    while (count() > static_cast<int>(frames.size()))
+    for (int32 row = common; row < frames.Size(); ++row)
+        addItem(RowText(row, frames.At(row)->name));
+    while (count() > frames.Size())
         delete takeItem(count() - 1);
+    frames_ = frames;
     if (selected != CurrentSelection()) {
         setCurrentRow(selected);
         if (selected < 0) clearSelection();

@@ -1,11 +1,9 @@
 #pragma once
 
 #include <QListWidget>
-#include <string>
-#include <vector>
 
+#include "animation/frame_sequence.h"
 #include "platform/messenger.h"
-#include "ui/document_snapshot.h"
 
 // The frames as rows of text, of which one at most is selected. Sends kFrameListSelection to the
 // window when the user selects another row. GUI thread.
@@ -15,7 +13,7 @@ class FrameList : public QListWidget {
 
     // Shows the frames, with the row selected selected (-1: none). Touches only rows that change,
     // and sends nothing.
-    void ShowFrames(const std::vector<kirto::FrameSnapshot>& frames, int32 selected);
+    void ShowFrames(const kirto::FrameSequence& frames, int32 selected);
     // The row that is selected, or -1.
     int32 CurrentSelection() const;
 
@@ -24,6 +22,6 @@ class FrameList : public QListWidget {
 
   private:
     const BMessenger window_;
-    std::vector<std::string> names_;  // of the frames in the rows
-    bool showing_ = false;            // what changes now is not the user's doing
+    kirto::FrameSequence frames_;  // in the rows
+    bool showing_ = false;         // what changes now is not the user's doing
 };

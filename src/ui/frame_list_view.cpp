@@ -13,7 +13,7 @@ constexpr int kStripWidth = 222;
 
 }  // namespace
 
-FrameListView::FrameListView(const kirto::DocumentSnapshot& shown, const BMessenger& window,
+FrameListView::FrameListView(const kirto::ShownDocument& shown, const BMessenger& window,
                              QWidget* parent)
     : QWidget(parent), shown_(shown) {
     setObjectName("FrameListView");
@@ -70,11 +70,11 @@ QLayout* FrameListView::MakePreview() {
 }
 
 void FrameListView::UpdateDisplay() {
-    list_->ShowFrames(shown_.frames, shown_.selected);
-    preview_->ShowFrame(shown_.CurrentFrame(), shown_.prefs.thumbnail_drawtransparent);
+    list_->ShowFrames(shown_.Frames(), shown_.Selected());
+    preview_->ShowFrame(shown_.CurrentFrame(), shown_.Settings().thumbnail_drawtransparent);
 }
 
 void FrameListView::ResetDisplay() {
     list_->ShowFrames({}, -1);
-    preview_->ShowFrame(nullptr, shown_.prefs.thumbnail_drawtransparent);
+    preview_->ShowFrame(nullptr, shown_.Settings().thumbnail_drawtransparent);
 }

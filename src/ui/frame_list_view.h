@@ -3,7 +3,7 @@
 #include <QLabel>
 #include <QWidget>
 
-#include "ui/document_snapshot.h"
+#include "ui/shown_document.h"
 #include "ui/frame_list.h"
 #include "ui/frame_preview.h"
 
@@ -11,7 +11,7 @@
 class FrameListView : public QWidget {
   public:
     // shown outlives the view.
-    FrameListView(const kirto::DocumentSnapshot& shown, const BMessenger& window,
+    FrameListView(const kirto::ShownDocument& shown, const BMessenger& window,
                   QWidget* parent = nullptr);
 
     void UpdateDisplay();
@@ -25,7 +25,7 @@ class FrameListView : public QWidget {
     QLayout* MakeButtons(const BMessenger& window);
     QLayout* MakePreview();
 
-    const kirto::DocumentSnapshot& shown_;
+    const kirto::ShownDocument& shown_;
     FrameList* list_;
     QLabel* title_;
     kirto::FramePreview* preview_;

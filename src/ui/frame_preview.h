@@ -4,7 +4,8 @@
 #include <functional>
 #include <memory>
 
-#include "ui/document_snapshot.h"
+#include "animation/frame.h"
+#include "platform/rect.h"
 #include "ui/thumbnail_cache.h"
 
 namespace kirto {
@@ -16,7 +17,7 @@ class FramePreview : public QWidget {
     explicit FramePreview(std::function<void(int32 percent)> scaled, QWidget* parent = nullptr);
 
     // Shows the frame; null shows none. draw_transparent: as PicturePainter's.
-    void ShowFrame(const FrameSnapshot* frame, bool draw_transparent);
+    void ShowFrame(FramePointer frame, bool draw_transparent);
     // Where the picture stands, in the widget's coordinates; invalid without one.
     BRect PictureArea() const;
 
@@ -28,7 +29,7 @@ class FramePreview : public QWidget {
     void ReportScale();
 
     const std::function<void(int32)> scaled_;
-    FrameSnapshot frame_;
+    FramePointer frame_;
     bool draw_transparent_ = true;
     ThumbnailCache cache_;
 };

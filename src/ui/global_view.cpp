@@ -5,7 +5,7 @@
 #include "document/command_codes.h"
 #include "ui/panel_layout.h"
 
-GlobalView::GlobalView(const kirto::DocumentSnapshot& shown, const BMessenger& window,
+GlobalView::GlobalView(const kirto::ShownDocument& shown, const BMessenger& window,
                        QWidget* parent)
     : QGroupBox("Global", parent), shown_(shown) {
     setObjectName("GlobalView");
@@ -35,18 +35,19 @@ GlobalView::GlobalView(const kirto::DocumentSnapshot& shown, const BMessenger& w
 }
 
 void GlobalView::UpdateDisplay() {
-    width->ShowText(QString::number(shown_.width));
-    height->ShowText(QString::number(shown_.height));
-    pause->setChecked(shown_.use_pause);
-    pause_length->setEnabled(shown_.use_pause);
-    pause_length->ShowText(QString::number(shown_.pause_length, 'f', 2));
-    loop->setChecked(shown_.use_loop);
-    loop_count->setEnabled(shown_.use_loop);
-    loop_count->ShowText(QString::number(shown_.loop_count));
+    const kirto::Animation& animation = shown_.Current();
+    width->ShowText(QString::number(animation.width));
+    height->ShowText(QString::number(animation.height));
+    pause->setChecked(animation.use_pause);
+    pause_length->setEnabled(animation.use_pause);
+    pause_length->ShowText(QString::number(animation.pause_length, 'f', 2));
+    loop->setChecked(animation.use_loop);
+    loop_count->setEnabled(animation.use_loop);
+    loop_count->ShowText(QString::number(animation.loop_count));
 }
 
 void GlobalView::ResetDisplay() {
-    const Prefs& prefs = shown_.prefs;
+    const Prefs& prefs = shown_.Settings();
     width->SetText(QString::number(prefs.global_width));
     height->SetText(QString::number(prefs.global_height));
     pause->setChecked(prefs.global_usepause);

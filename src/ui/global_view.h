@@ -3,14 +3,14 @@
 #include <QGroupBox>
 
 #include "ui/controls.h"
-#include "ui/document_snapshot.h"
+#include "ui/shown_document.h"
 
 // The panel of the animation's size, pause and loop. Its controls send their commands to the
 // window, which checks what was typed. GUI thread.
 class GlobalView : public QGroupBox {
   public:
     // shown outlives the panel.
-    GlobalView(const kirto::DocumentSnapshot& shown, const BMessenger& window,
+    GlobalView(const kirto::ShownDocument& shown, const BMessenger& window,
                QWidget* parent = nullptr);
 
     // Shows the document's state; a field that the user is typing in is left alone.
@@ -26,5 +26,5 @@ class GlobalView : public QGroupBox {
     kirto::TextControl* loop_count;
 
   private:
-    const kirto::DocumentSnapshot& shown_;
+    const kirto::ShownDocument& shown_;
 };

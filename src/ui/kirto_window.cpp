@@ -13,7 +13,6 @@
 #include <algorithm>
 
 #include "document/command_codes.h"
-#include "document/document_scope.h"
 #include "platform/alert.h"
 #include "ui/file_urls.h"
 #include "ui/frame_drag.h"
@@ -34,7 +33,6 @@ namespace {
 // In pixels, as the window's frame counts them: one less than there are.
 constexpr int kMinimumWidth = 549;
 constexpr int kMinimumHeight = 399;
-constexpr int kRetryMilliseconds = 10;
 
 const std::vector<uint32>& RefreshCodes() {
     static const std::vector<uint32> kCodes = {
@@ -55,11 +53,6 @@ KirtoWindow::KirtoWindow(BRect frame, const char* title, const kirto::Editor& ed
     setObjectName("KirtoWindow");
     setWindowTitle(QString::fromUtf8(title));
     setAcceptDrops(true);
-    retry_timer_.setSingleShot(true);
-    retry_timer_.setInterval(kRetryMilliseconds);
-    // By way of the port: what the user has put into a control is read first.
-    connect(&retry_timer_, &QTimer::timeout, this,
-            [this] { Messenger().SendMessage(kirto::kUpdateFramesNoStatus); });
 
     shown_.Take(editor_.document);
     setMenuBar(kirto::MakeMainMenu(this, [this](uint32 command) { ChooseCommand(command); }));
@@ -67,7 +60,7 @@ KirtoWindow::KirtoWindow(BRect frame, const char* title, const kirto::Editor& ed
     ArrangePanels();
     LimitSize();
     Place(frame);
-    ShowMode(shown_.prefs.misc_preferredmode == 1);
+    ShowMode(shown_.Settings().misc_preferredmode == 1);
     ShowParts(kEverything & ~kTitle);
 }
 
@@ -148,7 +141,7 @@ void KirtoWindow::Place(const BRect& frame) {
         place.moveCenter(screen.center());
     }
     setGeometry(place);
-    if (shown_.prefs.misc_savewindowdimensions) kirto::RestoreSplitter(*splitter_);
+    if (shown_.Settings().misc_savewindowdimensions) kirto::RestoreSplitter(*splitter_);
 }
 
 BRect KirtoWindow::ScreenPlace() const {
@@ -159,8 +152,6 @@ BRect KirtoWindow::ScreenPlace() const {
 }
 
 void KirtoWindow::ResetDisplay() {
-    stale_parts_ = 0;
-    retry_timer_.stop();
     shown_.Reset();
     setWindowTitle("Kirto - untitled");
     global_view_->ResetDisplay();
@@ -177,17 +168,13 @@ void KirtoWindow::UpdateDisplay() {
 }
 
 void KirtoWindow::Refresh(uint32 parts) {
-    stale_parts_ |= parts;
-    if (!shown_.Take(editor_.document)) {
-        retry_timer_.start();
-        return;
-    }
-    ShowParts(std::exchange(stale_parts_, 0));
+    shown_.Take(editor_.document);
+    ShowParts(parts);
 }
 
 void KirtoWindow::ShowParts(uint32 parts) {
     if (parts & kTitle) {
-        setWindowTitle("Kirto - " + QString::fromStdString(shown_.file_name));
+        setWindowTitle("Kirto - " + QString::fromStdString(shown_.State().file_name));
     }
     if (parts & kPanels) {
         global_view_->UpdateDisplay();
@@ -199,7 +186,7 @@ void KirtoWindow::ShowParts(uint32 parts) {
         frame_list_view_->UpdateDisplay();
     }
     if (parts & kStatus) status_view_->UpdateDisplay();
-    kirto::EnableFrameItems(*menuBar(), !shown_.frames.empty());
+    kirto::EnableFrameItems(*menuBar(), !shown_.Frames().Empty());
     ApplyPreset();
 }
 
@@ -219,8 +206,8 @@ void KirtoWindow::ShowMode(bool frame_list) {
 }
 
 void KirtoWindow::SetThumbnailHeight(int32 height) {
-    const int32 raised = std::max(height, shown_.prefs.thumbnail_minheight);
-    thumbnail_view_->SetHeight(std::min(raised, shown_.prefs.thumbnail_maxheight));
+    const int32 raised = std::max(height, shown_.Settings().thumbnail_minheight);
+    thumbnail_view_->SetHeight(std::min(raised, shown_.Settings().thumbnail_maxheight));
     thumbnail_view_->UpdateDisplay();
 }
 
@@ -230,7 +217,7 @@ void KirtoWindow::ShowPreferences(const char* tab) {
     QWidget* parent = dialog ? dialog : this;
     if (!preferences_window_) {
         preferences_window_ =
-            new PreferencesWindow(editor_, shown_.prefs, parent, [this] { return ScreenPlace(); });
+            new PreferencesWindow(editor_, shown_.Settings(), parent, [this] { return ScreenPlace(); });
         preferences_window_->Show();
     } else if (preferences_window_->parentWidget() != parent) {
         preferences_window_->setParent(parent, preferences_window_->windowFlags());
@@ -267,11 +254,9 @@ bool KirtoWindow::LoseChanges(uint32 command) {
 
 // Edits on their way to the application count as changes already.
 bool KirtoWindow::MayLoseChanges() {
-    const bool modified = editor_.document.modified || editor_.document.edits_done != edits_posted_;
-    const kirto::TryReaderScope reader(editor_.document);
-    const bool has_frames =
-        reader.Entered() ? editor_.document.frame_count > 0 : !shown_.frames.empty();
-    return modified && has_frames;
+    const auto now = editor_.document.CurrentState();
+    const bool modified = now->modified || now->edits_done != edits_posted_;
+    return modified && !now->animation->frames.Empty();
 }
 
 // A field holds what was typed until it is left; a command of the keyboard leaves nothing.

@@ -2,12 +2,11 @@
 
 #include <QMainWindow>
 #include <QPointer>
-#include <QTimer>
 
 #include "platform/qt/gui_port.h"
 #include "platform/rect.h"
 #include "platform/window.h"
-#include "ui/document_snapshot.h"
+#include "ui/shown_document.h"
 #include "ui/editor.h"
 
 class FrameListView;
@@ -23,8 +22,7 @@ class ThumbnailView;
 
 // The main window: menus and panels around the frames. It turns choices and edits into commands for
 // the application, after checking what was typed, and shows the document again when the application
-// says that it changed. What it shows is a copy of the document, taken without ever waiting for the
-// document's lock. GUI thread.
+// says that it changed. What it shows is the document's state at one moment, which never changes. GUI thread.
 class KirtoWindow : public QMainWindow, public BWindow {
   public:
     // frame: the window's place on the screen, without its decoration. Not shown yet.
@@ -41,8 +39,7 @@ class KirtoWindow : public QMainWindow, public BWindow {
     bool LoseChanges(uint32 command);
     // Sets the height of the thumbnails in pixels, within the settings' bounds.
     void SetThumbnailHeight(int32 height);
-    // Show the document in all panels: an empty one, and as it is now. While the document is being
-    // changed the panels stay as they are, and follow a moment later.
+    // Show the document in all panels: an empty one, and as it is now.
     void ResetDisplay();
     void UpdateDisplay();
     // Opens the preferences, or brings them to the front; with a tab's name that tab.
@@ -53,7 +50,7 @@ class KirtoWindow : public QMainWindow, public BWindow {
     bool ShowsFrameList() const;
     // The window's place on the screen, as the settings keep it.
     BRect ScreenPlace() const;
-    const kirto::DocumentSnapshot& Shown() const { return shown_; }
+    const kirto::ShownDocument& Shown() const { return shown_; }
 
   protected:
     void closeEvent(QCloseEvent* event) override;
@@ -75,7 +72,7 @@ class KirtoWindow : public QMainWindow, public BWindow {
     void LimitSize();
     void Place(const BRect& frame);
 
-    // Shows the parts again, now or as soon as the document can be read.
+    // Shows the parts as the document is now.
     void Refresh(uint32 parts);
     void ShowParts(uint32 parts);
     void ChooseCommand(uint32 command);
@@ -133,12 +130,10 @@ class KirtoWindow : public QMainWindow, public BWindow {
 
     kirto::Editor editor_;
     std::shared_ptr<kirto::GuiPort> port_;
-    kirto::DocumentSnapshot shown_;
-    uint32 stale_parts_ = 0;  // to be shown as soon as the document can be read
-    QTimer retry_timer_;
+    kirto::ShownDocument shown_;
     uint32 pending_command_ = 0;
     int32 edits_posted_ = 0;  // the serial number of the last edit
-    uint32 preset_ = 0;       // the preset height to be set as soon as the frames can be read
+    uint32 preset_ = 0;       // the preset height to be set as soon as there are frames
     bool may_close_ = false;
 
     GlobalView* global_view_ = nullptr;

@@ -176,7 +176,7 @@ void KirtoWindow::Save(BMessage*) {
 }
 
 void KirtoWindow::SaveOrAsk() {
-    if (shown_.file_name == "untitled") {
+    if (shown_.State().file_name == "untitled") {
         ShowSavePanel();
     } else {
         PostToApplication(BMessage(kirto::kSaveAgain));
@@ -184,7 +184,7 @@ void KirtoWindow::SaveOrAsk() {
 }
 
 void KirtoWindow::SaveAs(BMessage*) {
-    if (!shown_.frames.empty()) ShowSavePanel();
+    if (!shown_.Frames().Empty()) ShowSavePanel();
 }
 
 void KirtoWindow::ShowSavePanel() {
@@ -283,7 +283,7 @@ void KirtoWindow::PaletteIndex(BMessage* message) {
     const bool background = message->what == kirto::kSetBackgroundIndex;
     kirto::TextControl& field =
         *(background ? palette_view_->background_index : palette_view_->transparent_index);
-    const int32 last_index = (1 << shown_.palette_bits) - 1;
+    const int32 last_index = (1 << shown_.Current().palette->bits) - 1;
     PostValue(message->what,
               kirto::CheckInput(field, 0, last_index, field.objectName().toStdString()));
 }
@@ -351,13 +351,13 @@ void KirtoWindow::ApplyPreset() {
     const uint32 preset = std::exchange(preset_, 0);
     if (preset == 0) return;
     if (preset == kirto::kThumbnailPreset) {
-        SetThumbnailHeight(shown_.prefs.thumbnail_heightvalue);
+        SetThumbnailHeight(shown_.Settings().thumbnail_heightvalue);
         return;
     }
     const bool first = preset == kirto::kThumbnailFirstHalf || preset == kirto::kThumbnailFirstFull;
     const bool half =
         preset == kirto::kThumbnailFirstHalf || preset == kirto::kThumbnailCurrentHalf;
-    const kirto::FrameSnapshot* frame = first ? shown_.FirstFrame() : shown_.CurrentFrame();
+    const kirto::FramePointer frame = first ? shown_.FirstFrame() : shown_.CurrentFrame();
     if (frame) SetThumbnailHeight(half ? frame->height / 2 : frame->height);
 }
 

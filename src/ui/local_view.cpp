@@ -15,7 +15,7 @@ QString ColorsText(int32 colors) {
 
 }  // namespace
 
-LocalView::LocalView(const kirto::DocumentSnapshot& shown, const BMessenger& window,
+LocalView::LocalView(const kirto::ShownDocument& shown, const BMessenger& window,
                      QWidget* parent)
     : QGroupBox("Current Frame", parent), shown_(shown) {
     setObjectName("LocalView");
@@ -77,7 +77,7 @@ void LocalView::DescribeControls() {
 }
 
 void LocalView::UpdateDisplay() {
-    const kirto::FrameSnapshot* frame = shown_.CurrentFrame();
+    const kirto::FramePointer frame = shown_.CurrentFrame();
     if (!frame) {
         ResetDisplay();
         return;
@@ -86,19 +86,18 @@ void LocalView::UpdateDisplay() {
     EnableFrameControls(true);
 }
 
-void LocalView::ShowFrame(const kirto::FrameSnapshot& frame) {
-    const kirto::CurrentFrameSnapshot& current = shown_.current;
+void LocalView::ShowFrame(const Frame& frame) {
     const QString name = QString::fromStdString(frame.name);
     kirto::ShowText(*frame_name, name);
     frame_name->setToolTip("<p>" + name.toHtmlEscaped() + "</p>");
     kirto::ShowText(*frame_size, QString("%1 x %2").arg(frame.width).arg(frame.height));
-    kirto::ShowText(*frame_colors, ColorsText(current.unique_colors));
-    x_offset->ShowText(QString::number(current.x_offset));
-    y_offset->ShowText(QString::number(current.y_offset));
-    pause->setChecked(current.use_pause);
-    pause_length->ShowText(QString::number(current.pause_length, 'f', 2));
-    palette->setChecked(current.local_palette);
-    kirto::MarkPalette(*palette_menu, current.palette_mode);
+    kirto::ShowText(*frame_colors, ColorsText(frame.palette->unique_colors));
+    x_offset->ShowText(QString::number(frame.x_offset));
+    y_offset->ShowText(QString::number(frame.y_offset));
+    pause->setChecked(frame.use_pause);
+    pause_length->ShowText(QString::number(frame.pause_length, 'f', 2));
+    palette->setChecked(frame.local_palette);
+    kirto::MarkPalette(*palette_menu, frame.palette->mode);
 }
 
 void LocalView::ResetDisplay() {

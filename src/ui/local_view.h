@@ -3,14 +3,14 @@
 #include <QGroupBox>
 
 #include "ui/controls.h"
-#include "ui/document_snapshot.h"
+#include "ui/shown_document.h"
 
 // The panel of the current frame, and the switch between the two ways of showing frames. GUI
 // thread.
 class LocalView : public QGroupBox {
   public:
     // shown outlives the panel.
-    LocalView(const kirto::DocumentSnapshot& shown, const BMessenger& window,
+    LocalView(const kirto::ShownDocument& shown, const BMessenger& window,
               QWidget* parent = nullptr);
 
     // Shows the current frame; without one, as ResetDisplay.
@@ -34,8 +34,8 @@ class LocalView : public QGroupBox {
   private:
     void MakeControls(const BMessenger& window);
     void DescribeControls();
-    void ShowFrame(const kirto::FrameSnapshot& frame);
+    void ShowFrame(const Frame& frame);
     void EnableFrameControls(bool enable);
 
-    const kirto::DocumentSnapshot& shown_;
+    const kirto::ShownDocument& shown_;
 };

@@ -5,7 +5,7 @@
 #include "document/command_codes.h"
 #include "ui/panel_layout.h"
 
-PaletteView::PaletteView(const kirto::DocumentSnapshot& shown, const BMessenger& window,
+PaletteView::PaletteView(const kirto::ShownDocument& shown, const BMessenger& window,
                          QWidget* parent)
     : QGroupBox("Palette:", parent), shown_(shown) {
     setObjectName("PaletteView");
@@ -48,17 +48,18 @@ void PaletteView::EnableDither(bool greyscale) {
 }
 
 void PaletteView::UpdateDisplay() {
-    kirto::MarkPalette(*menu, shown_.palette_mode);
-    dither->setChecked(shown_.dither);
-    EnableDither(shown_.palette_mode == kirto::kPaletteGreyscale);
-    background_index->ShowText(QString::number(shown_.background_index));
-    transparent->setChecked(shown_.use_transparent);
-    transparent_index->setEnabled(shown_.use_transparent);
-    transparent_index->ShowText(QString::number(shown_.transparent_index));
+    const Palette& palette = *shown_.Current().palette;
+    kirto::MarkPalette(*menu, palette.mode);
+    dither->setChecked(palette.dither);
+    EnableDither(palette.mode == kirto::kPaletteGreyscale);
+    background_index->ShowText(QString::number(palette.background_index));
+    transparent->setChecked(palette.use_transparent);
+    transparent_index->setEnabled(palette.use_transparent);
+    transparent_index->ShowText(QString::number(palette.transparent_index));
 }
 
 void PaletteView::ResetDisplay() {
-    const Prefs& prefs = shown_.prefs;
+    const Prefs& prefs = shown_.Settings();
     kirto::MarkPalette(*menu, prefs.palette_mapping);
     dither->setChecked(prefs.palette_dither);
     EnableDither(prefs.palette_mapping == kirto::kPaletteGreyscale);

@@ -3,13 +3,13 @@
 #include <QGroupBox>
 
 #include "ui/controls.h"
-#include "ui/document_snapshot.h"
+#include "ui/shown_document.h"
 
 // The panel of the global palette and its special indices. GUI thread.
 class PaletteView : public QGroupBox {
   public:
     // shown outlives the panel.
-    PaletteView(const kirto::DocumentSnapshot& shown, const BMessenger& window,
+    PaletteView(const kirto::ShownDocument& shown, const BMessenger& window,
                 QWidget* parent = nullptr);
 
     void UpdateDisplay();
@@ -25,5 +25,5 @@ class PaletteView : public QGroupBox {
     kirto::TextControl* transparent_index;
 
   private:
-    const kirto::DocumentSnapshot& shown_;
+    const kirto::ShownDocument& shown_;
 };

@@ -5,7 +5,7 @@
 
 #include "ui/controls.h"
 
-StatusView::StatusView(const kirto::DocumentSnapshot& shown, QWidget* parent)
+StatusView::StatusView(const kirto::ShownDocument& shown, QWidget* parent)
     : QWidget(parent), shown_(shown) {
     setObjectName("StatusView");
     status = kirto::MakeLabel("Status", "Status: 0 frame(s), unmodified", this);
@@ -35,7 +35,7 @@ void StatusView::UpdateDisplay(const char* text) {
     }
     kirto::ShowText(*status, QString("Status: %1 frame(s), %2")
                                  .arg(shown_.FrameCount())
-                                 .arg(shown_.modified ? "modified" : "unmodified"));
+                                 .arg(shown_.State().modified ? "modified" : "unmodified"));
     progress->setVisible(false);
 }
 

@@ -4,14 +4,14 @@
 #include <QProgressBar>
 #include <QWidget>
 
-#include "ui/document_snapshot.h"
+#include "ui/shown_document.h"
 
 // The line at the window's bottom: how many frames there are, or what is being done just now, with
 // a bar where the text says how far it is. GUI thread.
 class StatusView : public QWidget {
   public:
     // shown outlives the view.
-    explicit StatusView(const kirto::DocumentSnapshot& shown, QWidget* parent = nullptr);
+    explicit StatusView(const kirto::ShownDocument& shown, QWidget* parent = nullptr);
 
     // Shows the text as it is; null: the document's state.
     void UpdateDisplay(const char* text);
@@ -24,5 +24,5 @@ class StatusView : public QWidget {
   private:
     void ShowProgress(const QString& text);
 
-    const kirto::DocumentSnapshot& shown_;
+    const kirto::ShownDocument& shown_;
 };

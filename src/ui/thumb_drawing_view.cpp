@@ -15,7 +15,7 @@ BPoint PointOf(const QPoint& point) {
 
 }  // namespace
 
-ThumbDrawingView::ThumbDrawingView(const kirto::DocumentSnapshot& shown,
+ThumbDrawingView::ThumbDrawingView(const kirto::ShownDocument& shown,
                                    const kirto::Editor& editor, BMessenger window,
                                    kirto::ThumbScrollView* scroll_view)
     : QWidget(scroll_view->viewport()),
@@ -40,7 +40,7 @@ ThumbDrawingView::ThumbDrawingView(const kirto::DocumentSnapshot& shown,
 }
 
 const kirto::ThumbnailLayout& ThumbDrawingView::Layout() {
-    layout_.Update(shown_.frames, thumbnail_height_, static_cast<float>(width() - 1));
+    layout_.Update(shown_.Frames(), thumbnail_height_, static_cast<float>(width() - 1));
     return layout_;
 }
 
@@ -62,11 +62,11 @@ void ThumbDrawingView::SetThumbnailHeight(int32 height) {
 }
 
 void ThumbDrawingView::KeepCurrentInSight() {
-    if (shown_.selected == kept_in_sight_) return;
-    kept_in_sight_ = shown_.selected;
+    if (shown_.Selected() == kept_in_sight_) return;
+    kept_in_sight_ = shown_.Selected();
     if (!shown_.CurrentFrame()) return;
     constexpr int32 kMargin = 5;
-    const BRect current = Layout().At(shown_.selected);
+    const BRect current = Layout().At(shown_.Selected());
     const int32 view_top = scroll_view_.Top();
     const int32 view_height = scroll_view_.ViewHeight();
     const auto top = static_cast<int32>(current.top);
@@ -80,9 +80,9 @@ void ThumbDrawingView::KeepCurrentInSight() {
 
 // For those who can't see which thumbnail has the line around it.
 void ThumbDrawingView::Describe() {
-    const kirto::FrameSnapshot* frame = shown_.CurrentFrame();
+    const kirto::FramePointer frame = shown_.CurrentFrame();
     const std::string text =
-        frame ? kirto::Format("frame #%04d %s, %d x %d, %d frame(s)", shown_.selected,
+        frame ? kirto::Format("frame #%04d %s, %d x %d, %d frame(s)", shown_.Selected(),
                               frame->name.c_str(), frame->width, frame->height, shown_.FrameCount())
               : "no frames";
     const QString description = QString::fromStdString(text);
@@ -101,7 +101,7 @@ void ThumbDrawingView::ShowToolTip(const QHelpEvent& event) {
         QToolTip::hideText();
         return;
     }
-    const kirto::FrameSnapshot& frame = shown_.frames[static_cast<size_t>(index)];
+    const Frame& frame = *shown_.Frames().At(index);
     const std::string text = kirto::Format("frame #%04d    %s\n%d x %d", index, frame.name.c_str(),
                                            frame.width, frame.height);
     // Escaped, as a name may look like markup.
@@ -126,7 +126,7 @@ void ThumbDrawingView::showEvent(QShowEvent* event) {
 void ThumbDrawingView::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     DrawThumbnails(painter, event->rect());
-    if (shown_.frames.empty()) DrawInvitation(painter);
+    if (shown_.Frames().Empty()) DrawInvitation(painter);
     if (drop_position_ < 0) return;
     const QRectF bar = kirto::OnPixels(Layout().DropBar(drop_position_), devicePixelRatioF());
     painter.fillRect(bar, palette().highlight());
@@ -134,13 +134,13 @@ void ThumbDrawingView::paintEvent(QPaintEvent* event) {
 
 void ThumbDrawingView::DrawThumbnails(QPainter& painter, const QRect& area) {
     const kirto::ThumbnailLayout& layout = Layout();
-    kirto::PicturePainter pictures(painter, palette(), shown_.prefs.thumbnail_drawtransparent,
+    kirto::PicturePainter pictures(painter, palette(), shown_.Settings().thumbnail_drawtransparent,
                                    cache_);
     const auto [first, last] =
         layout.Between(static_cast<float>(area.top()), static_cast<float>(area.bottom()));
     for (int32 i = first; i < last; ++i) {
-        pictures.Draw(shown_.frames[static_cast<size_t>(i)].bitmap, layout.At(i));
-        if (i == shown_.selected && drop_position_ < 0) DrawOutline(painter, i);
+        pictures.Draw(shown_.Frames().At(i)->bitmap, layout.At(i));
+        if (i == shown_.Selected() && drop_position_ < 0) DrawOutline(painter, i);
     }
     if (pictures.WasCoarse()) update();
 }

@@ -8,7 +8,7 @@
 #include <memory>
 
 #include "platform/message.h"
-#include "ui/document_snapshot.h"
+#include "ui/shown_document.h"
 #include "ui/editor.h"
 #include "ui/frame_drag.h"
 #include "ui/picture_painter.h"
@@ -26,7 +26,7 @@ class ThumbDrawingView : public QWidget {
                                            const QImage& image, BPoint grab)>;
 
     // Becomes the content of the scroll view, which owns it. shown outlives the view.
-    ThumbDrawingView(const kirto::DocumentSnapshot& shown, const kirto::Editor& editor,
+    ThumbDrawingView(const kirto::ShownDocument& shown, const kirto::Editor& editor,
                      BMessenger window, kirto::ThumbScrollView* scroll_view);
 
     // Lays out and paints what is shown now, with the current frame in sight if it is another one.
@@ -79,11 +79,11 @@ class ThumbDrawingView : public QWidget {
     void SelectFrame(int32 number);
     void MoveDropPosition(int32 position);
     void StartDragTimer(BPoint grab);
-    QImage DragImage(const kirto::FrameSnapshot& frame);
+    QImage DragImage(const Frame& frame);
     std::string NewDragFolder();
     void ReportFailedSave();
 
-    const kirto::DocumentSnapshot& shown_;
+    const kirto::ShownDocument& shown_;
     const kirto::Editor editor_;
     const BMessenger window_;
     kirto::ThumbScrollView& scroll_view_;

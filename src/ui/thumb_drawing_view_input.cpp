@@ -77,7 +77,7 @@ void ThumbDrawingView::contextMenuEvent(QContextMenuEvent* event) {
         return;
     }
     if (!shown_.CurrentFrame()) return;
-    const BRect current = Layout().At(shown_.selected);
+    const BRect current = Layout().At(shown_.Selected());
     const QPoint middle(static_cast<int>((current.left + current.right) / 2),
                         static_cast<int>((current.top + current.bottom) / 2));
     menu_.popup(mapToGlobal(middle));
@@ -90,11 +90,11 @@ void ThumbDrawingView::keyPressEvent(QKeyEvent* event) {
         // The application ignores numbers that no frame has.
         case Qt::Key_Left:
         case Qt::Key_Up:
-            if (shown_.CurrentFrame()) SelectFrame(shown_.selected - 1);
+            if (shown_.CurrentFrame()) SelectFrame(shown_.Selected() - 1);
             break;
         case Qt::Key_Right:
         case Qt::Key_Down:
-            if (shown_.CurrentFrame()) SelectFrame(shown_.selected + 1);
+            if (shown_.CurrentFrame()) SelectFrame(shown_.Selected() + 1);
             break;
         case Qt::Key_PageDown:
             scroll_view_.ScrollTo(scroll_view_.Top() + page);
@@ -119,7 +119,7 @@ void ThumbDrawingView::MessageReceived(BMessage* message) {
         BPoint grab;
         // What is dragged is the current frame; a busy application may take a while to make it the
         // one that is held.
-        if (drag_pending_ && shown_.selected != held_) return drag_timer_.start(kRetryMilliseconds);
+        if (drag_pending_ && shown_.Selected() != held_) return drag_timer_.start(kRetryMilliseconds);
         if (!std::exchange(drag_pending_, false)) return;
         if (message->FindPoint("point", &grab) == B_OK) DragToTracker(grab);
     } else if (message->what == B_COPY_TARGET) {
@@ -134,8 +134,8 @@ void ThumbDrawingView::MessageReceived(BMessage* message) {
 }
 
 // The thumbnail as it stands in the grid, half transparent.
-QImage ThumbDrawingView::DragImage(const kirto::FrameSnapshot& frame) {
-    BRect thumbnail = Layout().At(shown_.selected);
+QImage ThumbDrawingView::DragImage(const Frame& frame) {
+    BRect thumbnail = Layout().At(shown_.Selected());
     thumbnail.OffsetTo(0, 0);
     const qreal ratio = devicePixelRatioF();
     const QSize size = (kirto::OnPixels(thumbnail, ratio).size() * ratio).toSize();
@@ -143,7 +143,7 @@ QImage ThumbDrawingView::DragImage(const kirto::FrameSnapshot& frame) {
     image.setDevicePixelRatio(ratio);
     {
         QPainter painter(&image);
-        kirto::PicturePainter pictures(painter, palette(), shown_.prefs.thumbnail_drawtransparent,
+        kirto::PicturePainter pictures(painter, palette(), shown_.Settings().thumbnail_drawtransparent,
                                        cache_);
         pictures.Draw(frame.bitmap, thumbnail);
     }
@@ -166,7 +166,7 @@ std::string ThumbDrawingView::NewDragFolder() {
 }
 
 void ThumbDrawingView::DragToTracker(BPoint grab) {
-    const kirto::FrameSnapshot* frame = shown_.CurrentFrame();
+    const kirto::FramePointer frame = shown_.CurrentFrame();
     if (!frame || !frame->bitmap || !kirto::Is32Bit(frame->bitmap->ColorSpace())) return;
     BMessage message(B_SIMPLE_DATA);
     message.AddInt32("be:actions", static_cast<int32>(B_COPY_TARGET));
@@ -191,7 +191,7 @@ bool ThumbDrawingView::SaveToTracker(BMessage* message) {
     std::string name;
     if (message->FindRef("directory", &directory) != B_OK) return false;
     if (message->FindString("name", &name) != B_OK) return false;
-    const kirto::FrameSnapshot* frame = shown_.CurrentFrame();
+    const kirto::FramePointer frame = shown_.CurrentFrame();
     if (!frame) return false;
     const std::shared_ptr<const BBitmap> picture = frame->bitmap;
     const std::string path = directory.path + "/" + name;

@@ -26,31 +26,35 @@ bool Holds(const BRect& rectangle, BPoint point) {
 
 }  // namespace
 
-bool ThumbnailLayout::IsOf(const std::vector<FrameSnapshot>& frames) const {
-    return std::equal(sizes_.begin(), sizes_.end(), frames.begin(), frames.end(),
-                      [](const Size& size, const FrameSnapshot& frame) {
-                          return size.width == frame.width && size.height == frame.height;
-                      });
+// Whether the frames have the sizes of those that are laid out. Only where they differ is looked.
+bool ThumbnailLayout::IsOf(const FrameSequence& frames) const {
+    const FrameSequence::Difference changed = frames.DifferenceTo(frames_);
+    if (changed.end != changed.other_end) return false;
+    for (int32 i = changed.begin; i < changed.end; ++i) {
+        const FramePointer frame = frames.At(i);
+        const FramePointer before = frames_.At(i);
+        if (frame->width != before->width || frame->height != before->height) return false;
+    }
+    return true;
 }
 
-bool ThumbnailLayout::Update(const std::vector<FrameSnapshot>& frames, int32 height,
-                             float right_edge) {
-    if (height == height_ && right_edge == right_edge_ && IsOf(frames)) return false;
+bool ThumbnailLayout::Update(const FrameSequence& frames, int32 height, float right_edge) {
+    const bool same = height == height_ && right_edge == right_edge_ && IsOf(frames);
+    frames_ = frames;
+    if (same) return false;
     height_ = height;
     right_edge_ = right_edge;
-    sizes_.clear();
     rectangles_.clear();
     float left = kFirstLeft;
     float top = kFirstTop;
-    for (const FrameSnapshot& frame : frames) {
-        const float width = WidthOf(frame.width, frame.height, height);
+    for (const FramePointer& frame : frames) {
+        const float width = WidthOf(frame->width, frame->height, height);
         BRect rectangle = RectangleAt(left, top, width, static_cast<float>(height));
         if (!rectangles_.empty() && rectangle.right + 4 >= right_edge) {
             left = kFirstLeft;
             top += static_cast<float>(height + kGap);
             rectangle = RectangleAt(left, top, width, static_cast<float>(height));
         }
-        sizes_.push_back({frame.width, frame.height});
         rectangles_.push_back(rectangle);
         left = rectangle.right + 6;
     }

@@ -3,8 +3,8 @@
 #include <utility>
 #include <vector>
 
+#include "animation/frame_sequence.h"
 #include "platform/rect.h"
-#include "ui/document_snapshot.h"
 
 namespace kirto {
 
@@ -20,7 +20,7 @@ class ThumbnailLayout {
 
     // Lays out anew, unless nothing has changed since the last time; true when it did. height: of
     // every thumbnail, pixels, 1 or more; right_edge: of the grid, inclusive.
-    bool Update(const std::vector<FrameSnapshot>& frames, int32 height, float right_edge);
+    bool Update(const FrameSequence& frames, int32 height, float right_edge);
 
     int32 Count() const { return static_cast<int32>(rectangles_.size()); }
     // Of thumbnail index, 0 to Count() - 1.
@@ -40,14 +40,9 @@ class ThumbnailLayout {
     BRect DropBar(int32 position) const;
 
   private:
-    struct Size {
-        int32 width;
-        int32 height;
-    };
+    bool IsOf(const FrameSequence& frames) const;
 
-    bool IsOf(const std::vector<FrameSnapshot>& frames) const;
-
-    std::vector<Size> sizes_;  // of the frames
+    FrameSequence frames_;  // that are laid out
     int32 height_ = 0;
     float right_edge_ = 0;
     std::vector<BRect> rectangles_;

@@ -20,7 +20,7 @@ QString HeightText(int32 pixels) {
 
 }  // namespace
 
-ThumbnailView::ThumbnailView(const kirto::DocumentSnapshot& shown, const kirto::Editor& editor,
+ThumbnailView::ThumbnailView(const kirto::ShownDocument& shown, const kirto::Editor& editor,
                              const BMessenger& window, QWidget* parent)
     : QWidget(parent), shown_(shown) {
     setObjectName("ThumbnailView");
@@ -38,7 +38,7 @@ void ThumbnailView::MakeControls(const BMessenger& window) {
     slider_->setObjectName("Slider");
     slider_->setAccessibleName("Thumbnail height");
     slider_->setToolTip("Height of the thumbnails in pixels");
-    slider_->setRange(shown_.prefs.thumbnail_minheight, shown_.prefs.thumbnail_maxheight);
+    slider_->setRange(shown_.Settings().thumbnail_minheight, shown_.Settings().thumbnail_maxheight);
     slider_->setValue(kFirstHeight);
     slider_->setPageStep(20);
     connect(slider_, &QSlider::valueChanged, this,
@@ -74,7 +74,7 @@ void ThumbnailView::MakeControls(const BMessenger& window) {
 }
 
 void ThumbnailView::UpdateDisplay() {
-    const Prefs& prefs = shown_.prefs;
+    const Prefs& prefs = shown_.Settings();
     {
         const QSignalBlocker blocker(slider_);
         slider_->setRange(prefs.thumbnail_minheight, prefs.thumbnail_maxheight);

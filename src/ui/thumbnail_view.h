@@ -4,7 +4,7 @@
 #include <QSlider>
 #include <QWidget>
 
-#include "ui/document_snapshot.h"
+#include "ui/shown_document.h"
 #include "ui/editor.h"
 
 class ThumbDrawingView;
@@ -13,7 +13,7 @@ class ThumbDrawingView;
 class ThumbnailView : public QWidget {
   public:
     // shown outlives the view.
-    ThumbnailView(const kirto::DocumentSnapshot& shown, const kirto::Editor& editor,
+    ThumbnailView(const kirto::ShownDocument& shown, const kirto::Editor& editor,
                   const BMessenger& window, QWidget* parent = nullptr);
 
     // Shows what is shown now, with the current frame in sight if it is another one; the slider
@@ -32,7 +32,7 @@ class ThumbnailView : public QWidget {
   private:
     void MakeControls(const BMessenger& window);
 
-    const kirto::DocumentSnapshot& shown_;
+    const kirto::ShownDocument& shown_;
     ThumbDrawingView* drawing_view_;
     QLabel* height_label_;
     QSlider* slider_;

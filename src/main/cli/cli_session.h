@@ -4,6 +4,7 @@
 #include <string>
 
 #include "app/kirto.h"
+#include "document/field_table.h"
 #include "main/cli/cli_arguments.h"
 #include "main/cli/headless_desktop.h"
 #include "platform/idle_barrier.h"
@@ -13,8 +14,7 @@
 namespace kirto {
 
 // Drives the application object through the operations of one command line: commands are posted to
-// it as a window would post them, plain fields are written as a window would write them, and each
-// operation is over before the next begins. Speaks to the user on standard error; results go to
+// it as a window would post them, and each operation is over before the next begins. Speaks to the user on standard error; results go to
 // standard output.
 class CliSession {
   public:
@@ -75,18 +75,21 @@ class CliSession {
     // Fails, with the reason, when the file can't be opened for reading.
     Outcome CheckReadable(const std::string& path);
     Outcome SaveAs(const std::string& path, translator_id translator);
-    Outcome LoadPalette(Palette* palette, const std::string& path);
-    // Numbers as the windows check them: at least 0 and, where maximum is not -1, at most that.
-    Outcome CheckInput(const char* name, const std::string& text, int32 maximum, int32* number);
-    // Check the number, store it and mark the document modified.
-    Outcome SetNumber(const char* name, const std::string& text, int32* field);
-    Outcome SetNumber(const char* name, const std::string& text, double* field);
-    Outcome SetPaletteIndex(const char* name, const std::string& text, int32* field);
+    // Posts the command that makes a palette wait for a file, then the file. True as Post.
+    Outcome LoadPalette(uint32 await_command, const std::string& path);
+    // Posts the command of a switch with its value.
+    Outcome PostSwitch(uint32 command, bool on);
+    // Posts the command of a number, after checking the text as the windows do.
+    Outcome PostNumber(uint32 command, const std::string& text);
+    // For numbers that "off" switches off: posts the switch, then the number if it is one.
+    Outcome PostSwitchedNumber(uint32 switch_command, uint32 command, const std::string& text);
+    // A number as the field's own check lets it pass: at least 0, and at most what the field allows.
+    Outcome CheckInput(const Field& field, const std::string& text, int32* number);
+    Outcome CheckInput(const Field& field, const std::string& text, double* number);
     // Fails without a current frame.
-    Outcome FindCurrentFrame(Frame** frame);
+    Outcome CheckCurrentFrame();
     // The translator that writes the format: by its name or, with a dot, by a file's extension.
     translator_id WriterNamed(const std::string& name) const;
-    Outcome Modified();
 
     Outcome Fail(const std::string& text);
     Outcome Refuse(const std::string& text);

@@ -12,16 +12,7 @@ namespace kirto {
 
 namespace {
 
-constexpr int32 kNoMaximum = -1;
 constexpr int32 kMaxFadeFrames = 100;
-
-// The kinds that have the same name for the animation and for a frame; kPaletteFromFile for others.
-int32 BuiltInKind(const std::string& name) {
-    if (name == "web-safe") return kPaletteWebSafe;
-    if (name == "system") return kPaletteSystem;
-    if (name == "greyscale") return kPaletteGreyscale;
-    return kPaletteFromFile;
-}
 
 uint32 FadeCommand(const std::string& mode) {
     if (mode == "to-color") return kFadeToColor;
@@ -102,156 +93,151 @@ CliSession::Outcome CliSession::FadeFrames(const std::string& value) {
 }
 
 CliSession::Outcome CliSession::SetWidth(const std::string& value) {
-    return SetNumber("Width", value, &app_->global_width);
+    return PostNumber(kSetWidth, value);
 }
 
 CliSession::Outcome CliSession::SetHeight(const std::string& value) {
-    return SetNumber("Height", value, &app_->global_height);
+    return PostNumber(kSetHeight, value);
 }
 
 CliSession::Outcome CliSession::SetLoop(const std::string& value) {
-    app_->use_loop = value != "off";
-    return app_->use_loop ? SetNumber("Loop count", value, &app_->loop_count) : Modified();
+    return PostSwitchedNumber(kUseLoop, kSetLoopCount, value);
 }
 
 CliSession::Outcome CliSession::SetPause(const std::string& value) {
-    app_->use_pause_global = value != "off";
-    if (!app_->use_pause_global) return Modified();
-    return SetNumber("Pause length", value, &app_->pause_length_global);
+    return PostSwitchedNumber(kUsePause, kSetPauseLength, value);
 }
 
 CliSession::Outcome CliSession::SetPalette(const std::string& value) {
-    Palette* palette = app_->global_palette.get();
-    int32 kind = BuiltInKind(value);
-    if (value == "first-frame") kind = kPaletteFirstFrame;
-    if (value == "current-frame") kind = kPaletteCurrentFrame;
-    if (kind == kPaletteFromFile) return LoadPalette(palette, value);
-    palette->Set(kind);
-    // The grey ramp is never dithered, and the flag says so.
-    if (kind == kPaletteGreyscale) palette->dither = false;
-    return Modified();
+    if (value == "first-frame") return Post(kPaletteToFirstFrame);
+    if (value == "current-frame") return Post(kPaletteToCurrentFrame);
+    if (value == "web-safe") return Post(kPaletteToWebSafe);
+    if (value == "system") return Post(kPaletteToSystem);
+    if (value == "greyscale") return Post(kPaletteToGreyscale);
+    return LoadPalette(kPaletteToFile, value);
 }
 
 CliSession::Outcome CliSession::SetDither(const std::string& value) {
     if (value != "on" && value != "off") {
         return Refuse("--dither: \"" + value + "\" is neither on nor off.");
     }
-    app_->global_palette->dither = value == "on";
-    return Modified();
+    return PostSwitch(kSetDither, value == "on");
 }
 
 CliSession::Outcome CliSession::SetTransparent(const std::string& value) {
-    Palette* palette = app_->global_palette.get();
-    palette->use_transparent = value != "off";
-    if (!palette->use_transparent) return Modified();
-    return SetPaletteIndex("Transparent index", value, &palette->transparent_index);
+    return PostSwitchedNumber(kUseTransparent, kSetTransparentIndex, value);
 }
 
 CliSession::Outcome CliSession::SetBackground(const std::string& value) {
-    return SetPaletteIndex("Background index", value, &app_->global_palette->background_index);
+    return PostNumber(kSetBackgroundIndex, value);
 }
 
 CliSession::Outcome CliSession::SetFrameOffset(const std::string& value) {
-    Frame* frame = nullptr;
-    if (FindCurrentFrame(&frame) != Outcome::kDone) return Outcome::kFailed;
+    if (CheckCurrentFrame() != Outcome::kDone) return Outcome::kFailed;
     const size_t comma = value.find(',');
     if (comma == std::string::npos) return Refuse("--frame-offset: \"" + value + "\" is no X,Y.");
-    int32 x = 0;
-    int32 y = 0;
-    Outcome outcome = CheckInput("XOffset", value.substr(0, comma), kNoMaximum, &x);
-    if (outcome == Outcome::kDone) {
-        outcome = CheckInput("YOffset", value.substr(comma + 1), kNoMaximum, &y);
+    const std::string x = value.substr(0, comma);
+    const std::string y = value.substr(comma + 1);
+    int32 checked = 0;
+    // Both are sound before either is set.
+    if (const Outcome y_sound = CheckInput(*FieldOf(kFrameSetYOffset), y, &checked);
+        y_sound != Outcome::kDone) {
+        const Outcome x_sound = CheckInput(*FieldOf(kFrameSetXOffset), x, &checked);
+        return x_sound != Outcome::kDone ? x_sound : y_sound;
     }
-    if (outcome != Outcome::kDone) return outcome;
-    frame->x_offset = x;
-    frame->y_offset = y;
-    return Modified();
+    const Outcome outcome = PostNumber(kFrameSetXOffset, x);
+    return outcome == Outcome::kDone ? PostNumber(kFrameSetYOffset, y) : outcome;
 }
 
 CliSession::Outcome CliSession::SetFramePause(const std::string& value) {
-    Frame* frame = nullptr;
-    if (FindCurrentFrame(&frame) != Outcome::kDone) return Outcome::kFailed;
-    frame->use_pause = value != "off";
-    return frame->use_pause ? SetNumber("Pause length", value, &frame->pause_length) : Modified();
+    if (CheckCurrentFrame() != Outcome::kDone) return Outcome::kFailed;
+    return PostSwitchedNumber(kFrameUsePause, kFrameSetPauseLength, value);
 }
 
 CliSession::Outcome CliSession::SetFramePalette(const std::string& value) {
-    Frame* frame = nullptr;
-    if (FindCurrentFrame(&frame) != Outcome::kDone) return Outcome::kFailed;
-    frame->local_palette = value != "off";
-    if (!frame->local_palette) return Modified();
+    if (CheckCurrentFrame() != Outcome::kDone) return Outcome::kFailed;
+    const Outcome outcome = PostSwitch(kFrameUsePalette, value != "off");
+    if (outcome != Outcome::kDone || value == "off") return outcome;
     if (value == "optimal") return Post(kFrameOptimal);
     if (value == "web-safe") return Post(kFrameWebSafe);
     if (value == "system") return Post(kFrameSystem);
     if (value == "greyscale") return Post(kFrameGreyscale);
-    return LoadPalette(frame->palette.get(), value);
+    return LoadPalette(kFramePaletteToFile, value);
 }
 
 // As the windows do it: the palette waits for a file, and the next file opened is its.
-CliSession::Outcome CliSession::LoadPalette(Palette* palette, const std::string& path) {
+CliSession::Outcome CliSession::LoadPalette(uint32 await_command, const std::string& path) {
     desktop_.SetSubject(path);
-    app_->modified = true;
-    palette->Set(kPaletteAwaitingFile);
+    const Outcome outcome = Post(await_command);
+    if (outcome != Outcome::kDone) return outcome;
     BMessage message(kOpenFile);
     message.AddRef("refs", entry_ref(path));
     return Post(message);
 }
 
 CliSession::Outcome CliSession::PrintInfo(const std::string&) {
-    std::fputs(DescribeDocument(*app_).c_str(), stdout);
+    std::fputs(DescribeDocument(*app_->CurrentState(), prefs_.global_pauseinseconds).c_str(), stdout);
     return Outcome::kDone;
 }
 
 CliSession::Outcome CliSession::PrintInfoJson(const std::string&) {
-    std::fputs(DescribeDocumentAsJson(*app_).c_str(), stdout);
+    std::fputs(DescribeDocumentAsJson(*app_->CurrentState()).c_str(), stdout);
     return Outcome::kDone;
 }
 
-CliSession::Outcome CliSession::CheckInput(const char* name, const std::string& text, int32 maximum,
+CliSession::Outcome CliSession::PostSwitch(uint32 command, bool on) {
+    BMessage message(command);
+    message.AddBool("value", on);
+    return Post(message);
+}
+
+CliSession::Outcome CliSession::PostNumber(uint32 command, const std::string& text) {
+    const Field& field = *FieldOf(command);
+    BMessage message(command);
+    Outcome outcome = Outcome::kDone;
+    if (field.IsReal()) {
+        double number = 0;
+        outcome = CheckInput(field, text, &number);
+        message.AddDouble("value", number);
+    } else {
+        int32 number = 0;
+        outcome = CheckInput(field, text, &number);
+        message.AddInt32("value", number);
+    }
+    return outcome == Outcome::kDone ? Post(message) : outcome;
+}
+
+CliSession::Outcome CliSession::PostSwitchedNumber(uint32 switch_command, uint32 command,
+                                                   const std::string& text) {
+    const Outcome outcome = PostSwitch(switch_command, text != "off");
+    if (outcome != Outcome::kDone || text == "off") return outcome;
+    return PostNumber(command, text);
+}
+
+CliSession::Outcome CliSession::CheckInput(const Field& field, const std::string& text,
                                            int32* number) {
-    int32 parsed = 0;
-    if (!ParseNumber(text, &parsed)) {
-        return Refuse(Format("%s: \"%s\" is no whole number.", name, text.c_str()));
+    if (!ParseNumber(text, number)) {
+        return Refuse(Format("%s: \"%s\" is no whole number.", field.name, text.c_str()));
     }
-    if (parsed < 0) return Refuse(Format("%s can't be less than %d.", name, 0));
-    if (maximum != kNoMaximum && parsed > maximum) {
-        return Refuse(Format("%s can't be greater than %d.", name, maximum));
+    const int32 largest = field.Largest(*app_->Current());
+    if (*number < 0) return Refuse(Format("%s can't be less than %d.", field.name, 0));
+    if (largest >= 0 && *number > largest) {
+        return Refuse(Format("%s can't be greater than %d.", field.name, largest));
     }
-    *number = parsed;
     return Outcome::kDone;
 }
 
-CliSession::Outcome CliSession::SetNumber(const char* name, const std::string& text, int32* field) {
-    const Outcome outcome = CheckInput(name, text, kNoMaximum, field);
-    return outcome == Outcome::kDone ? Modified() : outcome;
-}
-
-CliSession::Outcome CliSession::SetNumber(const char* name, const std::string& text,
-                                          double* field) {
-    double parsed = 0;
-    if (!ParseNumber(text, &parsed) || !std::isfinite(parsed)) {
-        return Refuse(Format("%s: \"%s\" is no number.", name, text.c_str()));
+CliSession::Outcome CliSession::CheckInput(const Field& field, const std::string& text,
+                                           double* number) {
+    if (!ParseNumber(text, number) || !std::isfinite(*number)) {
+        return Refuse(Format("%s: \"%s\" is no number.", field.name, text.c_str()));
     }
-    if (parsed < 0) return Refuse(Format("%s can't be less than %01.2f.", name, 0.0));
-    *field = parsed;
-    return Modified();
-}
-
-CliSession::Outcome CliSession::SetPaletteIndex(const char* name, const std::string& text,
-                                                int32* field) {
-    const int32 largest = (1 << app_->global_palette->bits) - 1;
-    const Outcome outcome = CheckInput(name, text, largest, field);
-    return outcome == Outcome::kDone ? Modified() : outcome;
-}
-
-CliSession::Outcome CliSession::FindCurrentFrame(Frame** frame) {
-    *frame = app_->CurrentFrame();
-    return *frame ? Outcome::kDone : Fail("There is no current frame.");
-}
-
-CliSession::Outcome CliSession::Modified() {
-    app_->modified = true;
+    if (*number < 0) return Refuse(Format("%s can't be less than %01.2f.", field.name, 0.0));
     return Outcome::kDone;
+}
+
+CliSession::Outcome CliSession::CheckCurrentFrame() {
+    return app_->CurrentFrame() ? Outcome::kDone : Fail("There is no current frame.");
 }
 
 }  // namespace kirto

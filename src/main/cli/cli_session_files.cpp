@@ -67,7 +67,8 @@ CliSession::Outcome CliSession::Open(const std::string& value) {
     const Outcome outcome = Post(message);
     // A palette file of the settings that can't be read is told of whenever the document starts
     // afresh, but that is no failure of what is opened: a document named like the file is open.
-    const bool opened = app_->file_directory == ref.Directory() && app_->file_name == ref.Leaf();
+    const auto state = app_->CurrentState();
+    const bool opened = state->file_directory == ref.Directory() && state->file_name == ref.Leaf();
     return opened ? Outcome::kDone : outcome;
 }
 

@@ -54,8 +54,8 @@ Json PaletteJson(const Palette& palette) {
             {"colors", colors}};
 }
 
-Json FrameJson(const Frame& frame) {
-    return {{"index", frame.index},
+Json FrameJson(const Frame& frame, int32 index) {
+    return {{"index", index},
             {"name", frame.name},
             {"width", frame.width},
             {"height", frame.height},
@@ -70,49 +70,51 @@ Json FrameJson(const Frame& frame) {
 
 }  // namespace
 
-std::string DescribeDocument(const AnimationDocument& document) {
-    const Palette& palette = *document.global_palette;
-    const bool in_seconds = document.prefs.global_pauseinseconds;
+std::string DescribeDocument(const DocumentState& document, bool in_seconds) {
+    const Animation& animation = *document.animation;
+    const Palette& palette = *animation.palette;
     std::string text = Format("%s: %d x %d, %d frame(s), %s\n", document.file_name.c_str(),
-                              document.global_width, document.global_height, document.frame_count,
+                              animation.width, animation.height, animation.frames.Size(),
                               document.modified ? "modified" : "unmodified");
-    text += "loop: " + (document.use_loop ? std::to_string(document.loop_count) : "off") +
-            (document.use_loop && document.loop_count == 0 ? " (for ever)\n" : "\n");
+    text += "loop: " + (animation.use_loop ? std::to_string(animation.loop_count) : "off") +
+            (animation.use_loop && animation.loop_count == 0 ? " (for ever)\n" : "\n");
     text +=
-        "pause: " + PauseText(document.use_pause_global, document.pause_length_global, in_seconds) +
-        "\n";
+        "pause: " + PauseText(animation.use_pause, animation.pause_length, in_seconds) + "\n";
     text +=
         Format("palette: %s, %d colours, background %d, transparent %s%s\n", KindName(palette.mode),
                palette.size, palette.background_index,
                palette.use_transparent ? std::to_string(palette.transparent_index).c_str() : "off",
                palette.dither ? ", dithered" : "");
-    for (const Frame* frame = document.first_frame; frame; frame = frame->next) {
+    int32 index = 0;
+    for (const FramePointer& frame : animation.frames) {
         const std::string pause = PauseText(frame->use_pause, frame->pause_length, in_seconds);
-        text +=
-            Format("%c %4d  %-24s %d x %d at %d,%d  pause %s  %s\n",
-                   frame->index == document.selected ? '*' : ' ', frame->index, frame->name.c_str(),
-                   frame->width, frame->height, frame->x_offset, frame->y_offset, pause.c_str(),
-                   frame->local_palette ? KindName(frame->palette->mode) : "global palette");
+        text += Format("%c %4d  %-24s %d x %d at %d,%d  pause %s  %s\n",
+                       index == animation.selected ? '*' : ' ', index, frame->name.c_str(),
+                       frame->width, frame->height, frame->x_offset, frame->y_offset,
+                       pause.c_str(),
+                       frame->local_palette ? KindName(frame->palette->mode) : "global palette");
+        ++index;
     }
     return text;
 }
 
-std::string DescribeDocumentAsJson(const AnimationDocument& document) {
+std::string DescribeDocumentAsJson(const DocumentState& document) {
+    const Animation& animation = *document.animation;
     Json frames = Json::array();
-    for (const Frame* frame = document.first_frame; frame; frame = frame->next) {
-        frames.push_back(FrameJson(*frame));
-    }
+    int32 index = 0;
+    for (const FramePointer& frame : animation.frames)
+        frames.push_back(FrameJson(*frame, index++));
     const Json json = {{"file_name", document.file_name},
-                       {"global_width", document.global_width},
-                       {"global_height", document.global_height},
-                       {"use_loop", document.use_loop},
-                       {"loop_count", document.loop_count},
-                       {"use_pause_global", document.use_pause_global},
-                       {"pause_length_global", document.pause_length_global},
-                       {"modified", document.modified.load()},
-                       {"selected", document.selected},
-                       {"frame_count", document.frame_count},
-                       {"global_palette", PaletteJson(*document.global_palette)},
+                       {"global_width", animation.width},
+                       {"global_height", animation.height},
+                       {"use_loop", animation.use_loop},
+                       {"loop_count", animation.loop_count},
+                       {"use_pause_global", animation.use_pause},
+                       {"pause_length_global", animation.pause_length},
+                       {"modified", document.modified},
+                       {"selected", animation.selected},
+                       {"frame_count", animation.frames.Size()},
+                       {"global_palette", PaletteJson(*animation.palette)},
                        {"frames", frames}};
     return json.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
 }

@@ -3,16 +3,15 @@
 
 #include <string>
 
-#include "document/animation_document.h"
+#include "document/document_state.h"
 
 namespace kirto {
 
-// A few lines of text, ending in a newline. The caller is inside the document's lock or on its
-// editing thread.
-std::string DescribeDocument(const AnimationDocument& document);
+// A few lines of text, ending in a newline. in_seconds: the unit of pauses, else hundredths.
+std::string DescribeDocument(const DocumentState& document, bool in_seconds);
 
 // One JSON object with the document's own field names; every frame with the MD5 of its bitmap's
 // bytes in memory order. Names that are no UTF-8 have their odd bytes replaced.
-std::string DescribeDocumentAsJson(const AnimationDocument& document);
+std::string DescribeDocumentAsJson(const DocumentState& document);
 
 }  // namespace kirto

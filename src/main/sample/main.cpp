@@ -7,7 +7,6 @@
 
 #include "app/save_animation.h"
 #include "document/animation_document.h"
-#include "document/document_scope.h"
 #include "main/sample/sample_pictures.h"
 #include "platform/targa.h"
 #include "platform/text.h"
@@ -16,36 +15,36 @@ namespace {
 
 using kirto::SamplePicture;
 
-std::unique_ptr<Frame> MakeFrame(const SamplePicture& picture, int32 index,
-                                 AnimationDocument& document) {
-    auto frame = std::make_unique<Frame>(kirto::Format("ball%04d", index), picture.width,
-                                         picture.height, index);
-    frame->bitmap = std::make_shared<BBitmap>(BRect::OfSize(picture.width, picture.height), B_RGB32,
-                                              document.pixel_budget);
-    if (frame->init_failed || frame->bitmap->InitCheck() != B_OK) return nullptr;
+// A frame with the picture and a palette of its own; false when memory is short.
+bool MakeFrame(const SamplePicture& picture, int32 index, const AnimationDocument& document,
+               Frame* frame) {
+    const auto bitmap = std::make_shared<BBitmap>(BRect::OfSize(picture.width, picture.height),
+                                                  B_RGB32, document.pixel_budget);
+    if (bitmap->InitCheck() != B_OK) return false;
     const uint8* source = picture.rgba.data();
-    uint8* target = frame->bitmap->Bits();
-    for (size_t i = 0; i < frame->bitmap->BitsLength(); i += 4) {
+    uint8* target = bitmap->Bits();
+    for (size_t i = 0; i < bitmap->BitsLength(); i += 4) {
         target[i] = source[i + 2];
         target[i + 1] = source[i + 1];
         target[i + 2] = source[i];
         target[i + 3] = source[i + 3];
     }
-    frame->palette->Set(frame->bitmap.get());
+    *frame = Frame(kirto::Format("ball%04d", index), picture.width, picture.height);
+    frame->palette = kirto::SharePalette(Palette(static_cast<const BBitmap*>(bitmap.get())));
     frame->local_palette = true;
-    return frame;
+    frame->bitmap = bitmap;
+    return frame->palette != nullptr;
 }
 
 bool WriteAnimation(const std::string& path) {
     Prefs prefs{Prefs::BuiltIn{}};
     AnimationDocument document(prefs);
-    document.pause_length_global = 5;
+    document.Change([](kirto::Animation& animation) { animation.pause_length = 5; });
     for (int32 step = 0; step < kirto::kBallSteps; ++step) {
-        std::unique_ptr<Frame> frame = MakeFrame(kirto::DrawBall(step), step, document);
-        if (!frame) return false;
-        document.InsertFrameAsCurrent(frame.release());
+        Frame frame;
+        if (!MakeFrame(kirto::DrawBall(step), step, document, &frame)) return false;
+        document.InsertFrameAsCurrent(step, std::move(frame));
     }
-    const kirto::ReaderScope reader(document);
     return kirto::SaveAnimatedGif(document, path) == kirto::SaveResult::kSaved;
 }
 

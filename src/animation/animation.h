@@ -1,0 +1,79 @@
+#pragma once
+
+#include <memory>
+
+#include "animation/frame_sequence.h"
+#include "color/palette.h"
+#include "color/shared_palette.h"
+#include "platform/types.h"
+
+namespace kirto {
+
+// A whole animation as a plain value: what the document owns one of, what the history keeps, what
+// windows show, what codecs and effects take and give. Copies are cheap and share frames and
+// palettes, which never change.
+//
+// selected is -1 exactly when there are no frames, else it names one.
+struct Animation {
+    int32 width = 0;       // canvas, pixels
+    int32 height = 0;      // canvas, pixels
+    int32 loop_count = 0;  // 0: forever
+    bool use_loop = false;
+    bool use_pause = false;     // frames without a pause of their own wait pause_length
+    double pause_length = 0.0;  // same unit as Frame::pause_length
+    std::shared_ptr<const Palette> palette = DefaultPalette();  // never null
+    FrameSequence frames;
+    int32 selected = -1;  // the current frame's position
+
+    // Null without frames.
+    FramePointer FirstFrame() const { return frames.At(0); }
+    FramePointer CurrentFrame() const { return frames.At(selected); }
+    // The first frame that is wider or taller than the canvas, or null.
+    FramePointer FrameLargerThanCanvas() const;
+
+    // Equal fields, equal palettes, equal frames with the same ids and the same pixels in memory.
+    friend bool operator==(const Animation& a, const Animation& b);
+};
+
+// Each of these makes a copy of a shared value, lets the caller change it, and puts it in its
+// place. Throws std::bad_alloc when memory is short; nothing has changed then.
+template <typename Edit>
+void EditPalette(Animation& animation, Edit edit) {
+    Palette changed = *animation.palette;
+    edit(changed);
+    animation.palette = std::make_shared<const Palette>(changed);
+}
+
+// i: within 0..frames.Size() - 1.
+template <typename Edit>
+void EditFrame(Animation& animation, int32 i, Edit edit) {
+    auto changed = std::make_shared<Frame>(*animation.frames.At(i));
+    edit(*changed);
+    animation.frames.Replace(i, std::move(changed));
+}
+
+template <typename Edit>
+void EditFramePalette(Animation& animation, int32 i, Edit edit) {
+    EditFrame(animation, i, [&edit](Frame& frame) {
+        Palette changed = *frame.palette;
+        edit(changed);
+        frame.palette = std::make_shared<const Palette>(changed);
+    });
+}
+
+// Edits of the list as pure functions of the value. Out of range they change nothing and return
+// false.
+
+// Inserts the frame at position 0..frames.Size(). The selection keeps its number; the first frame
+// of all becomes current.
+bool InsertFrame(Animation& animation, int32 position, FramePointer frame);
+// Removes the current frame; the one after it becomes current, or else the last.
+bool RemoveCurrentFrame(Animation& animation);
+// Swaps the current frame with the one before (up) or after it; the selection follows.
+bool MoveCurrentFrame(Animation& animation, bool up);
+// Reverses the list; the selection keeps its number.
+bool ReverseFrames(Animation& animation);
+// Makes another frame current.
+bool SelectFrame(Animation& animation, int32 i);
+
+}  // namespace kirto

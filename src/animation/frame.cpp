@@ -1,0 +1,49 @@
+#include "animation/frame.h"
+
+#include <atomic>
+
+#include "color/shared_palette.h"
+#include "platform/text.h"
+
+namespace {
+
+kirto::FrameId NextId() {
+    static std::atomic<kirto::FrameId> last = 0;
+    return ++last;
+}
+
+}  // namespace
+
+Frame::Frame() : id(NextId()), palette(kirto::DefaultPalette()) {}
+
+Frame::Frame(std::string_view frame_name, int32 frame_width, int32 frame_height) : Frame() {
+    SetName(frame_name);
+    width = frame_width;
+    height = frame_height;
+}
+
+status_t Frame::Read(const std::string& path, std::string_view frame_name,
+                     BTranslatorRoster& roster, std::shared_ptr<kirto::PixelBudget> budget,
+                     Frame* result) {
+    BFile file(path, B_READ_ONLY);
+    std::shared_ptr<BBitmap> picture;
+    const status_t status = roster.Translate(file, std::move(budget), &picture);
+    if (status < B_OK) return status;
+    Frame frame(frame_name, picture->Bounds().PixelWidth(), picture->Bounds().PixelHeight());
+    frame.palette = kirto::SharePalette(Palette(static_cast<const BBitmap*>(picture.get())));
+    if (!frame.palette) return B_NO_MEMORY;
+    frame.bitmap = std::move(picture);
+    *result = std::move(frame);
+    return B_OK;
+}
+
+void Frame::SetName(std::string_view frame_name) {
+    name = kirto::CutUtf8(frame_name, kMaxNameBytes);
+}
+
+bool operator==(const Frame& a, const Frame& b) {
+    return a.id == b.id && a.bitmap == b.bitmap && a.name == b.name && a.height == b.height &&
+           a.width == b.width && a.x_offset == b.x_offset && a.y_offset == b.y_offset &&
+           a.pause_length == b.pause_length && a.local_palette == b.local_palette &&
+           a.use_pause == b.use_pause && (a.palette == b.palette || *a.palette == *b.palette);
+}

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "color/palette.h"
+#include "platform/bitmap.h"
+#include "platform/translator_roster.h"
+#include "platform/types.h"
+
+namespace kirto {
+
+// Tells frames apart for the life of the program. 0 is no frame.
+using FrameId = uint64;
+
+}  // namespace kirto
+
+// One picture of the animation with everything kept per picture. A value: copies are cheap, since
+// pixels and palette are shared and never change once they are here. Within an animation it is
+// constant; an edit puts another frame with the same id in its place.
+class Frame {
+  public:
+    static constexpr size_t kMaxNameBytes = 255;
+
+    kirto::FrameId id;  // the same through all edits of the frame, and in its copies
+    // The pixels, over (0, 0, width - 1, height - 1) unless a creator says otherwise.
+    std::shared_ptr<const BBitmap> bitmap;
+    std::string name;            // at most kMaxNameBytes bytes
+    int32 height = 0;            // pixels
+    int32 width = 0;             // pixels
+    int32 x_offset = 0;          // left edge on the canvas, pixels
+    int32 y_offset = 0;          // top edge on the canvas, pixels
+    double pause_length = 0.0;   // hundredths of a second, or seconds ("global_pauseinseconds")
+    bool local_palette = false;  // written with its own colour table
+    bool use_pause = false;      // pause_length overrides the animation's
+    std::shared_ptr<const Palette> palette;  // never null
+
+    // Blank, with an id of its own and the default palette.
+    Frame();
+    // Of the given name and size, without pixels yet. Note the order.
+    Frame(std::string_view frame_name, int32 frame_width, int32 frame_height);
+    // Makes *result of an image file, with a palette built from the picture; its pixels are counted
+    // by the budget. B_NO_MEMORY, or the roster's error when no translator reads the file.
+    static status_t Read(const std::string& path, std::string_view frame_name,
+                         BTranslatorRoster& roster, std::shared_ptr<kirto::PixelBudget> budget,
+                         Frame* result);
+
+    // Stores the name, cut at a whole UTF-8 character where it is too long.
+    void SetName(std::string_view frame_name);
+
+    // Equal fields and palettes, the same id, and the same pixels in memory.
+    friend bool operator==(const Frame& a, const Frame& b);
+};
+
+namespace kirto {
+
+using FramePointer = std::shared_ptr<const Frame>;
+
+}  // namespace kirto

@@ -1,0 +1,23 @@
+#include "color/shared_palette.h"
+
+#include <new>
+
+#include "platform/allocation.h"
+
+namespace kirto {
+
+std::shared_ptr<const Palette> DefaultPalette() {
+    static const auto palette = std::make_shared<const Palette>();
+    return palette;
+}
+
+std::shared_ptr<const Palette> SharePalette(const Palette& palette) {
+    if (AllocationShouldFail()) return nullptr;
+    try {
+        return std::make_shared<const Palette>(palette);
+    } catch (const std::bad_alloc&) {
+        return nullptr;
+    }
+}
+
+}  // namespace kirto

@@ -1,0 +1,89 @@
+#include "document/field_table.h"
+
+#include <algorithm>
+
+#include "document/command_codes.h"
+
+namespace kirto {
+
+namespace {
+
+using Bound = Field::Bound;
+
+constexpr Field kFields[] = {
+    {kSetWidth, "Width", &Animation::width, Bound::kFromZero},
+    {kSetHeight, "Height", &Animation::height, Bound::kFromZero},
+    {kUsePause, "Pause", &Animation::use_pause, Bound::kNone},
+    {kSetPauseLength, "Pause length", &Animation::pause_length, Bound::kFromZero},
+    {kUseLoop, "Loop", &Animation::use_loop, Bound::kNone},
+    {kSetLoopCount, "Loop count", &Animation::loop_count, Bound::kFromZero},
+    {kSetBackgroundIndex, "Background index", &Palette::background_index, Bound::kPaletteIndex},
+    {kUseTransparent, "Transparent", &Palette::use_transparent, Bound::kNone},
+    {kSetTransparentIndex, "Transparent index", &Palette::transparent_index, Bound::kPaletteIndex},
+    {kSetDither, "Dither", &Palette::dither, Bound::kNone},
+    {kFrameSetXOffset, "XOffset", &Frame::x_offset, Bound::kFromZero},
+    {kFrameSetYOffset, "YOffset", &Frame::y_offset, Bound::kFromZero},
+    {kFrameUsePause, "Pause", &Frame::use_pause, Bound::kNone},
+    {kFrameSetPauseLength, "Pause length", &Frame::pause_length, Bound::kFromZero},
+    {kFrameUsePalette, "Palette", &Frame::local_palette, Bound::kNone},
+};
+
+bool Find(const BMessage& command, int32* value) {
+    return command.FindInt32("value", value) == B_OK;
+}
+
+bool Find(const BMessage& command, double* value) {
+    return command.FindDouble("value", value) == B_OK;
+}
+
+bool Find(const BMessage& command, bool* value) {
+    return command.FindBool("value", value) == B_OK;
+}
+
+template <typename Value>
+bool SetMember(Animation& animation, Value Animation::*member, const Value& value) {
+    animation.*member = value;
+    return true;
+}
+
+template <typename Value>
+bool SetMember(Animation& animation, Value Palette::*member, const Value& value) {
+    EditPalette(animation, [&](Palette& palette) { palette.*member = value; });
+    return true;
+}
+
+template <typename Value>
+bool SetMember(Animation& animation, Value Frame::*member, const Value& value) {
+    if (!animation.CurrentFrame()) return false;
+    EditFrame(animation, animation.selected, [&](Frame& frame) { frame.*member = value; });
+    return true;
+}
+
+template <typename Value, typename Owner>
+bool TakeMember(Animation& animation, Value Owner::*member, const BMessage& command) {
+    Value value{};
+    return Find(command, &value) && SetMember(animation, member, value);
+}
+
+}  // namespace
+
+bool Field::IsReal() const {
+    return std::holds_alternative<double Animation::*>(member) ||
+           std::holds_alternative<double Frame::*>(member);
+}
+
+int32 Field::Largest(const Animation& animation) const {
+    return bound == Bound::kPaletteIndex ? (1 << animation.palette->bits) - 1 : -1;
+}
+
+bool Field::Set(Animation& animation, const BMessage& command) const {
+    return std::visit([&](auto place) { return TakeMember(animation, place, command); }, member);
+}
+
+const Field* FieldOf(uint32 code) {
+    const auto* found = std::find_if(std::begin(kFields), std::end(kFields),
+                                     [code](const Field& field) { return field.code == code; });
+    return found == std::end(kFields) ? nullptr : found;
+}
+
+}  // namespace kirto

@@ -1,0 +1,37 @@
+// The fields of an animation that users edit, each once: its command, its name, where it is kept
+// and what it may hold. The application sets fields by this table, panels and the command line
+// check and name them by it.
+#pragma once
+
+#include <variant>
+
+#include "animation/animation.h"
+#include "platform/message.h"
+#include "platform/types.h"
+
+namespace kirto {
+
+struct Field {
+    // Animation: the animation's; Palette: the global palette's; Frame: the current frame's.
+    using Member = std::variant<int32 Animation::*, bool Animation::*, double Animation::*,
+                                int32 Palette::*, bool Palette::*, int32 Frame::*, bool Frame::*,
+                                double Frame::*>;
+    enum class Bound { kNone, kFromZero, kPaletteIndex };
+
+    uint32 code;       // the command that sets it, with a "value" of the member's type
+    const char* name;  // as alerts say it
+    Member member;
+    Bound bound;  // of numbers: at least 0, or an index of the global palette
+
+    bool IsReal() const;  // holds a double
+    // The largest number allowed, or -1 where there is none.
+    int32 Largest(const Animation& animation) const;
+    // Takes the value out of the command. False, and nothing changes, when it has none or the
+    // animation has no current frame for it.
+    bool Set(Animation& animation, const BMessage& command) const;
+};
+
+// The field that the command sets, or null.
+const Field* FieldOf(uint32 code);
+
+}  // namespace kirto
