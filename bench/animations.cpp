@@ -112,7 +112,7 @@ int64 Animation::CanvasPixels() const {
 
 int64 Animation::ImagePixels() {
     int64 pixels = 0;
-    for (const Frame* frame = Document().FirstFrame(); frame; frame = frame->next)
+    for (const FramePointer frame = Document().FirstFrame(); frame; frame = frame->next)
         pixels += int64{frame->width} * frame->height;
     return pixels;
 }
@@ -124,9 +124,9 @@ AnimationDocument& Animation::Document() {
 
 void Animation::Draw() {
     document_ = std::make_unique<AnimationDocument>(prefs_);
-    document_->global_width = plan_.width;
-    document_->global_height = plan_.height;
-    document_->pause_length_global = 5;
+    EditOf(*document_)->width = plan_.width;
+    EditOf(*document_)->height = plan_.height;
+    EditOf(*document_)->pause_length = 5;
     std::shared_ptr<BBitmap> before;
     for (int32 step = 0; step < plan_.frames; ++step) {
         const std::shared_ptr<BBitmap> picture = PaintStep(step);
@@ -138,7 +138,7 @@ void Animation::Draw() {
         }
         before = picture;
     }
-    Palette& palette = *document_->global_palette;
+    Palette& palette = *document_->Current()->palette;
     palette.Set(document_->FirstFrame()->bitmap.get());
     if (plan_.differences) {
         // The first picture has fewer colours than entries: the last one is free.
@@ -184,7 +184,7 @@ const std::vector<uint8>& Animation::File() {
 }
 
 int32 Animation::TransparentIndex() {
-    const Palette& palette = *Document().global_palette;
+    const Palette& palette = *Document().Current()->palette;
     return palette.use_transparent ? palette.transparent_index : -1;
 }
 
@@ -197,10 +197,10 @@ const std::vector<IndexedImage>& Animation::Images() {
     if (GifLoad(BFile::OnMemory(File()).get(), 0, loaded).failed) std::abort();
     const AnimationDocument& document = Document();
     images_.emplace();
-    for (const Frame* frame = loaded.FirstFrame(); frame; frame = frame->next) {
+    for (const FramePointer& frame : loaded.Current()->frames) {
         const Palette* palette = frame->local_palette
                                      ? document.FrameAt(frame->index)->palette.get()
-                                     : document.global_palette.get();
+                                     : document.Current()->palette.get();
         images_->push_back({frame->x_offset, frame->y_offset, frame->width, frame->height, palette,
                             frame->local_palette, IndicesOf(*frame, *palette, TransparentIndex())});
     }
@@ -215,7 +215,7 @@ std::vector<std::unique_ptr<Animation>> AllAnimations() {
 }
 
 std::vector<uint8> SaveToMemory(AnimationDocument& document, bool dither) {
-    document.global_palette->dither = dither;
+    PaletteEditOf(document)->dither = dither;
     const std::shared_ptr<BFile> file = BFile::OnMemory();
     GifSave(file, document);
     return file->Memory();

@@ -25,7 +25,7 @@ uint64 LoadedDigest(const std::vector<uint8>& gif, const AnimationPlan& plan) {
     const auto file = BFile::OnMemory(gif);
     if (!LoadFromStart(file.get(), document)) return 0;
     CanvasDigest digest(plan);
-    for (const Frame* frame = document.FirstFrame(); frame; frame = frame->next)
+    for (const FramePointer& frame : document.Current()->frames)
         digest.Add(frame->bitmap->Bits(), frame->bitmap->BytesPerRow());
     return digest.Value();
 }

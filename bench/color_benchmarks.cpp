@@ -8,9 +8,9 @@ namespace kirto::bench {
 namespace {
 
 int64 CountColors(const AnimationDocument& document) {
-    const Palette& palette = *document.global_palette;
+    const Palette& palette = *document.Current()->palette;
     int64 pixels = 0;
-    for (const Frame* frame = document.FirstFrame(); frame; frame = frame->next) {
+    for (const FramePointer& frame : document.Current()->frames) {
         if (palette.CountUniqueColors(frame->bitmap.get()) == 0) return 0;
         pixels += int64{frame->width} * frame->height;
     }
@@ -45,7 +45,7 @@ void RegisterColorBenchmarks(Animation& animation) {
     });
     Register("nearest", animation, "kirto", [&]() -> Work {
         const std::shared_ptr<BBitmap> picture = animation.Document().FirstFrame()->bitmap;
-        const Palette& palette = *animation.Document().global_palette;
+        const Palette& palette = *animation.Document().Current()->palette;
         return [picture, &palette] { return FindNearest(*picture, palette); };
     });
 }

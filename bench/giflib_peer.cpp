@@ -157,7 +157,7 @@ std::vector<uint8> EncodeWithGiflib(Animation& animation) {
     if (!file) return {};
     EGifSetGifVersion(file.get(), true);
     const AnimationPlan& plan = animation.Plan();
-    const ColorMap map = MapOf(*animation.Document().global_palette);
+    const ColorMap map = MapOf(*animation.Document().Current()->palette);
     if (EGifPutScreenDesc(file.get(), plan.width, plan.height, 8, 0, map.get()) != GIF_OK) {
         return {};
     }

@@ -11,7 +11,7 @@ constexpr uint64 kPixelBytes = uint64{64} << 20;
 void Check(const AnimationDocument& document, int32 end) {
     if (end != document.FrameCount()) std::abort();
     int32 index = 0;
-    for (const Frame* frame = document.FirstFrame(); frame; frame = frame->next) {
+    for (const FramePointer& frame : document.Current()->frames) {
         if (frame->index != index++ || !frame->palette || !frame->bitmap) std::abort();
         if (!frame->bitmap->Bits() || frame->bitmap->Width() != frame->width) std::abort();
     }

@@ -16,7 +16,7 @@ void Check(bool holds) {
 void CheckFrame(const Frame& frame, const AnimationDocument& document) {
     Check(frame.bitmap && frame.bitmap->InitCheck() == B_OK && frame.palette);
     Check(frame.bitmap->Width() == frame.width && frame.bitmap->Height() == frame.height);
-    Check(frame.width <= document.global_width && frame.height <= document.global_height);
+    Check(frame.width <= document.Current()->width && frame.height <= document.Current()->height);
     Check(frame.palette->bits >= 1 && frame.palette->bits <= 8);
     Check(frame.use_pause == (frame.pause_length != 0));
 }
@@ -24,7 +24,7 @@ void CheckFrame(const Frame& frame, const AnimationDocument& document) {
 void CheckList(const AnimationDocument& document) {
     const int32 count = document.FrameCount();
     Check(document.Selected() == (count > 0 ? 0 : -1));
-    const Frame* linked = document.FirstFrame();
+    const FramePointer linked = document.FirstFrame();
     for (int32 i = 0; i < count; ++i, linked = linked->next) {
         Check(linked && linked == document.FrameAt(i) && linked->index == i);
         CheckFrame(*linked, document);

@@ -23,7 +23,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     if (GifLoad(file.get(), 0, loaded.document).failed) std::abort();
     if (loaded.document.FrameCount() != made.document.FrameCount()) std::abort();
     if (made.prefs.animation_gifloadfullframe || !made.PixelsAreKnown(style)) return 0;
-    for (const Frame* frame = made.document.FirstFrame(); frame; frame = frame->next) {
+    for (const FramePointer& frame : made.document.Current()->frames) {
         const Frame& other = *loaded.document.FrameAt(frame->index);
         if (PixelsOf(*other.bitmap) != MeantOwnSizePixels(made.document, *frame)) std::abort();
     }

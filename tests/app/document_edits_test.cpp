@@ -33,15 +33,15 @@ class DocumentEdits : public ::testing::Test {
   protected:
     DocumentEdits() {
         frame = AppendFrame(document, PictureOf(2, 1, {0xFF000001, 0xFF000002}), "frame");
-        document.modified = false;
-        document.global_palette->dither = true;
+        document.SetModified(false);
+        PaletteEditOf(document)->dither = true;
     }
 
     // Carries the edit out; true when it is known and has modified the document.
     bool Modifies(const BMessage& message) {
-        document.modified = false;
+        document.SetModified(false);
         EXPECT_TRUE(ApplyEdit(document, message)) << CodeText(message.what);
-        return document.modified;
+        return document.Modified();
     }
 
     DocumentFixture fixture;
@@ -53,22 +53,22 @@ TEST_F(DocumentEdits, SetTheCanvas) {
     EXPECT_TRUE(Modifies(Number(kSetWidth, 12)));
     EXPECT_TRUE(Modifies(Number(kSetHeight, 13)));
 
-    EXPECT_EQ(document.global_width, 12);
-    EXPECT_EQ(document.global_height, 13);
+    EXPECT_EQ(document.Current()->width, 12);
+    EXPECT_EQ(document.Current()->height, 13);
 }
 
 TEST_F(DocumentEdits, SetPauseAndLoop) {
     for (const bool on : {true, false}) {
         EXPECT_TRUE(Modifies(Switch(kUsePause, on)));
         EXPECT_TRUE(Modifies(Switch(kUseLoop, !on)));
-        EXPECT_EQ(document.use_pause_global, on);
-        EXPECT_EQ(document.use_loop, !on);
+        EXPECT_EQ(document.Current()->use_pause, on);
+        EXPECT_EQ(document.Current()->use_loop, !on);
     }
     EXPECT_TRUE(Modifies(Length(kSetPauseLength, 1.5)));
     EXPECT_TRUE(Modifies(Number(kSetLoopCount, 14)));
 
-    EXPECT_EQ(document.pause_length_global, 1.5);
-    EXPECT_EQ(document.loop_count, 14);
+    EXPECT_EQ(document.Current()->pause_length, 1.5);
+    EXPECT_EQ(document.Current()->loop_count, 14);
 }
 
 TEST_F(DocumentEdits, SetTheGlobalPalettesKind) {
@@ -79,16 +79,16 @@ TEST_F(DocumentEdits, SetTheGlobalPalettesKind) {
     };
     for (const auto& [code, mode] : kinds) {
         EXPECT_TRUE(Modifies(BMessage(code)));
-        EXPECT_EQ(document.global_palette->mode, mode);
-        EXPECT_TRUE(document.global_palette->dither) << "Only greys end dithering.";
+        EXPECT_EQ(document.Current()->palette->mode, mode);
+        EXPECT_TRUE(document.Current()->palette->dither) << "Only greys end dithering.";
     }
 }
 
 TEST_F(DocumentEdits, EndDitheringWithGreyscale) {
     EXPECT_TRUE(Modifies(BMessage(kPaletteToGreyscale)));
 
-    EXPECT_EQ(document.global_palette->mode, kPaletteGreyscale);
-    EXPECT_FALSE(document.global_palette->dither);
+    EXPECT_EQ(document.Current()->palette->mode, kPaletteGreyscale);
+    EXPECT_FALSE(document.Current()->palette->dither);
 }
 
 TEST_F(DocumentEdits, DontTakeDitheringUpAgainAfterGreyscale) {
@@ -96,7 +96,7 @@ TEST_F(DocumentEdits, DontTakeDitheringUpAgainAfterGreyscale) {
 
     EXPECT_TRUE(Modifies(BMessage(kPaletteToWebSafe)));
 
-    EXPECT_FALSE(document.global_palette->dither);
+    EXPECT_FALSE(document.Current()->palette->dither);
 }
 
 TEST_F(DocumentEdits, SetTheGlobalPalettesSpecialIndicesAndDither) {
@@ -105,15 +105,15 @@ TEST_F(DocumentEdits, SetTheGlobalPalettesSpecialIndicesAndDither) {
     EXPECT_TRUE(Modifies(Switch(kUseTransparent, true)));
     EXPECT_TRUE(Modifies(Switch(kSetDither, false)));
 
-    EXPECT_EQ(document.global_palette->background_index, 5);
-    EXPECT_EQ(document.global_palette->transparent_index, 6);
-    EXPECT_TRUE(document.global_palette->use_transparent);
-    EXPECT_FALSE(document.global_palette->dither);
+    EXPECT_EQ(document.Current()->palette->background_index, 5);
+    EXPECT_EQ(document.Current()->palette->transparent_index, 6);
+    EXPECT_TRUE(document.Current()->palette->use_transparent);
+    EXPECT_FALSE(document.Current()->palette->dither);
 
     EXPECT_TRUE(Modifies(Switch(kUseTransparent, false)));
     EXPECT_TRUE(Modifies(Switch(kSetDither, true)));
-    EXPECT_FALSE(document.global_palette->use_transparent);
-    EXPECT_TRUE(document.global_palette->dither);
+    EXPECT_FALSE(document.Current()->palette->use_transparent);
+    EXPECT_TRUE(document.Current()->palette->dither);
 }
 
 TEST_F(DocumentEdits, SetTheCurrentFramesFields) {
@@ -160,37 +160,37 @@ TEST_F(DocumentEdits, DoNothingWithoutACurrentFrame) {
           Length(kFrameSetPauseLength, 1.0), Switch(kFrameUsePalette, true),
           BMessage(kFramePaletteToFile)}) {
         EXPECT_TRUE(ApplyEdit(empty.document, message)) << CodeText(message.what);
-        EXPECT_FALSE(empty.document.modified) << CodeText(message.what);
+        EXPECT_FALSE(empty.document.Modified()) << CodeText(message.what);
     }
 }
 
 TEST_F(DocumentEdits, DoNothingWithoutAValue) {
-    document.global_width = 9;
+    EditOf(document)->width = 9;
     for (const uint32 code :
          {kSetWidth, kSetHeight, kUsePause, kSetPauseLength, kUseLoop, kSetLoopCount,
           kSetBackgroundIndex, kUseTransparent, kSetTransparentIndex, kSetDither, kFrameSetXOffset,
           kFrameSetYOffset, kFrameUsePause, kFrameSetPauseLength, kFrameUsePalette}) {
         EXPECT_FALSE(Modifies(BMessage(code))) << CodeText(code);
     }
-    EXPECT_EQ(document.global_width, 9);
-    EXPECT_TRUE(document.global_palette->dither);
+    EXPECT_EQ(document.Current()->width, 9);
+    EXPECT_TRUE(document.Current()->palette->dither);
 }
 
 TEST_F(DocumentEdits, DoNothingWithAValueOfAnotherType) {
-    document.global_width = 9;
+    EditOf(document)->width = 9;
 
     EXPECT_FALSE(Modifies(Length(kSetWidth, 3.0)));
     EXPECT_FALSE(Modifies(Number(kSetPauseLength, 3)));
     EXPECT_FALSE(Modifies(Number(kUsePause, 1)));
 
-    EXPECT_EQ(document.global_width, 9);
+    EXPECT_EQ(document.Current()->width, 9);
 }
 
 TEST_F(DocumentEdits, LeaveOtherCommandsToOthers) {
     for (const uint32 code : {kUpdateAll, kSaveAgain, kFrameWebSafe, kRemoveFrame, uint32{0}}) {
         EXPECT_FALSE(ApplyEdit(document, Number(code, 1))) << CodeText(code);
     }
-    EXPECT_FALSE(document.modified);
+    EXPECT_FALSE(document.Modified());
 }
 
 TEST_F(DocumentEdits, PostNothing) {

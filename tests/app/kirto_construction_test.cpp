@@ -67,15 +67,15 @@ TEST_F(KirtoConstruction, StartsEmptyWithTheSettingsProperties) {
     EXPECT_EQ(app_->Signature(), "application/x-vnd.Tavon-Kirto");
     EXPECT_EQ(app_->FrameCount(), 0);
     EXPECT_EQ(app_->Selected(), -1);
-    EXPECT_EQ(app_->global_width, 12);
-    EXPECT_EQ(app_->global_height, 34);
-    EXPECT_FALSE(app_->use_loop);
-    EXPECT_FALSE(app_->modified);
+    EXPECT_EQ(app_->Current()->width, 12);
+    EXPECT_EQ(app_->Current()->height, 34);
+    EXPECT_FALSE(app_->Current()->use_loop);
+    EXPECT_FALSE(app_->Modified());
     EXPECT_FALSE(app_->open_panel_delivered);
     EXPECT_EQ(app_->reader_count, 0);
-    EXPECT_EQ(app_->file_name, "untitled");
-    EXPECT_EQ(app_->global_palette->mode, kPaletteGreyscale);
-    EXPECT_TRUE(app_->global_palette->dither);
+    EXPECT_EQ(app_->CurrentState()->file_name, "untitled");
+    EXPECT_EQ(app_->Current()->palette->mode, kPaletteGreyscale);
+    EXPECT_TRUE(app_->Current()->palette->dither);
 }
 
 TEST_F(KirtoConstruction, TellsOfUnusableSettingsBeforeItUsesThem) {
@@ -90,7 +90,7 @@ TEST_F(KirtoConstruction, TellsOfUnusableSettingsBeforeItUsesThem) {
     EXPECT_EQ(lines[0], WarningLine(kSettingsUnusable));
     EXPECT_EQ(lines[1], WarningLine(kPaletteUnreadable));
     EXPECT_EQ(lines[2].substr(0, 7), "window ");
-    EXPECT_EQ(app_->global_palette->mode, kPaletteWebSafe);
+    EXPECT_EQ(app_->Current()->palette->mode, kPaletteWebSafe);
 }
 
 TEST_F(KirtoConstruction, GoesOnWithoutASemaphore) {
@@ -102,7 +102,7 @@ TEST_F(KirtoConstruction, GoesOnWithoutASemaphore) {
 
     EXPECT_EQ(debug.Text(), "Kirto::Kirto() - Create sem died\n");
     EXPECT_EQ(desktop_.window->TakeTranscript(), "auda");
-    EXPECT_EQ(app_->global_width, 320);
+    EXPECT_EQ(app_->Current()->width, 320);
 }
 
 TEST_F(KirtoConstruction, RemovesThePreviewAtTheEnd) {

@@ -79,9 +79,9 @@ void KirtoFixture::Append(const Lines& names) {
 
 Lines KirtoFixture::Names() const {
     Lines names;
-    for (const Frame* frame = app_->FirstFrame(); frame; frame = frame->next) {
-        EXPECT_EQ(frame->index, static_cast<int32>(names.size()));
-        names.push_back(frame->index == app_->Selected() ? "[" + frame->name + "]" : frame->name);
+    for (const FramePointer& frame : app_->Current()->frames) {
+        const bool current = static_cast<int32>(names.size()) == app_->Selected();
+        names.push_back(current ? "[" + frame->name + "]" : frame->name);
     }
     return names;
 }

@@ -45,10 +45,10 @@ TEST_F(KirtoOpen, NamesTheDocumentAfterTheFile) {
 
     Do(Files(kOpenFile, {"anim.gif"}));
 
-    EXPECT_EQ(app_->file_name, "anim.gif");
-    EXPECT_EQ(app_->file_directory, folder_.Path());
-    EXPECT_EQ(app_->global_width, 2);
-    EXPECT_FALSE(app_->modified);
+    EXPECT_EQ(app_->CurrentState()->file_name, "anim.gif");
+    EXPECT_EQ(app_->CurrentState()->file_directory, folder_.Path());
+    EXPECT_EQ(app_->Current()->width, 2);
+    EXPECT_FALSE(app_->Modified());
     EXPECT_TRUE(app_->open_panel_delivered);
 }
 
@@ -61,9 +61,9 @@ TEST_F(KirtoOpen, OpensFlcFilesAsEndlessLoops) {
     EXPECT_EQ(Do(Files(kOpenFile, {"anim.flc"})),
               "svup(Status: loading frame 1 of 1...) tvff auns tvff auda");
 
-    EXPECT_EQ(app_->file_name, "anim.flc");
-    EXPECT_TRUE(app_->use_loop);
-    EXPECT_EQ(app_->loop_count, 0);
+    EXPECT_EQ(app_->CurrentState()->file_name, "anim.flc");
+    EXPECT_TRUE(app_->Current()->use_loop);
+    EXPECT_EQ(app_->Current()->loop_count, 0);
 }
 
 TEST_F(KirtoOpen, ReplacesTheDocumentUnlessToldToInsert) {
@@ -97,9 +97,9 @@ TEST_F(KirtoOpen, InsertsAtThePositionAsked) {
         Do(InsertAt(position));
 
         EXPECT_EQ(Names(), names);
-        EXPECT_EQ(app_->file_name, "untitled");
-        EXPECT_EQ(app_->file_directory, "");
-        EXPECT_TRUE(app_->modified);
+        EXPECT_EQ(app_->CurrentState()->file_name, "untitled");
+        EXPECT_EQ(app_->CurrentState()->file_directory, "");
+        EXPECT_TRUE(app_->Modified());
     }
 }
 
@@ -121,7 +121,7 @@ TEST_F(KirtoOpen, OfAnotherKindOfFileLeavesTheDocumentReset) {
     EXPECT_EQ(Do(Files(kOpenFile, {"notes.txt"})), "tvff auda");
 
     EXPECT_EQ(app_->FrameCount(), 0);
-    EXPECT_EQ(app_->file_name, "untitled");
+    EXPECT_EQ(app_->CurrentState()->file_name, "untitled");
     EXPECT_EQ(
         TakeLines(),
         Lines{WarningLine("The animation can't be opened because this file type is unsupported.")});
@@ -134,10 +134,10 @@ TEST_F(KirtoOpen, KnowsFilesWithoutAnEndingByTheirMimeType) {
     Start();
 
     Do(Files(kOpenFile, {"one"}));
-    EXPECT_EQ(app_->file_name, "one");
+    EXPECT_EQ(app_->CurrentState()->file_name, "one");
     Do(Files(kOpenFile, {"two"}));
 
-    EXPECT_EQ(app_->file_name, "two");
+    EXPECT_EQ(app_->CurrentState()->file_name, "two");
     EXPECT_EQ(TakeLines(), Lines{});
 }
 
@@ -152,8 +152,8 @@ TEST_F(KirtoOpen, SalvagesADamagedGif) {
 
     EXPECT_EQ(TakeLines(), Lines{kDamaged});
     EXPECT_EQ(Names(), (Lines{"[frame0000]", "frame0001"}));
-    EXPECT_EQ(app_->file_name, "untitled");
-    EXPECT_FALSE(app_->modified);
+    EXPECT_EQ(app_->CurrentState()->file_name, "untitled");
+    EXPECT_FALSE(app_->Modified());
 }
 
 TEST_F(KirtoOpen, ThrowsADamagedGifAwayOnOk) {
@@ -164,7 +164,7 @@ TEST_F(KirtoOpen, ThrowsADamagedGifAwayOnOk) {
 
     EXPECT_EQ(TakeLines(), Lines{kDamaged});
     EXPECT_EQ(app_->FrameCount(), 0);
-    EXPECT_EQ(app_->global_width, 320);
+    EXPECT_EQ(app_->Current()->width, 320);
 }
 
 TEST_F(KirtoOpen, TakesAMissingFileForADamagedOne) {
@@ -182,8 +182,8 @@ TEST_F(KirtoOpen, SharesOutThePausesOfAGif) {
 
     Do(Files(kOpenFile, {"anim.gif"}));
 
-    EXPECT_EQ(app_->pause_length_global, 10);
-    EXPECT_TRUE(app_->use_pause_global);
+    EXPECT_EQ(app_->Current()->pause_length, 10);
+    EXPECT_TRUE(app_->Current()->use_pause);
     EXPECT_FALSE(app_->FrameAt(0)->use_pause);
     EXPECT_EQ(app_->FrameAt(2)->pause_length, 20);
     EXPECT_TRUE(app_->FrameAt(2)->use_pause);
@@ -193,17 +193,17 @@ TEST_F(KirtoOpen, LoadsThePaletteThatTheAnimationWaitsFor) {
     WritePaletteGif();
     Start();
     Append({"old"});
-    app_->global_palette->Set(kPaletteAwaitingFile);
-    app_->CurrentFrame()->palette->Set(kPaletteAwaitingFile);
+    PaletteEditOf(*app_)->Set(kPaletteAwaitingFile);
+    FramePaletteEditOf(*app_, app_->Selected())->Set(kPaletteAwaitingFile);
 
     EXPECT_EQ(Do(Files(kOpenFile, {"colors.gif"})), "tvff auda");
 
-    EXPECT_EQ(app_->global_palette->mode, kPaletteFromFile);
-    EXPECT_EQ(app_->global_palette->ColorForIndex(0), (rgb_color{255, 255, 255, 255}));
+    EXPECT_EQ(app_->Current()->palette->mode, kPaletteFromFile);
+    EXPECT_EQ(app_->Current()->palette->ColorForIndex(0), (rgb_color{255, 255, 255, 255}));
     EXPECT_EQ(app_->CurrentFrame()->palette->mode, kPaletteAwaitingFile);
     EXPECT_EQ(Names(), Lines{"[old]"});
-    EXPECT_EQ(app_->file_name, "untitled");
-    EXPECT_TRUE(app_->modified);
+    EXPECT_EQ(app_->CurrentState()->file_name, "untitled");
+    EXPECT_TRUE(app_->Modified());
     EXPECT_TRUE(app_->open_panel_delivered);
 }
 
@@ -211,28 +211,28 @@ TEST_F(KirtoOpen, LoadsThePaletteThatTheCurrentFrameWaitsFor) {
     WritePaletteGif();
     Start();
     Append({"old"});
-    app_->CurrentFrame()->palette->Set(kPaletteAwaitingFile);
+    FramePaletteEditOf(*app_, app_->Selected())->Set(kPaletteAwaitingFile);
 
     Do(Files(kOpenFile, {"colors.gif"}));
 
     EXPECT_EQ(app_->CurrentFrame()->palette->mode, kPaletteFromFile);
-    EXPECT_EQ(app_->global_palette->mode, kPaletteWebSafe);
+    EXPECT_EQ(app_->Current()->palette->mode, kPaletteWebSafe);
     EXPECT_EQ(Names(), Lines{"[old]"});
-    EXPECT_TRUE(app_->modified);
+    EXPECT_TRUE(app_->Modified());
 }
 
 TEST_F(KirtoOpen, PutsAPaletteBackThatCantBeLoaded) {
     Write("notes.txt", {'n'});
     Start();
     Append({"old"});
-    for (Palette* palette : {app_->global_palette.get(), app_->CurrentFrame()->palette.get()}) {
-        app_->modified = false;
+    for (Palette* palette : {app_->Current()->palette.get(), app_->CurrentFrame()->palette.get()}) {
+        app_->SetModified(false);
         palette->Set(kPaletteAwaitingFile);
 
         EXPECT_EQ(Do(Files(kOpenFile, {"notes.txt"})), "tvff auda");
 
         EXPECT_EQ(palette->mode, kPaletteWebSafe);
-        EXPECT_TRUE(app_->modified);
+        EXPECT_TRUE(app_->Modified());
         EXPECT_EQ(TakeLines(), Lines{WarningLine(kPaletteUnreadable)});
     }
     EXPECT_EQ(Names(), Lines{"[old]"});
@@ -246,7 +246,7 @@ TEST_F(KirtoOpen, AskedToStopKeepsWhatIsDoneAndAsksNothing) {
     EXPECT_EQ(Do(Files(kOpenFile, {"anim.gif"})), "svup(Status: loading frame 1...) tvff auda");
 
     EXPECT_EQ(TakeLines(), Lines{});
-    EXPECT_EQ(app_->file_name, "untitled");
+    EXPECT_EQ(app_->CurrentState()->file_name, "untitled");
 }
 
 }  // namespace

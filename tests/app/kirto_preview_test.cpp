@@ -19,7 +19,7 @@ class KirtoPreview : public KirtoFixture {};
 TEST_F(KirtoPreview, WritesAFileThatOnlyTheUserCanRead) {
     Start();
     Append({"one"});
-    app_->modified = true;
+    app_->SetModified(true);
 
     EXPECT_EQ(Do(kPreview), "svup(Status: writing frame 1 of 1...) auda");
 
@@ -28,8 +28,8 @@ TEST_F(KirtoPreview, WritesAFileThatOnlyTheUserCanRead) {
     EXPECT_EQ(info.st_mode & 07777, 0600u);
     EXPECT_EQ(ReadBytes(File("kirtotemp.gif")).at(0), 'G');
     EXPECT_EQ(FolderContent(), Lines{"kirtotemp.gif"});
-    EXPECT_EQ(app_->file_name, "untitled");
-    EXPECT_TRUE(app_->modified);
+    EXPECT_EQ(app_->CurrentState()->file_name, "untitled");
+    EXPECT_TRUE(app_->Modified());
 }
 
 TEST_F(KirtoPreview, ReplacesALinkInItsPlaceAndLeavesTheTargetAlone) {
@@ -70,7 +70,7 @@ TEST_F(KirtoPreview, RefusesFramesLargerThanTheAnimation) {
     prefs_.misc_tempfilelocation = File("missing");
     Start();
     Append({"one"});
-    app_->global_width = 0;
+    EditOf(*app_)->width = 0;
     app_->file_name = "kept.gif";
     app_->file_directory = folder_.Path();
 
@@ -78,8 +78,8 @@ TEST_F(KirtoPreview, RefusesFramesLargerThanTheAnimation) {
 
     EXPECT_EQ(TakeLines(), Lines{WarningLine("The animation can't be previewed because one of the "
                                              "frames has a larger size than the animation.")});
-    EXPECT_EQ(app_->file_name, "kept.gif");
-    EXPECT_EQ(app_->file_directory, folder_.Path());
+    EXPECT_EQ(app_->CurrentState()->file_name, "kept.gif");
+    EXPECT_EQ(app_->CurrentState()->file_directory, folder_.Path());
     EXPECT_EQ(prefs_.misc_tempfilelocation, File("missing"));
 }
 
@@ -110,11 +110,11 @@ TEST_F(KirtoPreview, TellsWhenItsFolderRefusesIt) {
 TEST_F(KirtoPreview, LetsThePaletteFollowItsFrameFirst) {
     Start();
     Append({"one"});
-    app_->global_palette->Set(kPaletteCurrentFrame);
+    PaletteEditOf(*app_)->Set(kPaletteCurrentFrame);
 
     Do(kPreview);
 
-    EXPECT_EQ(app_->global_palette->ColorForIndex(0), (rgb_color{0x64, 0x64, 0x64, 255}));
+    EXPECT_EQ(app_->Current()->palette->ColorForIndex(0), (rgb_color{0x64, 0x64, 0x64, 255}));
 }
 
 TEST_F(KirtoPreview, AskedToStopShowsNothing) {

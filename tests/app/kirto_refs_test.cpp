@@ -85,8 +85,8 @@ TEST_F(KirtoRefs, OpensADroppedAnimationAsANewOne) {
     EXPECT_EQ(Do(Files(B_SIMPLE_DATA, {"anim.gif"})), std::string("auda ") + kOpened);
 
     EXPECT_EQ(Names(), Lines{"[frame0000]"});
-    EXPECT_EQ(app_->file_name, "anim.gif");
-    EXPECT_FALSE(app_->modified);
+    EXPECT_EQ(app_->CurrentState()->file_name, "anim.gif");
+    EXPECT_FALSE(app_->Modified());
 }
 
 TEST_F(KirtoRefs, InsertsADroppedAnimationIntoTheCurrentOne) {
@@ -102,8 +102,8 @@ TEST_F(KirtoRefs, InsertsADroppedAnimationIntoTheCurrentOne) {
               "svup(Status: loading frame 3...) auns tvff auda");
 
     EXPECT_EQ(Names(), (Lines{"[first]", "frame0001", "frame0002", "second"}));
-    EXPECT_EQ(app_->file_name, "untitled");
-    EXPECT_TRUE(app_->modified);
+    EXPECT_EQ(app_->CurrentState()->file_name, "untitled");
+    EXPECT_TRUE(app_->Modified());
 }
 
 TEST_F(KirtoRefs, AsksAnewForAMessageThatSaysResetAlready) {
@@ -172,7 +172,7 @@ TEST_F(KirtoRefs, OpensAnAnimationWithoutAnEndingFromTheDesktopWithoutAsking) {
 
     EXPECT_EQ(Do(Files(B_REFS_RECEIVED, {"clip"})), kOpened);
 
-    EXPECT_EQ(app_->file_name, "clip");
+    EXPECT_EQ(app_->CurrentState()->file_name, "clip");
     EXPECT_EQ(TakeLines(), Lines{});
 }
 
@@ -198,40 +198,40 @@ TEST_F(KirtoCancel, OfTheOpenPanelAfterItDeliveredAFileOnlyClearsTheFlag) {
     FilePanel* panel = app_->GetOpenFilePanel();
     Do(Files(kOpenFile, {"anim.gif"}));
     EXPECT_TRUE(app_->open_panel_delivered);
-    app_->global_palette->Set(kPaletteAwaitingFile);
+    PaletteEditOf(*app_)->Set(kPaletteAwaitingFile);
 
     EXPECT_EQ(Do(CancelOf(panel)), "");
     EXPECT_FALSE(app_->open_panel_delivered);
-    EXPECT_EQ(app_->global_palette->mode, kPaletteAwaitingFile);
+    EXPECT_EQ(app_->Current()->palette->mode, kPaletteAwaitingFile);
     EXPECT_EQ(Do(CancelOf(panel)), "auda");
 
-    EXPECT_EQ(app_->global_palette->mode, kPaletteWebSafe);
+    EXPECT_EQ(app_->Current()->palette->mode, kPaletteWebSafe);
 }
 
 TEST_F(KirtoCancel, OfTheOpenPanelPutsTheFramesPaletteBack) {
     Start();
     Append({"one", "two"});
     FilePanel* panel = app_->GetOpenFilePanel();
-    app_->CurrentFrame()->palette->Set(kPaletteAwaitingFile);
-    app_->FrameAt(1)->palette->Set(kPaletteAwaitingFile);
+    FramePaletteEditOf(*app_, app_->Selected())->Set(kPaletteAwaitingFile);
+    FramePaletteEditOf(*app_, 1)->Set(kPaletteAwaitingFile);
 
     EXPECT_EQ(Do(CancelOf(panel)), "auda");
 
     EXPECT_EQ(app_->FrameAt(0)->palette->mode, kPaletteWebSafe);
     EXPECT_EQ(app_->FrameAt(1)->palette->mode, kPaletteAwaitingFile);
-    EXPECT_FALSE(app_->modified);
+    EXPECT_FALSE(app_->Modified());
 }
 
 TEST_F(KirtoCancel, OfTheOpenPanelPutsTheGlobalPaletteBackFirst) {
     Start();
     Append({"one"});
     FilePanel* panel = app_->GetOpenFilePanel();
-    app_->global_palette->Set(kPaletteAwaitingFile);
-    app_->CurrentFrame()->palette->Set(kPaletteAwaitingFile);
+    PaletteEditOf(*app_)->Set(kPaletteAwaitingFile);
+    FramePaletteEditOf(*app_, app_->Selected())->Set(kPaletteAwaitingFile);
 
     Do(CancelOf(panel));
 
-    EXPECT_EQ(app_->global_palette->mode, kPaletteWebSafe);
+    EXPECT_EQ(app_->Current()->palette->mode, kPaletteWebSafe);
     EXPECT_EQ(app_->CurrentFrame()->palette->mode, kPaletteAwaitingFile);
 }
 

@@ -20,13 +20,13 @@ class KirtoSave : public KirtoFixture {};
 TEST_F(KirtoSave, WritesAGifAndTellsTheWindowToGoOn) {
     Start();
     Append({"one", "two"});
-    app_->modified = true;
+    app_->SetModified(true);
 
     EXPECT_EQ(Do(SaveTo(folder_.Path(), "out.gif")),
               "svup(Status: writing frame 1 of 2...) svup(Status: writing frame 2 of 2...) arsm "
               "auda");
 
-    EXPECT_FALSE(app_->modified);
+    EXPECT_FALSE(app_->Modified());
     EXPECT_EQ(ReadBytes(File("out.gif")).at(0), 'G');
     EXPECT_EQ(FolderContent(), Lines{"out.gif"});
     EXPECT_EQ(TakeLines(), Lines{});
@@ -54,7 +54,7 @@ TEST_F(KirtoSave, TakesBothNumbersOfTheAnimatedGifAndNoNumberForIt) {
 TEST_F(KirtoSave, WithoutADirectoryOrANameSavesNothing) {
     Start();
     Append({"one"});
-    app_->modified = true;
+    app_->SetModified(true);
     BMessage without_name(kSaveFile);
     without_name.AddInt64("translator_id", 0);
     without_name.AddRef("directory", entry_ref(folder_.Path()));
@@ -65,8 +65,8 @@ TEST_F(KirtoSave, WithoutADirectoryOrANameSavesNothing) {
     EXPECT_EQ(Do(without_name), "auda");
     EXPECT_EQ(Do(without_directory), "auda");
 
-    EXPECT_TRUE(app_->modified);
-    EXPECT_EQ(app_->file_name, "untitled");
+    EXPECT_TRUE(app_->Modified());
+    EXPECT_EQ(app_->CurrentState()->file_name, "untitled");
     EXPECT_EQ(FolderContent(), Lines{});
 }
 
@@ -77,35 +77,35 @@ TEST_F(KirtoSave, CutsTheNameAtAWholeCharacter) {
     // A sequence keeps its name even where its files can't be made.
     Do(SaveTo(folder_.Path(), name, FakeRoster::kRaw));
 
-    EXPECT_EQ(app_->file_name, std::string(254, 'n'));
+    EXPECT_EQ(app_->CurrentState()->file_name, std::string(254, 'n'));
 }
 
 TEST_F(KirtoSave, LetsThePaletteFollowItsFrameFirst) {
     Start();
     Append({"one"});
-    app_->global_palette->Set(kPaletteFirstFrame);
+    PaletteEditOf(*app_)->Set(kPaletteFirstFrame);
 
     Do(SaveTo(folder_.Path(), "out.gif"));
 
-    EXPECT_EQ(app_->global_palette->mode, kPaletteFirstFrame);
-    EXPECT_EQ(app_->global_palette->ColorForIndex(0), (rgb_color{0x64, 0x64, 0x64, 255}));
+    EXPECT_EQ(app_->Current()->palette->mode, kPaletteFirstFrame);
+    EXPECT_EQ(app_->Current()->palette->ColorForIndex(0), (rgb_color{0x64, 0x64, 0x64, 255}));
 }
 
 TEST_F(KirtoSave, RefusesFramesLargerThanTheAnimation) {
     Start();
     Append({"one"});
     for (const bool too_wide : {true, false}) {
-        app_->global_width = too_wide ? 0 : 5;
-        app_->global_height = too_wide ? 5 : 0;
-        app_->modified = true;
+        EditOf(*app_)->width = too_wide ? 0 : 5;
+        EditOf(*app_)->height = too_wide ? 5 : 0;
+        app_->SetModified(true);
 
         EXPECT_EQ(Do(SaveTo(folder_.Path(), "out.gif")), "auda");
 
         EXPECT_EQ(TakeLines(), Lines{WarningLine("The animation can't be saved because one of the "
                                                  "frames has a larger size than the animation.")});
-        EXPECT_EQ(app_->file_name, "untitled");
-        EXPECT_EQ(app_->file_directory, "");
-        EXPECT_TRUE(app_->modified);
+        EXPECT_EQ(app_->CurrentState()->file_name, "untitled");
+        EXPECT_EQ(app_->CurrentState()->file_directory, "");
+        EXPECT_TRUE(app_->Modified());
     }
     EXPECT_EQ(FolderContent(), Lines{});
 }
@@ -113,21 +113,21 @@ TEST_F(KirtoSave, RefusesFramesLargerThanTheAnimation) {
 TEST_F(KirtoSave, ForgetsANameThatCantBeCreated) {
     Start();
     Append({"one"});
-    app_->modified = true;
+    app_->SetModified(true);
 
     EXPECT_EQ(Do(SaveTo(File("missing"), "out.gif")), "auda");
 
     EXPECT_EQ(TakeLines(), Lines{WarningLine(kNotCreated)});
-    EXPECT_EQ(app_->file_name, "untitled");
-    EXPECT_EQ(app_->file_directory, "");
-    EXPECT_TRUE(app_->modified);
+    EXPECT_EQ(app_->CurrentState()->file_name, "untitled");
+    EXPECT_EQ(app_->CurrentState()->file_directory, "");
+    EXPECT_TRUE(app_->Modified());
 }
 
 TEST_F(KirtoSave, KeepsTheOldFileWhenTheNewOneCantBeWritten) {
     Write("out.gif", {'o', 'l', 'd'});
     Start();
     Append({"one"});
-    app_->modified = true;
+    app_->SetModified(true);
     std::string transcript;
     {
         const FullDisk disk;
@@ -138,15 +138,15 @@ TEST_F(KirtoSave, KeepsTheOldFileWhenTheNewOneCantBeWritten) {
     EXPECT_EQ(TakeLines(), Lines{WarningLine(kNotCreated)});
     EXPECT_EQ(ReadBytes(File("out.gif")), (std::vector<uint8>{'o', 'l', 'd'}));
     EXPECT_EQ(FolderContent(), Lines{"out.gif"});
-    EXPECT_EQ(app_->file_name, "untitled");
-    EXPECT_TRUE(app_->modified);
+    EXPECT_EQ(app_->CurrentState()->file_name, "untitled");
+    EXPECT_TRUE(app_->Modified());
 }
 
 TEST_F(KirtoSave, AskedToStopKeepsTheOldFileAndTheNameAndSaysNothing) {
     Write("out.gif", {'o', 'l', 'd'});
     Start();
     Append({"one"});
-    app_->modified = true;
+    app_->SetModified(true);
     app_->RequestStop();
 
     const std::string transcript = Do(SaveTo(folder_.Path(), "out.gif"));
@@ -154,8 +154,8 @@ TEST_F(KirtoSave, AskedToStopKeepsTheOldFileAndTheNameAndSaysNothing) {
     EXPECT_EQ(transcript.find("arsm"), std::string::npos);
     EXPECT_EQ(TakeLines(), Lines{});
     EXPECT_EQ(ReadBytes(File("out.gif")), (std::vector<uint8>{'o', 'l', 'd'}));
-    EXPECT_EQ(app_->file_name, "out.gif");
-    EXPECT_TRUE(app_->modified);
+    EXPECT_EQ(app_->CurrentState()->file_name, "out.gif");
+    EXPECT_TRUE(app_->Modified());
 }
 
 class KirtoSaveSequence : public KirtoFixture {
@@ -168,14 +168,14 @@ class KirtoSaveSequence : public KirtoFixture {
 TEST_F(KirtoSaveSequence, NumbersTheFilesBeforeTheEnding) {
     Start();
     Append({"one", "two", "three"});
-    app_->modified = true;
+    app_->SetModified(true);
 
     EXPECT_EQ(Do(SequenceTo("movie.tiff")), "arsm auda");
 
     EXPECT_EQ(FolderContent(), (Lines{"movie0000.tiff", "movie0001.tiff", "movie0002.tiff"}));
     EXPECT_EQ(ReadBytes(File("movie0002.tiff")), RawPicture(*app_->FrameAt(2)->bitmap));
-    EXPECT_FALSE(app_->modified);
-    EXPECT_EQ(app_->file_name, "movie.tiff");
+    EXPECT_FALSE(app_->Modified());
+    EXPECT_EQ(app_->CurrentState()->file_name, "movie.tiff");
     EXPECT_TRUE(app_->FrameAt(2)->bitmap->Bits());
 }
 
@@ -212,60 +212,60 @@ TEST_F(KirtoSaveSequence, HandsTheTranslatorItsSettings) {
 TEST_F(KirtoSaveSequence, RefusesAnUnknownTranslator) {
     Start();
     Append({"one"});
-    app_->modified = true;
+    app_->SetModified(true);
 
     EXPECT_EQ(Do(SequenceTo("movie.raw", 99)), "arsm auda");
 
     EXPECT_EQ(TakeLines(), Lines{WarningLine(kInvalidTranslator)});
-    EXPECT_TRUE(app_->modified);
+    EXPECT_TRUE(app_->Modified());
     EXPECT_EQ(FolderContent(), Lines{});
 }
 
 TEST_F(KirtoSaveSequence, GoesOnWithoutAFileFormat) {
     Start();
     Append({"one"});
-    app_->modified = true;
+    app_->SetModified(true);
     DebugRecorder debug;
 
     EXPECT_EQ(Do(SequenceTo("movie.raw", FakeRoster::kReadOnly)), "arsm auda");
 
     EXPECT_EQ(debug.Text(), "Kirto::SaveSequence() - Desired format is 0, this is not good\n");
     EXPECT_EQ(TakeLines(), Lines{WarningLine(kInvalidTranslator)});
-    EXPECT_TRUE(app_->modified);
+    EXPECT_TRUE(app_->Modified());
 }
 
 TEST_F(KirtoSaveSequence, StopsAtAFrameThatCantBeTranslated) {
     Start();
     Append({"one", "two"});
-    app_->modified = true;
+    app_->SetModified(true);
     roster_.write_status = B_NO_TRANSLATOR;
 
     EXPECT_EQ(Do(SequenceTo("movie.raw")), "arsm auda");
 
     EXPECT_EQ(TakeLines(), Lines{WarningLine(kInvalidTranslator)});
     EXPECT_EQ(FolderContent(), Lines{});
-    EXPECT_TRUE(app_->modified);
-    EXPECT_EQ(app_->file_name, "movie.raw");
+    EXPECT_TRUE(app_->Modified());
+    EXPECT_EQ(app_->CurrentState()->file_name, "movie.raw");
 }
 
 TEST_F(KirtoSaveSequence, StopsAtAFileThatCantBeCreated) {
     fs::create_directory(File("movie0001.raw"));
     Start();
     Append({"one", "two", "three"});
-    app_->modified = true;
+    app_->SetModified(true);
 
     EXPECT_EQ(Do(SequenceTo("movie.raw")), "arsm auda");
 
     EXPECT_EQ(TakeLines(), Lines{WarningLine(kNotCreated)});
     EXPECT_EQ(FolderContent(), (Lines{"movie0000.raw", "movie0001.raw"}));
-    EXPECT_TRUE(app_->modified);
+    EXPECT_TRUE(app_->Modified());
 }
 
 TEST_F(KirtoSaveSequence, KeepsTheOldFileWhenTheNewOneCantBeWritten) {
     Write("movie0000.raw", {'o', 'l', 'd'});
     Start();
     Append({"one"});
-    app_->modified = true;
+    app_->SetModified(true);
     {
         const FullDisk disk;
         Do(SequenceTo("movie.raw"));
@@ -274,19 +274,19 @@ TEST_F(KirtoSaveSequence, KeepsTheOldFileWhenTheNewOneCantBeWritten) {
     EXPECT_EQ(TakeLines(), Lines{WarningLine(kNotCreated)});
     EXPECT_EQ(ReadBytes(File("movie0000.raw")), (std::vector<uint8>{'o', 'l', 'd'}));
     EXPECT_EQ(FolderContent(), Lines{"movie0000.raw"});
-    EXPECT_TRUE(app_->modified);
+    EXPECT_TRUE(app_->Modified());
 }
 
 TEST_F(KirtoSaveSequence, EndsBeforeTheNextFrameWhenAskedToStop) {
     Start();
     Append({"one"});
-    app_->modified = true;
+    app_->SetModified(true);
     app_->RequestStop();
 
     Do(SequenceTo("movie.raw"));
 
     EXPECT_EQ(FolderContent(), Lines{});
-    EXPECT_TRUE(app_->modified);
+    EXPECT_TRUE(app_->Modified());
 }
 
 }  // namespace

@@ -39,7 +39,7 @@ TEST_F(KirtoSettings, AreTakenOverWrittenAndShown) {
     EXPECT_EQ(prefs_.global_width, 77);
     const Prefs read;
     EXPECT_FALSE(read.failed);
-    EXPECT_EQ(read.global_width, 77);
+    EXPECT_EQ(read.Current()->width, 77);
     EXPECT_EQ(read.misc_windowdimensions, BRect(1, 2, 3, 4));
 }
 
@@ -47,12 +47,12 @@ TEST_F(KirtoSettings, LeaveTheDocumentAsItIs) {
     Start();
     Prefs changed = prefs_;
     changed.global_width = 77;
-    const int32 width = app_->global_width;
+    const int32 width = app_->Current()->width;
 
     Do(Store(changed));
 
-    EXPECT_EQ(app_->global_width, width);
-    EXPECT_FALSE(app_->modified);
+    EXPECT_EQ(app_->Current()->width, width);
+    EXPECT_FALSE(app_->Modified());
 }
 
 TEST_F(KirtoSettings, AreWrittenWithTheWindowsPlaceAlone) {
@@ -65,7 +65,7 @@ TEST_F(KirtoSettings, AreWrittenWithTheWindowsPlaceAlone) {
     EXPECT_EQ(Do(message), "auda");
 
     const Prefs read;
-    EXPECT_EQ(read.global_width, 78);
+    EXPECT_EQ(read.Current()->width, 78);
     EXPECT_EQ(read.misc_windowdimensions, BRect(10, 20, 700, 500));
 }
 
@@ -119,9 +119,9 @@ TEST_F(KirtoSettings, AnEditWithASerialNumberIsAnsweredOnceItIsDone) {
 
     EXPECT_EQ(Do(Edit(kSetWidth, 12, 5)), "aued");
 
-    EXPECT_EQ(app_->edits_done, 5);
-    EXPECT_EQ(app_->global_width, 12);
-    EXPECT_TRUE(app_->modified);
+    EXPECT_EQ(app_->CurrentState()->edits_done, 5);
+    EXPECT_EQ(app_->Current()->width, 12);
+    EXPECT_TRUE(app_->Modified());
 }
 
 TEST_F(KirtoSettings, AnEditWithoutASerialNumberIsNotAnswered) {
@@ -131,8 +131,8 @@ TEST_F(KirtoSettings, AnEditWithoutASerialNumberIsNotAnswered) {
 
     EXPECT_EQ(Do(edit), "");
 
-    EXPECT_EQ(app_->edits_done, 0);
-    EXPECT_EQ(app_->global_width, 12);
+    EXPECT_EQ(app_->CurrentState()->edits_done, 0);
+    EXPECT_EQ(app_->Current()->width, 12);
 }
 
 TEST_F(KirtoSettings, EveryCommandWithASerialNumberIsAnswered) {
@@ -149,7 +149,7 @@ TEST_F(KirtoSettings, EveryCommandWithASerialNumberIsAnswered) {
     EXPECT_EQ(Do(reset), "aued");
     EXPECT_EQ(Do(unknown), "aued");
 
-    EXPECT_EQ(app_->edits_done, 3);
+    EXPECT_EQ(app_->CurrentState()->edits_done, 3);
 }
 
 TEST_F(KirtoSettings, PanelsAskedForByTwoThreadsAtOnceAreMadeOnce) {

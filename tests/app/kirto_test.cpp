@@ -73,8 +73,8 @@ TEST_F(KirtoCommands, AifpInsertsFiles) {
               "svup(Status: loading frame 2 of 2...) auns auda");
 
     EXPECT_EQ(Names(), (Lines{"one.raw", "[two.raw]"}));
-    EXPECT_EQ(app_->global_width, 3);
-    EXPECT_TRUE(app_->modified);
+    EXPECT_EQ(app_->Current()->width, 3);
+    EXPECT_TRUE(app_->Modified());
 }
 
 TEST_F(KirtoCommands, AitpInsertsTilesAsThePanelSays) {
@@ -87,8 +87,8 @@ TEST_F(KirtoCommands, AitpInsertsTilesAsThePanelSays) {
               "svup(Status: loading tile 2 of 2...) auns auda");
 
     EXPECT_EQ(Names(), (Lines{"[tiled0000]", "tiled0001"}));
-    EXPECT_EQ(app_->global_width, 2);
-    EXPECT_EQ(app_->global_height, 1);
+    EXPECT_EQ(app_->Current()->width, 2);
+    EXPECT_EQ(app_->Current()->height, 1);
     EXPECT_EQ(TakeLines(), Lines{"panel insert tiled made"});
 }
 
@@ -115,7 +115,7 @@ TEST_F(KirtoCommands, AitpRefusesFieldsThatAreNoPositiveNumber) {
                                     "columns is illegal.")})
             << '"' << text << '"';
     }
-    EXPECT_FALSE(app_->modified);
+    EXPECT_FALSE(app_->Modified());
 }
 
 TEST_F(KirtoCommands, AitpWithoutAFileDoesNothing) {
@@ -133,8 +133,8 @@ TEST_F(KirtoCommands, AsfpSavesToThePlaceChosen) {
     EXPECT_EQ(Do(SaveTo(folder_.Path(), "out.gif")),
               "svup(Status: writing frame 1 of 1...) arsm auda");
 
-    EXPECT_EQ(app_->file_name, "out.gif");
-    EXPECT_EQ(app_->file_directory, folder_.Path());
+    EXPECT_EQ(app_->CurrentState()->file_name, "out.gif");
+    EXPECT_EQ(app_->CurrentState()->file_directory, folder_.Path());
 }
 
 TEST_F(KirtoCommands, AsavSavesInTheFormatOfTheSavePanel) {
@@ -169,7 +169,7 @@ TEST_F(KirtoCommands, ArstReportsAnUnreadablePaletteFile) {
     EXPECT_EQ(TakeLines(),
               Lines{WarningLine(
                   "The palette can't be loaded because the file was corrupted or unreadable.")});
-    EXPECT_EQ(app_->global_palette->mode, kPaletteWebSafe);
+    EXPECT_EQ(app_->Current()->palette->mode, kPaletteWebSafe);
     prefs_.palette_mapping = kPaletteWebSafe;
 }
 
@@ -180,7 +180,7 @@ TEST_F(KirtoCommands, AsltSelectsAFrame) {
     EXPECT_EQ(Do(SelectCommand(1)), "aufr");
 
     EXPECT_EQ(Names(), (Lines{"one", "[two]"}));
-    EXPECT_FALSE(app_->modified);
+    EXPECT_FALSE(app_->Modified());
 }
 
 TEST_F(KirtoCommands, AsltPostsNothingWhenTheSelectionStays) {
@@ -201,7 +201,7 @@ TEST_F(KirtoCommands, AwfrRemovesTheCurrentFrame) {
 
     EXPECT_EQ(Do(kRemoveFrame), "aufr");
     EXPECT_EQ(Names(), Lines{"[two]"});
-    EXPECT_TRUE(app_->modified);
+    EXPECT_TRUE(app_->Modified());
     EXPECT_EQ(Do(kRemoveFrame), "aufr");
     EXPECT_EQ(Do(kRemoveFrame), "aufr");
 
@@ -216,7 +216,7 @@ TEST_F(KirtoCommands, AwfuAndAwfdMoveTheCurrentFrame) {
     EXPECT_EQ(Names(), (Lines{"two", "[one]"}));
     EXPECT_EQ(Do(kMoveFrameUp), "aufr");
     EXPECT_EQ(Names(), (Lines{"[one]", "two"}));
-    EXPECT_TRUE(app_->modified);
+    EXPECT_TRUE(app_->Modified());
 }
 
 TEST_F(KirtoCommands, AwfuAtTheFirstFrameRefreshesAllTheSame) {
@@ -226,7 +226,7 @@ TEST_F(KirtoCommands, AwfuAtTheFirstFrameRefreshesAllTheSame) {
     EXPECT_EQ(Do(kMoveFrameUp), "aufr");
 
     EXPECT_EQ(Names(), (Lines{"[one]", "two"}));
-    EXPECT_FALSE(app_->modified);
+    EXPECT_FALSE(app_->Modified());
 }
 
 TEST_F(KirtoCommands, AwfvReversesTheFrames) {
@@ -236,7 +236,7 @@ TEST_F(KirtoCommands, AwfvReversesTheFrames) {
     EXPECT_EQ(Do(kReverseFrames), "aufr");
 
     EXPECT_EQ(Names(), (Lines{"[three]", "two", "one"}));
-    EXPECT_FALSE(app_->modified);
+    EXPECT_FALSE(app_->Modified());
 }
 
 TEST_F(KirtoCommands, AwvpShowsThePreview) {
@@ -264,7 +264,7 @@ TEST_F(KirtoCommands, TheFadeCommandsFade) {
         EXPECT_EQ(Do(FadeCommand(code, 1, 0)), transcript);
 
         EXPECT_EQ(Names(), names);
-        EXPECT_TRUE(app_->modified);
+        EXPECT_TRUE(app_->Modified());
     }
 }
 
@@ -289,7 +289,7 @@ TEST_F(KirtoCommands, AFadeWithoutItsFieldsDoesNothing) {
     EXPECT_EQ(Do(without_count), "aufr");
 
     EXPECT_EQ(app_->FrameCount(), 1);
-    EXPECT_FALSE(app_->modified);
+    EXPECT_FALSE(app_->Modified());
 }
 
 TEST_F(KirtoCommands, TheFramePaletteCommandsSetTheKindAndPostNothing) {
@@ -299,10 +299,10 @@ TEST_F(KirtoCommands, TheFramePaletteCommandsSetTheKindAndPostNothing) {
          {std::pair{kFrameWebSafe, kPaletteWebSafe}, std::pair{kFrameSystem, kPaletteSystem},
           std::pair{kFrameGreyscale, kPaletteGreyscale},
           std::pair{kFrameOptimal, kPaletteOptimal}}) {
-        app_->modified = false;
+        app_->SetModified(false);
         EXPECT_EQ(Do(code), "");
         EXPECT_EQ(app_->CurrentFrame()->palette->mode, kind);
-        EXPECT_TRUE(app_->modified);
+        EXPECT_TRUE(app_->Modified());
     }
     EXPECT_EQ(app_->CurrentFrame()->palette->unique_colors, 1);
 }
@@ -311,7 +311,7 @@ TEST_F(KirtoCommands, TheFramePaletteCommandsDoNothingWithoutAFrame) {
     Start();
     for (const uint32 code : {kFrameWebSafe, kFrameSystem, kFrameGreyscale, kFrameOptimal}) {
         EXPECT_EQ(Do(code), "");
-        EXPECT_FALSE(app_->modified);
+        EXPECT_FALSE(app_->Modified());
     }
 }
 
@@ -323,7 +323,7 @@ TEST_F(KirtoCommands, UnknownCommandsAreIgnored) {
         EXPECT_EQ(Do(code), "");
 
     EXPECT_EQ(Names(), Lines{"[one]"});
-    EXPECT_FALSE(app_->modified);
+    EXPECT_FALSE(app_->Modified());
 }
 
 TEST_F(KirtoCommands, TheAboutBoxIsTheWindows) {

@@ -51,8 +51,8 @@ std::string Pause(bool used, double length) {
 
 // The animation's pause and those of its frames: "10: off 0, off 0, 20".
 std::string Pauses(const AnimationDocument& document) {
-    std::string text = Pause(document.use_pause_global, document.pause_length_global) + ":";
-    for (const Frame* frame = document.FirstFrame(); frame; frame = frame->next) {
+    std::string text = Pause(document.Current()->use_pause, document.Current()->pause_length) + ":";
+    for (const FramePointer& frame : document.Current()->frames) {
         text += (frame->index == 0 ? " " : ", ") + Pause(frame->use_pause, frame->pause_length);
     }
     return text;
@@ -85,8 +85,8 @@ int32 KindOfGlobalTable(const ColorTable& colors) {
     DocumentFixture fixture;
     GifBuilder gif(1, 1, TableOf(colors));
     EXPECT_TRUE(OpenGifBytes(gif.Trailer(), fixture.document));
-    EXPECT_EQ(fixture.document.global_palette->size, 256);
-    return fixture.document.global_palette->mode;
+    EXPECT_EQ(fixture.document.Current()->palette->size, 256);
+    return fixture.document.Current()->palette->mode;
 }
 
 }  // namespace
@@ -243,9 +243,9 @@ TEST(OpenGif, ComparesTheEntriesBehindTheTableToo) {
     EXPECT_TRUE(OpenGifBytes(gif.Trailer(), fixture.document));
 
     // They are web safe since the reset; size and bits stay those of the file.
-    EXPECT_EQ(fixture.document.global_palette->mode, kPaletteWebSafe);
-    EXPECT_EQ(fixture.document.global_palette->size, 128);
-    EXPECT_EQ(fixture.document.global_palette->bits, 7);
+    EXPECT_EQ(fixture.document.Current()->palette->mode, kPaletteWebSafe);
+    EXPECT_EQ(fixture.document.Current()->palette->size, 128);
+    EXPECT_EQ(fixture.document.Current()->palette->bits, 7);
 }
 
 TEST(OpenGif, RecognisesThePalettesOfFramesThatHaveTheirOwn) {
@@ -273,10 +273,10 @@ TEST(OpenGif, AsksWhetherToKeepWhatIsBeforeTheDamage) {
     EXPECT_EQ(alerts.Lines(), std::vector<std::string>{kDamaged});
     EXPECT_EQ(document.FrameCount(), 1);
     EXPECT_EQ(Pauses(document), "off 0: 10");
-    EXPECT_EQ(document.global_palette->mode, kPaletteFromFile);
+    EXPECT_EQ(document.Current()->palette->mode, kPaletteFromFile);
     EXPECT_EQ(document.FrameAt(0)->palette->mode, kPaletteFromFile);
-    EXPECT_EQ(document.file_name, "untitled");
-    EXPECT_FALSE(document.modified);
+    EXPECT_EQ(document.CurrentState()->file_name, "untitled");
+    EXPECT_FALSE(document.Modified());
 }
 
 TEST(OpenGif, ResetsTheDocumentWhenADamagedAnimationIsNotWanted) {
@@ -291,8 +291,8 @@ TEST(OpenGif, ResetsTheDocumentWhenADamagedAnimationIsNotWanted) {
 
     EXPECT_EQ(alerts.Lines(), std::vector<std::string>{kDamaged});
     EXPECT_EQ(document.FrameCount(), 0);
-    EXPECT_EQ(document.global_width, 320);
-    EXPECT_EQ(document.global_palette->mode, kPaletteWebSafe);
+    EXPECT_EQ(document.Current()->width, 320);
+    EXPECT_EQ(document.Current()->palette->mode, kPaletteWebSafe);
 }
 
 TEST(OpenGif, SaysNothingAboutDamageWhenItWasToldToStop) {
@@ -308,8 +308,8 @@ TEST(OpenGif, SaysNothingAboutDamageWhenItWasToldToStop) {
 TEST(OpenFli, LoopsForEver) {
     DocumentFixture fixture;
     AnimationDocument& document = fixture.document;
-    document.use_loop = false;
-    document.loop_count = 3;
+    EditOf(document)->use_loop = false;
+    EditOf(document)->loop_count = 3;
     FliBuilder fli(2, 1);
     fli.Record().Color256({{0, {0x000000, 0xFF0000}}}).Copy({0, 1});
     fli.Record().Copy({1, 0});
@@ -317,8 +317,8 @@ TEST(OpenFli, LoopsForEver) {
     EXPECT_TRUE(OpenFliBytes(fli, document));
 
     EXPECT_GE(document.FrameCount(), 1);
-    EXPECT_TRUE(document.use_loop);
-    EXPECT_EQ(document.loop_count, 0);
+    EXPECT_TRUE(document.Current()->use_loop);
+    EXPECT_EQ(document.Current()->loop_count, 0);
 }
 
 TEST(OpenFli, AsksWhetherToKeepWhatIsBeforeTheDamage) {
@@ -338,7 +338,7 @@ TEST(OpenFli, AsksWhetherToKeepWhatIsBeforeTheDamage) {
 
         EXPECT_EQ(alerts.Lines(), std::vector<std::string>{kDamaged});
         EXPECT_EQ(document.FrameCount(), answer == kSalvage ? 1 : 0);
-        EXPECT_FALSE(document.use_loop);
+        EXPECT_FALSE(document.Current()->use_loop);
     }
 }
 

@@ -43,14 +43,15 @@ uint64 SumOf(const Frame& frame) {
 // Reads all that a window shows, and checks the list on the way. The caller is inside the lock.
 // The sum keeps the reads from being left out.
 uint64 ReadDocument(const AnimationDocument& document) {
-    uint64 sum = document.file_name.size() + document.file_directory.size() +
-                 static_cast<uint64>(document.global_width + document.global_height) +
-                 static_cast<uint64>(document.loop_count) +
-                 static_cast<uint64>(document.pause_length_global) + (document.modified ? 1 : 0) +
-                 (document.use_loop ? 1 : 0) + (document.use_pause_global ? 1 : 0) +
-                 SumOf(*document.global_palette);
+    uint64 sum = document.CurrentState()->file_name.size() +
+                 document.CurrentState()->file_directory.size() +
+                 static_cast<uint64>(document.Current()->width + document.Current()->height) +
+                 static_cast<uint64>(document.Current()->loop_count) +
+                 static_cast<uint64>(document.Current()->pause_length) +
+                 (document.Modified() ? 1 : 0) + (document.Current()->use_loop ? 1 : 0) +
+                 (document.Current()->use_pause ? 1 : 0) + SumOf(*document.Current()->palette);
     int32 visited = 0;
-    for (const Frame* frame = document.FirstFrame(); frame; frame = frame->next) {
+    for (const FramePointer& frame : document.Current()->frames) {
         EXPECT_EQ(frame->index, visited);
         EXPECT_EQ(document.FrameAt(visited), frame);
         ++visited;
@@ -173,9 +174,9 @@ class RandomCommands : public KirtoFixture, public ::testing::WithParamInterface
         prefs_.global_pauseinseconds = choices_.OneIn(2);
         prefs_.global_setdimensions = choices_.OneIn(2);
         const WriterScope writer(*app_);
-        if (choices_.OneIn(4)) app_->global_palette->Set(choices_.Between(0, 8));
+        if (choices_.OneIn(4)) PaletteEditOf(*app_)->Set(choices_.Between(0, 8));
         if (choices_.OneIn(4) && app_->CurrentFrame()) {
-            app_->CurrentFrame()->palette->Set(kPaletteAwaitingFile);
+            FramePaletteEditOf(*app_, app_->Selected())->Set(kPaletteAwaitingFile);
         }
     }
 

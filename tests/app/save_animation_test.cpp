@@ -26,10 +26,10 @@ struct SaveFixture : DocumentFixture {
     std::string path = folder.File("movie.gif");
 
     SaveFixture() {
-        document.global_width = 2;
-        document.global_height = 1;
+        EditOf(document)->width = 2;
+        EditOf(document)->height = 1;
         AppendFrame(document, PictureOf(2, 1, {kRed, kBlue}), "frame");
-        document.modified = true;
+        document.SetModified(true);
     }
     SaveResult Save() { return SaveTo(path); }
     SaveResult SaveTo(const std::string& target) {
@@ -93,8 +93,8 @@ TEST(SaveAnimatedGif, PostsItsProgressAndChangesNothingElse) {
     fixture.Save();
 
     EXPECT_EQ(fixture.port->Transcript(), before + " svup(Status: writing frame 1 of 1...)");
-    EXPECT_TRUE(fixture.document.modified);
-    EXPECT_EQ(fixture.document.file_name, "untitled");
+    EXPECT_TRUE(fixture.document.Modified());
+    EXPECT_EQ(fixture.document.CurrentState()->file_name, "untitled");
 }
 
 TEST(SaveAnimatedGif, ReplacesTheFileThatWasThere) {
@@ -126,7 +126,7 @@ TEST(SaveAnimatedGif, WritesNothingWhileAFrameIsLargerThanTheCanvas) {
     for (const bool too_wide : {true, false}) {
         SaveFixture fixture;
         WriteBytes(fixture.path, kOldBytes);
-        (too_wide ? fixture.document.global_width : fixture.document.global_height) -= 1;
+        (too_wide ? fixture.document.Current()->width : fixture.document.Current()->height) -= 1;
 
         EXPECT_EQ(fixture.Save(), SaveResult::kFrameTooLarge);
 
@@ -137,7 +137,7 @@ TEST(SaveAnimatedGif, WritesNothingWhileAFrameIsLargerThanTheCanvas) {
 
 TEST(SaveAnimatedGif, AllowsFramesThatOverhangTheCanvas) {
     SaveFixture fixture;
-    fixture.document.FirstFrame()->x_offset = 1;
+    FrameEditOf(fixture.document, 0)->x_offset = 1;
 
     EXPECT_EQ(fixture.Save(), SaveResult::kSaved);
 }
@@ -185,7 +185,7 @@ TEST(SaveAnimatedGif, WritesAnAnimationWithoutFrames) {
 
     const Reopened again(fixture.path);
     EXPECT_EQ(again.document.FrameCount(), 0);
-    EXPECT_EQ(again.document.global_width, 2);
+    EXPECT_EQ(again.document.Current()->width, 2);
 }
 
 TEST(SavePreviewGif, WritesAFileThatOnlyTheUserCanRead) {

@@ -141,7 +141,7 @@ TEST_F(FlicCorpus, EachFrameIsThatOfMostPlayersButForNamedDifferences) {
         const bool deviates = found != Deviations().end();
         const std::vector<FlicFrame> expected =
             DecodeFlic(bytes, deviates ? found->second.dialect : FlicDialect{},
-                       EntriesOf(*fixture.document.global_palette));
+                       EntriesOf(*fixture.document.Current()->palette));
         const DebugRecorder lines;
 
         const auto memory = BFile::OnMemory(bytes);
@@ -149,7 +149,7 @@ TEST_F(FlicCorpus, EachFrameIsThatOfMostPlayersButForNamedDifferences) {
 
         EXPECT_FALSE(loader.failed);
         const size_t records = ReadLittle16(&bytes[6]);
-        const Frame* frame = fixture.document.FirstFrame();
+        const FramePointer frame = fixture.document.FirstFrame();
         bool differs = false;
         for (size_t i = 0; i < records; ++i) {
             if (expected[i].chunk_count == 0) continue;

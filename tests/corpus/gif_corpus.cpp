@@ -51,7 +51,7 @@ uint32 WebSafeColor(int32 index) {
 void ExpectSoundList(const AnimationDocument& document) {
     const int32 count = document.FrameCount();
     EXPECT_EQ(document.Selected(), count > 0 ? 0 : -1);
-    const Frame* linked = document.FirstFrame();
+    const FramePointer linked = document.FirstFrame();
     for (int32 i = 0; i < count; ++i, linked = linked->next) {
         ASSERT_EQ(linked, document.FrameAt(i));
         EXPECT_EQ(linked->index, i);

@@ -172,12 +172,14 @@ TEST_F(GifCorpus, SizeAndLoopCountAreThoseOfTheManifest) {
         if (row["format"] != "gif" || kRefused.count(file)) continue;
         SCOPED_TRACE(file);
         const GifCorpusLoad load(ReadBytes(*folder_ / file), false);
-        EXPECT_EQ(std::to_string(load.document.global_width), row["width"]);
-        EXPECT_EQ(std::to_string(load.document.global_height), row["height"]);
+        EXPECT_EQ(std::to_string(load.document.Current()->width), row["width"]);
+        EXPECT_EQ(std::to_string(load.document.Current()->height), row["height"]);
         const auto other = kOtherLoops.find(file);
         const std::string expected = other == kOtherLoops.end() ? row["loop"] : other->second;
         EXPECT_TRUE(other == kOtherLoops.end() || row["loop"] != expected);
-        EXPECT_EQ(load.document.use_loop ? std::to_string(load.document.loop_count) : "-",
+        EXPECT_EQ(load.document.Current()->use_loop
+                      ? std::to_string(load.document.Current()->loop_count)
+                      : "-",
                   expected);
     }
 }
@@ -188,9 +190,9 @@ TEST_F(GifCorpus, AtFullSizeEveryFrameIsAsLargeAsTheScreen) {
         const GifCorpusLoad load(ReadBytes(*folder_ / file), true);
         EXPECT_EQ(load.failed, kRefused.count(file) > 0);
         ExpectSoundList(load.document);
-        for (const Frame* frame = load.document.FirstFrame(); frame; frame = frame->next) {
-            EXPECT_EQ(frame->width, load.document.global_width);
-            EXPECT_EQ(frame->height, load.document.global_height);
+        for (const FramePointer& frame : load.document.Current()->frames) {
+            EXPECT_EQ(frame->width, load.document.Current()->width);
+            EXPECT_EQ(frame->height, load.document.Current()->height);
         }
     }
 }

@@ -79,7 +79,7 @@ std::vector<uint8> BytesOf(const std::filesystem::path& folder, const std::strin
 std::string DifferentImages(const AnimationDocument& document, std::vector<CorpusRow>& rows) {
     std::ostringstream numbers;
     for (size_t i = 0; i < rows.size(); ++i) {
-        const Frame* frame = document.FrameAt(static_cast<int32>(i));
+        const FramePointer frame = document.FrameAt(static_cast<int32>(i));
         if (!frame || RgbaMd5(OpaquePixels(*frame)) == rows[i]["rgba_md5"]) continue;
         numbers << (numbers.str().empty() ? "" : " ") << i;
     }

@@ -16,7 +16,7 @@ struct ThreeFrames : DocumentFixture {
             Insert(document, name, document.FrameCount());
         }
         document.Select(current);
-        document.modified = false;
+        document.SetModified(false);
     }
 };
 
@@ -29,7 +29,7 @@ TEST(AnimationDocument, SelectsTheFirstFrameAndPostsTheThumbnailSizeBeforeTheRef
 
     EXPECT_EQ(fixture.document.FrameCount(), 1);
     EXPECT_EQ(fixture.document.Selected(), 0);
-    EXPECT_FALSE(fixture.document.modified);
+    EXPECT_FALSE(fixture.document.Modified());
     EXPECT_EQ(fixture.port->Transcript(), "tvff auns");
     ExpectConsistent(fixture.document);
 }
@@ -113,7 +113,7 @@ TEST(AnimationDocument, KeepsTheSelectedNumberWhenAFrameComesInBefore) {
 
     EXPECT_EQ(fixture.document.Selected(), 2);
     EXPECT_EQ(fixture.document.CurrentFrame()->name, "two");
-    EXPECT_FALSE(fixture.document.modified);
+    EXPECT_FALSE(fixture.document.Modified());
 }
 
 TEST(AnimationDocument, MakesAFrameInsertedAsCurrentTheCurrentOne) {
@@ -123,8 +123,8 @@ TEST(AnimationDocument, MakesAFrameInsertedAsCurrentTheCurrentOne) {
 
     EXPECT_EQ(Names(fixture.document), (NameList{"one", "new", "two", "three"}));
     EXPECT_EQ(fixture.document.Selected(), 1);
-    EXPECT_TRUE(fixture.document.modified);
-    EXPECT_EQ(fixture.document.global_width, 320);
+    EXPECT_TRUE(fixture.document.Modified());
+    EXPECT_EQ(fixture.document.Current()->width, 320);
     EXPECT_EQ(fixture.port->Transcript(), "tvff auns auns auns auns");
     ExpectConsistent(fixture.document);
 }
@@ -151,8 +151,8 @@ TEST(AnimationDocument, TakesItsSizeFromTheFirstFrameInsertedAsCurrentWhereTheSe
 
         fixture.document.InsertFrameAsCurrent(frame.release());
 
-        EXPECT_EQ(fixture.document.global_width, set_dimensions ? 40 : 320);
-        EXPECT_EQ(fixture.document.global_height, set_dimensions ? 30 : 240);
+        EXPECT_EQ(fixture.document.Current()->width, set_dimensions ? 40 : 320);
+        EXPECT_EQ(fixture.document.Current()->height, set_dimensions ? 30 : 240);
         EXPECT_EQ(fixture.document.Selected(), 0);
         EXPECT_EQ(fixture.port->Transcript(), "tvff auns");
     }
@@ -165,7 +165,7 @@ TEST(AnimationDocument, SelectsTheNewLastFrameAfterTheLastIsRemoved) {
 
     EXPECT_EQ(Names(fixture.document), (NameList{"one", "two"}));
     EXPECT_EQ(fixture.document.Selected(), 1);
-    EXPECT_TRUE(fixture.document.modified);
+    EXPECT_TRUE(fixture.document.Modified());
     ExpectConsistent(fixture.document);
 }
 
@@ -198,7 +198,7 @@ TEST(AnimationDocument, SelectsNothingAfterTheOnlyFrameIsRemoved) {
 
     EXPECT_EQ(fixture.document.Selected(), -1);
     EXPECT_EQ(fixture.document.FrameCount(), 0);
-    EXPECT_TRUE(fixture.document.modified);
+    EXPECT_TRUE(fixture.document.Modified());
     ExpectConsistent(fixture.document);
 }
 
@@ -207,7 +207,7 @@ TEST(AnimationDocument, RemovesNothingFromAnEmptyList) {
 
     fixture.document.RemoveFrame();
 
-    EXPECT_FALSE(fixture.document.modified);
+    EXPECT_FALSE(fixture.document.Modified());
     EXPECT_EQ(fixture.document.Selected(), -1);
 }
 
@@ -230,7 +230,7 @@ TEST(AnimationDocument, DoesNotMoveTheFirstFrameUp) {
 
     EXPECT_EQ(Names(fixture.document), (NameList{"one", "two", "three"}));
     EXPECT_EQ(fixture.document.Selected(), 0);
-    EXPECT_FALSE(fixture.document.modified);
+    EXPECT_FALSE(fixture.document.Modified());
 }
 
 TEST(AnimationDocument, DoesNotMoveTheLastFrameDown) {
@@ -240,7 +240,7 @@ TEST(AnimationDocument, DoesNotMoveTheLastFrameDown) {
 
     EXPECT_EQ(Names(fixture.document), (NameList{"one", "two", "three"}));
     EXPECT_EQ(fixture.document.Selected(), 2);
-    EXPECT_FALSE(fixture.document.modified);
+    EXPECT_FALSE(fixture.document.Modified());
 }
 
 TEST(AnimationDocument, MovesNothingInAnEmptyList) {
@@ -249,31 +249,31 @@ TEST(AnimationDocument, MovesNothingInAnEmptyList) {
     fixture.document.MoveFrame(true);
     fixture.document.MoveFrame(false);
 
-    EXPECT_FALSE(fixture.document.modified);
+    EXPECT_FALSE(fixture.document.Modified());
     EXPECT_EQ(fixture.document.Selected(), -1);
 }
 
 TEST(AnimationDocument, FollowsAFrameThatMovesUp) {
     ThreeFrames fixture(2);
-    const Frame* moved = fixture.document.CurrentFrame();
+    const FramePointer moved = fixture.document.CurrentFrame();
 
     fixture.document.MoveFrame(true);
 
     EXPECT_EQ(Names(fixture.document), (NameList{"one", "three", "two"}));
     EXPECT_EQ(fixture.document.CurrentFrame(), moved);
-    EXPECT_TRUE(fixture.document.modified);
+    EXPECT_TRUE(fixture.document.Modified());
     ExpectConsistent(fixture.document);
 }
 
 TEST(AnimationDocument, FollowsAFrameThatMovesDown) {
     ThreeFrames fixture(0);
-    const Frame* moved = fixture.document.CurrentFrame();
+    const FramePointer moved = fixture.document.CurrentFrame();
 
     fixture.document.MoveFrame(false);
 
     EXPECT_EQ(Names(fixture.document), (NameList{"two", "one", "three"}));
     EXPECT_EQ(fixture.document.CurrentFrame(), moved);
-    EXPECT_TRUE(fixture.document.modified);
+    EXPECT_TRUE(fixture.document.Modified());
     ExpectConsistent(fixture.document);
 }
 
@@ -285,7 +285,7 @@ TEST(AnimationDocument, ReversesTheOrderButNeitherTheSelectedNumberNorModified) 
     EXPECT_EQ(Names(fixture.document), (NameList{"three", "two", "one"}));
     EXPECT_EQ(fixture.document.Selected(), 0);
     EXPECT_EQ(fixture.document.CurrentFrame()->name, "three");
-    EXPECT_FALSE(fixture.document.modified);
+    EXPECT_FALSE(fixture.document.Modified());
     ExpectConsistent(fixture.document);
 }
 
@@ -322,15 +322,15 @@ TEST(AnimationDocument, HasNoFrameAtItsCount) {
 TEST(AnimationDocument, FindsTheFirstFrameThatIsLargerThanTheCanvas) {
     ThreeFrames fixture;
     AnimationDocument& document = fixture.document;
-    document.global_width = 5;
-    document.global_height = 5;
+    EditOf(document)->width = 5;
+    EditOf(document)->height = 5;
     EXPECT_EQ(document.FrameLargerThanCanvas(), nullptr);
 
-    document.FrameAt(2)->width = 6;
+    FrameEditOf(document, 2)->width = 6;
     EXPECT_EQ(document.FrameLargerThanCanvas(), document.FrameAt(2));
-    document.FrameAt(1)->height = 6;
+    FrameEditOf(document, 1)->height = 6;
     EXPECT_EQ(document.FrameLargerThanCanvas(), document.FrameAt(1));
-    document.FrameAt(0)->width = 5;
+    FrameEditOf(document, 0)->width = 5;
     EXPECT_EQ(document.FrameLargerThanCanvas(), document.FrameAt(1));
 }
 
@@ -341,31 +341,31 @@ TEST(AnimationDocument, LetsThePaletteFollowTheFirstOrTheCurrentFrame) {
     AppendFrame(document, PictureOf(1, 1, {0xFF040506}), "two");
     document.Select(1);
 
-    document.global_palette->Set(kPaletteFirstFrame);
+    PaletteEditOf(document)->Set(kPaletteFirstFrame);
     document.UpdateGlobalPalette();
-    EXPECT_EQ(document.global_palette->ColorForIndex(0), (rgb_color{1, 2, 3, 255}));
+    EXPECT_EQ(document.Current()->palette->ColorForIndex(0), (rgb_color{1, 2, 3, 255}));
 
-    document.global_palette->Set(kPaletteCurrentFrame);
+    PaletteEditOf(document)->Set(kPaletteCurrentFrame);
     document.UpdateGlobalPalette();
-    EXPECT_EQ(document.global_palette->ColorForIndex(0), (rgb_color{4, 5, 6, 255}));
+    EXPECT_EQ(document.Current()->palette->ColorForIndex(0), (rgb_color{4, 5, 6, 255}));
 }
 
 TEST(AnimationDocument, KeepsAFollowingPaletteWhileThereAreNoFrames) {
     DocumentFixture fixture;
-    fixture.document.global_palette->Set(kPaletteFirstFrame);
+    PaletteEditOf(fixture.document)->Set(kPaletteFirstFrame);
 
     fixture.document.UpdateGlobalPalette();
 
-    EXPECT_EQ(fixture.document.global_palette->colors, kWebSafeColors);
+    EXPECT_EQ(fixture.document.Current()->palette->colors, kWebSafeColors);
 }
 
 TEST(AnimationDocument, IsModifiedAndUnmodifiedOnDemand) {
     DocumentFixture fixture;
 
     fixture.document.SetModified(true);
-    EXPECT_TRUE(fixture.document.modified);
+    EXPECT_TRUE(fixture.document.Modified());
     fixture.document.SetModified(false);
-    EXPECT_FALSE(fixture.document.modified);
+    EXPECT_FALSE(fixture.document.Modified());
     EXPECT_EQ(fixture.port->Transcript(), "");
 }
 

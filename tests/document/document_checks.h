@@ -8,36 +8,31 @@
 namespace kirto::test {
 
 // A frame of one black pixel.
-inline std::unique_ptr<Frame> MakeFrame(const std::string& name, int32 index) {
-    auto frame = std::make_unique<Frame>(name, 1, 1, index);
-    frame->bitmap = PictureOf(1, 1, {0xFF000000});
+inline Frame MakeFrame(const std::string& name) {
+    Frame frame(name, 1, 1);
+    frame.bitmap = PictureOf(1, 1, {0xFF000000});
     return frame;
 }
 
 // Inserts a frame of the name at the index; the result of InsertFrame.
 inline bool Insert(AnimationDocument& document, const std::string& name, int32 index) {
-    auto frame = MakeFrame(name, index);
-    if (!document.InsertFrame(frame.get())) return false;
-    static_cast<void>(frame.release());
-    return true;
+    return document.InsertFrame(index, MakeFrame(name));
 }
 
 using NameList = std::vector<std::string>;
 
-// The frames' names in the order of the links.
+// The frames' names in order.
 inline NameList Names(const AnimationDocument& document) {
     NameList names;
-    for (const Frame* frame = document.FirstFrame(); frame; frame = frame->next) {
+    for (const FramePointer& frame : document.Current()->frames)
         names.push_back(frame->name);
-    }
     return names;
 }
 
-// What holds whenever no writer is inside.
+// What always holds.
 inline void ExpectConsistent(const AnimationDocument& document) {
     int32 visited = 0;
-    for (Frame* frame = document.FirstFrame(); frame; frame = frame->next) {
-        ASSERT_EQ(frame->index, visited);
+    for (const FramePointer& frame : document.Current()->frames) {
         ASSERT_EQ(document.FrameAt(visited), frame);
         ++visited;
     }

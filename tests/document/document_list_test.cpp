@@ -55,7 +55,7 @@ class EditedList {
     void ExpectEqual() const {
         ASSERT_EQ(Names(document_), names_);
         ASSERT_EQ(document_.Selected(), selected_);
-        ASSERT_EQ(document_.modified, modified_);
+        ASSERT_EQ(document_.Modified(), modified_);
         ExpectConsistent(document_);
     }
 

@@ -59,9 +59,9 @@ TEST(AnimationDocument, IsEmptyUntitledAndUnmodifiedAtFirst) {
     EXPECT_EQ(document.FirstFrame(), nullptr);
     EXPECT_EQ(document.CurrentFrame(), nullptr);
     EXPECT_EQ(document.Selected(), -1);
-    EXPECT_FALSE(document.modified);
-    EXPECT_EQ(document.file_name, "untitled");
-    EXPECT_EQ(document.file_directory, "");
+    EXPECT_FALSE(document.Modified());
+    EXPECT_EQ(document.CurrentState()->file_name, "untitled");
+    EXPECT_EQ(document.CurrentState()->file_directory, "");
     EXPECT_FALSE(document.open_panel_delivered);
     EXPECT_EQ(document.reader_count, 0);
     EXPECT_EQ(fixture.port->Transcript(), "");
@@ -77,7 +77,7 @@ TEST(AnimationDocument, SaysSoWhenItGetsNoSemaphoreAndGoesOn) {
     }
 
     EXPECT_EQ(debug.Text(), "Kirto::Kirto() - Create sem died\n");
-    EXPECT_EQ(document->global_width, 320);
+    EXPECT_EQ(document->Current()->width, 320);
     AppendFrame(*document, PictureOf(1, 1, {0}), "frame");
     EXPECT_EQ(document->FrameCount(), 1);
 }
@@ -91,7 +91,7 @@ TEST(AnimationDocument, DeletesEveryFrameAtAReset) {
                     "frame");
     }
     document.Select(2);
-    document.modified = true;
+    document.SetModified(true);
     document.file_name = "movie.gif";
     document.file_directory = "/films";
 
@@ -101,9 +101,9 @@ TEST(AnimationDocument, DeletesEveryFrameAtAReset) {
     EXPECT_EQ(document.FirstFrame(), nullptr);
     EXPECT_EQ(document.FrameAt(0), nullptr);
     EXPECT_EQ(document.Selected(), -1);
-    EXPECT_FALSE(document.modified);
-    EXPECT_EQ(document.file_name, "untitled");
-    EXPECT_EQ(document.file_directory, "");
+    EXPECT_FALSE(document.Modified());
+    EXPECT_EQ(document.CurrentState()->file_name, "untitled");
+    EXPECT_EQ(document.CurrentState()->file_directory, "");
     EXPECT_EQ(document.pixel_budget->Used(), 0U);
 }
 
@@ -120,12 +120,12 @@ TEST(AnimationDocument, TakesItsPropertiesFromTheSettingsAtAReset) {
 
     document.Reset();
 
-    EXPECT_EQ(document.global_width, 11);
-    EXPECT_EQ(document.global_height, 22);
-    EXPECT_FALSE(document.use_pause_global);
-    EXPECT_FALSE(document.use_loop);
-    EXPECT_EQ(document.pause_length_global, 3.5);
-    EXPECT_EQ(document.loop_count, 4);
+    EXPECT_EQ(document.Current()->width, 11);
+    EXPECT_EQ(document.Current()->height, 22);
+    EXPECT_FALSE(document.Current()->use_pause);
+    EXPECT_FALSE(document.Current()->use_loop);
+    EXPECT_EQ(document.Current()->pause_length, 3.5);
+    EXPECT_EQ(document.Current()->loop_count, 4);
 }
 
 TEST(AnimationDocument, SetsThePaletteThatTheSettingsNameAtAReset) {
@@ -135,8 +135,8 @@ TEST(AnimationDocument, SetsThePaletteThatTheSettingsNameAtAReset) {
 
         fixture.document.Reset();
 
-        EXPECT_EQ(fixture.document.global_palette->mode, kind);
-        EXPECT_EQ(fixture.document.global_palette->colors, Palette(kind).colors);
+        EXPECT_EQ(fixture.document.Current()->palette->mode, kind);
+        EXPECT_EQ(fixture.document.Current()->palette->colors, Palette(kind).colors);
         EXPECT_EQ(fixture.port->Transcript(), "");
     }
 }
@@ -151,7 +151,7 @@ TEST(AnimationDocument, CopiesThePaletteSettingsAtAReset) {
 
     fixture.document.Reset();
 
-    const Palette& palette = *fixture.document.global_palette;
+    const Palette& palette = *fixture.document.Current()->palette;
     EXPECT_TRUE(palette.use_transparent);
     EXPECT_EQ(palette.transparent_index, 7);
     EXPECT_EQ(palette.background_index, 8);
@@ -165,7 +165,7 @@ TEST(AnimationDocument, LoadsThePaletteFileThatTheSettingsNameAtAReset) {
 
     fixture.document.Reset();
 
-    const Palette& palette = *fixture.document.global_palette;
+    const Palette& palette = *fixture.document.Current()->palette;
     EXPECT_EQ(palette.mode, kPaletteFromFile);
     EXPECT_EQ(palette.size, 2);
     EXPECT_EQ(palette.ColorForIndex(1), (rgb_color{0x44, 0x55, 0x66, 255}));
@@ -181,9 +181,9 @@ TEST(AnimationDocument, WarnsOfAnUnreadablePaletteFileAndIsWebSafe) {
     fixture.document.Reset();
 
     EXPECT_EQ(alerts.Lines(), std::vector<std::string>{kPaletteAlert});
-    EXPECT_EQ(fixture.document.global_palette->mode, kPaletteWebSafe);
-    EXPECT_EQ(fixture.document.global_palette->colors, kWebSafeColors);
-    EXPECT_TRUE(fixture.document.global_palette->dither);
+    EXPECT_EQ(fixture.document.Current()->palette->mode, kPaletteWebSafe);
+    EXPECT_EQ(fixture.document.Current()->palette->colors, kWebSafeColors);
+    EXPECT_TRUE(fixture.document.Current()->palette->dither);
     EXPECT_EQ(fixture.port->Transcript(), "auda");
 }
 
@@ -197,8 +197,8 @@ TEST(AnimationDocument, LeavesNothingOfAPaletteFileThatEndsEarly) {
     fixture.document.Reset();
 
     EXPECT_EQ(alerts.Lines(), std::vector<std::string>{kPaletteAlert});
-    EXPECT_EQ(fixture.document.global_palette->colors, kWebSafeColors);
-    EXPECT_EQ(fixture.document.global_palette->size, kWebSafeSize);
+    EXPECT_EQ(fixture.document.Current()->palette->colors, kWebSafeColors);
+    EXPECT_EQ(fixture.document.Current()->palette->size, kWebSafeSize);
 }
 
 TEST(AnimationDocument, ShowsThePaletteWarningWhileOthersCanNotReadYet) {

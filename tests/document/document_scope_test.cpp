@@ -51,7 +51,7 @@ class WaitingWriter {
 // As many frames as it counts, numbered in order.
 bool IsWhole(const AnimationDocument& document) {
     int32 visited = 0;
-    for (const Frame* frame = document.FirstFrame(); frame; frame = frame->next) {
+    for (const FramePointer& frame : document.Current()->frames) {
         if (frame->index != visited++ || frame->name != "frame") return false;
     }
     return visited == document.FrameCount() && (document.Selected() == -1) == (visited == 0);

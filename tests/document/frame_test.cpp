@@ -1,4 +1,4 @@
-#include "document/frame.h"
+#include "animation/frame.h"
 
 #include <gtest/gtest.h>
 

@@ -21,7 +21,7 @@ using NameList = std::vector<std::string>;
 // The frames' names in order, with the current one in brackets.
 NameList Names(const AnimationDocument& document) {
     NameList names;
-    for (const Frame* frame = document.FirstFrame(); frame; frame = frame->next) {
+    for (const FramePointer& frame : document.Current()->frames) {
         names.push_back(frame->index == document.Selected() ? "[" + frame->name + "]"
                                                             : frame->name);
     }
@@ -172,7 +172,7 @@ TEST(Fade, MarksTheDocumentModifiedAndNamesTheNextFadeAHundredFurther) {
     ThreeShades fixture;
 
     fixture.Run(FadeMode::kToColor, 1);
-    EXPECT_TRUE(fixture.document.modified);
+    EXPECT_TRUE(fixture.document.Modified());
     EXPECT_EQ(fixture.name_base, 100);
     fixture.Run(FadeMode::kFromColor, 1);
 
@@ -186,7 +186,7 @@ TEST(Fade, OfNoFramesRunsToItsEndAtOnce) {
         ThreeShades fixture;
         fixture.Run(FadeMode::kToColor, count);
         EXPECT_EQ(fixture.document.FrameCount(), 3);
-        EXPECT_TRUE(fixture.document.modified);
+        EXPECT_TRUE(fixture.document.Modified());
         EXPECT_EQ(fixture.name_base, 100);
         EXPECT_EQ(fixture.port->Transcript(), "");
     }
@@ -195,8 +195,8 @@ TEST(Fade, OfNoFramesRunsToItsEndAtOnce) {
 TEST(Fade, GivesNewFramesTheCurrentOnesSizeAndAPaletteOfTheirOwnColours) {
     DocumentFixture fixture;
     AppendFrame(fixture.document, PictureOf(2, 1, {0xFF0A0A0A, 0xFF141414}), "frame");
-    fixture.document.FirstFrame()->x_offset = 5;
-    fixture.document.FirstFrame()->use_pause = true;
+    FrameEditOf(fixture.document, 0)->x_offset = 5;
+    FrameEditOf(fixture.document, 0)->use_pause = true;
     int32 name_base = 0;
 
     Fade(fixture.document, FadeMode::kFromColor, 1, {1, 2, 3, 255}, &name_base);
@@ -270,7 +270,7 @@ TEST(Fade, DoesNothingWithoutACurrentFrame) {
         Fade(fixture.document, mode, 3, kBlack, &name_base);
 
         EXPECT_EQ(fixture.document.FrameCount(), 0);
-        EXPECT_FALSE(fixture.document.modified);
+        EXPECT_FALSE(fixture.document.Modified());
         EXPECT_EQ(name_base, 0);
         EXPECT_EQ(fixture.port->Transcript(), "");
     }
@@ -285,7 +285,7 @@ TEST(Fade, DoesNothingBeyondTheEndsOfTheAnimation) {
         fixture.Run(mode, 3);
 
         EXPECT_EQ(fixture.document.FrameCount(), 3);
-        EXPECT_FALSE(fixture.document.modified);
+        EXPECT_FALSE(fixture.document.Modified());
         EXPECT_EQ(fixture.name_base, 0);
         EXPECT_EQ(fixture.port->Transcript(), "");
     }
@@ -294,13 +294,13 @@ TEST(Fade, DoesNothingBeyondTheEndsOfTheAnimation) {
 TEST(Fade, DoesNothingWithPicturesThatAreNot32Bit) {
     for (const int32 odd_one : {1, 2}) {
         ThreeShades fixture;
-        fixture.document.FrameAt(odd_one)->bitmap =
+        FrameEditOf(fixture.document, odd_one)->bitmap =
             std::make_shared<BBitmap>(BRect::OfSize(1, 1), B_CMAP8);
 
         fixture.Run(FadeMode::kToNext, 3);
 
         EXPECT_EQ(fixture.document.FrameCount(), 3);
-        EXPECT_FALSE(fixture.document.modified);
+        EXPECT_FALSE(fixture.document.Modified());
     }
 }
 
@@ -317,7 +317,7 @@ TEST(Fade, StopsWithOutOfMemoryAndKeepsTheFramesInsertedSoFar) {
             calls = fault.Calls();
         }
         const int32 inserted = fixture.document.FrameCount() - 3;
-        ASSERT_EQ(fixture.document.modified, inserted == 3);
+        ASSERT_EQ(fixture.document.Modified(), inserted == 3);
         ASSERT_EQ(fixture.name_base, inserted == 3 ? 100 : 0);
         if (calls < failing) break;
         ASSERT_FALSE(alerts.Lines().empty());
@@ -351,7 +351,7 @@ TEST(Fade, StopsWhereTheDocumentsPixelMemoryEnds) {
     fixture.Run(FadeMode::kToColor, kMostFrames);
 
     EXPECT_EQ(fixture.document.FrameCount(), 5);
-    EXPECT_FALSE(fixture.document.modified);
+    EXPECT_FALSE(fixture.document.Modified());
     EXPECT_EQ(fixture.name_base, 0);
     EXPECT_EQ(alerts.Lines(), std::vector<std::string>{"WARNING [] Out of memory. | OK"});
 }

@@ -54,7 +54,7 @@ struct InsertFixture : DocumentFixture {
     // The frames' names in order, with the current one in brackets.
     Lines Names() const {
         Lines names;
-        for (const Frame* frame = document.FirstFrame(); frame; frame = frame->next) {
+        for (const FramePointer& frame : document.Current()->frames) {
             EXPECT_EQ(frame->index, static_cast<int32>(names.size()));
             const bool current = frame->index == document.Selected();
             names.push_back(current ? "[" + frame->name + "]" : frame->name);
@@ -69,7 +69,7 @@ TEST(InsertImages, InsertsFilesInOrderAndMakesTheLastOneCurrent) {
     fixture.Insert(fixture.Files({"one.raw", "two.raw", "three.raw"}));
 
     EXPECT_EQ(fixture.Names(), (Lines{"one.raw", "two.raw", "[three.raw]"}));
-    EXPECT_TRUE(fixture.document.modified);
+    EXPECT_TRUE(fixture.document.Modified());
     EXPECT_EQ(fixture.port->Transcript(),
               "svup(Status: loading frame 1 of 3...) tvff auns "
               "svup(Status: loading frame 2 of 3...) auns "
@@ -147,7 +147,7 @@ TEST(InsertImages, LeavesTheDocumentUnmodifiedWhenNoFileIsReadable) {
     fixture.Insert(fixture.Files({"notes.txt"}));
 
     EXPECT_EQ(fixture.document.FrameCount(), 0);
-    EXPECT_FALSE(fixture.document.modified);
+    EXPECT_FALSE(fixture.document.Modified());
 }
 
 TEST(InsertImages, TakesTheAnimationsSizeFromTheFirstPictureOnly) {
@@ -156,8 +156,8 @@ TEST(InsertImages, TakesTheAnimationsSizeFromTheFirstPictureOnly) {
     fixture.Insert(fixture.Files({"two.raw", "one.raw"}));
     fixture.Insert(fixture.Files({"three.raw"}));
 
-    EXPECT_EQ(fixture.document.global_width, 1);
-    EXPECT_EQ(fixture.document.global_height, 3);
+    EXPECT_EQ(fixture.document.Current()->width, 1);
+    EXPECT_EQ(fixture.document.Current()->height, 3);
 }
 
 TEST(InsertImages, KeepsTheAnimationsSizeWhereTheSettingsSaySo) {
@@ -166,8 +166,8 @@ TEST(InsertImages, KeepsTheAnimationsSizeWhereTheSettingsSaySo) {
 
     fixture.Insert(fixture.Files({"two.raw"}));
 
-    EXPECT_EQ(fixture.document.global_width, 320);
-    EXPECT_EQ(fixture.document.global_height, 240);
+    EXPECT_EQ(fixture.document.Current()->width, 320);
+    EXPECT_EQ(fixture.document.Current()->height, 240);
 }
 
 TEST(InsertImages, PostsTheThumbnailSizeOfTheSettingsWithTheFirstFrame) {
@@ -189,7 +189,7 @@ TEST(InsertImages, DoesNothingWithoutReferences) {
     fixture.Insert(BMessage(kInsertFiles));
 
     EXPECT_EQ(fixture.port->Transcript(), "");
-    EXPECT_FALSE(fixture.document.modified);
+    EXPECT_FALSE(fixture.document.Modified());
 }
 
 TEST(InsertImages, EndsAtAReferenceThatIsNone) {
@@ -230,7 +230,7 @@ TEST(InsertImages, StopsWithOutOfMemoryAndKeepsTheFramesInsertedSoFar) {
     fixture.Insert(fixture.Files({"one.raw", "two.raw", "three.raw"}));
 
     EXPECT_EQ(fixture.Names(), Lines{"[one.raw]"});
-    EXPECT_TRUE(fixture.document.modified);
+    EXPECT_TRUE(fixture.document.Modified());
     EXPECT_EQ(fixture.alerts.Lines(), Lines{kOutOfMemory});
     EXPECT_EQ(fixture.port->Transcript(),
               "svup(Status: loading frame 1 of 3...) tvff auns "
@@ -246,7 +246,7 @@ TEST(InsertImages, SurvivesAFailureOfEachAllocation) {
             fixture.Insert(fixture.Files({"one.raw", "two.raw"}));
             calls = fault.Calls();
         }
-        ASSERT_EQ(fixture.document.modified, fixture.document.FrameCount() > 0);
+        ASSERT_EQ(fixture.document.Modified(), fixture.document.FrameCount() > 0);
         if (calls < failing) {
             ASSERT_EQ(fixture.Names(), (Lines{"one.raw", "[two.raw]"}));
             break;

@@ -54,7 +54,7 @@ struct TilesFixture : DocumentFixture {
 
     Lines Names() const {
         Lines names;
-        for (const Frame* frame = document.FirstFrame(); frame; frame = frame->next) {
+        for (const FramePointer& frame : document.Current()->frames) {
             EXPECT_EQ(frame->index, static_cast<int32>(names.size()));
             names.push_back(frame->name);
         }
@@ -63,7 +63,7 @@ struct TilesFixture : DocumentFixture {
     // The first pixel of each frame.
     Pixels Corners() const {
         Pixels corners;
-        for (const Frame* frame = document.FirstFrame(); frame; frame = frame->next) {
+        for (const FramePointer& frame : document.Current()->frames) {
             corners.push_back(PixelsOf(*frame->bitmap).front());
         }
         return corners;
@@ -102,7 +102,7 @@ TEST(InsertTiles, LeavesOutThePixelsThatMakeNoWholeTile) {
     fixture.Insert(NumberedPicture(100, 50), {3, 4, false});
 
     ASSERT_EQ(fixture.document.FrameCount(), 12);
-    for (const Frame* frame = fixture.document.FirstFrame(); frame; frame = frame->next) {
+    for (const FramePointer& frame : fixture.document.Current()->frames) {
         EXPECT_EQ(frame->width, 25);
         EXPECT_EQ(frame->height, 16);
         EXPECT_EQ(frame->bitmap->Bounds(), BRect(0, 0, 24, 15));
@@ -118,7 +118,7 @@ TEST(InsertTiles, PostsItsProgressAndEachInsertion) {
     EXPECT_EQ(fixture.port->Transcript(),
               "svup(Status: loading tile 1 of 2...) tvff auns "
               "svup(Status: loading tile 2 of 2...) auns");
-    EXPECT_TRUE(fixture.document.modified);
+    EXPECT_TRUE(fixture.document.Modified());
     EXPECT_EQ(fixture.alerts.Lines(), Lines{});
 }
 
@@ -146,12 +146,12 @@ TEST(InsertTiles, GivesTheAnimationTheTilesSizeWhereTheFirstTileIsItsFirstFrame)
     TilesFixture fixture;
 
     fixture.Insert(NumberedPicture(9, 4), {2, 3, false});
-    EXPECT_EQ(fixture.document.global_width, 3);
-    EXPECT_EQ(fixture.document.global_height, 2);
+    EXPECT_EQ(fixture.document.Current()->width, 3);
+    EXPECT_EQ(fixture.document.Current()->height, 2);
     fixture.Insert(NumberedPicture(9, 4), {1, 1, false});
 
-    EXPECT_EQ(fixture.document.global_width, 3);
-    EXPECT_EQ(fixture.document.global_height, 2);
+    EXPECT_EQ(fixture.document.Current()->width, 3);
+    EXPECT_EQ(fixture.document.Current()->height, 2);
 }
 
 TEST(InsertTiles, KeepsTheAnimationsSizeWhereTheSettingsSaySo) {
@@ -160,8 +160,8 @@ TEST(InsertTiles, KeepsTheAnimationsSizeWhereTheSettingsSaySo) {
 
     fixture.Insert(NumberedPicture(9, 4), {2, 3, false});
 
-    EXPECT_EQ(fixture.document.global_width, 320);
-    EXPECT_EQ(fixture.document.global_height, 240);
+    EXPECT_EQ(fixture.document.Current()->width, 320);
+    EXPECT_EQ(fixture.document.Current()->height, 240);
 }
 
 TEST(InsertTiles, GivesEachTileThePaletteOfItsColours) {
@@ -181,7 +181,7 @@ TEST(InsertTiles, RefusesGridsWithoutRowsOrColumns) {
         fixture.Insert(NumberedPicture(4, 4), grid);
         EXPECT_EQ(fixture.alerts.Lines(), Lines{kIllegalGrid});
         EXPECT_EQ(fixture.document.FrameCount(), 0);
-        EXPECT_FALSE(fixture.document.modified);
+        EXPECT_FALSE(fixture.document.Modified());
         EXPECT_EQ(fixture.port->Transcript(), "");
     }
 }
@@ -193,7 +193,7 @@ TEST(InsertTiles, RefusesMoreRowsOrColumnsThanPixels) {
         fixture.Insert(NumberedPicture(3, 4), grid);
         EXPECT_EQ(fixture.alerts.Lines(), Lines{kIllegalGrid});
         EXPECT_EQ(fixture.document.FrameCount(), 0);
-        EXPECT_FALSE(fixture.document.modified);
+        EXPECT_FALSE(fixture.document.Modified());
     }
 }
 
@@ -219,7 +219,7 @@ TEST(InsertTiles, DoesNothingWithoutAFile) {
     InsertTiles(fixture.document, nullptr, {1, 1}, fixture.roster);
 
     EXPECT_EQ(fixture.alerts.Lines(), Lines{});
-    EXPECT_FALSE(fixture.document.modified);
+    EXPECT_FALSE(fixture.document.Modified());
     EXPECT_EQ(fixture.port->Transcript(), "");
 }
 
@@ -236,7 +236,7 @@ TEST(InsertTiles, NamesAFileThatNoTranslatorReads) {
                      "unsupported: notes.txt | OK",
                      "WARNING [] This file can't be inserted because this file type is "
                      "unsupported: missing.raw | OK"}));
-    EXPECT_FALSE(fixture.document.modified);
+    EXPECT_FALSE(fixture.document.Modified());
 }
 
 TEST(InsertTiles, RefusesPicturesThatAreNot32Bit) {
@@ -247,7 +247,7 @@ TEST(InsertTiles, RefusesPicturesThatAreNot32Bit) {
                   Lines{"WARNING [] This file can't be inserted because the color space is "
                         "unsupported. | OK"});
         EXPECT_EQ(fixture.document.FrameCount(), 0);
-        EXPECT_FALSE(fixture.document.modified);
+        EXPECT_FALSE(fixture.document.Modified());
     }
 }
 
@@ -302,7 +302,7 @@ TEST(InsertTiles, StopsWithOutOfMemoryAndKeepsTheTilesInsertedSoFar) {
             calls = fault.Calls();
         }
         const int32 inserted = fixture.document.FrameCount();
-        ASSERT_EQ(fixture.document.modified, inserted == 3);
+        ASSERT_EQ(fixture.document.Modified(), inserted == 3);
         if (calls < failing) break;
         const Lines lines = fixture.alerts.Lines();
         ASSERT_FALSE(lines.empty());
@@ -324,7 +324,7 @@ TEST(InsertTiles, StopsWhereTheDocumentsPixelMemoryEnds) {
     fixture.Insert(NumberedPicture(4, 1), {1, 4});
 
     EXPECT_EQ(fixture.Names(), (Lines{"tiled0000", "tiled0001"}));
-    EXPECT_FALSE(fixture.document.modified);
+    EXPECT_FALSE(fixture.document.Modified());
     EXPECT_EQ(fixture.alerts.Lines(), Lines{kOutOfMemory});
     EXPECT_EQ(fixture.port->Transcript(),
               "svup(Status: loading tile 1 of 4...) tvff auns "

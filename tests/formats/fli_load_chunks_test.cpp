@@ -9,9 +9,9 @@ TEST_F(FliLoadTest, TheFirstFramesColorsBecomeTheGlobalPalette) {
 
     EXPECT_FALSE(load.failed);
     EXPECT_FALSE(document_.FrameAt(0)->local_palette);
-    EXPECT_EQ(document_.global_palette->mode, kPaletteFromFile);
-    EXPECT_EQ(document_.global_palette->size, 256);
-    EXPECT_EQ(document_.global_palette->bits, 8);
+    EXPECT_EQ(document_.Current()->palette->mode, kPaletteFromFile);
+    EXPECT_EQ(document_.Current()->palette->size, 256);
+    EXPECT_EQ(document_.Current()->palette->bits, 8);
     EXPECT_EQ(GlobalEntry(1), kRed);
     EXPECT_EQ(PixelsAt(0), Pixels{kWhite});
 }

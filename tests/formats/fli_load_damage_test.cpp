@@ -116,8 +116,8 @@ TEST_F(FliLoadTest, AFailureKeepsWhatWasThereBefore) {
     EXPECT_TRUE(load.failed);
     EXPECT_EQ(load.end, 2);
     EXPECT_EQ(document_.FrameCount(), 2);
-    EXPECT_EQ(document_.global_width, 2);
-    EXPECT_DOUBLE_EQ(document_.pause_length_global, 5.0);
+    EXPECT_EQ(document_.Current()->width, 2);
+    EXPECT_DOUBLE_EQ(document_.Current()->pause_length, 5.0);
 }
 
 // A small file of every type of chunk.

@@ -46,11 +46,11 @@ class FliLoadTest : public testing::Test {
     }
 
     Pixels PixelsAt(int32 position) const {
-        const Frame* frame = document_.FrameAt(position);
+        const FramePointer frame = document_.FrameAt(position);
         return frame ? PixelsOf(*frame->bitmap) : Pixels{};
     }
 
-    uint32 GlobalEntry(size_t i) const { return EntryOf(*document_.global_palette, i); }
+    uint32 GlobalEntry(size_t i) const { return EntryOf(*document_.Current()->palette, i); }
     uint32 LocalEntry(int32 position, size_t i) const {
         return EntryOf(*document_.FrameAt(position)->palette, i);
     }

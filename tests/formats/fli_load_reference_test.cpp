@@ -125,7 +125,7 @@ FlicPalette EntriesOf(const Palette& palette) {
 TEST_F(FliLoadTest, DrawsRandomAnimationsLikeThePlainDecoder) {
     for (uint32 seed = 0; seed < 400; ++seed) {
         document_.Reset();
-        const FlicPalette palette = EntriesOf(*document_.global_palette);
+        const FlicPalette palette = EntriesOf(*document_.Current()->palette);
         const FliBuilder fli = RandomAnimation(seed).Make();
 
         const Load load = LoadFile(fli);

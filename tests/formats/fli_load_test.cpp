@@ -8,26 +8,26 @@ TEST_F(FliLoadTest, TakesSizeAndPauseFromTheHeader) {
     const Load load = LoadFile(FliBuilder(320, 200, FliBuilder::kFlc, 50));
 
     EXPECT_FALSE(load.failed);
-    EXPECT_EQ(document_.global_width, 320);
-    EXPECT_EQ(document_.global_height, 200);
-    EXPECT_DOUBLE_EQ(document_.pause_length_global, 5.0);
+    EXPECT_EQ(document_.Current()->width, 320);
+    EXPECT_EQ(document_.Current()->height, 200);
+    EXPECT_DOUBLE_EQ(document_.Current()->pause_length, 5.0);
     EXPECT_EQ(document_.FrameCount(), 0);
 }
 
 TEST_F(FliLoadTest, CountsAnFlisSpeedInSeventiethsOfASecond) {
     LoadFile(FliBuilder(1, 1, FliBuilder::kFli, 35));
 
-    EXPECT_DOUBLE_EQ(document_.pause_length_global, 50.0);
+    EXPECT_DOUBLE_EQ(document_.Current()->pause_length, 50.0);
 }
 
 TEST_F(FliLoadTest, KeepsThePauseInSecondsWhereTheSettingSaysSo) {
     fixture_.prefs.global_pauseinseconds = true;
 
     LoadFile(FliBuilder(1, 1, FliBuilder::kFli, 7));
-    EXPECT_DOUBLE_EQ(document_.pause_length_global, 0.1);
+    EXPECT_DOUBLE_EQ(document_.Current()->pause_length, 0.1);
 
     LoadFile(FliBuilder(1, 1, FliBuilder::kFlc, 1500));
-    EXPECT_DOUBLE_EQ(document_.pause_length_global, 1.5);
+    EXPECT_DOUBLE_EQ(document_.Current()->pause_length, 1.5);
 }
 
 TEST_F(FliLoadTest, TakesOnlyTheLow16BitsOfTheSpeed) {
@@ -36,7 +36,7 @@ TEST_F(FliLoadTest, TakesOnlyTheLow16BitsOfTheSpeed) {
 
     LoadFile(bytes);
 
-    EXPECT_DOUBLE_EQ(document_.pause_length_global, 6553.5);
+    EXPECT_DOUBLE_EQ(document_.Current()->pause_length, 6553.5);
 }
 
 TEST_F(FliLoadTest, RefusesAWrongMagicNumber) {
@@ -46,7 +46,7 @@ TEST_F(FliLoadTest, RefusesAWrongMagicNumber) {
         EXPECT_TRUE(load.failed) << magic;
         EXPECT_EQ(load.lines, "FliLoad::ReadFliHeader() - Wrong magic number in FLI\n") << magic;
     }
-    EXPECT_EQ(document_.global_width, fixture_.prefs.global_width);
+    EXPECT_EQ(document_.Current()->width, fixture_.prefs.global_width);
 }
 
 TEST_F(FliLoadTest, RefusesAFileThatIsNotReady) {
@@ -141,8 +141,8 @@ TEST_F(FliLoadTest, AFirstRecordWithoutChunksFailsInAnEmptyDocument) {
 
 TEST_F(FliLoadTest, AFirstRecordWithoutChunksLengthensTheFrameBeforeTheStart) {
     AppendFrame(document_, PictureOf(1, 1, {kRed}), "before");
-    document_.FrameAt(0)->use_pause = true;
-    document_.FrameAt(0)->pause_length = 3.0;
+    FrameEditOf(document_, 0)->use_pause = true;
+    FrameEditOf(document_, 0)->pause_length = 3.0;
 
     const Load load = LoadFile(FliBuilder(1, 1, FliBuilder::kFlc, 50).Record(), 1);
 
@@ -270,7 +270,7 @@ TEST_F(FliLoadTest, FramesAreCompleteRecords) {
 
     LoadFile(fli);
 
-    const Frame* frame = document_.FrameAt(0);
+    const FramePointer frame = document_.FrameAt(0);
     ASSERT_NE(frame, nullptr);
     EXPECT_EQ(frame->bitmap->ColorSpace(), B_RGB32);
     EXPECT_EQ(frame->width, 2);
@@ -328,7 +328,7 @@ TEST_F(FliLoadTest, ALocalPaletteIsHandedOnToLaterFrames) {
 
     LoadFile(fli);
 
-    const Frame* last = document_.FrameAt(2);
+    const FramePointer last = document_.FrameAt(2);
     ASSERT_TRUE(last && last->local_palette);
     EXPECT_EQ(last->palette->mode, kPaletteFromFile);
     EXPECT_EQ(last->palette->size, 256);
@@ -371,13 +371,13 @@ TEST_F(FliLoadTest, AFrameBeforeWithoutUsablePixelsFails) {
     AppendFrame(document_, PictureOf(1, 1, {kRed}, B_RGB32_BIG), "big endian");
     EXPECT_TRUE(LoadFile(fli, 1).failed);
 
-    document_.FrameAt(0)->bitmap = std::make_shared<BBitmap>(BRect::OfSize(1, 1), B_GRAY8);
+    FrameEditOf(document_, 0)->bitmap = std::make_shared<BBitmap>(BRect::OfSize(1, 1), B_GRAY8);
     EXPECT_TRUE(LoadFile(fli, 1).failed);
 
-    document_.FrameAt(0)->bitmap = std::make_shared<BBitmap>(BRect::OfSize(0, 0), B_RGB32);
+    FrameEditOf(document_, 0)->bitmap = std::make_shared<BBitmap>(BRect::OfSize(0, 0), B_RGB32);
     EXPECT_TRUE(LoadFile(fli, 1).failed);
 
-    document_.FrameAt(0)->bitmap = nullptr;
+    FrameEditOf(document_, 0)->bitmap = nullptr;
     EXPECT_TRUE(LoadFile(fli, 1).failed);
     EXPECT_EQ(document_.FrameCount(), 1);
 }

@@ -30,8 +30,8 @@ std::vector<uint8> Application(const std::string& identifier) {
 TEST_F(GifLoadBlocks, TheScreenGivesTheDocumentItsSize) {
     EXPECT_TRUE(Load(GifBuilder(0x1234, 0xABCD, kFourColors).Trailer()));
 
-    EXPECT_EQ(document.global_width, 0x1234);
-    EXPECT_EQ(document.global_height, 0xABCD);
+    EXPECT_EQ(document.Current()->width, 0x1234);
+    EXPECT_EQ(document.Current()->height, 0xABCD);
     EXPECT_EQ(document.FrameCount(), 0);
     EXPECT_EQ(debug_text, "");
 }
@@ -49,90 +49,90 @@ TEST_F(GifLoadBlocks, AHeaderThatIsCutShortChangesNothing) {
     const std::vector<uint8> header = GifBuilder(2, 1);
     for (size_t size = 0; size < header.size(); ++size) {
         EXPECT_FALSE(Load(Start(header, size))) << size;
-        EXPECT_EQ(document.global_width, 320);
-        EXPECT_EQ(document.global_height, 240);
+        EXPECT_EQ(document.Current()->width, 320);
+        EXPECT_EQ(document.Current()->height, 240);
     }
 }
 
 TEST_F(GifLoadBlocks, TheGlobalTableBecomesTheGlobalPalette) {
-    palette.Set(kPaletteGreyscale);
+    PaletteEditOf(document)->Set(kPaletteGreyscale);
 
     EXPECT_TRUE(Load(FourColorGif(2, 1, 3).Trailer()));
 
-    EXPECT_EQ(palette.mode, kPaletteFromFile);
-    EXPECT_EQ(palette.bits, 2);
-    EXPECT_EQ(palette.size, 4);
-    EXPECT_EQ(palette.background_index, 3);
-    EXPECT_EQ(palette.colors[1], (rgb_color{255, 0, 0, 255}));
-    EXPECT_EQ(palette.colors[3], (rgb_color{0, 0, 255, 255}));
+    EXPECT_EQ(GlobalPalette().mode, kPaletteFromFile);
+    EXPECT_EQ(GlobalPalette().bits, 2);
+    EXPECT_EQ(GlobalPalette().size, 4);
+    EXPECT_EQ(GlobalPalette().background_index, 3);
+    EXPECT_EQ(GlobalPalette().colors[1], (rgb_color{255, 0, 0, 255}));
+    EXPECT_EQ(GlobalPalette().colors[3], (rgb_color{0, 0, 255, 255}));
     // Entries that the file does not give stay.
-    EXPECT_EQ(palette.colors[4], (rgb_color{4, 4, 4, 255}));
+    EXPECT_EQ(GlobalPalette().colors[4], (rgb_color{4, 4, 4, 255}));
 }
 
 TEST_F(GifLoadBlocks, ReadsGlobalTablesOfEverySize) {
     for (int32 bits = 1; bits <= 8; ++bits) {
         const std::vector<uint32> table(size_t{1} << bits, 0x010203);
         EXPECT_TRUE(Load(GifBuilder(1, 1, table).Trailer()));
-        EXPECT_EQ(palette.bits, bits);
-        EXPECT_EQ(palette.size, 1 << bits);
-        EXPECT_EQ(palette.colors[table.size() - 1], (rgb_color{1, 2, 3, 255}));
+        EXPECT_EQ(GlobalPalette().bits, bits);
+        EXPECT_EQ(GlobalPalette().size, 1 << bits);
+        EXPECT_EQ(GlobalPalette().colors[table.size() - 1], (rgb_color{1, 2, 3, 255}));
     }
 }
 
 TEST_F(GifLoadBlocks, AGlobalTableThatIsCutShortFailsAndGivesNoColour) {
-    palette.Set(kPaletteGreyscale);
+    PaletteEditOf(document)->Set(kPaletteGreyscale);
 
     EXPECT_FALSE(Load(Start(FourColorGif(2, 1, 3), 13 + 11)));
 
-    EXPECT_EQ(palette.mode, kPaletteFromFile);
-    EXPECT_EQ(palette.colors[1], (rgb_color{1, 1, 1, 255}));
-    EXPECT_EQ(palette.background_index, 0);
+    EXPECT_EQ(GlobalPalette().mode, kPaletteFromFile);
+    EXPECT_EQ(GlobalPalette().colors[1], (rgb_color{1, 1, 1, 255}));
+    EXPECT_EQ(GlobalPalette().background_index, 0);
 }
 
 TEST_F(GifLoadBlocks, WithoutAGlobalTableTheGlobalPaletteIsWebSafe) {
-    palette.Set(kPaletteGreyscale);
-    palette.background_index = 7;
+    PaletteEditOf(document)->Set(kPaletteGreyscale);
+    PaletteEditOf(document)->background_index = 7;
 
     EXPECT_TRUE(Load(GifBuilder(2, 1, {}, 99).Trailer()));
 
-    EXPECT_EQ(palette.mode, kPaletteWebSafe);
-    EXPECT_EQ(palette.colors, kWebSafeColors);
-    EXPECT_EQ(palette.bits, 8);
-    EXPECT_EQ(palette.background_index, 7);
+    EXPECT_EQ(GlobalPalette().mode, kPaletteWebSafe);
+    EXPECT_EQ(GlobalPalette().colors, kWebSafeColors);
+    EXPECT_EQ(GlobalPalette().bits, 8);
+    EXPECT_EQ(GlobalPalette().background_index, 7);
 }
 
 TEST_F(GifLoadBlocks, EveryLoadSwitchesPauseAndLoopOffButKeepsTheLoopCount) {
-    document.use_pause_global = true;
-    document.pause_length_global = 50;
-    document.use_loop = true;
-    document.loop_count = 7;
+    EditOf(document)->use_pause = true;
+    EditOf(document)->pause_length = 50;
+    EditOf(document)->use_loop = true;
+    EditOf(document)->loop_count = 7;
 
     EXPECT_TRUE(Load(FourColorGif(2, 1).Trailer()));
 
-    EXPECT_FALSE(document.use_pause_global);
-    EXPECT_EQ(document.pause_length_global, 0);
-    EXPECT_FALSE(document.use_loop);
-    EXPECT_EQ(document.loop_count, 7);
+    EXPECT_FALSE(document.Current()->use_pause);
+    EXPECT_EQ(document.Current()->pause_length, 0);
+    EXPECT_FALSE(document.Current()->use_loop);
+    EXPECT_EQ(document.Current()->loop_count, 7);
 }
 
 TEST_F(GifLoadBlocks, PauseAndLoopAreSwitchedOffEvenForAnEmptyFile) {
     EXPECT_FALSE(Load({}));
 
-    EXPECT_FALSE(document.use_pause_global);
-    EXPECT_FALSE(document.use_loop);
+    EXPECT_FALSE(document.Current()->use_pause);
+    EXPECT_FALSE(document.Current()->use_loop);
 }
 
 TEST_F(GifLoadBlocks, ALoopBlockGivesTheLoopCount) {
     EXPECT_TRUE(Load(FourColorGif(2, 1).Loop(0xABCD).Trailer()));
 
-    EXPECT_TRUE(document.use_loop);
-    EXPECT_EQ(document.loop_count, 0xABCD);
+    EXPECT_TRUE(document.Current()->use_loop);
+    EXPECT_EQ(document.Current()->loop_count, 0xABCD);
 }
 
 TEST_F(GifLoadBlocks, TheLastOfSeveralLoopBlocksCounts) {
     EXPECT_TRUE(Load(FourColorGif(2, 1).Loop(5).Loop(9).Trailer()));
 
-    EXPECT_EQ(document.loop_count, 9);
+    EXPECT_EQ(document.Current()->loop_count, 9);
 }
 
 TEST_F(GifLoadBlocks, OtherApplicationsAreSkipped) {
@@ -142,7 +142,7 @@ TEST_F(GifLoadBlocks, OtherApplicationsAreSkipped) {
 
     EXPECT_TRUE(Load(gif.Loop(3).Trailer()));
 
-    EXPECT_EQ(document.loop_count, 3);
+    EXPECT_EQ(document.Current()->loop_count, 3);
     EXPECT_EQ(debug_text, "");
 }
 
@@ -152,7 +152,7 @@ TEST_F(GifLoadBlocks, AnIdentifierOf255BytesIsSkipped) {
                          .Bytes({0})
                          .Trailer()));
 
-    EXPECT_FALSE(document.use_loop);
+    EXPECT_FALSE(document.Current()->use_loop);
 }
 
 TEST_F(GifLoadBlocks, AnIdentifierWithItsTerminatingZeroIsALoopBlock) {
@@ -161,23 +161,23 @@ TEST_F(GifLoadBlocks, AnIdentifierWithItsTerminatingZeroIsALoopBlock) {
                          .Bytes({3, 1, 5, 0, 0})
                          .Trailer()));
 
-    EXPECT_EQ(document.loop_count, 5);
+    EXPECT_EQ(document.Current()->loop_count, 5);
 }
 
 TEST_F(GifLoadBlocks, LoopCountBytesThatTheSubBlockLacksAreZero) {
     const std::vector<uint8> name = Application("NETSCAPE2.0");
     // The byte behind the sub-block is taken for its terminator, whatever it is.
     EXPECT_TRUE(Load(FourColorGif(2, 1).Bytes(name).Bytes({2, 1, 5, 0xEE}).Trailer()));
-    EXPECT_TRUE(document.use_loop);
-    EXPECT_EQ(document.loop_count, 5);
+    EXPECT_TRUE(document.Current()->use_loop);
+    EXPECT_EQ(document.Current()->loop_count, 5);
 
     EXPECT_TRUE(Load(FourColorGif(2, 1).Bytes(name).Bytes({1, 1, 0xEE}).Trailer()));
-    EXPECT_TRUE(document.use_loop);
-    EXPECT_EQ(document.loop_count, 0);
+    EXPECT_TRUE(document.Current()->use_loop);
+    EXPECT_EQ(document.Current()->loop_count, 0);
 
     EXPECT_TRUE(Load(FourColorGif(2, 1).Bytes(name).Bytes({0, 0xEE}).Trailer()));
-    EXPECT_TRUE(document.use_loop);
-    EXPECT_EQ(document.loop_count, 0);
+    EXPECT_TRUE(document.Current()->use_loop);
+    EXPECT_EQ(document.Current()->loop_count, 0);
 }
 
 TEST_F(GifLoadBlocks, ALongLoopSubBlockIsReadWhole) {
@@ -189,7 +189,7 @@ TEST_F(GifLoadBlocks, ALongLoopSubBlockIsReadWhole) {
     EXPECT_TRUE(
         Load(FourColorGif(2, 1).Bytes(Application("NETSCAPE2.0")).Bytes(sub_block).Trailer()));
 
-    EXPECT_EQ(document.loop_count, 0x104);
+    EXPECT_EQ(document.Current()->loop_count, 0x104);
 }
 
 TEST_F(GifLoadBlocks, ALoopBlockThatIsCutShortFailsAndSetsNoLoop) {
@@ -197,7 +197,7 @@ TEST_F(GifLoadBlocks, ALoopBlockThatIsCutShortFailsAndSetsNoLoop) {
     const std::vector<uint8> loop = FourColorGif(2, 1).Loop(5);
     for (size_t size = header.size(); size < loop.size(); ++size) {
         EXPECT_FALSE(Load(Start(loop, size))) << size;
-        EXPECT_FALSE(document.use_loop) << size;
+        EXPECT_FALSE(document.Current()->use_loop) << size;
     }
 }
 
@@ -224,11 +224,11 @@ TEST_F(GifLoadBlocks, ADelayOfZeroIsNoDelay) {
 
 TEST_F(GifLoadBlocks, AControlBlockSetsTheTransparentIndexAndNeverClearsIt) {
     EXPECT_TRUE(Load(FourColorGif(1, 1).Control(0, 0).Trailer()));
-    EXPECT_FALSE(palette.use_transparent);
+    EXPECT_FALSE(GlobalPalette().use_transparent);
 
     EXPECT_TRUE(Load(FourColorGif(1, 1).Control(0, 0, 200).Control(0, 0).Trailer()));
-    EXPECT_TRUE(palette.use_transparent);
-    EXPECT_EQ(palette.transparent_index, 200);
+    EXPECT_TRUE(GlobalPalette().use_transparent);
+    EXPECT_EQ(GlobalPalette().transparent_index, 200);
 }
 
 TEST_F(GifLoadBlocks, SizeUserInputAndTerminatorOfAControlBlockAreNotChecked) {
@@ -238,7 +238,7 @@ TEST_F(GifLoadBlocks, SizeUserInputAndTerminatorOfAControlBlockAreNotChecked) {
                          .Trailer()));
 
     EXPECT_EQ(FrameOf(0).pause_length, 7);
-    EXPECT_FALSE(palette.use_transparent);
+    EXPECT_FALSE(GlobalPalette().use_transparent);
 }
 
 TEST_F(GifLoadBlocks, AControlBlockThatIsCutShortFailsAndSetsNothing) {
@@ -246,7 +246,7 @@ TEST_F(GifLoadBlocks, AControlBlockThatIsCutShortFailsAndSetsNothing) {
     const std::vector<uint8> control = FourColorGif(1, 1).Control(2, 5, 3);
     for (size_t size = header.size(); size < control.size(); ++size) {
         EXPECT_FALSE(Load(Start(control, size))) << size;
-        EXPECT_FALSE(palette.use_transparent) << size;
+        EXPECT_FALSE(GlobalPalette().use_transparent) << size;
     }
 }
 
@@ -341,7 +341,7 @@ TEST_F(GifLoadBlocks, FramesAreNumberedAndNamedFromZero) {
     EXPECT_EQ(FrameOf(1).name, "frame0001");
     EXPECT_EQ(FrameOf(1).index, 1);
     EXPECT_EQ(document.Selected(), 0);
-    EXPECT_FALSE(document.modified);
+    EXPECT_FALSE(document.Modified());
     EXPECT_EQ(end, 2);
 }
 
@@ -382,7 +382,7 @@ TEST_F(GifLoadBlocks, ARequestToStopEndsTheLoadBeforeTheNextImage) {
 
     EXPECT_FALSE(Load(FourColorGif(1, 1).Loop(3).Add(ImageOf(1, 1, {1})).Trailer()));
 
-    EXPECT_TRUE(document.use_loop);
+    EXPECT_TRUE(document.Current()->use_loop);
     EXPECT_EQ(document.FrameCount(), 0);
 }
 

@@ -62,13 +62,13 @@ TEST_F(GifLoadFailures, WhatTheFileSaidAboutTheAnimationStays) {
 
     EXPECT_FALSE(Load({whole.begin(), whole.end() - 10}));
 
-    EXPECT_EQ(document.global_width, 2);
-    EXPECT_EQ(document.global_height, 2);
-    EXPECT_EQ(document.loop_count, 5);
-    EXPECT_TRUE(document.use_loop);
-    EXPECT_EQ(palette.background_index, 3);
-    EXPECT_TRUE(palette.use_transparent);
-    EXPECT_FALSE(document.modified);
+    EXPECT_EQ(document.Current()->width, 2);
+    EXPECT_EQ(document.Current()->height, 2);
+    EXPECT_EQ(document.Current()->loop_count, 5);
+    EXPECT_TRUE(document.Current()->use_loop);
+    EXPECT_EQ(GlobalPalette().background_index, 3);
+    EXPECT_TRUE(GlobalPalette().use_transparent);
+    EXPECT_FALSE(document.Modified());
 }
 
 TEST_F(GifLoadFailures, AnImageThatFailsHalfWayIsNotInserted) {
@@ -110,13 +110,13 @@ TEST_F(GifLoadFailures, AMissingFirstFrameFailsBehindTheHeaderWithoutALine) {
 
     EXPECT_FALSE(Load(FourByFour(1)));
 
-    EXPECT_EQ(document.global_width, 4);
-    EXPECT_EQ(palette.bits, 2);
+    EXPECT_EQ(document.Current()->width, 4);
+    EXPECT_EQ(GlobalPalette().bits, 2);
     EXPECT_EQ(debug_text, "");
 }
 
 TEST_F(GifLoadFailures, AMissingLaterFrameFailsWithItsLine) {
-    // The last allocations of a file of one frame make the spare frame and its palette.
+    // The last allocations of a file of one frame make the spare frame and its GlobalPalette().
     int64 calls = 0;
     {
         const AllocationFault counter(1000);

@@ -63,12 +63,12 @@ class GifLoadTest : public testing::Test {
         return Load(bytes);
     }
     const Frame& FrameOf(int32 index) { return *document.FrameAt(index); }
+    const Palette& GlobalPalette() { return *document.Current()->palette; }
     std::vector<uint32> Pixels(int32 index) { return PixelsOf(*FrameOf(index).bitmap); }
 
     DocumentFixture fixture;
     Prefs& prefs = fixture.prefs;
     AnimationDocument& document = fixture.document;
-    Palette& palette = *fixture.document.global_palette;
     int32 end = 0;
     std::string debug_text;
 };

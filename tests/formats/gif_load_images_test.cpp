@@ -104,7 +104,7 @@ TEST_F(GifLoadImages, ALocalTableBecomesTheFramesPalette) {
     EXPECT_EQ(frame.palette->unique_colors, 2);
     EXPECT_EQ(frame.palette->colors[2], (rgb_color{255, 0, 0, 255}));
     EXPECT_THAT(Pixels(0), ElementsAre(kGreen, kRed, kGreen));
-    EXPECT_EQ(palette.colors[2], (rgb_color{0, 255, 0, 255}));
+    EXPECT_EQ(GlobalPalette().colors[2], (rgb_color{0, 255, 0, 255}));
 }
 
 TEST_F(GifLoadImages, WithoutALocalTableTheFramesPaletteIsMadeFromItsPicture) {
@@ -308,7 +308,7 @@ TEST_F(GifLoadImages, TheCanvasIsClearedToTheCurrentPalettesColourAtTheBackgroun
 }
 
 TEST_F(GifLoadImages, ABackgroundIndexPastTheTableYieldsWhatThePaletteHolds) {
-    palette.Set(kPaletteGreyscale);
+    PaletteEditOf(document)->Set(kPaletteGreyscale);
 
     EXPECT_TRUE(Load(FourColorGif(2, 1, 200).Control(2, 0).Add(ImageOf(1, 1, {1})).Trailer()));
 

@@ -26,7 +26,7 @@ TEST_F(GifLoadPixels, AreTheColoursOfThePalette) {
 }
 
 TEST_F(GifLoadPixels, AnIndexPastTheTableYieldsWhatThePaletteHolds) {
-    palette.Set(kPaletteGreyscale);
+    PaletteEditOf(document)->Set(kPaletteGreyscale);
     GifBuilder::Image image = ImageOf(2, 1, {200, 1});
     image.min_code_size = 8;
 
@@ -99,8 +99,8 @@ TEST_F(GifLoadPixels, ATransparentIndexDoesNotReachBackToEarlierImages) {
 }
 
 TEST_F(GifLoadPixels, TheDocumentsOwnTransparentIndexApplies) {
-    palette.use_transparent = true;
-    palette.transparent_index = 2;
+    PaletteEditOf(document)->use_transparent = true;
+    PaletteEditOf(document)->transparent_index = 2;
 
     EXPECT_TRUE(LoadRaw(FourColorGif(2, 1).Add(ImageOf(2, 1, {2, 1})).Trailer()));
 
@@ -108,11 +108,11 @@ TEST_F(GifLoadPixels, TheDocumentsOwnTransparentIndexApplies) {
 }
 
 TEST_F(GifLoadPixels, ATransparentIndexOutsideThePaletteMatchesNothing) {
-    palette.use_transparent = true;
+    PaletteEditOf(document)->use_transparent = true;
     for (const int32 index : {-1, 256, 257, 1000}) {
         document.Reset();
-        palette.use_transparent = true;
-        palette.transparent_index = index;
+        PaletteEditOf(document)->use_transparent = true;
+        PaletteEditOf(document)->transparent_index = index;
         EXPECT_TRUE(LoadRaw(FourColorGif(2, 1).Add(ImageOf(2, 1, {0, 1})).Trailer()));
         EXPECT_THAT(Pixels(0), ElementsAre(kBlack, kRed)) << index;
     }

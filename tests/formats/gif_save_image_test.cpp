@@ -46,7 +46,7 @@ TEST(GifSave, ALocalPaletteIsWrittenBehindItsImage) {
 TEST(GifSave, TheCodeSizeIsThatOfThePaletteInUse) {
     for (int32 bits = 1; bits <= 8; ++bits) {
         PlainDocument plain;
-        plain.document.global_palette->bits = bits;
+        PaletteEditOf(plain.document)->bits = bits;
         Frame* frame = plain.Add(1, 1, {kWhite});
         frame->palette->bits = 9 - bits;
         plain.Add(1, 1, {kWhite})->palette->bits = 9 - bits;
@@ -71,7 +71,7 @@ TEST(GifSave, InterlacedRowsAreWrittenInFourPassesAtEveryHeight) {
     for (int32 height = 1; height <= 20; ++height) {
         PlainDocument plain;
         plain.prefs.animation_gifinterlaced = true;
-        plain.document.global_palette->Set(kPaletteGreyscale);
+        PaletteEditOf(plain.document)->Set(kPaletteGreyscale);
         std::vector<uint32> argb;
         for (uint32 row = 0; row < static_cast<uint32>(height); ++row)
             argb.insert(argb.end(), 3, kBlack | row * 0x010101);
@@ -88,7 +88,7 @@ TEST(GifSave, InterlacedRowsAreWrittenInFourPassesAtEveryHeight) {
 
 TEST(GifSave, ManyDistinctColoursMakeAClearCodeAtTwelveBits) {
     PlainDocument plain;
-    plain.document.global_palette->Set(kPaletteGreyscale);
+    PaletteEditOf(plain.document)->Set(kPaletteGreyscale);
     plain.Add(100, 100, GreyNoise(100 * 100));
     const GifImageParts image = plain.SaveParts().images.at(0);
     std::vector<int32> clear_sizes;
@@ -106,7 +106,7 @@ TEST(GifSave, ManyDistinctColoursMakeAClearCodeAtTwelveBits) {
 
 TEST(GifSave, DataIsCutIntoSubBlocksOfAtMost255Bytes) {
     PlainDocument plain;
-    plain.document.global_palette->Set(kPaletteGreyscale);
+    PaletteEditOf(plain.document)->Set(kPaletteGreyscale);
     for (int32 width = 200; width < 260; ++width)
         plain.Add(width, 1, GreyNoise(static_cast<size_t>(width)));
     for (const GifImageParts& image : plain.SaveParts().images) {
@@ -117,9 +117,9 @@ TEST(GifSave, DataIsCutIntoSubBlocksOfAtMost255Bytes) {
 
 TEST(GifSave, SemiTransparentPixelsAreWrittenAsTheTransparentIndex) {
     PlainDocument plain;
-    plain.document.global_palette->Set(kPaletteWebSafe);
-    plain.document.global_palette->use_transparent = true;
-    plain.document.global_palette->transparent_index = 77;
+    PaletteEditOf(plain.document)->Set(kPaletteWebSafe);
+    PaletteEditOf(plain.document)->use_transparent = true;
+    PaletteEditOf(plain.document)->transparent_index = 77;
     std::vector<uint32> argb;
     for (uint32 alpha = 0; alpha < 255; ++alpha)
         argb.push_back(alpha << 24 | 0x336699);
@@ -129,15 +129,15 @@ TEST(GifSave, SemiTransparentPixelsAreWrittenAsTheTransparentIndex) {
 
 TEST(GifSave, TransparentPixelsBecomeTheTransparentIndexThoughTransparencyIsOff) {
     PlainDocument plain;
-    plain.document.global_palette->transparent_index = 1;
+    PaletteEditOf(plain.document)->transparent_index = 1;
     plain.Add(3, 1, {kBlack, 0, kBlack});
     EXPECT_EQ(plain.SaveParts().images.at(0).image_data, ReferenceImageData({0, 1, 0}, 2));
 }
 
 TEST(GifSave, AFrameThatNeedsAnIndexPastTheGlobalTableGetsAWiderLocalOne) {
     PlainDocument plain;
-    plain.document.global_palette->transparent_index = 5;
-    plain.document.global_palette->colors[5] = {1, 2, 3, 255};
+    PaletteEditOf(plain.document)->transparent_index = 5;
+    PaletteEditOf(plain.document)->colors[5] = {1, 2, 3, 255};
     plain.Add(2, 1, {kBlack, 0});
     plain.Add(2, 1, {kBlack, kWhite});
     const GifParts parts = plain.SaveParts();
@@ -153,9 +153,9 @@ TEST(GifSave, AFrameThatNeedsAnIndexPastTheGlobalTableGetsAWiderLocalOne) {
 
 TEST(GifSave, AFrameThatNeedsAnIndexPastItsLocalTableGetsItWider) {
     PlainDocument plain;
-    plain.document.global_palette->Set(kPaletteWebSafe);
-    plain.document.global_palette->use_transparent = true;
-    plain.document.global_palette->transparent_index = 255;
+    PaletteEditOf(plain.document)->Set(kPaletteWebSafe);
+    PaletteEditOf(plain.document)->use_transparent = true;
+    PaletteEditOf(plain.document)->transparent_index = 255;
     Frame* frame = plain.Add(2, 1, {0x80FFFFFF, 0xFF0000FF});
     MakeBlackAndWhite(frame->palette.get());
     frame->local_palette = true;
@@ -168,7 +168,7 @@ TEST(GifSave, AFrameThatNeedsAnIndexPastItsLocalTableGetsItWider) {
 TEST(GifSave, LevelsPastAShortGreyRampGetAWiderTable) {
     // 128 entries read from a file into what was the grey ramp before are recognised as the ramp.
     PlainDocument plain;
-    Palette& palette = *plain.document.global_palette;
+    Palette& palette = *plain.document.Current()->palette;
     palette.Set(kPaletteGreyscale);
     palette.bits = 7;
     palette.size = 128;
@@ -192,7 +192,7 @@ TEST(GifSave, AFrameWithoutPixelsIsAnImageWithoutData) {
 
 TEST(GifSave, AFrameWithoutAPictureIsTransparent) {
     PlainDocument plain;
-    plain.document.global_palette->transparent_index = 1;
+    PaletteEditOf(plain.document)->transparent_index = 1;
     auto frame = std::make_unique<Frame>("frame", 2, 2, 0);
     if (plain.document.InsertFrame(frame.get())) static_cast<void>(frame.release());
     EXPECT_EQ(plain.SaveParts().images.at(0).image_data, ReferenceImageData(Bytes(4, 1), 2));

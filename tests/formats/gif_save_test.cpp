@@ -31,8 +31,8 @@ TEST(GifSave, WritesAPaletteOfTwoColoursWithCodeSizeTwo) {
 
 TEST(GifSave, WritesTheScreenSizeWithTheLowByteFirst) {
     PlainDocument plain;
-    plain.document.global_width = 0x0102;
-    plain.document.global_height = 0xFFFE;
+    EditOf(plain.document)->width = 0x0102;
+    EditOf(plain.document)->height = 0xFFFE;
     const Bytes header = plain.SaveParts().header;
     EXPECT_EQ(Bytes(header.begin() + 6, header.begin() + 10), (Bytes{2, 1, 0xFE, 0xFF}));
 }
@@ -40,7 +40,7 @@ TEST(GifSave, WritesTheScreenSizeWithTheLowByteFirst) {
 TEST(GifSave, WritesPaletteDepthBackgroundAndTableForEveryNumberOfBits) {
     for (int32 bits = 1; bits <= 8; ++bits) {
         PlainDocument plain;
-        Palette& palette = *plain.document.global_palette;
+        Palette& palette = *plain.document.Current()->palette;
         palette.Set(kPaletteWebSafe);
         palette.bits = bits;
         palette.background_index = 0x1FE;
@@ -59,7 +59,7 @@ TEST(GifSave, WritesPaletteDepthBackgroundAndTableForEveryNumberOfBits) {
 
 TEST(GifSave, AnEmptyDocumentIsHeaderLoopCommentAndTrailer) {
     PlainDocument plain;
-    plain.document.use_loop = true;
+    EditOf(plain.document)->use_loop = true;
     plain.prefs.animation_gifcomment = true;
     const GifParts parts = plain.SaveParts();
     EXPECT_FALSE(parts.loop.empty());
@@ -69,8 +69,8 @@ TEST(GifSave, AnEmptyDocumentIsHeaderLoopCommentAndTrailer) {
 
 TEST(GifSave, WritesTheLoopCountWithTheLowByteFirst) {
     PlainDocument plain;
-    plain.document.use_loop = true;
-    plain.document.loop_count = 0x10203;
+    EditOf(plain.document)->use_loop = true;
+    EditOf(plain.document)->loop_count = 0x10203;
     const Bytes expected = {0x21, 0xFF, 0x0B, 'N', 'E', 'T', 'S', 'C', 'A', 'P',
                             'E',  '2',  '.',  '0', 3,   1,   3,   2,   0};
     EXPECT_EQ(plain.SaveParts().loop, expected);
@@ -78,7 +78,7 @@ TEST(GifSave, WritesTheLoopCountWithTheLowByteFirst) {
 
 TEST(GifSave, WithoutTheLoopFlagThereIsNoApplicationBlock) {
     PlainDocument plain;
-    plain.document.loop_count = 5;
+    EditOf(plain.document)->loop_count = 5;
     EXPECT_TRUE(plain.SaveParts().loop.empty());
 }
 
@@ -94,13 +94,13 @@ TEST(GifSave, WritesTheCommentAsOneSubBlock) {
 
 TEST(GifSave, WithTheCommentSettingOffThereIsNoCommentBlock) {
     PlainDocument plain;
-    plain.document.use_loop = true;
+    EditOf(plain.document)->use_loop = true;
     EXPECT_TRUE(plain.SaveParts().comment.empty());
 }
 
 TEST(GifSave, TheCommentFollowsTheLoop) {
     PlainDocument plain;
-    plain.document.use_loop = true;
+    EditOf(plain.document)->use_loop = true;
     plain.prefs.animation_gifcomment = true;
     plain.Add(1, 1, {kBlack});
     EXPECT_EQ(plain.Save()[19 + 1], 0xFF);
@@ -122,8 +122,8 @@ TEST(GifSave, ADisposalSettingOutsideZeroToTwoIsWrittenAsThree) {
 
 TEST(GifSave, EveryFrameNamesTheGlobalTransparentIndex) {
     PlainDocument plain;
-    plain.document.global_palette->use_transparent = true;
-    plain.document.global_palette->transparent_index = 0x101;
+    PaletteEditOf(plain.document)->use_transparent = true;
+    PaletteEditOf(plain.document)->transparent_index = 0x101;
     plain.prefs.animation_gifdisposal = 2;
     plain.Add(1, 1, {kBlack});
     plain.Add(1, 1, {kBlack})->local_palette = true;
@@ -134,7 +134,7 @@ TEST(GifSave, EveryFrameNamesTheGlobalTransparentIndex) {
 
 TEST(GifSave, WithoutTransparencyTheTransparentIndexIsWrittenAsZero) {
     PlainDocument plain;
-    plain.document.global_palette->transparent_index = 1;
+    PaletteEditOf(plain.document)->transparent_index = 1;
     Frame* frame = plain.Add(1, 1, {kBlack});
     frame->local_palette = true;
     frame->palette->use_transparent = true;
@@ -143,11 +143,11 @@ TEST(GifSave, WithoutTransparencyTheTransparentIndexIsWrittenAsZero) {
 
 TEST(GifSave, AFramesOwnDelayGoesBeforeTheAnimations) {
     PlainDocument plain;
-    plain.document.pause_length_global = 20;
+    EditOf(plain.document)->pause_length = 20;
     Frame* frame = plain.Add(1, 1, {kBlack});
     frame->pause_length = 30;
     EXPECT_EQ(plain.SaveDelay(), 0);
-    plain.document.use_pause_global = true;
+    EditOf(plain.document)->use_pause = true;
     EXPECT_EQ(plain.SaveDelay(), 20);
     frame->use_pause = true;
     EXPECT_EQ(plain.SaveDelay(), 30);
@@ -176,8 +176,8 @@ TEST(GifSave, DelaysAreCutToTheirLow16Bits) {
 TEST(GifSave, DelaysInSecondsAreWrittenAsHundredths) {
     PlainDocument plain;
     plain.prefs.global_pauseinseconds = true;
-    plain.document.use_pause_global = true;
-    plain.document.pause_length_global = 1.5;
+    EditOf(plain.document)->use_pause = true;
+    EditOf(plain.document)->pause_length = 1.5;
     plain.Add(1, 1, {kBlack});
     EXPECT_EQ(plain.SaveDelay(), 150);
 }
@@ -279,7 +279,7 @@ TEST(GifSave, LacksMemoryForNothingButDithering) {
     PlainDocument plain;
     plain.Add(2, 2, {0xFF646464, 0xFF646464, 0xFF646464, 0xFF646464});
     const Bytes undithered = plain.Save();
-    plain.document.global_palette->dither = true;
+    PaletteEditOf(plain.document)->dither = true;
     const Bytes dithered = plain.Save();
     ASSERT_NE(dithered, undithered);
     // The cache's buckets, three rows of errors, and then one item for each colour.
@@ -291,8 +291,8 @@ TEST(GifSave, LacksMemoryForNothingButDithering) {
 
 TEST(GifSave, ACanvasOfAnySizeTakesNoMemoryOfItsOwn) {
     PlainDocument plain;
-    plain.document.global_width = std::numeric_limits<int32>::max();
-    plain.document.global_palette->dither = true;
+    EditOf(plain.document)->width = std::numeric_limits<int32>::max();
+    PaletteEditOf(plain.document)->dither = true;
     plain.Add(2, 1, {0xFF646464, 0xFF646464});
     EXPECT_EQ(plain.SaveParts().images.at(0).image_data, ReferenceImageData({0, 1}, 2));
 }

@@ -22,13 +22,13 @@ inline void MakeBlackAndWhite(Palette* palette) {
 struct PlainDocument : DocumentFixture {
     PlainDocument() {
         prefs.animation_gifcomment = false;
-        document.global_width = 4;
-        document.global_height = 4;
-        document.use_loop = false;
-        document.use_pause_global = false;
-        MakeBlackAndWhite(document.global_palette.get());
+        EditOf(document)->width = 4;
+        EditOf(document)->height = 4;
+        EditOf(document)->use_loop = false;
+        EditOf(document)->use_pause = false;
+        MakeBlackAndWhite(&*PaletteEditOf(document));
     }
-    Frame* Add(int32 width, int32 height, const std::vector<uint32>& argb) {
+    FrameHandle Add(int32 width, int32 height, const std::vector<uint32>& argb) {
         return AppendFrame(document, PictureOf(width, height, argb), "frame");
     }
     std::vector<uint8> Save() {

@@ -36,7 +36,7 @@ void PutTable(Bytes* bytes, const Palette& palette, int32 bits) {
 }
 
 const Palette& PaletteOf(const AnimationDocument& document, const Frame& frame) {
-    return frame.local_palette ? *frame.palette : *document.global_palette;
+    return frame.local_palette ? *frame.palette : *document.Current()->palette;
 }
 
 // Where the pixels of a bitmap stand, one after the other in the order of the file.
@@ -154,24 +154,24 @@ class CodeOutput {
 
 int64 DelayField(const AnimationDocument& document, const Frame& frame) {
     double delay = 0;
-    if (document.use_pause_global) delay = document.pause_length_global;
+    if (document.Current()->use_pause) delay = document.Current()->pause_length;
     if (frame.use_pause) delay = frame.pause_length;
     if (document.prefs.global_pauseinseconds) delay *= 100;
     return static_cast<int64>(delay < 0 ? std::ceil(delay) : std::floor(delay + 1e-6));
 }
 
 void PutHeader(Bytes* out, const AnimationDocument& document) {
-    const Palette& palette = *document.global_palette;
+    const Palette& palette = *document.Current()->palette;
     PutText(out, "GIF89a");
-    Put16(out, document.global_width);
-    Put16(out, document.global_height);
+    Put16(out, document.Current()->width);
+    Put16(out, document.Current()->height);
     out->insert(out->end(), {Low((palette.bits - 1) | 0xF0), Low(palette.background_index), 0});
     PutTable(out, palette, palette.bits);
-    if (document.use_loop) {
+    if (document.Current()->use_loop) {
         out->insert(out->end(), {0x21, 0xFF, 0x0B});
         PutText(out, "NETSCAPE2.0");
         out->insert(out->end(), {3, 1});
-        Put16(out, document.loop_count);
+        Put16(out, document.Current()->loop_count);
         out->push_back(0);
     }
     if (document.prefs.animation_gifcomment) {
@@ -183,7 +183,7 @@ void PutHeader(Bytes* out, const AnimationDocument& document) {
 }
 
 void PutControlBlock(Bytes* out, const AnimationDocument& document, const Frame& frame) {
-    const Palette& palette = *document.global_palette;
+    const Palette& palette = *document.Current()->palette;
     int32 disposal = document.prefs.animation_gifdisposal;
     if (disposal != 0 && disposal != 1 && disposal != 2) disposal = 3;
     out->insert(out->end(), {0x21, 0xF9, 4});
@@ -218,7 +218,7 @@ void PutImage(Bytes* out, const AnimationDocument& document, const Frame& frame)
 std::vector<uint8> ReferenceIndices(const AnimationDocument& document, const Frame& frame) {
     const Palette& palette = PaletteOf(document, frame);
     const bool interlaced = document.prefs.animation_gifinterlaced;
-    const bool dithers = document.global_palette->dither && palette.mode != kPaletteGreyscale;
+    const bool dithers = document.Current()->palette->dither && palette.mode != kPaletteGreyscale;
     const bool has_pixels = Is32Bit(frame.bitmap->ColorSpace());
     const size_t width = static_cast<size_t>(frame.width);
     std::vector<ComponentErrors> errors(3, ComponentErrors(frame.width));
@@ -234,7 +234,7 @@ std::vector<uint8> ReferenceIndices(const AnimationDocument& document, const Fra
             if (interlaced && x == width - 1) component.ClearRow();
         }
         if (pixel.alpha < 255) {
-            indices.push_back(Low(document.global_palette->transparent_index));
+            indices.push_back(Low(document.Current()->palette->transparent_index));
             continue;
         }
         if (dithers) {
@@ -292,7 +292,7 @@ std::vector<uint8> ReferenceImageData(const std::vector<uint8>& indices, int32 m
 std::vector<uint8> ReferenceGif(const AnimationDocument& document) {
     Bytes out;
     PutHeader(&out, document);
-    for (const Frame* frame = document.FirstFrame(); frame; frame = frame->next) {
+    for (const FramePointer& frame : document.Current()->frames) {
         PutControlBlock(&out, document, *frame);
         PutImage(&out, document, *frame);
     }

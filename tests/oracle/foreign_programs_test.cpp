@@ -81,8 +81,8 @@ TEST(Gifsicle, DescribesEveryFileWithoutAWarning) {
         const AnimationDocument& document = saved.Document(i);
         const std::string expected =
             Format("* %s %d image%s\n  logical screen %dx%d\n", saved.Path(i, ".gif").c_str(),
-                   document.frame_count, document.frame_count == 1 ? "" : "s",
-                   document.global_width, document.global_height);
+                   document.FrameCount(), document.FrameCount() == 1 ? "" : "s",
+                   document.Current()->width, document.Current()->height);
         EXPECT_TRUE(Contains(output, expected)) << expected;
     }
 }

@@ -21,7 +21,7 @@ void ExpectImageAsMeant(const Slurped& slurped, const AnimationDocument& documen
     ASSERT_EQ(image.ImageDesc.Height, frame.height);
     EXPECT_EQ(image.ImageDesc.Interlace, document.prefs.animation_gifinterlaced);
     const GraphicsControlBlock control = slurped.Control(frame.index);
-    const Palette& palette = *document.global_palette;
+    const Palette& palette = *document.Current()->palette;
     EXPECT_EQ(control.DelayTime, DelayOf(document, frame));
     EXPECT_EQ(control.DisposalMode, std::min(document.prefs.animation_gifdisposal, 3));
     EXPECT_EQ(control.TransparentColor,
@@ -44,9 +44,9 @@ std::vector<std::string> ExtensionsOf(const Slurped& slurped) {
 
 void ExpectLoopAndComment(const Slurped& slurped, const AnimationDocument& document) {
     std::vector<std::string> expected;
-    if (document.use_loop) {
-        const auto low = static_cast<char>(document.loop_count);
-        const auto high = static_cast<char>(document.loop_count >> 8);
+    if (document.Current()->use_loop) {
+        const auto low = static_cast<char>(document.Current()->loop_count);
+        const auto high = static_cast<char>(document.Current()->loop_count >> 8);
         expected.push_back(static_cast<char>(APPLICATION_EXT_FUNC_CODE) +
                            std::string("NETSCAPE2.0"));
         expected.push_back(static_cast<char>(CONTINUE_EXT_FUNC_CODE) + std::string{1, low, high});
@@ -69,12 +69,12 @@ void ExpectReadAsMeant(const DocumentStyle& style, uint32 first_seed, uint32 cou
         const std::vector<uint8> bytes = made.Save();
         const Slurped slurped(bytes);
         ASSERT_TRUE(slurped.Complete());
-        ASSERT_EQ(slurped.Gif().ImageCount, document.frame_count);
-        EXPECT_EQ(slurped.Gif().SWidth, document.global_width);
-        EXPECT_EQ(slurped.Gif().SHeight, document.global_height);
-        EXPECT_EQ(slurped.Gif().SBackGroundColor, document.global_palette->background_index);
+        ASSERT_EQ(slurped.Gif().ImageCount, document.FrameCount());
+        EXPECT_EQ(slurped.Gif().SWidth, document.Current()->width);
+        EXPECT_EQ(slurped.Gif().SHeight, document.Current()->height);
+        EXPECT_EQ(slurped.Gif().SBackGroundColor, document.Current()->palette->background_index);
         ExpectLoopAndComment(slurped, document);
-        for (const Frame* frame = document.FirstFrame(); frame; frame = frame->next)
+        for (const FramePointer& frame : document.Current()->frames)
             ExpectImageAsMeant(slurped, document, *frame, made.PixelsAreKnown(style));
         if (testing::Test::HasFailure()) return;
     }

@@ -37,16 +37,17 @@ struct ReopenedAnimation {
 std::vector<Pixels> FullSizePictures(const AnimationDocument& saved,
                                      const AnimationDocument& loaded) {
     const bool clears = saved.prefs.animation_gifdisposal >= kFirstClearingDisposal;
-    const Pixels empty(static_cast<size_t>(saved.global_width * saved.global_height),
+    const Pixels empty(static_cast<size_t>(saved.Current()->width * saved.Current()->height),
                        kTransparentPixel);
     std::vector<Pixels> pictures;
-    for (const Frame* frame = saved.FirstFrame(); frame; frame = frame->next) {
+    for (const FramePointer& frame : saved.Current()->frames) {
         const Frame& loaded_frame = *loaded.FrameAt(frame->index);
         const Palette& palette =
-            loaded_frame.local_palette ? *loaded_frame.palette : *loaded.global_palette;
-        const rgb_color background = palette.ColorForIndex(saved.global_palette->background_index);
+            loaded_frame.local_palette ? *loaded_frame.palette : *loaded.Current()->palette;
+        const rgb_color background =
+            palette.ColorForIndex(saved.Current()->palette->background_index);
         Pixels picture = pictures.empty() ? empty : pictures.back();
-        if (frame->width == saved.global_width && frame->height == saved.global_height) {
+        if (frame->width == saved.Current()->width && frame->height == saved.Current()->height) {
             picture = empty;
         } else if (clears) {
             std::fill(picture.begin(), picture.end(),
@@ -60,7 +61,7 @@ std::vector<Pixels> FullSizePictures(const AnimationDocument& saved,
 
 std::vector<Pixels> OwnSizePictures(const AnimationDocument& saved) {
     std::vector<Pixels> pictures;
-    for (const Frame* frame = saved.FirstFrame(); frame; frame = frame->next)
+    for (const FramePointer& frame : saved.Current()->frames)
         pictures.push_back(MeantOwnSizePixels(saved, *frame));
     return pictures;
 }
@@ -69,36 +70,36 @@ void ExpectSamePixels(const AnimationDocument& saved, const AnimationDocument& l
     const std::vector<Pixels> pictures = saved.prefs.animation_gifloadfullframe
                                              ? FullSizePictures(saved, loaded)
                                              : OwnSizePictures(saved);
-    for (const Frame* frame = loaded.FirstFrame(); frame; frame = frame->next) {
+    for (const FramePointer& frame : loaded.Current()->frames) {
         ASSERT_TRUE(PixelsOf(*frame->bitmap) == pictures[static_cast<size_t>(frame->index)])
             << "frame " << frame->index;
     }
 }
 
 void ExpectSameProperties(const AnimationDocument& saved, const AnimationDocument& loaded) {
-    EXPECT_EQ(loaded.global_width, saved.global_width);
-    EXPECT_EQ(loaded.global_height, saved.global_height);
-    EXPECT_EQ(loaded.use_loop, saved.use_loop);
-    if (saved.use_loop) {
-        EXPECT_EQ(loaded.loop_count, saved.loop_count);
+    EXPECT_EQ(loaded.Current()->width, saved.Current()->width);
+    EXPECT_EQ(loaded.Current()->height, saved.Current()->height);
+    EXPECT_EQ(loaded.Current()->use_loop, saved.Current()->use_loop);
+    if (saved.Current()->use_loop) {
+        EXPECT_EQ(loaded.Current()->loop_count, saved.Current()->loop_count);
     }
-    const Palette& palette = *loaded.global_palette;
-    EXPECT_EQ(palette.bits, saved.global_palette->bits);
-    EXPECT_EQ(palette.background_index, saved.global_palette->background_index);
-    EXPECT_EQ(palette.use_transparent, saved.global_palette->use_transparent);
-    if (saved.global_palette->use_transparent) {
-        EXPECT_EQ(palette.transparent_index, saved.global_palette->transparent_index);
+    const Palette& palette = *loaded.Current()->palette;
+    EXPECT_EQ(palette.bits, saved.Current()->palette->bits);
+    EXPECT_EQ(palette.background_index, saved.Current()->palette->background_index);
+    EXPECT_EQ(palette.use_transparent, saved.Current()->palette->use_transparent);
+    if (saved.Current()->palette->use_transparent) {
+        EXPECT_EQ(palette.transparent_index, saved.Current()->palette->transparent_index);
     }
 }
 
 void ExpectSameFrames(const AnimationDocument& saved, const AnimationDocument& loaded) {
-    ASSERT_EQ(loaded.frame_count, saved.frame_count);
+    ASSERT_EQ(loaded.FrameCount(), saved.FrameCount());
     const bool own_size = !saved.prefs.animation_gifloadfullframe;
-    for (const Frame* frame = saved.FirstFrame(); frame; frame = frame->next) {
+    for (const FramePointer& frame : saved.Current()->frames) {
         const Frame& other = *loaded.FrameAt(frame->index);
         EXPECT_EQ(DelayOf(loaded, other), DelayOf(saved, *frame)) << "frame " << frame->index;
-        EXPECT_EQ(other.width, own_size ? frame->width : saved.global_width);
-        EXPECT_EQ(other.height, own_size ? frame->height : saved.global_height);
+        EXPECT_EQ(other.width, own_size ? frame->width : saved.Current()->width);
+        EXPECT_EQ(other.height, own_size ? frame->height : saved.Current()->height);
         EXPECT_EQ(other.x_offset, own_size ? frame->x_offset : 0);
         EXPECT_EQ(other.y_offset, own_size ? frame->y_offset : 0);
     }

@@ -25,11 +25,11 @@ std::vector<uint8> MadeUpAnimation::Save() {
 }
 
 bool MadeUpAnimation::PixelsAreKnown(const DocumentStyle& style) const {
-    return style.fitting_colors || !document.global_palette->dither;
+    return style.fitting_colors || !document.Current()->palette->dither;
 }
 
 Pixels MeantPixels(const AnimationDocument& document, const Frame& frame) {
-    const Palette& global = *document.global_palette;
+    const Palette& global = *document.Current()->palette;
     const Palette& palette = frame.local_palette ? *frame.palette : global;
     Pixels pixels;
     for (int32 y = 0; y < frame.height; ++y) {
@@ -60,17 +60,17 @@ void Draw(const AnimationDocument& document, const Frame& frame, Pixels* canvas)
         for (int32 x = 0; x < frame.width; ++x) {
             const uint32 pixel = pixels[static_cast<size_t>(y * frame.width + x)];
             if (pixel == kTransparentPixel) continue;
-            (*canvas)[static_cast<size_t>((y + frame.y_offset) * document.global_width + x +
+            (*canvas)[static_cast<size_t>((y + frame.y_offset) * document.Current()->width + x +
                                           frame.x_offset)] = pixel;
         }
     }
 }
 
 std::vector<Pixels> MeantCanvases(const AnimationDocument& document) {
-    Pixels canvas(static_cast<size_t>(document.global_width * document.global_height),
+    Pixels canvas(static_cast<size_t>(document.Current()->width * document.Current()->height),
                   kTransparentPixel);
     std::vector<Pixels> canvases;
-    for (const Frame* frame = document.FirstFrame(); frame; frame = frame->next) {
+    for (const FramePointer& frame : document.Current()->frames) {
         Draw(document, *frame, &canvas);
         canvases.push_back(canvas);
     }

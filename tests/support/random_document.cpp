@@ -90,9 +90,9 @@ color_space ChooseColorSpace(ChoiceSource& choices, const DocumentStyle& style) 
 }
 
 void ChoosePicture(ChoiceSource& choices, const DocumentStyle& style, const Palette& global,
-                   Frame* frame) {
+                   bool first, Frame* frame) {
     const Palette& palette = frame->local_palette ? *frame->palette : global;
-    const bool opaque = !style.transparency || (style.opaque_start && frame->index == 0);
+    const bool opaque = !style.transparency || (style.opaque_start && first);
     const bool transparent =
         !opaque && (style.oddities || global.use_transparent) && choices.OneIn(2);
     std::vector<rgb_color> colors;
@@ -110,16 +110,16 @@ void ChoosePicture(ChoiceSource& choices, const DocumentStyle& style, const Pale
     }
 }
 
-void ChoosePlace(ChoiceSource& choices, const DocumentStyle& style,
-                 const AnimationDocument& document, Frame* frame) {
-    frame->width = document.global_width;
-    frame->height = document.global_height;
-    if (choices.OneIn(3) || (style.opaque_start && frame->index == 0)) return;
-    frame->width = choices.Between(1, document.global_width);
-    frame->height = choices.Between(1, document.global_height);
+void ChoosePlace(ChoiceSource& choices, const DocumentStyle& style, const Animation& animation,
+                 bool first, Frame* frame) {
+    frame->width = animation.width;
+    frame->height = animation.height;
+    if (choices.OneIn(3) || (style.opaque_start && first)) return;
+    frame->width = choices.Between(1, animation.width);
+    frame->height = choices.Between(1, animation.height);
     const bool anywhere = style.oddities && choices.OneIn(4);
-    frame->x_offset = choices.Between(0, anywhere ? 70000 : document.global_width - frame->width);
-    frame->y_offset = choices.Between(0, anywhere ? 70000 : document.global_height - frame->height);
+    frame->x_offset = choices.Between(0, anywhere ? 70000 : animation.width - frame->width);
+    frame->y_offset = choices.Between(0, anywhere ? 70000 : animation.height - frame->height);
 }
 
 double ChoosePause(ChoiceSource& choices, const DocumentStyle& style, bool in_seconds) {
@@ -129,23 +129,24 @@ double ChoosePause(ChoiceSource& choices, const DocumentStyle& style, bool in_se
     return pause;
 }
 
-void ChooseGlobals(ChoiceSource& choices, const DocumentStyle& style, AnimationDocument& document) {
-    document.global_width = choices.Between(1, style.max_side);
-    document.global_height = choices.Between(1, style.max_side);
-    document.use_loop = !choices.OneIn(3);
-    document.loop_count = choices.Between(0, style.oddities ? 70000 : 65535);
+void ChooseGlobals(ChoiceSource& choices, const DocumentStyle& style, const Prefs& prefs,
+                   Animation& animation) {
+    animation.width = choices.Between(1, style.max_side);
+    animation.height = choices.Between(1, style.max_side);
+    animation.use_loop = !choices.OneIn(3);
+    animation.loop_count = choices.Between(0, style.oddities ? 70000 : 65535);
     // A loaded frame without a pause of its own follows the commonest pause, so a mixture of some
     // pauses and none does not come back as it was: all frames have one, or none has.
-    document.use_pause_global = true;
-    document.pause_length_global =
-        ChoosePause(choices, style, document.prefs.global_pauseinseconds);
-    Palette& palette = *document.global_palette;
-    ChoosePalette(choices, &palette);
-    palette.background_index = choices.Between(0, 255);
-    palette.use_transparent = choices.OneIn(2);
-    const bool any_index = palette.use_transparent || style.oddities;
-    palette.transparent_index = any_index ? choices.Between(0, choices.OneIn(2) ? 7 : 255) : 0;
-    palette.dither = document.prefs.palette_dither;
+    animation.use_pause = true;
+    animation.pause_length = ChoosePause(choices, style, prefs.global_pauseinseconds);
+    kirto::EditPalette(animation, [&](Palette& palette) {
+        ChoosePalette(choices, &palette);
+        palette.background_index = choices.Between(0, 255);
+        palette.use_transparent = choices.OneIn(2);
+        const bool any_index = palette.use_transparent || style.oddities;
+        palette.transparent_index = any_index ? choices.Between(0, choices.OneIn(2) ? 7 : 255) : 0;
+        palette.dither = prefs.palette_dither;
+    });
 }
 
 }  // namespace
@@ -173,25 +174,31 @@ void ChooseSettings(ChoiceSource& choices, const DocumentStyle& style, Prefs* pr
 }
 
 void FillDocument(ChoiceSource& choices, const DocumentStyle& style, AnimationDocument& document) {
-    ChooseGlobals(choices, style, document);
+    Animation animation = *document.Current();
+    ChooseGlobals(choices, style, document.prefs, animation);
     const bool without_pauses = choices.OneIn(4);
-    if (without_pauses) document.use_pause_global = false;
+    if (without_pauses) animation.use_pause = false;
     const int32 count = choices.Between(1, style.max_frames);
     for (int32 i = 0; i < count; ++i) {
-        auto frame = std::make_unique<Frame>();
-        frame->index = i;
-        ChoosePlace(choices, style, document, frame.get());
-        frame->use_pause = !without_pauses && choices.OneIn(2);
-        frame->pause_length = ChoosePause(choices, style, document.prefs.global_pauseinseconds);
-        frame->local_palette = style.local_palettes && choices.OneIn(3);
-        if (frame->local_palette) ChoosePalette(choices, frame->palette.get());
-        ChoosePicture(choices, style, *document.global_palette, frame.get());
-        if (document.InsertFrame(frame.get())) static_cast<void>(frame.release());
+        Frame frame;
+        ChoosePlace(choices, style, animation, i == 0, &frame);
+        frame.use_pause = !without_pauses && choices.OneIn(2);
+        frame.pause_length = ChoosePause(choices, style, document.prefs.global_pauseinseconds);
+        frame.local_palette = style.local_palettes && choices.OneIn(3);
+        if (frame.local_palette) {
+            Palette palette;
+            ChoosePalette(choices, &palette);
+            frame.palette = SharePalette(palette);
+        }
+        ChoosePicture(choices, style, *animation.palette, i == 0, &frame);
+        InsertFrame(animation, i, std::make_shared<const Frame>(std::move(frame)));
     }
+    document.Commit(std::move(animation));
 }
 
 int32 DelayOf(const AnimationDocument& document, const Frame& frame) {
-    double pause = document.use_pause_global ? document.pause_length_global : 0;
+    const auto animation = document.Current();
+    double pause = animation->use_pause ? animation->pause_length : 0;
     if (frame.use_pause) pause = frame.pause_length;
     return static_cast<int32>(
         std::lround(document.prefs.global_pauseinseconds ? pause * 100 : pause));

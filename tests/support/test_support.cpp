@@ -113,15 +113,14 @@ std::vector<uint32> PixelsOf(const BBitmap& bitmap) {
     return pixels;
 }
 
-Frame* AppendFrame(AnimationDocument& document, std::shared_ptr<BBitmap> bitmap,
-                   const std::string& name) {
-    auto frame =
-        std::make_unique<Frame>(name, bitmap->Width(), bitmap->Height(), document.FrameCount());
-    frame->palette->Set(bitmap.get());
-    frame->bitmap = std::move(bitmap);
-    Frame* inserted = frame.get();
-    if (document.InsertFrame(inserted)) static_cast<void>(frame.release());
-    return inserted;
+FrameHandle AppendFrame(AnimationDocument& document, std::shared_ptr<BBitmap> bitmap,
+                        const std::string& name) {
+    Frame frame(name, bitmap->Width(), bitmap->Height());
+    frame.palette = SharePalette(Palette(static_cast<const BBitmap*>(bitmap.get())));
+    frame.bitmap = std::move(bitmap);
+    const FrameId id = frame.id;
+    document.InsertFrame(document.FrameCount(), std::move(frame));
+    return {document, id};
 }
 
 TemporaryFolder::TemporaryFolder() {

@@ -12,6 +12,7 @@
 #include "platform/byte_order.h"
 #include "platform/debug_line.h"
 #include "platform/message_port.h"
+#include "support/document_edits.h"
 
 namespace kirto::test {
 
@@ -77,8 +78,8 @@ std::shared_ptr<BBitmap> PictureOf(int32 width, int32 height, const std::vector<
 std::vector<uint32> PixelsOf(const BBitmap& bitmap);
 
 // Appends a frame with the picture, an optimal palette for it and the given name.
-Frame* AppendFrame(AnimationDocument& document, std::shared_ptr<BBitmap> bitmap,
-                   const std::string& name);
+FrameHandle AppendFrame(AnimationDocument& document, std::shared_ptr<BBitmap> bitmap,
+                        const std::string& name);
 
 // A fresh folder below the system's temporary folder, removed with all its content.
 class TemporaryFolder {

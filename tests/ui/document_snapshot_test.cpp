@@ -1,23 +1,22 @@
-#include "ui/document_snapshot.h"
-
 #include <gtest/gtest.h>
 #include <thread>
 
 #include "document/document_scope.h"
 #include "support/test_support.h"
+#include "ui/shown_document.h"
 
 namespace kirto::test {
 
 namespace {
 
-class DocumentSnapshots : public ::testing::Test {
+class ShownDocuments : public ::testing::Test {
   protected:
     DocumentFixture fixture;
     AnimationDocument& document = fixture.document;
-    DocumentSnapshot snapshot;
+    ShownDocument snapshot;
 };
 
-TEST_F(DocumentSnapshots, ShowAnEmptyAnimationBeforeTheFirstTake) {
+TEST_F(ShownDocuments, ShowAnEmptyAnimationBeforeTheFirstTake) {
     EXPECT_EQ(snapshot.file_name, "untitled");
     EXPECT_EQ(snapshot.FrameCount(), 0);
     EXPECT_EQ(snapshot.FirstFrame(), nullptr);
@@ -25,15 +24,15 @@ TEST_F(DocumentSnapshots, ShowAnEmptyAnimationBeforeTheFirstTake) {
     EXPECT_EQ(snapshot.prefs.global_width, Prefs(Prefs::BuiltIn{}).global_width);
 }
 
-TEST_F(DocumentSnapshots, TakeTheAnimationsProperties) {
+TEST_F(ShownDocuments, TakeTheAnimationsProperties) {
     document.file_name = "some.gif";
-    document.global_width = 11;
-    document.global_height = 12;
-    document.use_pause_global = true;
-    document.pause_length_global = 1.5;
-    document.use_loop = true;
-    document.loop_count = 13;
-    document.modified = true;
+    EditOf(document)->width = 11;
+    EditOf(document)->height = 12;
+    EditOf(document)->use_pause = true;
+    EditOf(document)->pause_length = 1.5;
+    EditOf(document)->use_loop = true;
+    EditOf(document)->loop_count = 13;
+    document.SetModified(true);
 
     ASSERT_TRUE(snapshot.Take(document));
 
@@ -47,8 +46,8 @@ TEST_F(DocumentSnapshots, TakeTheAnimationsProperties) {
     EXPECT_TRUE(snapshot.modified);
 }
 
-TEST_F(DocumentSnapshots, TakeTheGlobalPalettesProperties) {
-    Palette& palette = *document.global_palette;
+TEST_F(ShownDocuments, TakeTheGlobalPalettesProperties) {
+    Palette& palette = *document.Current()->palette;
     palette.mode = kPaletteGreyscale;
     palette.bits = 5;
     palette.background_index = 1;
@@ -66,7 +65,7 @@ TEST_F(DocumentSnapshots, TakeTheGlobalPalettesProperties) {
     EXPECT_TRUE(snapshot.dither);
 }
 
-TEST_F(DocumentSnapshots, TakeFramesAndTheCurrentOnesProperties) {
+TEST_F(ShownDocuments, TakeFramesAndTheCurrentOnesProperties) {
     AppendFrame(document, PictureOf(1, 1, {0xFF000001}), "one");
     Frame* second = AppendFrame(document, PictureOf(2, 1, {0xFF000001, 0xFF000002}), "two");
     document.Select(1);
@@ -95,9 +94,9 @@ TEST_F(DocumentSnapshots, TakeFramesAndTheCurrentOnesProperties) {
     EXPECT_EQ(snapshot.current.palette_mode, kPaletteOptimal);
 }
 
-TEST_F(DocumentSnapshots, ForgetFramesThatAreGone) {
+TEST_F(ShownDocuments, ForgetFramesThatAreGone) {
     AppendFrame(document, PictureOf(1, 1, {0xFF000001}), "one");
-    document.CurrentFrame()->x_offset = 5;
+    FrameEditOf(document, document.Selected())->x_offset = 5;
     ASSERT_TRUE(snapshot.Take(document));
     document.RemoveFrame();
 
@@ -108,7 +107,7 @@ TEST_F(DocumentSnapshots, ForgetFramesThatAreGone) {
     EXPECT_EQ(snapshot.current.x_offset, 0);
 }
 
-TEST_F(DocumentSnapshots, KeepPicturesAfterTheFramesAreGone) {
+TEST_F(ShownDocuments, KeepPicturesAfterTheFramesAreGone) {
     AppendFrame(document, PictureOf(1, 1, {0xFF000001}), "one");
     ASSERT_TRUE(snapshot.Take(document));
 
@@ -117,7 +116,7 @@ TEST_F(DocumentSnapshots, KeepPicturesAfterTheFramesAreGone) {
     EXPECT_EQ(PixelsOf(*snapshot.FirstFrame()->bitmap), std::vector<uint32>{0xFF000001});
 }
 
-TEST_F(DocumentSnapshots, TakeACopyOfTheSettings) {
+TEST_F(ShownDocuments, TakeACopyOfTheSettings) {
     fixture.prefs.thumbnail_heightvalue = 55;
     ASSERT_TRUE(snapshot.Take(document));
 
@@ -126,13 +125,13 @@ TEST_F(DocumentSnapshots, TakeACopyOfTheSettings) {
     EXPECT_EQ(snapshot.prefs.thumbnail_heightvalue, 55);
 }
 
-TEST_F(DocumentSnapshots, TakeNothingWhileAWriterIsInside) {
-    document.global_width = 11;
+TEST_F(ShownDocuments, TakeNothingWhileAWriterIsInside) {
+    EditOf(document)->width = 11;
     ASSERT_TRUE(snapshot.Take(document));
     bool taken = true;
     {
         const WriterScope writer(document);
-        document.global_width = 12;
+        EditOf(document)->width = 12;
         std::thread([&] { taken = snapshot.Take(document); }).join();
     }
 
@@ -142,15 +141,15 @@ TEST_F(DocumentSnapshots, TakeNothingWhileAWriterIsInside) {
     EXPECT_EQ(snapshot.width, 12);
 }
 
-TEST_F(DocumentSnapshots, LeaveTheLockAgain) {
+TEST_F(ShownDocuments, LeaveTheLockAgain) {
     ASSERT_TRUE(snapshot.Take(document));
 
     EXPECT_EQ(document.reader_count, 0);
     document.SetModified(true);
-    EXPECT_TRUE(document.modified);
+    EXPECT_TRUE(document.Modified());
 }
 
-TEST_F(DocumentSnapshots, ResetToTheDefaultsOfTheSettings) {
+TEST_F(ShownDocuments, ResetToTheDefaultsOfTheSettings) {
     Prefs& prefs = fixture.prefs;
     prefs.global_width = 21;
     prefs.global_height = 22;
@@ -164,7 +163,7 @@ TEST_F(DocumentSnapshots, ResetToTheDefaultsOfTheSettings) {
     prefs.palette_backgroundindex = 25;
     prefs.palette_dither = true;
     document.file_name = "some.gif";
-    document.modified = true;
+    document.SetModified(true);
     AppendFrame(document, PictureOf(1, 1, {0xFF000001}), "one");
     ASSERT_TRUE(snapshot.Take(document));
 

@@ -7,8 +7,8 @@
 
 #include "support/fake_roster.h"
 #include "support/test_support.h"
-#include "ui/document_snapshot.h"
 #include "ui/editor.h"
+#include "ui/shown_document.h"
 #include "ui/thumb_drawing_view.h"
 #include "ui/thumbnail_view.h"
 
@@ -50,7 +50,7 @@ struct ThumbnailFixture {
     std::shared_ptr<PortRecorder> application = std::make_shared<PortRecorder>();
     std::shared_ptr<PortRecorder> window = std::make_shared<PortRecorder>();
     Editor editor{fixture.document, BMessenger(application), panels, roster, nullptr};
-    DocumentSnapshot shown;
+    ShownDocument shown;
     std::unique_ptr<ThumbnailView> view;
 
     // Shows the frames in a view of that size, the one selected current; on the screen unless

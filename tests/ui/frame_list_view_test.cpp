@@ -12,7 +12,7 @@ namespace {
 
 struct ListFixture {
     std::shared_ptr<PortRecorder> window = std::make_shared<PortRecorder>();
-    DocumentSnapshot shown;
+    ShownDocument shown;
     std::unique_ptr<FrameListView> view;
 
     explicit ListFixture(std::vector<FrameSnapshot> frames, int32 selected = 0) {

@@ -56,12 +56,12 @@ TEST_F(GlobalViewTest, SendsACommandForEachControl) {
 }
 
 TEST_F(GlobalViewTest, ShowsTheDocument) {
-    document.global_width = 320;
-    document.global_height = 200;
-    document.use_pause_global = true;
-    document.pause_length_global = 2.5;
-    document.use_loop = true;
-    document.loop_count = 7;
+    EditOf(document)->width = 320;
+    EditOf(document)->height = 200;
+    EditOf(document)->use_pause = true;
+    EditOf(document)->pause_length = 2.5;
+    EditOf(document)->use_loop = true;
+    EditOf(document)->loop_count = 7;
     Take();
 
     panel.UpdateDisplay();
@@ -78,8 +78,8 @@ TEST_F(GlobalViewTest, ShowsTheDocument) {
 }
 
 TEST_F(GlobalViewTest, DisablesTheFieldsOfBoxesThatAreOff) {
-    document.use_pause_global = false;
-    document.use_loop = false;
+    EditOf(document)->use_pause = false;
+    EditOf(document)->use_loop = false;
     Take();
 
     panel.UpdateDisplay();
@@ -91,8 +91,8 @@ TEST_F(GlobalViewTest, DisablesTheFieldsOfBoxesThatAreOff) {
 }
 
 TEST_F(GlobalViewTest, HoldsTheLongestNumbers) {
-    document.global_width = 2147483647;
-    document.pause_length_global = 2147483647.0;
+    EditOf(document)->width = 2147483647;
+    EditOf(document)->pause_length = 2147483647.0;
     Take();
 
     panel.UpdateDisplay();
@@ -104,8 +104,8 @@ TEST_F(GlobalViewTest, HoldsTheLongestNumbers) {
 TEST_F(GlobalViewTest, LeavesAFieldAloneWhileTheUserTypesInIt) {
     panel.width->setText("12");
     panel.width->setModified(true);
-    document.global_width = 320;
-    document.global_height = 200;
+    EditOf(document)->width = 320;
+    EditOf(document)->height = 200;
     Take();
 
     panel.UpdateDisplay();
@@ -122,7 +122,7 @@ TEST_F(GlobalViewTest, ResetsToTheSettingsDefaults) {
     prefs.global_pauselength = 3.25;
     prefs.global_useloop = false;
     prefs.global_loopcount = 23;
-    document.global_width = 320;
+    EditOf(document)->width = 320;
     Take();
     panel.UpdateDisplay();
     panel.height->setText("99");

@@ -17,7 +17,7 @@ class KirtoWindowClosing : public KirtoWindowFixture {
   protected:
     void OpenModified(const std::string& file_name = "some.gif") {
         AddFrame();
-        document.modified = true;
+        document.SetModified(true);
         document.file_name = file_name;
         Open();
     }
@@ -97,7 +97,7 @@ TEST_F(KirtoWindowClosing, AsksTheApplicationOnce) {
 }
 
 TEST_F(KirtoWindowClosing, AsksNothingWithoutFramesHoweverModified) {
-    document.modified = true;
+    document.SetModified(true);
     Open();
 
     for (const uint32 code : kAllCommands)
@@ -171,7 +171,7 @@ TEST_F(KirtoWindowClosing, SaveShowsTheSavePanelForAnUntitledDocument) {
 TEST_F(KirtoWindowClosing, AFinishedSaveCarriesQuittingOut) {
     OpenModified("untitled");
     Do(B_QUIT_REQUESTED, kSave);
-    document.modified = false;
+    document.SetModified(false);
 
     DoUnasked(kResume);
 
@@ -183,7 +183,7 @@ TEST_F(KirtoWindowClosing, AFinishedSaveCarriesNewOut) {
     OpenModified();
     Do(kMenuNew, kSave);
     Posted();
-    document.modified = false;
+    document.SetModified(false);
 
     DoUnasked(kResume);
 
@@ -195,7 +195,7 @@ TEST_F(KirtoWindowClosing, AFinishedSaveCarriesNewOut) {
 TEST_F(KirtoWindowClosing, AFinishedSaveCarriesOpenOut) {
     OpenModified();
     Do(kMenuOpen, kSave);
-    document.modified = false;
+    document.SetModified(false);
 
     DoUnasked(kResume);
 
@@ -205,7 +205,7 @@ TEST_F(KirtoWindowClosing, AFinishedSaveCarriesOpenOut) {
 
 TEST_F(KirtoWindowClosing, AFinishedSaveThatNothingWaitsForDoesNothing) {
     OpenModified();
-    document.modified = false;
+    document.SetModified(false);
 
     DoUnasked(kResume);
 
@@ -235,7 +235,7 @@ TEST_F(KirtoWindowClosing, AnEditMadeDuringTheSaveKeepsTheCommandFromLosingIt) {
     Do(B_QUIT_REQUESTED, kSave);
     KirtoWindowFixture::Do(kReverseFrames);
     Posted();
-    document.modified = false;
+    document.SetModified(false);
 
     DoUnasked(kResume);
 
@@ -249,7 +249,7 @@ TEST_F(KirtoWindowClosing, AClosedSavePanelDropsTheCommand) {
 
     KirtoWindowFixture::Do(kAbandonPending);
     EXPECT_EQ(window->PendingCommand(), 0u);
-    document.modified = false;
+    document.SetModified(false);
     DoUnasked(kResume);
 
     EXPECT_EQ(Posted(), "");
@@ -265,7 +265,7 @@ TEST_F(KirtoWindowClosing, ALaterAnswerReplacesTheCommandThatWaits) {
     Do(B_QUIT_REQUESTED, kSave);
     Do(kMenuNew, kSave);
     EXPECT_EQ(window->PendingCommand(), kMenuNew);
-    document.modified = false;
+    document.SetModified(false);
     DoUnasked(kMenuOpen);
     EXPECT_EQ(window->PendingCommand(), 0u);
 }

@@ -48,7 +48,7 @@ TEST_F(KirtoWindowCommands, SaveDoesNothingUnlessThereAreChangesOfFrames) {
     Open();
     Do(kMenuSave);
     document.RemoveFrame();
-    document.modified = true;
+    document.SetModified(true);
     Do(kUpdateAll);
     Do(kMenuSave);
 
@@ -58,7 +58,7 @@ TEST_F(KirtoWindowCommands, SaveDoesNothingUnlessThereAreChangesOfFrames) {
 
 TEST_F(KirtoWindowCommands, SaveSavesToTheFileThatTheDocumentHas) {
     AddFrame();
-    document.modified = true;
+    document.SetModified(true);
     document.file_name = "some.gif";
     Open();
 
@@ -71,7 +71,7 @@ TEST_F(KirtoWindowCommands, SaveSavesToTheFileThatTheDocumentHas) {
 
 TEST_F(KirtoWindowCommands, SaveAsksForANameForAnUntitledDocument) {
     AddFrame();
-    document.modified = true;
+    document.SetModified(true);
     Open();
 
     Do(kMenuSave);

@@ -98,9 +98,9 @@ TEST_F(KirtoWindowEdits, TellThatAWidthCanNotBeLessThanZero) {
 
 TEST_F(KirtoWindowEdits, NameEveryFieldThatIsTooLow) {
     AddFrame().use_pause = true;
-    document.use_pause_global = true;
-    document.use_loop = true;
-    document.global_palette->use_transparent = true;
+    EditOf(document)->use_pause = true;
+    EditOf(document)->use_loop = true;
+    PaletteEditOf(document)->use_transparent = true;
     Open();
 
     for (const auto& [panel, name] :
@@ -127,7 +127,7 @@ TEST_F(KirtoWindowEdits, NameEveryFieldThatIsTooLow) {
 }
 
 TEST_F(KirtoWindowEdits, SwitchTheGlobalPauseWithItsField) {
-    document.use_pause_global = false;
+    EditOf(document)->use_pause = false;
     Open();
     TextControl& length = Field("GlobalView", "Pause length");
     QCheckBox& box = Box("GlobalView", "Pause");
@@ -141,7 +141,7 @@ TEST_F(KirtoWindowEdits, SwitchTheGlobalPauseWithItsField) {
 }
 
 TEST_F(KirtoWindowEdits, SwitchTheLoopWithItsField) {
-    document.use_loop = false;
+    EditOf(document)->use_loop = false;
     Open();
     TextControl& count = Field("GlobalView", "Loop count");
     QCheckBox& box = Box("GlobalView", "Loop");
@@ -155,8 +155,8 @@ TEST_F(KirtoWindowEdits, SwitchTheLoopWithItsField) {
 }
 
 TEST_F(KirtoWindowEdits, PostPauseLengthAndLoopCount) {
-    document.use_pause_global = true;
-    document.use_loop = true;
+    EditOf(document)->use_pause = true;
+    EditOf(document)->use_loop = true;
     Open();
 
     Enter(Field("GlobalView", "Pause length"), "2.5");
@@ -181,7 +181,7 @@ TEST_F(KirtoWindowEdits, PostTheGlobalPalettesKind) {
 }
 
 TEST_F(KirtoWindowEdits, UntickAndDisableDitherForGreyscaleAndOnlyEnableItForOtherKinds) {
-    document.global_palette->dither = true;
+    PaletteEditOf(document)->dither = true;
     Open();
     QCheckBox& dither = Box("PaletteView", "Dither");
     EXPECT_TRUE(dither.isChecked());
@@ -190,7 +190,7 @@ TEST_F(KirtoWindowEdits, UntickAndDisableDitherForGreyscaleAndOnlyEnableItForOth
     EXPECT_FALSE(dither.isChecked());
     EXPECT_FALSE(dither.isEnabled());
     CarryOutEdits();
-    EXPECT_FALSE(document.global_palette->dither);
+    EXPECT_FALSE(document.Current()->palette->dither);
 
     for (const char* label :
          {"BeOS system", "web safe", "first frame", "current frame", "from a file"}) {
@@ -215,7 +215,7 @@ TEST_F(KirtoWindowEdits, AskForAPalettesFile) {
 }
 
 TEST_F(KirtoWindowEdits, PostThePalettesIndices) {
-    document.global_palette->use_transparent = true;
+    PaletteEditOf(document)->use_transparent = true;
     Open();
 
     Enter(Field("PaletteView", "Background index"), "255");
@@ -227,8 +227,8 @@ TEST_F(KirtoWindowEdits, PostThePalettesIndices) {
 }
 
 TEST_F(KirtoWindowEdits, TellThatAnIndexIsBeyondThePalette) {
-    document.global_palette->use_transparent = true;
-    document.global_palette->bits = 4;
+    PaletteEditOf(document)->use_transparent = true;
+    PaletteEditOf(document)->bits = 4;
     Open();
 
     Enter(Field("PaletteView", "Background index"), "16");
@@ -351,8 +351,8 @@ TEST_F(KirtoWindowEdits, ShowThemselvesInTheStatusLineOnceTheyAreDone) {
 }
 
 TEST_F(KirtoWindowEdits, AreReadBeforeARefreshThatWaitedLonger) {
-    document.use_loop = false;
-    document.global_width = 320;
+    EditOf(document)->use_loop = false;
+    EditOf(document)->width = 320;
     Open();
 
     window->Messenger().SendMessage(kUpdateAll);

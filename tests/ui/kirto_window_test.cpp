@@ -88,8 +88,8 @@ TEST_F(KirtoWindowTest, KnowsItsPlaceWhileItFillsTheScreen) {
 
 TEST_F(KirtoWindowTest, ShowsTheDocumentAsSoonAsItOpens) {
     AddFrame();
-    document.global_width = 77;
-    document.modified = true;
+    EditOf(document)->width = 77;
+    document.SetModified(true);
 
     Open();
 
@@ -102,8 +102,8 @@ TEST_F(KirtoWindowTest, ShowsTheDocumentAsSoonAsItOpens) {
 TEST_F(KirtoWindowTest, ShowsEverythingOnAuda) {
     Open();
     document.file_name = "some.gif";
-    document.global_width = 77;
-    document.global_palette->dither = true;
+    EditOf(document)->width = 77;
+    PaletteEditOf(document)->dither = true;
     AddFrame();
 
     Do(kUpdateAll);
@@ -118,7 +118,7 @@ TEST_F(KirtoWindowTest, ShowsEverythingOnAuda) {
 
 TEST_F(KirtoWindowTest, ShowsEverythingWhenAnEditIsDone) {
     Open();
-    document.global_width = 77;
+    EditOf(document)->width = 77;
 
     Do(kEditDone);
 
@@ -128,7 +128,7 @@ TEST_F(KirtoWindowTest, ShowsEverythingWhenAnEditIsDone) {
 TEST_F(KirtoWindowTest, ShowsFramesAndStatusOnAufr) {
     Open();
     document.file_name = "some.gif";
-    document.global_width = 77;
+    EditOf(document)->width = 77;
     AddFrame();
 
     Do(kUpdateFrames);
@@ -180,7 +180,7 @@ TEST_F(KirtoWindowTest, EnablesWhatNeedsAFrameOnlyWhenThereIsOne) {
 TEST_F(KirtoWindowTest, ResetsAllPanelsToTheSettingsDefaults) {
     prefs.global_width = 21;
     AddFrame();
-    document.global_width = 77;
+    EditOf(document)->width = 77;
     document.file_name = "some.gif";
     Open();
     Do(kUpdateAll);
@@ -201,7 +201,7 @@ TEST_F(KirtoWindowTest, KeepsWhatItShowsWhileTheDocumentIsChangedAndFollowsAfter
     const QString before = WidthText();
     {
         const WriterScope writer(document);
-        document.global_width = 77;
+        EditOf(document)->width = 77;
         document.file_name = "some.gif";
         Do(kUpdateFramesNoStatus);
         Do(kUpdateAll);
@@ -234,7 +234,7 @@ TEST_F(KirtoWindowTest, FollowsAWriterInAnotherThread) {
         for (int32 width = 1; width <= 200; ++width) {
             {
                 const WriterScope inside(document);
-                document.global_width = width;
+                EditOf(document)->width = width;
             }
             window->Messenger().SendMessage(kUpdateAll);
         }

@@ -186,7 +186,7 @@ TEST_F(LocalViewTest, IsNotWidenedByALongName) {
     Update();
     const int before = panel.sizeHint().width();
 
-    document.CurrentFrame()->name = std::string(250, 'w');
+    FrameEditOf(document, document.Selected())->name = std::string(250, 'w');
     Update();
 
     EXPECT_EQ(panel.sizeHint().width(), before);

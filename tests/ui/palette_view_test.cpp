@@ -13,7 +13,7 @@ using Lines = std::vector<std::string>;
 class PaletteViewTest : public ViewFixture {
   protected:
     void ShowMode(int32 mode) {
-        document.global_palette->mode = mode;
+        PaletteEditOf(document)->mode = mode;
         Take();
         panel.UpdateDisplay();
     }
@@ -74,7 +74,7 @@ TEST_F(PaletteViewTest, MarksThePalettesKind) {
 }
 
 TEST_F(PaletteViewTest, ShowsTheGlobalPalette) {
-    Palette& palette = *document.global_palette;
+    Palette& palette = *document.Current()->palette;
     palette.dither = true;
     palette.background_index = 5;
     palette.use_transparent = true;
@@ -100,13 +100,13 @@ TEST_F(PaletteViewTest, DisablesTheTransparentIndexWhileTransparencyIsOff) {
 }
 
 TEST_F(PaletteViewTest, UnticksAndDisablesDitherForGreyscaleAndOnlyEnablesItForOtherKinds) {
-    document.global_palette->dither = true;
+    PaletteEditOf(document)->dither = true;
 
     ShowMode(kPaletteGreyscale);
     EXPECT_FALSE(panel.dither->isEnabled());
     EXPECT_FALSE(panel.dither->isChecked());
 
-    document.global_palette->dither = false;
+    PaletteEditOf(document)->dither = false;
     ShowMode(kPaletteWebSafe);
     EXPECT_TRUE(panel.dither->isEnabled());
     EXPECT_FALSE(panel.dither->isChecked());

@@ -187,7 +187,7 @@ TEST_F(QtDesktopTest, AbandonsTheCommandThatWaitsForASave) {
     WriteGif("some.gif", 1);
     AppendFrame(*app, PictureOf(1, 1, {0xFF000001}), "frame");
     app->file_name = "some.gif";
-    app->modified = true;
+    app->SetModified(true);
     {
         const AlertRecorder save({2});
         BMessage quit(B_QUIT_REQUESTED);

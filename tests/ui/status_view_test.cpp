@@ -25,13 +25,13 @@ TEST_F(StatusViewTest, BeginsWithAnUnmodifiedAnimationOfNoFrames) {
 
 TEST_F(StatusViewTest, CountsTheFramesAndSaysWhetherTheyAreModified) {
     AddFrames(3);
-    document.modified = true;
+    document.SetModified(true);
     Take();
 
     line.UpdateDisplay();
     EXPECT_EQ(line.status->text(), "Status: 3 frame(s), modified");
 
-    document.modified = false;
+    document.SetModified(false);
     Take();
     line.UpdateDisplay(nullptr);
     EXPECT_EQ(line.status->text(), "Status: 3 frame(s), unmodified");
@@ -80,7 +80,7 @@ TEST_F(StatusViewTest, HidesTheBarWhenTheTaskIsDone) {
 
 TEST_F(StatusViewTest, ResetsToNoFrames) {
     AddFrames(1);
-    document.modified = true;
+    document.SetModified(true);
     Take();
     line.UpdateDisplay();
 

@@ -11,7 +11,7 @@
 #include "document/command_codes.h"
 #include "framework/qt/text_control.h"
 #include "support/test_support.h"
-#include "ui/document_snapshot.h"
+#include "ui/shown_document.h"
 
 namespace kirto::test {
 
@@ -43,7 +43,7 @@ class ViewFixture : public ::testing::Test {
 
     DocumentFixture fixture;
     AnimationDocument& document = fixture.document;
-    DocumentSnapshot shown;
+    ShownDocument shown;
     std::shared_ptr<PortRecorder> port = std::make_shared<PortRecorder>();
     BMessenger window{port};
 };
