@@ -78,6 +78,75 @@ void AnimationDocument::PublishSettings() {
     });
 }
 
+kirto::Moment AnimationDocument::Now() const {
+    const auto state = CurrentState();
+    return {state->animation, state->file_name, state->file_directory};
+}
+
+void AnimationDocument::BeginStep() {
+    before_step_ = Now();
+}
+
+void AnimationDocument::EndStep(const char* name) {
+    if (!before_step_) return;
+    kirto::Moment before = *std::exchange(before_step_, std::nullopt);
+    kirto::Moment after = Now();
+    if (*before.animation == *after.animation) return;
+    history_.Record({name, std::move(before), std::move(after)});
+    PublishHistory();
+}
+
+void AnimationDocument::EndStepWithinLast() {
+    if (std::exchange(before_step_, std::nullopt)) history_.Extend(Now());
+}
+
+void AnimationDocument::StartHistory() {
+    before_step_.reset();
+    history_.Clear();
+    PublishHistory();
+}
+
+bool AnimationDocument::Undo() {
+    const kirto::History::Step* step = history_.Undo();
+    if (step) Return(step->before, step->after);
+    return step != nullptr;
+}
+
+bool AnimationDocument::Redo() {
+    const kirto::History::Step* step = history_.Redo();
+    if (step) Return(step->after, step->before);
+    return step != nullptr;
+}
+
+// Makes the document what it was at the moment. It keeps its file's name, which a save may have
+// given it meanwhile, unless the step itself changed that.
+void AnimationDocument::Return(const kirto::Moment& moment, const kirto::Moment& from) {
+    const bool other_file =
+        moment.file_name != from.file_name || moment.file_directory != from.file_directory;
+    ChangeState([&](kirto::DocumentState& state) {
+        state.animation = moment.animation;
+        if (other_file) {
+            state.file_name = moment.file_name;
+            state.file_directory = moment.file_directory;
+        }
+        state.modified = !history_.IsAtSaved();
+        state.undo_name = history_.UndoName();
+        state.redo_name = history_.RedoName();
+    });
+}
+
+void AnimationDocument::MarkSaved() {
+    history_.MarkSaved();
+    SetModified(false);
+}
+
+void AnimationDocument::PublishHistory() {
+    ChangeState([this](kirto::DocumentState& state) {
+        state.undo_name = history_.UndoName();
+        state.redo_name = history_.RedoName();
+    });
+}
+
 void AnimationDocument::Reset() {
     kirto::Animation fresh = kirto::NewAnimation(prefs);
     bool palette_read = true;

@@ -3,11 +3,13 @@
 #include <atomic>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <string>
 
 #include "animation/animation.h"
 #include "document/document_lock.h"
 #include "document/document_state.h"
+#include "document/history.h"
 #include "platform/messenger.h"
 #include "platform/types.h"
 #include "settings/prefs.h"
@@ -78,6 +80,21 @@ class AnimationDocument : public DocumentLock {
     // Lets the global palette follow the first or the current frame, where its kind says so.
     void UpdateGlobalPalette();
 
+    // The history of edits. What happens between BeginStep and EndStep is one edit, of that name;
+    // it is no step when the animation is the same afterwards.
+    void BeginStep();
+    void EndStep(const char* name);
+    // What happened since BeginStep belongs to the edit before it.
+    void EndStepWithinLast();
+    // Forgets all edits; what happens until EndStep is none.
+    void StartHistory();
+    // True when there was an edit to undo or redo. The document is modified unless it stands again
+    // as it was saved.
+    bool Undo();
+    bool Redo();
+    // The document has been written to its file: it is not modified.
+    void MarkSaved();
+
     // Posts a command without fields to the window.
     void PostToWindow(uint32 what) const { window.SendMessage(what); }
     // Posts the progress text that the status line shows.
@@ -91,6 +108,9 @@ class AnimationDocument : public DocumentLock {
 
   private:
     void PostInserted(bool first) const;
+    kirto::Moment Now() const;
+    void PublishHistory();
+    void Return(const kirto::Moment& moment, const kirto::Moment& from);
     void Publish(kirto::DocumentState next);
     template <typename Edit>
     void ChangeState(Edit edit) {
@@ -100,6 +120,8 @@ class AnimationDocument : public DocumentLock {
     }
 
     std::atomic<bool> stop_requested_ = false;
+    kirto::History history_;
+    std::optional<kirto::Moment> before_step_;  // while a step is being made
     mutable std::mutex state_mutex_;  // held for as long as a pointer is copied
     std::shared_ptr<const kirto::DocumentState> state_;
 };

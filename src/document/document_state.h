@@ -19,6 +19,8 @@ struct DocumentState {
     // The serial number of the last edit of a window's that is carried out. A window that numbers
     // its edits knows by it which of them the animation does not show yet.
     int32 edits_done = 0;
+    std::string undo_name;  // of the edit that would be undone or redone; empty when there is none
+    std::string redo_name;
     std::shared_ptr<const Prefs> settings;  // never null
 };
 
