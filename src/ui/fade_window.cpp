@@ -43,7 +43,8 @@ FadeWindow::FadeWindow(BMessenger application, QWidget* parent,
     setWindowTitle("Fade Effects");
     setAttribute(Qt::WA_DeleteOnClose);
     MakeControls();
-    resize(sizeHint().expandedTo({kMinWidth, kMinHeight}));
+    setMinimumSize(sizeHint().expandedTo({kMinWidth, kMinHeight}));
+    resize(minimumSize());
     frame_count_->setFocus();
     frame_count_->selectAll();
 }

@@ -232,7 +232,6 @@ void KirtoWindow::InsertTiled(BMessage*) {
 void KirtoWindow::FadeEffects(BMessage*) {
     if (!shown_.CurrentFrame()) return;
     auto* window = new FadeWindow(editor_.application, this);
-    window->adjustSize();
     QRect place = window->frameGeometry();
     place.moveCenter(QGuiApplication::primaryScreen()->geometry().center());
     window->move(place.topLeft());

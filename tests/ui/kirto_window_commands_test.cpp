@@ -135,6 +135,8 @@ TEST_F(KirtoWindowCommands, FadeEffectsOpensItsWindow) {
     auto* fade = window->findChild<FadeWindow*>();
     ASSERT_NE(fade, nullptr);
     EXPECT_TRUE(fade->isVisible());
+    EXPECT_GE(fade->width(), 350);
+    EXPECT_GE(fade->height(), 135);
     // Within the decoration, which the window does not know beforehand.
     const QPoint center = QGuiApplication::primaryScreen()->geometry().center();
     EXPECT_LE((fade->geometry().center() - center).manhattanLength(), 8);
