@@ -29,6 +29,7 @@ bool DocumentSnapshot::Take(AnimationDocument& document) {
     const TryReaderScope reader(document);
     if (!reader.Entered()) return false;
     file_name = document.file_name;
+    file_directory = document.file_directory;
     width = document.global_width;
     height = document.global_height;
     use_pause = document.use_pause_global;

@@ -35,8 +35,9 @@ struct CurrentFrameSnapshot {
 // settings.
 struct DocumentSnapshot {
     std::string file_name = "untitled";
-    int32 width = 0;   // canvas, pixels
-    int32 height = 0;  // canvas, pixels
+    std::string file_directory;  // empty for a document that has no file
+    int32 width = 0;             // canvas, pixels
+    int32 height = 0;            // canvas, pixels
     bool use_pause = false;
     double pause_length = 0.0;
     bool use_loop = false;

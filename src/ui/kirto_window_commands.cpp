@@ -189,6 +189,7 @@ void KirtoWindow::SaveAs(BMessage*) {
 
 void KirtoWindow::ShowSavePanel() {
     kirto::FilePanel* panel = editor_.panels.GetPanel(kirto::FilePanelKind::kSave);
+    if (!shown_.file_directory.empty()) panel->SetDirectory(shown_.file_directory);
     panel->SetSaveText("");
     panel->Show();
 }

@@ -88,6 +88,17 @@ TEST_F(KirtoWindowCommands, SaveAsShowsTheSavePanelWithAnEmptyNameAlsoForAnUnmod
     EXPECT_EQ(panels.TakeLines(), (Lines{"save text=", "save shown"}));
 }
 
+TEST_F(KirtoWindowCommands, SaveAsShowsTheSavePanelInTheDocumentsFolder) {
+    document.file_name = "some.gif";
+    document.file_directory = "/some/folder";
+    OpenWithFrames(1);
+
+    Do(kMenuSaveAs);
+
+    EXPECT_EQ(panels.TakeLines(),
+              (Lines{"save directory=/some/folder", "save text=", "save shown"}));
+}
+
 TEST_F(KirtoWindowCommands, SaveAsDoesNothingWithoutFrames) {
     Open();
 
