@@ -73,6 +73,7 @@ class KirtoWindow : public QMainWindow, public BWindow {
     void MakePanels();
     void ArrangePanels();
     void LimitSize();
+    QSize RoomySize() const;
     void Place(const BRect& frame);
 
     // Shows the parts again, now or as soon as the document can be read.
