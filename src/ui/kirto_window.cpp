@@ -280,7 +280,7 @@ bool KirtoWindow::QuitRequested() {
 }
 
 bool KirtoWindow::LoseChanges(uint32 command) {
-    if (!MayLoseChanges()) {
+    if (!HasUnsavedChanges()) {
         pending_command_ = 0;
         return true;
     }
@@ -294,7 +294,7 @@ bool KirtoWindow::LoseChanges(uint32 command) {
 }
 
 // Edits on their way to the application count as changes already.
-bool KirtoWindow::MayLoseChanges() {
+bool KirtoWindow::HasUnsavedChanges() {
     const bool modified = editor_.document.modified || editor_.document.edits_done != edits_posted_;
     const kirto::TryReaderScope reader(editor_.document);
     const bool has_frames =

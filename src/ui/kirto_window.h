@@ -82,7 +82,7 @@ class KirtoWindow : public QMainWindow, public BWindow {
     void ChooseCommand(uint32 command);
     // Sends the command of the field that is being edited; true when there was one.
     bool CommitEdit();
-    bool MayLoseChanges();
+    bool HasUnsavedChanges();
     void ApplyPreset();
     void SaveOrAsk();
     void ShowSavePanel();

@@ -42,15 +42,15 @@ PaletteView::PaletteView(const kirto::DocumentSnapshot& shown, const BMessenger&
     layout->AddField(transparent, transparent_index);
 }
 
-void PaletteView::EnableDither(bool greyscale) {
-    if (greyscale) dither->setChecked(false);
-    dither->setEnabled(!greyscale);
+void PaletteView::AllowDither(bool allow) {
+    if (!allow) dither->setChecked(false);
+    dither->setEnabled(allow);
 }
 
 void PaletteView::UpdateDisplay() {
     kirto::MarkPalette(*menu, shown_.palette_mode);
     dither->setChecked(shown_.dither);
-    EnableDither(shown_.palette_mode == kirto::kPaletteGreyscale);
+    AllowDither(shown_.palette_mode != kirto::kPaletteGreyscale);
     background_index->ShowText(QString::number(shown_.background_index));
     transparent->setChecked(shown_.use_transparent);
     transparent_index->setEnabled(shown_.use_transparent);
@@ -61,7 +61,7 @@ void PaletteView::ResetDisplay() {
     const Prefs& prefs = shown_.prefs;
     kirto::MarkPalette(*menu, prefs.palette_mapping);
     dither->setChecked(prefs.palette_dither);
-    EnableDither(prefs.palette_mapping == kirto::kPaletteGreyscale);
+    AllowDither(prefs.palette_mapping != kirto::kPaletteGreyscale);
     background_index->SetText(QString::number(prefs.palette_backgroundindex));
     transparent->setChecked(prefs.palette_usetransparent);
     transparent_index->setEnabled(prefs.palette_usetransparent);
