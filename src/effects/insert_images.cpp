@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <memory>
 #include <new>
+#include <string>
+#include <vector>
 
 #include "platform/alert.h"
 #include "platform/text.h"
@@ -26,29 +28,67 @@ std::unique_ptr<Frame> MakeFrame(AnimationDocument& document, const entry_ref& r
                                                            roster, document.pixel_budget));
 }
 
+// Tells the user of files that are no images: of the first ones each by itself, of all others
+// together at the end.
+class UnsupportedFiles {
+  public:
+    void Add(const std::string& name) {
+        if (told_ == kToldSingly) {
+            names_.push_back(name);
+            return;
+        }
+        Tell(name);
+        ++told_;
+    }
+
+    void TellTheRest() const {
+        if (names_.empty()) return;
+        if (names_.size() == 1) return Tell(names_.front());
+        std::string text = "These files can't be inserted because their types are unsupported:";
+        const size_t listed = std::min(names_.size(), kListed);
+        for (size_t i = 0; i < listed; ++i)
+            text += "\n" + names_[i];
+        if (names_.size() > listed) text += Format("\nand %zu more", names_.size() - listed);
+        Warn(text);
+    }
+
+  private:
+    static constexpr int kToldSingly = 3;
+    static constexpr size_t kListed = 20;  // what still fits a screen
+
+    static void Tell(const std::string& name) {
+        Warn("This file can't be inserted because this file type is unsupported: " + name);
+    }
+
+    int told_ = 0;
+    std::vector<std::string> names_;
+};
+
 }  // namespace
 
 void InsertImages(AnimationDocument& document, const BMessage& message, BTranslatorRoster& roster) {
     int32 position = PositionIn(document, message);
     const int32 count = message.CountItems("refs");
+    UnsupportedFiles unsupported;
     for (int32 i = 0; i < count && !document.StopRequested(); ++i) {
         document.PostStatus(Format("Status: loading frame %d of %d...", i + 1, count));
         entry_ref ref;
-        if (message.FindRef("refs", &ref, i) != B_OK) return;
+        if (message.FindRef("refs", &ref, i) != B_OK) break;
         position = std::clamp(position, 0, document.FrameCount());
         std::unique_ptr<Frame> frame = MakeFrame(document, ref, position, roster);
         if (!frame) {
+            unsupported.TellTheRest();
             WarnOutOfMemory();
             return;
         }
         if (frame->init_failed) {
-            Warn("This file can't be inserted because this file type is unsupported: " +
-                 ref.Leaf());
+            unsupported.Add(ref.Leaf());
             continue;
         }
         document.InsertFrameAsCurrent(frame.release());
         ++position;
     }
+    unsupported.TellTheRest();
 }
 
 }  // namespace kirto
