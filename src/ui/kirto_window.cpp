@@ -67,6 +67,7 @@ KirtoWindow::KirtoWindow(BRect frame, const char* title, const kirto::Editor& ed
     setObjectName("KirtoWindow");
     setWindowTitle(QString::fromUtf8(title));
     setAcceptDrops(true);
+    retry_timer_.setObjectName("Retry");
     retry_timer_.setSingleShot(true);
     retry_timer_.setInterval(kRetryMilliseconds);
     // By way of the port: what the user has put into a control is read first.

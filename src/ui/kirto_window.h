@@ -136,7 +136,7 @@ class KirtoWindow : public QMainWindow, public BWindow {
     std::shared_ptr<kirto::GuiPort> port_;
     kirto::DocumentSnapshot shown_;
     uint32 stale_parts_ = 0;  // to be shown as soon as the document can be read
-    QTimer retry_timer_;
+    QTimer retry_timer_{this};
     uint32 pending_command_ = 0;
     int32 edits_posted_ = 0;  // the serial number of the last edit
     uint32 preset_ = 0;       // the preset height to be set as soon as the frames can be read
