@@ -112,7 +112,7 @@ Kirto::Kirto(Prefs& settings, kirto::Desktop& desktop, BTranslatorRoster& roster
 Kirto::~Kirto() {
     Quit();
     Reset();
-    RemovePreview();
+    RemovePreviews();
 }
 
 // The stored rectangle, or the default size in the middle of the screen.

@@ -10,6 +10,7 @@
 #include <sys/xattr.h>
 #include <unistd.h>
 
+#include "support/ordinary_user.h"
 #include "support/test_support.h"
 
 namespace kirto::test {
@@ -65,23 +66,6 @@ class FileSizeLimit {
   private:
     rlimit previous_ = {};
     sighandler_t previous_handler_ = SIG_DFL;
-};
-
-// While alive, a privileged process has no more rights to files than anybody.
-class OrdinaryUser {
-  public:
-    OrdinaryUser() {
-        if (user_ == 0) changed_ = seteuid(65534) == 0;
-    }
-    ~OrdinaryUser() {
-        if (changed_ && seteuid(user_) != 0) std::abort();
-    }
-    OrdinaryUser(const OrdinaryUser&) = delete;
-    OrdinaryUser& operator=(const OrdinaryUser&) = delete;
-
-  private:
-    const uid_t user_ = geteuid();
-    bool changed_ = false;
 };
 
 // While alive, the process's file mode creation mask.
