@@ -24,8 +24,10 @@ constexpr size_t kMaxNameBytes = 255;
 constexpr int32 kOpenButton = 1;
 constexpr int32 kInsertButton = 2;
 
+// Empty, which no file can be made at, where there is no directory: a bare name would be a file of
+// the folder that the program happens to run in.
 std::string Join(const std::string& directory, const std::string& name) {
-    return (std::filesystem::path(directory) / name).string();
+    return directory.empty() ? "" : (std::filesystem::path(directory) / name).string();
 }
 
 // The translator's first format that is a file format; 0 without one.

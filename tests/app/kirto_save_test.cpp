@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <filesystem>
 #include <gtest/gtest.h>
 
@@ -121,6 +122,29 @@ TEST_F(KirtoSave, ForgetsANameThatCantBeCreated) {
     EXPECT_EQ(app_->file_name, "untitled");
     EXPECT_EQ(app_->file_directory, "");
     EXPECT_TRUE(app_->modified);
+}
+
+TEST_F(KirtoSave, AgainWithoutADirectoryWritesNothing) {
+    fs::create_directory(File("gone"));
+    Start();
+    Append({"one"});
+    Do(SaveTo(File("gone"), "out.gif"));
+    fs::remove_all(File("gone"));
+    app_->modified = true;
+    const fs::path before = fs::current_path();
+    fs::current_path(folder_.Path());
+
+    for (const uint32 format : {uint32{0}, uint32{FakeRoster::kRaw}, uint32{0}}) {
+        desktop_.fields.output_format = format;
+        Do(kSaveAgain);
+    }
+
+    fs::current_path(before);
+    Lines lines = TakeLines();
+    EXPECT_EQ(std::count(lines.begin(), lines.end(), WarningLine(kNotCreated)), 3);
+    EXPECT_TRUE(app_->modified);
+    EXPECT_EQ(app_->file_name, "untitled");
+    EXPECT_EQ(FolderContent(), Lines{});
 }
 
 TEST_F(KirtoSave, KeepsTheOldFileWhenTheNewOneCantBeWritten) {
