@@ -202,6 +202,8 @@ bool Kirto::WriteSequenceFile(const Frame& frame, const std::string& path, uint3
         kirto::Warn(kNotCreated);
         return false;
     }
+    // Once a sequence is enough.
+    if (frame.index == 0) file->RemoveLeftovers();
     const BMessage& settings = translator_settings[translator];
     if (roster_.Translate(*frame.bitmap, translator, format, settings, *file) != B_OK &&
         file->WriteStatus() == B_OK) {

@@ -301,6 +301,18 @@ TEST_F(KirtoSaveSequence, KeepsTheOldFileWhenTheNewOneCantBeWritten) {
     EXPECT_TRUE(app_->modified);
 }
 
+TEST_F(KirtoSaveSequence, RemovesWhatAKilledSaveHasLeft) {
+    Write(".kirto-0123456789abcdef", {1});
+    fs::last_write_time(File(".kirto-0123456789abcdef"),
+                        fs::file_time_type::clock::now() - std::chrono::hours(2));
+    Start();
+    Append({"one", "two"});
+
+    Do(SequenceTo("movie.raw"));
+
+    EXPECT_EQ(FolderContent(), (Lines{"movie0000.raw", "movie0001.raw"}));
+}
+
 TEST_F(KirtoSaveSequence, EndsBeforeTheNextFrameWhenAskedToStop) {
     Start();
     Append({"one"});
