@@ -81,9 +81,10 @@ void ShareOutPauses(AnimationDocument& document, FrameRange range) {
     document.pause_length_global /= unit;
 }
 
-void OfferSalvage(AnimationDocument& document) {
+void OfferSalvage(AnimationDocument& document, bool out_of_memory) {
     // The user broke it off and needs no telling.
     if (document.StopRequested()) return;
+    if (out_of_memory) WarnOutOfMemory();
     BAlert alert("", "The animation can't be opened because it was corrupted or unreadable.",
                  "Salvage", "OK");
     if (alert.Go() != kSalvageButton) document.Reset();
@@ -115,7 +116,7 @@ AnimationType ClassifyContent(BFile* file) {
 bool OpenGif(BFile* file, int32 position, AnimationDocument& document) {
     const GifLoad loader(file, position, document);
     if (loader.failed) {
-        OfferSalvage(document);
+        OfferSalvage(document, loader.out_of_memory);
         return false;
     }
     const WriterScope writer(document);
@@ -128,7 +129,7 @@ bool OpenGif(BFile* file, int32 position, AnimationDocument& document) {
 bool OpenFli(BFile* file, int32 position, AnimationDocument& document) {
     const FliLoad loader(file, position, document);
     if (loader.failed) {
-        OfferSalvage(document);
+        OfferSalvage(document, loader.out_of_memory);
         return false;
     }
     const WriterScope writer(document);

@@ -32,15 +32,18 @@ Frame::Frame(const char* path, std::string_view frame_name, int32 frame_index,
     : index(frame_index) {
     SetName(frame_name);
     BFile file(path, B_READ_ONLY);
-    if (roster.Translate(file, std::move(budget), &bitmap) < B_OK) {
+    const status_t status = roster.Translate(file, std::move(budget), &bitmap);
+    if (status < B_OK) {
         bitmap.reset();
         init_failed = true;
+        out_of_memory = status == B_NO_MEMORY;
         return;
     }
     width = bitmap->Bounds().PixelWidth();
     height = bitmap->Bounds().PixelHeight();
     palette = MakePalette(static_cast<const BBitmap*>(bitmap.get()));
     init_failed = palette == nullptr;
+    out_of_memory = init_failed;
 }
 
 void Frame::SetName(std::string_view frame_name) {

@@ -28,6 +28,7 @@ class Frame {
     bool local_palette = false;  // written with its own colour table
     bool use_pause = false;      // pause_length overrides the animation's
     bool init_failed = false;    // construction failed; only name, palette and bitmap are defined
+    bool out_of_memory = false;  // it failed because memory is short
     std::unique_ptr<Palette> palette;  // null only when init_failed
     Frame* next = nullptr;             // the document's link; not owned
 

@@ -76,7 +76,7 @@ void InsertImages(AnimationDocument& document, const BMessage& message, BTransla
         if (message.FindRef("refs", &ref, i) != B_OK) break;
         position = std::clamp(position, 0, document.FrameCount());
         std::unique_ptr<Frame> frame = MakeFrame(document, ref, position, roster);
-        if (!frame) {
+        if (!frame || frame->out_of_memory) {
             unsupported.TellTheRest();
             WarnOutOfMemory();
             return;

@@ -191,15 +191,22 @@ bool FliLoad::ReadFliFrameData(int32 index, int32 position) {
 }
 
 std::unique_ptr<Frame> FliLoad::NewFrame(int32 index, int32 position) {
-    if (kirto::AllocationShouldFail()) return nullptr;
     const int32 width = document_.global_width;
     const int32 height = document_.global_height;
-    std::unique_ptr<Frame> frame(
-        new (std::nothrow) Frame(kirto::Format("frame%04d", index), width, height, position));
-    if (!frame || frame->init_failed) return nullptr;
-    frame->bitmap =
-        std::make_shared<BBitmap>(BRect::OfSize(width, height), B_RGB32, document_.pixel_budget);
-    if (frame->bitmap->InitCheck() != B_OK) return nullptr;
+    std::unique_ptr<Frame> frame;
+    if (!kirto::AllocationShouldFail()) {
+        frame.reset(new (std::nothrow)
+                        Frame(kirto::Format("frame%04d", index), width, height, position));
+    }
+    out_of_memory = !frame || frame->init_failed;
+    if (out_of_memory) return nullptr;
+    const BRect bounds = BRect::OfSize(width, height);
+    frame->bitmap = std::make_shared<BBitmap>(bounds, B_RGB32, document_.pixel_budget);
+    if (frame->bitmap->InitCheck() != B_OK) {
+        // No memory of any size makes a picture of no pixels.
+        out_of_memory = bounds.IsValid();
+        return nullptr;
+    }
     input_.Allow(kFillsPerFrame * static_cast<int64>(frame->bitmap->BitsLength()));
     if (!input_.Spend(kFrameCost)) return nullptr;
     return frame;

@@ -219,7 +219,11 @@ bool GifLoad::ReadGifImageHeader(Frame* frame, int32 relative, int32 absolute) {
                              ? BRect::OfSize(document_.global_width, document_.global_height)
                              : BRect::OfSize(frame->width, frame->height);
     frame->bitmap = std::make_shared<BBitmap>(bounds, B_RGB32, document_.pixel_budget);
-    if (frame->bitmap->InitCheck() != B_OK) return false;
+    if (frame->bitmap->InitCheck() != B_OK) {
+        // No memory of any size makes a picture of no pixels.
+        out_of_memory = bounds.IsValid();
+        return false;
+    }
     return !full_frame_ || FrameDisposal(frame, relative, absolute);
 }
 
@@ -328,10 +332,11 @@ bool GifLoad::ReadCodeSize(Frame* frame, int32* min_code_size) {
     return true;
 }
 
-std::unique_ptr<Frame> GifLoad::NewFrame() const {
-    if (kirto::AllocationShouldFail()) return nullptr;
-    std::unique_ptr<Frame> frame(new (std::nothrow) Frame);
-    if (!frame || frame->init_failed) return nullptr;
+std::unique_ptr<Frame> GifLoad::NewFrame() {
+    std::unique_ptr<Frame> frame;
+    if (!kirto::AllocationShouldFail()) frame.reset(new (std::nothrow) Frame);
+    out_of_memory = !frame || frame->init_failed;
+    if (out_of_memory) return nullptr;
     frame->index = next_position_;
     frame->SetName(kirto::Format("frame%04d", next_position_));
     return frame;

@@ -11,7 +11,8 @@
 // docs/formats/gif.md.
 class GifLoad {
   public:
-    bool failed = false;  // decoding ended before the trailer
+    bool failed = false;         // decoding ended before the trailer
+    bool out_of_memory = false;  // it ended for lack of memory; the file may be sound
 
     // file: at its start, not owned. start: document position and number of the first frame.
     GifLoad(BFile* file, int32 start, AnimationDocument& document);
@@ -36,7 +37,7 @@ class GifLoad {
     bool ReadCodeSize(Frame* frame, int32* min_code_size);
     bool ReadColorTable(Palette* palette, int32 bits);
     bool SkipSubBlocks();
-    std::unique_ptr<Frame> NewFrame() const;
+    std::unique_ptr<Frame> NewFrame();
     rgb_color BackgroundColor() const;
 
     BFile* file_;

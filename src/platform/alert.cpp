@@ -20,7 +20,7 @@ void Warn(const std::string& text) {
 }
 
 void WarnOutOfMemory() {
-    Warn("Out of memory.");
+    Warn(kOutOfMemory);
 }
 
 }  // namespace kirto

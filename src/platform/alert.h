@@ -61,7 +61,9 @@ namespace kirto {
 // Shows a warning alert without a title and with the one button "OK".
 void Warn(const std::string& text);
 
-// Warn("Out of memory.").
+inline constexpr const char* kOutOfMemory = "Out of memory.";
+
+// Warn(kOutOfMemory).
 void WarnOutOfMemory();
 
 }  // namespace kirto

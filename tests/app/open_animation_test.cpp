@@ -11,6 +11,7 @@ namespace kirto::test {
 
 namespace {
 
+constexpr const char* kOutOfMemoryLine = "WARNING [] Out of memory. | OK";
 constexpr const char* kDamaged =
     "WARNING [] The animation can't be opened because it was corrupted or unreadable. | Salvage | "
     "OK";
@@ -295,6 +296,26 @@ TEST(OpenGif, ResetsTheDocumentWhenADamagedAnimationIsNotWanted) {
     EXPECT_EQ(document.global_palette->mode, kPaletteWebSafe);
 }
 
+TEST(OpenGif, NamesLackOfMemoryBeforeItAsks) {
+    DocumentFixture fixture;
+    const AlertRecorder alerts({kOk, kSalvage});
+    fixture.document.pixel_budget->SetLimit(PixelBudget::kFrameCost + 8);
+
+    EXPECT_FALSE(OpenGifBytes(GifWithPauses({10, 10}), fixture.document));
+
+    EXPECT_EQ(alerts.Lines(), (std::vector<std::string>{kOutOfMemoryLine, kDamaged}));
+    EXPECT_EQ(fixture.document.FrameCount(), 1);
+}
+
+TEST(OpenGif, DoesNotTakeAPictureOfNoPixelsForLackOfMemory) {
+    DocumentFixture fixture;
+    const AlertRecorder alerts({kOk});
+
+    EXPECT_FALSE(OpenGifBytes(GifBuilder(0, 1, kBlackAndWhite).Add({}), fixture.document));
+
+    EXPECT_EQ(alerts.Lines(), std::vector<std::string>{kDamaged});
+}
+
 TEST(OpenGif, SaysNothingAboutDamageWhenItWasToldToStop) {
     DocumentFixture fixture;
     const AlertRecorder alerts;
@@ -319,6 +340,21 @@ TEST(OpenFli, LoopsForEver) {
     EXPECT_GE(document.FrameCount(), 1);
     EXPECT_TRUE(document.use_loop);
     EXPECT_EQ(document.loop_count, 0);
+}
+
+TEST(OpenFli, NamesLackOfMemoryBeforeItAsks) {
+    DocumentFixture fixture;
+    const AlertRecorder alerts({kOk, kSalvage});
+    fixture.document.pixel_budget->SetLimit(PixelBudget::kFrameCost + 8);
+    FliBuilder fli(2, 1);
+    fli.Record().Color256({{0, {0x000000, 0xFF0000}}}).Copy({0, 1});
+    fli.Record().Copy({1, 0});
+    fli.Record().Copy({1, 0});
+
+    EXPECT_FALSE(OpenFliBytes(fli, fixture.document));
+
+    EXPECT_EQ(alerts.Lines(), (std::vector<std::string>{kOutOfMemoryLine, kDamaged}));
+    EXPECT_EQ(fixture.document.FrameCount(), 1);
 }
 
 TEST(OpenFli, AsksWhetherToKeepWhatIsBeforeTheDamage) {

@@ -317,12 +317,12 @@ TEST(InsertImages, SurvivesAFailureOfEachAllocation) {
 
 TEST(InsertImages, RefusesPicturesBeyondTheDocumentsPixelMemory) {
     InsertFixture fixture;
-    fixture.document.pixel_budget->SetLimit(8);
+    fixture.document.pixel_budget->SetLimit(PixelBudget::kFrameCost + 8);
 
     fixture.Insert(fixture.Files({"one.raw", "two.raw"}));
 
     EXPECT_EQ(fixture.Names(), Lines{"[one.raw]"});
-    EXPECT_EQ(fixture.alerts.Lines(), Lines{Unsupported("two.raw")});
+    EXPECT_EQ(fixture.alerts.Lines(), Lines{kOutOfMemory});
 }
 
 TEST(InsertImages, EndsBeforeTheNextFileWhenAskedToStop) {
