@@ -81,12 +81,15 @@ void ShareOutPauses(AnimationDocument& document, FrameRange range) {
     document.pause_length_global /= unit;
 }
 
-void OfferSalvage(AnimationDocument& document, bool out_of_memory) {
+// inserted: frames that the load has added.
+void OfferSalvage(AnimationDocument& document, int32 inserted, bool out_of_memory) {
     // The user broke it off and needs no telling.
     if (document.StopRequested()) return;
     if (out_of_memory) WarnOutOfMemory();
     BAlert alert("", "The animation can't be opened because it was corrupted or unreadable.",
                  "Salvage", "OK");
+    // Where there were frames before, "OK" loses more than the file that is damaged.
+    if (document.FrameCount() > inserted) alert.SetDefaultButton(kSalvageButton);
     if (alert.Go() != kSalvageButton) document.Reset();
 }
 
@@ -116,7 +119,7 @@ AnimationType ClassifyContent(BFile* file) {
 bool OpenGif(BFile* file, int32 position, AnimationDocument& document) {
     const GifLoad loader(file, position, document);
     if (loader.failed) {
-        OfferSalvage(document, loader.out_of_memory);
+        OfferSalvage(document, loader.End() - position, loader.out_of_memory);
         return false;
     }
     const WriterScope writer(document);
@@ -129,7 +132,7 @@ bool OpenGif(BFile* file, int32 position, AnimationDocument& document) {
 bool OpenFli(BFile* file, int32 position, AnimationDocument& document) {
     const FliLoad loader(file, position, document);
     if (loader.failed) {
-        OfferSalvage(document, loader.out_of_memory);
+        OfferSalvage(document, loader.End() - position, loader.out_of_memory);
         return false;
     }
     const WriterScope writer(document);

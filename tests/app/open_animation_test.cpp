@@ -46,6 +46,16 @@ bool OpenFliBytes(const std::vector<uint8>& bytes, AnimationDocument& document,
     return OpenFli(BFile::OnMemory(bytes).get(), position, document);
 }
 
+// Answers every alert as Enter does.
+class DefaultButtonPresser : public AlertPresenter {
+  public:
+    ~DefaultButtonPresser() override { InstallAlertPresenter(previous_); }
+    int32 Present(const BAlert& alert) override { return alert.DefaultButton(); }
+
+  private:
+    AlertPresenter* previous_ = InstallAlertPresenter(this);
+};
+
 std::string Pause(bool used, double length) {
     return Format("%s%g", used ? "" : "off ", length);
 }
@@ -294,6 +304,19 @@ TEST(OpenGif, ResetsTheDocumentWhenADamagedAnimationIsNotWanted) {
     EXPECT_EQ(document.FrameCount(), 0);
     EXPECT_EQ(document.global_width, 320);
     EXPECT_EQ(document.global_palette->mode, kPaletteWebSafe);
+}
+
+TEST(OpenGif, ProposesToSalvageWhereOtherFramesWouldBeLost) {
+    for (const bool others : {true, false}) {
+        DocumentFixture fixture;
+        if (others) AppendFrame(fixture.document, PictureOf(1, 1, {0}), "old");
+        DefaultButtonPresser user;
+        GifBuilder gif(1, 1, kBlackAndWhite);
+
+        EXPECT_FALSE(OpenGifBytes(gif.Add(Pixel()), fixture.document, others ? 1 : 0));
+
+        EXPECT_EQ(fixture.document.FrameCount(), others ? 2 : 0);
+    }
 }
 
 TEST(OpenGif, NamesLackOfMemoryBeforeItAsks) {
