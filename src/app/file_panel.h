@@ -24,6 +24,8 @@ class FilePanel {
     virtual bool ColumnByColumn() const { return false; }
 
     virtual void SetTitle(const std::string&) {}
+    // The folder that the panel shows next; nothing happens where there is none.
+    virtual void SetDirectory(const std::string&) {}
     // The save panel's field for the file's name.
     virtual void SetSaveText(const std::string&) {}
     // Shows the panel, or brings it to the front. Returns at once.

@@ -1,13 +1,12 @@
 #include "app/kirto.h"
 
-#include <charconv>
-
 #include "app/document_edits.h"
 #include "document/command_codes.h"
 #include "effects/fade.h"
 #include "effects/insert_images.h"
 #include "effects/insert_tiles.h"
 #include "platform/alert.h"
+#include "platform/number.h"
 
 // One row of the command table: what a command does, and the refresh posted after it (0: none).
 struct Kirto::Command {
@@ -67,13 +66,6 @@ const Kirto::Command* Kirto::CommandFor(uint32 code) {
 
 namespace {
 
-// The number at the start of the text; 0 without one.
-int32 LeadingNumber(const std::string& text) {
-    int32 number = 0;
-    std::from_chars(text.data(), text.data() + text.size(), number);
-    return number;
-}
-
 kirto::FadeMode FadeModeOf(uint32 code) {
     switch (code) {
         case kirto::kFadeToColor:
@@ -112,7 +104,7 @@ Kirto::Kirto(Prefs& settings, kirto::Desktop& desktop, BTranslatorRoster& roster
 Kirto::~Kirto() {
     Quit();
     Reset();
-    RemovePreview();
+    RemovePreviews();
 }
 
 // The stored rectangle, or the default size in the middle of the screen.
@@ -192,8 +184,8 @@ void Kirto::InsertFrame(BMessage* message) {
 void Kirto::InsertTiledFrame(BMessage* message) {
     const kirto::FilePanel* panel = GetInsertTiledFilePanel();
     kirto::TileGrid grid;
-    grid.rows = LeadingNumber(panel->RowsText());
-    grid.columns = LeadingNumber(panel->ColumnsText());
+    grid.rows = kirto::LeadingInteger(panel->RowsText());
+    grid.columns = kirto::LeadingInteger(panel->ColumnsText());
     grid.column_by_column = panel->ColumnByColumn();
     entry_ref ref;
     const bool has_ref = message->FindRef("refs", &ref) == B_OK;

@@ -4,12 +4,14 @@
 #include <map>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <string>
 
 #include "app/desktop.h"
 #include "app/file_panel.h"
 #include "document/animation_document.h"
 #include "framework/ie_application.h"
+#include "platform/file_stamp.h"
 #include "platform/translator_roster.h"
 
 // The application object, and at the same time the one open document. It is driven by messages:
@@ -24,7 +26,7 @@ class Kirto : public IEApplication, public AnimationDocument, public kirto::File
     // started by the caller (Run() or Loop()). resource_file: as for IEApplication.
     Kirto(Prefs& settings, kirto::Desktop& desktop, BTranslatorRoster& roster,
           const entry_ref& resource_file = {});
-    // Ends the loop, deletes all frames and removes the preview file.
+    // Ends the loop, deletes all frames and removes the preview files that it wrote.
     ~Kirto() override;
 
     bool open_panel_delivered = false;  // the open panel's next cancel notice is no real cancel
@@ -84,11 +86,13 @@ class Kirto : public IEApplication, public AnimationDocument, public kirto::File
     bool SaveGif();
     bool WriteSequenceFile(const Frame& frame, const std::string& path, uint32 translator,
                            uint32 format);
-    void RemovePreview();
+    void RemovePreviews();
 
     kirto::Desktop& desktop_;
     BTranslatorRoster& roster_;
     std::mutex panels_mutex_;
     std::map<kirto::FilePanelKind, std::unique_ptr<kirto::FilePanel>> panels_;  // guarded by it
     int32 fade_name_base_ = 0;
+    // The preview files that were written, as they were then, by path.
+    std::map<std::string, std::optional<kirto::FileStamp>> previews_;
 };

@@ -1,7 +1,6 @@
 // Moving whole animations between the document and files.
 #include <algorithm>
 #include <filesystem>
-#include <unistd.h>
 
 #include "app/kirto.h"
 #include "app/open_animation.h"
@@ -9,13 +8,11 @@
 #include "document/command_codes.h"
 #include "platform/alert.h"
 #include "platform/debug_line.h"
-#include "platform/directories.h"
 #include "platform/text.h"
 
 namespace {
 
 constexpr uint32 kAnimatedGif = 0xFFFFFFFF;
-constexpr const char* kPreviewName = "kirtotemp.gif";
 constexpr const char* kNotCreated =
     "The animation can't be saved because the file could not be created at this location.";
 constexpr const char* kInvalidTranslator =
@@ -24,13 +21,10 @@ constexpr const char* kInvalidTranslator =
 constexpr int32 kOpenButton = 1;
 constexpr int32 kInsertButton = 2;
 
+// Empty, which no file can be made at, where there is no directory: a bare name would be a file of
+// the folder that the program happens to run in.
 std::string Join(const std::string& directory, const std::string& name) {
-    return (std::filesystem::path(directory) / name).string();
-}
-
-bool IsDirectory(const std::string& path) {
-    std::error_code error;
-    return std::filesystem::is_directory(path, error);
+    return directory.empty() ? "" : (std::filesystem::path(directory) / name).string();
 }
 
 // The translator's first format that is a file format; 0 without one.
@@ -204,6 +198,8 @@ bool Kirto::WriteSequenceFile(const Frame& frame, const std::string& path, uint3
         kirto::Warn(kNotCreated);
         return false;
     }
+    // Once a sequence is enough.
+    if (&frame == FirstFrame().get()) file->RemoveLeftovers();
     const BMessage& settings = translator_settings[translator];
     if (roster_.Translate(*frame.bitmap, translator, format, settings, *file) != B_OK &&
         file->WriteStatus() == B_OK) {
@@ -215,32 +211,4 @@ bool Kirto::WriteSequenceFile(const Frame& frame, const std::string& path, uint3
         return false;
     }
     return true;
-}
-
-void Kirto::Preview() {
-    if (Current()->FrameLargerThanCanvas()) {
-        kirto::Warn(
-            "The animation can't be previewed because one of the frames has a larger size than the "
-            "animation.");
-        return;
-    }
-    UpdateGlobalPalette();
-    if (!IsDirectory(prefs.misc_tempfilelocation)) {
-        prefs.misc_tempfilelocation = kirto::HomeDirectory();
-    }
-    const std::string path = Join(prefs.misc_tempfilelocation, kPreviewName);
-    const kirto::SaveResult result = kirto::SavePreviewGif(*this, path);
-    if (result == kirto::SaveResult::kStopped) return;
-    if (result != kirto::SaveResult::kSaved) {
-        kirto::Warn(
-            "The animation can't be previewed because a temporary file could not be created.");
-        return;
-    }
-    desktop_.OpenInBrowser(path);
-}
-
-void Kirto::RemovePreview() {
-    if (!IsDirectory(prefs.misc_tempfilelocation)) return;
-    // A folder of this name is none of ours.
-    unlink(Join(prefs.misc_tempfilelocation, kPreviewName).c_str());
 }

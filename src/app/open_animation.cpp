@@ -77,11 +77,15 @@ void ShareOutPauses(Animation& animation, FrameRange range, bool in_seconds) {
     animation.pause_length /= unit;
 }
 
-void OfferSalvage(AnimationDocument& document) {
+// inserted: frames that the load has added.
+void OfferSalvage(AnimationDocument& document, int32 inserted, bool out_of_memory) {
     // The user broke it off and needs no telling.
     if (document.StopRequested()) return;
+    if (out_of_memory) WarnOutOfMemory();
     BAlert alert("", "The animation can't be opened because it was corrupted or unreadable.",
                  "Salvage", "OK");
+    // Where there were frames before, "OK" loses more than the file that is damaged.
+    if (document.FrameCount() > inserted) alert.SetDefaultButton(kSalvageButton);
     if (alert.Go() != kSalvageButton) document.Reset();
 }
 
@@ -111,7 +115,7 @@ AnimationType ClassifyContent(BFile* file) {
 bool OpenGif(BFile* file, int32 position, AnimationDocument& document) {
     const GifLoad loader(file, position, document);
     if (loader.failed) {
-        OfferSalvage(document);
+        OfferSalvage(document, loader.End() - position, loader.out_of_memory);
         return false;
     }
     const FrameRange range{position, loader.End()};
@@ -125,7 +129,7 @@ bool OpenGif(BFile* file, int32 position, AnimationDocument& document) {
 bool OpenFli(BFile* file, int32 position, AnimationDocument& document) {
     const FliLoad loader(file, position, document);
     if (loader.failed) {
-        OfferSalvage(document);
+        OfferSalvage(document, loader.End() - position, loader.out_of_memory);
         return false;
     }
     document.Change([](Animation& animation) {

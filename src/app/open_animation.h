@@ -16,10 +16,11 @@ AnimationType ClassifyAnimation(const std::string& leaf_name, const std::string&
 // By the file's first bytes alone. The position goes back to the start.
 AnimationType ClassifyContent(BFile* file);
 
-// Decodes the file into the document from the position on. On failure the user is asked whether to
-// keep what was decoded ("Salvage") or not ("OK", which resets the document); the result is false
-// either way. After a GIF, palettes are recognised and pauses are shared out between the animation
-// and its frames; a FLI animation loops for ever.
+// Decodes the file into the document from the position on. On failure the user is told when memory
+// was too short, and is asked whether to keep what was decoded ("Salvage", the default where the
+// document had other frames before) or not ("OK", which resets the document); the result is false
+// either way. After a GIF, palettes are recognised and
+// pauses are shared out between the animation and its frames; a FLI animation loops for ever.
 bool OpenGif(BFile* file, int32 position, AnimationDocument& document);
 bool OpenFli(BFile* file, int32 position, AnimationDocument& document);
 

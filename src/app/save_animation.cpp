@@ -13,6 +13,7 @@ namespace {
 
 SaveResult Encode(AnimationDocument& document, const std::shared_ptr<BFile>& file) {
     if (file->InitCheck() != B_OK) return SaveResult::kFileNotCreated;
+    file->RemoveLeftovers();
     GifSave(file, document);
     if (document.StopRequested()) return SaveResult::kStopped;
     return file->Commit() == B_OK ? SaveResult::kSaved : SaveResult::kWriteFailed;

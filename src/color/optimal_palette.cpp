@@ -1,8 +1,10 @@
 // The part of Palette that counts the colours of a picture and keeps the most frequent ones.
 #include <algorithm>
+#include <array>
 #include <new>
-#include <span>
 
+#include "color/color_values.h"
+#include "color/commonest_colors.h"
 #include "color/palette.h"
 #include "platform/alert.h"
 #include "platform/allocation.h"
@@ -32,28 +34,49 @@ std::optional<std::vector<rgb_color>> TryMakeColors(size_t count) {
     }
 }
 
-// The colour's item, added with a count of 0 where it is new; null when memory is short.
-ColorItem* FindOrAdd(SFHash& table, uint32 key) {
-    if (HashItem* known = table.GetItem(key)) return static_cast<ColorItem*>(known);
-    ColorItem* item = TryMake<ColorItem>(key, 0U).release();
-    if (item) table.AddItem(item);
-    return item;
-}
-
-// Adds every pixel of a 32-bit picture to the count of its colour. False when memory is short.
-bool CountPixels(const BBitmap& picture, SFHash& table) {
+// Adds every pixel of a 32-bit picture to the value of its color. False when memory is short.
+bool CountPixels(const BBitmap& picture, kirto::ColorValues& counts) {
     const bool big_endian = kirto::IsBigEndian(picture.ColorSpace());
     const uint8* pixel = picture.Bits();
-    ColorItem* item = nullptr;
+    kirto::ColorValues::Item* item = nullptr;
     for (size_t left = picture.BitsLength() / 4; left > 0; --left, pixel += 4) {
         const uint32 key = big_endian ? ColorKey(pixel[1], pixel[2], pixel[3])
                                       : ColorKey(pixel[2], pixel[1], pixel[0]);
         // Neighbours are often equal: only the first of a run is looked up.
-        if (!item || item->key != key) item = FindOrAdd(table, key);
+        if (!item || item->key != key) item = counts.FindOrAdd(key);
         if (!item) return false;
         ++item->value;
     }
     return true;
+}
+
+// Each color of the picture with its number of pixels. Nothing on failure: out of memory, which the
+// user is told, no picture or one that is not 32-bit.
+std::optional<kirto::ColorValues> CountColors(const BBitmap* picture) {
+    if (!picture) return std::nullopt;
+    kirto::ColorValues counts;
+    const bool is_32_bit = kirto::Is32Bit(picture->ColorSpace());
+    if (!counts.Ready() || (is_32_bit && !CountPixels(*picture, counts))) {
+        kirto::WarnOutOfMemory();
+        return std::nullopt;
+    }
+    if (!is_32_bit) {
+        kirto::DebugLine("Palette::BuildHashtable() - Wrong color space given\n");
+        return std::nullopt;
+    }
+    return counts;
+}
+
+// The colors as items of a hash table; null when memory is short.
+std::unique_ptr<SFHash> TableOf(const kirto::ColorValues& counts) {
+    auto table = TryMake<SFHash>(kColorBuckets);
+    if (!table || table->fail) return nullptr;
+    for (const kirto::ColorValues::Item& color : counts.Items()) {
+        std::unique_ptr<ColorItem> item = TryMake<ColorItem>(color.key, color.value);
+        if (!item) return nullptr;
+        table->AddItem(item.release());
+    }
+    return table;
 }
 
 // The smallest index width that holds so many colours, 8 at most.
@@ -62,17 +85,6 @@ int32 BitsFor(int32 color_count) {
     while (bits < 8 && (1 << bits) < color_count)
         ++bits;
     return bits;
-}
-
-// Slots are sorted by falling count. The item goes behind its equals, and what is pushed past the
-// last slot is dropped.
-void InsertByCount(std::span<const ColorItem*> slots, const ColorItem* item) {
-    if (item->value <= slots.back()->value) return;
-    const auto place = std::upper_bound(
-        slots.begin(), slots.end(), item,
-        [](const ColorItem* a, const ColorItem* b) { return a->value > b->value; });
-    std::move_backward(place, slots.end() - 1, slots.end());
-    *place = item;
 }
 
 rgb_color ColorOfKey(uint32 key) {
@@ -93,53 +105,40 @@ void Palette::Set(const BBitmap* picture) {
 }
 
 std::optional<std::vector<rgb_color>> Palette::MakeNearestColorPalette(const BBitmap* picture) {
-    const std::unique_ptr<SFHash> table = BuildHashtable(picture);
-    if (!table) return std::nullopt;
-    unique_colors = table->CountItems();
+    const std::optional<kirto::ColorValues> counts = CountColors(picture);
+    if (!counts) return std::nullopt;
+    unique_colors = static_cast<int32>(counts->Items().size());
     bits = BitsFor(unique_colors);
     size = 1 << bits;
 
     const size_t count = static_cast<size_t>(size);
-    const auto slots = kirto::AllocateArray<const ColorItem*>(count);
+    kirto::CommonestColors commonest(count);
     auto result = TryMakeColors(count);
-    if (!slots || !result) {
+    if (!commonest.Ready() || !result) {
         kirto::WarnOutOfMemory();
         return std::nullopt;
     }
-    // Stands in the slots that no colour takes; any colour's count is greater.
-    const ColorItem sentinel(0, 0);
-    const std::span<const ColorItem*> commonest(slots.get(), count);
-    std::fill(commonest.begin(), commonest.end(), &sentinel);
-    table->Rewind();
-    while (const HashItem* item = table->NextItem()) {
-        InsertByCount(commonest, static_cast<const ColorItem*>(item));
-    }
-    std::transform(commonest.begin(), commonest.end(), result->begin(),
-                   [](const ColorItem* item) { return ColorOfKey(item->key); });
+    for (const kirto::ColorValues::Item& color : counts->Items())
+        commonest.Add(color);
+    std::array<uint32, 256> keys;
+    const size_t used = commonest.Keys(keys.data());
+    const auto rest =
+        std::transform(keys.begin(), keys.begin() + used, result->begin(), ColorOfKey);
+    std::fill(rest, result->end(), ColorOfKey(0));
     return result;
 }
 
 std::unique_ptr<SFHash> Palette::BuildHashtable(const BBitmap* picture) const {
-    if (!picture) return nullptr;
-    auto table = TryMake<SFHash>(kColorBuckets);
-    if (!table || table->fail) {
-        kirto::WarnOutOfMemory();
-        return nullptr;
-    }
-    if (!kirto::Is32Bit(picture->ColorSpace())) {
-        kirto::DebugLine("Palette::BuildHashtable() - Wrong color space given\n");
-        return nullptr;
-    }
-    if (!CountPixels(*picture, *table)) {
-        kirto::WarnOutOfMemory();
-        return nullptr;
-    }
+    const std::optional<kirto::ColorValues> counts = CountColors(picture);
+    if (!counts) return nullptr;
+    std::unique_ptr<SFHash> table = TableOf(*counts);
+    if (!table) kirto::WarnOutOfMemory();
     return table;
 }
 
 int32 Palette::CountUniqueColors(const BBitmap* picture) const {
-    const std::unique_ptr<SFHash> table = BuildHashtable(picture);
-    return table ? table->CountItems() : 0;
+    const std::optional<kirto::ColorValues> counts = CountColors(picture);
+    return counts ? static_cast<int32>(counts->Items().size()) : 0;
 }
 
 void Palette::UpdateIfNeeded(const BBitmap* first_frame, const BBitmap* current_frame) {

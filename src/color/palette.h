@@ -75,8 +75,8 @@ class Palette {
     // there are fewer); sets unique_colors, bits and size. Nothing on failure: out of memory (the
     // user is told) or a picture that is not 32-bit.
     std::optional<std::vector<rgb_color>> MakeNearestColorPalette(const BBitmap* picture);
-    // Each colour of the picture with its number of pixels, in 65,536 buckets; null on failure, as
-    // above.
+    // Each colour of the picture with its number of pixels, in 65,536 buckets, for who wants to
+    // walk them; null on failure, as above.
     std::unique_ptr<SFHash> BuildHashtable(const BBitmap* picture) const;
     // Distinct colours in the picture; 0 on failure.
     int32 CountUniqueColors(const BBitmap* picture) const;

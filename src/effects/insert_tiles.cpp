@@ -19,7 +19,12 @@ std::shared_ptr<BBitmap> ReadPicture(AnimationDocument& document, const entry_re
                                      BTranslatorRoster& roster) {
     BFile file(ref.path, B_READ_ONLY);
     std::shared_ptr<BBitmap> picture;
-    if (roster.Translate(file, document.pixel_budget, &picture) != B_OK) {
+    const status_t status = roster.Translate(file, document.pixel_budget, &picture);
+    if (status == B_NO_MEMORY) {
+        WarnOutOfMemory();
+        return nullptr;
+    }
+    if (status != B_OK) {
         Warn("This file can't be inserted because this file type is unsupported: " + ref.Leaf());
         return nullptr;
     }

@@ -182,9 +182,13 @@ bool FliLoad::ReadFliFrameData(int32 index) {
 bool FliLoad::StartFrame(int32 index) {
     frame_ = Frame(kirto::Format("frame%04d", index), width_, height_);
     local_palette_ = Palette();
-    picture_ = std::make_shared<BBitmap>(BRect::OfSize(width_, height_), B_RGB32,
-                                         document_.pixel_budget);
-    if (picture_->InitCheck() != B_OK) return false;
+    const BRect bounds = BRect::OfSize(width_, height_);
+    picture_ = std::make_shared<BBitmap>(bounds, B_RGB32, document_.pixel_budget);
+    if (picture_->InitCheck() != B_OK) {
+        // No memory of any size makes a picture of no pixels.
+        out_of_memory = bounds.IsValid();
+        return false;
+    }
     input_.Allow(kFillsPerFrame * static_cast<int64>(picture_->BitsLength()));
     return input_.Spend(kFrameCost);
 }
@@ -259,7 +263,8 @@ bool FliLoad::FinishFrame() {
     }
     frame_.palette = kirto::SharePalette(local_palette_);
     frame_.bitmap = std::move(picture_);
-    return frame_.palette && document_.InsertFrame(position_, std::move(frame_));
+    out_of_memory = !frame_.palette;
+    return !out_of_memory && document_.InsertFrame(position_, std::move(frame_));
 }
 
 // The document's first frame defines the global palette, any other frame one of its own. Pixels

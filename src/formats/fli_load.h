@@ -15,7 +15,8 @@
 // is described in docs/formats/fli.md.
 class FliLoad {
   public:
-    bool failed = false;  // decoding ended before the last frame
+    bool failed = false;         // decoding ended before the last frame
+    bool out_of_memory = false;  // it ended for lack of memory; the file may be sound
 
     // file: at its start, not owned. start: document position of the first frame.
     FliLoad(BFile* file, int32 start, AnimationDocument& document);

@@ -123,7 +123,8 @@ bool GifLoad::FinishFrame() {
     }
     frame_.palette = kirto::SharePalette(local_palette_);
     frame_.bitmap = std::move(picture_);
-    if (!frame_.palette) {
+    out_of_memory = !frame_.palette;
+    if (out_of_memory) {
         kirto::DebugLine("GifLoad::GifLoad() - Out of memory\n");
         return false;
     }
@@ -231,7 +232,11 @@ bool GifLoad::ReadGifImageHeader() {
     const BRect bounds = full_frame_ ? BRect::OfSize(width_, height_)
                                      : BRect::OfSize(frame_.width, frame_.height);
     picture_ = std::make_shared<BBitmap>(bounds, B_RGB32, document_.pixel_budget);
-    if (picture_->InitCheck() != B_OK) return false;
+    if (picture_->InitCheck() != B_OK) {
+        // No memory of any size makes a picture of no pixels.
+        out_of_memory = bounds.IsValid();
+        return false;
+    }
     return !full_frame_ || FrameDisposal();
 }
 

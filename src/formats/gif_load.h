@@ -11,7 +11,8 @@
 // docs/formats/gif.md.
 class GifLoad {
   public:
-    bool failed = false;  // decoding ended before the trailer
+    bool failed = false;         // decoding ended before the trailer
+    bool out_of_memory = false;  // it ended for lack of memory; the file may be sound
 
     // file: at its start, not owned. start: document position and number of the first frame.
     GifLoad(BFile* file, int32 start, AnimationDocument& document);

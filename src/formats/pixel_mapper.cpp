@@ -1,14 +1,6 @@
 #include "formats/pixel_mapper.h"
 
-#include <new>
-
 namespace kirto {
-
-namespace {
-
-constexpr int32 kCacheBuckets = 65536;
-
-}  // namespace
 
 rgb_color PixelColor(const BBitmap* bitmap, int32 x, int32 y) {
     if (!bitmap || !Is32Bit(bitmap->ColorSpace())) return {};
@@ -19,16 +11,13 @@ rgb_color PixelColor(const BBitmap* bitmap, int32 x, int32 y) {
 }
 
 PixelMapper::PixelMapper(uint8 transparent_index, bool dither, int32 max_width)
-    : transparent_index_(transparent_index),
-      dither_(dither),
-      cache_(kCacheBuckets),
-      diffusion_(dither ? max_width : 0) {}
+    : transparent_index_(transparent_index), dither_(dither), diffusion_(dither ? max_width : 0) {}
 
 void PixelMapper::StartPicture(const Palette& palette, bool unconnected_rows) {
     palette_ = &palette;
     diffusing_ = dither_ && diffusion_.Ready() && palette.mode != kPaletteGreyscale;
     unconnected_rows_ = unconnected_rows;
-    if (!cache_.fail) cache_.Reset();
+    if (!cache_.Items().empty()) cache_ = ColorValues();
     if (diffusing_) diffusion_.StartPicture();
 }
 
@@ -58,17 +47,12 @@ uint8 PixelMapper::MapPixel(rgb_color color, int32 x) {
 
 uint8 PixelMapper::CachedIndex(uint8 red, uint8 green, uint8 blue) {
     // Corrected colours hardly ever repeat, so keeping them would cost more than it saves.
-    if (cache_.fail || diffusing_) return palette_->IndexForColor(red, green, blue);
-    const uint32 key = ColorKey(red, green, blue);
-    if (const HashItem* item = cache_.GetItem(key)) {
-        return static_cast<uint8>(static_cast<const ColorItem*>(item)->value);
-    }
-    const uint8 index = palette_->IndexForColor(red, green, blue);
+    if (diffusing_) return palette_->IndexForColor(red, green, blue);
+    ColorValues::Item* known = cache_.FindOrAdd(ColorKey(red, green, blue));
     // Without memory for the cache the colour is looked up again next time.
-    if (!AllocationShouldFail()) {
-        if (HashItem* item = new (std::nothrow) ColorItem(key, index)) cache_.AddItem(item);
-    }
-    return index;
+    if (!known) return palette_->IndexForColor(red, green, blue);
+    if (known->value == 0) known->value = palette_->IndexForColor(red, green, blue) + 1U;
+    return static_cast<uint8>(known->value - 1);
 }
 
 }  // namespace kirto

@@ -3,8 +3,8 @@
 #include <memory>
 #include <vector>
 
+#include "color/color_values.h"
 #include "color/palette.h"
-#include "color/sf_hash.h"
 #include "formats/error_diffusion.h"
 #include "platform/bitmap.h"
 #include "platform/types.h"
@@ -37,7 +37,7 @@ class PixelMapper {
     const Palette* palette_ = nullptr;
     bool diffusing_ = false;
     bool unconnected_rows_ = false;
-    SFHash cache_;
+    ColorValues cache_;  // of the current picture: index plus 1; 0 is not looked up yet
     ErrorDiffusion diffusion_;
 };
 

@@ -20,18 +20,19 @@ void Warn(const std::string& text) {
 }
 
 void WarnOutOfMemory() {
-    Warn("Out of memory.");
+    Warn(kOutOfMemory);
 }
 
 }  // namespace kirto
 
 BAlert::BAlert(std::string title, std::string text, std::string button0, std::string button1,
                std::string button2, alert_type type)
-    : title_(std::move(title)), text_(std::move(text)), type_(type) {
+    : title_(std::move(title)), text_(std::move(text)), type_(type), default_button_(0) {
     buttons_.push_back(std::move(button0));
     for (std::string* button : {&button1, &button2}) {
         if (!button->empty()) buttons_.push_back(std::move(*button));
     }
+    default_button_ = static_cast<int32>(buttons_.size()) - 1;
 }
 
 int32 BAlert::Go() {

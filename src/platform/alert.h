@@ -41,6 +41,10 @@ class BAlert {
     BAlert(std::string title, std::string text, std::string button0, std::string button1 = {},
            std::string button2 = {}, alert_type type = B_WARNING_ALERT);
 
+    // The button that Enter chooses, by its index; the last one unless this is called.
+    void SetDefaultButton(int32 button) { default_button_ = button; }
+    int32 DefaultButton() const { return default_button_; }
+
     // Shows the alert through the installed presenter and returns the chosen button's index.
     int32 Go();
 
@@ -54,6 +58,7 @@ class BAlert {
     std::string text_;
     std::vector<std::string> buttons_;
     alert_type type_;
+    int32 default_button_;
 };
 
 namespace kirto {
@@ -61,7 +66,9 @@ namespace kirto {
 // Shows a warning alert without a title and with the one button "OK".
 void Warn(const std::string& text);
 
-// Warn("Out of memory.").
+inline constexpr const char* kOutOfMemory = "Out of memory.";
+
+// Warn(kOutOfMemory).
 void WarnOutOfMemory();
 
 }  // namespace kirto

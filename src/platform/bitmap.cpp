@@ -40,17 +40,17 @@ BBitmap::BBitmap(BRect bounds, color_space space, std::shared_ptr<kirto::PixelBu
     if (bytes_per_row_ == 0 || bytes_per_row_ > INT32_MAX || height_ == 0) return;
     // Both factors are below 2^31.
     const size_t bytes = bytes_per_row_ * static_cast<size_t>(height_);
-    if (budget_ && !budget_->Reserve(bytes)) return;
+    if (budget_ && !budget_->Reserve(bytes + kirto::PixelBudget::kFrameCost)) return;
     bits_ = kirto::AllocateArray<uint8>(bytes);
     if (bits_) {
         bytes_ = bytes;
     } else if (budget_) {
-        budget_->Release(bytes);
+        budget_->Release(bytes + kirto::PixelBudget::kFrameCost);
     }
 }
 
 BBitmap::~BBitmap() {
-    if (budget_ && bits_) budget_->Release(bytes_);
+    if (budget_ && bits_) budget_->Release(bytes_ + kirto::PixelBudget::kFrameCost);
 }
 
 namespace kirto {

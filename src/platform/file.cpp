@@ -8,12 +8,11 @@
 #include <filesystem>
 #include <limits>
 #include <new>
-#include <sys/random.h>
 #include <sys/stat.h>
 #include <sys/xattr.h>
 #include <unistd.h>
 
-#include "platform/text.h"
+#include "platform/temporary_files.h"
 
 namespace {
 
@@ -22,7 +21,6 @@ constexpr int64 kMaxPosition = std::numeric_limits<int64>::max();
 // Bytes in memory end here; more can only be a mistake.
 constexpr int64 kMaxMemory = int64{1} << 31;
 constexpr int kMaxLinks = 40;
-constexpr int kMaxNameAttempts = 100;
 
 status_t StatusFromErrno(int error) {
     switch (error) {
@@ -86,45 +84,6 @@ status_t CheckTarget(int directory, const std::string& name, struct stat* info) 
     // A target that its owner made read-only is not replaced behind the owner's back.
     const bool writable = faccessat(directory, name.c_str(), W_OK, AT_EACCESS) == 0;
     return writable ? B_OK : StatusFromErrno(errno);
-}
-
-// Calls action with free-looking names until it does not fail for a taken one; its last result.
-template <typename Action>
-int WithUniqueName(std::string* name, Action action) {
-    for (int attempt = 0; attempt < kMaxNameAttempts; ++attempt) {
-        unsigned long long number = 0;
-        if (getrandom(&number, sizeof(number), 0) != sizeof(number)) return -1;
-        *name = kirto::Format(".kirto-%016llx", number);
-        const int result = action(name->c_str());
-        if (result >= 0 || errno != EEXIST) return result;
-    }
-    return -1;
-}
-
-std::string DescriptorPath(int descriptor) {
-    return kirto::Format("/proc/self/fd/%d", descriptor);
-}
-
-// Creates a file in the directory, without a name where the file system and the machine can do
-// that, so that nothing is left of it if the program is killed; else under a free name. Returns its
-// descriptor, or -1 with errno set.
-int CreateTemporary(int directory, mode_t mode, std::string* name) {
-    const int unnamed = openat(directory, ".", O_TMPFILE | O_RDWR | O_CLOEXEC, mode);
-    if (unnamed >= 0 && access(DescriptorPath(unnamed).c_str(), F_OK) == 0) return unnamed;
-    if (unnamed >= 0) close(unnamed);
-    return WithUniqueName(name, [&](const char* free_name) {
-        return openat(directory, free_name, O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, mode);
-    });
-}
-
-// Gives a file without a name a free one.
-bool NameTemporary(int descriptor, int directory, std::string* name) {
-    const std::string source = DescriptorPath(descriptor);
-    const int linked = WithUniqueName(name, [&](const char* free_name) {
-        return linkat(AT_FDCWD, source.c_str(), directory, free_name, AT_SYMLINK_FOLLOW);
-    });
-    if (linked != 0) name->clear();
-    return linked == 0;
 }
 
 // As good as the file system allows: there are some that can't sync a directory.
@@ -199,13 +158,20 @@ status_t BFile::OpenTemporary(bool for_owner_only) {
     const status_t found = CheckTarget(directory_, target_, &info);
     const bool is_new = found == B_ENTRY_NOT_FOUND;
     if (found != B_OK && !is_new) return found;
-    descriptor_ = CreateTemporary(directory_, is_new && !for_owner_only ? 0666 : 0600, &temporary_);
+    descriptor_ =
+        kirto::CreateTemporary(directory_, is_new && !for_owner_only ? 0666 : 0600, &temporary_);
     if (descriptor_ < 0) return StatusFromErrno(errno);
     uncommitted_ = true;
     if (is_new || for_owner_only || S_ISLNK(info.st_mode)) return B_OK;
     // The owner stays only if the process may give files away; the permissions stay either way.
     [[maybe_unused]] const int ignored = fchown(descriptor_, info.st_uid, info.st_gid);
-    return fchmod(descriptor_, info.st_mode & 0777) == 0 ? B_OK : StatusFromErrno(errno);
+    if (fchmod(descriptor_, info.st_mode & 0777) != 0) return StatusFromErrno(errno);
+    kirto::CopyAttributes(directory_, target_, descriptor_);
+    return B_OK;
+}
+
+void BFile::RemoveLeftovers() {
+    if (directory_ >= 0) kirto::RemoveStaleTemporaries(directory_);
 }
 
 int64 BFile::Size() const {
@@ -321,7 +287,7 @@ status_t BFile::Commit() {
     if (!uncommitted_) return B_NOT_ALLOWED;
     if (FlushBuffer() == B_OK && fsync(descriptor_) != 0) write_status_ = StatusFromErrno(errno);
     if (write_status_ == B_OK && temporary_.empty() &&
-        !NameTemporary(descriptor_, directory_, &temporary_)) {
+        !kirto::NameTemporary(descriptor_, directory_, &temporary_)) {
         write_status_ = StatusFromErrno(errno);
     }
     if (write_status_ == B_OK &&

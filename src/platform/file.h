@@ -33,8 +33,8 @@ class BFile {
 
     // A new file that will replace path on Commit(). Symbolic links in path are resolved; a target
     // that exists and is read-only or no regular file is refused with B_NOT_ALLOWED. The
-    // permissions of an existing target are kept, a new file gets the process's default ones.
-    // InitCheck() tells why it failed.
+    // permissions, access list and extended attributes of an existing target are kept, a new file
+    // gets the process's default ones. InitCheck() tells why it failed.
     static std::unique_ptr<BFile> CreateReplacing(const std::string& path);
     // As CreateReplacing, but only its owner may read the new file, and a symbolic link at path is
     // replaced itself, never followed.
@@ -70,6 +70,10 @@ class BFile {
     // file system can. On failure the old file is untouched and the new one is removed. Once only;
     // memory and read files: B_NOT_ALLOWED.
     status_t Commit();
+
+    // Removes the hidden files beside a written file's target that killed programs of this user
+    // have left there.
+    void RemoveLeftovers();
 
     // Sets the file's MIME type as an extended attribute; where the file system refuses it, nothing
     // happens.

@@ -7,10 +7,14 @@
 namespace kirto {
 
 // The ceiling on the pixel memory of one document, in bytes. Every bitmap of the document reserves
-// its bytes here before it allocates them and gives them back when it is destroyed. Thread-safe;
-// shared by the document and its bitmaps, so that a bitmap may outlive the document.
+// its bytes and kFrameCost here before it allocates them and gives them back when it is destroyed.
+// Thread-safe; shared by the document and its bitmaps, so that a bitmap may outlive the document.
 class PixelBudget {
   public:
+    // What a frame takes beside its pixels: its record, its palette and its name. Without it, a
+    // million frames of one pixel would seem to take next to nothing.
+    static constexpr uint64 kFrameCost = 2048;
+
     explicit PixelBudget(uint64 limit = DefaultLimit()) : limit_(limit) {}
 
     // True and counted when used + bytes stays within the limit; otherwise nothing changes.

@@ -4,12 +4,10 @@
 #include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QKeyEvent>
-#include <algorithm>
-#include <cstdlib>
-#include <limits>
 
 #include "document/command_codes.h"
 #include "platform/alert.h"
+#include "platform/number.h"
 #include "ui/color_swatch.h"
 #include "ui/controls.h"
 #include "ui/rt_color_control.h"
@@ -45,7 +43,8 @@ FadeWindow::FadeWindow(BMessenger application, QWidget* parent,
     setWindowTitle("Fade Effects");
     setAttribute(Qt::WA_DeleteOnClose);
     MakeControls();
-    resize(sizeHint().expandedTo({kMinWidth, kMinHeight}));
+    setMinimumSize(sizeHint().expandedTo({kMinWidth, kMinHeight}));
+    resize(minimumSize());
     frame_count_->setFocus();
     frame_count_->selectAll();
 }
@@ -154,9 +153,7 @@ bool FadeWindow::eventFilter(QObject* watched, QEvent* event) {
 }
 
 int32 FadeWindow::Count() const {
-    const long count = std::strtol(frame_count_->text().toUtf8().constData(), nullptr, 10);
-    return static_cast<int32>(std::clamp<long>(count, std::numeric_limits<int32>::min(),
-                                               std::numeric_limits<int32>::max()));
+    return kirto::LeadingInteger(frame_count_->text().toStdString());
 }
 
 bool FadeWindow::CheckCount() {

@@ -20,6 +20,8 @@ FileDialog::FileDialog(QWidget* parent) : QFileDialog(parent) {
     for (const char* name : {"fileTypeLabel", "fileTypeCombo"}) {
         if (auto* widget = findChild<QWidget*>(name)) widget->hide();
     }
+    name_field_ = findChild<QLineEdit*>("fileNameEdit");
+    completer_ = name_field_->completer();
 }
 
 void FileDialog::SetFilter(std::unique_ptr<BRefFilter> filter) {
@@ -49,9 +51,20 @@ void FileDialog::Restart(const QString& name) {
     for (auto* view : findChildren<QAbstractItemView*>()) {
         if (view->selectionModel()) view->selectionModel()->clear();
     }
-    auto* field = findChild<QLineEdit*>("fileNameEdit");
-    field->setText(name);
-    field->setFocus();
+    name_field_->setText(name);
+    name_field_->setFocus();
+}
+
+// Of several quoted names the toolkit takes only those that lie in the folder it shows.
+QStringList FileDialog::ChosenFiles() const {
+    QStringList typed;
+    bool elsewhere = false;
+    const QStringList parts = name_field_->text().split('"');
+    for (qsizetype i = 1; i < parts.size(); i += 2) {
+        elsewhere = elsewhere || QDir::isAbsolutePath(parts[i]);
+        typed.append(directory().absoluteFilePath(parts[i]));
+    }
+    return elsewhere && fileMode() == ExistingFiles ? typed : selectedFiles();
 }
 
 void FileDialog::accept() {
@@ -59,21 +72,24 @@ void FileDialog::accept() {
     QFileDialog::accept();
 }
 
-// A folder that has only now been read would still bring up what completes the typed name, and that
-// would take the keyboard. The field takes its completer back with the focus.
+void FileDialog::showEvent(QShowEvent* event) {
+    name_field_->setCompleter(completer_);
+    QFileDialog::showEvent(event);
+}
+
+// Keys that were typed behind the one that closes the dialog still reach the field, and a folder
+// may only now have been read; neither may bring up what completes the name.
 void FileDialog::hideEvent(QHideEvent* event) {
     QFileDialog::hideEvent(event);
-    if (auto* completer = findChild<QLineEdit*>("fileNameEdit")->completer())
-        completer->setWidget(nullptr);
+    name_field_->setCompleter(nullptr);
 }
 
 // The toolkit would take a folder's name for one that lacks its extension.
 bool FileDialog::EntersFolder() {
-    auto* field = findChild<QLineEdit*>("fileNameEdit");
-    const QFileInfo typed(directory(), field->text());
-    if (field->text().isEmpty() || !typed.isDir()) return false;
+    const QFileInfo typed(directory(), name_field_->text());
+    if (name_field_->text().isEmpty() || !typed.isDir()) return false;
     setDirectory(typed.absoluteFilePath());
-    field->clear();
+    name_field_->clear();
     return true;
 }
 

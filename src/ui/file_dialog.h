@@ -6,6 +6,7 @@
 
 #include "ui/ref_filter.h"
 
+class QCompleter;
 class QLineEdit;
 
 namespace kirto {
@@ -27,16 +28,21 @@ class FileDialog : public QFileDialog {
     void AddRow(QWidget* controls);
     // Starts over in the same folder, with the text in the field for the name.
     void Restart(const QString& name);
+    // The absolute paths of the files that are chosen or typed.
+    QStringList ChosenFiles() const;
 
     void accept() override;
 
   protected:
+    void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
 
   private:
     // Shows the folder that is typed in the place of a name; false where none is.
     bool EntersFolder();
 
+    QLineEdit* name_field_;
+    QCompleter* completer_;  // of the name field, while the dialog is shown
     FilterProxy* proxy_ = nullptr;
     std::function<bool(const QString& path)> may_write_;
 };

@@ -1,6 +1,7 @@
 #include "ui/file_dialog_panel.h"
 
 #include <QDir>
+#include <QFile>
 
 namespace kirto {
 
@@ -14,6 +15,13 @@ FileDialogPanel::~FileDialogPanel() {
 void FileDialogPanel::SetTitle(const std::string& title) {
     title_ = title;
     if (dialog_) dialog_->setWindowTitle(QString::fromStdString(title_));
+}
+
+void FileDialogPanel::SetDirectory(const std::string& path) {
+    const QString directory = QFile::decodeName(path.c_str());
+    if (!QDir(directory).exists()) return;
+    directory_ = directory;
+    if (dialog_) dialog_->setDirectory(directory_);
 }
 
 void FileDialogPanel::SetSaveText(const std::string& text) {
@@ -40,7 +48,7 @@ void FileDialogPanel::MakeDialog() {
 
 void FileDialogPanel::Finish(bool chosen) {
     directory_ = dialog_->directory().absolutePath();
-    if (chosen) target_.SendMessage(CommandFor(dialog_->selectedFiles()));
+    if (chosen) target_.SendMessage(CommandFor(dialog_->ChosenFiles()));
     // Also after a choice: the application tells the two by the order.
     const FilePanel* self = this;
     BMessage closed(B_CANCEL);

@@ -18,6 +18,7 @@ class FileDialogPanel : public FilePanel {
     ~FileDialogPanel() override;
 
     void SetTitle(const std::string& title) override;
+    void SetDirectory(const std::string& path) override;
     void SetSaveText(const std::string& text) override;
     void Show() override;
 

@@ -11,6 +11,7 @@
 #include <QStackedWidget>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <cmath>
 
 #include "document/command_codes.h"
 #include "platform/alert.h"
@@ -40,6 +41,17 @@ const std::vector<uint32>& RefreshCodes() {
         kirto::kEditDone,  kirto::kStatusUpdate,
     };
     return kCodes;
+}
+
+// The settings may hold any numbers; no screen reaches farther than this, in pixels.
+int PixelAt(double coordinate) {
+    constexpr double kFarthest = 1 << 20;
+    return std::isfinite(coordinate) ? qRound(std::clamp(coordinate, -kFarthest, kFarthest)) : 0;
+}
+
+QRect RectOf(const BRect& frame) {
+    const QPoint corner(PixelAt(frame.left), PixelAt(frame.top));
+    return {corner, QSize(PixelAt(frame.PixelWidth()), PixelAt(frame.PixelHeight()))};
 }
 
 }  // namespace
@@ -127,16 +139,32 @@ void KirtoWindow::LimitSize() {
         QSize(kMinimumWidth + 1, kMinimumHeight + 1).expandedTo(layout()->totalMinimumSize()));
 }
 
+// All panels without scrolling, and as much room again for the frames.
+QSize KirtoWindow::RoomySize() const {
+    const int panels = panel_area_->widget()->sizeHint().height();
+    const int above_and_below =
+        layout()->totalSizeHint().height() - panel_area_->sizeHint().height();
+    const QSize needed(2 * panel_area_->minimumWidth() + panels / 2, panels + above_and_below);
+    return needed.expandedTo(minimumSize());
+}
+
 void KirtoWindow::Place(const BRect& frame) {
-    QRect place(qRound(frame.left), qRound(frame.top), frame.PixelWidth(), frame.PixelHeight());
-    place.setSize(place.size().expandedTo(minimumSize()));
+    QRect place = RectOf(frame);
+    const QScreen* on = QGuiApplication::screenAt(place.center());
+    const QRect screen = (on ? on : QGuiApplication::primaryScreen())->availableGeometry();
+    // Nobody has chosen a size yet where it is the very smallest; the corner stays.
+    if (place.size() == QSize(kMinimumWidth + 1, kMinimumHeight + 1)) {
+        place.setBottomRight(screen.bottomRight());
+        place.setSize(place.size().boundedTo(RoomySize()));
+    }
+    const QSize desktop = QGuiApplication::primaryScreen()->availableVirtualSize();
+    place.setSize(place.size().boundedTo(desktop).expandedTo(minimumSize()));
     // The screen where the window was last may be gone.
     const QList<QScreen*> screens = QGuiApplication::screens();
-    const bool visible = std::any_of(screens.begin(), screens.end(), [&](const QScreen* screen) {
-        return screen->availableGeometry().intersects(place);
+    const bool visible = std::any_of(screens.begin(), screens.end(), [&](const QScreen* each) {
+        return each->availableGeometry().intersects(place);
     });
     if (!visible) {
-        const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
         place.setSize(place.size().boundedTo(screen.size()));
         place.moveCenter(screen.center());
     }
@@ -239,7 +267,7 @@ bool KirtoWindow::QuitRequested() {
 }
 
 bool KirtoWindow::LoseChanges(uint32 command) {
-    if (!MayLoseChanges()) {
+    if (!HasUnsavedChanges()) {
         pending_command_ = 0;
         return true;
     }
@@ -253,7 +281,7 @@ bool KirtoWindow::LoseChanges(uint32 command) {
 }
 
 // Edits on their way to the application count as changes already.
-bool KirtoWindow::MayLoseChanges() {
+bool KirtoWindow::HasUnsavedChanges() {
     const auto now = editor_.document.CurrentState();
     const bool modified = now->modified || now->edits_done != edits_posted_;
     return modified && !now->animation->frames.Empty();

@@ -70,6 +70,7 @@ class KirtoWindow : public QMainWindow, public BWindow {
     void MakePanels();
     void ArrangePanels();
     void LimitSize();
+    QSize RoomySize() const;
     void Place(const BRect& frame);
 
     // Shows the parts as the document is now.
@@ -78,7 +79,7 @@ class KirtoWindow : public QMainWindow, public BWindow {
     void ChooseCommand(uint32 command);
     // Sends the command of the field that is being edited; true when there was one.
     bool CommitEdit();
-    bool MayLoseChanges();
+    bool HasUnsavedChanges();
     void ApplyPreset();
     void SaveOrAsk();
     void ShowSavePanel();

@@ -127,7 +127,7 @@ void KirtoWindow::UpdateFramesNoStatus(BMessage*) {
 void KirtoWindow::Resume(BMessage*) {
     const uint32 command = std::exchange(pending_command_, 0);
     // A save that failed, and edits made during it, leave changes that the command would lose.
-    if (MayLoseChanges()) return;
+    if (HasUnsavedChanges()) return;
     switch (command) {
         case kirto::kMenuNew:
             StartNew();
@@ -172,7 +172,7 @@ void KirtoWindow::ShowOpenPanel(const char* title) {
 }
 
 void KirtoWindow::Save(BMessage*) {
-    if (MayLoseChanges()) SaveOrAsk();
+    if (HasUnsavedChanges()) SaveOrAsk();
 }
 
 void KirtoWindow::SaveOrAsk() {
@@ -189,6 +189,8 @@ void KirtoWindow::SaveAs(BMessage*) {
 
 void KirtoWindow::ShowSavePanel() {
     kirto::FilePanel* panel = editor_.panels.GetPanel(kirto::FilePanelKind::kSave);
+    const std::string& directory = shown_.State().file_directory;
+    if (!directory.empty()) panel->SetDirectory(directory);
     panel->SetSaveText("");
     panel->Show();
 }
@@ -232,7 +234,6 @@ void KirtoWindow::InsertTiled(BMessage*) {
 void KirtoWindow::FadeEffects(BMessage*) {
     if (!shown_.CurrentFrame()) return;
     auto* window = new FadeWindow(editor_.application, this);
-    window->adjustSize();
     QRect place = window->frameGeometry();
     place.moveCenter(QGuiApplication::primaryScreen()->geometry().center());
     window->move(place.topLeft());
@@ -269,12 +270,12 @@ void KirtoWindow::GlobalSwitch(BMessage* message) {
 }
 
 void KirtoWindow::PaletteKind(BMessage* message) {
-    palette_view_->EnableDither(message->what == kirto::kPaletteToGreyscale);
+    palette_view_->AllowDither(message->what != kirto::kPaletteToGreyscale);
     PostEdit(*message);
 }
 
 void KirtoWindow::PaletteFromFile(BMessage* message) {
-    palette_view_->EnableDither(false);
+    palette_view_->AllowDither(true);
     PostEdit(*message);
     ShowOpenPanel("Open Paletted File");
 }

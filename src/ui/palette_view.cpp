@@ -42,16 +42,16 @@ PaletteView::PaletteView(const kirto::ShownDocument& shown, const BMessenger& wi
     layout->AddField(transparent, transparent_index);
 }
 
-void PaletteView::EnableDither(bool greyscale) {
-    if (greyscale) dither->setChecked(false);
-    dither->setEnabled(!greyscale);
+void PaletteView::AllowDither(bool allow) {
+    if (!allow) dither->setChecked(false);
+    dither->setEnabled(allow);
 }
 
 void PaletteView::UpdateDisplay() {
     const Palette& palette = *shown_.Current().palette;
     kirto::MarkPalette(*menu, palette.mode);
     dither->setChecked(palette.dither);
-    EnableDither(palette.mode == kirto::kPaletteGreyscale);
+    AllowDither(palette.mode != kirto::kPaletteGreyscale);
     background_index->ShowText(QString::number(palette.background_index));
     transparent->setChecked(palette.use_transparent);
     transparent_index->setEnabled(palette.use_transparent);
@@ -62,7 +62,7 @@ void PaletteView::ResetDisplay() {
     const Prefs& prefs = shown_.Settings();
     kirto::MarkPalette(*menu, prefs.palette_mapping);
     dither->setChecked(prefs.palette_dither);
-    EnableDither(prefs.palette_mapping == kirto::kPaletteGreyscale);
+    AllowDither(prefs.palette_mapping != kirto::kPaletteGreyscale);
     background_index->SetText(QString::number(prefs.palette_backgroundindex));
     transparent->setChecked(prefs.palette_usetransparent);
     transparent_index->setEnabled(prefs.palette_usetransparent);

@@ -16,7 +16,7 @@ class PaletteView : public QGroupBox {
     // Shows the settings' default palette choices.
     void ResetDisplay();
     // Greys are not dithered: their box is off and can't be ticked; other kinds leave it as it is.
-    void EnableDither(bool greyscale);
+    void AllowDither(bool allow);
 
     QComboBox* menu;
     QCheckBox* dither;

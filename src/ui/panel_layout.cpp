@@ -12,9 +12,9 @@ namespace {
 
 constexpr int kRowSpacing = 4;  // pixels
 // Numbers are short mostly, and a field is as wide as they are at any font size; it holds the
-// longest whole number with two decimals, though.
+// largest real number with its sign and two decimals, though.
 constexpr int kShownCharacters = 6;
-constexpr int kMostCharacters = 13;
+constexpr int kMostCharacters = 313;
 
 void SizeField(TextControl& field) {
     field.setMaxLength(kMostCharacters);

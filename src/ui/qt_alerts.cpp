@@ -31,8 +31,8 @@ int32 LastButton(const BAlert& alert) {
     return static_cast<int32>(alert.Buttons().size()) - 1;
 }
 
-// The alert's dialog. Each button's index is its result; the last one is the default, and Escape is
-// "Cancel", or the only button there is.
+// The alert's dialog. Each button's index is its result; Escape is "Cancel", or the only button
+// there is.
 std::unique_ptr<QMessageBox> MakeDialog(const BAlert& alert, QWidget* parent) {
     auto box = std::make_unique<QMessageBox>(parent);
     box->setObjectName("Alert");
@@ -45,9 +45,10 @@ std::unique_ptr<QMessageBox> MakeDialog(const BAlert& alert, QWidget* parent) {
         QPushButton* button =
             box->addButton(QString::fromStdString(label), QMessageBox::ActionRole);
         // A desktop may put its mark into the text.
-        button->setProperty(kIndex, static_cast<int>(box->buttons().size()) - 1);
+        const int32 index = static_cast<int32>(box->buttons().size()) - 1;
+        button->setProperty(kIndex, index);
         if (label == "Cancel" || alert.Buttons().size() == 1) box->setEscapeButton(button);
-        box->setDefaultButton(button);
+        if (index == alert.DefaultButton()) box->setDefaultButton(button);
     }
     return box;
 }

@@ -148,8 +148,9 @@ void ThumbDrawingView::DrawThumbnails(QPainter& painter, const QRect& area) {
 // An empty grid tells how to fill it.
 void ThumbDrawingView::DrawInvitation(QPainter& painter) {
     painter.setPen(palette().color(QPalette::PlaceholderText));
-    painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap,
-                     "Drop images or an animation here,\nor choose Insert... from the Frame menu.");
+    painter.drawText(
+        rect(), Qt::AlignCenter | Qt::TextWordWrap,
+        "Drop images or an animation here,\nor choose Insert...\nfrom the Frame menu.");
 }
 
 void ThumbDrawingView::DrawOutline(QPainter& painter, int32 index) {

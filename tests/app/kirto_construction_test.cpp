@@ -105,45 +105,12 @@ TEST_F(KirtoConstruction, GoesOnWithoutASemaphore) {
     EXPECT_EQ(app_->Current()->width, 320);
 }
 
-TEST_F(KirtoConstruction, RemovesThePreviewAtTheEnd) {
+TEST_F(KirtoConstruction, LeavesAPreviewFileThatItDidNotWrite) {
     Write("kirtotemp.gif", {1});
     Make();
 
     app_.reset();
 
-    EXPECT_FALSE(fs::exists(File("kirtotemp.gif")));
-}
-
-TEST_F(KirtoConstruction, RemovesALinkInPlaceOfThePreviewAndNotItsTarget) {
-    Write("precious.gif", {1});
-    fs::create_symlink(File("precious.gif"), File("kirtotemp.gif"));
-    Make();
-
-    app_.reset();
-
-    EXPECT_FALSE(fs::is_symlink(File("kirtotemp.gif")));
-    EXPECT_TRUE(fs::exists(File("precious.gif")));
-}
-
-TEST_F(KirtoConstruction, LeavesAFolderInPlaceOfThePreviewAlone) {
-    fs::create_directory(File("kirtotemp.gif"));
-    Make();
-
-    app_.reset();
-
-    EXPECT_TRUE(fs::is_directory(File("kirtotemp.gif")));
-}
-
-TEST_F(KirtoConstruction, RemovesNothingWhereThePreviewsFolderIsMissing) {
-    Write("kirtotemp.gif", {1});
-    prefs_.misc_tempfilelocation = "";
-    Make();
-    const fs::path before = fs::current_path();
-    fs::current_path(folder_.Path());
-
-    app_.reset();
-
-    fs::current_path(before);
     EXPECT_TRUE(fs::exists(File("kirtotemp.gif")));
 }
 

@@ -4,6 +4,7 @@
 
 #include "app/kirto_fixture.h"
 #include "support/full_disk.h"
+#include "support/ordinary_user.h"
 
 namespace kirto::test {
 
@@ -64,6 +65,36 @@ TEST_F(KirtoPreview, FallsBackToTheHomeFolderAndTheSettingSaysSo) {
 
     EXPECT_EQ(prefs_.misc_tempfilelocation, folder_.Path());
     EXPECT_EQ(TakeLines(), Lines{"browser " + File("kirtotemp.gif")});
+}
+
+TEST_F(KirtoPreview, FallsBackToTheHomeFolderWhenTheFolderCantBeOpened) {
+    fs::permissions(folder_.Path(), fs::perms::all);
+    fs::create_directory(File("closed"));
+    fs::permissions(File("closed"), fs::perms::none);
+    prefs_.misc_tempfilelocation = File("closed");
+    Start();
+    Append({"one"});
+    {
+        const OrdinaryUser user;
+        Do(kPreview);
+    }
+
+    EXPECT_EQ(prefs_.misc_tempfilelocation, folder_.Path());
+    EXPECT_EQ(TakeLines(), Lines{"browser " + File("kirtotemp.gif")});
+}
+
+TEST_F(KirtoPreview, NeverReachesTheBrowserAsAnOption) {
+    fs::create_directory(File("-folder"));
+    prefs_.misc_tempfilelocation = "-folder";
+    Start();
+    Append({"one"});
+    const fs::path before = fs::current_path();
+    fs::current_path(folder_.Path());
+
+    Do(kPreview);
+
+    fs::current_path(before);
+    EXPECT_EQ(TakeLines(), Lines{"browser " + File("-folder/kirtotemp.gif")});
 }
 
 TEST_F(KirtoPreview, RefusesFramesLargerThanTheAnimation) {
@@ -136,6 +167,32 @@ TEST_F(KirtoPreview, IsRemovedAtTheEnd) {
     app_.reset();
 
     EXPECT_EQ(FolderContent(), Lines{});
+}
+
+TEST_F(KirtoPreview, IsRemovedFromEveryFolderThatHadOne) {
+    fs::create_directory(File("other"));
+    Start();
+    Append({"one"});
+    Do(kPreview);
+    prefs_.misc_tempfilelocation = File("other");
+    Do(kPreview);
+
+    app_.reset();
+
+    EXPECT_EQ(FolderContent(), Lines{"other"});
+    EXPECT_TRUE(fs::is_empty(File("other")));
+}
+
+TEST_F(KirtoPreview, IsLeftAloneWhereSomebodyElseHasReplacedIt) {
+    Start();
+    Append({"one"});
+    Do(kPreview);
+    Write("other.gif", {'n', 'e', 'w'});
+    fs::rename(File("other.gif"), File("kirtotemp.gif"));
+
+    app_.reset();
+
+    EXPECT_EQ(ReadBytes(File("kirtotemp.gif")), (std::vector<uint8>{'n', 'e', 'w'}));
 }
 
 }  // namespace

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <filesystem>
 #include <gtest/gtest.h>
 
@@ -121,6 +122,29 @@ TEST_F(KirtoSave, ForgetsANameThatCantBeCreated) {
     EXPECT_EQ(app_->CurrentState()->file_name, "untitled");
     EXPECT_EQ(app_->CurrentState()->file_directory, "");
     EXPECT_TRUE(app_->Modified());
+}
+
+TEST_F(KirtoSave, AgainWithoutADirectoryWritesNothing) {
+    fs::create_directory(File("gone"));
+    Start();
+    Append({"one"});
+    Do(SaveTo(File("gone"), "out.gif"));
+    fs::remove_all(File("gone"));
+    app_->SetModified(true);
+    const fs::path before = fs::current_path();
+    fs::current_path(folder_.Path());
+
+    for (const uint32 format : {uint32{0}, uint32{FakeRoster::kRaw}, uint32{0}}) {
+        desktop_.fields.output_format = format;
+        Do(kSaveAgain);
+    }
+
+    fs::current_path(before);
+    Lines lines = TakeLines();
+    EXPECT_EQ(std::count(lines.begin(), lines.end(), WarningLine(kNotCreated)), 3);
+    EXPECT_TRUE(app_->Modified());
+    EXPECT_EQ(app_->CurrentState()->file_name, "untitled");
+    EXPECT_EQ(FolderContent(), Lines{});
 }
 
 TEST_F(KirtoSave, KeepsTheOldFileWhenTheNewOneCantBeWritten) {
@@ -275,6 +299,18 @@ TEST_F(KirtoSaveSequence, KeepsTheOldFileWhenTheNewOneCantBeWritten) {
     EXPECT_EQ(ReadBytes(File("movie0000.raw")), (std::vector<uint8>{'o', 'l', 'd'}));
     EXPECT_EQ(FolderContent(), Lines{"movie0000.raw"});
     EXPECT_TRUE(app_->Modified());
+}
+
+TEST_F(KirtoSaveSequence, RemovesWhatAKilledSaveHasLeft) {
+    Write(".kirto-0123456789abcdef", {1});
+    fs::last_write_time(File(".kirto-0123456789abcdef"),
+                        fs::file_time_type::clock::now() - std::chrono::hours(2));
+    Start();
+    Append({"one", "two"});
+
+    Do(SequenceTo("movie.raw"));
+
+    EXPECT_EQ(FolderContent(), (Lines{"movie0000.raw", "movie0001.raw"}));
 }
 
 TEST_F(KirtoSaveSequence, EndsBeforeTheNextFrameWhenAskedToStop) {

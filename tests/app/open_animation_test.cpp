@@ -11,6 +11,7 @@ namespace kirto::test {
 
 namespace {
 
+constexpr const char* kOutOfMemoryLine = "WARNING [] Out of memory. | OK";
 constexpr const char* kDamaged =
     "WARNING [] The animation can't be opened because it was corrupted or unreadable. | Salvage | "
     "OK";
@@ -44,6 +45,16 @@ bool OpenFliBytes(const std::vector<uint8>& bytes, AnimationDocument& document,
                   int32 position = 0) {
     return OpenFli(BFile::OnMemory(bytes).get(), position, document);
 }
+
+// Answers every alert as Enter does.
+class DefaultButtonPresser : public AlertPresenter {
+  public:
+    ~DefaultButtonPresser() override { InstallAlertPresenter(previous_); }
+    int32 Present(const BAlert& alert) override { return alert.DefaultButton(); }
+
+  private:
+    AlertPresenter* previous_ = InstallAlertPresenter(this);
+};
 
 std::string Pause(bool used, double length) {
     return Format("%s%g", used ? "" : "off ", length);
@@ -295,6 +306,39 @@ TEST(OpenGif, ResetsTheDocumentWhenADamagedAnimationIsNotWanted) {
     EXPECT_EQ(document.Current()->palette->mode, kPaletteWebSafe);
 }
 
+TEST(OpenGif, ProposesToSalvageWhereOtherFramesWouldBeLost) {
+    for (const bool others : {true, false}) {
+        DocumentFixture fixture;
+        if (others) AppendFrame(fixture.document, PictureOf(1, 1, {0}), "old");
+        DefaultButtonPresser user;
+        GifBuilder gif(1, 1, kBlackAndWhite);
+
+        EXPECT_FALSE(OpenGifBytes(gif.Add(Pixel()), fixture.document, others ? 1 : 0));
+
+        EXPECT_EQ(fixture.document.FrameCount(), others ? 2 : 0);
+    }
+}
+
+TEST(OpenGif, NamesLackOfMemoryBeforeItAsks) {
+    DocumentFixture fixture;
+    const AlertRecorder alerts({kOk, kSalvage});
+    fixture.document.pixel_budget->SetLimit(PixelBudget::kFrameCost + 8);
+
+    EXPECT_FALSE(OpenGifBytes(GifWithPauses({10, 10}), fixture.document));
+
+    EXPECT_EQ(alerts.Lines(), (std::vector<std::string>{kOutOfMemoryLine, kDamaged}));
+    EXPECT_EQ(fixture.document.FrameCount(), 1);
+}
+
+TEST(OpenGif, DoesNotTakeAPictureOfNoPixelsForLackOfMemory) {
+    DocumentFixture fixture;
+    const AlertRecorder alerts({kOk});
+
+    EXPECT_FALSE(OpenGifBytes(GifBuilder(0, 1, kBlackAndWhite).Add({}), fixture.document));
+
+    EXPECT_EQ(alerts.Lines(), std::vector<std::string>{kDamaged});
+}
+
 TEST(OpenGif, SaysNothingAboutDamageWhenItWasToldToStop) {
     DocumentFixture fixture;
     const AlertRecorder alerts;
@@ -319,6 +363,21 @@ TEST(OpenFli, LoopsForEver) {
     EXPECT_GE(document.FrameCount(), 1);
     EXPECT_TRUE(document.Current()->use_loop);
     EXPECT_EQ(document.Current()->loop_count, 0);
+}
+
+TEST(OpenFli, NamesLackOfMemoryBeforeItAsks) {
+    DocumentFixture fixture;
+    const AlertRecorder alerts({kOk, kSalvage});
+    fixture.document.pixel_budget->SetLimit(PixelBudget::kFrameCost + 8);
+    FliBuilder fli(2, 1);
+    fli.Record().Color256({{0, {0x000000, 0xFF0000}}}).Copy({0, 1});
+    fli.Record().Copy({1, 0});
+    fli.Record().Copy({1, 0});
+
+    EXPECT_FALSE(OpenFliBytes(fli, fixture.document));
+
+    EXPECT_EQ(alerts.Lines(), (std::vector<std::string>{kOutOfMemoryLine, kDamaged}));
+    EXPECT_EQ(fixture.document.FrameCount(), 1);
 }
 
 TEST(OpenFli, AsksWhetherToKeepWhatIsBeforeTheDamage) {

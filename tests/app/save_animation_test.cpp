@@ -177,6 +177,17 @@ TEST(SaveAnimatedGif, LeavesTheOldFileWhenItWasToldToStop) {
     EXPECT_EQ(fixture.EntriesInFolder(), 1U);
 }
 
+TEST(SaveAnimatedGif, RemovesWhatAKilledSaveHasLeft) {
+    SaveFixture fixture;
+    const std::string leftover = fixture.folder.File(".kirto-0123456789abcdef");
+    WriteBytes(leftover, kOldBytes);
+    fs::last_write_time(leftover, fs::file_time_type::clock::now() - std::chrono::hours(2));
+
+    EXPECT_EQ(fixture.Save(), SaveResult::kSaved);
+
+    EXPECT_EQ(fixture.EntriesInFolder(), 1U);
+}
+
 TEST(SaveAnimatedGif, WritesAnAnimationWithoutFrames) {
     SaveFixture fixture;
     fixture.document.RemoveFrame();

@@ -10,6 +10,8 @@ namespace {
 
 constexpr const char* kDamaged =
     "The animation can't be opened because it was corrupted or unreadable.";
+constexpr const char* kOutOfMemoryHint =
+    "Out of memory. Use --memory-limit to let frames take more.";
 constexpr const char* kUnsupported =
     "The animation can't be opened because this file type is unsupported.";
 
@@ -342,7 +344,9 @@ TEST(KirtoCli, FailsOnATinyFileThatAsksForAHugePicture) {
                             0,    0,    0,    0,    255, 255, 255,  0x2C, 0,    0,    0,    0,
                             0xFF, 0xFF, 0xFF, 0xFF, 0,   2,   2,    0x44, 1,    0,    0x3B});
 
-    ExpectFailed(home, {"--open", "huge.gif"}, "huge.gif: " + std::string(kDamaged));
+    ExpectFailed(
+        home, {"--open", "huge.gif"},
+        std::string("huge.gif: ") + kOutOfMemoryHint + "\nkirto-cli: huge.gif: " + kDamaged);
 }
 
 TEST(KirtoCli, StopsAtItsMemoryLimit) {
@@ -357,13 +361,29 @@ TEST(KirtoCli, StopsAtItsMemoryLimit) {
     home.Write("large.gif", gif.Trailer());
 
     // A frame of 400 x 300 pixels takes 480,000 bytes.
-    ExpectFailed(home, {"--memory-limit", "1", "--open", "large.gif"},
-                 "large.gif: " + std::string(kDamaged));
+    ExpectFailed(
+        home, {"--memory-limit", "1", "--open", "large.gif"},
+        std::string("large.gif: ") + kOutOfMemoryHint + "\nkirto-cli: large.gif: " + kDamaged);
     const RunResult salvaged =
         home.Run({"--open", "large.gif", "--info-json", "--memory-limit", "1", "--salvage"});
     EXPECT_EQ(salvaged.status, 0);
     EXPECT_EQ(Json::parse(salvaged.out)["frame_count"], 2);
     EXPECT_EQ(home.Info({"--memory-limit", "2", "--open", "large.gif"})["frame_count"], 3);
+}
+
+TEST(KirtoCli, CountsFramesOfOnePixelForMoreThanThatPixel) {
+    const CliHome home;
+    GifBuilder gif(1, 1, {0x000000, 0xFFFFFF});
+    for (int32 i = 0; i < 600; ++i) {
+        GifBuilder::Image image;
+        image.indices = {1};
+        image.min_code_size = 2;
+        gif.Add(image);
+    }
+    home.Write("many.gif", gif.Trailer());
+
+    EXPECT_EQ(home.Run({"--memory-limit", "1", "--open", "many.gif"}).status, 1);
+    EXPECT_EQ(home.Info({"--memory-limit", "2", "--open", "many.gif"})["frame_count"], 600);
 }
 
 }  // namespace kirto::test

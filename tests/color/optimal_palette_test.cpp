@@ -44,9 +44,28 @@ void ExpectWebSafe(const Palette& palette) {
     EXPECT_EQ(palette.colors, kWebSafeColors);
 }
 
-// The calls that building the optimal palette of ThreeColors() makes: table, buckets, 3 items,
-// slots, result.
-constexpr int64 kAllocations = 7;
+// The calls that building the optimal palette of ThreeColors() makes: the counted colors and their
+// slots, the candidates, the result.
+constexpr int64 kAllocations = 4;
+
+// Every key once, in an order that looks random but is the same in every run.
+std::vector<uint32> ScatteredColors(uint32 count) {
+    std::vector<uint32> argb;
+    for (uint32 i = 0; i < count; ++i)
+        argb.push_back(0xFF000000U | (i * 0x3C6EF35FU & 0xFFFFFFU));
+    return argb;
+}
+
+void ExpectPlainPalette(const std::vector<uint32>& argb) {
+    const auto picture = Row(argb);
+    Palette palette;
+
+    const auto colors = palette.MakeNearestColorPalette(picture.get());
+
+    ASSERT_TRUE(colors);
+    EXPECT_EQ(*colors, ReferenceOptimal(*picture));
+    EXPECT_EQ(palette.unique_colors, static_cast<int32>(ReferenceColors(*picture).size()));
+}
 
 }  // namespace
 
@@ -172,6 +191,57 @@ TEST(OptimalPalette, EqualsSortingOnRandomPictures) {
     }
 }
 
+TEST(OptimalPalette, EqualsSortingOnPicturesOfVeryManyColors) {
+    std::vector<uint32> argb = ScatteredColors(530000);
+    // Some that occur twice, spread over the picture, so that counts decide too.
+    for (size_t i = 0; i < 200; ++i)
+        argb[argb.size() - 1 - i * 1000] = argb[i * 1500];
+    ExpectPlainPalette(argb);
+}
+
+TEST(OptimalPalette, EqualsSortingWhereEveryColorIsCommonerThanTheOneBefore) {
+    std::vector<uint32> argb;
+    for (uint32 i = 0; i < 700; ++i)
+        argb.insert(argb.end(), i + 1, 0xFF000000U | (700 - i) * 0x10100U);
+    ExpectPlainPalette(argb);
+}
+
+TEST(OptimalPalette, EqualsSortingOfColorsThatDifferOnlyInRed) {
+    std::vector<uint32> argb;
+    for (uint32 blue = 0; blue < 6; ++blue) {
+        for (uint32 red = 0; red < 256; ++red)
+            argb.push_back(0xFF000000U | (red * 77 % 256) << 16 | (5 - blue));
+    }
+    ExpectPlainPalette(argb);
+}
+
+TEST(OptimalPalette, AsksForMemoryAFewTimesWhateverTheNumberOfColors) {
+    const auto picture = Row(ScatteredColors(530000));
+    const AllocationFault fault(1000);
+
+    EXPECT_EQ(Palette(picture.get()).unique_colors, 530000);
+
+    EXPECT_LT(fault.Calls(), 40);
+}
+
+TEST(OptimalPalette, FailsAtEachAllocationOfAPictureOfManyColors) {
+    const auto picture = Row(ScatteredColors(3000));
+    int64 calls = 0;
+    {
+        const AllocationFault fault(1000);
+        ASSERT_EQ(Palette(picture.get()).mode, kPaletteOptimal);
+        calls = fault.Calls();
+    }
+    for (int64 call = 1; call <= calls; ++call) {
+        const AlertRecorder alerts;
+        const AllocationFault fault(call);
+
+        ExpectWebSafe(Palette(picture.get()));
+
+        EXPECT_EQ(alerts.Lines(), std::vector<std::string>{kOutOfMemoryAlert});
+    }
+}
+
 TEST(BuildHashtable, CountsEachColourInTheOrderOfItsBuckets) {
     std::mt19937 random(22);
     std::vector<uint32> argb(50 * 20);
@@ -228,7 +298,8 @@ TEST(BuildHashtable, AllocatesBeforeItLooksAtTheColourSpace) {
 
 TEST(BuildHashtable, TellsTheUserWhenMemoryIsShort) {
     const auto picture = ThreeColors();
-    for (int64 call = 1; call <= 5; ++call) {
+    // The counted colors and their slots, the table and its buckets, three items.
+    for (int64 call = 1; call <= 7; ++call) {
         const DebugRecorder lines;
         const AlertRecorder alerts;
         const AllocationFault fault(call);
@@ -329,7 +400,7 @@ TEST(CountUniqueColors, IsZeroWhereTheTableCantBeBuilt) {
     EXPECT_EQ(Palette().CountUniqueColors(&grey), 0);
     EXPECT_EQ(Palette().CountUniqueColors(&empty), 0);
     EXPECT_EQ(Palette().CountUniqueColors(nullptr), 0);
-    const AllocationFault fault(3);
+    const AllocationFault fault(2);
     EXPECT_EQ(Palette().CountUniqueColors(picture.get()), 0);
 
     EXPECT_EQ(lines.Text(), kWrongSpaceLine);

@@ -44,6 +44,21 @@ class Keyboard(EditorTest):
         self.assertEqual(self.info(target)["frames"][0]["name"], "frame0000")
         self.assertEqual(len(self.colors(target)), 5)
 
+    def test_moves_a_frame_from_within_a_field(self):
+        path = self.animation()
+        editor = self.start_editor(path)
+        editor.wait_for_status(3, modified=False)
+        editor.select_thumbnail(1, "frame0001")
+        editor.focus("text", "X offset:")
+        self.session.key("ctrl+a")
+        self.session.type("5")
+        self.session.key("ctrl+u")
+        editor.wait_for_status(3, modified=True)
+        editor.select_thumbnail(1, "frame0000")
+        editor.wait_for_field("X offset:", "0")
+        editor.select_thumbnail(0, "frame0001")
+        editor.wait_for_field("X offset:", "5")
+
     def fade_out(self, editor):
         """Two frames from the current one to black."""
         self.session.key("ctrl+f")

@@ -54,6 +54,29 @@ TEST_F(EditorProgram, SaysThatAPictureCanNotBeWritten) {
         << result.err;
 }
 
+TEST_F(EditorProgram, PrintsAnAlertInsteadOfWaitingForAnAnswerToItAndFails) {
+    home.Write("damaged.gif", DamagedGif(1));
+
+    const RunResult result = Run({"--screenshot", "out.png", "damaged.gif"});
+
+    EXPECT_EQ(result.status, 1);
+    EXPECT_NE(result.err.find("kirto: The animation can't be opened because it was corrupted or "
+                              "unreadable."),
+              std::string::npos)
+        << result.err;
+}
+
+TEST_F(EditorProgram, FailsWithoutItsResources) {
+    const fs::path alone = home.File("kirto");
+    fs::copy_file(KIRTO_EDITOR, alone);
+
+    const RunResult result = home.RunProgram(alone, {"--screenshot", "out.png"});
+
+    EXPECT_EQ(result.status, 1);
+    EXPECT_NE(result.err.find("kirto: Resource file open error!\n"), std::string::npos)
+        << result.err;
+}
+
 TEST_F(EditorProgram, PrintsHelpAndVersionWithoutAScreen) {
     home.SetEnvironment("QT_QPA_PLATFORM", "none-of-these");
 

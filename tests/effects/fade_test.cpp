@@ -346,7 +346,7 @@ TEST(Fade, ReportsMemoryOnlyAfterTheStatusOfAFrameThatCouldBeMade) {
 TEST(Fade, StopsWhereTheDocumentsPixelMemoryEnds) {
     ThreeShades fixture;
     AlertRecorder alerts;
-    fixture.document.pixel_budget->SetLimit(2 * 4);
+    fixture.document.pixel_budget->SetLimit(2 * (4 + PixelBudget::kFrameCost));
 
     fixture.Run(FadeMode::kToColor, kMostFrames);
 

@@ -183,6 +183,61 @@ TEST(InsertImages, PostsTheThumbnailSizeOfTheSettingsWithTheFirstFrame) {
     }
 }
 
+TEST(InsertImages, TellsOfUpToThreeUnreadableFilesOneByOne) {
+    InsertFixture fixture;
+
+    fixture.Insert(fixture.Files({"a.txt", "b.txt", "one.raw", "c.txt"}));
+
+    EXPECT_EQ(fixture.alerts.Lines(),
+              (Lines{Unsupported("a.txt"), Unsupported("b.txt"), Unsupported("c.txt")}));
+}
+
+TEST(InsertImages, TellsOfMoreUnreadableFilesTogetherAtTheEnd) {
+    InsertFixture fixture;
+    Lines names;
+    for (int i = 0; i < 40; ++i)
+        names.push_back("file" + std::to_string(i));
+    names.emplace_back("one.raw");
+
+    fixture.Insert(fixture.Files(names));
+
+    std::string rest =
+        "WARNING [] These files can't be inserted because their types are unsupported:";
+    for (int i = 3; i < 23; ++i)
+        rest += "\nfile" + std::to_string(i);
+    EXPECT_EQ(fixture.alerts.Lines(), (Lines{Unsupported("file0"), Unsupported("file1"),
+                                             Unsupported("file2"), rest + "\nand 17 more | OK"}));
+    EXPECT_EQ(fixture.Names(), Lines{"[one.raw]"});
+}
+
+TEST(InsertImages, TellsOfAFourthUnreadableFileAsOfTheFirst) {
+    InsertFixture fixture;
+
+    fixture.Insert(fixture.Files({"a", "b", "c", "d"}));
+
+    EXPECT_EQ(fixture.alerts.Lines(),
+              (Lines{Unsupported("a"), Unsupported("b"), Unsupported("c"), Unsupported("d")}));
+}
+
+TEST(InsertImages, TellsOfUnreadableFilesBeforeMemoryRunsOut) {
+    InsertFixture fixture;
+    int64 calls = 0;
+    {
+        InsertFixture trial;
+        const AllocationFault fault(1000000);
+        trial.Insert(trial.Files({"a", "b", "c", "d", "e"}));
+        calls = fault.Calls();
+    }
+
+    const AllocationFault fault(calls + 1);
+    fixture.Insert(fixture.Files({"a", "b", "c", "d", "e", "one.raw"}));
+
+    const Lines lines = fixture.alerts.Lines();
+    ASSERT_EQ(lines.size(), 5u);
+    EXPECT_TRUE(lines[3].ends_with("\nd\ne | OK")) << lines[3];
+    EXPECT_EQ(lines[4], kOutOfMemory);
+}
+
 TEST(InsertImages, DoesNothingWithoutReferences) {
     InsertFixture fixture;
 
@@ -262,12 +317,12 @@ TEST(InsertImages, SurvivesAFailureOfEachAllocation) {
 
 TEST(InsertImages, RefusesPicturesBeyondTheDocumentsPixelMemory) {
     InsertFixture fixture;
-    fixture.document.pixel_budget->SetLimit(8);
+    fixture.document.pixel_budget->SetLimit(PixelBudget::kFrameCost + 8);
 
     fixture.Insert(fixture.Files({"one.raw", "two.raw"}));
 
     EXPECT_EQ(fixture.Names(), Lines{"[one.raw]"});
-    EXPECT_EQ(fixture.alerts.Lines(), Lines{Unsupported("two.raw")});
+    EXPECT_EQ(fixture.alerts.Lines(), Lines{kOutOfMemory});
 }
 
 TEST(InsertImages, EndsBeforeTheNextFileWhenAskedToStop) {

@@ -319,7 +319,7 @@ TEST(InsertTiles, StopsWithOutOfMemoryAndKeepsTheTilesInsertedSoFar) {
 TEST(InsertTiles, StopsWhereTheDocumentsPixelMemoryEnds) {
     TilesFixture fixture;
     // The picture, and two of its four tiles.
-    fixture.document.pixel_budget->SetLimit((4 + 2) * 4);
+    fixture.document.pixel_budget->SetLimit((4 + 2) * 4 + 3 * PixelBudget::kFrameCost);
 
     fixture.Insert(NumberedPicture(4, 1), {1, 4});
 
@@ -330,6 +330,16 @@ TEST(InsertTiles, StopsWhereTheDocumentsPixelMemoryEnds) {
               "svup(Status: loading tile 1 of 4...) tvff auns "
               "svup(Status: loading tile 2 of 4...) auns "
               "svup(Status: loading tile 3 of 4...)");
+}
+
+TEST(InsertTiles, CallsAPictureBeyondTheMemoryNoUnsupportedOne) {
+    TilesFixture fixture;
+    fixture.document.pixel_budget->SetLimit(PixelBudget::kFrameCost);
+
+    fixture.Insert(NumberedPicture(4, 1), {1, 4});
+
+    EXPECT_EQ(fixture.Names(), Lines{});
+    EXPECT_EQ(fixture.alerts.Lines(), Lines{kOutOfMemory});
 }
 
 TEST(InsertTiles, EndsBeforeTheNextTileWhenAskedToStop) {

@@ -30,7 +30,7 @@ GifBuilder TwoFrames() {
 }
 
 // What the pixels of an image of 4 x 4 take.
-constexpr uint64 kFrameBytes = 4 * 4 * 4;
+constexpr uint64 kFrameBytes = 4 * 4 * 4 + PixelBudget::kFrameCost;
 
 GifBuilder FourByFour(int32 count) {
     GifBuilder gif = FourColorGif(4, 4);

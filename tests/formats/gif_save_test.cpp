@@ -282,10 +282,10 @@ TEST(GifSave, LacksMemoryForNothingButDithering) {
     PaletteEditOf(plain.document)->dither = true;
     const Bytes dithered = plain.Save();
     ASSERT_NE(dithered, undithered);
-    // The cache's buckets, three rows of errors, and then one item for each colour.
+    // The cache's two blocks and three rows of errors.
     for (int32 call = 1; call <= 8; ++call) {
         const AllocationFault fault(call);
-        EXPECT_EQ(plain.Save(), call <= 4 ? undithered : dithered) << "allocation " << call;
+        EXPECT_EQ(plain.Save(), call <= 5 ? undithered : dithered) << "allocation " << call;
     }
 }
 

@@ -175,7 +175,7 @@ TEST(PixelMapper, WithoutMemoryForTheCacheItMapsTheSame) {
     const auto picture = PictureOf(3, 1, {0xFF123456, 0xFFABCDEF, 0xFF123456});
     PixelMapper plenty(kTransparent, false, 3);
     const Indices expected = Picture(plenty, palette, *picture);
-    // The buckets, the three rows, and the two colours.
+    // The cache's two blocks and the three rows, and none for the colours themselves.
     for (int32 call = 1; call <= 7; ++call) {
         const AllocationFault fault(call);
         PixelMapper mapper(kTransparent, false, 3);
@@ -183,13 +183,31 @@ TEST(PixelMapper, WithoutMemoryForTheCacheItMapsTheSame) {
     }
 }
 
+TEST(PixelMapper, AsksForMemoryAFewTimesWhateverTheNumberOfColours) {
+    std::vector<uint32> argb;
+    for (uint32 i = 0; i < 10000; ++i)
+        argb.push_back(0xFF000000U | i * 1000);
+    const auto picture = PictureOf(10000, 1, argb);
+    const Palette palette(kPaletteGreyscale);
+    const AllocationFault fault(1000);
+    PixelMapper mapper(kTransparent, false, 10000);
+
+    const Indices indices = Picture(mapper, palette, *picture);
+
+    EXPECT_LT(fault.Calls(), 20);
+    for (uint32 i = 0; i < 10000; ++i) {
+        const rgb_color color = PixelColor(picture.get(), static_cast<int32>(i), 0);
+        ASSERT_EQ(indices[i], palette.IndexForColor(color));
+    }
+}
+
 TEST(PixelMapper, WithoutMemoryForTheErrorsItDoesNotDither) {
     const Palette palette = BlackAndWhite();
     const auto picture = Grey(2, 1, 100);
-    for (int32 call = 1; call <= 5; ++call) {
+    for (int32 call = 1; call <= 6; ++call) {
         const AllocationFault fault(call);
         PixelMapper mapper(kTransparent, true, 2);
-        const Indices expected = call <= 4 ? Indices{0, 0} : Indices{0, 1};
+        const Indices expected = call <= 5 ? Indices{0, 0} : Indices{0, 1};
         EXPECT_EQ(Picture(mapper, palette, *picture), expected) << "allocation " << call;
     }
 }

@@ -1,5 +1,6 @@
 #include "framework/qt/text_control.h"
 
+#include <QAction>
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <gtest/gtest.h>
@@ -20,15 +21,31 @@ class TextControls : public ::testing::Test {
             QCoreApplication::sendEvent(&field, &press);
         }
     }
-    void Press(int key) {
-        QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
+    void Press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        QKeyEvent press(QEvent::KeyPress, key, modifiers);
         QCoreApplication::sendEvent(&field, &press);
+    }
+    // Puts the field into a window that has Ctrl and the key as a shortcut.
+    QAction& AddShortcut(Qt::Key key) {
+        field.setParent(&window);
+        auto* action = new QAction(&window);
+        action->setShortcut(QKeySequence(Qt::CTRL | key));
+        window.addAction(action);
+        return *action;
+    }
+    // True when the field wants Ctrl and the key for itself.
+    bool Overrides(Qt::Key key) {
+        QKeyEvent question(QEvent::ShortcutOverride, key, Qt::ControlModifier);
+        question.ignore();
+        QCoreApplication::sendEvent(&field, &question);
+        return question.isAccepted();
     }
     void Leave(Qt::FocusReason reason = Qt::OtherFocusReason) {
         QFocusEvent leave(QEvent::FocusOut, reason);
         QCoreApplication::sendEvent(&field, &leave);
     }
 
+    QWidget window;
     std::shared_ptr<PortRecorder> port = std::make_shared<PortRecorder>();
     TextControl field{"Loop count", BMessage(kChanged), BMessenger(port)};
 };
@@ -151,6 +168,33 @@ TEST_F(TextControls, KeepTheCursorWhenTheTextIsTheSame) {
     field.ShowText("123");
 
     EXPECT_EQ(field.cursorPosition(), 1);
+}
+
+TEST_F(TextControls, LeaveTheShortcutsOfTheirWindowToIt) {
+    AddShortcut(Qt::Key_Z);
+
+    EXPECT_FALSE(Overrides(Qt::Key_Z));
+    EXPECT_TRUE(Overrides(Qt::Key_Y)) << "Nobody else wants this one.";
+}
+
+TEST_F(TextControls, KeepTheirTextFromShortcutsThatAreDisabled) {
+    AddShortcut(Qt::Key_X).setEnabled(false);
+    Type("12");
+    field.selectAll();
+
+    Press(Qt::Key_X, Qt::ControlModifier);
+
+    EXPECT_EQ(field.text(), "12");
+}
+
+TEST_F(TextControls, KeepCtrlAForTheirText) {
+    AddShortcut(Qt::Key_A);
+    Type("12");
+
+    EXPECT_TRUE(Overrides(Qt::Key_A));
+    Press(Qt::Key_A, Qt::ControlModifier);
+
+    EXPECT_EQ(field.selectedText(), "12");
 }
 
 TEST_F(TextControls, OutliveTheirTarget) {

@@ -27,6 +27,14 @@ TEST(BAlert, IsAWarningUnlessSaidOtherwise) {
     EXPECT_EQ(BAlert("", "Text", "OK").Type(), B_WARNING_ALERT);
 }
 
+TEST(BAlert, HasItsLastButtonAsTheDefaultUnlessSaidOtherwise) {
+    BAlert alert("", "Text", "Cancel", "No", "Yes");
+    EXPECT_EQ(BAlert("", "Text", "OK").DefaultButton(), 0);
+    EXPECT_EQ(alert.DefaultButton(), 2);
+    alert.SetDefaultButton(1);
+    EXPECT_EQ(alert.DefaultButton(), 1);
+}
+
 TEST(BAlert, GivesThePresentersAnswer) {
     AlertRecorder recorder({0, 1});
     EXPECT_EQ(BAlert("Quit", "Save?", "Cancel", "Save", "", B_IDEA_ALERT).Go(), 0);

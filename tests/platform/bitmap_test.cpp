@@ -70,24 +70,24 @@ TEST(BBitmap, HasNoBitsWhereARowOrASidePassesInt32) {
 }
 
 TEST(BBitmap, HasNoBitsWhenMemoryIsShort) {
-    const auto budget = std::make_shared<PixelBudget>(1000);
+    const auto budget = std::make_shared<PixelBudget>(5000);
     const AllocationFault fault(1);
     const BBitmap bitmap(BRect::OfSize(4, 4), B_RGB32, budget);
     EXPECT_EQ(bitmap.InitCheck(), B_NO_MEMORY);
     EXPECT_EQ(budget->Used(), 0u);
 }
 
-TEST(BBitmap, ReservesItsBytesAndGivesThemBack) {
-    const auto budget = std::make_shared<PixelBudget>(1000);
+TEST(BBitmap, ReservesItsBytesAndAFramesCostAndGivesThemBack) {
+    const auto budget = std::make_shared<PixelBudget>(5000);
     {
         const BBitmap bitmap(BRect::OfSize(4, 4), B_RGB32, budget);
-        EXPECT_EQ(budget->Used(), 64u);
+        EXPECT_EQ(budget->Used(), 64u + PixelBudget::kFrameCost);
     }
     EXPECT_EQ(budget->Used(), 0u);
 }
 
 TEST(BBitmap, HasNoBitsWhenTheBudgetRefusesThem) {
-    const auto budget = std::make_shared<PixelBudget>(63);
+    const auto budget = std::make_shared<PixelBudget>(63 + PixelBudget::kFrameCost);
     {
         const BBitmap bitmap(BRect::OfSize(4, 4), B_RGB32, budget);
         EXPECT_EQ(bitmap.InitCheck(), B_NO_MEMORY);
@@ -97,7 +97,7 @@ TEST(BBitmap, HasNoBitsWhenTheBudgetRefusesThem) {
 }
 
 TEST(BBitmap, MayOutliveTheOwnerOfItsBudget) {
-    auto budget = std::make_shared<PixelBudget>(1000);
+    auto budget = std::make_shared<PixelBudget>(5000);
     const std::weak_ptr<PixelBudget> watched = budget;
     auto bitmap = std::make_unique<BBitmap>(BRect::OfSize(4, 4), B_RGB32, budget);
     budget.reset();

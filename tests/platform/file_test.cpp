@@ -10,6 +10,7 @@
 #include <sys/xattr.h>
 #include <unistd.h>
 
+#include "support/ordinary_user.h"
 #include "support/test_support.h"
 
 namespace kirto::test {
@@ -65,23 +66,6 @@ class FileSizeLimit {
   private:
     rlimit previous_ = {};
     sighandler_t previous_handler_ = SIG_DFL;
-};
-
-// While alive, a privileged process has no more rights to files than anybody.
-class OrdinaryUser {
-  public:
-    OrdinaryUser() {
-        if (user_ == 0) changed_ = seteuid(65534) == 0;
-    }
-    ~OrdinaryUser() {
-        if (changed_ && seteuid(user_) != 0) std::abort();
-    }
-    OrdinaryUser(const OrdinaryUser&) = delete;
-    OrdinaryUser& operator=(const OrdinaryUser&) = delete;
-
-  private:
-    const uid_t user_ = geteuid();
-    bool changed_ = false;
 };
 
 // While alive, the process's file mode creation mask.
@@ -368,6 +352,43 @@ TEST(BFile, KeepsThePermissionsOfItsTarget) {
         EXPECT_EQ(BFile::CreateReplacing(fixture.path)->Commit(), B_OK);
         EXPECT_EQ(PermissionsOf(fixture.path), mode);
     }
+}
+
+TEST(BFile, KeepsTheExtendedAttributesOfItsTarget) {
+    const ReplacingFixture fixture;
+    if (setxattr(fixture.path.c_str(), "user.comment", "kept", 4, 0) != 0) {
+        GTEST_SKIP() << "no extended attributes in the temporary folder";
+    }
+    setxattr(fixture.path.c_str(), "user.mime_type", "text/plain", 10, 0);
+
+    EXPECT_EQ(BFile::CreateReplacing(fixture.path)->Commit(), B_OK);
+
+    char value[8] = {};
+    EXPECT_EQ(getxattr(fixture.path.c_str(), "user.comment", value, sizeof(value)), 4);
+    EXPECT_STREQ(value, "kept");
+    EXPECT_EQ(getxattr(fixture.path.c_str(), "user.mime_type", value, sizeof(value)), -1);
+}
+
+TEST(BFile, KeepsTheAccessListOfItsTarget) {
+    constexpr const char* kAccessList = "system.posix_acl_access";
+    // Version 2; owner rw, user 12345 r, group r, mask r, others none, as tag, rights and id.
+    const std::vector<uint8> list = {2,  0, 0, 0,                          //
+                                     1,  0, 6, 0, 0xFF, 0xFF, 0xFF, 0xFF,  //
+                                     2,  0, 4, 0, 0x39, 0x30, 0,    0,     //
+                                     4,  0, 4, 0, 0xFF, 0xFF, 0xFF, 0xFF,  //
+                                     16, 0, 4, 0, 0xFF, 0xFF, 0xFF, 0xFF,  //
+                                     32, 0, 0, 0, 0xFF, 0xFF, 0xFF, 0xFF};
+    const ReplacingFixture fixture;
+    if (setxattr(fixture.path.c_str(), kAccessList, list.data(), list.size(), 0) != 0) {
+        GTEST_SKIP() << "no access lists in the temporary folder";
+    }
+
+    EXPECT_EQ(BFile::CreateReplacing(fixture.path)->Commit(), B_OK);
+
+    std::vector<uint8> kept(list.size());
+    EXPECT_EQ(getxattr(fixture.path.c_str(), kAccessList, kept.data(), kept.size()),
+              static_cast<ssize_t>(list.size()));
+    EXPECT_EQ(kept, list);
 }
 
 TEST(BFile, DoesNotHandDownTheRightsOfAProgram) {

@@ -193,8 +193,10 @@ TEST(Targa, RefusesAHugePictureInATinyFile) {
 TEST(Targa, RefusesWhatTheBudgetDoesNotAllow) {
     const Bytes bytes = Header(kColor, 2, 2, 24) + Bytes(12);
 
-    EXPECT_EQ(Read(bytes, std::make_shared<PixelBudget>(15)).status, B_NO_MEMORY);
-    EXPECT_EQ(Read(bytes, std::make_shared<PixelBudget>(16)).status, B_OK);
+    EXPECT_EQ(Read(bytes, std::make_shared<PixelBudget>(PixelBudget::kFrameCost + 15)).status,
+              B_NO_MEMORY);
+    EXPECT_EQ(Read(bytes, std::make_shared<PixelBudget>(PixelBudget::kFrameCost + 16)).status,
+              B_OK);
 }
 
 TEST(Targa, FailsWithoutMemory) {

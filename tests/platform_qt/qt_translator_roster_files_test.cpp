@@ -8,10 +8,6 @@ namespace kirto::test {
 
 namespace {
 
-Bytes BytesOf(const std::string& text) {
-    return {text.begin(), text.end()};
-}
-
 // A JPEG of 16 x 8 pixels, red at the left and blue at the right, that asks to be turned.
 Bytes TurnedJpeg(uint8 orientation) {
     QImage image(16, 8, QImage::Format_RGB32);

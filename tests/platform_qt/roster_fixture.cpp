@@ -6,6 +6,25 @@
 
 namespace kirto::test {
 
+namespace {
+
+void AppendBig32(Bytes* bytes, uint32 value) {
+    for (const int shift : {24, 16, 8, 0})
+        bytes->push_back(static_cast<uint8>(value >> shift));
+}
+
+uint32 Crc(const Bytes& bytes) {
+    uint32 crc = 0xFFFFFFFF;
+    for (const uint8 byte : bytes) {
+        crc ^= byte;
+        for (int bit = 0; bit < 8; ++bit)
+            crc = crc >> 1 ^ (crc & 1 ? 0xEDB88320 : 0);
+    }
+    return ~crc;
+}
+
+}  // namespace
+
 std::string ForeignPluginFolder() {
     return std::filesystem::temp_directory_path().string();
 }
@@ -70,6 +89,30 @@ Bytes FileOf(const QImage& image, const char* qt_format, int quality) {
     buffer.open(QIODevice::WriteOnly);
     EXPECT_TRUE(image.save(&buffer, qt_format, quality)) << qt_format;
     return {buffer.data().begin(), buffer.data().end()};
+}
+
+Bytes BytesOf(const std::string& text) {
+    return {text.begin(), text.end()};
+}
+
+void AppendChunk(Bytes* png, const std::string& type, const Bytes& data) {
+    Bytes checked = BytesOf(type);
+    checked.insert(checked.end(), data.begin(), data.end());
+    AppendBig32(png, static_cast<uint32>(data.size()));
+    png->insert(png->end(), checked.begin(), checked.end());
+    AppendBig32(png, Crc(checked));
+}
+
+Bytes PngHeader(uint32 width, uint32 height) {
+    Bytes png = {0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n'};
+    Bytes header;
+    AppendBig32(&header, width);
+    AppendBig32(&header, height);
+    header.insert(header.end(), {8, 2, 0, 0, 0});
+    AppendChunk(&png, "IHDR", header);
+    AppendChunk(&png, "IDAT", {0x78, 0x9C, 3, 0, 0, 0, 0, 1});
+    AppendChunk(&png, "IEND", {});
+    return png;
 }
 
 std::shared_ptr<BBitmap> Photograph(int32 width, int32 height) {

@@ -48,6 +48,11 @@ class QtTranslatorRosterTest : public testing::Test {
 
 // The image as a file that Qt itself writes.
 Bytes FileOf(const QImage& image, const char* qt_format, int quality = -1);
+Bytes BytesOf(const std::string& text);
+// Appends a chunk of a PNG file.
+void AppendChunk(Bytes* png, const std::string& type, const Bytes& data);
+// A true-colour PNG that says its size and has next to no data.
+Bytes PngHeader(uint32 width, uint32 height);
 // width x height pixels of a soft pattern with some noise, opaque.
 std::shared_ptr<BBitmap> Photograph(int32 width, int32 height);
 BMessage NumberSetting(const char* name, int32 value);

@@ -148,9 +148,13 @@ TEST_F(CheckInputTest, TakesTheRealNumberThatTheFieldShows) {
     EXPECT_EQ(field.text(), "0.13");
 }
 
-TEST_F(CheckInputTest, ReadsAnExponentAsWhatFollowsTheNumber) {
-    EXPECT_EQ(Real("1e5"), 1.0);
-    EXPECT_EQ(Whole("1e5"), 1);
+TEST_F(CheckInputTest, TakesAnExponentInRealNumbersOnly) {
+    EXPECT_EQ(Real("1e3"), 1000.0);
+    EXPECT_EQ(field.text(), "1000.00");
+    EXPECT_EQ(Real("25e-2"), 0.25);
+    EXPECT_EQ(field.text(), "0.25");
+    EXPECT_EQ(Whole("1e3"), 1);
+    EXPECT_EQ(field.text(), "1");
 }
 
 TEST_F(CheckInputTest, TellsThatARealNumberIsTooLowWithTwoDecimals) {

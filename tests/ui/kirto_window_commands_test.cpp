@@ -88,6 +88,17 @@ TEST_F(KirtoWindowCommands, SaveAsShowsTheSavePanelWithAnEmptyNameAlsoForAnUnmod
     EXPECT_EQ(panels.TakeLines(), (Lines{"save text=", "save shown"}));
 }
 
+TEST_F(KirtoWindowCommands, SaveAsShowsTheSavePanelInTheDocumentsFolder) {
+    document.file_name = "some.gif";
+    document.file_directory = "/some/folder";
+    OpenWithFrames(1);
+
+    Do(kMenuSaveAs);
+
+    EXPECT_EQ(panels.TakeLines(),
+              (Lines{"save directory=/some/folder", "save text=", "save shown"}));
+}
+
 TEST_F(KirtoWindowCommands, SaveAsDoesNothingWithoutFrames) {
     Open();
 
@@ -135,6 +146,8 @@ TEST_F(KirtoWindowCommands, FadeEffectsOpensItsWindow) {
     auto* fade = window->findChild<FadeWindow*>();
     ASSERT_NE(fade, nullptr);
     EXPECT_TRUE(fade->isVisible());
+    EXPECT_GE(fade->width(), 350);
+    EXPECT_GE(fade->height(), 135);
     // Within the decoration, which the window does not know beforehand.
     const QPoint center = QGuiApplication::primaryScreen()->geometry().center();
     EXPECT_LE((fade->geometry().center() - center).manhattanLength(), 8);

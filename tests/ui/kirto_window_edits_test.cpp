@@ -203,6 +203,19 @@ TEST_F(KirtoWindowEdits, UntickAndDisableDitherForGreyscaleAndOnlyEnableItForOth
     }
 }
 
+TEST_F(KirtoWindowEdits, ShowPausesOfManyDigitsWithTwoDecimals) {
+    EditOf(document)->use_pause = true;
+    Open();
+    TextControl& length = Field("GlobalView", "Pause length");
+
+    Enter(length, "12345678901");
+
+    EXPECT_EQ(length.text(), "12345678901.00");
+    CarryOutEdits();
+    EXPECT_EQ(length.text(), "12345678901.00");
+    EXPECT_EQ(document.Current()->pause_length, 12345678901.0);
+}
+
 TEST_F(KirtoWindowEdits, AskForAPalettesFile) {
     Open();
 

@@ -11,6 +11,7 @@ class RecordedPanels::Panel : public FilePanel {
     Panel(Lines& lines, std::string name) : lines_(lines), name_(std::move(name)) {}
 
     void SetTitle(const std::string& title) override { Record("title=" + title); }
+    void SetDirectory(const std::string& path) override { Record("directory=" + path); }
     void SetSaveText(const std::string& text) override { Record("text=" + text); }
     void Show() override { Record("shown"); }
 

@@ -4,7 +4,10 @@
 #include <QMenuBar>
 #include <QProgressBar>
 #include <QScreen>
+#include <QScrollArea>
 #include <QSlider>
+#include <QTimer>
+#include <limits>
 #include <thread>
 
 #include "document/document_scope.h"
@@ -67,6 +70,29 @@ TEST_F(KirtoWindowTest, IsAtLeast550By400Pixels) {
     window->resize(10, 10);
     EXPECT_GE(window->width(), 550);
     EXPECT_GE(window->height(), 400);
+}
+
+TEST_F(KirtoWindowTest, HasRoomForAllPanelsAtTheCornerOfTheDefaultPlace) {
+    Open(Prefs(Prefs::BuiltIn{}).misc_windowdimensions);
+
+    const QScrollArea& area = Find<QScrollArea>("Panels");
+    EXPECT_EQ(window->geometry().topLeft(), QPoint(100, 80));
+    EXPECT_TRUE(window->screen()->availableGeometry().contains(window->geometry()));
+    EXPECT_GE(area.viewport()->height(), area.widget()->minimumSizeHint().height());
+    EXPECT_GT(Find<QWidget>("ThumbnailView").width(), area.width());
+}
+
+TEST_F(KirtoWindowTest, IsNoLargerThanTheScreensWhateverTheSettingsHold) {
+    const QSize screens = QGuiApplication::primaryScreen()->availableVirtualSize();
+    const float nan = std::numeric_limits<float>::quiet_NaN();
+    for (const BRect& frame :
+         {BRect(100, 80, 1e9F, 1e9F), BRect(-1e9F, -1e9F, 1e9F, 1e9F), BRect(0, 0, 3e38F, 3e38F),
+          BRect(1e9F, 1e9F, -1e9F, -1e9F), BRect(nan, nan, nan, nan)}) {
+        Open(frame);
+        EXPECT_LE(window->width(), screens.width());
+        EXPECT_LE(window->height(), screens.height());
+        EXPECT_TRUE(window->screen()->availableGeometry().intersects(window->geometry()));
+    }
 }
 
 TEST_F(KirtoWindowTest, StandsInTheMiddleOfTheScreenWhenItsPlaceIsOnNone) {
@@ -251,11 +277,11 @@ TEST_F(KirtoWindowTest, ANewDocumentIsNotOvertakenByARefreshThatWaited) {
     {
         const WriterScope writer(document);
         Do(kUpdateAll);
+        ASSERT_TRUE(Find<QTimer>("Retry").isActive());
         window->ResetDisplay();
     }
 
-    QTest::qWait(50);
-
+    EXPECT_FALSE(Find<QTimer>("Retry").isActive());
     EXPECT_EQ(window->windowTitle(), "Kirto - untitled");
     EXPECT_EQ(window->Shown().FrameCount(), 0);
 }

@@ -157,6 +157,49 @@ TEST_F(OpenFilePanelTest, InsertsSeveralFiles) {
     EXPECT_TRUE(IsClosing(Sent(1)));
 }
 
+TEST_F(OpenFilePanelTest, InsertsSeveralFilesOfOtherFolders) {
+    for (const char* name : {"one", "two"}) {
+        fs::create_directory(folder.File(name));
+        AddFile(std::string(name) + "/a.raw");
+    }
+    AddFile("b.raw");
+    Show(FilePanelKind::kInsert);
+    const std::string one = folder.File("one/a.raw");
+    const std::string two = folder.File("two/a.raw");
+
+    Choose(QString::fromStdString("\"" + one + "\" \"b.raw\" \"" + two + "\""));
+
+    ASSERT_EQ(application->Transcript(), "aifp _CNC");
+    EXPECT_EQ(Refs(Sent(0)), (std::vector<std::string>{one, folder.File("b.raw"), two}));
+}
+
+TEST_F(OpenFilePanelTest, SurvivesKeysTypedBehindTheOneThatClosesIt) {
+    AddFile("m.gif");
+    for (const Qt::Key closing : {Qt::Key_Escape, Qt::Key_Return}) {
+        Show(FilePanelKind::kOpen);
+        ASSERT_EQ(Offered(1), "m.gif");
+        ASSERT_TRUE(QTest::qWaitForWindowActive(Dialog()));
+        NameField()->setFocus();
+        QTest::keyClicks(NameField(), "m.gi");
+        EXPECT_TRUE(WaitFor([] { return QApplication::activePopupWidget() != nullptr; }));
+        QTest::keyClicks(NameField(), "f");
+
+        for (const auto& [key, text] :
+             {std::pair{closing, ""}, {Qt::Key_M, "m"}, {Qt::Key_M, "m"}, {Qt::Key_Period, "."}}) {
+            QCoreApplication::postEvent(NameField(),
+                                        new QKeyEvent(QEvent::KeyPress, key, Qt::NoModifier, text));
+        }
+        EXPECT_TRUE(WaitFor([this] { return !Dialog()->isVisible(); }));
+        QCoreApplication::processEvents();
+
+        EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+        panel->Show();
+        EXPECT_EQ(NameField()->text(), "") << "The dialog can be used again.";
+        QTest::keyClicks(NameField(), "m");
+        EXPECT_TRUE(WaitFor([] { return QApplication::activePopupWidget() != nullptr; }));
+    }
+}
+
 TEST_F(OpenFilePanelTest, OffersImagesToInsert) {
     AddFile("a.gif");
     AddFile("b.txt");

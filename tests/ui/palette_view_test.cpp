@@ -2,6 +2,7 @@
 
 #include <QAbstractItemView>
 
+#include "app/document_edits.h"
 #include "ui/view_fixture.h"
 
 namespace kirto::test {
@@ -14,6 +15,13 @@ class PaletteViewTest : public ViewFixture {
   protected:
     void ShowMode(int32 mode) {
         PaletteEditOf(document)->mode = mode;
+        Take();
+        panel.UpdateDisplay();
+    }
+
+    // Changes the document as the application does on the command, and shows it.
+    void Edit(uint32 code) {
+        ASSERT_TRUE(ApplyEdit(document, BMessage(code)));
         Take();
         panel.UpdateDisplay();
     }
@@ -102,20 +110,20 @@ TEST_F(PaletteViewTest, DisablesTheTransparentIndexWhileTransparencyIsOff) {
 TEST_F(PaletteViewTest, UnticksAndDisablesDitherForGreyscaleAndOnlyEnablesItForOtherKinds) {
     PaletteEditOf(document)->dither = true;
 
-    ShowMode(kPaletteGreyscale);
+    Edit(kPaletteToGreyscale);
     EXPECT_FALSE(panel.dither->isEnabled());
     EXPECT_FALSE(panel.dither->isChecked());
 
-    PaletteEditOf(document)->dither = false;
-    ShowMode(kPaletteWebSafe);
+    Edit(kPaletteToWebSafe);
     EXPECT_TRUE(panel.dither->isEnabled());
     EXPECT_FALSE(panel.dither->isChecked());
+    EXPECT_FALSE(document.Current()->palette->dither) << "The box shows what holds.";
 }
 
 TEST_F(PaletteViewTest, LeavesTheTickWhenDitherIsEnabled) {
     panel.dither->setChecked(true);
 
-    panel.EnableDither(false);
+    panel.AllowDither(true);
 
     EXPECT_TRUE(panel.dither->isEnabled());
     EXPECT_TRUE(panel.dither->isChecked());

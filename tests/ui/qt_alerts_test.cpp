@@ -122,6 +122,13 @@ TEST_F(QtAlertsTest, TakeEnterForTheLastButton) {
     EXPECT_EQ(Ask(Question(), [] { QTest::keyClick(Dialog(), Qt::Key_Return); }), 2);
 }
 
+TEST_F(QtAlertsTest, TakeEnterForTheButtonThatTheAlertSays) {
+    BAlert alert("", "text", "Salvage", "OK");
+    alert.SetDefaultButton(0);
+
+    EXPECT_EQ(Ask(alert, [] { QTest::keyClick(Dialog(), Qt::Key_Return); }), 0);
+}
+
 TEST_F(QtAlertsTest, ShowTheTypeAsAnIcon) {
     const std::pair<alert_type, QMessageBox::Icon> icons[] = {
         {B_EMPTY_ALERT, QMessageBox::NoIcon},     {B_INFO_ALERT, QMessageBox::Information},

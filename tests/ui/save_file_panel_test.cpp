@@ -136,6 +136,26 @@ TEST_F(SaveFilePanelTest, SendsTheTranslatorOfASequence) {
     EXPECT_EQ(PlaceIn(Sent(0)), "3 " + folder.Path() + " movie.png");
 }
 
+TEST_F(SaveFilePanelTest, OpensInTheFolderItIsTold) {
+    Make(FilePanelKind::kSave);
+    panel->SetDirectory(folder.Path());
+    panel->Show();
+    EXPECT_EQ(Dialog()->directory().absolutePath().toStdString(), folder.Path());
+    Dialog()->reject();
+    fs::create_directory(folder.File("below"));
+
+    panel->SetDirectory(folder.File("below"));
+    panel->Show();
+
+    EXPECT_EQ(Dialog()->directory().absolutePath().toStdString(), folder.File("below"));
+}
+
+TEST_F(SaveFilePanelTest, StaysInItsFolderWhenTheOneItIsToldIsGone) {
+    Show(FilePanelKind::kSave);
+    panel->SetDirectory(folder.File("gone"));
+    EXPECT_EQ(Dialog()->directory().absolutePath().toStdString(), folder.Path());
+}
+
 TEST_F(SaveFilePanelTest, SaysOnlyThatItClosedWhenItIsCancelled) {
     Show(FilePanelKind::kSave);
     QTest::keyClick(Dialog(), Qt::Key_Escape);

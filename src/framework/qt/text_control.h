@@ -24,6 +24,11 @@ class TextControl : public QLineEdit {
     // The same, but leaves alone a field that the user is editing.
     void ShowText(const QString& text);
 
+  protected:
+    // The window's shortcuts are its menu's, whatever they would do to the text; Ctrl+A selects the
+    // text, though.
+    bool event(QEvent* event) override;
+
   private:
     BMessage message_;
     BMessenger target_;

@@ -40,8 +40,14 @@ HeadlessDesktop::~HeadlessDesktop() {
 }
 
 int32 HeadlessDesktop::Present(const BAlert& alert) {
-    Complain(subject_.empty() ? alert.Text() : subject_ + ": " + alert.Text());
-    if (salvage_ && alert.Buttons().front() == "Salvage") return 0;
+    std::string text = alert.Text();
+    if (text == kOutOfMemory) text += " Use --memory-limit to let frames take more.";
+    Complain(subject_.empty() ? text : subject_ + ": " + text);
+    if (salvage_ && alert.Buttons().front() == "Salvage") {
+        // What has gone wrong before the question is the reason for it.
+        failure_ = false;
+        return 0;
+    }
     failure_ = true;
     return static_cast<int32>(alert.Buttons().size()) - 1;
 }

@@ -7,11 +7,13 @@
 #include <csignal>
 #include <cstdio>
 #include <filesystem>
+#include <optional>
 #include <thread>
 
 #include "app/kirto.h"
 #include "framework/resource_file_path.h"
 #include "main/editor/editor_arguments.h"
+#include "main/editor/printed_alerts.h"
 #include "main/editor/screenshot.h"
 #include "platform/qt/qt_translator_roster.h"
 #include "ui/editor_style.h"
@@ -20,6 +22,7 @@
 namespace {
 
 constexpr int kIconDelayMilliseconds = 100;
+constexpr int kExitFailed = 1;
 
 BMessage RefsMessage(const std::vector<std::string>& files) {
     BMessage refs(B_REFS_RECEIVED);
@@ -33,6 +36,9 @@ BMessage RefsMessage(const std::vector<std::string>& files) {
 int RunEditor(const kirto::EditorArguments& arguments) {
     kirto::QtTranslatorRoster roster;
     kirto::QtDesktop desktop(roster);
+    // A picture is taken where nobody answers an alert.
+    std::optional<kirto::PrintedAlerts> printed;
+    if (!arguments.screenshot.empty()) printed.emplace();
     Prefs prefs;
     Kirto application(prefs, desktop, roster, entry_ref(kirto::ResourceFilePath()));
     if (!arguments.files.empty()) application.PostMessage(RefsMessage(arguments.files));
@@ -48,7 +54,8 @@ int RunEditor(const kirto::EditorArguments& arguments) {
     desktop.CloseWindows();
     application.Quit();
     loop.join();
-    return status;
+    const bool told = printed && printed->Presented();
+    return told || application.Error() != 0 ? kExitFailed : status;
 }
 
 }  // namespace

@@ -1,14 +1,19 @@
 #include "platform/qt/qt_translator_roster.h"
 
+#include <QBuffer>
 #include <QCoreApplication>
-#include <QImage>
 #include <QImageReader>
 #include <QImageWriter>
 #include <QLibraryInfo>
 #include <algorithm>
 #include <cstring>
+#include <functional>
 
+#include "platform/image_header.h"
 #include "platform/qt/file_device.h"
+#include "platform/qt/image_bitmap.h"
+#include "platform/qt/png_device.h"
+#include "platform/qt/safe_drawing.h"
 #include "platform/qt/straight_tiff.h"
 #include "platform/targa.h"
 
@@ -20,49 +25,13 @@ bool IsTarga(const ImageFormat& format) {
     return *format.qt_name == '\0';
 }
 
-// Qt's own Targa reader knows only some of the format's forms, and to Qt many a Targa file looks
-// like a Windows cursor.
-bool MayBeTarga(const QByteArray& qt_format) {
-    return qt_format.isEmpty() || qt_format == "tga" || qt_format == "ico" || qt_format == "cur";
+bool Is(const ImageHeader& header, const char* format) {
+    return std::strcmp(header.format, format) == 0;
 }
 
-bool HasTransparency(const BBitmap& bitmap) {
-    const size_t alpha = IsBigEndian(bitmap.ColorSpace()) ? 0 : 3;
-    for (size_t i = alpha; i < bitmap.BitsLength(); i += 4) {
-        if (bitmap.Bits()[i] != 255) return true;
-    }
-    return false;
-}
-
-// The picture for Qt; without transparent pixels it says so, so that files get no alpha channel for
-// nothing.
-QImage ImageOf(const BBitmap& bitmap) {
-    const QImage::Format format =
-        HasTransparency(bitmap) ? QImage::Format_ARGB32 : QImage::Format_RGB32;
-    QImage image(bitmap.Width(), bitmap.Height(), format);
-    if (image.isNull()) return image;
-    for (int32 y = 0; y < bitmap.Height(); ++y) {
-        uchar* target = image.scanLine(y);
-        std::memcpy(target, bitmap.Row(y), bitmap.BytesPerRow());
-        if (!IsBigEndian(bitmap.ColorSpace())) continue;
-        for (int32 x = 0; x < bitmap.Width(); ++x, target += 4)
-            std::reverse(target, target + 4);
-    }
-    return image;
-}
-
-std::shared_ptr<BBitmap> BitmapOf(const QImage& image, std::shared_ptr<PixelBudget> budget) {
-    const bool has_alpha = image.hasAlphaChannel();
-    auto bitmap = std::make_shared<BBitmap>(BRect::OfSize(image.width(), image.height()),
-                                            has_alpha ? B_RGBA32 : B_RGB32, std::move(budget));
-    if (bitmap->InitCheck() != B_OK) return nullptr;
-    const QImage pixels =
-        image.convertToFormat(has_alpha ? QImage::Format_ARGB32 : QImage::Format_RGB32);
-    if (pixels.isNull()) return nullptr;
-    for (int32 y = 0; y < bitmap->Height(); ++y) {
-        std::memcpy(bitmap->Row(y), pixels.constScanLine(y), bitmap->BytesPerRow());
-    }
-    return bitmap;
+// Targa files have no signature, and many look like Windows cursors.
+bool MayBeTarga(const ImageHeader& header) {
+    return Is(header, "") || Is(header, "ico");
 }
 
 // Bytes that the budget still allows.
@@ -79,10 +48,96 @@ int AllocationLimit(const PixelBudget* budget) {
     return static_cast<int>(std::min<uint64>((BytesLeft(budget) >> 19) + 1, 1 << 20));
 }
 
-bool FitsBudget(QSize size, const PixelBudget* budget) {
-    if (!size.isValid()) return true;
-    const uint64 pixels = static_cast<uint64>(size.width()) * static_cast<uint64>(size.height());
-    return pixels <= BytesLeft(budget) / 4;
+// What decoding may take beyond the budget for a while.
+constexpr uint64 kWorkingRoom = uint64{64} << 20;
+
+bool FitsBudget(const ImageHeader& header, const PixelBudget* budget) {
+    const uint64 left = BytesLeft(budget);
+    return header.Pixels() <= left / 4 &&
+           4 * header.Pixels() + header.working_bytes <= left + kWorkingRoom;
+}
+
+// Whether the picture as Qt decodes it finds room beside the bitmap that is made of it.
+bool FitsTwice(const QImageReader& reader, const ImageHeader& header, const PixelBudget* budget) {
+    // Some readers answer with what is no format at all.
+    const QImage::Format format = reader.imageFormat();
+    const bool known = format > QImage::Format_Invalid && format < QImage::NImageFormats;
+    const uint64 bits = known ? QImage::toPixelFormat(format).bitsPerPixel() : 32;
+    const bool turned = reader.transformation() != QImageIOHandler::TransformationNone;
+    const uint64 bytes = (turned ? 2 : 1) * (header.Pixels() * bits / 8);
+    return 4 * header.Pixels() + header.working_bytes + bytes <= BytesLeft(budget) + kWorkingRoom;
+}
+
+// The format's decoder alone sees the file.
+status_t Decode(QIODevice& device, const ImageHeader& header, std::shared_ptr<PixelBudget> budget,
+                std::shared_ptr<BBitmap>* result) {
+    QImageReader reader(&device, header.format);
+    reader.setAutoDetectImageFormat(false);
+    reader.setAutoTransform(true);
+    QImageReader::setAllocationLimit(AllocationLimit(budget.get()));
+    if (!reader.canRead()) return B_NO_TRANSLATOR;
+    ImageHeader size = header;
+    // Headers that leave the size open are those of formats that tell it without decoding.
+    if (header.Pixels() == 0 && reader.size().isValid()) {
+        size.width = static_cast<uint64>(reader.size().width());
+        size.height = static_cast<uint64>(reader.size().height());
+        if (!FitsBudget(size, budget.get())) return B_NO_MEMORY;
+    }
+    if (DecodesInPlace(reader)) return ReadInPlace(reader, std::move(budget), result);
+    if (!FitsTwice(reader, size, budget.get())) return B_NO_MEMORY;
+    const QImage image = reader.read();
+    if (image.isNull()) return B_NO_TRANSLATOR;
+    *result = BitmapOf(image, std::move(budget));
+    return *result ? B_OK : B_NO_MEMORY;
+}
+
+status_t DecodeFile(BFile& source, const ImageHeader& header, std::shared_ptr<PixelBudget> budget,
+                    std::shared_ptr<BBitmap>* result) {
+    if (Is(header, "png")) {
+        PngDevice device(source);
+        return Decode(device, header, std::move(budget), result);
+    }
+    FileDevice device(source, QIODevice::ReadOnly);
+    return Decode(device, header, std::move(budget), result);
+}
+
+// Reads the pictures within one drawing. They count against a ceiling together.
+class EmbeddedImages {
+  public:
+    explicit EmbeddedImages(const PixelBudget* budget)
+        : bytes_left_(std::min(BytesLeft(budget), kMostBytes)) {}
+
+    QByteArray operator()(const QByteArray& bytes) {
+        const auto file = BFile::OnMemory({bytes.begin(), bytes.end()});
+        const ImageHeader header = ReadImageHeader(*file);
+        const bool allowed = Is(header, "png") || Is(header, "jpeg") || Is(header, "gif") ||
+                             Is(header, "webp") || Is(header, "bmp");
+        const auto budget = std::make_shared<PixelBudget>(bytes_left_);
+        if (!allowed || !FitsBudget(header, budget.get())) return {};
+        std::shared_ptr<BBitmap> bitmap;
+        if (DecodeFile(*file, header, budget, &bitmap) != B_OK) return {};
+        bytes_left_ -= bitmap->BitsLength();
+        QBuffer png;
+        png.open(QIODevice::WriteOnly);
+        return ImageOf(*bitmap).save(&png, "png") ? png.data() : QByteArray();
+    }
+
+  private:
+    static constexpr uint64 kMostBytes = uint64{256} << 20;
+
+    uint64 bytes_left_;
+};
+
+status_t DecodeDrawing(BFile& source, const ImageHeader& header,
+                       std::shared_ptr<PixelBudget> budget, std::shared_ptr<BBitmap>* result) {
+    QByteArray drawing;
+    EmbeddedImages embedded(budget.get());
+    const status_t status = ReadSafeDrawing(source, std::ref(embedded), &drawing);
+    if (status == B_BAD_DATA) return B_NO_TRANSLATOR;
+    if (status != B_OK) return status;
+    QBuffer device(&drawing);
+    device.open(QIODevice::ReadOnly);
+    return Decode(device, header, std::move(budget), result);
 }
 
 // The settings that the format has, absent ones and those of another kind at its defaults, as Qt's
@@ -147,28 +202,20 @@ status_t QtTranslatorRoster::Translate(BFile& source, std::shared_ptr<PixelBudge
                                        std::shared_ptr<BBitmap>* result) {
     result->reset();
     if (source.InitCheck() != B_OK) return source.InitCheck();
-    FileDevice device(source, QIODevice::ReadOnly);
-    QImageReader reader(&device);
-    reader.setDecideFormatFromContent(true);
-    reader.setAutoTransform(true);
-    const QByteArray format = reader.canRead() ? reader.format() : QByteArray();
-    if (MayBeTarga(format)) {
+    const ImageHeader header = ReadImageHeader(source);
+    if (MayBeTarga(header)) {
         const status_t status = ReadTarga(source, budget, result);
         if (status != B_BAD_DATA) return status;
-        if (format.isEmpty() || format == "tga") return B_NO_TRANSLATOR;
-        device.seek(0);
     }
-    if (format == "tiff" || format == "tif") {
+    if (Is(header, "")) return B_NO_TRANSLATOR;
+    if (!FitsBudget(header, budget.get())) return B_NO_MEMORY;
+    if (Is(header, "svg")) return DecodeDrawing(source, header, std::move(budget), result);
+    if (Is(header, "tiff")) {
+        source.Seek(0, SEEK_FROM_START);
         const status_t status = ReadStraightTiff(source, budget, result);
         if (status != B_BAD_DATA) return status;
-        device.seek(0);
     }
-    if (!FitsBudget(reader.size(), budget.get())) return B_NO_MEMORY;
-    QImageReader::setAllocationLimit(AllocationLimit(budget.get()));
-    const QImage image = reader.read();
-    if (image.isNull()) return B_NO_TRANSLATOR;
-    *result = BitmapOf(image, std::move(budget));
-    return *result ? B_OK : B_NO_MEMORY;
+    return DecodeFile(source, header, std::move(budget), result);
 }
 
 status_t QtTranslatorRoster::Translate(const BBitmap& source, translator_id translator,

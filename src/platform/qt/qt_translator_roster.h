@@ -8,8 +8,10 @@
 
 namespace kirto {
 
-// The image formats of Qt's installed plugins, one translator a format, and Targa. Pictures are
-// refused by their size before they are decoded. Needs a QGuiApplication while it is used.
+// The image formats of Qt's installed plugins, one translator a format, and Targa. Our own parsers
+// look at a file first: they choose the one decoder that will see it, refuse pictures by their size
+// and take away what could lead a decoder to other files or make it unpack without end. Needs a
+// QGuiApplication while it is used.
 class QtTranslatorRoster : public BTranslatorRoster {
   public:
     status_t Translate(BFile& source, std::shared_ptr<PixelBudget> budget,

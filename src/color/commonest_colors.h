@@ -1,0 +1,43 @@
+#pragma once
+
+#include "color/color_values.h"
+#include "platform/allocation.h"
+#include "platform/types.h"
+
+namespace kirto {
+
+// Picks the most frequent of any number of colors, at the same cost for each. Used by one thread.
+class CommonestColors {
+  public:
+    // size: how many to keep, at least 1.
+    explicit CommonestColors(size_t size);
+
+    // False when memory is too short to keep any.
+    bool Ready() const { return candidates_ != nullptr; }
+    // A color with its number of pixels. Colors come in the order in which they appear in the
+    // picture. Only while Ready().
+    void Add(const ColorValues::Item& color);
+    // The keys of the commonest colors in falling order; equally frequent ones by rising green and
+    // blue, those that differ only in red as they came. Returns how many there are, at most size.
+    size_t Keys(uint32* keys);
+
+  private:
+    struct Candidate {
+        uint32 key;
+        uint32 count;
+        uint32 place;  // among the colors added
+    };
+
+    static bool ComesBefore(const Candidate& a, const Candidate& b);
+    // Drops the candidates that are not among the commonest.
+    void Thin();
+
+    const size_t size_;
+    AllocatedArray<Candidate> candidates_;  // room for twice the size
+    size_t count_ = 0;
+    uint32 added_ = 0;
+    bool thinned_ = false;
+    Candidate last_{};  // once thinned: the last of the commonest so far
+};
+
+}  // namespace kirto

@@ -1,0 +1,202 @@
+// The main window over the application as it runs: what the user does, and what the document is
+// afterwards.
+#include <QCheckBox>
+#include <QComboBox>
+#include <QMenuBar>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include "app/kirto.h"
+#include "document/document_scope.h"
+#include "framework/qt/text_control.h"
+#include "support/environment.h"
+#include "support/fake_roster.h"
+#include "support/test_support.h"
+#include "ui/qt_desktop.h"
+#include "ui/widget_tools.h"
+
+namespace kirto::test {
+
+namespace {
+
+using Lines = std::vector<std::string>;
+
+class KirtoWindowDocument : public ::testing::Test {
+  protected:
+    KirtoWindowDocument() {
+        prefs.misc_tempfilelocation = folder.Path();
+        app = std::make_unique<Kirto>(prefs, desktop, roster);
+        for (const char* name : {"a", "b", "c"})
+            AppendFrame(*app, PictureOf(2, 1, {0xFF123456, 0xFF654321}), name);
+        app->Select(1);
+        app->SetModified(false);
+        Window().UpdateDisplay();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&Window()));
+        app->Run();
+    }
+    ~KirtoWindowDocument() override {
+        desktop.CloseWindows();
+        app->Quit();
+    }
+
+    KirtoWindow& Window() { return *desktop.MainWindow(); }
+    template <typename Control>
+    Control& Find(const char* panel, const char* name) {
+        return *Named<Control>(*Named<QWidget>(Window(), panel), name);
+    }
+    // Types over the field's text, as yet unconfirmed.
+    void Type(const char* panel, const char* field, const QString& text) {
+        auto& control = Find<TextControl>(panel, field);
+        // A box that was ticked before enables it.
+        EXPECT_TRUE(WaitFor([&] { return control.isEnabled(); })) << field;
+        control.setFocus();
+        control.selectAll();
+        QTest::keyClicks(&control, text);
+    }
+    void Enter(const char* panel, const char* field, const QString& text) {
+        Type(panel, field, text);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    }
+    void Choose(const char* label) {
+        for (const QAction* menu : Window().menuBar()->actions()) {
+            for (QAction* item : menu->menu()->actions()) {
+                if (item->text().remove('&') == label) return item->trigger();
+            }
+        }
+        ADD_FAILURE() << "no " << label;
+    }
+    // True once the document is as the condition says.
+    bool Becomes(const std::function<bool(const Kirto&)>& condition) {
+        return WaitFor([&] {
+            const ReaderScope reader(*app);
+            return condition(*app);
+        });
+    }
+    // True once the frames stand in this order, the current one in brackets.
+    bool FramesBecome(const std::string& names) {
+        std::string now;
+        const bool same = Becomes([&](const Kirto& document) {
+            now.clear();
+            for (const FramePointer& frame : document.Current()->frames) {
+                const bool current = frame->index == document.Selected();
+                now += current ? "[" + frame->name + "]" : frame->name;
+            }
+            return now == names;
+        });
+        EXPECT_EQ(now, names);
+        return same;
+    }
+
+    TemporaryFolder folder;
+    ScopedEnvironment configuration{"XDG_CONFIG_HOME", folder.Path().c_str()};
+    Prefs prefs{Prefs::BuiltIn{}};
+    FakeRoster roster;
+    QtDesktop desktop{roster};
+    std::unique_ptr<Kirto> app;
+};
+
+TEST_F(KirtoWindowDocument, TakesTheAnimationsNumbers) {
+    Enter("GlobalView", "Width", "77");
+    Enter("GlobalView", "Height", "88");
+    Enter("GlobalView", "Loop count", "5");
+    Enter("GlobalView", "Pause length", "12.5");
+
+    EXPECT_TRUE(Becomes([](const Kirto& document) {
+        return document.Current()->width == 77 && document.Current()->height == 88 &&
+               document.Current()->loop_count == 5 && document.Current()->pause_length == 12.5 &&
+               document.Modified();
+    }));
+}
+
+TEST_F(KirtoWindowDocument, TakesThePalettesChoices) {
+    QTest::mouseClick(&Find<QCheckBox>("PaletteView", "Transparent"), Qt::LeftButton, {}, {5, 8});
+    QTest::mouseClick(&Find<QCheckBox>("PaletteView", "Dither"), Qt::LeftButton, {}, {5, 8});
+    Enter("PaletteView", "Background index", "3");
+    Enter("PaletteView", "Transparent index", "4");
+
+    EXPECT_TRUE(Becomes([](const Kirto& document) {
+        const Palette& palette = *document.Current()->palette;
+        return palette.use_transparent && palette.dither && palette.background_index == 3 &&
+               palette.transparent_index == 4;
+    }));
+}
+
+TEST_F(KirtoWindowDocument, TakesTheCurrentFramesNumbersAndNoOthers) {
+    Enter("LocalView", "XOffset", "6");
+    Enter("LocalView", "YOffset", "7");
+    QTest::mouseClick(&Find<QCheckBox>("LocalView", "Pause"), Qt::LeftButton, {}, {5, 8});
+    Enter("LocalView", "Pause length", "1.5");
+
+    EXPECT_TRUE(Becomes([](const Kirto& document) {
+        const Frame& frame = *document.FirstFrame()->next;
+        return frame.x_offset == 6 && frame.y_offset == 7 && frame.use_pause &&
+               frame.pause_length == 1.5;
+    }));
+    EXPECT_EQ(app->FirstFrame()->x_offset, 0);
+    EXPECT_EQ(app->FirstFrame()->next->next->x_offset, 0);
+}
+
+TEST_F(KirtoWindowDocument, TakesOverWhatIsTypedBeforeAShortcutMovesTheFrame) {
+    Type("LocalView", "XOffset", "5");
+
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_U, Qt::ControlModifier);
+
+    EXPECT_TRUE(FramesBecome("[b]ac"));
+    EXPECT_TRUE(Becomes([](const Kirto& document) { return document.FirstFrame()->x_offset == 5; }));
+    EXPECT_TRUE(WaitFor([&] { return Find<TextControl>("LocalView", "XOffset").text() == "5"; }));
+}
+
+TEST_F(KirtoWindowDocument, MovesReversesAndRemovesFrames) {
+    Choose("Move Down");
+    EXPECT_TRUE(FramesBecome("ac[b]"));
+    Choose("Reverse All");
+    EXPECT_TRUE(FramesBecome("bc[a]")) << "The selection keeps its number.";
+    Choose("Remove");
+    EXPECT_TRUE(FramesBecome("b[c]"));
+}
+
+TEST_F(KirtoWindowDocument, UnticksDitherTogetherWithTheDocument) {
+    QTest::mouseClick(&Find<QCheckBox>("PaletteView", "Dither"), Qt::LeftButton, {}, {5, 8});
+    ASSERT_TRUE(Becomes([](const Kirto& document) { return document.Current()->palette->dither; }));
+    auto& menu = Find<QComboBox>("PaletteView", "PaletteMenuField");
+
+    menu.setCurrentText("greyscale");
+    emit menu.activated(menu.currentIndex());
+
+    EXPECT_TRUE(Becomes([](const Kirto& document) {
+        return document.Current()->palette->mode == kPaletteGreyscale &&
+               !document.Current()->palette->dither;
+    }));
+    EXPECT_FALSE(Find<QCheckBox>("PaletteView", "Dither").isChecked());
+}
+
+TEST_F(KirtoWindowDocument, SavesTheChangesAndIsUnmodifiedThen) {
+    {
+        const WriterScope writer(*app);
+        app->file_directory = folder.Path();
+        app->file_name = "some.gif";
+    }
+    Window().UpdateDisplay();
+    Enter("GlobalView", "Width", "77");
+    ASSERT_TRUE(Becomes([](const Kirto& document) { return document.Modified().load(); }));
+    ASSERT_TRUE(WaitFor([&] { return Window().Shown().modified; }));
+
+    Choose("Save");
+
+    EXPECT_TRUE(WaitFor([&] { return !Window().Shown().modified; }));
+    EXPECT_FALSE(app->Modified());
+    const std::vector<uint8> bytes = ReadBytes(folder.File("some.gif"));
+    ASSERT_GT(bytes.size(), 7u);
+    EXPECT_EQ(bytes[6], 77) << "The width in the header.";
+}
+
+TEST_F(KirtoWindowDocument, EmptiesTheDocumentWithNew) {
+    Choose("New");
+
+    EXPECT_TRUE(Becomes([](const Kirto& document) { return document.FrameCount() == 0; }));
+    EXPECT_TRUE(FramesBecome(""));
+}
+
+}  // namespace
+
+}  // namespace kirto::test
