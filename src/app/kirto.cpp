@@ -27,8 +27,13 @@ const Kirto::Command* Kirto::CommandFor(uint32 code) {
     static constexpr auto cancel = [](Kirto& app, BMessage* message) {
         if (app.Cancel(message)) app.PostToWindow(kUpdateAll);
     };
+    static constexpr auto save = [](Kirto& app, BMessage* message) {
+        app.Save(message);
+        app.ShowSaved();
+    };
     static constexpr auto save_again = [](Kirto& app, BMessage*) {
         app.Save(app.GetSaveFilePanel()->OutputFormat());
+        app.ShowSaved();
     };
     static constexpr auto fade = [](Kirto& app, BMessage* message) { app.Fade(message); };
     static constexpr auto frame_palette = [](Kirto& app, BMessage* message) {
@@ -43,8 +48,8 @@ const Kirto::Command* Kirto::CommandFor(uint32 code) {
          kUpdateAll},
         {kirto::kInsertTiledFile,
          [](Kirto& app, BMessage* message) { app.InsertTiledFrame(message); }, kUpdateAll},
-        {kirto::kSaveFile, [](Kirto& app, BMessage* message) { app.Save(message); }, kUpdateAll},
-        {kirto::kSaveAgain, save_again, kUpdateAll},
+        {kirto::kSaveFile, save, kNothing},
+        {kirto::kSaveAgain, save_again, kNothing},
         {kirto::kResetDocument, [](Kirto& app, BMessage*) { app.Reset(); }, kNothing},
         {kirto::kSelectFrame, [](Kirto& app, BMessage* message) { app.SelectFrame(message); },
          kNothing},

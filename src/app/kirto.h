@@ -81,6 +81,7 @@ class Kirto : public IEApplication, public AnimationDocument, public kirto::File
     void StoreTranslatorSettings(const BMessage& message);
     void SetFramePalette(BMessage* message);
     bool SaveGif();
+    void ShowSaved();
     void SetFile(const std::string& directory, const std::string& name);
     bool WriteSequenceFile(const Frame& frame, const std::string& path, uint32 translator,
                            uint32 format);
@@ -91,6 +92,7 @@ class Kirto : public IEApplication, public AnimationDocument, public kirto::File
     std::mutex panels_mutex_;
     std::map<kirto::FilePanelKind, std::unique_ptr<kirto::FilePanel>> panels_;  // guarded by it
     int32 fade_name_base_ = 0;
+    std::string cut_short_;  // what the last GIF had no room for, until it is shown
     // The preview files that were written, as they were then, by path.
     std::map<std::string, std::optional<kirto::FileStamp>> previews_;
 };

@@ -1,6 +1,7 @@
 // Moving whole animations between the document and files.
 #include <algorithm>
 #include <filesystem>
+#include <utility>
 
 #include "app/kirto.h"
 #include "app/open_animation.h"
@@ -14,12 +15,8 @@
 namespace {
 
 constexpr uint32 kAnimatedGif = 0xFFFFFFFF;
-constexpr const char* kNotCreated =
-    "The animation can't be saved because the file could not be created at this location.";
 constexpr const char* kInvalidTranslator =
     "The animation can't be saved because the selected translator is not valid.";
-
-constexpr size_t kMaxNameBytes = 255;
 
 constexpr int32 kOpenButton = 1;
 constexpr int32 kInsertButton = 2;
@@ -142,6 +139,13 @@ void Kirto::Save(uint32 format) {
     PostToWindow(kirto::kResume);
 }
 
+void Kirto::ShowSaved() {
+    PostToWindow(kirto::kUpdateAll);
+    if (cut_short_.empty()) return;
+    // After the refresh, which writes the status line too.
+    PostStatus("Status: saved, but " + std::exchange(cut_short_, {}));
+}
+
 // False after telling the user what went wrong. The next save then asks for a name again.
 bool Kirto::SaveGif() {
     kirto::SaveResult result;
@@ -151,6 +155,7 @@ bool Kirto::SaveGif() {
     }
     switch (result) {
         case kirto::SaveResult::kSaved:
+            cut_short_ = kirto::NumbersCutShort(*this);
             return true;
         case kirto::SaveResult::kStopped:
             return false;
@@ -159,9 +164,13 @@ bool Kirto::SaveGif() {
                 "The animation can't be saved because one of the frames has a larger size than the "
                 "animation.");
             break;
+        case kirto::SaveResult::kSizeOutOfRange:
+            kirto::Warn("The animation can't be saved because " + kirto::SizeOutOfRange(*this) +
+                        " is not between 0 and 65535.");
+            break;
         case kirto::SaveResult::kFileNotCreated:
         case kirto::SaveResult::kWriteFailed:
-            kirto::Warn(kNotCreated);
+            kirto::Warn(kirto::kFileNotCreatedText);
             break;
     }
     SetFile("", "untitled");
@@ -171,7 +180,7 @@ bool Kirto::SaveGif() {
 void Kirto::SetFile(const std::string& directory, const std::string& name) {
     const kirto::WriterScope writer(*this);
     file_directory = directory;
-    file_name = kirto::CutUtf8(name, kMaxNameBytes);
+    file_name = kirto::CutUtf8(name, kirto::kMaxFileNameBytes);
 }
 
 bool Kirto::SaveSequence(uint32 translator) {
@@ -199,7 +208,7 @@ bool Kirto::WriteSequenceFile(const Frame& frame, const std::string& path, uint3
                               uint32 format) {
     const std::unique_ptr<BFile> file = BFile::CreateReplacing(path);
     if (file->InitCheck() != B_OK) {
-        kirto::Warn(kNotCreated);
+        kirto::Warn(kirto::kFileNotCreatedText);
         return false;
     }
     // Once a sequence is enough.
@@ -211,7 +220,7 @@ bool Kirto::WriteSequenceFile(const Frame& frame, const std::string& path, uint3
         return false;
     }
     if (file->Commit() != B_OK) {
-        kirto::Warn(kNotCreated);
+        kirto::Warn(kirto::kFileNotCreatedText);
         return false;
     }
     return true;

@@ -19,7 +19,38 @@ SaveResult Encode(AnimationDocument& document, const std::shared_ptr<BFile>& fil
     return file->Commit() == B_OK ? SaveResult::kSaved : SaveResult::kWriteFailed;
 }
 
+constexpr int32 kLargestNumber = 0xFFFF;
+
+bool Fits(int64 number) {
+    return number >= 0 && number <= kLargestNumber;
+}
+
 }  // namespace
+
+std::string SizeOutOfRange(const AnimationDocument& document) {
+    if (!Fits(document.global_width)) return "Width";
+    if (!Fits(document.global_height)) return "Height";
+    for (const Frame* frame = document.FirstFrame(); frame; frame = frame->next) {
+        if (!Fits(frame->x_offset)) return "XOffset of " + frame->name;
+        if (!Fits(frame->y_offset)) return "YOffset of " + frame->name;
+    }
+    return {};
+}
+
+std::string NumbersCutShort(const AnimationDocument& document) {
+    std::string text;
+    if (document.use_loop && !Fits(document.loop_count)) {
+        text = Format("loop count %d was saved as %d", document.loop_count,
+                      document.loop_count & kLargestNumber);
+    }
+    int32 pauses = 0;
+    for (const Frame* frame = document.FirstFrame(); frame; frame = frame->next) {
+        if (!Fits(GifSave::DelayOf(document, *frame))) ++pauses;
+    }
+    if (pauses == 0) return text;
+    return text + (text.empty() ? "" : ", ") +
+           Format("%d pause(s) above 655.35 seconds were saved shorter", pauses);
+}
 
 std::string SequenceFileName(const std::string& file_name, int32 index) {
     const size_t dot = std::min(file_name.find('.'), file_name.size());
@@ -28,6 +59,7 @@ std::string SequenceFileName(const std::string& file_name, int32 index) {
 
 SaveResult SaveAnimatedGif(AnimationDocument& document, const std::string& path) {
     if (document.FrameLargerThanCanvas()) return SaveResult::kFrameTooLarge;
+    if (!SizeOutOfRange(document).empty()) return SaveResult::kSizeOutOfRange;
     return Encode(document, BFile::CreateReplacing(path));
 }
 

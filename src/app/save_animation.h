@@ -11,9 +11,23 @@ namespace kirto {
 // first dot, "anim.png" gives "anim0007.png".
 std::string SequenceFileName(const std::string& file_name, int32 index);
 
+// Told when a file can't be made.
+inline constexpr const char* kFileNotCreatedText =
+    "The animation can't be saved because the file could not be created at this location.";
+
+inline constexpr size_t kMaxFileNameBytes = 255;
+
+// The first size or offset that a GIF has no room for, by the name of its field: "Width", or
+// "XOffset of frame0003". Empty when all are between 0 and 65535.
+std::string SizeOutOfRange(const AnimationDocument& document);
+// What became of a loop count and pauses that a GIF has no room for, in words: it keeps their low
+// 16 bits. Empty when there is room for all.
+std::string NumbersCutShort(const AnimationDocument& document);
+
 enum class SaveResult {
     kSaved,
     kFrameTooLarge,   // a frame is larger than the canvas; nothing was written
+    kSizeOutOfRange,  // SizeOutOfRange() names a field; nothing was written
     kFileNotCreated,  // the file can't be made at this place
     kWriteFailed,     // writing broke off; an old file is untouched
     kStopped,         // the user asked to stop; an old file is untouched

@@ -109,7 +109,7 @@ void GifSave::WriteGifControlBlock(Frame* frame) {
     const int32 disposal = setting >= 0 && setting <= 2 ? setting : 3;
     uint8 block[8] = {0x21, 0xF9, 4};
     block[3] = LowByte(disposal << 2);
-    kirto::WriteLittle16(block + 4, DelayOf(*frame));
+    kirto::WriteLittle16(block + 4, DelayOf(document_, *frame));
     if (global.use_transparent) {
         block[3] |= 1;
         block[6] = LowByte(global.transparent_index);
@@ -162,15 +162,14 @@ GifSave::Encoding GifSave::EncodingOf(const Frame& frame) const {
     return encoding;
 }
 
-// Hundredths of a second.
-int64 GifSave::DelayOf(const Frame& frame) const {
+int64 GifSave::DelayOf(const AnimationDocument& document, const Frame& frame) {
     double pause = 0;
     if (frame.use_pause) {
         pause = frame.pause_length;
-    } else if (document_.use_pause_global) {
-        pause = document_.pause_length_global;
+    } else if (document.use_pause_global) {
+        pause = document.pause_length_global;
     }
-    return WholeHundredths(document_.prefs.global_pauseinseconds ? pause * 100 : pause);
+    return WholeHundredths(document.prefs.global_pauseinseconds ? pause * 100 : pause);
 }
 
 void GifSave::WriteColorTable(const Palette& palette, int32 bits) {

@@ -182,6 +182,54 @@ TEST_F(KirtoSave, AskedToStopKeepsTheOldFileAndTheNameAndSaysNothing) {
     EXPECT_TRUE(app_->modified);
 }
 
+TEST_F(KirtoSave, RefusesSizesThatAGifHasNoRoomFor) {
+    Start();
+    Append({"one"});
+    const auto expect_refused = [&](const std::string& field) {
+        EXPECT_EQ(Do(SaveTo(folder_.Path(), "out.gif")), "auda");
+        EXPECT_EQ(TakeLines(), Lines{WarningLine("The animation can't be saved because " + field +
+                                                 " is not between 0 and 65535.")});
+        EXPECT_EQ(app_->file_name, "untitled");
+        EXPECT_EQ(FolderContent(), Lines{});
+    };
+    app_->global_width = 65536;
+    expect_refused("Width");
+    app_->global_width = 65535;
+    app_->global_height = 65536;
+    expect_refused("Height");
+    app_->global_height = 65535;
+    app_->FirstFrame()->x_offset = 65536;
+    expect_refused("XOffset of one");
+    app_->FirstFrame()->x_offset = 65535;
+    app_->FirstFrame()->y_offset = 65536;
+    expect_refused("YOffset of one");
+    app_->FirstFrame()->y_offset = 65535;
+
+    Do(SaveTo(folder_.Path(), "out.gif"));
+
+    EXPECT_EQ(FolderContent(), Lines{"out.gif"});
+}
+
+TEST_F(KirtoSave, TellsOfNumbersThatAGifCutsShort) {
+    Start();
+    Append({"one", "two"});
+    app_->use_loop = true;
+    app_->loop_count = 65537;
+    app_->FirstFrame()->use_pause = true;
+    app_->FirstFrame()->pause_length = 65536;
+
+    EXPECT_EQ(Do(SaveTo(folder_.Path(), "out.gif")),
+              "svup(Status: writing frame 1 of 2...) svup(Status: writing frame 2 of 2...) arsm "
+              "auda svup(Status: saved, but loop count 65537 was saved as 1, 1 pause(s) above "
+              "655.35 seconds were saved shorter)");
+    EXPECT_FALSE(app_->modified);
+    app_->loop_count = 65535;
+    app_->FirstFrame()->pause_length = 65535;
+    EXPECT_EQ(Do(SaveTo(folder_.Path(), "out.gif")),
+              "svup(Status: writing frame 1 of 2...) svup(Status: writing frame 2 of 2...) arsm "
+              "auda");
+}
+
 class KirtoSaveSequence : public KirtoFixture {
   protected:
     BMessage SequenceTo(const std::string& name, int64 translator = FakeRoster::kRaw) const {
