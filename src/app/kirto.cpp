@@ -32,7 +32,7 @@ const Kirto::Command* Kirto::CommandFor(uint32 code) {
         app.ShowSaved();
     };
     static constexpr auto save_again = [](Kirto& app, BMessage*) {
-        app.Save(app.GetSaveFilePanel()->OutputFormat());
+        app.SaveAgain();
         app.ShowSaved();
     };
     static constexpr auto fade = [](Kirto& app, BMessage* message) { app.Fade(message); };
@@ -154,7 +154,7 @@ bool Kirto::Cancel(BMessage* message) {
     void* source = nullptr;
     if (message->FindPointer("source", &source) != B_OK || !source) return false;
     if (IsPanel(kirto::FilePanelKind::kSave, source)) {
-        desktop_.AbandonPendingCommand();
+        AbandonWaiting();
         return false;
     }
     if (!IsPanel(kirto::FilePanelKind::kOpen, source)) return false;

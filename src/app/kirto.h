@@ -36,6 +36,9 @@ class Kirto : public IEApplication, public AnimationDocument, public kirto::File
     // Files dropped on the window, or opened from the desktop: routed to opening or inserting.
     void RefsReceived(BMessage* message) override;
     void AboutRequested() override;
+    // 'asav': to the current file in the save panel's format. Asks first where another program has
+    // changed the file since it was opened or saved.
+    void SaveAgain();
     // A file panel closed. True when the window must be refreshed.
     bool Cancel(BMessage* message);
 
@@ -81,8 +84,12 @@ class Kirto : public IEApplication, public AnimationDocument, public kirto::File
     void StoreTranslatorSettings(const BMessage& message);
     void SetFramePalette(BMessage* message);
     bool SaveGif();
+    bool MayOverwrite();
     void ShowSaved();
-    void SetFile(const std::string& directory, const std::string& name);
+    bool MayOpenDropped(const BMessage& message, const std::string& path);
+    void AbandonWaiting();
+    void SetFile(const std::string& directory, const std::string& name,
+                 const std::optional<kirto::FileStamp>& stamp = std::nullopt);
     bool WriteSequenceFile(const Frame& frame, const std::string& path, uint32 translator,
                            uint32 format);
     void RemovePreviews();
@@ -92,7 +99,10 @@ class Kirto : public IEApplication, public AnimationDocument, public kirto::File
     std::mutex panels_mutex_;
     std::map<kirto::FilePanelKind, std::unique_ptr<kirto::FilePanel>> panels_;  // guarded by it
     int32 fade_name_base_ = 0;
-    std::string cut_short_;  // what the last GIF had no room for, until it is shown
+    // The current file as it was when it was opened or saved.
+    std::optional<kirto::FileStamp> file_stamp_;
+    std::optional<BMessage> waiting_drop_;  // kOpenFile, to be carried out after a save
+    std::string cut_short_;                 // what the last GIF had no room for, until it is shown
     // The preview files that were written, as they were then, by path.
     std::map<std::string, std::optional<kirto::FileStamp>> previews_;
 };

@@ -20,6 +20,14 @@ constexpr const char* kInvalidTranslator =
 
 constexpr int32 kOpenButton = 1;
 constexpr int32 kInsertButton = 2;
+constexpr int32 kDiscardButton = 1;
+constexpr int32 kSaveFirstButton = 2;
+constexpr int32 kOverwriteButton = 0;
+constexpr int32 kSaveAsButton = 1;
+
+bool IsGif(uint32 format) {
+    return format == 0 || format == kAnimatedGif;
+}
 
 // Empty, which no file can be made at, where there is no directory: a bare name would be a file of
 // the folder that the program happens to run in.
@@ -54,6 +62,8 @@ void Kirto::RefsReceived(BMessage* message) {
         if (answer != kOpenButton && answer != kInsertButton) return;
         command.RemoveName("reset");
         command.AddBool("reset", answer == kOpenButton);
+        command.RemoveName("ask");
+        command.AddBool("ask", true);
     }
     PostMessage(command);
 }
@@ -68,6 +78,7 @@ void Kirto::Open(BMessage* message) {
     int32 position = 0;
     message->FindBool("reset", &reset);
     if (reset) {
+        if (!MayOpenDropped(*message, ref.path)) return;
         Reset();
     } else {
         message->FindInt32("position", &position);
@@ -79,15 +90,43 @@ void Kirto::Open(BMessage* message) {
         kirto::Warn("The animation can't be opened because this file type is unsupported.");
         return;
     }
+    const std::optional<kirto::FileStamp> stamp = kirto::FileStamp::Of(ref.path);
     BFile file(ref.path, B_READ_ONLY);
     const bool opened = type == kirto::AnimationType::kGif ? kirto::OpenGif(&file, position, *this)
                                                            : kirto::OpenFli(&file, position, *this);
     if (!opened) return;
     if (reset) {
-        SetFile(ref.Directory(), ref.Leaf());
+        SetFile(ref.Directory(), ref.Leaf(), stamp);
     } else {
         SetModified(true);
     }
+}
+
+// A dropped file takes the document's place only if it is there and the document's changes may go,
+// as New and Open ask for them. Where they are to be saved first, the file waits.
+bool Kirto::MayOpenDropped(const BMessage& message, const std::string& path) {
+    bool ask = false;
+    if (message.FindBool("ask", &ask) != B_OK || !ask) return true;
+    if (BFile(path, B_READ_ONLY).InitCheck() != B_OK) {
+        kirto::Warn("The animation can't be opened because it was corrupted or unreadable.");
+        return false;
+    }
+    if (!modified || frame_count == 0) return true;
+    BAlert alert("", "Do you want to save your changes?", "Cancel", "Discard", "Save");
+    const int32 answer = alert.Go();
+    waiting_drop_.reset();
+    if (answer == kSaveFirstButton) {
+        waiting_drop_ = message;
+        waiting_drop_->RemoveName("serial");
+        PostToWindow(kirto::kMenuSave);
+    }
+    return answer == kDiscardButton;
+}
+
+// What was to follow a save does not, because there was none.
+void Kirto::AbandonWaiting() {
+    desktop_.AbandonPendingCommand();
+    waiting_drop_.reset();
 }
 
 // True when a palette was waiting for this file: the global one, or else the current frame's.
@@ -130,13 +169,36 @@ void Kirto::Save(BMessage* message) {
 
 void Kirto::Save(uint32 format) {
     UpdateGlobalPalette();
-    if (format == 0 || format == kAnimatedGif) {
+    const std::optional<BMessage> waiting = std::exchange(waiting_drop_, std::nullopt);
+    if (IsGif(format)) {
         if (!SaveGif()) return;
         SetModified(false);
     } else if (SaveSequence(format)) {
         SetModified(false);
     }
     PostToWindow(kirto::kResume);
+    if (waiting && !modified) PostMessage(*waiting);
+}
+
+void Kirto::SaveAgain() {
+    const uint32 format = GetSaveFilePanel()->OutputFormat();
+    if (!IsGif(format) || MayOverwrite()) Save(format);
+}
+
+bool Kirto::MayOverwrite() {
+    const auto stamp = kirto::FileStamp::Of(Join(file_directory, file_name));
+    if (!stamp || stamp == file_stamp_) return true;
+    BAlert alert("",
+                 "Another program has changed the file \"" + file_name +
+                     "\" since it was opened or saved. Do you want to overwrite it?",
+                 "Overwrite", "Save As...", "Cancel");
+    const int32 answer = alert.Go();
+    if (answer == kSaveAsButton) {
+        PostToWindow(kirto::kMenuSaveAs);
+    } else if (answer != kOverwriteButton) {
+        AbandonWaiting();
+    }
+    return answer == kOverwriteButton;
 }
 
 void Kirto::ShowSaved() {
@@ -148,13 +210,15 @@ void Kirto::ShowSaved() {
 
 // False after telling the user what went wrong. The next save then asks for a name again.
 bool Kirto::SaveGif() {
+    const std::string path = Join(file_directory, file_name);
     kirto::SaveResult result;
     {
         const kirto::ReaderScope reader(*this);
-        result = kirto::SaveAnimatedGif(*this, Join(file_directory, file_name));
+        result = kirto::SaveAnimatedGif(*this, path);
     }
     switch (result) {
         case kirto::SaveResult::kSaved:
+            file_stamp_ = kirto::FileStamp::Of(path);
             cut_short_ = kirto::NumbersCutShort(*this);
             return true;
         case kirto::SaveResult::kStopped:
@@ -177,10 +241,12 @@ bool Kirto::SaveGif() {
     return false;
 }
 
-void Kirto::SetFile(const std::string& directory, const std::string& name) {
+void Kirto::SetFile(const std::string& directory, const std::string& name,
+                    const std::optional<kirto::FileStamp>& stamp) {
     const kirto::WriterScope writer(*this);
     file_directory = directory;
     file_name = kirto::CutUtf8(name, kirto::kMaxFileNameBytes);
+    file_stamp_ = stamp;
 }
 
 bool Kirto::SaveSequence(uint32 translator) {

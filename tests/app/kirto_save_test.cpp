@@ -182,6 +182,110 @@ TEST_F(KirtoSave, AskedToStopKeepsTheOldFileAndTheNameAndSaysNothing) {
     EXPECT_TRUE(app_->modified);
 }
 
+// A document that is saved as "out.gif", which somebody else then writes to.
+class KirtoSaveAgain : public KirtoFixture {
+  protected:
+    static constexpr int32 kOverwriteButton = 0;
+    static constexpr int32 kSaveAsButton = 1;
+    static constexpr int32 kCancelButton = 2;
+
+    void StartAndSave() {
+        Start();
+        Append({"one"});
+        Do(SaveTo(folder_.Path(), "out.gif"));
+        app_->modified = true;
+    }
+    const Lines kQuestion{
+        "panel save made",
+        "WARNING [] Another program has changed the file \"out.gif\" since it was opened or saved. "
+        "Do you want to overwrite it? | Overwrite | Save As... | Cancel"};
+    const std::vector<uint8> kTheirs{'n', 'e', 'w'};
+};
+
+TEST_F(KirtoSaveAgain, OverwritesItsOwnFileWithoutAsking) {
+    StartAndSave();
+
+    EXPECT_EQ(Do(kSaveAgain), "svup(Status: writing frame 1 of 1...) arsm auda");
+    EXPECT_EQ(Do(kSaveAgain), "svup(Status: writing frame 1 of 1...) arsm auda");
+
+    EXPECT_EQ(TakeLines(), Lines{"panel save made"});
+    EXPECT_FALSE(app_->modified);
+}
+
+TEST_F(KirtoSaveAgain, AsksBeforeItOverwritesWhatAnotherProgramHasWritten) {
+    StartAndSave();
+    Write("out.gif", kTheirs);
+    desktop_.Answer({kOverwriteButton});
+
+    EXPECT_EQ(Do(kSaveAgain), "svup(Status: writing frame 1 of 1...) arsm auda");
+
+    EXPECT_EQ(TakeLines(), kQuestion);
+    EXPECT_EQ(ReadBytes(File("out.gif")).at(0), 'G');
+    EXPECT_FALSE(app_->modified);
+}
+
+TEST_F(KirtoSaveAgain, LeavesWhatAnotherProgramHasWrittenOnCancel) {
+    StartAndSave();
+    Write("out.gif", kTheirs);
+    desktop_.Answer({kCancelButton});
+
+    EXPECT_EQ(Do(kSaveAgain), "auda");
+
+    Lines expected = kQuestion;
+    expected.push_back("pending command abandoned");
+    EXPECT_EQ(TakeLines(), expected);
+    EXPECT_EQ(ReadBytes(File("out.gif")), kTheirs);
+    EXPECT_EQ(app_->file_name, "out.gif");
+    EXPECT_TRUE(app_->modified);
+}
+
+TEST_F(KirtoSaveAgain, AsksTheWindowForAnotherNameWhenTheUserWantsOne) {
+    StartAndSave();
+    Write("out.gif", kTheirs);
+    desktop_.Answer({kSaveAsButton});
+
+    EXPECT_EQ(Do(kSaveAgain), "awfa auda");
+
+    EXPECT_EQ(TakeLines(), kQuestion);
+    EXPECT_EQ(ReadBytes(File("out.gif")), kTheirs);
+    EXPECT_TRUE(app_->modified);
+}
+
+TEST_F(KirtoSaveAgain, AsksAboutAFileThatChangedSinceItWasOpened) {
+    Write("out.gif", GifOf({10}));
+    Start();
+    Do(Files(kOpenFile, {"out.gif"}));
+    app_->modified = true;
+    Write("out.gif", kTheirs);
+    desktop_.Answer({kCancelButton});
+
+    Do(kSaveAgain);
+
+    EXPECT_EQ(ReadBytes(File("out.gif")), kTheirs);
+}
+
+TEST_F(KirtoSaveAgain, OverwritesAFileThatIsAsItWasOpenedWithoutAsking) {
+    Write("out.gif", GifOf({10, 20}));
+    Start();
+    Do(Files(kOpenFile, {"out.gif"}));
+    app_->modified = true;
+
+    Do(kSaveAgain);
+
+    EXPECT_EQ(TakeLines(), Lines{"panel save made"});
+    EXPECT_FALSE(app_->modified);
+}
+
+TEST_F(KirtoSaveAgain, WritesAFileThatHasVanishedWithoutAsking) {
+    StartAndSave();
+    fs::remove(File("out.gif"));
+
+    Do(kSaveAgain);
+
+    EXPECT_EQ(FolderContent(), Lines{"out.gif"});
+    EXPECT_EQ(TakeLines(), Lines{"panel save made"});
+}
+
 TEST_F(KirtoSave, RefusesSizesThatAGifHasNoRoomFor) {
     Start();
     Append({"one"});
