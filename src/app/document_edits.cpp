@@ -99,6 +99,11 @@ auto EditFor(const Table& table, uint32 code) -> decltype(table[0].apply) {
 
 }  // namespace
 
+bool IsEdit(uint32 code) {
+    return EditFor(kDocumentEdits, code) || EditFor(kPaletteEdits, code) ||
+           EditFor(kFrameEdits, code);
+}
+
 bool ApplyEdit(AnimationDocument& document, const BMessage& message) {
     const DocumentEdit document_edit = EditFor(kDocumentEdits, message.what);
     const PaletteEdit palette_edit = EditFor(kPaletteEdits, message.what);

@@ -6,6 +6,9 @@
 
 namespace kirto {
 
+// True for the codes of these edits.
+bool IsEdit(uint32 code);
+
 // Carries out the edit under the writer lock and marks the document modified. An edit of the
 // current frame does nothing without one, and a message without its field "value" does nothing.
 // False when the code is none of these edits.

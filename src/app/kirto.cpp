@@ -1,5 +1,6 @@
 #include "app/kirto.h"
 
+#include "app/command_port.h"
 #include "app/document_edits.h"
 #include "document/command_codes.h"
 #include "document/document_scope.h"
@@ -9,17 +10,21 @@
 #include "platform/alert.h"
 #include "platform/number.h"
 
-// One row of the command table: what a command does, and the refresh posted after it (0: none).
+// One row of the command table: what a command does, the refresh posted after it (0: none), and
+// whether it changes the document.
 struct Kirto::Command {
     uint32 code;
     void (*run)(Kirto& app, BMessage* message);
     uint32 refresh;
+    Change change = Change::kNone;
 };
 
 const Kirto::Command* Kirto::CommandFor(uint32 code) {
     using kirto::kUpdateAll;
     using kirto::kUpdateFrames;
     static constexpr uint32 kNothing = 0;
+    static constexpr Change kEdit = Change::kEdit;
+    static constexpr Change kInsertion = Change::kInsertion;
     static constexpr auto open_file = [](Kirto& app, BMessage* message) {
         app.Open(message);
         app.PostThumbnailSize();
@@ -41,31 +46,36 @@ const Kirto::Command* Kirto::CommandFor(uint32 code) {
     };
     static constexpr Command kCommands[] = {
         {B_SIMPLE_DATA, [](Kirto& app, BMessage* message) { app.RefsReceived(message); },
-         kUpdateAll},
+         kUpdateAll, kInsertion},
         {B_CANCEL, cancel, kNothing},
-        {kirto::kOpenFile, open_file, kUpdateAll},
+        {kirto::kOpenFile, open_file, kUpdateAll, kInsertion},
         {kirto::kInsertFiles, [](Kirto& app, BMessage* message) { app.InsertFrame(message); },
-         kUpdateAll},
+         kUpdateAll, kInsertion},
         {kirto::kInsertTiledFile,
-         [](Kirto& app, BMessage* message) { app.InsertTiledFrame(message); }, kUpdateAll},
+         [](Kirto& app, BMessage* message) { app.InsertTiledFrame(message); }, kUpdateAll,
+         kInsertion},
         {kirto::kSaveFile, save, kNothing},
         {kirto::kSaveAgain, save_again, kNothing},
-        {kirto::kResetDocument, [](Kirto& app, BMessage*) { app.Reset(); }, kNothing},
+        {kirto::kResetDocument, [](Kirto& app, BMessage*) { app.Reset(); }, kNothing, kEdit},
         {kirto::kSelectFrame, [](Kirto& app, BMessage* message) { app.SelectFrame(message); },
          kNothing},
-        {kirto::kRemoveFrame, [](Kirto& app, BMessage*) { app.RemoveFrame(); }, kUpdateFrames},
-        {kirto::kMoveFrameUp, [](Kirto& app, BMessage*) { app.MoveFrame(true); }, kUpdateFrames},
-        {kirto::kMoveFrameDown, [](Kirto& app, BMessage*) { app.MoveFrame(false); }, kUpdateFrames},
-        {kirto::kReverseFrames, [](Kirto& app, BMessage*) { app.ReverseFrames(); }, kUpdateFrames},
+        {kirto::kRemoveFrame, [](Kirto& app, BMessage*) { app.RemoveFrame(); }, kUpdateFrames,
+         kEdit},
+        {kirto::kMoveFrameUp, [](Kirto& app, BMessage*) { app.MoveFrame(true); }, kUpdateFrames,
+         kEdit},
+        {kirto::kMoveFrameDown, [](Kirto& app, BMessage*) { app.MoveFrame(false); }, kUpdateFrames,
+         kEdit},
+        {kirto::kReverseFrames, [](Kirto& app, BMessage*) { app.ReverseFrames(); }, kUpdateFrames,
+         kEdit},
         {kirto::kPreview, [](Kirto& app, BMessage*) { app.Preview(); }, kUpdateAll},
-        {kirto::kFadeToNext, fade, kUpdateFrames},
-        {kirto::kFadeFromPrevious, fade, kUpdateFrames},
-        {kirto::kFadeFromColor, fade, kUpdateFrames},
-        {kirto::kFadeToColor, fade, kUpdateFrames},
-        {kirto::kFrameWebSafe, frame_palette, kNothing},
-        {kirto::kFrameSystem, frame_palette, kNothing},
-        {kirto::kFrameGreyscale, frame_palette, kNothing},
-        {kirto::kFrameOptimal, frame_palette, kNothing},
+        {kirto::kFadeToNext, fade, kUpdateFrames, kEdit},
+        {kirto::kFadeFromPrevious, fade, kUpdateFrames, kEdit},
+        {kirto::kFadeFromColor, fade, kUpdateFrames, kEdit},
+        {kirto::kFadeToColor, fade, kUpdateFrames, kEdit},
+        {kirto::kFrameWebSafe, frame_palette, kNothing, kEdit},
+        {kirto::kFrameSystem, frame_palette, kNothing, kEdit},
+        {kirto::kFrameGreyscale, frame_palette, kNothing, kEdit},
+        {kirto::kFrameOptimal, frame_palette, kNothing, kEdit},
         {kirto::kStoreSettings, [](Kirto& app, BMessage* message) { app.StoreSettings(*message); },
          kUpdateAll},
         {kirto::kTranslatorSettings,
@@ -75,6 +85,12 @@ const Kirto::Command* Kirto::CommandFor(uint32 code) {
         if (command.code == code) return &command;
     }
     return nullptr;
+}
+
+Kirto::Change Kirto::ChangeBy(uint32 code) {
+    if (code == B_REFS_RECEIVED) return Change::kInsertion;
+    if (const Command* command = CommandFor(code)) return command->change;
+    return kirto::IsEdit(code) ? Change::kEdit : Change::kNone;
 }
 
 namespace {
@@ -109,7 +125,8 @@ Kirto::Kirto(Prefs& settings, kirto::Desktop& desktop, BTranslatorRoster& roster
     : IEApplication(kSignature, resource_file),
       AnimationDocument(WarnIfFailed(settings)),
       desktop_(desktop),
-      roster_(roster) {
+      roster_(roster),
+      commands_(std::make_shared<kirto::CommandPort>(*this, Port())) {
     window = desktop_.OpenMainWindow(*this, MainWindowFrame(), "Kirto - untitled");
     PostToWindow(kirto::kUpdateAll);
 }
@@ -140,9 +157,12 @@ void Kirto::MessageReceived(BMessage* message) {
     } else if (!kirto::ApplyEdit(*this, *message)) {
         IEApplication::MessageReceived(message);
     }
-    int32 serial = 0;
-    if (message->FindInt32("serial", &serial) != B_OK) return;
-    edits_done = serial;
+}
+
+void Kirto::DispatchMessage(BMessage* message, BHandler* handler) {
+    IEApplication::DispatchMessage(message, handler);
+    if (!kirto::CommandPort::IsCounted(*message)) return;
+    kirto::CommandPort::Uncount(*this, *message);
     PostToWindow(kirto::kEditDone);
 }
 
@@ -250,7 +270,7 @@ void Kirto::Fade(BMessage* message) {
 kirto::FilePanel* Kirto::GetPanel(kirto::FilePanelKind kind) {
     const std::lock_guard lock(panels_mutex_);
     std::unique_ptr<kirto::FilePanel>& panel = panels_[kind];
-    if (!panel) panel = desktop_.MakeFilePanel(kind, BMessenger(*this));
+    if (!panel) panel = desktop_.MakeFilePanel(kind, Commands());
     return panel.get();
 }
 

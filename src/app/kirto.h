@@ -21,6 +21,10 @@ class Kirto : public IEApplication, public AnimationDocument, public kirto::File
   public:
     static constexpr const char* kSignature = "application/x-vnd.Tavon-Kirto";
 
+    // What a command does to the document; an insertion may bring frames into an empty one.
+    enum class Change { kNone, kEdit, kInsertion };
+    static Change ChangeBy(uint32 code);
+
     // Everything handed in outlives the application. Makes and shows the main window; the loop is
     // started by the caller (Run() or Loop()). resource_file: as for IEApplication.
     Kirto(Prefs& settings, kirto::Desktop& desktop, BTranslatorRoster& roster,
@@ -31,6 +35,9 @@ class Kirto : public IEApplication, public AnimationDocument, public kirto::File
     // Settings of the image writers by translator id, as the save panel's settings leave them. The
     // application thread's.
     std::map<translator_id, BMessage> translator_settings;
+
+    // Where windows and file panels send their commands.
+    BMessenger Commands() const { return BMessenger(commands_); }
 
     void MessageReceived(BMessage* message) override;
     // Files dropped on the window, or opened from the desktop: routed to opening or inserting.
@@ -71,6 +78,9 @@ class Kirto : public IEApplication, public AnimationDocument, public kirto::File
         return GetPanel(kirto::FilePanelKind::kInsertTiled);
     }
 
+  protected:
+    void DispatchMessage(BMessage* message, BHandler* handler) override;
+
   private:
     struct Command;
 
@@ -96,6 +106,7 @@ class Kirto : public IEApplication, public AnimationDocument, public kirto::File
 
     kirto::Desktop& desktop_;
     BTranslatorRoster& roster_;
+    const std::shared_ptr<kirto::MessagePort> commands_;
     std::mutex panels_mutex_;
     std::map<kirto::FilePanelKind, std::unique_ptr<kirto::FilePanel>> panels_;  // guarded by it
     int32 fade_name_base_ = 0;

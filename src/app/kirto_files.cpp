@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <utility>
 
+#include "app/command_port.h"
 #include "app/kirto.h"
 #include "app/open_animation.h"
 #include "app/save_animation.h"
@@ -65,6 +66,7 @@ void Kirto::RefsReceived(BMessage* message) {
         command.RemoveName("ask");
         command.AddBool("ask", true);
     }
+    if (kirto::CommandPort::IsCounted(*message)) kirto::CommandPort::Count(*this, &command);
     PostMessage(command);
 }
 

@@ -78,6 +78,11 @@ const Frame* AnimationDocument::FrameLargerThanCanvas() const {
     return nullptr;
 }
 
+bool AnimationDocument::HasUnsavedChanges() const {
+    // In this order: a change that ends in between has set modified by then.
+    return changes_waiting > 0 || modified;
+}
+
 bool AnimationDocument::InsertFrame(Frame* frame) {
     if (frame->index < 0 || frame->index > frame_count) return false;
     {

@@ -26,9 +26,10 @@ class AnimationDocument {
     bool use_pause_global = false;
     bool use_loop = false;
     std::atomic<bool> modified = false;  // changed since the last reset, open or save
-    // The serial number of the last edit of a window's that is carried out. A window that numbers
-    // its edits knows by it which of them the document does not show yet.
-    std::atomic<int32> edits_done = 0;
+    // Commands that are on their way and will change the document; and those of them that may bring
+    // frames. A command is counted down after it has set modified.
+    std::atomic<int32> changes_waiting = 0;
+    std::atomic<int32> insertions_waiting = 0;
     double pause_length_global = 0.0;  // same unit as Frame::pause_length
     std::string file_name;             // "untitled" after a reset; at most 255 bytes
     std::string file_directory;        // empty after a reset
@@ -65,6 +66,8 @@ class AnimationDocument {
     Frame* FrameAt(int32 i) const;
     // The first frame that is wider or taller than the canvas, or null.
     const Frame* FrameLargerThanCanvas() const;
+    // Changes that no file has, made or on their way. From any thread.
+    bool HasUnsavedChanges() const;
     // Edits. Each takes the writer lock itself.
     // Inserts the frame at its own index and posts 'auns' (before it, into an empty list, the
     // thumbnail-size command). True: the document owns the frame now. False: the index is outside

@@ -14,7 +14,7 @@ inline constexpr uint32 kUpdateFramesNoStatus = FourCharCode("auns");  // frame 
 // Application to main window: a save has finished, go on with what waited for it. No fields.
 inline constexpr uint32 kResume = FourCharCode("arsm");
 
-// Application to main window: an edit that carried a serial number is done. No fields.
+// Application to main window: a change that was counted as waiting is done. No fields.
 inline constexpr uint32 kEditDone = FourCharCode("aued");
 
 // Application to main window: forget the command that waits for a save. No fields.
@@ -47,7 +47,6 @@ inline constexpr uint32 kReverseFrames = FourCharCode("awfv");
 inline constexpr uint32 kPreview = FourCharCode("awvp");
 
 // Main window to application: edits of the document that panels ask for, with the value checked.
-// Each may carry int32 "serial", see AnimationDocument::edits_done.
 inline constexpr uint32 kSetWidth = FourCharCode("gvwd");        // int32 "value"
 inline constexpr uint32 kSetHeight = FourCharCode("gvht");       // int32 "value"
 inline constexpr uint32 kUsePause = FourCharCode("gvpa");        // bool "value"

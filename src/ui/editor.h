@@ -9,7 +9,8 @@ class IEResourceHandler;
 
 namespace kirto {
 
-// What windows are made for: the document they show, and where their commands go. Everything
+// What windows are made for: the document they show, and where their commands go (by way of a
+// CommandPort, so that changes count at once). Everything
 // outlives every window. The document is read only by way of DocumentSnapshot::Take.
 struct Editor {
     AnimationDocument& document;

@@ -294,13 +294,12 @@ bool KirtoWindow::LoseChanges(uint32 command) {
     return answer == kDiscard;
 }
 
-// Edits on their way to the application count as changes already.
+// An animation without frames has nothing to save, but frames on their way count already.
 bool KirtoWindow::HasUnsavedChanges() {
-    const bool modified = editor_.document.modified || editor_.document.edits_done != edits_posted_;
+    if (!editor_.document.HasUnsavedChanges()) return false;
+    if (editor_.document.insertions_waiting > 0) return true;
     const kirto::TryReaderScope reader(editor_.document);
-    const bool has_frames =
-        reader.Entered() ? editor_.document.frame_count > 0 : !shown_.frames.empty();
-    return modified && has_frames;
+    return reader.Entered() ? editor_.document.frame_count > 0 : !shown_.frames.empty();
 }
 
 // A field holds what was typed until it is left; a command of the keyboard leaves nothing.
@@ -318,12 +317,6 @@ void KirtoWindow::ChooseCommand(uint32 command) {
 
 void KirtoWindow::PostToApplication(const BMessage& message) {
     editor_.application.SendMessage(message);
-}
-
-void KirtoWindow::PostEdit(BMessage message) {
-    message.RemoveName("serial");
-    message.AddInt32("serial", ++edits_posted_);
-    PostToApplication(message);
 }
 
 void KirtoWindow::closeEvent(QCloseEvent* event) {

@@ -90,8 +90,6 @@ class KirtoWindow : public QMainWindow, public BWindow {
     void ShowOpenPanel(const char* title);
     void ShowMode(bool frame_list);
     void PostToApplication(const BMessage& message);
-    // The same for a command that changes the document.
-    void PostEdit(BMessage message);
     template <typename Value>
     void PostValue(uint32 code, Value value);
 
@@ -115,7 +113,6 @@ class KirtoWindow : public QMainWindow, public BWindow {
     void InsertTiled(BMessage* message);
     void FadeEffects(BMessage* message);
     void Forward(BMessage* message);
-    void ForwardEdit(BMessage* message);
     void GlobalNumber(BMessage* message);
     void GlobalPauseLength(BMessage* message);
     void GlobalSwitch(BMessage* message);
@@ -138,8 +135,7 @@ class KirtoWindow : public QMainWindow, public BWindow {
     uint32 stale_parts_ = 0;  // to be shown as soon as the document can be read
     QTimer retry_timer_{this};
     uint32 pending_command_ = 0;
-    int32 edits_posted_ = 0;  // the serial number of the last edit
-    uint32 preset_ = 0;       // the preset height to be set as soon as the frames can be read
+    uint32 preset_ = 0;  // the preset height to be set as soon as the frames can be read
     bool may_close_ = false;
 
     GlobalView* global_view_ = nullptr;

@@ -18,12 +18,6 @@ class KirtoSettings : public KirtoFixture {
         settings.AddTo(&message);
         return message;
     }
-    static BMessage Edit(uint32 code, int32 value, int32 serial) {
-        BMessage message(code);
-        message.AddInt32("value", value);
-        message.AddInt32("serial", serial);
-        return message;
-    }
 
     ScopedEnvironment configuration_{"XDG_CONFIG_HOME", folder_.Path().c_str()};
 };
@@ -112,44 +106,6 @@ TEST_F(KirtoSettings, OfAnImageWriterNeedBothFields) {
     EXPECT_EQ(Do(without_translator), "");
 
     EXPECT_TRUE(app_->translator_settings.empty());
-}
-
-TEST_F(KirtoSettings, AnEditWithASerialNumberIsAnsweredOnceItIsDone) {
-    Start();
-
-    EXPECT_EQ(Do(Edit(kSetWidth, 12, 5)), "aued");
-
-    EXPECT_EQ(app_->edits_done, 5);
-    EXPECT_EQ(app_->global_width, 12);
-    EXPECT_TRUE(app_->modified);
-}
-
-TEST_F(KirtoSettings, AnEditWithoutASerialNumberIsNotAnswered) {
-    Start();
-    BMessage edit(kSetWidth);
-    edit.AddInt32("value", 12);
-
-    EXPECT_EQ(Do(edit), "");
-
-    EXPECT_EQ(app_->edits_done, 0);
-    EXPECT_EQ(app_->global_width, 12);
-}
-
-TEST_F(KirtoSettings, EveryCommandWithASerialNumberIsAnswered) {
-    Start();
-    Append({"one", "two"});
-    BMessage remove(kRemoveFrame);
-    remove.AddInt32("serial", 1);
-    BMessage reset(kResetDocument);
-    reset.AddInt32("serial", 2);
-    BMessage unknown(FourCharCode("what"));
-    unknown.AddInt32("serial", 3);
-
-    EXPECT_EQ(Do(remove), "aufr aued");
-    EXPECT_EQ(Do(reset), "aued");
-    EXPECT_EQ(Do(unknown), "aued");
-
-    EXPECT_EQ(app_->edits_done, 3);
 }
 
 TEST_F(KirtoSettings, PanelsAskedForByTwoThreadsAtOnceAreMadeOnce) {

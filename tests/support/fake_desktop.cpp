@@ -69,7 +69,8 @@ void FakeDesktop::AbandonPendingCommand() {
     AddLine("pending command abandoned");
 }
 
-std::unique_ptr<FilePanel> FakeDesktop::MakeFilePanel(FilePanelKind kind, BMessenger) {
+std::unique_ptr<FilePanel> FakeDesktop::MakeFilePanel(FilePanelKind kind, BMessenger target) {
+    panel_target = std::move(target);
     return std::make_unique<FakePanel>(*this, kind);
 }
 
