@@ -37,8 +37,6 @@ bool SetPaletteField(Palette& palette, const BMessage& message) {
 template <int32 Kind>
 bool SetKind(Palette& palette, const BMessage&) {
     palette.Set(Kind);
-    // Greys are never dithered, and the box that says so can't be ticked.
-    if (Kind == kPaletteGreyscale) palette.dither = false;
     return true;
 }
 

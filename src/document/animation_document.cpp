@@ -53,6 +53,8 @@ void AnimationDocument::Reset() {
 }
 
 void AnimationDocument::ResetPalette() {
+    // Before the kind, which may clear it.
+    global_palette->dither = prefs.palette_dither;
     if (prefs.palette_mapping != kirto::kPaletteFromFile) {
         global_palette->Set(prefs.palette_mapping);
     } else if (!global_palette->Set(prefs.palette_filename.c_str())) {
@@ -63,7 +65,6 @@ void AnimationDocument::ResetPalette() {
     global_palette->use_transparent = prefs.palette_usetransparent;
     global_palette->transparent_index = prefs.palette_transparentindex;
     global_palette->background_index = prefs.palette_backgroundindex;
-    global_palette->dither = prefs.palette_dither;
 }
 
 Frame* AnimationDocument::FrameAt(int32 i) const {

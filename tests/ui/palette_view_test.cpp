@@ -14,7 +14,7 @@ using Lines = std::vector<std::string>;
 class PaletteViewTest : public ViewFixture {
   protected:
     void ShowMode(int32 mode) {
-        document.global_palette->mode = mode;
+        document.global_palette->Set(mode);
         Take();
         panel.UpdateDisplay();
     }

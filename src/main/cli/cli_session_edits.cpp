@@ -127,8 +127,6 @@ CliSession::Outcome CliSession::SetPalette(const std::string& value) {
     if (value == "current-frame") kind = kPaletteCurrentFrame;
     if (kind == kPaletteFromFile) return LoadPalette(palette, value);
     palette->Set(kind);
-    // The grey ramp is never dithered, and the flag says so.
-    if (kind == kPaletteGreyscale) palette->dither = false;
     return Modified();
 }
 
