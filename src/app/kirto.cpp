@@ -201,13 +201,14 @@ void Kirto::SelectFrame(BMessage* message) {
 }
 
 void Kirto::StoreSettings(const BMessage& message) {
-    {
-        const kirto::WriterScope writer(*this);
-        prefs.TakeFrom(message);
-    }
-    BRect frame = prefs.misc_windowdimensions;
+    // Written from a copy: windows copy the settings meanwhile, and never wait for a disk.
+    Prefs changed(prefs);
+    changed.TakeFrom(message);
+    BRect frame = changed.misc_windowdimensions;
     message.FindRect("window_frame", &frame);
-    prefs.Save(frame);
+    changed.Save(frame);
+    const kirto::WriterScope writer(*this);
+    prefs = std::move(changed);
 }
 
 void Kirto::StoreTranslatorSettings(const BMessage& message) {

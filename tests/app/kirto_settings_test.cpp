@@ -5,6 +5,7 @@
 
 #include "app/kirto.h"
 #include "app/kirto_fixture.h"
+#include "document/document_scope.h"
 
 namespace kirto::test {
 
@@ -107,6 +108,18 @@ TEST_F(KirtoSettings, OfAnImageWriterNeedBothFields) {
 
     EXPECT_TRUE(app_->translator_settings.empty());
 }
+
+#ifndef NDEBUG
+TEST_F(KirtoSettings, AreTakenOverOnlyWhereNoReaderIsInside) {
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    Make();
+    BMessage store = Store(prefs_);
+    const ReaderScope reader(*app_);
+
+    // On one thread, so that waiting for the reader is the mistake that is looked for.
+    EXPECT_DEATH(app_->MessageReceived(&store), "t_scopes_held == 0");
+}
+#endif
 
 TEST_F(KirtoSettings, PanelsAskedForByTwoThreadsAtOnceAreMadeOnce) {
     Start();
