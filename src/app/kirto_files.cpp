@@ -54,6 +54,8 @@ void Kirto::RefsReceived(BMessage* message) {
     const bool dropped = message->what == B_SIMPLE_DATA;
     BMessage command = *message;
     command.what = animation ? kirto::kOpenFile : kirto::kInsertFiles;
+    command.RemoveName("panel");
+    command.AddBool("panel", false);
     if (animation && dropped) {
         BAlert alert("",
                      "Do you wish to insert this image into the current animation or open it as a "
@@ -73,7 +75,9 @@ void Kirto::RefsReceived(BMessage* message) {
 void Kirto::Open(BMessage* message) {
     entry_ref ref;
     if (message->FindRef("refs", &ref) != B_OK) return;
-    open_panel_delivered = true;
+    bool from_panel = true;
+    message->FindBool("panel", &from_panel);
+    if (from_panel) open_panel_delivered = true;
     if (LoadAwaitedPalette(ref.path)) return;
 
     bool reset = true;

@@ -29,7 +29,8 @@ inline constexpr uint32 kThumbnailPreset = FourCharCode("tvpv");     // the sett
 inline constexpr uint32 kStatusUpdate = FourCharCode("svup");
 
 // File panels and desktop to application. Refs "refs"; the first only, but for kInsertFiles.
-// kOpenFile: bool "reset", int32 "position"; bool "ask": about unsaved changes, before a reset.
+// kOpenFile: bool "reset", int32 "position"; bool "ask": about unsaved changes, before a reset; bool
+// "panel": false for files that no panel delivered.
 inline constexpr uint32 kOpenFile = FourCharCode("aofp");
 inline constexpr uint32 kInsertFiles = FourCharCode("aifp");  // int32 "position"
 inline constexpr uint32 kInsertTiledFile = FourCharCode("aitp");

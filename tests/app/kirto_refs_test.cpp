@@ -295,6 +295,24 @@ TEST_F(KirtoCancel, OfTheOpenPanelAfterItDeliveredAFileOnlyClearsTheFlag) {
     EXPECT_EQ(app_->global_palette->mode, kPaletteWebSafe);
 }
 
+TEST_F(KirtoCancel, OfTheOpenPanelIsARealOneAfterADropAndAfterFilesFromTheDesktop) {
+    Write("anim.gif", GifOf({10}));
+    Start();
+    FilePanel* panel = app_->GetOpenFilePanel();
+    for (const uint32 code : {uint32{B_SIMPLE_DATA}, uint32{B_REFS_RECEIVED}}) {
+        desktop_.Answer({kOpenButton});
+        BMessage refs = Files(code, {"anim.gif"});
+        refs.AddBool("panel", true);
+        Do(refs);
+        EXPECT_FALSE(app_->open_panel_delivered);
+        app_->global_palette->Set(kPaletteAwaitingFile);
+
+        EXPECT_EQ(Do(CancelOf(panel)), "auda");
+
+        EXPECT_EQ(app_->global_palette->mode, kPaletteWebSafe);
+    }
+}
+
 TEST_F(KirtoCancel, OfTheOpenPanelPutsTheFramesPaletteBack) {
     Start();
     Append({"one", "two"});
