@@ -177,7 +177,10 @@ void Kirto::Save(uint32 format) {
     UpdateGlobalPalette();
     const std::optional<BMessage> waiting = std::exchange(waiting_drop_, std::nullopt);
     if (IsGif(format)) {
-        if (!SaveGif()) return;
+        if (!SaveGif()) {
+            desktop_.AbandonPendingCommand();
+            return;
+        }
         SetModified(false);
     } else if (SaveSequence(format)) {
         SetModified(false);

@@ -4,6 +4,7 @@
 
 #include "app/kirto_fixture.h"
 #include "support/full_disk.h"
+#include "support/port_watcher.h"
 
 namespace kirto::test {
 
@@ -15,6 +16,8 @@ constexpr const char* kNotCreated =
     "The animation can't be saved because the file could not be created at this location.";
 constexpr const char* kInvalidTranslator =
     "The animation can't be saved because the selected translator is not valid.";
+
+constexpr const char* kAbandoned = "pending command abandoned";
 
 class KirtoSave : public KirtoFixture {};
 
@@ -31,6 +34,24 @@ TEST_F(KirtoSave, WritesAGifAndTellsTheWindowToGoOn) {
     EXPECT_EQ(ReadBytes(File("out.gif")).at(0), 'G');
     EXPECT_EQ(FolderContent(), Lines{"out.gif"});
     EXPECT_EQ(TakeLines(), Lines{});
+}
+
+TEST_F(KirtoSave, TellsTheWindowToGoOnOnlyOnceNothingIsUnsaved) {
+    Start();
+    Append({"one"});
+    int32 resumed = 0;
+    app_->window = BMessenger(std::make_shared<PortWatcher>([&](uint32 code) {
+        if (code != kResume) return;
+        EXPECT_FALSE(app_->HasUnsavedChanges());
+        ++resumed;
+    }));
+    for (const int64 format : {int64{0}, int64{FakeRoster::kRaw}}) {
+        app_->modified = true;
+        Do(SaveTo(folder_.Path(), "out.gif", format));
+    }
+
+    EXPECT_EQ(resumed, 2);
+    app_->Quit();
 }
 
 TEST_F(KirtoSave, TakesBothNumbersOfTheAnimatedGifAndNoNumberForIt) {
@@ -102,8 +123,9 @@ TEST_F(KirtoSave, RefusesFramesLargerThanTheAnimation) {
 
         EXPECT_EQ(Do(SaveTo(folder_.Path(), "out.gif")), "auda");
 
-        EXPECT_EQ(TakeLines(), Lines{WarningLine("The animation can't be saved because one of the "
-                                                 "frames has a larger size than the animation.")});
+        EXPECT_EQ(TakeLines(), (Lines{WarningLine("The animation can't be saved because one of the "
+                                                  "frames has a larger size than the animation."),
+                                      kAbandoned}));
         EXPECT_EQ(app_->file_name, "untitled");
         EXPECT_EQ(app_->file_directory, "");
         EXPECT_TRUE(app_->modified);
@@ -118,7 +140,7 @@ TEST_F(KirtoSave, ForgetsANameThatCantBeCreated) {
 
     EXPECT_EQ(Do(SaveTo(File("missing"), "out.gif")), "auda");
 
-    EXPECT_EQ(TakeLines(), Lines{WarningLine(kNotCreated)});
+    EXPECT_EQ(TakeLines(), (Lines{WarningLine(kNotCreated), kAbandoned}));
     EXPECT_EQ(app_->file_name, "untitled");
     EXPECT_EQ(app_->file_directory, "");
     EXPECT_TRUE(app_->modified);
@@ -159,7 +181,7 @@ TEST_F(KirtoSave, KeepsTheOldFileWhenTheNewOneCantBeWritten) {
     }
 
     EXPECT_EQ(transcript, "svup(Status: writing frame 1 of 1...) auda");
-    EXPECT_EQ(TakeLines(), Lines{WarningLine(kNotCreated)});
+    EXPECT_EQ(TakeLines(), (Lines{WarningLine(kNotCreated), kAbandoned}));
     EXPECT_EQ(ReadBytes(File("out.gif")), (std::vector<uint8>{'o', 'l', 'd'}));
     EXPECT_EQ(FolderContent(), Lines{"out.gif"});
     EXPECT_EQ(app_->file_name, "untitled");
@@ -176,7 +198,7 @@ TEST_F(KirtoSave, AskedToStopKeepsTheOldFileAndTheNameAndSaysNothing) {
     const std::string transcript = Do(SaveTo(folder_.Path(), "out.gif"));
 
     EXPECT_EQ(transcript.find("arsm"), std::string::npos);
-    EXPECT_EQ(TakeLines(), Lines{});
+    EXPECT_EQ(TakeLines(), Lines{kAbandoned});
     EXPECT_EQ(ReadBytes(File("out.gif")), (std::vector<uint8>{'o', 'l', 'd'}));
     EXPECT_EQ(app_->file_name, "out.gif");
     EXPECT_TRUE(app_->modified);
