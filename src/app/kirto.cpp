@@ -56,7 +56,7 @@ const Kirto::Command* Kirto::CommandFor(uint32 code) {
          kInsertion},
         {kirto::kSaveFile, save, kNothing},
         {kirto::kSaveAgain, save_again, kNothing},
-        {kirto::kResetDocument, [](Kirto& app, BMessage*) { app.Reset(); }, kNothing, kEdit},
+        {kirto::kResetDocument, [](Kirto& app, BMessage*) { app.StartAnew(); }, kNothing, kEdit},
         {kirto::kSelectFrame, [](Kirto& app, BMessage* message) { app.SelectFrame(message); },
          kNothing},
         {kirto::kRemoveFrame, [](Kirto& app, BMessage*) { app.RemoveFrame(); }, kUpdateFrames,
@@ -191,6 +191,15 @@ bool Kirto::Cancel(BMessage* message) {
         current->palette->Set(kirto::kPaletteWebSafe);
     }
     return true;
+}
+
+void Kirto::StartAnew() {
+    {
+        const std::lock_guard lock(panels_mutex_);
+        const auto panel = panels_.find(kirto::FilePanelKind::kSave);
+        if (panel != panels_.end()) panel->second->ForgetOutputFormat();
+    }
+    Reset();
 }
 
 void Kirto::SelectFrame(BMessage* message) {

@@ -88,6 +88,8 @@ class Kirto : public IEApplication, public AnimationDocument, public kirto::File
     // True when that panel exists and is the source.
     bool IsPanel(kirto::FilePanelKind kind, const void* source);
     BRect MainWindowFrame();
+    // Empties the document; the next one is saved as animated GIF until told otherwise.
+    void StartAnew();
     bool LoadAwaitedPalette(const std::string& path);
     void SelectFrame(BMessage* message);
     void StoreSettings(const BMessage& message);

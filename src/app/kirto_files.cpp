@@ -85,7 +85,7 @@ void Kirto::Open(BMessage* message) {
     message->FindBool("reset", &reset);
     if (reset) {
         if (!MayOpenDropped(*message, ref.path)) return;
-        Reset();
+        StartAnew();
     } else {
         message->FindInt32("position", &position);
         position = std::clamp(position, 0, frame_count);

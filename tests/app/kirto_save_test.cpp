@@ -354,6 +354,58 @@ TEST_F(KirtoSave, TellsOfNumbersThatAGifCutsShort) {
     EXPECT_EQ(Do(SaveTo(folder_.Path(), "out.gif")),
               "svup(Status: writing frame 1 of 2...) svup(Status: writing frame 2 of 2...) arsm "
               "auda");
+// Whether a save again writes a GIF, after each way in which the document may have changed.
+class KirtoSaveAgain : public KirtoFixture {
+  protected:
+    // Saves a sequence of images with the save panel.
+    void SaveSequence() {
+        app_->GetSaveFilePanel();
+        desktop_.fields.output_format = FakeRoster::kRaw;
+        Do(SaveTo(folder_.Path(), "movie.raw", FakeRoster::kRaw));
+    }
+};
+
+TEST_F(KirtoSaveAgain, WritesASequenceAgain) {
+    Start();
+    Append({"one"});
+    SaveSequence();
+    Append({"two"});
+
+    EXPECT_EQ(Do(kSaveAgain), "arsm auda");
+
+    EXPECT_EQ(FolderContent(), (Lines{"movie0000.raw", "movie0001.raw"}));
+}
+
+TEST_F(KirtoSaveAgain, ForgetsTheFormatWithTheDocument) {
+    Write("anim.gif", GifOf({10}));
+    Start();
+    for (const BMessage& command : {BMessage(kResetDocument), Files(kOpenFile, {"anim.gif"})}) {
+        SaveSequence();
+
+        Do(command);
+
+        EXPECT_EQ(desktop_.fields.output_format, 0u) << CodeText(command.what);
+    }
+}
+
+TEST_F(KirtoSaveAgain, KeepsTheFormatWhenAnAnimationIsInserted) {
+    Write("anim.gif", GifOf({10}));
+    Start();
+    SaveSequence();
+    BMessage insert = Files(kOpenFile, {"anim.gif"});
+    insert.AddBool("reset", false);
+
+    Do(insert);
+
+    EXPECT_EQ(desktop_.fields.output_format, FakeRoster::kRaw);
+}
+
+TEST_F(KirtoSaveAgain, MakesNoSavePanelOnlyToForgetItsFormat) {
+    Start();
+
+    Do(kResetDocument);
+
+    EXPECT_EQ(TakeLines(), Lines{});
 }
 
 class KirtoSaveSequence : public KirtoFixture {
