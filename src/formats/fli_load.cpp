@@ -122,6 +122,7 @@ bool FliLoad::ReadFliHeader() {
 
 bool FliLoad::ReadFliFrameHeader() {
     uint8 header[kRecordHeaderSize];
+    led_back_ = !input_.StartRecord();
     if (!input_.Read(header)) return false;
     bytes_left_ = static_cast<int32>(kirto::ReadLittle32(header));
     const uint16 type = kirto::ReadLittle16(header + 4);
@@ -207,9 +208,16 @@ std::unique_ptr<Frame> FliLoad::NewFrame(int32 index, int32 position) {
         out_of_memory = bounds.IsValid();
         return nullptr;
     }
-    input_.Allow(kFillsPerFrame * static_cast<int64>(frame->bitmap->BitsLength()));
-    if (!input_.Spend(kFrameCost)) return nullptr;
+    if (!ChargeFrame(static_cast<int64>(frame->bitmap->BitsLength()))) return nullptr;
     return frame;
+}
+
+// A picture brings its own work with it. Where the file leads back it does not: the same few bytes
+// would bring it again and again.
+bool FliLoad::ChargeFrame(int64 picture_bytes) {
+    if (led_back_) return input_.Spend(kFrameCost + picture_bytes);
+    input_.Allow(kFillsPerFrame * picture_bytes);
+    return input_.Spend(kFrameCost);
 }
 
 // Of a picture of another size as many pixels as fit are copied, without regard to its rows.
