@@ -1,5 +1,7 @@
 #include "app/kirto.h"
 
+#include <new>
+
 #include "app/command_port.h"
 #include "app/document_edits.h"
 #include "document/command_codes.h"
@@ -151,6 +153,20 @@ BRect Kirto::MainWindowFrame() {
 }
 
 void Kirto::MessageReceived(BMessage* message) {
+    // Whatever becomes of the command, the window that waits for its end hears of it.
+    try {
+        CarryOut(message);
+    } catch (const std::bad_alloc&) {
+        kirto::WarnOutOfMemory();
+        PostToWindow(kirto::kUpdateAll);
+    }
+    int32 serial = 0;
+    if (message->FindInt32("serial", &serial) != B_OK) return;
+    edits_done = serial;
+    PostToWindow(kirto::kEditDone);
+}
+
+void Kirto::CarryOut(BMessage* message) {
     if (const Command* command = CommandFor(message->what)) {
         command->run(*this, message);
         if (command->refresh != 0) PostToWindow(command->refresh);

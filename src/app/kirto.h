@@ -85,6 +85,8 @@ class Kirto : public IEApplication, public AnimationDocument, public kirto::File
     struct Command;
 
     static const Command* CommandFor(uint32 code);
+    // Throws what the standard library throws without memory.
+    void CarryOut(BMessage* message);
     // True when that panel exists and is the source.
     bool IsPanel(kirto::FilePanelKind kind, const void* source);
     BRect MainWindowFrame();
