@@ -153,17 +153,12 @@ BRect Kirto::MainWindowFrame() {
 }
 
 void Kirto::MessageReceived(BMessage* message) {
-    // Whatever becomes of the command, the window that waits for its end hears of it.
     try {
         CarryOut(message);
     } catch (const std::bad_alloc&) {
         kirto::WarnOutOfMemory();
         PostToWindow(kirto::kUpdateAll);
     }
-    int32 serial = 0;
-    if (message->FindInt32("serial", &serial) != B_OK) return;
-    edits_done = serial;
-    PostToWindow(kirto::kEditDone);
 }
 
 void Kirto::CarryOut(BMessage* message) {

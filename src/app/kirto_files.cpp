@@ -123,7 +123,6 @@ bool Kirto::MayOpenDropped(const BMessage& message, const std::string& path) {
     waiting_drop_.reset();
     if (answer == kSaveFirstButton) {
         waiting_drop_ = message;
-        waiting_drop_->RemoveName("serial");
         PostToWindow(kirto::kMenuSave);
     }
     return answer == kDiscardButton;
