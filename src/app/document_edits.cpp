@@ -42,11 +42,7 @@ std::optional<int32> KindOf(const Table& table, uint32 code) {
 }
 
 void SetKind(Animation& animation, int32 kind) {
-    EditPalette(animation, [kind](Palette& palette) {
-        palette.Set(kind);
-        // Greys are never dithered, and the box that says so can't be ticked.
-        if (kind == kPaletteGreyscale) palette.dither = false;
-    });
+    EditPalette(animation, [kind](Palette& palette) { palette.Set(kind); });
 }
 
 bool SetFrameKind(Animation& animation, int32 kind) {
@@ -63,6 +59,12 @@ bool SetFrameKind(Animation& animation, int32 kind) {
 }
 
 }  // namespace
+
+const char* EditName(uint32 code) {
+    if (const Field* field = FieldOf(code)) return field->step;
+    if (KindOf(kPaletteKinds, code)) return "Change Palette";
+    return KindOf(kFramePaletteKinds, code) ? "Change Frame Palette" : nullptr;
+}
 
 bool ApplyEdit(AnimationDocument& document, const BMessage& message) {
     const Field* field = FieldOf(message.what);

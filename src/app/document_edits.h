@@ -6,7 +6,10 @@
 
 namespace kirto {
 
-// Carries out the edit under the writer lock and marks the document modified. An edit of the
+// The edit of this code, as the "Edit" menu names it; null when the code is none of these edits.
+const char* EditName(uint32 code);
+
+// Carries out the edit and marks the document modified. An edit of the
 // current frame does nothing without one, and a message without its field "value" does nothing.
 // False when the code is none of these edits.
 bool ApplyEdit(AnimationDocument& document, const BMessage& message);

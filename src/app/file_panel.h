@@ -16,8 +16,11 @@ class FilePanel {
   public:
     virtual ~FilePanel() = default;
 
-    // The save panel's chosen output: a translator's id, or 0 for animated GIF.
+    // The save panel's chosen output: a translator's id, or 0 for animated GIF. A choice that is
+    // cancelled is none.
     virtual uint32 OutputFormat() const { return 0; }
+    // Makes it animated GIF again. From any thread.
+    virtual void ForgetOutputFormat() {}
     // The insert-tiled panel's fields as they stand, and its order.
     virtual std::string RowsText() const { return {}; }
     virtual std::string ColumnsText() const { return {}; }

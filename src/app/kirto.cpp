@@ -1,5 +1,8 @@
 #include "app/kirto.h"
 
+#include <new>
+
+#include "app/command_port.h"
 #include "app/document_edits.h"
 #include "document/command_codes.h"
 #include "effects/fade.h"
@@ -8,17 +11,22 @@
 #include "platform/alert.h"
 #include "platform/number.h"
 
-// One row of the command table: what a command does, and the refresh posted after it (0: none).
+// One row of the command table: what a command does, the refresh posted after it (0: none), and
+// whether and how it changes the document.
 struct Kirto::Command {
     uint32 code;
     void (*run)(Kirto& app, BMessage* message);
     uint32 refresh;
+    Change change = Change::kNone;
+    const char* step = nullptr;  // the edit's name in the "Edit" menu; null: none to undo
 };
 
 const Kirto::Command* Kirto::CommandFor(uint32 code) {
     using kirto::kUpdateAll;
     using kirto::kUpdateFrames;
     static constexpr uint32 kNothing = 0;
+    static constexpr Change kEdit = Change::kEdit;
+    static constexpr Change kInsertion = Change::kInsertion;
     static constexpr auto open_file = [](Kirto& app, BMessage* message) {
         app.Open(message);
         app.PostThumbnailSize();
@@ -26,33 +34,45 @@ const Kirto::Command* Kirto::CommandFor(uint32 code) {
     static constexpr auto cancel = [](Kirto& app, BMessage* message) {
         if (app.Cancel(message)) app.PostToWindow(kUpdateAll);
     };
+    static constexpr auto save = [](Kirto& app, BMessage* message) {
+        app.Save(message);
+        app.ShowSaved();
+    };
     static constexpr auto save_again = [](Kirto& app, BMessage*) {
-        app.Save(app.GetSaveFilePanel()->OutputFormat());
+        app.SaveAgain();
+        app.ShowSaved();
     };
     static constexpr auto fade = [](Kirto& app, BMessage* message) { app.Fade(message); };
     static constexpr Command kCommands[] = {
         {B_SIMPLE_DATA, [](Kirto& app, BMessage* message) { app.RefsReceived(message); },
-         kUpdateAll},
+         kUpdateAll, kInsertion},
         {B_CANCEL, cancel, kNothing},
-        {kirto::kOpenFile, open_file, kUpdateAll},
+        {kirto::kOpenFile, open_file, kUpdateAll, kInsertion, "Insert Animation"},
         {kirto::kInsertFiles, [](Kirto& app, BMessage* message) { app.InsertFrame(message); },
-         kUpdateAll},
+         kUpdateAll, kInsertion, "Insert"},
         {kirto::kInsertTiledFile,
-         [](Kirto& app, BMessage* message) { app.InsertTiledFrame(message); }, kUpdateAll},
-        {kirto::kSaveFile, [](Kirto& app, BMessage* message) { app.Save(message); }, kUpdateAll},
-        {kirto::kSaveAgain, save_again, kUpdateAll},
-        {kirto::kResetDocument, [](Kirto& app, BMessage*) { app.Reset(); }, kNothing},
+         [](Kirto& app, BMessage* message) { app.InsertTiledFrame(message); }, kUpdateAll,
+         kInsertion, "Insert Tiled"},
+        {kirto::kSaveFile, save, kNothing},
+        {kirto::kSaveAgain, save_again, kNothing},
+        {kirto::kResetDocument, [](Kirto& app, BMessage*) { app.StartAnew(); }, kNothing, kEdit},
         {kirto::kSelectFrame, [](Kirto& app, BMessage* message) { app.SelectFrame(message); },
          kNothing},
-        {kirto::kRemoveFrame, [](Kirto& app, BMessage*) { app.RemoveFrame(); }, kUpdateFrames},
-        {kirto::kMoveFrameUp, [](Kirto& app, BMessage*) { app.MoveFrame(true); }, kUpdateFrames},
-        {kirto::kMoveFrameDown, [](Kirto& app, BMessage*) { app.MoveFrame(false); }, kUpdateFrames},
-        {kirto::kReverseFrames, [](Kirto& app, BMessage*) { app.ReverseFrames(); }, kUpdateFrames},
+        {kirto::kRemoveFrame, [](Kirto& app, BMessage*) { app.RemoveFrame(); }, kUpdateFrames,
+         kEdit, "Remove Frame"},
+        {kirto::kMoveFrameUp, [](Kirto& app, BMessage*) { app.MoveFrame(true); }, kUpdateFrames,
+         kEdit, "Move Frame Up"},
+        {kirto::kMoveFrameDown, [](Kirto& app, BMessage*) { app.MoveFrame(false); }, kUpdateFrames,
+         kEdit, "Move Frame Down"},
+        {kirto::kReverseFrames, [](Kirto& app, BMessage*) { app.ReverseFrames(); }, kUpdateFrames,
+         kEdit, "Reverse All"},
+        {kirto::kUndo, [](Kirto& app, BMessage*) { app.Undo(); }, kUpdateAll, kEdit},
+        {kirto::kRedo, [](Kirto& app, BMessage*) { app.Redo(); }, kUpdateAll, kEdit},
         {kirto::kPreview, [](Kirto& app, BMessage*) { app.Preview(); }, kUpdateAll},
-        {kirto::kFadeToNext, fade, kUpdateFrames},
-        {kirto::kFadeFromPrevious, fade, kUpdateFrames},
-        {kirto::kFadeFromColor, fade, kUpdateFrames},
-        {kirto::kFadeToColor, fade, kUpdateFrames},
+        {kirto::kFadeToNext, fade, kUpdateFrames, kEdit, "Fade"},
+        {kirto::kFadeFromPrevious, fade, kUpdateFrames, kEdit, "Fade"},
+        {kirto::kFadeFromColor, fade, kUpdateFrames, kEdit, "Fade"},
+        {kirto::kFadeToColor, fade, kUpdateFrames, kEdit, "Fade"},
         {kirto::kStoreSettings, [](Kirto& app, BMessage* message) { app.StoreSettings(*message); },
          kUpdateAll},
         {kirto::kTranslatorSettings,
@@ -62,6 +82,12 @@ const Kirto::Command* Kirto::CommandFor(uint32 code) {
         if (command.code == code) return &command;
     }
     return nullptr;
+}
+
+Kirto::Change Kirto::ChangeBy(uint32 code) {
+    if (code == B_REFS_RECEIVED) return Change::kInsertion;
+    if (const Command* command = CommandFor(code)) return command->change;
+    return kirto::EditName(code) ? Change::kEdit : Change::kNone;
 }
 
 namespace {
@@ -96,7 +122,8 @@ Kirto::Kirto(Prefs& settings, kirto::Desktop& desktop, BTranslatorRoster& roster
     : IEApplication(kSignature, resource_file),
       AnimationDocument(WarnIfFailed(settings)),
       desktop_(desktop),
-      roster_(roster) {
+      roster_(roster),
+      commands_(std::make_shared<kirto::CommandPort>(*this, Port())) {
     window = desktop_.OpenMainWindow(*this, MainWindowFrame(), "Kirto - untitled");
     PostToWindow(kirto::kUpdateAll);
 }
@@ -121,15 +148,31 @@ BRect Kirto::MainWindowFrame() {
 }
 
 void Kirto::MessageReceived(BMessage* message) {
-    if (const Command* command = CommandFor(message->what)) {
+    try {
+        CarryOut(message);
+    } catch (const std::bad_alloc&) {
+        AbandonStep();
+        kirto::WarnOutOfMemory();
+        PostToWindow(kirto::kUpdateAll);
+    }
+}
+
+void Kirto::CarryOut(BMessage* message) {
+    const Command* command = CommandFor(message->what);
+    BeginStep();
+    if (command) {
         command->run(*this, message);
-        if (command->refresh != 0) PostToWindow(command->refresh);
     } else if (!kirto::ApplyEdit(*this, *message)) {
         IEApplication::MessageReceived(message);
     }
-    int32 serial = 0;
-    if (message->FindInt32("serial", &serial) != B_OK) return;
-    SetEditsDone(serial);
+    EndStep(command ? command->step : kirto::EditName(message->what));
+    if (command && command->refresh != 0) PostToWindow(command->refresh);
+}
+
+void Kirto::DispatchMessage(BMessage* message, BHandler* handler) {
+    IEApplication::DispatchMessage(message, handler);
+    if (!kirto::CommandPort::IsCounted(*message)) return;
+    kirto::CommandPort::Uncount(*this, *message);
     PostToWindow(kirto::kEditDone);
 }
 
@@ -141,7 +184,7 @@ bool Kirto::Cancel(BMessage* message) {
     void* source = nullptr;
     if (message->FindPointer("source", &source) != B_OK || !source) return false;
     if (IsPanel(kirto::FilePanelKind::kSave, source)) {
-        desktop_.AbandonPendingCommand();
+        AbandonWaiting();
         return false;
     }
     if (!IsPanel(kirto::FilePanelKind::kOpen, source)) return false;
@@ -150,8 +193,20 @@ bool Kirto::Cancel(BMessage* message) {
         open_panel_delivered = false;
         return false;
     }
-    EditAwaitedPalette([](Palette& palette) { palette.Set(kirto::kPaletteWebSafe); });
+    const bool awaited =
+        EditAwaitedPalette([](Palette& palette) { palette.Set(kirto::kPaletteWebSafe); });
+    if (awaited) EndStepWithinLast();
     return true;
+}
+
+void Kirto::StartAnew() {
+    {
+        const std::lock_guard lock(panels_mutex_);
+        const auto panel = panels_.find(kirto::FilePanelKind::kSave);
+        if (panel != panels_.end()) panel->second->ForgetOutputFormat();
+    }
+    StartHistory();
+    Reset();
 }
 
 void Kirto::SelectFrame(BMessage* message) {
@@ -207,7 +262,7 @@ void Kirto::Fade(BMessage* message) {
 kirto::FilePanel* Kirto::GetPanel(kirto::FilePanelKind kind) {
     const std::lock_guard lock(panels_mutex_);
     std::unique_ptr<kirto::FilePanel>& panel = panels_[kind];
-    if (!panel) panel = desktop_.MakeFilePanel(kind, BMessenger(*this));
+    if (!panel) panel = desktop_.MakeFilePanel(kind, Commands());
     return panel.get();
 }
 

@@ -22,6 +22,10 @@ class Kirto : public IEApplication, public AnimationDocument, public kirto::File
   public:
     static constexpr const char* kSignature = "application/x-vnd.Tavon-Kirto";
 
+    // What a command does to the document; an insertion may bring frames into an empty one.
+    enum class Change { kNone, kEdit, kInsertion };
+    static Change ChangeBy(uint32 code);
+
     // Everything handed in outlives the application. Makes and shows the main window; the loop is
     // started by the caller (Run() or Loop()). resource_file: as for IEApplication.
     Kirto(Prefs& settings, kirto::Desktop& desktop, BTranslatorRoster& roster,
@@ -35,10 +39,16 @@ class Kirto : public IEApplication, public AnimationDocument, public kirto::File
     // application thread's.
     std::map<translator_id, BMessage> translator_settings;
 
+    // Where windows and file panels send their commands.
+    BMessenger Commands() const { return BMessenger(commands_); }
+
     void MessageReceived(BMessage* message) override;
     // Files dropped on the window, or opened from the desktop: routed to opening or inserting.
     void RefsReceived(BMessage* message) override;
     void AboutRequested() override;
+    // 'asav': to the current file in the save panel's format. Asks first where another program has
+    // changed the file since it was opened or saved.
+    void SaveAgain();
     // A file panel closed. True when the window must be refreshed.
     bool Cancel(BMessage* message);
 
@@ -71,28 +81,47 @@ class Kirto : public IEApplication, public AnimationDocument, public kirto::File
         return GetPanel(kirto::FilePanelKind::kInsertTiled);
     }
 
+  protected:
+    void DispatchMessage(BMessage* message, BHandler* handler) override;
+
   private:
     struct Command;
 
     static const Command* CommandFor(uint32 code);
+    // Throws what the standard library throws without memory.
+    void CarryOut(BMessage* message);
     // True when that panel exists and is the source.
     bool IsPanel(kirto::FilePanelKind kind, const void* source);
     BRect MainWindowFrame();
+    // Empties the document; the next one is saved as animated GIF until told otherwise.
+    void StartAnew();
     bool LoadAwaitedPalette(const std::string& path);
     bool EditAwaitedPalette(const std::function<void(Palette&)>& edit);
     void SelectFrame(BMessage* message);
     void StoreSettings(const BMessage& message);
     void StoreTranslatorSettings(const BMessage& message);
     bool SaveGif();
+    bool MayOverwrite();
+    void ShowSaved();
+    bool MayOpenDropped(const BMessage& message, const std::string& path);
+    void AbandonWaiting();
+    using AnimationDocument::SetFile;
+    void SetFile(const std::string& directory, const std::string& name,
+                 const std::optional<kirto::FileStamp>& stamp);
     bool WriteSequenceFile(const Frame& frame, const std::string& path, uint32 translator,
                            uint32 format);
     void RemovePreviews();
 
     kirto::Desktop& desktop_;
     BTranslatorRoster& roster_;
+    const std::shared_ptr<kirto::MessagePort> commands_;
     std::mutex panels_mutex_;
     std::map<kirto::FilePanelKind, std::unique_ptr<kirto::FilePanel>> panels_;  // guarded by it
     int32 fade_name_base_ = 0;
+    // The current file as it was when it was opened or saved.
+    std::optional<kirto::FileStamp> file_stamp_;
+    std::optional<BMessage> waiting_drop_;  // kOpenFile, to be carried out after a save
+    std::string cut_short_;                 // what the last GIF had no room for, until it is shown
     // The preview files that were written, as they were then, by path.
     std::map<std::string, std::optional<kirto::FileStamp>> previews_;
 };

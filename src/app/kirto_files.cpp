@@ -1,7 +1,9 @@
 // Moving whole animations between the document and files.
 #include <algorithm>
 #include <filesystem>
+#include <utility>
 
+#include "app/command_port.h"
 #include "app/kirto.h"
 #include "app/open_animation.h"
 #include "app/save_animation.h"
@@ -13,13 +15,19 @@
 namespace {
 
 constexpr uint32 kAnimatedGif = 0xFFFFFFFF;
-constexpr const char* kNotCreated =
-    "The animation can't be saved because the file could not be created at this location.";
 constexpr const char* kInvalidTranslator =
     "The animation can't be saved because the selected translator is not valid.";
 
 constexpr int32 kOpenButton = 1;
 constexpr int32 kInsertButton = 2;
+constexpr int32 kDiscardButton = 1;
+constexpr int32 kSaveFirstButton = 2;
+constexpr int32 kOverwriteButton = 0;
+constexpr int32 kSaveAsButton = 1;
+
+bool IsGif(uint32 format) {
+    return format == 0 || format == kAnimatedGif;
+}
 
 // Empty, which no file can be made at, where there is no directory: a bare name would be a file of
 // the folder that the program happens to run in.
@@ -45,6 +53,8 @@ void Kirto::RefsReceived(BMessage* message) {
     const bool dropped = message->what == B_SIMPLE_DATA;
     BMessage command = *message;
     command.what = animation ? kirto::kOpenFile : kirto::kInsertFiles;
+    command.RemoveName("panel");
+    command.AddBool("panel", false);
     if (animation && dropped) {
         BAlert alert("",
                      "Do you wish to insert this image into the current animation or open it as a "
@@ -54,21 +64,27 @@ void Kirto::RefsReceived(BMessage* message) {
         if (answer != kOpenButton && answer != kInsertButton) return;
         command.RemoveName("reset");
         command.AddBool("reset", answer == kOpenButton);
+        command.RemoveName("ask");
+        command.AddBool("ask", true);
     }
+    if (kirto::CommandPort::IsCounted(*message)) kirto::CommandPort::Count(*this, &command);
     PostMessage(command);
 }
 
 void Kirto::Open(BMessage* message) {
     entry_ref ref;
     if (message->FindRef("refs", &ref) != B_OK) return;
-    open_panel_delivered = true;
+    bool from_panel = true;
+    message->FindBool("panel", &from_panel);
+    if (from_panel) open_panel_delivered = true;
     if (LoadAwaitedPalette(ref.path)) return;
 
     bool reset = true;
     int32 position = 0;
     message->FindBool("reset", &reset);
     if (reset) {
-        Reset();
+        if (!MayOpenDropped(*message, ref.path)) return;
+        StartAnew();
     } else {
         message->FindInt32("position", &position);
         position = std::clamp(position, 0, FrameCount());
@@ -79,15 +95,42 @@ void Kirto::Open(BMessage* message) {
         kirto::Warn("The animation can't be opened because this file type is unsupported.");
         return;
     }
+    const std::optional<kirto::FileStamp> stamp = kirto::FileStamp::Of(ref.path);
     BFile file(ref.path, B_READ_ONLY);
     const bool opened = type == kirto::AnimationType::kGif ? kirto::OpenGif(&file, position, *this)
                                                            : kirto::OpenFli(&file, position, *this);
     if (!opened) return;
     if (reset) {
-        SetFile(ref.Directory(), ref.Leaf());
+        SetFile(ref.Directory(), ref.Leaf(), stamp);
     } else {
         SetModified(true);
     }
+}
+
+// A dropped file takes the document's place only if it is there and the document's changes may go,
+// as New and Open ask for them. Where they are to be saved first, the file waits.
+bool Kirto::MayOpenDropped(const BMessage& message, const std::string& path) {
+    bool ask = false;
+    if (message.FindBool("ask", &ask) != B_OK || !ask) return true;
+    if (BFile(path, B_READ_ONLY).InitCheck() != B_OK) {
+        kirto::Warn("The animation can't be opened because it was corrupted or unreadable.");
+        return false;
+    }
+    if (!Modified() || FrameCount() == 0) return true;
+    BAlert alert("", "Do you want to save your changes?", "Cancel", "Discard", "Save");
+    const int32 answer = alert.Go();
+    waiting_drop_.reset();
+    if (answer == kSaveFirstButton) {
+        waiting_drop_ = message;
+        PostToWindow(kirto::kMenuSave);
+    }
+    return answer == kDiscardButton;
+}
+
+// What was to follow a save does not, because there was none.
+void Kirto::AbandonWaiting() {
+    desktop_.AbandonPendingCommand();
+    waiting_drop_.reset();
 }
 
 // Edits the palette that waits for a file: the global one, or else the current frame's. False when
@@ -115,6 +158,8 @@ bool Kirto::LoadAwaitedPalette(const std::string& path) {
     });
     if (!awaited) return false;
     SetModified(true);
+    // Asking for a file and reading it are one edit.
+    EndStepWithinLast();
     if (!loaded) {
         kirto::Warn("The palette can't be loaded because the file was corrupted or unreadable.");
     }
@@ -132,26 +177,63 @@ void Kirto::Save(BMessage* message) {
     std::string name;
     if (message->FindRef("directory", &directory) != B_OK) return;
     if (message->FindString("name", &name) != B_OK) return;
-    SetFile(directory.path, name);
+    SetFile(directory.path, name, std::nullopt);
     Save(static_cast<uint32>(translator));
 }
 
 void Kirto::Save(uint32 format) {
     UpdateGlobalPalette();
-    if (format == 0 || format == kAnimatedGif) {
-        if (!SaveGif()) return;
-        SetModified(false);
+    const std::optional<BMessage> waiting = std::exchange(waiting_drop_, std::nullopt);
+    if (IsGif(format)) {
+        if (!SaveGif()) {
+            desktop_.AbandonPendingCommand();
+            return;
+        }
+        MarkSaved();
     } else if (SaveSequence(format)) {
-        SetModified(false);
+        MarkSaved();
     }
     PostToWindow(kirto::kResume);
+    if (waiting && !Modified()) PostMessage(*waiting);
+}
+
+void Kirto::SaveAgain() {
+    const uint32 format = GetSaveFilePanel()->OutputFormat();
+    if (!IsGif(format) || MayOverwrite()) Save(format);
+}
+
+bool Kirto::MayOverwrite() {
+    const auto state = CurrentState();
+    const auto stamp = kirto::FileStamp::Of(Join(state->file_directory, state->file_name));
+    if (!stamp || stamp == file_stamp_) return true;
+    BAlert alert("",
+                 "Another program has changed the file \"" + state->file_name +
+                     "\" since it was opened or saved. Do you want to overwrite it?",
+                 "Overwrite", "Save As...", "Cancel");
+    const int32 answer = alert.Go();
+    if (answer == kSaveAsButton) {
+        PostToWindow(kirto::kMenuSaveAs);
+    } else if (answer != kOverwriteButton) {
+        AbandonWaiting();
+    }
+    return answer == kOverwriteButton;
+}
+
+void Kirto::ShowSaved() {
+    PostToWindow(kirto::kUpdateAll);
+    if (cut_short_.empty()) return;
+    // After the refresh, which writes the status line too.
+    PostStatus("Status: saved, but " + std::exchange(cut_short_, {}));
 }
 
 // False after telling the user what went wrong. The next save then asks for a name again.
 bool Kirto::SaveGif() {
     const auto state = CurrentState();
-    switch (kirto::SaveAnimatedGif(*this, Join(state->file_directory, state->file_name))) {
+    const std::string path = Join(state->file_directory, state->file_name);
+    switch (kirto::SaveAnimatedGif(*this, path)) {
         case kirto::SaveResult::kSaved:
+            file_stamp_ = kirto::FileStamp::Of(path);
+            cut_short_ = kirto::NumbersCutShort(*state->animation, prefs.global_pauseinseconds);
             return true;
         case kirto::SaveResult::kStopped:
             return false;
@@ -160,13 +242,23 @@ bool Kirto::SaveGif() {
                 "The animation can't be saved because one of the frames has a larger size than the "
                 "animation.");
             break;
+        case kirto::SaveResult::kSizeOutOfRange:
+            kirto::Warn("The animation can't be saved because " + kirto::SizeOutOfRange(*state->animation) +
+                        " is not between 0 and 65535.");
+            break;
         case kirto::SaveResult::kFileNotCreated:
         case kirto::SaveResult::kWriteFailed:
-            kirto::Warn(kNotCreated);
+            kirto::Warn(kirto::kFileNotCreatedText);
             break;
     }
-    SetFile("", "untitled");
+    SetFile("", "untitled", std::nullopt);
     return false;
+}
+
+void Kirto::SetFile(const std::string& directory, const std::string& name,
+                    const std::optional<kirto::FileStamp>& stamp) {
+    SetFile(directory, name);
+    file_stamp_ = stamp;
 }
 
 bool Kirto::SaveSequence(uint32 translator) {
@@ -195,7 +287,7 @@ bool Kirto::WriteSequenceFile(const Frame& frame, const std::string& path, uint3
                               uint32 format) {
     const std::unique_ptr<BFile> file = BFile::CreateReplacing(path);
     if (file->InitCheck() != B_OK) {
-        kirto::Warn(kNotCreated);
+        kirto::Warn(kirto::kFileNotCreatedText);
         return false;
     }
     // Once a sequence is enough.
@@ -207,7 +299,7 @@ bool Kirto::WriteSequenceFile(const Frame& frame, const std::string& path, uint3
         return false;
     }
     if (file->Commit() != B_OK) {
-        kirto::Warn(kNotCreated);
+        kirto::Warn(kirto::kFileNotCreatedText);
         return false;
     }
     return true;

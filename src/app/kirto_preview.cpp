@@ -36,6 +36,11 @@ void Kirto::Preview() {
             "animation.");
         return;
     }
+    if (const std::string field = kirto::SizeOutOfRange(*Current()); !field.empty()) {
+        kirto::Warn("The animation can't be previewed because " + field +
+                    " is not between 0 and 65535.");
+        return;
+    }
     UpdateGlobalPalette();
     if (!CanBeOpened(prefs.misc_tempfilelocation)) {
         prefs.misc_tempfilelocation = kirto::HomeDirectory();

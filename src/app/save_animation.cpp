@@ -19,7 +19,38 @@ SaveResult Encode(AnimationDocument& document, const std::shared_ptr<BFile>& fil
     return file->Commit() == B_OK ? SaveResult::kSaved : SaveResult::kWriteFailed;
 }
 
+constexpr int32 kLargestNumber = 0xFFFF;
+
+bool Fits(int64 number) {
+    return number >= 0 && number <= kLargestNumber;
+}
+
 }  // namespace
+
+std::string SizeOutOfRange(const Animation& animation) {
+    if (!Fits(animation.width)) return "Width";
+    if (!Fits(animation.height)) return "Height";
+    for (const FramePointer& frame : animation.frames) {
+        if (!Fits(frame->x_offset)) return "XOffset of " + frame->name;
+        if (!Fits(frame->y_offset)) return "YOffset of " + frame->name;
+    }
+    return {};
+}
+
+std::string NumbersCutShort(const Animation& animation, bool in_seconds) {
+    std::string text;
+    if (animation.use_loop && !Fits(animation.loop_count)) {
+        text = Format("loop count %d was saved as %d", animation.loop_count,
+                      animation.loop_count & kLargestNumber);
+    }
+    const auto pauses =
+        std::count_if(animation.frames.begin(), animation.frames.end(), [&](const auto& frame) {
+            return !Fits(GifSave::DelayOf(animation, *frame, in_seconds));
+        });
+    if (pauses == 0) return text;
+    return text + (text.empty() ? "" : ", ") +
+           Format("%d pause(s) above 655.35 seconds were saved shorter", static_cast<int>(pauses));
+}
 
 std::string SequenceFileName(const std::string& file_name, int32 index) {
     const size_t dot = std::min(file_name.find('.'), file_name.size());
@@ -28,6 +59,7 @@ std::string SequenceFileName(const std::string& file_name, int32 index) {
 
 SaveResult SaveAnimatedGif(AnimationDocument& document, const std::string& path) {
     if (document.Current()->FrameLargerThanCanvas()) return SaveResult::kFrameTooLarge;
+    if (!SizeOutOfRange(*document.Current()).empty()) return SaveResult::kSizeOutOfRange;
     return Encode(document, BFile::CreateReplacing(path));
 }
 

@@ -29,8 +29,13 @@ int32 Distance(rgb_color a, rgb_color b) {
 
 }  // namespace
 
-void Palette::Set(int32 kind) {
+void Palette::SetKind(int32 kind) {
     mode = kind;
+    if (kind == kirto::kPaletteGreyscale) dither = false;
+}
+
+void Palette::Set(int32 kind) {
+    SetKind(kind);
     bits = 8;
     switch (kind) {
         case kirto::kPaletteWebSafe:
@@ -80,10 +85,10 @@ uint8 Palette::IndexForColor(uint8 red, uint8 green, uint8 blue) const {
 
 void Palette::RecogniseBuiltIn() {
     if (colors == *web_safe) {
-        mode = kirto::kPaletteWebSafe;
+        SetKind(kirto::kPaletteWebSafe);
     } else if (colors == kirto::kSystemColors) {
-        mode = kirto::kPaletteSystem;
+        SetKind(kirto::kPaletteSystem);
     } else if (IsGreyRamp(colors)) {
-        mode = kirto::kPaletteGreyscale;
+        SetKind(kirto::kPaletteGreyscale);
     }
 }

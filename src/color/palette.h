@@ -40,7 +40,7 @@ class Palette {
     int32 background_index = 0;
     int32 transparent_index = 0;
     bool use_transparent = false;
-    bool dither = false;
+    bool dither = false;  // cleared when the kind becomes greyscale
 
     // Web safe.
     Palette() : Palette(kirto::kPaletteWebSafe) {}
@@ -86,11 +86,13 @@ class Palette {
     void UpdateIfNeeded(const BBitmap* first_frame, const BBitmap* current_frame);
 
     // Gives the palette kind 0, 1 or 2 when all 256 entries equal that built-in table; otherwise
-    // the kind stays. Nothing else changes.
+    // the kind stays. Entries, size and bits stay.
     void RecogniseBuiltIn();
 
     bool operator==(const Palette&) const = default;
 
   private:
+    // Greys are never dithered, and the flag says so.
+    void SetKind(int32 kind);
     bool ReadTriples(BFile* file, int32 count);
 };

@@ -10,8 +10,6 @@
 
 namespace {
 
-constexpr size_t kMaxNameBytes = 255;
-
 const BBitmap* PictureOf(const kirto::FramePointer& frame) {
     return frame ? frame->bitmap.get() : nullptr;
 }
@@ -26,14 +24,27 @@ AnimationDocument::AnimationDocument(Prefs& settings, BMessenger window_messenge
     first.animation = std::make_shared<const kirto::Animation>();
     first.settings = std::make_shared<const Prefs>(prefs);
     Publish(std::move(first));
+    // What can be undone is worth less than what the user is about to do.
+    pixel_budget->SetReliever([this] { return history_.DropOne(); });
     Reset();
 }
 
-AnimationDocument::~AnimationDocument() = default;
+AnimationDocument::~AnimationDocument() {
+    // Bitmaps may keep the budget longer.
+    pixel_budget->SetReliever(nullptr);
+}
 
 std::shared_ptr<const kirto::DocumentState> AnimationDocument::CurrentState() const {
     const std::lock_guard lock(state_mutex_);
     return state_;
+}
+
+bool AnimationDocument::HasUnsavedChanges() const {
+    // What waits is looked at first: a change that ends in between has set modified by then.
+    if (insertions_waiting > 0) return true;
+    const bool waiting = changes_waiting > 0;
+    const auto state = CurrentState();
+    return (waiting || state->modified) && !state->animation->frames.Empty();
 }
 
 void AnimationDocument::Publish(kirto::DocumentState next) {
@@ -64,12 +75,8 @@ void AnimationDocument::SetModified(bool changed) {
 void AnimationDocument::SetFile(const std::string& directory, const std::string& name) {
     ChangeState([&](kirto::DocumentState& state) {
         state.file_directory = directory;
-        state.file_name = kirto::CutUtf8(name, kMaxNameBytes);
+        state.file_name = kirto::CutUtf8(name, kirto::kMaxFileNameBytes);
     });
-}
-
-void AnimationDocument::SetEditsDone(int32 serial) {
-    ChangeState([serial](kirto::DocumentState& state) { state.edits_done = serial; });
 }
 
 void AnimationDocument::PublishSettings() {
@@ -89,6 +96,7 @@ void AnimationDocument::BeginStep() {
 
 void AnimationDocument::EndStep(const char* name) {
     if (!before_step_) return;
+    if (!name) return AbandonStep();
     kirto::Moment before = *std::exchange(before_step_, std::nullopt);
     kirto::Moment after = Now();
     if (*before.animation == *after.animation) return;

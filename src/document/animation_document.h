@@ -19,6 +19,11 @@
 // application's, and any thread may read the state of the last change without waiting.
 class AnimationDocument : public DocumentLock {
   public:
+    // Commands that are on their way and will change the document; and those of them that may bring
+    // frames. A command is counted down after it has set modified.
+    std::atomic<int32> changes_waiting = 0;
+    std::atomic<int32> insertions_waiting = 0;
+
     // The settings must outlive the document. window receives the refresh commands; it may be
     // invalid. Calls Reset() last.
     explicit AnimationDocument(Prefs& settings, BMessenger window_messenger = {});
@@ -38,6 +43,9 @@ class AnimationDocument : public DocumentLock {
     kirto::FramePointer CurrentFrame() const { return Current()->CurrentFrame(); }
     int32 Selected() const { return Current()->selected; }
     bool Modified() const { return CurrentState()->modified; }
+    // Changes that no file has, made or on their way. An animation without frames has nothing to
+    // lose, but frames on their way count already.
+    bool HasUnsavedChanges() const;
 
     // All that follows is for the application thread.
 
@@ -55,7 +63,6 @@ class AnimationDocument : public DocumentLock {
     void SetModified(bool changed);
     // The name is cut at a whole UTF-8 character where it is too long.
     void SetFile(const std::string& directory, const std::string& name);
-    void SetEditsDone(int32 serial);
     // Makes the settings as they are now part of the state.
     void PublishSettings();
 
@@ -81,11 +88,13 @@ class AnimationDocument : public DocumentLock {
     void UpdateGlobalPalette();
 
     // The history of edits. What happens between BeginStep and EndStep is one edit, of that name;
-    // it is no step when the animation is the same afterwards.
+    // it is no step when the animation is the same afterwards, nor without a name (null).
     void BeginStep();
     void EndStep(const char* name);
     // What happened since BeginStep belongs to the edit before it.
     void EndStepWithinLast();
+    // What happened since BeginStep can't be undone.
+    void AbandonStep() { before_step_.reset(); }
     // Forgets all edits; what happens until EndStep is none.
     void StartHistory();
     // True when there was an edit to undo or redo. The document is modified unless it stands again

@@ -14,7 +14,7 @@ inline constexpr uint32 kUpdateFramesNoStatus = FourCharCode("auns");  // frame 
 // Application to main window: a save has finished, go on with what waited for it. No fields.
 inline constexpr uint32 kResume = FourCharCode("arsm");
 
-// Application to main window: an edit that carried a serial number is done. No fields.
+// Application to main window: a change that was counted as waiting is done. No fields.
 inline constexpr uint32 kEditDone = FourCharCode("aued");
 
 // Application to main window: forget the command that waits for a save. No fields.
@@ -29,7 +29,9 @@ inline constexpr uint32 kThumbnailPreset = FourCharCode("tvpv");     // the sett
 inline constexpr uint32 kStatusUpdate = FourCharCode("svup");
 
 // File panels and desktop to application. Refs "refs"; the first only, but for kInsertFiles.
-inline constexpr uint32 kOpenFile = FourCharCode("aofp");     // bool "reset", int32 "position"
+// kOpenFile: bool "reset", int32 "position"; bool "ask": about unsaved changes, before a reset; bool
+// "panel": false for files that no panel delivered.
+inline constexpr uint32 kOpenFile = FourCharCode("aofp");
 inline constexpr uint32 kInsertFiles = FourCharCode("aifp");  // int32 "position"
 inline constexpr uint32 kInsertTiledFile = FourCharCode("aitp");
 // Save panel to application. Int64 "translator_id", ref "directory", string "name".
@@ -43,10 +45,11 @@ inline constexpr uint32 kRemoveFrame = FourCharCode("awfr");
 inline constexpr uint32 kMoveFrameUp = FourCharCode("awfu");
 inline constexpr uint32 kMoveFrameDown = FourCharCode("awfd");
 inline constexpr uint32 kReverseFrames = FourCharCode("awfv");
+inline constexpr uint32 kUndo = FourCharCode("aweu");
+inline constexpr uint32 kRedo = FourCharCode("awer");
 inline constexpr uint32 kPreview = FourCharCode("awvp");
 
 // Main window to application: edits of the document that panels ask for, with the value checked.
-// Each may carry int32 "serial", see AnimationDocument::edits_done.
 inline constexpr uint32 kSetWidth = FourCharCode("gvwd");        // int32 "value"
 inline constexpr uint32 kSetHeight = FourCharCode("gvht");       // int32 "value"
 inline constexpr uint32 kUsePause = FourCharCode("gvpa");        // bool "value"

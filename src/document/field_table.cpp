@@ -11,21 +11,21 @@ namespace {
 using Bound = Field::Bound;
 
 constexpr Field kFields[] = {
-    {kSetWidth, "Width", &Animation::width, Bound::kFromZero},
-    {kSetHeight, "Height", &Animation::height, Bound::kFromZero},
-    {kUsePause, "Pause", &Animation::use_pause, Bound::kNone},
-    {kSetPauseLength, "Pause length", &Animation::pause_length, Bound::kFromZero},
-    {kUseLoop, "Loop", &Animation::use_loop, Bound::kNone},
-    {kSetLoopCount, "Loop count", &Animation::loop_count, Bound::kFromZero},
-    {kSetBackgroundIndex, "Background index", &Palette::background_index, Bound::kPaletteIndex},
-    {kUseTransparent, "Transparent", &Palette::use_transparent, Bound::kNone},
-    {kSetTransparentIndex, "Transparent index", &Palette::transparent_index, Bound::kPaletteIndex},
-    {kSetDither, "Dither", &Palette::dither, Bound::kNone},
-    {kFrameSetXOffset, "XOffset", &Frame::x_offset, Bound::kFromZero},
-    {kFrameSetYOffset, "YOffset", &Frame::y_offset, Bound::kFromZero},
-    {kFrameUsePause, "Pause", &Frame::use_pause, Bound::kNone},
-    {kFrameSetPauseLength, "Pause length", &Frame::pause_length, Bound::kFromZero},
-    {kFrameUsePalette, "Palette", &Frame::local_palette, Bound::kNone},
+    {kSetWidth, "Width", "Change Width", &Animation::width, Bound::kFromZero},
+    {kSetHeight, "Height", "Change Height", &Animation::height, Bound::kFromZero},
+    {kUsePause, "Pause", "Change Pause", &Animation::use_pause, Bound::kNone},
+    {kSetPauseLength, "Pause length", "Change Pause Length", &Animation::pause_length, Bound::kFromZero},
+    {kUseLoop, "Loop", "Change Loop", &Animation::use_loop, Bound::kNone},
+    {kSetLoopCount, "Loop count", "Change Loop Count", &Animation::loop_count, Bound::kFromZero},
+    {kSetBackgroundIndex, "Background index", "Change Background Index", &Palette::background_index, Bound::kPaletteIndex},
+    {kUseTransparent, "Transparent", "Change Transparency", &Palette::use_transparent, Bound::kNone},
+    {kSetTransparentIndex, "Transparent index", "Change Transparent Index", &Palette::transparent_index, Bound::kPaletteIndex},
+    {kSetDither, "Dither", "Change Dither", &Palette::dither, Bound::kNone},
+    {kFrameSetXOffset, "XOffset", "Change X Offset", &Frame::x_offset, Bound::kFromZero},
+    {kFrameSetYOffset, "YOffset", "Change Y Offset", &Frame::y_offset, Bound::kFromZero},
+    {kFrameUsePause, "Pause", "Change Frame Pause", &Frame::use_pause, Bound::kNone},
+    {kFrameSetPauseLength, "Pause length", "Change Frame Pause Length", &Frame::pause_length, Bound::kFromZero},
+    {kFrameUsePalette, "Palette", "Change Local Palette", &Frame::local_palette, Bound::kNone},
 };
 
 bool Find(const BMessage& command, int32* value) {

@@ -20,6 +20,7 @@ struct Field {
 
     uint32 code;       // the command that sets it, with a "value" of the member's type
     const char* name;  // as alerts say it
+    const char* step;  // as the "Edit" menu names a change of it
     Member member;
     Bound bound;  // of numbers: at least 0, or an index of the global palette
 

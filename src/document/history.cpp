@@ -3,9 +3,8 @@
 namespace kirto {
 
 void History::Record(Step step) {
-    const auto done = static_cast<std::ptrdiff_t>(done_);
-    steps_.erase(steps_.begin() + done, steps_.end());
-    if (saved_ > done) saved_ = kNever;
+    steps_.resize(done_);
+    if (saved_ && *saved_ > done_) saved_.reset();
     steps_.push_back(std::move(step));
     ++done_;
 }
@@ -13,7 +12,7 @@ void History::Record(Step step) {
 void History::Extend(Moment after) {
     if (done_ == 0) return;
     steps_[done_ - 1].after = std::move(after);
-    if (IsAtSaved()) saved_ = kNever;
+    if (IsAtSaved()) saved_.reset();
 }
 
 const History::Step* History::Undo() {
@@ -41,12 +40,12 @@ bool History::DropOne() {
         steps_.pop_front();
         --done_;
         // A state that was left by the dropped step can't be reached again.
-        saved_ = saved_ > 0 ? saved_ - 1 : kNever;
+        if (saved_ && (*saved_)-- == 0) saved_.reset();
         return true;
     }
     if (steps_.empty()) return false;
     steps_.pop_back();
-    if (saved_ > static_cast<std::ptrdiff_t>(steps_.size())) saved_ = kNever;
+    if (saved_ && *saved_ > steps_.size()) saved_.reset();
     return true;
 }
 

@@ -2,6 +2,7 @@
 
 #include <deque>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "animation/animation.h"
@@ -39,7 +40,7 @@ class History {
 
     // The document is saved as it is now; and whether it stands where it was saved last.
     void MarkSaved() { saved_ = done_; }
-    bool IsAtSaved() const { return saved_ == static_cast<std::ptrdiff_t>(done_); }
+    bool IsAtSaved() const { return saved_ == done_; }
 
     // Forgets everything; the document counts as saved.
     void Clear();
@@ -48,11 +49,10 @@ class History {
     bool DropOne();
 
   private:
-    static constexpr std::ptrdiff_t kNever = -1;
-
     std::deque<Step> steps_;
-    size_t done_ = 0;            // so many of them are made, the others are undone
-    std::ptrdiff_t saved_ = 0;  // so many were made at the last save; kNever: none of those left
+    size_t done_ = 0;  // so many of them are made, the others are undone
+    // So many of them were made at the last save; nothing: that state can't be reached any more.
+    std::optional<size_t> saved_ = 0;
 };
 
 }  // namespace kirto

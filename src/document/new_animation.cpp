@@ -11,11 +11,12 @@ Animation NewAnimation(const Prefs& settings) {
     animation.use_loop = settings.global_useloop;
     animation.loop_count = settings.global_loopcount;
     EditPalette(animation, [&settings](Palette& palette) {
+        // Before the kind, which may clear it.
+        palette.dither = settings.palette_dither;
         palette.Set(settings.palette_mapping);
         palette.use_transparent = settings.palette_usetransparent;
         palette.transparent_index = settings.palette_transparentindex;
         palette.background_index = settings.palette_backgroundindex;
-        palette.dither = settings.palette_dither;
     });
     return animation;
 }

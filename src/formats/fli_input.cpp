@@ -43,6 +43,12 @@ bool FliInput::Skip(int64 distance) {
     return file_.Seek(distance, SEEK_FROM_CURRENT) >= 0;
 }
 
+bool FliInput::StartRecord() {
+    if (file_.Position() <= furthest_record_) return false;
+    furthest_record_ = file_.Position();
+    return true;
+}
+
 bool FliInput::Spend(int64 work) {
     work_left_ -= work;
     return work_left_ >= 0;

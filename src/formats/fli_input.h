@@ -26,6 +26,10 @@ class FliInput {
     // allowed.
     bool Skip(int64 distance);
 
+    // Notes that a record starts here. False where the file has led back: a record has started here
+    // or further on before.
+    bool StartRecord();
+
     // Charges work, in bytes handled. False when the account is used up.
     bool Spend(int64 work);
     // Allows this much more work: each picture brings its own.
@@ -34,6 +38,7 @@ class FliInput {
   private:
     BFile& file_;
     int64 work_left_;
+    int64 furthest_record_ = -1;  // where the record furthest on starts
     AllocatedArray<uint8> block_;
     size_t capacity_ = 0;  // of block_
 };

@@ -117,6 +117,7 @@ bool FliLoad::ReadFliHeader() {
 
 bool FliLoad::ReadFliFrameHeader() {
     uint8 header[kRecordHeaderSize];
+    led_back_ = !input_.StartRecord();
     if (!input_.Read(header)) return false;
     bytes_left_ = static_cast<int32>(kirto::ReadLittle32(header));
     const uint16 type = kirto::ReadLittle16(header + 4);
@@ -189,7 +190,14 @@ bool FliLoad::StartFrame(int32 index) {
         out_of_memory = bounds.IsValid();
         return false;
     }
-    input_.Allow(kFillsPerFrame * static_cast<int64>(picture_->BitsLength()));
+    return ChargeFrame(static_cast<int64>(picture_->BitsLength()));
+}
+
+// A picture brings its own work with it. Where the file leads back it does not: the same few bytes
+// would bring it again and again.
+bool FliLoad::ChargeFrame(int64 picture_bytes) {
+    if (led_back_) return input_.Spend(kFrameCost + picture_bytes);
+    input_.Allow(kFillsPerFrame * picture_bytes);
     return input_.Spend(kFrameCost);
 }
 

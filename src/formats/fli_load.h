@@ -39,6 +39,7 @@ class FliLoad {
     bool ShowPreviousFrameLonger();
     bool ReadFliFrameData(int32 index);
     bool StartFrame(int32 index);
+    bool ChargeFrame(int64 picture_bytes);
     bool CopyPreviousFrame();
     void TakeLocalPalette(const Palette& source);
     bool ReadChunkHeader(Chunk* chunk);
@@ -65,6 +66,7 @@ class FliLoad {
     int32 frame_count_ = 0;
     int64 bytes_left_ = 0;        // of the current record, as far as its chunks are read
     int32 chunk_count_ = 0;       // of the current record
+    bool led_back_ = false;       // the current record does not lie behind all others
     bool skipped_block_ = false;  // the current record is of type 0x00A1
     bool blank_ = false;          // the current picture is still to be filled with black
     int32 width_ = 0;             // of all pictures

@@ -106,7 +106,7 @@ void GifSave::WriteGifControlBlock(const Frame& frame) {
     const int32 disposal = setting >= 0 && setting <= 2 ? setting : 3;
     uint8 block[8] = {0x21, 0xF9, 4};
     block[3] = LowByte(disposal << 2);
-    kirto::WriteLittle16(block + 4, DelayOf(frame));
+    kirto::WriteLittle16(block + 4, DelayOf(*animation_, frame, document_.prefs.global_pauseinseconds));
     if (global.use_transparent) {
         block[3] |= 1;
         block[6] = LowByte(global.transparent_index);
@@ -159,15 +159,14 @@ GifSave::Encoding GifSave::EncodingOf(const Frame& frame) const {
     return encoding;
 }
 
-// Hundredths of a second.
-int64 GifSave::DelayOf(const Frame& frame) const {
+int64 GifSave::DelayOf(const kirto::Animation& animation, const Frame& frame, bool in_seconds) {
     double pause = 0;
     if (frame.use_pause) {
         pause = frame.pause_length;
-    } else if (animation_->use_pause) {
-        pause = animation_->pause_length;
+    } else if (animation.use_pause) {
+        pause = animation.pause_length;
     }
-    return WholeHundredths(document_.prefs.global_pauseinseconds ? pause * 100 : pause);
+    return WholeHundredths(in_seconds ? pause * 100 : pause);
 }
 
 void GifSave::WriteColorTable(const Palette& palette, int32 bits) {

@@ -17,6 +17,9 @@ class GifSave {
     // one to commit it.
     GifSave(std::shared_ptr<BFile> file, AnimationDocument& document);
 
+    // How long a frame is shown, in hundredths of a second. A file keeps the low 16 bits of it.
+    static int64 DelayOf(const kirto::Animation& animation, const Frame& frame, bool in_seconds);
+
   private:
     void WriteGifHeader();
     void WriteGifControlBlock(const Frame& frame);
@@ -30,7 +33,6 @@ class GifSave {
         bool local_table = false;
     };
     Encoding EncodingOf(const Frame& frame) const;
-    int64 DelayOf(const Frame& frame) const;
     void WriteColorTable(const Palette& palette, int32 bits);
     int32 WidestFrame() const;
 

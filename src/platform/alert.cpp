@@ -1,6 +1,7 @@
 #include "platform/alert.h"
 
 #include <atomic>
+#include <new>
 #include <utility>
 
 namespace kirto {
@@ -19,8 +20,12 @@ void Warn(const std::string& text) {
     BAlert("", text, "OK").Go();
 }
 
-void WarnOutOfMemory() {
-    Warn(kOutOfMemory);
+void WarnOutOfMemory() noexcept {
+    try {
+        Warn(kOutOfMemory);
+    } catch (const std::bad_alloc&) {
+        return;
+    }
 }
 
 }  // namespace kirto

@@ -68,7 +68,7 @@ void Warn(const std::string& text);
 
 inline constexpr const char* kOutOfMemory = "Out of memory.";
 
-// Warn(kOutOfMemory).
-void WarnOutOfMemory();
+// Warn(kOutOfMemory). Where memory is too short even for that, nothing happens.
+void WarnOutOfMemory() noexcept;
 
 }  // namespace kirto

@@ -12,6 +12,7 @@
 #include <sys/xattr.h>
 #include <unistd.h>
 
+#include "platform/allocation.h"
 #include "platform/temporary_files.h"
 
 namespace {
@@ -188,7 +189,7 @@ status_t BFile::FillBuffer() {
     if (flushed != B_OK || position_ > kMaxPosition - static_cast<int64>(kBufferSize)) {
         return flushed;
     }
-    buffer_.resize(kBufferSize);
+    if (!MakeReadBuffer()) return B_NO_MEMORY;
     ssize_t count = 0;
     do {
         count = pread(descriptor_, buffer_.data(), buffer_.size(), position_);
@@ -196,6 +197,16 @@ status_t BFile::FillBuffer() {
     const status_t status = count < 0 ? StatusFromErrno(errno) : B_OK;
     buffer_.resize(static_cast<size_t>(std::max<ssize_t>(count, 0)));
     return status;
+}
+
+bool BFile::MakeReadBuffer() {
+    if (buffer_.capacity() < kBufferSize && kirto::AllocationShouldFail()) return false;
+    try {
+        buffer_.resize(kBufferSize);
+    } catch (const std::bad_alloc&) {
+        return false;
+    }
+    return true;
 }
 
 int64 BFile::Read(void* buffer, size_t size) {

@@ -89,6 +89,8 @@ class BFile {
 
     status_t OpenTemporary(bool for_owner_only);
     status_t FillBuffer();
+    // Gives the buffer its full size; false when memory is short.
+    bool MakeReadBuffer();
     status_t PrepareWrite(size_t size);
     status_t FlushBuffer();
     void DiscardTemporary();

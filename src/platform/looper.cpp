@@ -1,8 +1,10 @@
 #include "platform/looper.h"
 
 #include <algorithm>
+#include <new>
 #include <utility>
 
+#include "platform/alert.h"
 #include "platform/message_queue.h"
 
 BLooper::BLooper(std::string name)
@@ -36,8 +38,13 @@ bool BLooper::Start() {
 void BLooper::HandleMessages() {
     loop_thread_ = std::this_thread::get_id();
     for (kirto::Envelope envelope; queue_->Take(&envelope);) {
-        if (BHandler* handler = HandlerFor(envelope.handler)) {
+        BHandler* handler = HandlerFor(envelope.handler);
+        if (!handler) continue;
+        // Nothing else leaves a handler: all other failures are return values.
+        try {
             DispatchMessage(&envelope.message, handler);
+        } catch (const std::bad_alloc&) {
+            kirto::WarnOutOfMemory();
         }
     }
     loop_thread_ = std::thread::id();
@@ -54,11 +61,11 @@ void BLooper::Quit() {
 }
 
 status_t BLooper::PostMessage(const BMessage& message) const {
-    return queue_->Post(message, kirto::kPreferredHandler);
+    return queue_->PostCopy(message, kirto::kPreferredHandler);
 }
 
 status_t BLooper::PostMessage(const BMessage& message, const BHandler& handler) const {
-    return queue_->Post(message, handler.Token());
+    return queue_->PostCopy(message, handler.Token());
 }
 
 void BLooper::AddHandler(BHandler* handler) {

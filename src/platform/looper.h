@@ -16,7 +16,8 @@ namespace kirto {
 class MessageQueue;
 }
 
-// A thread with a queue: messages are handled one after the other, in the order posted. Posting is
+// A thread with a queue: messages are handled one after the other, in the order posted. A handler
+// that runs out of memory is a warning for the user, and the next message's turn. Posting is
 // safe from any thread; AddHandler and RemoveHandler belong to the looper's own thread or to the
 // time when the loop does not run. Destroyed by another thread than its own.
 class BLooper : public BHandler {

@@ -11,5 +11,5 @@ BMessenger::BMessenger(const BHandler& handler) {
 }
 
 status_t BMessenger::SendMessage(const BMessage& message) const {
-    return port_ ? port_->Post(message, handler_) : B_NO_INIT;
+    return port_ ? port_->PostCopy(message, handler_) : B_NO_INIT;
 }

@@ -19,7 +19,8 @@ class BMessenger {
         : port_(std::move(port)), handler_(handler) {}
 
     bool IsValid() const { return port_ && port_->IsOpen(); }
-    // B_NO_INIT without a target, B_NOT_ALLOWED when the target is gone.
+    // B_NO_INIT without a target, B_NOT_ALLOWED when the target is gone, B_NO_MEMORY when there is
+    // no room for the message.
     status_t SendMessage(const BMessage& message) const;
     status_t SendMessage(uint32 what) const { return SendMessage(BMessage(what)); }
 

@@ -6,6 +6,13 @@
 namespace kirto {
 
 bool PixelBudget::Reserve(uint64 bytes) {
+    while (!TryReserve(bytes)) {
+        if (bytes > limit_ || !reliever_ || !reliever_()) return false;
+    }
+    return true;
+}
+
+bool PixelBudget::TryReserve(uint64 bytes) {
     uint64 used = used_;
     do {
         const uint64 limit = limit_;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <atomic>
+#include <functional>
 
 #include "platform/types.h"
 
@@ -21,6 +22,11 @@ class PixelBudget {
     bool Reserve(uint64 bytes);
     void Release(uint64 bytes);
 
+    // Called by Reserve, on its thread, before it refuses what the limit has room for: frees
+    // something and returns true, or returns false. For whoever owns what is dispensable; set and
+    // called on one thread. Null: nobody.
+    void SetReliever(std::function<bool()> reliever) { reliever_ = std::move(reliever); }
+
     uint64 Used() const { return used_; }
     uint64 Limit() const { return limit_; }
     // Applies to later reservations only.
@@ -30,6 +36,9 @@ class PixelBudget {
     static uint64 DefaultLimit();
 
   private:
+    bool TryReserve(uint64 bytes);
+
+    std::function<bool()> reliever_;
     std::atomic<uint64> limit_;
     std::atomic<uint64> used_ = 0;
 };

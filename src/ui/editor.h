@@ -9,8 +9,9 @@ class IEResourceHandler;
 
 namespace kirto {
 
-// What windows are made for: the document they show, and where their commands go. Everything
-// outlives every window. The document is read only by way of ShownDocument::Take.
+// What windows are made for: the document they show, and where their commands go (by way of a
+// CommandPort, so that changes count at once). Everything outlives every window. The document is
+// read only by way of ShownDocument::Take.
 struct Editor {
     AnimationDocument& document;
     BMessenger application;

@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QLineEdit>
+#include <algorithm>
 
 #include "ui/filter_proxy.h"
 
@@ -55,16 +56,18 @@ void FileDialog::Restart(const QString& name) {
     name_field_->setFocus();
 }
 
-// Of several quoted names the toolkit takes only those that lie in the folder it shows.
+// Of several quoted names the toolkit takes only those that the filter offers, if there are any. A
+// name may hold quotes itself, so what stands between them counts only where it is the name of
+// files.
 QStringList FileDialog::ChosenFiles() const {
+    if (fileMode() != ExistingFiles) return selectedFiles();
     QStringList typed;
-    bool elsewhere = false;
     const QStringList parts = name_field_->text().split('"');
-    for (qsizetype i = 1; i < parts.size(); i += 2) {
-        elsewhere = elsewhere || QDir::isAbsolutePath(parts[i]);
+    for (qsizetype i = 1; i < parts.size(); i += 2)
         typed.append(directory().absoluteFilePath(parts[i]));
-    }
-    return elsewhere && fileMode() == ExistingFiles ? typed : selectedFiles();
+    const bool all_there = std::all_of(
+        typed.begin(), typed.end(), [](const QString& path) { return QFileInfo(path).isFile(); });
+    return !typed.isEmpty() && all_there ? typed : selectedFiles();
 }
 
 void FileDialog::accept() {

@@ -49,6 +49,7 @@ void FileDialogPanel::MakeDialog() {
 void FileDialogPanel::Finish(bool chosen) {
     directory_ = dialog_->directory().absolutePath();
     if (chosen) target_.SendMessage(CommandFor(dialog_->ChosenFiles()));
+    Closed(chosen);
     // Also after a choice: the application tells the two by the order.
     const FilePanel* self = this;
     BMessage closed(B_CANCEL);

@@ -34,6 +34,9 @@ class FileDialogPanel : public FilePanel {
     // The command for the files that were chosen, at least one, by their absolute paths.
     virtual BMessage CommandFor(const QStringList& files) const = 0;
 
+    // The dialog was closed, with the files sent or without any.
+    virtual void Closed(bool) {}
+
     void SendToTarget(const BMessage& message) const { target_.SendMessage(message); }
 
   private:

@@ -214,6 +214,7 @@ void KirtoWindow::ShowParts(uint32 parts) {
         frame_list_view_->UpdateDisplay();
     }
     if (parts & kStatus) status_view_->UpdateDisplay();
+    kirto::ShowHistory(*menuBar(), shown_.State().undo_name, shown_.State().redo_name);
     kirto::EnableFrameItems(*menuBar(), !shown_.Frames().Empty());
     ApplyPreset();
 }
@@ -280,11 +281,8 @@ bool KirtoWindow::LoseChanges(uint32 command) {
     return answer == kDiscard;
 }
 
-// Edits on their way to the application count as changes already.
 bool KirtoWindow::HasUnsavedChanges() {
-    const auto now = editor_.document.CurrentState();
-    const bool modified = now->modified || now->edits_done != edits_posted_;
-    return modified && !now->animation->frames.Empty();
+    return editor_.document.HasUnsavedChanges();
 }
 
 // A field holds what was typed until it is left; a command of the keyboard leaves nothing.
@@ -302,12 +300,6 @@ void KirtoWindow::ChooseCommand(uint32 command) {
 
 void KirtoWindow::PostToApplication(const BMessage& message) {
     editor_.application.SendMessage(message);
-}
-
-void KirtoWindow::PostEdit(BMessage message) {
-    message.RemoveName("serial");
-    message.AddInt32("serial", ++edits_posted_);
-    PostToApplication(message);
 }
 
 void KirtoWindow::closeEvent(QCloseEvent* event) {

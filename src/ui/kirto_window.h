@@ -87,8 +87,6 @@ class KirtoWindow : public QMainWindow, public BWindow {
     void ShowOpenPanel(const char* title);
     void ShowMode(bool frame_list);
     void PostToApplication(const BMessage& message);
-    // The same for a command that changes the document.
-    void PostEdit(BMessage message);
     template <typename Value>
     void PostValue(uint32 code, Value value);
 
@@ -112,7 +110,6 @@ class KirtoWindow : public QMainWindow, public BWindow {
     void InsertTiled(BMessage* message);
     void FadeEffects(BMessage* message);
     void Forward(BMessage* message);
-    void ForwardEdit(BMessage* message);
     void GlobalNumber(BMessage* message);
     void GlobalPauseLength(BMessage* message);
     void GlobalSwitch(BMessage* message);
@@ -133,8 +130,7 @@ class KirtoWindow : public QMainWindow, public BWindow {
     std::shared_ptr<kirto::GuiPort> port_;
     kirto::ShownDocument shown_;
     uint32 pending_command_ = 0;
-    int32 edits_posted_ = 0;  // the serial number of the last edit
-    uint32 preset_ = 0;       // the preset height to be set as soon as there are frames
+    uint32 preset_ = 0;  // the preset height to be set as soon as there are frames
     bool may_close_ = false;
 
     GlobalView* global_view_ = nullptr;

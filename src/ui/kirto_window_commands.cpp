@@ -43,15 +43,17 @@ const KirtoWindow::Command* KirtoWindow::CommandFor(uint32 code) {
         {kirto::kMenuInsert, &KirtoWindow::Insert},
         {kirto::kMenuInsertTiled, &KirtoWindow::InsertTiled},
         {kirto::kMenuFadeEffects, &KirtoWindow::FadeEffects},
-        {kirto::kRemoveFrame, &KirtoWindow::ForwardEdit},
-        {kirto::kMoveFrameUp, &KirtoWindow::ForwardEdit},
-        {kirto::kMoveFrameDown, &KirtoWindow::ForwardEdit},
-        {kirto::kReverseFrames, &KirtoWindow::ForwardEdit},
-        {B_SIMPLE_DATA, &KirtoWindow::ForwardEdit},
-        {kirto::kFrameSystem, &KirtoWindow::ForwardEdit},
-        {kirto::kFrameGreyscale, &KirtoWindow::ForwardEdit},
-        {kirto::kFrameOptimal, &KirtoWindow::ForwardEdit},
-        {kirto::kFrameWebSafe, &KirtoWindow::ForwardEdit},
+        {kirto::kRemoveFrame, &KirtoWindow::Forward},
+        {kirto::kMoveFrameUp, &KirtoWindow::Forward},
+        {kirto::kMoveFrameDown, &KirtoWindow::Forward},
+        {kirto::kReverseFrames, &KirtoWindow::Forward},
+        {kirto::kUndo, &KirtoWindow::Forward},
+        {kirto::kRedo, &KirtoWindow::Forward},
+        {B_SIMPLE_DATA, &KirtoWindow::Forward},
+        {kirto::kFrameSystem, &KirtoWindow::Forward},
+        {kirto::kFrameGreyscale, &KirtoWindow::Forward},
+        {kirto::kFrameOptimal, &KirtoWindow::Forward},
+        {kirto::kFrameWebSafe, &KirtoWindow::Forward},
         {kirto::kSetWidth, &KirtoWindow::GlobalNumber},
         {kirto::kSetHeight, &KirtoWindow::GlobalNumber},
         {kirto::kSetLoopCount, &KirtoWindow::GlobalNumber},
@@ -109,7 +111,7 @@ void KirtoWindow::PostValue(uint32 code, Value value) {
     } else {
         edit.AddInt32("value", value);
     }
-    PostEdit(std::move(edit));
+    PostToApplication(edit);
 }
 
 void KirtoWindow::UpdateAll(BMessage*) {
@@ -157,7 +159,7 @@ void KirtoWindow::New(BMessage*) {
 }
 
 void KirtoWindow::StartNew() {
-    PostEdit(BMessage(kirto::kResetDocument));
+    PostToApplication(BMessage(kirto::kResetDocument));
     ResetDisplay();
 }
 
@@ -244,10 +246,6 @@ void KirtoWindow::Forward(BMessage* message) {
     PostToApplication(*message);
 }
 
-void KirtoWindow::ForwardEdit(BMessage* message) {
-    PostEdit(*message);
-}
-
 void KirtoWindow::GlobalNumber(BMessage* message) {
     kirto::TextControl* field = message->what == kirto::kSetWidth    ? global_view_->width
                                 : message->what == kirto::kSetHeight ? global_view_->height
@@ -271,12 +269,12 @@ void KirtoWindow::GlobalSwitch(BMessage* message) {
 
 void KirtoWindow::PaletteKind(BMessage* message) {
     palette_view_->AllowDither(message->what != kirto::kPaletteToGreyscale);
-    PostEdit(*message);
+    PostToApplication(*message);
 }
 
 void KirtoWindow::PaletteFromFile(BMessage* message) {
     palette_view_->AllowDither(true);
-    PostEdit(*message);
+    PostToApplication(*message);
     ShowOpenPanel("Open Paletted File");
 }
 
@@ -328,7 +326,7 @@ void KirtoWindow::FrameSwitch(BMessage* message) {
 
 void KirtoWindow::FramePaletteFromFile(BMessage* message) {
     if (!shown_.CurrentFrame()) return;
-    PostEdit(*message);
+    PostToApplication(*message);
     ShowOpenPanel("Open Paletted File");
 }
 

@@ -49,6 +49,14 @@ constexpr Item kFrameItems[] = {
     {"&Fade Effects...", 'F', kMenuFadeEffects, true},
 };
 
+// Otherwise a desktop may take "Quit" and its like for items of its own.
+QAction* AddItem(QMenu& menu, const char* label, uint32 command, const MenuCommand& choose) {
+    QAction* action = menu.addAction(QString::fromUtf8(label));
+    action->setMenuRole(QAction::NoRole);
+    QObject::connect(action, &QAction::triggered, [choose, command] { choose(command); });
+    return action;
+}
+
 template <size_t Count>
 void AddMenu(QMenuBar& bar, const char* title, const Item (&items)[Count],
              const MenuCommand& choose) {
@@ -58,14 +66,27 @@ void AddMenu(QMenuBar& bar, const char* title, const Item (&items)[Count],
             menu->addSeparator();
             continue;
         }
-        QAction* action = menu->addAction(QString::fromUtf8(item.label));
-        // Otherwise a desktop may take "Quit" and its like for items of its own.
-        action->setMenuRole(QAction::NoRole);
+        QAction* action = AddItem(*menu, item.label, item.command, choose);
         if (item.key != 0) action->setShortcut(QKeySequence(Qt::CTRL | Qt::Key(item.key)));
         action->setProperty(kNeedsFrame, item.needs_frame);
-        QObject::connect(action, &QAction::triggered,
-                         [choose, command = item.command] { choose(command); });
     }
+}
+
+void AddEditMenu(QMenuBar& bar, const MenuCommand& choose) {
+    QMenu* menu = bar.addMenu("&Edit");
+    QAction* undo = AddItem(*menu, "&Undo", kUndo, choose);
+    undo->setObjectName("Undo");
+    undo->setShortcut(Qt::CTRL | Qt::Key_Z);
+    QAction* redo = AddItem(*menu, "&Redo", kRedo, choose);
+    redo->setObjectName("Redo");
+    redo->setShortcuts({Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y});
+}
+
+void NameEdit(const QMenuBar& menu_bar, const char* label, const std::string& edit) {
+    auto* action = menu_bar.findChild<QAction*>(label);
+    const QString name = QString::fromStdString(edit);
+    action->setText("&" + QString(label) + (name.isEmpty() ? name : " " + name));
+    action->setEnabled(!name.isEmpty());
 }
 
 }  // namespace
@@ -74,10 +95,17 @@ QMenuBar* MakeMainMenu(QWidget* parent, const MenuCommand& choose) {
     auto* bar = new QMenuBar(parent);
     bar->setObjectName("MenuBar");
     AddMenu(*bar, "&File", kFileItems, choose);
+    AddEditMenu(*bar, choose);
     AddMenu(*bar, "&View", kViewItems, choose);
     AddMenu(*bar, "F&rame", kFrameItems, choose);
     EnableFrameItems(*bar, false);
+    ShowHistory(*bar, {}, {});
     return bar;
+}
+
+void ShowHistory(QMenuBar& menu_bar, const std::string& undo_name, const std::string& redo_name) {
+    NameEdit(menu_bar, "Undo", undo_name);
+    NameEdit(menu_bar, "Redo", redo_name);
 }
 
 void EnableFrameItems(QMenuBar& menu_bar, bool enable) {

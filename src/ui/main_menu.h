@@ -3,6 +3,7 @@
 
 #include <QMenuBar>
 #include <functional>
+#include <string>
 
 #include "platform/types.h"
 
@@ -13,6 +14,9 @@ using MenuCommand = std::function<void(uint32 command)>;
 
 // The whole menu bar, named "MenuBar". GUI thread; the parent owns it.
 QMenuBar* MakeMainMenu(QWidget* parent, const MenuCommand& choose);
+
+// Names the edits in "Undo" and "Redo"; without one (empty) the item is disabled.
+void ShowHistory(QMenuBar& menu_bar, const std::string& undo_name, const std::string& redo_name);
 
 // Enables the items that need a frame, or disables them.
 void EnableFrameItems(QMenuBar& menu_bar, bool enable);

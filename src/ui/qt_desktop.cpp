@@ -14,7 +14,7 @@ namespace kirto {
 
 BMessenger QtDesktop::OpenMainWindow(Kirto& application, const BRect& frame,
                                      const std::string& title) {
-    const Editor editor{application, BMessenger(application), application, roster_,
+    const Editor editor{application, application.Commands(), application, roster_,
                         application.Resources()};
     window_ = std::make_unique<KirtoWindow>(frame, title.c_str(), editor);
     window_messenger_ = window_->Messenger();

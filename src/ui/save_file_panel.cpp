@@ -52,7 +52,27 @@ void SaveFilePanel::Prepare(kirto::FileDialog& dialog) {
     MakeControls(dialog);
     BuildMenu();
     MarkOutputFormat();
-    UseUsualExtension();
+}
+
+void SaveFilePanel::Show() {
+    // The format may have been forgotten on another thread.
+    if (Dialog() && !Dialog()->isVisible()) MarkOutputFormat();
+    FileDialogPanel::Show();
+}
+
+void SaveFilePanel::ForgetOutputFormat() {
+    saved_format_ = 0;
+    output_format_ = 0;
+}
+
+void SaveFilePanel::Closed(bool chosen) {
+    if (chosen) {
+        output_format_ = static_cast<uint32>(GetOutputFormat());
+        saved_format_ = output_format_.load();
+    } else {
+        output_format_ = saved_format_.load();
+        MarkOutputFormat();
+    }
 }
 
 void SaveFilePanel::MakeControls(kirto::FileDialog& dialog) {
@@ -111,12 +131,25 @@ const TranslatorMenuItem* SaveFilePanel::MarkedItem() const {
 }
 
 void SaveFilePanel::MarkOutputFormat() {
+    // A translator may have several formats; the one that is marked stays so.
+    if (static_cast<uint32>(GetOutputFormat()) != output_format_) {
+        format_->setCurrentIndex(RowOf(output_format_));
+    }
+    UseMarkedFormat();
+}
+
+int SaveFilePanel::RowOf(uint32 format) const {
     const auto* items = static_cast<const QStandardItemModel*>(format_->model());
     for (int row = 0; row < items->rowCount(); ++row) {
         const auto* item = dynamic_cast<const TranslatorMenuItem*>(items->item(row));
-        const uint32 format = item ? static_cast<uint32>(item->Translator()) : 0;
-        if (item && format == output_format_) return format_->setCurrentIndex(row);
+        if (item && static_cast<uint32>(item->Translator()) == format) return row;
     }
+    return 0;
+}
+
+void SaveFilePanel::UseMarkedFormat() {
+    message_ = SaveMessage(GetOutputFormat());
+    UseUsualExtension();
 }
 
 int32 SaveFilePanel::GetOutputFormat() const {
@@ -141,9 +174,8 @@ void SaveFilePanel::UseUsualExtension() {
 void SaveFilePanel::MessageReceived(BMessage* message) {
     switch (message->what) {
         case kirto::kSaveFormat:
-            message_ = SaveMessage(GetOutputFormat());
             output_format_ = static_cast<uint32>(GetOutputFormat());
-            UseUsualExtension();
+            UseMarkedFormat();
             break;
         case kirto::kSaveFormatSettings:
             TranslatorSettings();

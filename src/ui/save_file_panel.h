@@ -26,8 +26,10 @@ class SaveFilePanel : public kirto::FileDialogPanel, public BHandler {
                   std::function<void()> show_preferences);
     ~SaveFilePanel() override;
 
-    // As of the last choice in the format menu.
+    // As of the last choice in the format menu, unless the panel was cancelled after it.
     uint32 OutputFormat() const override { return output_format_; }
+    void ForgetOutputFormat() override;
+    void Show() override;
 
     void MessageReceived(BMessage* message) override;
     // Fills the format menu from the roster, "Animated GIF" marked.
@@ -40,13 +42,19 @@ class SaveFilePanel : public kirto::FileDialogPanel, public BHandler {
   protected:
     void Prepare(kirto::FileDialog& dialog) override;
     BMessage CommandFor(const QStringList& files) const override;
+    void Closed(bool chosen) override;
 
   private:
     void MakeControls(kirto::FileDialog& dialog);
     void AddTranslator(translator_id translator, QStandardItemModel& items);
     // The item's translator is an image format's; null and "Animated GIF" otherwise.
     const TranslatorMenuItem* MarkedItem() const;
+    // Marks an item of the output format.
     void MarkOutputFormat();
+    // The first item of the format; "Animated GIF" where there is none.
+    int RowOf(uint32 format) const;
+    // Makes the marked format the one that a choice of a place sends.
+    void UseMarkedFormat();
     // The extension that names without one get.
     void UseUsualExtension();
     void ShowSettings(int32 translator);
@@ -57,7 +65,8 @@ class SaveFilePanel : public kirto::FileDialogPanel, public BHandler {
     std::function<void()> show_preferences_;
     BMessage message_;  // what a choice of a place sends, without the place
     std::atomic<uint32> output_format_ = 0;
-    std::map<int32, BMessage> settings_;  // by translator, where the user has changed them
+    std::atomic<uint32> saved_format_ = 0;  // that the document was last saved in
+    std::map<int32, BMessage> settings_;    // by translator, where the user has changed them
     QPointer<QComboBox> format_;
     QPointer<kirto::TranslatorSettingsWindow> settings_window_;
 };

@@ -14,7 +14,6 @@ ShownDocument::ShownDocument() {
 void ShownDocument::Reset() {
     DocumentState state;
     state.animation = std::make_shared<const Animation>(NewAnimation(*state_->settings));
-    state.edits_done = state_->edits_done;
     state.settings = state_->settings;
     state_ = std::make_shared<const DocumentState>(std::move(state));
 }

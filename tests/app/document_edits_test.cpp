@@ -4,6 +4,7 @@
 #include <string>
 
 #include "document/command_codes.h"
+#include "document/document_scope.h"
 #include "support/test_support.h"
 
 namespace kirto::test {
@@ -200,6 +201,16 @@ TEST_F(DocumentEdits, PostNothing) {
 
     EXPECT_EQ(fixture.port->Transcript(), "");
 }
+
+#ifndef NDEBUG
+TEST_F(DocumentEdits, WaitForTheReadersInside) {
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    const ReaderScope reader(document);
+
+    // On one thread, so that waiting for the reader is the mistake that is looked for.
+    EXPECT_DEATH(ApplyEdit(document, Number(kSetWidth, 12)), "t_scopes_held == 0");
+}
+#endif
 
 }  // namespace
 

@@ -75,7 +75,7 @@ TEST_F(KirtoConstruction, StartsEmptyWithTheSettingsProperties) {
     EXPECT_EQ(app_->reader_count, 0);
     EXPECT_EQ(app_->CurrentState()->file_name, "untitled");
     EXPECT_EQ(app_->Current()->palette->mode, kPaletteGreyscale);
-    EXPECT_TRUE(app_->Current()->palette->dither);
+    EXPECT_FALSE(app_->Current()->palette->dither) << "Greys are never dithered.";
 }
 
 TEST_F(KirtoConstruction, TellsOfUnusableSettingsBeforeItUsesThem) {

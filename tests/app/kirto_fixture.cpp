@@ -34,18 +34,25 @@ KirtoFixture::~KirtoFixture() {
 }
 
 void KirtoFixture::Start() {
+    Make();
+    Run();
+}
+
+void KirtoFixture::Make() {
     app_ = std::make_unique<Kirto>(prefs_, desktop_, roster_);
     app_->AddHandler(&barrier_);
-    app_->Run();
     desktop_.window->TakeTranscript();
     TakeLines();
 }
 
+void KirtoFixture::WaitUntilIdle() {
+    barrier_.Wait(*app_);
+    barrier_.Wait(*app_);
+}
+
 std::string KirtoFixture::Do(const BMessage& command) {
     app_->PostMessage(command);
-    // Once for the command, and once for a command that it has posted.
-    barrier_.Wait(*app_);
-    barrier_.Wait(*app_);
+    WaitUntilIdle();
     return desktop_.window->TakeTranscript();
 }
 

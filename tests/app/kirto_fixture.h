@@ -34,6 +34,11 @@ class KirtoFixture : public ::testing::Test {
     // Makes the application with the settings as they stand, runs it, and forgets the start's lines
     // and messages. Called once, by the test.
     void Start();
+    // The two halves, for tests that post commands before the first is handled.
+    void Make();
+    void Run() { app_->Run(); }
+    // Waits until all commands are handled, and those that they have posted in turn.
+    void WaitUntilIdle();
     // Handles the command, and the commands that it posts in turn, and returns what the main window
     // was posted meanwhile: "auns auda".
     std::string Do(const BMessage& command);

@@ -114,6 +114,18 @@ TEST_F(KirtoPreview, RefusesFramesLargerThanTheAnimation) {
     EXPECT_EQ(prefs_.misc_tempfilelocation, File("missing"));
 }
 
+TEST_F(KirtoPreview, RefusesSizesThatAGifHasNoRoomFor) {
+    Start();
+    Append({"one"});
+    EditOf(*app_)->width = 65536;
+
+    Do(kPreview);
+
+    EXPECT_EQ(TakeLines(), Lines{WarningLine("The animation can't be previewed because Width is "
+                                             "not between 0 and 65535.")});
+    EXPECT_EQ(FolderContent(), Lines{});
+}
+
 TEST_F(KirtoPreview, TellsWhenItCantBeWritten) {
     Start();
     Append({"one"});

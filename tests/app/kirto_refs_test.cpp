@@ -9,9 +9,13 @@ namespace {
 constexpr const char* kQuestion =
     "INFO [] Do you wish to insert this image into the current animation or open it as a new "
     "animation? | Cancel | Open | Insert";
+constexpr const char* kSaveQuestion =
+    "WARNING [] Do you want to save your changes? | Cancel | Discard | Save";
 constexpr int32 kCancelButton = 0;
 constexpr int32 kOpenButton = 1;
 constexpr int32 kInsertButton = 2;
+constexpr int32 kDiscardButton = 1;
+constexpr int32 kSaveButton = 2;
 
 class KirtoRefs : public KirtoFixture {
   protected:
@@ -87,6 +91,89 @@ TEST_F(KirtoRefs, OpensADroppedAnimationAsANewOne) {
     EXPECT_EQ(Names(), Lines{"[frame0000]"});
     EXPECT_EQ(app_->CurrentState()->file_name, "anim.gif");
     EXPECT_FALSE(app_->Modified());
+}
+
+TEST_F(KirtoRefs, KeepsChangesWhenTheUserThinksBetterOfADrop) {
+    Write("anim.gif", GifOf({10}));
+    Start();
+    Append({"old"});
+    app_->SetModified(true);
+    desktop_.Answer({kOpenButton, kCancelButton});
+
+    Do(Files(B_SIMPLE_DATA, {"anim.gif"}));
+
+    EXPECT_EQ(Names(), Lines{"[old]"});
+    EXPECT_TRUE(app_->Modified());
+    EXPECT_EQ(TakeLines(), (Lines{kQuestion, kSaveQuestion}));
+}
+
+TEST_F(KirtoRefs, DiscardsChangesForADroppedAnimationWhenTheUserSaysSo) {
+    Write("anim.gif", GifOf({10}));
+    Start();
+    Append({"old"});
+    app_->SetModified(true);
+    desktop_.Answer({kOpenButton, kDiscardButton});
+
+    Do(Files(B_SIMPLE_DATA, {"anim.gif"}));
+
+    EXPECT_EQ(Names(), Lines{"[frame0000]"});
+    EXPECT_FALSE(app_->Modified());
+}
+
+TEST_F(KirtoRefs, OpensADroppedAnimationAfterTheChangesAreSaved) {
+    Write("anim.gif", GifOf({10}));
+    Start();
+    Append({"old"});
+    app_->SetModified(true);
+    desktop_.Answer({kOpenButton, kSaveButton});
+
+    EXPECT_EQ(Do(Files(B_SIMPLE_DATA, {"anim.gif"})), "auda awfs tvff auda");
+    EXPECT_EQ(Names(), Lines{"[old]"});
+    Do(SaveTo(folder_.Path(), "old.gif"));
+
+    EXPECT_EQ(FolderContent(), (Lines{"anim.gif", "old.gif"}));
+    EXPECT_EQ(Names(), Lines{"[frame0000]"});
+    EXPECT_EQ(app_->CurrentState()->file_name, "anim.gif");
+}
+
+TEST_F(KirtoRefs, ForgetsADroppedAnimationWhenTheSaveFails) {
+    Write("anim.gif", GifOf({10}));
+    Start();
+    Append({"old"});
+    app_->SetModified(true);
+    desktop_.Answer({kOpenButton, kSaveButton});
+
+    Do(Files(B_SIMPLE_DATA, {"anim.gif"}));
+    Do(SaveTo(File("missing"), "old.gif"));
+    Do(SaveTo(folder_.Path(), "old.gif"));
+
+    EXPECT_EQ(Names(), Lines{"[old]"});
+}
+
+TEST_F(KirtoRefs, ForgetsADroppedAnimationWhenTheSavePanelIsCancelled) {
+    Write("anim.gif", GifOf({10}));
+    Start();
+    Append({"old"});
+    app_->SetModified(true);
+    desktop_.Answer({kOpenButton, kSaveButton});
+
+    Do(Files(B_SIMPLE_DATA, {"anim.gif"}));
+    Do(CancelOf(app_->GetSaveFilePanel()));
+    Do(SaveTo(folder_.Path(), "old.gif"));
+
+    EXPECT_EQ(Names(), Lines{"[old]"});
+}
+
+TEST_F(KirtoRefs, KeepsTheDocumentWhenADroppedAnimationCantBeRead) {
+    Start();
+    Append({"old"});
+    desktop_.Answer({kOpenButton});
+
+    Do(Files(B_SIMPLE_DATA, {"vanished.gif"}));
+
+    EXPECT_EQ(Names(), Lines{"[old]"});
+    EXPECT_EQ(TakeLines(), (Lines{kQuestion, WarningLine("The animation can't be opened because it "
+                                                         "was corrupted or unreadable.")}));
 }
 
 TEST_F(KirtoRefs, InsertsADroppedAnimationIntoTheCurrentOne) {
@@ -206,6 +293,24 @@ TEST_F(KirtoCancel, OfTheOpenPanelAfterItDeliveredAFileOnlyClearsTheFlag) {
     EXPECT_EQ(Do(CancelOf(panel)), "auda");
 
     EXPECT_EQ(app_->Current()->palette->mode, kPaletteWebSafe);
+}
+
+TEST_F(KirtoCancel, OfTheOpenPanelIsARealOneAfterADropAndAfterFilesFromTheDesktop) {
+    Write("anim.gif", GifOf({10}));
+    Start();
+    FilePanel* panel = app_->GetOpenFilePanel();
+    for (const uint32 code : {uint32{B_SIMPLE_DATA}, uint32{B_REFS_RECEIVED}}) {
+        desktop_.Answer({kOpenButton});
+        BMessage refs = Files(code, {"anim.gif"});
+        refs.AddBool("panel", true);
+        Do(refs);
+        EXPECT_FALSE(app_->open_panel_delivered);
+        PaletteEditOf(*app_)->Set(kPaletteAwaitingFile);
+
+        EXPECT_EQ(Do(CancelOf(panel)), "auda");
+
+        EXPECT_EQ(app_->Current()->palette->mode, kPaletteWebSafe);
+    }
 }
 
 TEST_F(KirtoCancel, OfTheOpenPanelPutsTheFramesPaletteBack) {

@@ -4,6 +4,7 @@
 
 #include "app/kirto_fixture.h"
 #include "support/full_disk.h"
+#include "support/port_watcher.h"
 
 namespace kirto::test {
 
@@ -15,6 +16,8 @@ constexpr const char* kNotCreated =
     "The animation can't be saved because the file could not be created at this location.";
 constexpr const char* kInvalidTranslator =
     "The animation can't be saved because the selected translator is not valid.";
+
+constexpr const char* kAbandoned = "pending command abandoned";
 
 class KirtoSave : public KirtoFixture {};
 
@@ -31,6 +34,24 @@ TEST_F(KirtoSave, WritesAGifAndTellsTheWindowToGoOn) {
     EXPECT_EQ(ReadBytes(File("out.gif")).at(0), 'G');
     EXPECT_EQ(FolderContent(), Lines{"out.gif"});
     EXPECT_EQ(TakeLines(), Lines{});
+}
+
+TEST_F(KirtoSave, TellsTheWindowToGoOnOnlyOnceNothingIsUnsaved) {
+    Start();
+    Append({"one"});
+    int32 resumed = 0;
+    app_->window = BMessenger(std::make_shared<PortWatcher>([&](uint32 code) {
+        if (code != kResume) return;
+        EXPECT_FALSE(app_->HasUnsavedChanges());
+        ++resumed;
+    }));
+    for (const int64 format : {int64{0}, int64{FakeRoster::kRaw}}) {
+        app_->SetModified(true);
+        Do(SaveTo(folder_.Path(), "out.gif", format));
+    }
+
+    EXPECT_EQ(resumed, 2);
+    app_->Quit();
 }
 
 TEST_F(KirtoSave, TakesBothNumbersOfTheAnimatedGifAndNoNumberForIt) {
@@ -102,8 +123,9 @@ TEST_F(KirtoSave, RefusesFramesLargerThanTheAnimation) {
 
         EXPECT_EQ(Do(SaveTo(folder_.Path(), "out.gif")), "auda");
 
-        EXPECT_EQ(TakeLines(), Lines{WarningLine("The animation can't be saved because one of the "
-                                                 "frames has a larger size than the animation.")});
+        EXPECT_EQ(TakeLines(), (Lines{WarningLine("The animation can't be saved because one of the "
+                                                  "frames has a larger size than the animation."),
+                                      kAbandoned}));
         EXPECT_EQ(app_->CurrentState()->file_name, "untitled");
         EXPECT_EQ(app_->CurrentState()->file_directory, "");
         EXPECT_TRUE(app_->Modified());
@@ -118,7 +140,7 @@ TEST_F(KirtoSave, ForgetsANameThatCantBeCreated) {
 
     EXPECT_EQ(Do(SaveTo(File("missing"), "out.gif")), "auda");
 
-    EXPECT_EQ(TakeLines(), Lines{WarningLine(kNotCreated)});
+    EXPECT_EQ(TakeLines(), (Lines{WarningLine(kNotCreated), kAbandoned}));
     EXPECT_EQ(app_->CurrentState()->file_name, "untitled");
     EXPECT_EQ(app_->CurrentState()->file_directory, "");
     EXPECT_TRUE(app_->Modified());
@@ -159,7 +181,7 @@ TEST_F(KirtoSave, KeepsTheOldFileWhenTheNewOneCantBeWritten) {
     }
 
     EXPECT_EQ(transcript, "svup(Status: writing frame 1 of 1...) auda");
-    EXPECT_EQ(TakeLines(), Lines{WarningLine(kNotCreated)});
+    EXPECT_EQ(TakeLines(), (Lines{WarningLine(kNotCreated), kAbandoned}));
     EXPECT_EQ(ReadBytes(File("out.gif")), (std::vector<uint8>{'o', 'l', 'd'}));
     EXPECT_EQ(FolderContent(), Lines{"out.gif"});
     EXPECT_EQ(app_->CurrentState()->file_name, "untitled");
@@ -176,10 +198,214 @@ TEST_F(KirtoSave, AskedToStopKeepsTheOldFileAndTheNameAndSaysNothing) {
     const std::string transcript = Do(SaveTo(folder_.Path(), "out.gif"));
 
     EXPECT_EQ(transcript.find("arsm"), std::string::npos);
-    EXPECT_EQ(TakeLines(), Lines{});
+    EXPECT_EQ(TakeLines(), Lines{kAbandoned});
     EXPECT_EQ(ReadBytes(File("out.gif")), (std::vector<uint8>{'o', 'l', 'd'}));
     EXPECT_EQ(app_->CurrentState()->file_name, "out.gif");
     EXPECT_TRUE(app_->Modified());
+}
+
+// A document that is saved as "out.gif", which somebody else then writes to.
+class KirtoSaveAgain : public KirtoFixture {
+  protected:
+    static constexpr int32 kOverwriteButton = 0;
+    static constexpr int32 kSaveAsButton = 1;
+    static constexpr int32 kCancelButton = 2;
+
+    void StartAndSave() {
+        Start();
+        Append({"one"});
+        Do(SaveTo(folder_.Path(), "out.gif"));
+        app_->SetModified(true);
+    }
+    const Lines kQuestion{
+        "panel save made",
+        "WARNING [] Another program has changed the file \"out.gif\" since it was opened or saved. "
+        "Do you want to overwrite it? | Overwrite | Save As... | Cancel"};
+    const std::vector<uint8> kTheirs{'n', 'e', 'w'};
+};
+
+TEST_F(KirtoSaveAgain, OverwritesItsOwnFileWithoutAsking) {
+    StartAndSave();
+
+    EXPECT_EQ(Do(kSaveAgain), "svup(Status: writing frame 1 of 1...) arsm auda");
+    EXPECT_EQ(Do(kSaveAgain), "svup(Status: writing frame 1 of 1...) arsm auda");
+
+    EXPECT_EQ(TakeLines(), Lines{"panel save made"});
+    EXPECT_FALSE(app_->Modified());
+}
+
+TEST_F(KirtoSaveAgain, AsksBeforeItOverwritesWhatAnotherProgramHasWritten) {
+    StartAndSave();
+    Write("out.gif", kTheirs);
+    desktop_.Answer({kOverwriteButton});
+
+    EXPECT_EQ(Do(kSaveAgain), "svup(Status: writing frame 1 of 1...) arsm auda");
+
+    EXPECT_EQ(TakeLines(), kQuestion);
+    EXPECT_EQ(ReadBytes(File("out.gif")).at(0), 'G');
+    EXPECT_FALSE(app_->Modified());
+}
+
+TEST_F(KirtoSaveAgain, LeavesWhatAnotherProgramHasWrittenOnCancel) {
+    StartAndSave();
+    Write("out.gif", kTheirs);
+    desktop_.Answer({kCancelButton});
+
+    EXPECT_EQ(Do(kSaveAgain), "auda");
+
+    Lines expected = kQuestion;
+    expected.push_back("pending command abandoned");
+    EXPECT_EQ(TakeLines(), expected);
+    EXPECT_EQ(ReadBytes(File("out.gif")), kTheirs);
+    EXPECT_EQ(app_->CurrentState()->file_name, "out.gif");
+    EXPECT_TRUE(app_->Modified());
+}
+
+TEST_F(KirtoSaveAgain, AsksTheWindowForAnotherNameWhenTheUserWantsOne) {
+    StartAndSave();
+    Write("out.gif", kTheirs);
+    desktop_.Answer({kSaveAsButton});
+
+    EXPECT_EQ(Do(kSaveAgain), "awfa auda");
+
+    EXPECT_EQ(TakeLines(), kQuestion);
+    EXPECT_EQ(ReadBytes(File("out.gif")), kTheirs);
+    EXPECT_TRUE(app_->Modified());
+}
+
+TEST_F(KirtoSaveAgain, AsksAboutAFileThatChangedSinceItWasOpened) {
+    Write("out.gif", GifOf({10}));
+    Start();
+    Do(Files(kOpenFile, {"out.gif"}));
+    app_->SetModified(true);
+    Write("out.gif", kTheirs);
+    desktop_.Answer({kCancelButton});
+
+    Do(kSaveAgain);
+
+    EXPECT_EQ(ReadBytes(File("out.gif")), kTheirs);
+}
+
+TEST_F(KirtoSaveAgain, OverwritesAFileThatIsAsItWasOpenedWithoutAsking) {
+    Write("out.gif", GifOf({10, 20}));
+    Start();
+    Do(Files(kOpenFile, {"out.gif"}));
+    app_->SetModified(true);
+
+    Do(kSaveAgain);
+
+    EXPECT_EQ(TakeLines(), Lines{"panel save made"});
+    EXPECT_FALSE(app_->Modified());
+}
+
+TEST_F(KirtoSaveAgain, WritesAFileThatHasVanishedWithoutAsking) {
+    StartAndSave();
+    fs::remove(File("out.gif"));
+
+    Do(kSaveAgain);
+
+    EXPECT_EQ(FolderContent(), Lines{"out.gif"});
+    EXPECT_EQ(TakeLines(), Lines{"panel save made"});
+}
+
+TEST_F(KirtoSave, RefusesSizesThatAGifHasNoRoomFor) {
+    Start();
+    Append({"one"});
+    const auto expect_refused = [&](const std::string& field) {
+        EXPECT_EQ(Do(SaveTo(folder_.Path(), "out.gif")), "auda");
+        EXPECT_EQ(TakeLines(), Lines{WarningLine("The animation can't be saved because " + field +
+                                                 " is not between 0 and 65535.")});
+        EXPECT_EQ(app_->CurrentState()->file_name, "untitled");
+        EXPECT_EQ(FolderContent(), Lines{});
+    };
+    EditOf(*app_)->width = 65536;
+    expect_refused("Width");
+    EditOf(*app_)->width = 65535;
+    EditOf(*app_)->height = 65536;
+    expect_refused("Height");
+    EditOf(*app_)->height = 65535;
+    FrameEditOf(*app_, 0)->x_offset = 65536;
+    expect_refused("XOffset of one");
+    FrameEditOf(*app_, 0)->x_offset = 65535;
+    FrameEditOf(*app_, 0)->y_offset = 65536;
+    expect_refused("YOffset of one");
+    FrameEditOf(*app_, 0)->y_offset = 65535;
+
+    Do(SaveTo(folder_.Path(), "out.gif"));
+
+    EXPECT_EQ(FolderContent(), Lines{"out.gif"});
+}
+
+TEST_F(KirtoSave, TellsOfNumbersThatAGifCutsShort) {
+    Start();
+    Append({"one", "two"});
+    EditOf(*app_)->use_loop = true;
+    EditOf(*app_)->loop_count = 65537;
+    FrameEditOf(*app_, 0)->use_pause = true;
+    FrameEditOf(*app_, 0)->pause_length = 65536;
+
+    EXPECT_EQ(Do(SaveTo(folder_.Path(), "out.gif")),
+              "svup(Status: writing frame 1 of 2...) svup(Status: writing frame 2 of 2...) arsm "
+              "auda svup(Status: saved, but loop count 65537 was saved as 1, 1 pause(s) above "
+              "655.35 seconds were saved shorter)");
+    EXPECT_FALSE(app_->Modified());
+    EditOf(*app_)->loop_count = 65535;
+    FrameEditOf(*app_, 0)->pause_length = 65535;
+    EXPECT_EQ(Do(SaveTo(folder_.Path(), "out.gif")),
+              "svup(Status: writing frame 1 of 2...) svup(Status: writing frame 2 of 2...) arsm "
+              "auda");
+// Whether a save again writes a GIF, after each way in which the document may have changed.
+class KirtoSaveAgain : public KirtoFixture {
+  protected:
+    // Saves a sequence of images with the save panel.
+    void SaveSequence() {
+        app_->GetSaveFilePanel();
+        desktop_.fields.output_format = FakeRoster::kRaw;
+        Do(SaveTo(folder_.Path(), "movie.raw", FakeRoster::kRaw));
+    }
+};
+
+TEST_F(KirtoSaveAgain, WritesASequenceAgain) {
+    Start();
+    Append({"one"});
+    SaveSequence();
+    Append({"two"});
+
+    EXPECT_EQ(Do(kSaveAgain), "arsm auda");
+
+    EXPECT_EQ(FolderContent(), (Lines{"movie0000.raw", "movie0001.raw"}));
+}
+
+TEST_F(KirtoSaveAgain, ForgetsTheFormatWithTheDocument) {
+    Write("anim.gif", GifOf({10}));
+    Start();
+    for (const BMessage& command : {BMessage(kResetDocument), Files(kOpenFile, {"anim.gif"})}) {
+        SaveSequence();
+
+        Do(command);
+
+        EXPECT_EQ(desktop_.fields.output_format, 0u) << CodeText(command.what);
+    }
+}
+
+TEST_F(KirtoSaveAgain, KeepsTheFormatWhenAnAnimationIsInserted) {
+    Write("anim.gif", GifOf({10}));
+    Start();
+    SaveSequence();
+    BMessage insert = Files(kOpenFile, {"anim.gif"});
+    insert.AddBool("reset", false);
+
+    Do(insert);
+
+    EXPECT_EQ(desktop_.fields.output_format, FakeRoster::kRaw);
+}
+
+TEST_F(KirtoSaveAgain, MakesNoSavePanelOnlyToForgetItsFormat) {
+    Start();
+
+    Do(kResetDocument);
+
+    EXPECT_EQ(TakeLines(), Lines{});
 }
 
 class KirtoSaveSequence : public KirtoFixture {

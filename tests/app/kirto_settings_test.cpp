@@ -5,6 +5,7 @@
 
 #include "app/kirto.h"
 #include "app/kirto_fixture.h"
+#include "document/document_scope.h"
 
 namespace kirto::test {
 
@@ -16,12 +17,6 @@ class KirtoSettings : public KirtoFixture {
     static BMessage Store(const Prefs& settings) {
         BMessage message(kStoreSettings);
         settings.AddTo(&message);
-        return message;
-    }
-    static BMessage Edit(uint32 code, int32 value, int32 serial) {
-        BMessage message(code);
-        message.AddInt32("value", value);
-        message.AddInt32("serial", serial);
         return message;
     }
 
@@ -114,43 +109,17 @@ TEST_F(KirtoSettings, OfAnImageWriterNeedBothFields) {
     EXPECT_TRUE(app_->translator_settings.empty());
 }
 
-TEST_F(KirtoSettings, AnEditWithASerialNumberIsAnsweredOnceItIsDone) {
-    Start();
+#ifndef NDEBUG
+TEST_F(KirtoSettings, AreTakenOverOnlyWhereNoReaderIsInside) {
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    Make();
+    BMessage store = Store(prefs_);
+    const ReaderScope reader(*app_);
 
-    EXPECT_EQ(Do(Edit(kSetWidth, 12, 5)), "aued");
-
-    EXPECT_EQ(app_->CurrentState()->edits_done, 5);
-    EXPECT_EQ(app_->Current()->width, 12);
-    EXPECT_TRUE(app_->Modified());
+    // On one thread, so that waiting for the reader is the mistake that is looked for.
+    EXPECT_DEATH(app_->MessageReceived(&store), "t_scopes_held == 0");
 }
-
-TEST_F(KirtoSettings, AnEditWithoutASerialNumberIsNotAnswered) {
-    Start();
-    BMessage edit(kSetWidth);
-    edit.AddInt32("value", 12);
-
-    EXPECT_EQ(Do(edit), "");
-
-    EXPECT_EQ(app_->CurrentState()->edits_done, 0);
-    EXPECT_EQ(app_->Current()->width, 12);
-}
-
-TEST_F(KirtoSettings, EveryCommandWithASerialNumberIsAnswered) {
-    Start();
-    Append({"one", "two"});
-    BMessage remove(kRemoveFrame);
-    remove.AddInt32("serial", 1);
-    BMessage reset(kResetDocument);
-    reset.AddInt32("serial", 2);
-    BMessage unknown(FourCharCode("what"));
-    unknown.AddInt32("serial", 3);
-
-    EXPECT_EQ(Do(remove), "aufr aued");
-    EXPECT_EQ(Do(reset), "aued");
-    EXPECT_EQ(Do(unknown), "aued");
-
-    EXPECT_EQ(app_->CurrentState()->edits_done, 3);
-}
+#endif
 
 TEST_F(KirtoSettings, PanelsAskedForByTwoThreadsAtOnceAreMadeOnce) {
     Start();

@@ -77,6 +77,26 @@ TEST_F(KirtoCommands, AifpInsertsFiles) {
     EXPECT_TRUE(app_->Modified());
 }
 
+TEST_F(KirtoCommands, ACommandThatRunsOutOfMemoryIsAWarningAndTheDocumentStays) {
+    Write("one.raw", RawPicture(*PictureOf(1, 1, {1})));
+    Start();
+    Append({"before"});
+    BMessage insert = Files(kInsertFiles, {"one.raw"});
+    insert.AddInt32("serial", 1);
+    roster_.out_of_memory = true;
+
+    Do(insert);
+    Do(Files(B_SIMPLE_DATA, {"one.raw"}));
+
+    EXPECT_EQ(TakeLines(), Lines(2, "WARNING [] Out of memory. | OK"));
+    EXPECT_EQ(Names(), Lines{"[before]"});
+    EXPECT_EQ(app_->CurrentState()->edits_done, 1);
+    EXPECT_FALSE(app_->Modified());
+    roster_.out_of_memory = false;
+    Do(insert);
+    EXPECT_EQ(app_->FrameCount(), 2);
+}
+
 TEST_F(KirtoCommands, AitpInsertsTilesAsThePanelSays) {
     Write("sheet.raw", RawPicture(*PictureOf(2, 2, {1, 2, 3, 4})));
     desktop_.fields = {0, "2", "1", true};

@@ -239,6 +239,17 @@ TEST(OpenGif, RecognisesTheBuiltInPalettes) {
     EXPECT_EQ(KindOfGlobalTable(Palette(kPaletteGreyscale).colors), kPaletteGreyscale);
 }
 
+TEST(OpenGif, EndsDitheringWithARecognisedGreyscalePalette) {
+    DocumentFixture fixture;
+    PaletteEditOf(fixture.document)->dither = true;
+    GifBuilder gif(1, 1, TableOf(Palette(kPaletteGreyscale).colors, 256));
+
+    EXPECT_TRUE(OpenGifBytes(gif.Trailer(), fixture.document));
+
+    EXPECT_EQ(fixture.document.Current()->palette->mode, kPaletteGreyscale);
+    EXPECT_FALSE(fixture.document.Current()->palette->dither);
+}
+
 TEST(OpenGif, KeepsThePaletteOfTheFileWhereOneOfTheColoursDiffers) {
     for (const int32 kind : {kPaletteWebSafe, kPaletteSystem, kPaletteGreyscale}) {
         ColorTable colors = Palette(kind).colors;

@@ -40,16 +40,23 @@ uint64 SumOf(const Frame& frame) {
            bits[frame.bitmap->BitsLength() - 1] + SumOf(*frame.palette);
 }
 
+// Copies the settings as windows do.
+uint64 SumOf(const Prefs& live) {
+    const Prefs copy(live);
+    return copy.misc_tempfilelocation.size() + copy.palette_filename.size() +
+           copy.damaged_copy.size() + static_cast<uint64>(copy.global_width) +
+           (copy.failed ? 1 : 0);
+}
+
 // Reads all that a window shows, and checks the list on the way. The caller is inside the lock.
 // The sum keeps the reads from being left out.
 uint64 ReadDocument(const AnimationDocument& document) {
-    uint64 sum = document.CurrentState()->file_name.size() +
-                 document.CurrentState()->file_directory.size() +
+    uint64 sum = document.CurrentState()->file_name.size() + document.CurrentState()->file_directory.size() +
                  static_cast<uint64>(document.Current()->width + document.Current()->height) +
                  static_cast<uint64>(document.Current()->loop_count) +
-                 static_cast<uint64>(document.Current()->pause_length) +
-                 (document.Modified() ? 1 : 0) + (document.Current()->use_loop ? 1 : 0) +
-                 (document.Current()->use_pause ? 1 : 0) + SumOf(*document.Current()->palette);
+                 static_cast<uint64>(document.Current()->pause_length) + (document.Modified() ? 1 : 0) +
+                 (document.Current()->use_loop ? 1 : 0) + (document.Current()->use_pause ? 1 : 0) +
+                 SumOf(*document.Current()->palette) + SumOf(document.prefs);
     int32 visited = 0;
     for (const FramePointer& frame : document.Current()->frames) {
         EXPECT_EQ(frame->index, visited);
@@ -124,9 +131,31 @@ class RandomCommands : public KirtoFixture, public ::testing::WithParamInterface
         if (choices_.OneIn(120)) return BMessage(kRemoveFrame);
         if (choices_.OneIn(3000)) return BMessage(kResetDocument);
         if (choices_.OneIn(50)) return BMessage(choices_.Below(1u << 31));
+        if (choices_.OneIn(3)) return PanelEdit();
         BMessage message(OneOf(choices_, kCodes));
         if (message.what == kSelectFrame) message.AddInt32("number", choices_.Between(-2, 20));
         if (message.what == B_CANCEL) message.AddPointer("source", AnyPanel());
+        return message;
+    }
+
+    BMessage PanelEdit() {
+        static constexpr uint32 kCodes[] = {
+            kSetWidth,           kUsePause,       kSetPauseLength,     kPaletteToSystem,
+            kPaletteToGreyscale, kSetDither,      kFrameSetXOffset,    kFrameSetPauseLength,
+            kFrameUsePalette,    kUseTransparent, kFramePaletteToFile, kSetLoopCount};
+        BMessage message(OneOf(choices_, kCodes));
+        // Under one name, so that each code finds its type; some find none.
+        switch (choices_.Below(3)) {
+            case 0:
+                message.AddInt32("value", choices_.Between(2, 20));
+                break;
+            case 1:
+                message.AddDouble("value", choices_.Between(0, 50));
+                break;
+            default:
+                message.AddBool("value", choices_.OneIn(2));
+                break;
+        }
         return message;
     }
 
@@ -148,8 +177,19 @@ class RandomCommands : public KirtoFixture, public ::testing::WithParamInterface
     BMessage SavingCommand() {
         if (choices_.OneIn(3)) return BMessage(kPreview);
         if (choices_.OneIn(3)) return BMessage(kSaveAgain);
+        if (choices_.OneIn(3)) return StoringCommand();
         return SaveTo(choices_.OneIn(8) ? File("missing") : folder_.Path(), "out.gif",
                       choices_.Between(0, FakeRoster::kReadOnly));
+    }
+
+    BMessage StoringCommand() {
+        Prefs changed{Prefs::BuiltIn{}};
+        changed.global_width = choices_.Between(1, 500);
+        changed.palette_filename = std::string(choices_.Below(200), 'p');
+        changed.misc_tempfilelocation = choices_.OneIn(2) ? folder_.Path() : File("missing");
+        BMessage message(kStoreSettings);
+        changed.AddTo(&message);
+        return message;
     }
 
     const FilePanel* AnyPanel() {
@@ -167,19 +207,20 @@ class RandomCommands : public KirtoFixture, public ::testing::WithParamInterface
             answer = choices_.OneIn(6) ? 1 : choices_.OneIn(2) ? 0 : 2;
         desktop_.Answer(answers);
         desktop_.fields = {choices_.Below(2), choices_.OneIn(4) ? "" : "1", "2", choices_.OneIn(2)};
+        const WriterScope writer(*app_);
         prefs_.thumbnail_height = choices_.Between(0, 3);
         prefs_.palette_mapping = choices_.OneIn(5) ? kPaletteFromFile : choices_.Between(0, 2);
         prefs_.palette_filename = File(OneOf(choices_, kAnimations));
         prefs_.animation_gifloadfullframe = choices_.OneIn(2);
         prefs_.global_pauseinseconds = choices_.OneIn(2);
         prefs_.global_setdimensions = choices_.OneIn(2);
-        const WriterScope writer(*app_);
         if (choices_.OneIn(4)) PaletteEditOf(*app_)->Set(choices_.Between(0, 8));
         if (choices_.OneIn(4) && app_->CurrentFrame()) {
             FramePaletteEditOf(*app_, app_->Selected())->Set(kPaletteAwaitingFile);
         }
     }
 
+    ScopedEnvironment configuration_{"XDG_CONFIG_HOME", folder_.Path().c_str()};
     SeededChoices choices_{GetParam()};
     const FilePanel* open_panel_ = nullptr;
     const FilePanel* save_panel_ = nullptr;

@@ -338,6 +338,55 @@ TEST(KirtoCli, DoesNotSaveWhereNoFileCanBeMade) {
     }
 }
 
+TEST(KirtoCli, SavesUnderNoOtherNameThanItWasGiven) {
+    const CliHome home;
+    home.Write("three.gif", ThreeFrameGif());
+    for (const std::string& place : {std::string(252, 'n') + ".gif", std::string("name.gif/")}) {
+        ExpectFailed(home, {"--open", "three.gif", "--save", place},
+                     place +
+                         ": The animation can't be saved because the file could not be created "
+                         "at this location.");
+    }
+    EXPECT_FALSE(std::filesystem::exists(home.File("name.gif")));
+    EXPECT_FALSE(std::filesystem::exists(home.File(std::string(252, 'n') + ".gi")));
+    EXPECT_EQ(home.Run({"--open", "three.gif", "--save", std::string(251, 'n') + ".gif"}).status,
+              0);
+}
+
+TEST(KirtoCli, RefusesToSaveSizesThatAGifHasNoRoomFor) {
+    const CliHome home;
+    home.Write("three.gif", ThreeFrameGif());
+
+    ExpectFailed(home, {"--open", "three.gif", "--width", "65536", "--save", "new.gif"},
+                 "new.gif: The animation can't be saved because Width is not between 0 and 65535.");
+
+    EXPECT_FALSE(std::filesystem::exists(home.File("new.gif")));
+}
+
+TEST(KirtoCli, TellsOfNumbersThatAGifCutsShort) {
+    const CliHome home;
+    home.Write("three.gif", ThreeFrameGif());
+
+    const RunResult result =
+        home.Run({"--open", "three.gif", "--loop", "65537", "--save", "new.gif"});
+
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.err, "kirto-cli: new.gif: Saved, but loop count 65537 was saved as 1.\n");
+    EXPECT_EQ(home.Info({"--open", "new.gif"})["loop_count"], 1);
+}
+
+TEST(KirtoCli, OverwritesAFileThatHasChangedWithoutAsking) {
+    const CliHome home;
+    home.Write("three.gif", ThreeFrameGif());
+    home.Write("old.gif", {'o', 'l', 'd'});
+
+    const RunResult result =
+        home.Run({"--open", "three.gif", "--save", "old.gif", "--save", "old.gif"});
+
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.err, "");
+}
+
 TEST(KirtoCli, FailsOnATinyFileThatAsksForAHugePicture) {
     const CliHome home;
     home.Write("huge.gif", {'G',  'I',  'F',  '8',  '9', 'a', 0xFF, 0xFF, 0xFF, 0xFF, 0x80, 0,

@@ -93,7 +93,7 @@ TEST(Palette, KeepsItsEncodingSettingsWhenTheKindChanges) {
     palette.dither = true;
     palette.unique_colors = 5;
 
-    palette.Set(kPaletteGreyscale);
+    palette.Set(kPaletteSystem);
 
     EXPECT_EQ(palette.background_index, 3);
     EXPECT_EQ(palette.transparent_index, 4);
@@ -282,6 +282,29 @@ TEST(Palette, ComparesEachComponentWithTheGreyRamp) {
         palette.RecogniseBuiltIn();
 
         EXPECT_EQ(palette.mode, kPaletteFromFile);
+    }
+}
+
+TEST(Palette, IsNotDitheredOnceItIsGreyscale) {
+    for (int32 kind = kPaletteWebSafe; kind <= kPaletteAwaitingFile; ++kind) {
+        Palette palette;
+        palette.dither = true;
+
+        palette.Set(kind);
+
+        EXPECT_EQ(palette.dither, kind != kPaletteGreyscale) << kind;
+    }
+}
+
+TEST(Palette, IsNotDitheredOnceItIsRecognisedAsGreyscale) {
+    for (const ColorTable& colors : {kWebSafeColors, kSystemColors, GreyRamp()}) {
+        Palette palette(kPaletteFromFile);
+        palette.colors = colors;
+        palette.dither = true;
+
+        palette.RecogniseBuiltIn();
+
+        EXPECT_EQ(palette.dither, palette.mode != kPaletteGreyscale) << palette.mode;
     }
 }
 

@@ -224,4 +224,17 @@ TEST(AnimationDocument, GivesBackItsSemaphore) {
     EXPECT_EQ(delete_sem(semaphore), B_BAD_SEM_ID);
 }
 
+TEST(AnimationDocument, DithersNoGreysAtAReset) {
+    DocumentFixture fixture;
+    fixture.prefs.palette_mapping = kPaletteGreyscale;
+    fixture.prefs.palette_dither = true;
+
+    fixture.document.Reset();
+    EXPECT_FALSE(fixture.document.Current()->palette->dither);
+    fixture.prefs.palette_mapping = kPaletteSystem;
+    fixture.document.Reset();
+
+    EXPECT_TRUE(fixture.document.Current()->palette->dither);
+}
+
 }  // namespace kirto::test

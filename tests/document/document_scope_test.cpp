@@ -319,6 +319,34 @@ TEST(AnimationDocument, LetsAWaitingWriterGoWhenTheSemaphoreIsDeleted) {
     EXPECT_EQ(fixture.document.reader_count, 1);
 }
 
+TEST(AnimationDocument, MissesNoChangeThatIsCarriedOutWhileItIsAskedForUnsavedOnes) {
+    constexpr int32 kRounds = 300;
+    DocumentFixture fixture;
+    AnimationDocument& document = fixture.document;
+    std::atomic<int32> round = 0;
+    std::thread editor([&] {
+        for (int32 i = 1; i <= kRounds; ++i) {
+            while (round != i)
+                std::this_thread::yield();
+            document.SetModified(true);
+            document.changes_waiting = 0;
+        }
+    });
+    int32 missed = 0;
+
+    for (int32 i = 1; i <= kRounds; ++i) {
+        document.changes_waiting = 1;
+        document.SetModified(false);
+        round = i;
+        do {
+            if (!document.HasUnsavedChanges()) ++missed;
+        } while (document.changes_waiting > 0);
+    }
+    editor.join();
+
+    EXPECT_EQ(missed, 0);
+}
+
 #ifndef NDEBUG
 TEST(WriterScope, ToldToWaitForItsOwnThreadIsAMistakeThatFailsEveryTime) {
     GTEST_FLAG_SET(death_test_style, "threadsafe");

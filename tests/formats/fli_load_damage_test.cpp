@@ -216,6 +216,31 @@ TEST_F(FliLoadTest, ARecordThatLeadsBackToItselfGivesNoEndOfFrames) {
     EXPECT_LT(document_.FrameCount(), 5000);
 }
 
+TEST_F(FliLoadTest, ARecordThatLeadsBackIsNotPaidForByItsPictures) {
+    for (const int32 side : {8, 100}) {
+        FliBuilder fli(side, side);
+        fli.Record().Black().RecordSize(0).FrameCount(65535);
+        document_.Reset();
+
+        const Load load = LoadFile(fli);
+
+        EXPECT_TRUE(load.failed) << side;
+        EXPECT_GE(document_.FrameCount(), 1) << side;
+        EXPECT_LT(document_.FrameCount(), 300) << side;
+    }
+}
+
+TEST_F(FliLoadTest, RecordsWhoseLastChunkClaimsTooMuchAreAllRead) {
+    FliBuilder fli(20, 20);
+    for (int i = 0; i < 1000; ++i) {
+        // 22 bytes and what the black chunk and the sketch have, not what the sketch claims.
+        fli.Record().Black().Mini({1, 2}).RecordSize(16 + 6 + 8).ChunkSize(8 + 500);
+    }
+
+    EXPECT_FALSE(LoadFile(fli).failed);
+    EXPECT_EQ(document_.FrameCount(), 1000);
+}
+
 TEST_F(FliLoadTest, ALongSoundFileOfTheSmallestRecordsIsReadToItsEnd) {
     FliBuilder fli(1, 1);
     for (int i = 0; i < 1200; ++i)

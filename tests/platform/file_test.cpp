@@ -90,6 +90,20 @@ struct ReplacingFixture {
 
 }  // namespace
 
+TEST(BFile, SaysSoWhenThereIsNoMemoryForItsReadBuffer) {
+    const TemporaryFolder folder;
+    WriteText(folder.File("file"), "text");
+    BFile file(folder.File("file"), B_READ_ONLY);
+    char text[4] = {};
+    {
+        const AllocationFault fault(1);
+        EXPECT_EQ(file.Read(text, sizeof(text)), B_NO_MEMORY);
+    }
+
+    EXPECT_TRUE(file.ReadExactly(text, sizeof(text)));
+    EXPECT_EQ(std::string(text, sizeof(text)), "text");
+}
+
 TEST(BFile, ReadsAFile) {
     const ReplacingFixture fixture;
     BFile file(fixture.path, B_READ_ONLY);

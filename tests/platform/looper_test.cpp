@@ -5,9 +5,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <mutex>
+#include <new>
 #include <utility>
 
 #include "platform/message_queue.h"
+#include "support/test_support.h"
 
 namespace kirto::test {
 
@@ -143,6 +145,33 @@ TEST(BLooper, HandlesMessagesInTheOrderPosted) {
     EXPECT_EQ(looper.PostMessage(B_QUIT_REQUESTED), B_OK);
     looper.Loop();
     EXPECT_THAT(log.Lines(), ElementsAre("looper:1", "handler:2", "looper:3", "asked"));
+}
+
+TEST(BLooper, WarnsOfAHandlerThatRunsOutOfMemoryAndGoesOn) {
+    const AlertRecorder alerts;
+    std::vector<uint32> handled;
+    CallingLooper looper([&](BLooper&, uint32 what) {
+        if (what == 1) throw std::bad_alloc();
+        handled.push_back(what);
+    });
+    looper.PostMessage(1);
+    looper.PostMessage(2);
+    looper.PostMessage(B_QUIT_REQUESTED);
+
+    looper.Loop();
+
+    EXPECT_THAT(alerts.Lines(), ElementsAre("WARNING [] Out of memory. | OK"));
+    EXPECT_THAT(handled, ElementsAre(2U));
+}
+
+TEST(BMessenger, TellsWhenThereIsNoRoomForAMessage) {
+    class FullPort : public kirto::MessagePort {
+      public:
+        status_t Post(BMessage, kirto::handler_token) override { throw std::bad_alloc(); }
+        bool IsOpen() const override { return true; }
+    };
+
+    EXPECT_EQ(BMessenger(std::make_shared<FullPort>()).SendMessage(1), B_NO_MEMORY);
 }
 
 TEST(BLooper, RunsOnAThreadOfItsOwn) {

@@ -62,6 +62,19 @@ class GuiPortDelivery : public ::testing::Test {
 
 using Lines = std::vector<std::string>;
 
+TEST_F(GuiPortDelivery, WarnsOfAReceiverThatRunsOutOfMemoryAndGoesOn) {
+    const AlertRecorder alerts;
+    on_message = [this](BMessage*) {
+        if (received.size() == 1) throw std::bad_alloc();
+    };
+    port->Post(BMessage(kCommand), kPreferredHandler);
+    port->Post(BMessage(kOther), kPreferredHandler);
+
+    EXPECT_TRUE(UntilReceived(2));
+
+    EXPECT_EQ(alerts.Lines(), Lines{"WARNING [] Out of memory. | OK"});
+}
+
 TEST_F(GuiPortDelivery, DeliversNothingBeforeEventsAreHandled) {
     EXPECT_EQ(port->Post(BMessage(kCommand), kPreferredHandler), B_OK);
 

@@ -17,6 +17,7 @@ class FakePanel : public FilePanel {
     ~FakePanel() override { desktop_.AddLine(Format("panel %s deleted", KindName(kind_))); }
 
     uint32 OutputFormat() const override { return desktop_.fields.output_format; }
+    void ForgetOutputFormat() override { desktop_.fields.output_format = 0; }
     std::string RowsText() const override { return desktop_.fields.rows; }
     std::string ColumnsText() const override { return desktop_.fields.columns; }
     bool ColumnByColumn() const override { return desktop_.fields.column_by_column; }
@@ -69,7 +70,8 @@ void FakeDesktop::AbandonPendingCommand() {
     AddLine("pending command abandoned");
 }
 
-std::unique_ptr<FilePanel> FakeDesktop::MakeFilePanel(FilePanelKind kind, BMessenger) {
+std::unique_ptr<FilePanel> FakeDesktop::MakeFilePanel(FilePanelKind kind, BMessenger target) {
+    panel_target = std::move(target);
     return std::make_unique<FakePanel>(*this, kind);
 }
 

@@ -32,6 +32,7 @@ class FakeDesktop : public Desktop {
     const std::shared_ptr<PortRecorder> window = std::make_shared<PortRecorder>();
     BRect screen{0, 0, 1023, 767};
     PanelFields fields;
+    BMessenger panel_target;                        // of the panel made last
     std::map<std::string, std::string> mime_types;  // by leaf name
 
     // Button indices for the next alerts, in order; then the last button answers again.

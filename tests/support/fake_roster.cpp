@@ -35,6 +35,7 @@ std::vector<uint8> RawPicture(const BBitmap& picture) {
 status_t FakeRoster::Translate(BFile& source, std::shared_ptr<PixelBudget> budget,
                                std::shared_ptr<BBitmap>* result) {
     result->reset();
+    if (out_of_memory) throw std::bad_alloc();
     if (read_status != B_OK) return read_status;
     uint8 header[kHeaderSize];
     if (!source.ReadExactly(header, sizeof(header))) return B_NO_TRANSLATOR;

@@ -21,6 +21,7 @@ class FakeRoster : public BTranslatorRoster {
     static constexpr uint32 kRawFormat = FourCharCode("rawp");
 
     status_t read_status = B_OK;   // other than B_OK: what reading fails with
+    bool out_of_memory = false;    // reading throws what the standard library throws then
     status_t write_status = B_OK;  // other than B_OK: what writing fails with
     BMessage written_settings;     // that the last picture was written with
 

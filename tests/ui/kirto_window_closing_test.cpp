@@ -1,6 +1,8 @@
+#include <QPushButton>
 #include <QSplitter>
 
 #include "support/environment.h"
+#include "ui/fade_window.h"
 #include "ui/kirto_window_fixture.h"
 
 namespace kirto::test {
@@ -111,11 +113,11 @@ TEST_F(KirtoWindowClosing, AsksNothingForAnUnmodifiedDocument) {
     Open();
 
     DoUnasked(kMenuNew);
-    document.edits_done = 1;
+    CarryOutEdits();
     DoUnasked(kMenuOpen);
     DoUnasked(B_QUIT_REQUESTED);
 
-    EXPECT_EQ(Posted(), "arst asts _QRQ");
+    EXPECT_EQ(Posted(), "asts _QRQ");
 }
 
 TEST_F(KirtoWindowClosing, CancelDropsTheCommand) {
@@ -275,13 +277,48 @@ TEST_F(KirtoWindowClosing, CountsAnEditOnItsWayToTheApplicationAsAChange) {
     document.file_name = "some.gif";
     Open();
     KirtoWindowFixture::Do(kMoveFrameUp);
-    Posted();
 
     Do(B_QUIT_REQUESTED, kCancel);
-    document.edits_done = 1;
+    CarryOutEdits();
     DoUnasked(B_QUIT_REQUESTED);
 
     EXPECT_EQ(Posted(), "asts _QRQ");
+}
+
+TEST_F(KirtoWindowClosing, CountsAFadeOnItsWayToTheApplicationAsAChange) {
+    AddFrame();
+    document.file_name = "some.gif";
+    Open();
+    KirtoWindowFixture::Do(kMenuFadeEffects);
+    Named<QPushButton>(*window->findChild<FadeWindow*>(), "OK")->click();
+    HandleEvents();
+
+    for (const uint32 code : kAllCommands)
+        Do(code, kCancel);
+
+    EXPECT_EQ(Posted(), "fwtr");
+}
+
+TEST_F(KirtoWindowClosing, CountsFramesOnTheirWayIntoAnEmptyAnimationAsChanges) {
+    Open();
+    for (const uint32 code : {kInsertFiles, kInsertTiledFile, kOpenFile, uint32{B_SIMPLE_DATA},
+                              uint32{B_REFS_RECEIVED}}) {
+        commands.SendMessage(code);
+
+        Do(B_QUIT_REQUESTED, kCancel);
+
+        CarryOutEdits();
+    }
+    DoUnasked(B_QUIT_REQUESTED);
+}
+
+TEST_F(KirtoWindowClosing, CountsNoEditOnItsWayToAnEmptyAnimationAsAChange) {
+    Open();
+    KirtoWindowFixture::Do(kReverseFrames);
+
+    DoUnasked(B_QUIT_REQUESTED);
+
+    EXPECT_EQ(Posted(), "awfv asts _QRQ");
 }
 
 TEST_F(KirtoWindowClosing, SendsTheEditThatIsBeingTypedBeforeTheQuestion) {

@@ -33,8 +33,7 @@ class KirtoWindowEdits : public KirtoWindowFixture {
         emit menu.activated(item);
         HandleEvents();
     }
-    // The value of the last posted message, which has to be of that code and carry a number that
-    // counts edits.
+    // The value of the last posted message, which has to be of that code and counted as a change.
     int32 PostedNumber(uint32 code) {
         int32 value = -1;
         EXPECT_EQ(PostedEdit(code).FindInt32("value", &value), B_OK);
@@ -53,16 +52,14 @@ class KirtoWindowEdits : public KirtoWindowFixture {
     BMessage PostedEdit(uint32 code) {
         const BMessage message = LastPosted();
         EXPECT_EQ(CodeText(message.what), CodeText(code));
-        int32 number = 0;
-        EXPECT_EQ(message.FindInt32("serial", &number), B_OK);
-        EXPECT_EQ(number, ++serial_);
+        EXPECT_EQ(document.changes_waiting, ++edits_);
         return message;
     }
 
     AlertRecorder alerts;
 
   private:
-    int32 serial_ = 0;
+    int32 edits_ = 0;
 };
 
 TEST_F(KirtoWindowEdits, PostTheCanvas) {

@@ -34,7 +34,7 @@ KirtoWindowFixture::KirtoWindowFixture()
 }
 
 void KirtoWindowFixture::Open(BRect frame) {
-    const Editor editor{document, BMessenger(application), panels, roster, &resources.Handler()};
+    const Editor editor{document, commands, panels, roster, &resources.Handler()};
     window = std::make_unique<KirtoWindow>(frame, "Kirto - untitled", editor);
     window->show();
     EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
@@ -63,8 +63,7 @@ BMessage KirtoWindowFixture::LastPosted() {
 void KirtoWindowFixture::CarryOutEdits() {
     for (const BMessage& message : application->Messages()) {
         ApplyEdit(document, message);
-        int32 serial = 0;
-        if (message.FindInt32("serial", &serial) == B_OK) document.edits_done = serial;
+        if (CommandPort::IsCounted(message)) CommandPort::Uncount(document, message);
     }
     Posted();
     Do(kEditDone);

@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "app/command_port.h"
 #include "document/command_codes.h"
 #include "support/fake_roster.h"
 #include "support/test_support.h"
@@ -73,6 +74,7 @@ class KirtoWindowFixture : public ::testing::Test {
     Prefs prefs{Prefs::BuiltIn{}};
     AnimationDocument document{prefs};
     std::shared_ptr<PortRecorder> application = std::make_shared<PortRecorder>();
+    BMessenger commands{std::make_shared<CommandPort>(document, application)};
     RecordedPanels panels;
     FakeRoster roster;
     WindowResources resources;

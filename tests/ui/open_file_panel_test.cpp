@@ -2,12 +2,15 @@
 
 #include <QLabel>
 #include <QLineEdit>
+#include <QListView>
 #include <QTest>
 #include <filesystem>
 #include <thread>
 
+#include "document/command_codes.h"
 #include "ui/file_panel_fixture.h"
 #include "ui/image_filter.h"
+#include "ui/kirto_filter.h"
 #include "ui/widget_tools.h"
 
 namespace kirto::test {
@@ -157,47 +160,77 @@ TEST_F(OpenFilePanelTest, InsertsSeveralFiles) {
     EXPECT_TRUE(IsClosing(Sent(1)));
 }
 
-TEST_F(OpenFilePanelTest, InsertsSeveralFilesOfOtherFolders) {
-    for (const char* name : {"one", "two"}) {
-        fs::create_directory(folder.File(name));
-        AddFile(std::string(name) + "/a.raw");
-    }
-    AddFile("b.raw");
-    Show(FilePanelKind::kInsert);
-    const std::string one = folder.File("one/a.raw");
-    const std::string two = folder.File("two/a.raw");
+TEST_F(OpenFilePanelTest, InsertsAllQuotedFilesAlsoThoseThatItDoesNotOffer) {
+    fs::create_directory(folder.File("below"));
+    AddFile("below/a.raw");
+    AddFile("b.gif");
+    OpenPanelSetup setup{"Insert", kInsertFiles, "Insert", true,
+                         [] { return std::make_unique<KirtoFilter>(); }};
+    panel = std::make_unique<OpenFilePanel>(setup, BMessenger(application), parent.get());
+    panel->Show();
+    Dialog()->setDirectory(QString::fromStdString(folder.Path()));
+    ASSERT_EQ(Offered(2), "b.gif below");
+    const std::string offered = folder.File("b.gif");
+    const std::string other = folder.File("below/a.raw");
 
-    Choose(QString::fromStdString("\"" + one + "\" \"b.raw\" \"" + two + "\""));
+    Choose(QString::fromStdString("\"" + offered + "\" \"" + other + "\""));
 
     ASSERT_EQ(application->Transcript(), "aifp _CNC");
-    EXPECT_EQ(Refs(Sent(0)), (std::vector<std::string>{one, folder.File("b.raw"), two}));
+    EXPECT_EQ(Refs(Sent(0)), (std::vector<std::string>{offered, other}));
+}
+
+TEST_F(OpenFilePanelTest, InsertsFilesWhoseNamesHoldQuotes) {
+    AddFile("a\"b.gif");
+    AddFile("c.gif");
+    OpenPanelSetup setup{"Insert", kInsertFiles, "Insert", true,
+                         [] { return std::make_unique<KirtoFilter>(); }};
+    panel = std::make_unique<OpenFilePanel>(setup, BMessenger(application), parent.get());
+    panel->Show();
+    Dialog()->setDirectory(QString::fromStdString(folder.Path()));
+    ASSERT_EQ(Offered(2), "a\"b.gif c.gif");
+
+    Named<QListView>(*Dialog(), "listView")->selectAll();
+    AcceptButton()->click();
+
+    ASSERT_EQ(application->Transcript(), "aifp _CNC");
+    EXPECT_EQ(Refs(Sent(0)).size(), 2u);
 }
 
 TEST_F(OpenFilePanelTest, SurvivesKeysTypedBehindTheOneThatClosesIt) {
     AddFile("m.gif");
-    for (const Qt::Key closing : {Qt::Key_Escape, Qt::Key_Return}) {
+    AddFile("m.gifm.gif");
+    // What is typed before, and the key; the next letter could be completed.
+    for (const auto& [typed, closing] :
+         {std::pair{"", Qt::Key_Escape}, std::pair{"m.gif", Qt::Key_Return}}) {
         Show(FilePanelKind::kOpen);
-        ASSERT_EQ(Offered(1), "m.gif");
+        ASSERT_EQ(Offered(2), "m.gif m.gifm.gif");
         ASSERT_TRUE(QTest::qWaitForWindowActive(Dialog()));
         NameField()->setFocus();
-        QTest::keyClicks(NameField(), "m.gi");
-        EXPECT_TRUE(WaitFor([] { return QApplication::activePopupWidget() != nullptr; }));
-        QTest::keyClicks(NameField(), "f");
+        NameField()->setText(typed);
 
-        for (const auto& [key, text] :
-             {std::pair{closing, ""}, {Qt::Key_M, "m"}, {Qt::Key_M, "m"}, {Qt::Key_Period, "."}}) {
-            QCoreApplication::postEvent(NameField(),
-                                        new QKeyEvent(QEvent::KeyPress, key, Qt::NoModifier, text));
+        for (const Qt::Key key : {closing, Qt::Key_M, Qt::Key_M}) {
+            QCoreApplication::postEvent(
+                NameField(),
+                new QKeyEvent(QEvent::KeyPress, key, Qt::NoModifier, key == Qt::Key_M ? "m" : ""));
         }
         EXPECT_TRUE(WaitFor([this] { return !Dialog()->isVisible(); }));
         QCoreApplication::processEvents();
 
         EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
-        panel->Show();
-        EXPECT_EQ(NameField()->text(), "") << "The dialog can be used again.";
-        QTest::keyClicks(NameField(), "m");
-        EXPECT_TRUE(WaitFor([] { return QApplication::activePopupWidget() != nullptr; }));
     }
+}
+
+TEST_F(OpenFilePanelTest, CompletesNamesAgainWhenItIsShownAgain) {
+    AddFile("m.gif");
+    Show(FilePanelKind::kOpen);
+    ASSERT_EQ(Offered(1), "m.gif");
+    Dialog()->reject();
+
+    panel->Show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(Dialog()));
+    QTest::keyClicks(NameField(), "m");
+
+    EXPECT_TRUE(WaitFor([] { return QApplication::activePopupWidget() != nullptr; }));
 }
 
 TEST_F(OpenFilePanelTest, OffersImagesToInsert) {

@@ -14,7 +14,7 @@ using Lines = std::vector<std::string>;
 class PaletteViewTest : public ViewFixture {
   protected:
     void ShowMode(int32 mode) {
-        PaletteEditOf(document)->mode = mode;
+        PaletteEditOf(document)->Set(mode);
         Take();
         panel.UpdateDisplay();
     }

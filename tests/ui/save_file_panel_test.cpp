@@ -163,6 +163,60 @@ TEST_F(SaveFilePanelTest, SaysOnlyThatItClosedWhenItIsCancelled) {
     EXPECT_TRUE(IsClosing(Sent(0)));
 }
 
+TEST_F(SaveFilePanelTest, ForgetsAFormatWhenItIsCancelled) {
+    Show(FilePanelKind::kSave);
+    ChooseFormat("PNG image sequence");
+
+    QTest::keyClick(Dialog(), Qt::Key_Escape);
+
+    EXPECT_EQ(panel->OutputFormat(), 0u);
+    panel->Show();
+    EXPECT_EQ(Format()->currentText(), "Animated GIF");
+    application->TakeTranscript();
+    Choose("movie");
+    EXPECT_EQ(PlaceIn(Sent(0)), "0 " + folder.Path() + " movie.gif");
+}
+
+TEST_F(SaveFilePanelTest, KeepsTheFormatThatWasSavedInWhenALaterChoiceIsCancelled) {
+    Show(FilePanelKind::kSave);
+    ChooseFormat("PNG image sequence");
+    Choose("movie.png");
+    panel->Show();
+    EXPECT_EQ(Format()->currentText(), "PNG image sequence");
+    ChooseFormat("Animated GIF");
+
+    QTest::keyClick(Dialog(), Qt::Key_Escape);
+
+    EXPECT_EQ(panel->OutputFormat(), WriterRoster::kPng);
+    panel->Show();
+    EXPECT_EQ(Format()->currentText(), "PNG image sequence");
+}
+
+TEST_F(SaveFilePanelTest, ForgetsTheFormatOfTheDocumentThatIsGone) {
+    Show(FilePanelKind::kSave);
+    ChooseFormat("PNG image sequence");
+    Choose("movie.png");
+
+    std::thread([&] { panel->ForgetOutputFormat(); }).join();
+
+    EXPECT_EQ(panel->OutputFormat(), 0u);
+    panel->Show();
+    EXPECT_EQ(Format()->currentText(), "Animated GIF");
+    application->TakeTranscript();
+    Choose("film");
+    EXPECT_EQ(PlaceIn(Sent(0)), "0 " + folder.Path() + " film.gif");
+}
+
+TEST_F(SaveFilePanelTest, KeepsWhichOfATranslatorsFormatsIsMarked) {
+    Show(FilePanelKind::kSave);
+    ChooseFormat("Two sequence");
+    Choose("movie");
+
+    panel->Show();
+
+    EXPECT_EQ(Format()->currentText(), "Two sequence");
+}
+
 TEST_F(SaveFilePanelTest, GivesANameWithoutExtensionTheFormatsUsualOne) {
     for (const auto& [format, name] :
          std::vector<std::pair<QString, std::string>>{{"Animated GIF", "movie.gif"},

@@ -9,7 +9,8 @@ namespace {
 
 struct OptionText {
     const char* name;
-    const char* value;  // what the value stands for; null for an option without one
+    const char* value;  // what the value stands for, in brackets where it may be left out; null for
+                        // an option without one
     const char* help;
 };
 
@@ -39,6 +40,8 @@ constexpr OptionText kOperations[] = {
     {"--frame-pause", "X|off", "Give the current frame its own pause"},
     {"--frame-palette", "off|web-safe|system|greyscale|optimal|FILE",
      "Give the current frame its own palette"},
+    {"--undo", "[N]", "Undo the last change, or the last N"},
+    {"--redo", "[N]", "Redo what was undone last, or the last N"},
     {"--save", "FILE.gif", "Save as an animated GIF"},
     {"--save-sequence", "NAME.EXT", "Save each frame as an image NAME0000.EXT, NAME0001.EXT, ..."},
     {"--list-formats", nullptr, "List the image formats that can be read and written"},
@@ -77,7 +80,7 @@ std::optional<int> ParseArguments(int argc, const char* const* argv, CliArgument
         if (text.value) {
             app.add_option(text.name, text.help)
                 ->type_name(text.value)
-                ->expected(1)
+                ->expected(text.value[0] == '[' ? 0 : 1, 1)
                 ->take_all()
                 ->allow_extra_args(false)
                 ->group("Operations");

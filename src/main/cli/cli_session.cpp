@@ -84,6 +84,8 @@ CliSession::Handler CliSession::HandlerFor(const std::string& option) {
         {"--frame-offset", &CliSession::SetFrameOffset},
         {"--frame-pause", &CliSession::SetFramePause},
         {"--frame-palette", &CliSession::SetFramePalette},
+        {"--undo", &CliSession::Undo},
+        {"--redo", &CliSession::Redo},
         {"--save", &CliSession::Save},
         {"--save-sequence", &CliSession::SaveSequence},
         {"--list-formats", &CliSession::ListFormats},

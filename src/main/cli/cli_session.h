@@ -65,6 +65,8 @@ class CliSession {
     Outcome SetFrameOffset(const std::string& value);
     Outcome SetFramePause(const std::string& value);
     Outcome SetFramePalette(const std::string& value);
+    Outcome Undo(const std::string& value);
+    Outcome Redo(const std::string& value);
     Outcome PrintInfo(const std::string& value);
     Outcome PrintInfoJson(const std::string& value);
 
@@ -77,6 +79,9 @@ class CliSession {
     Outcome SaveAs(const std::string& path, translator_id translator);
     // Posts the command that makes a palette wait for a file, then the file. True as Post.
     Outcome LoadPalette(uint32 await_command, const std::string& path);
+    // Posts the command as often as the text says (once without a number), and fails where the
+    // history, which calls it by that verb, ends before.
+    Outcome PostAlongHistory(uint32 command, const char* verb, const std::string& text);
     // Posts the command of a switch with its value.
     Outcome PostSwitch(uint32 command, bool on);
     // Posts the command of a number, after checking the text as the windows do.

@@ -175,6 +175,31 @@ CliSession::Outcome CliSession::LoadPalette(uint32 await_command, const std::str
     return Post(message);
 }
 
+CliSession::Outcome CliSession::Undo(const std::string& value) {
+    return PostAlongHistory(kUndo, "undo", value);
+}
+
+CliSession::Outcome CliSession::Redo(const std::string& value) {
+    return PostAlongHistory(kRedo, "redo", value);
+}
+
+CliSession::Outcome CliSession::PostAlongHistory(uint32 command, const char* verb,
+                                                 const std::string& text) {
+    int32 count = 1;
+    if (!text.empty() && (!ParseNumber(text, &count) || count < 1)) {
+        return Refuse(Format("--%s: \"%s\" is not a number of changes.", verb, text.c_str()));
+    }
+    for (int32 i = 0; i < count; ++i) {
+        const auto state = app_->CurrentState();
+        if ((command == kUndo ? state->undo_name : state->redo_name).empty()) {
+            return Fail(Format("There is nothing to %s.", verb));
+        }
+        const Outcome outcome = Post(command);
+        if (outcome != Outcome::kDone) return outcome;
+    }
+    return Outcome::kDone;
+}
+
 CliSession::Outcome CliSession::PrintInfo(const std::string&) {
     std::fputs(DescribeDocument(*app_->CurrentState(), prefs_.global_pauseinseconds).c_str(), stdout);
     return Outcome::kDone;

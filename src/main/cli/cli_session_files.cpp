@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <filesystem>
 
+#include "app/save_animation.h"
 #include "document/command_codes.h"
 #include "main/cli/cli_session.h"
 #include "platform/entry_ref.h"
@@ -120,7 +121,11 @@ CliSession::Outcome CliSession::InsertTiled(const std::string& value) {
 }
 
 CliSession::Outcome CliSession::Save(const std::string& value) {
-    return SaveAs(value, 0);
+    const Outcome outcome = SaveAs(value, 0);
+    if (outcome != Outcome::kDone) return outcome;
+    const std::string cut_short = NumbersCutShort(*app_->Current(), prefs_.global_pauseinseconds);
+    if (!cut_short.empty()) desktop_.Complain(value + ": Saved, but " + cut_short + ".");
+    return outcome;
 }
 
 CliSession::Outcome CliSession::SaveSequence(const std::string& value) {
@@ -137,6 +142,10 @@ CliSession::Outcome CliSession::SaveSequence(const std::string& value) {
 CliSession::Outcome CliSession::SaveAs(const std::string& path, translator_id translator) {
     desktop_.SetSubject(path);
     const entry_ref ref = AbsoluteRef(path);
+    // The document would cut the name, or take off the slash, and save under another one.
+    if (path.ends_with('/') || ref.Leaf().size() > kMaxFileNameBytes) {
+        return Fail(path + ": " + kFileNotCreatedText);
+    }
     BMessage message(kSaveFile);
     message.AddInt64("translator_id", translator);
     message.AddRef("directory", entry_ref(ref.Directory()));

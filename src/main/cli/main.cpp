@@ -6,6 +6,7 @@
 #include <csignal>
 #include <cstdio>
 #include <memory>
+#include <new>
 #include <set>
 
 #include "main/cli/cli_arguments.h"
@@ -66,7 +67,12 @@ int RunSession(kirto::CliArguments arguments) {
     action.sa_flags = static_cast<int>(SA_RESETHAND);
     sigaction(SIGINT, &action, nullptr);
     sigaction(SIGTERM, &action, nullptr);
-    const int status = session.Run();
+    int status = kirto::kExitFailed;
+    try {
+        status = session.Run();
+    } catch (const std::bad_alloc&) {
+        std::fputs("kirto-cli: Out of memory.\n", stderr);
+    }
     g_session = nullptr;
     return status;
 }

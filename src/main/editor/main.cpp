@@ -41,7 +41,7 @@ int RunEditor(const kirto::EditorArguments& arguments) {
     if (!arguments.screenshot.empty()) printed.emplace();
     Prefs prefs;
     Kirto application(prefs, desktop, roster, entry_ref(kirto::ResourceFilePath()));
-    if (!arguments.files.empty()) application.PostMessage(RefsMessage(arguments.files));
+    if (!arguments.files.empty()) application.Commands().SendMessage(RefsMessage(arguments.files));
 
     int status = 0;
     const kirto::Screenshot screenshot(application, *desktop.MainWindow(), arguments.screenshot,

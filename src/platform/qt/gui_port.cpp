@@ -3,7 +3,10 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <algorithm>
+#include <new>
 #include <utility>
+
+#include "platform/alert.h"
 
 namespace kirto {
 
@@ -126,7 +129,12 @@ void GuiPort::DeliverAll() {
     BMessage message;
     while (TakeNext(&message, &refreshes_left)) {
         const bool outer = std::exchange(delivering_, true);
-        receiver_(&message);
+        // An exception must not pass through Qt's event loop.
+        try {
+            receiver_(&message);
+        } catch (const std::bad_alloc&) {
+            WarnOutOfMemory();
+        }
         delivering_ = outer;
     }
     since_delivery_.start();
