@@ -22,7 +22,7 @@ struct Change {
     const char* value;  // as SetFromText takes it
 };
 
-constexpr Change kChanges[] = {
+const Change kChanges[] = {
     {"global_width", "641", "global_width", "641"},
     {"global_height", "481", "global_height", "481"},
     {"global_usepause", nullptr, "global_usepause", "false"},
