@@ -310,18 +310,6 @@ BMessage::Field* BMessage::FieldNamed(std::string_view name) {
     return const_cast<Field*>(std::as_const(*this).FieldNamed(name));
 }
 
-status_t BMessage::ReplaceInt32(std::string_view name, int32 value, int32 index) {
-    return Replace(name, B_INT32_TYPE, index, LittleBytes(static_cast<uint32>(value)));
-}
-
-status_t BMessage::ReplaceBool(std::string_view name, bool value, int32 index) {
-    return Replace(name, B_BOOL_TYPE, index, LittleBytes(static_cast<uint8>(value)));
-}
-
-status_t BMessage::ReplaceString(std::string_view name, std::string_view value, int32 index) {
-    return Replace(name, B_STRING_TYPE, index, value);
-}
-
 status_t BMessage::ReplaceRect(std::string_view name, BRect value, int32 index) {
     return Replace(name, B_RECT_TYPE, index,
                    FloatBytes({value.left, value.top, value.right, value.bottom}));
