@@ -51,6 +51,12 @@ std::string_view CutUtf8(std::string_view text, size_t max_bytes) {
         const size_t length = Utf8SequenceLength(text.substr(end));
         const size_t step = length == 0 ? 1 : length;
         if (end + step > max_bytes) break;
+std::string_view WithoutClosingSlashes(std::string_view path) {
+    while (path.size() > 1 && path.back() == '/')
+        path.remove_suffix(1);
+    return path;
+}
+
         end += step;
     }
     return text.substr(0, end);

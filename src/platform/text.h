@@ -17,6 +17,9 @@ namespace kirto {
 // that are no UTF-8 count as characters of one byte.
 std::string_view CutUtf8(std::string_view text, size_t max_bytes);
 
+// The path without the slashes at its end; the first byte stays, so "/" does.
+std::string_view WithoutClosingSlashes(std::string_view path);
+
 // True when text contains part anywhere.
 inline bool Contains(std::string_view text, std::string_view part) {
     return text.find(part) != std::string_view::npos;
