@@ -9,6 +9,7 @@
 #include <cstring>
 
 #include "platform/qt/file_device.h"
+#include "platform/qt/picture_image.h"
 #include "platform/qt/straight_tiff.h"
 #include "platform/targa.h"
 
@@ -24,31 +25,6 @@ bool IsTarga(const ImageFormat& format) {
 // like a Windows cursor.
 bool MayBeTarga(const QByteArray& qt_format) {
     return qt_format.isEmpty() || qt_format == "tga" || qt_format == "ico" || qt_format == "cur";
-}
-
-bool HasTransparency(const BBitmap& bitmap) {
-    const size_t alpha = IsBigEndian(bitmap.ColorSpace()) ? 0 : 3;
-    for (size_t i = alpha; i < bitmap.BitsLength(); i += 4) {
-        if (bitmap.Bits()[i] != 255) return true;
-    }
-    return false;
-}
-
-// The picture for Qt; without transparent pixels it says so, so that files get no alpha channel for
-// nothing.
-QImage ImageOf(const BBitmap& bitmap) {
-    const QImage::Format format =
-        HasTransparency(bitmap) ? QImage::Format_ARGB32 : QImage::Format_RGB32;
-    QImage image(bitmap.Width(), bitmap.Height(), format);
-    if (image.isNull()) return image;
-    for (int32 y = 0; y < bitmap.Height(); ++y) {
-        uchar* target = image.scanLine(y);
-        std::memcpy(target, bitmap.Row(y), bitmap.BytesPerRow());
-        if (!IsBigEndian(bitmap.ColorSpace())) continue;
-        for (int32 x = 0; x < bitmap.Width(); ++x, target += 4)
-            std::reverse(target, target + 4);
-    }
-    return image;
 }
 
 std::shared_ptr<BBitmap> BitmapOf(const QImage& image, std::shared_ptr<PixelBudget> budget) {
@@ -115,7 +91,7 @@ status_t WriteTargaImage(const BBitmap& source, const BMessage& settings, const 
     bool packed = false;
     format.settings.FindBool("rle", &packed);
     settings.FindBool("rle", &packed);
-    const QImage image = ImageOf(source);
+    const QImage image = ImageOfPicture(source);
     const QImage rgba = image.convertToFormat(QImage::Format_RGBA8888);
     if (rgba.isNull()) return B_NO_MEMORY;
     return WriteTarga(rgba.constBits(), rgba.width(), rgba.height(), image.hasAlphaChannel(),
@@ -180,7 +156,7 @@ status_t QtTranslatorRoster::Translate(const BBitmap& source, translator_id tran
     if (IsTarga(*entry->format)) {
         return WriteTargaImage(source, settings, *entry->format, destination);
     }
-    const QImage image = ImageOf(source);
+    const QImage image = ImageOfPicture(source);
     if (image.isNull()) return B_NO_MEMORY;
     FileDevice device(destination, QIODevice::WriteOnly);
     QImageWriter writer(&device, entry->format->qt_name);
