@@ -623,6 +623,16 @@ TEST_F(PrefsTest, AttributesOfOthersInTheFileAreKept) {
     EXPECT_EQ(zoom, 3);
 }
 
+TEST_F(PrefsTest, NumbersMayBeWrittenWithAndWithoutAPoint) {
+    const std::string text = "global_pauselength = 5\nglobal_width = 111.0\n";
+    WriteBytes(Prefs::SettingsPath(), {text.begin(), text.end()});
+
+    const Prefs prefs;
+
+    EXPECT_EQ(prefs.global_pauselength, 5.0);
+    EXPECT_EQ(prefs.global_width, 111);
+}
+
 TEST_F(PrefsTest, ADamagedFileIsPutAsideAndReplacedByTheDefaults) {
     WriteBytes(Prefs::SettingsPath(), {'?'});
 
