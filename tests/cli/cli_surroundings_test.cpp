@@ -72,8 +72,10 @@ TEST(KirtoCli, RefusesSettingsThatAreNone) {
     ExpectRefused({"--set", "global_width"}, "--set: \"global_width\" is no KEY=VALUE.");
     ExpectRefused({"--set", "=5"}, "--set: There is no setting named \"\".");
     ExpectRefused({"--set", "speed=5"}, "--set: There is no setting named \"speed\".");
-    ExpectRefused({"--set", "global_width=wide"}, "--set: \"wide\" is no whole number.");
-    ExpectRefused({"--set", "palette_dither=on"}, "--set: \"on\" is neither true nor false.");
+    ExpectRefused({"--set", "global_width=wide"},
+                  "--set: global_width: \"wide\" is not a whole number.");
+    ExpectRefused({"--set", "palette_dither=on"},
+                  "--set: palette_dither: \"on\" is neither true nor false.");
 }
 
 TEST(KirtoCli, ReadsTheUsersSettings) {

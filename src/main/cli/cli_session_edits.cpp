@@ -153,9 +153,9 @@ CliSession::Outcome CliSession::SetBackground(const std::string& value) {
 
 CliSession::Outcome CliSession::SetFrameOffset(const std::string& value) {
     Frame* frame = nullptr;
-    if (FindCurrentFrame(&frame) != Outcome::kDone) return Outcome::kFailed;
     const size_t comma = value.find(',');
-    if (comma == std::string::npos) return Refuse("--frame-offset: \"" + value + "\" is no X,Y.");
+    if (comma == std::string::npos) return Refuse("--frame-offset: \"" + value + "\" is not X,Y.");
+    if (FindCurrentFrame(&frame) != Outcome::kDone) return Outcome::kFailed;
     int32 x = 0;
     int32 y = 0;
     Outcome outcome = CheckInput("XOffset", value.substr(0, comma), kNoMaximum, &x);
