@@ -100,10 +100,9 @@ TEST(KirtoCli, PutsADamagedSettingsFileAsideAndGoesOn) {
     const RunResult result = home.Run({"--quiet", "--info"});
 
     EXPECT_EQ(result.status, 0);
-    EXPECT_EQ(result.err,
-              "kirto-cli: " + home.ConfigFile() +
-                  ".damaged: The settings file was damaged and has been put aside under this "
-                  "name.\n");
+    EXPECT_EQ(result.err, "kirto-cli: The settings file was damaged. It has been put aside as \"" +
+                              home.ConfigFile() +
+                              ".damaged\", and default values will be used instead.\n");
     EXPECT_EQ(TextOf(home.ConfigFile() + ".damaged"), damaged);
     EXPECT_EQ(home.Run({"--info"}).err, "");
 }
