@@ -25,6 +25,9 @@ inline bool Contains(std::string_view text, std::string_view part) {
     return text.find(part) != std::string_view::npos;
 }
 
+// Length of the well-formed UTF-8 sequence at the start of the text, or 0. The text isn't empty.
+size_t Utf8SequenceLength(std::string_view text);
+
 // True when the bytes are well-formed UTF-8 (no overlong forms, no surrogates).
 bool IsValidUtf8(std::string_view text);
 

@@ -1,6 +1,7 @@
 // The operations that edit the document in memory.
 #include <cmath>
 #include <cstdio>
+#include <unistd.h>
 
 #include "document/command_codes.h"
 #include "main/cli/cli_session.h"
@@ -152,9 +153,9 @@ CliSession::Outcome CliSession::SetBackground(const std::string& value) {
 }
 
 CliSession::Outcome CliSession::SetFrameOffset(const std::string& value) {
-    Frame* frame = nullptr;
     const size_t comma = value.find(',');
     if (comma == std::string::npos) return Refuse("--frame-offset: \"" + value + "\" is not X,Y.");
+    Frame* frame = nullptr;
     if (FindCurrentFrame(&frame) != Outcome::kDone) return Outcome::kFailed;
     int32 x = 0;
     int32 y = 0;
@@ -198,12 +199,12 @@ CliSession::Outcome CliSession::LoadPalette(Palette* palette, const std::string&
 }
 
 CliSession::Outcome CliSession::PrintInfo(const std::string&) {
-    std::fputs(DescribeDocument(*app_).c_str(), stdout);
+    std::fputs(DescribeDocument(*app_, isatty(STDOUT_FILENO) != 0).c_str(), stdout);
     return Outcome::kDone;
 }
 
 CliSession::Outcome CliSession::PrintInfoJson(const std::string&) {
-    std::fputs(DescribeDocumentAsJson(*app_).c_str(), stdout);
+    std::fputs(DescribeDocumentAsJson(*app_, isatty(STDOUT_FILENO) != 0).c_str(), stdout);
     return Outcome::kDone;
 }
 

@@ -3,6 +3,7 @@
 #include <nlohmann/json.hpp>
 
 #include "platform/md5.h"
+#include "platform/terminal_text.h"
 #include "platform/text.h"
 
 namespace kirto {
@@ -70,10 +71,13 @@ Json FrameJson(const Frame& frame) {
 
 }  // namespace
 
-std::string DescribeDocument(const AnimationDocument& document) {
+std::string DescribeDocument(const AnimationDocument& document, bool for_terminal) {
+    const auto shown = [for_terminal](const std::string& name) {
+        return for_terminal ? TerminalText(name) : name;
+    };
     const Palette& palette = *document.global_palette;
     const bool in_seconds = document.prefs.global_pauseinseconds;
-    std::string text = Format("%s: %d x %d, %d frame(s), %s\n", document.file_name.c_str(),
+    std::string text = Format("%s: %d x %d, %d frame(s), %s\n", shown(document.file_name).c_str(),
                               document.global_width, document.global_height, document.frame_count,
                               document.modified ? "modified" : "unmodified");
     text += "loop: " + (document.use_loop ? std::to_string(document.loop_count) : "off") +
@@ -88,16 +92,16 @@ std::string DescribeDocument(const AnimationDocument& document) {
                palette.dither ? ", dithered" : "");
     for (const Frame* frame = document.first_frame; frame; frame = frame->next) {
         const std::string pause = PauseText(frame->use_pause, frame->pause_length, in_seconds);
-        text +=
-            Format("%c %4d  %-24s %d x %d at %d,%d  pause %s  %s\n",
-                   frame->index == document.selected ? '*' : ' ', frame->index, frame->name.c_str(),
-                   frame->width, frame->height, frame->x_offset, frame->y_offset, pause.c_str(),
-                   frame->local_palette ? KindName(frame->palette->mode) : "global palette");
+        text += Format("%c %4d  %-24s %d x %d at %d,%d  pause %s  %s\n",
+                       frame->index == document.selected ? '*' : ' ', frame->index,
+                       shown(frame->name).c_str(), frame->width, frame->height, frame->x_offset,
+                       frame->y_offset, pause.c_str(),
+                       frame->local_palette ? KindName(frame->palette->mode) : "global palette");
     }
     return text;
 }
 
-std::string DescribeDocumentAsJson(const AnimationDocument& document) {
+std::string DescribeDocumentAsJson(const AnimationDocument& document, bool for_terminal) {
     Json frames = Json::array();
     for (const Frame* frame = document.first_frame; frame; frame = frame->next) {
         frames.push_back(FrameJson(*frame));
@@ -114,7 +118,7 @@ std::string DescribeDocumentAsJson(const AnimationDocument& document) {
                        {"frame_count", document.frame_count},
                        {"global_palette", PaletteJson(*document.global_palette)},
                        {"frames", frames}};
-    return json.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
+    return json.dump(2, ' ', for_terminal, Json::error_handler_t::replace) + "\n";
 }
 
 }  // namespace kirto
