@@ -106,11 +106,15 @@ kirto::FadeMode FadeModeOf(uint32 code) {
 }
 
 // Told before the document takes its properties from the settings, which may fail in turn.
-Prefs& WarnIfFailed(Prefs& settings) {
+Prefs& WarnOfTrouble(Prefs& settings) {
     if (settings.failed) {
         kirto::Warn(
             "Unable to open or create a settings file. Default values will be used instead, but "
             "may not be saved.");
+    }
+    if (!settings.damaged_copy.empty()) {
+        kirto::Warn("The settings file was damaged. It has been put aside as \"" +
+                    settings.damaged_copy + "\", and default values will be used instead.");
     }
     return settings;
 }
@@ -120,7 +124,7 @@ Prefs& WarnIfFailed(Prefs& settings) {
 Kirto::Kirto(Prefs& settings, kirto::Desktop& desktop, BTranslatorRoster& roster,
              const entry_ref& resource_file)
     : IEApplication(kSignature, resource_file),
-      AnimationDocument(WarnIfFailed(settings)),
+      AnimationDocument(WarnOfTrouble(settings)),
       desktop_(desktop),
       roster_(roster),
       commands_(std::make_shared<kirto::CommandPort>(*this, Port())) {

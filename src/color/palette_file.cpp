@@ -4,11 +4,9 @@
 #include <span>
 #include <string_view>
 
+#include "color/fli_colors.h"
 #include "color/palette.h"
 #include "platform/byte_order.h"
-#include "platform/byte_reader.h"
-
-using kirto::ColorTable;
 
 namespace {
 
@@ -42,32 +40,15 @@ bool ReadFirstImagePacked(BFile& file, uint8* packed) {
     return file.ReadExactly(packed, 1);
 }
 
-// Carries out the packets of a colour chunk. They end early where the bytes or the entries do.
-void DecodeFliPackets(std::span<const uint8> bytes, ColorTable& colors) {
-    kirto::ByteReader reader(bytes);
-    size_t index = 0;
-    for (int32 packets = reader.U16(); packets > 0; --packets) {
-        index += reader.U8();
-        const int32 count = reader.U8();
-        for (int32 left = count == 0 ? 256 : count; left > 0; --left, ++index) {
-            const uint8 red = reader.U8();
-            const uint8 green = reader.U8();
-            const uint8 blue = reader.U8();
-            if (reader.Overrun() || index >= colors.size()) return;
-            // Deliberately not widened from the 0..63 of this chunk type to 0..255: the same file
-            // must go on giving the same palette.
-            colors[index] = {red, green, blue, 255};
-        }
-    }
-}
-
 // Reads a colour chunk of so many bytes and carries it out; false if the file has fewer.
-bool ReadFliColors(BFile& file, int32 size, ColorTable& colors) {
+bool ReadFliColorChunk(BFile& file, int32 size, kirto::ColorTable& colors) {
     if (size < 0 || size > file.Size() - file.Position()) return false;
     std::array<uint8, kFliColorBytes> bytes{};
     const size_t used = std::min(static_cast<size_t>(size), bytes.size());
     if (!file.ReadExactly(bytes.data(), used)) return false;
-    DecodeFliPackets(std::span(bytes).first(used), colors);
+    // Deliberately not widened from the 0..63 of this chunk type to 0..255: the same file must go
+    // on giving the same palette.
+    kirto::ReadFliColors(std::span(bytes).first(used), 1, &colors);
     return true;
 }
 
@@ -123,8 +104,8 @@ bool Palette::StripFli(BFile* file) {
         if (!file->ReadExactly(chunk.data(), chunk.size())) return false;
         if (kirto::ReadLittle16(&chunk[4]) == kFliColor64) {
             // The chunk's size counts its header, so this also asks for the 6 bytes behind it.
-            return ReadFliColors(*file, static_cast<int32>(kirto::ReadLittle32(chunk.data())),
-                                 colors);
+            return ReadFliColorChunk(*file, static_cast<int32>(kirto::ReadLittle32(chunk.data())),
+                                     colors);
         }
         // Deliberately by the palette's size and not by the chunk's: it decides which files give a
         // palette.

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstring>
 
+#include "color/fli_colors.h"
 #include "formats/fli_packets.h"
 #include "formats/fli_pixel_writer.h"
 #include "platform/byte_order.h"
@@ -49,34 +50,6 @@ void MarkReadFromFile(Palette* palette) {
 bool HasPixelsToCopy(const BBitmap* bitmap) {
     return bitmap && bitmap->Bits() && kirto::Is32Bit(bitmap->ColorSpace()) &&
            !kirto::IsBigEndian(bitmap->ColorSpace());
-}
-
-// A six-bit component times 4, not widened to reach 255; a component above 63 keeps the low byte.
-uint8 FromSixBits(uint8 component) {
-    return static_cast<uint8>(component * 4);
-}
-
-rgb_color ReadColor(ByteReader& reader, bool full8bit) {
-    const uint8 red = reader.U8();
-    const uint8 green = reader.U8();
-    const uint8 blue = reader.U8();
-    if (full8bit) return {red, green, blue, 255};
-    return {FromSixBits(red), FromSixBits(green), FromSixBits(blue), 255};
-}
-
-// Carries out the packets of a colour chunk; colours past the last entry are dropped.
-void ReadColorPackets(std::span<const uint8> data, bool full8bit, kirto::ColorTable* colors) {
-    ByteReader reader(data);
-    size_t index = 0;
-    for (int32 packets = reader.U16(); packets > 0 && !reader.Overrun(); --packets) {
-        index += reader.U8();
-        const int32 count = reader.U8();
-        for (int32 left = count == 0 ? 256 : count; left > 0; --left, ++index) {
-            const rgb_color color = ReadColor(reader, full8bit);
-            if (reader.Overrun()) break;
-            if (index < colors->size()) (*colors)[index] = color;
-        }
-    }
 }
 
 }  // namespace
@@ -280,17 +253,19 @@ bool FliLoad::FinishFrame() {
 bool FliLoad::ReadFliCOLORChunk(int64 size, bool full8bit) {
     std::span<const uint8> data;
     if (!input_.ReadBlock(size, &data)) return false;
+    // Six bits are deliberately not widened to reach 255.
+    const int32 factor = full8bit ? 1 : 4;
     if (position_ == 0) {
         document_.Change([&](kirto::Animation& animation) {
             kirto::EditPalette(animation, [&](Palette& palette) {
                 MarkReadFromFile(&palette);
-                ReadColorPackets(data, full8bit, &palette.colors);
+                kirto::ReadFliColors(data, factor, &palette.colors);
             });
         });
         return true;
     }
     if (!frame_.local_palette && !TakePreviousPalette()) return false;
-    ReadColorPackets(data, full8bit, &local_palette_.colors);
+    kirto::ReadFliColors(data, factor, &local_palette_.colors);
     return true;
 }
 

@@ -186,16 +186,26 @@ bool GifLoad::ReadGifControlBlock() {
 }
 
 bool GifLoad::ReadGifCommentBlock() {
-    kirto::DebugLine("GifLoad::ReadGifCommentBlock() - Found:\n");
-    for (;;) {
-        uint8 size = 0;
-        char text[256] = {};
-        if (!file_->ReadExactly(&size, 1) || !file_->ReadExactly(text, size)) return false;
-        if (size == 0) break;
-        kirto::DebugLine("%s", text);
+    kirto::DebugLine("GifLoad::ReadGifCommentBlock() - Found:");
+    // A line break goes with what follows it: a text that ends in one ends the debug line, and the
+    // comment's lines must not pass for the program's.
+    std::string text = "\n";
+    uint8 size = 0;
+    char block[256] = {};
+    while (file_->ReadExactly(&size, 1) && file_->ReadExactly(block, size)) {
+        block[size] = 0;
+        if (size == 0) {
+            kirto::DebugLine("%s\n", text.c_str());
+            return true;
+        }
+        text += block;
+        const bool ends_line = text.ends_with('\n');
+        if (ends_line) text.pop_back();
+        kirto::DebugLine("%s", text.c_str());
+        text = ends_line ? "\n" : "";
     }
-    kirto::DebugLine("\n");
-    return true;
+    kirto::DebugLine("%s", text.c_str());
+    return false;
 }
 
 bool GifLoad::ReadGifUnknownBlock(uint8 label) {

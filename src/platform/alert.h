@@ -6,8 +6,7 @@
 #include "platform/types.h"
 
 enum alert_type : int32 {
-    B_EMPTY_ALERT = 0,
-    B_INFO_ALERT,
+    B_INFO_ALERT = 1,
     B_IDEA_ALERT,
     B_WARNING_ALERT,
     B_STOP_ALERT,

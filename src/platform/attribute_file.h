@@ -19,17 +19,20 @@
 //
 // Every attribute is kept exactly: what the short forms can't carry (an unusual type or size, a
 // string that is no UTF-8, a truth value above 1) stands as its bytes, in memory order, as
-// hexadecimal digits. The file is replaced as a whole by Sync(), never rewritten in place; a
-// symbolic link to it stays one. Used by one thread.
+// hexadecimal digits; and bytes stay bytes. The file is replaced as a whole by Sync(), never
+// rewritten in place; a symbolic link to it stays one. Used by one thread.
 class AttributeFile : public BNode {
   public:
     // Reads the file, if there is one; its directory is made (for the user only) when it is
     // missing. A file that is not of this form, or larger than 1 MiB, is renamed to a free name
     // beside it ("NAME.damaged", "NAME.damaged-2", ...), a debug line says why, and the attributes
-    // start empty. InitCheck() fails for a file that can't be read, put aside or made.
+    // start empty. InitCheck() fails for a file that can't be read, put aside or made, and where
+    // memory is short: the file stays as it is then.
     explicit AttributeFile(const std::string& path);
 
     status_t InitCheck() const override { return status_; }
+    // A number of the short form is converted to the type asked for, so that people may write 5 for
+    // 5.0 and the other way round; what stands as bytes is taken as it is, whatever its type.
     int64 ReadAttr(std::string_view name, type_code type, void* buffer, size_t size) override;
     // Kept in memory until Sync(). Fails at once where the file can't be replaced; B_BAD_VALUE for
     // a name that is no UTF-8.
@@ -45,18 +48,28 @@ class AttributeFile : public BNode {
     struct Attribute {
         type_code type = 0;
         std::string bytes;
+        bool as_bytes = false;  // stands in the file as bytes
 
-        friend bool operator==(const Attribute&, const Attribute&) = default;
+        // A number of the short form as an integer (the integer part, cut to 32 bits' range) or
+        // double; everything else as it is.
+        Attribute As(type_code wanted) const;
+
+        // How it stands in the file makes no difference.
+        friend bool operator==(const Attribute& a, const Attribute& b) {
+            return a.type == b.type && a.bytes == b.bytes;
+        }
     };
     using Attributes = std::map<std::string, Attribute, std::less<>>;
 
     // The file's text to attributes and back. Parse returns false, with the reason and without
-    // attributes, for text that is not of the form above.
+    // attributes, for text that is not of the form above, and throws std::bad_alloc where memory is
+    // short.
     static bool Parse(std::string_view text, Attributes* attributes, std::string* reason);
     static std::string Print(const Attributes& attributes);
 
   private:
     status_t Load();
+    status_t ReadFile();
     status_t PutAside(const std::string& reason);
     status_t CheckWritable();
 

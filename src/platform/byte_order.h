@@ -1,4 +1,4 @@
-// Little-endian numbers in byte buffers. The caller has checked the bounds.
+// Little-endian numbers in byte buffers. Who reads or writes in place has checked the bounds.
 #pragma once
 
 #include "platform/types.h"
@@ -18,6 +18,13 @@ inline uint32 ReadLittle32(const uint8* bytes) {
 inline void WriteLittle16(uint8* bytes, int64 value) {
     bytes[0] = static_cast<uint8>(value);
     bytes[1] = static_cast<uint8>(value >> 8);
+}
+
+// Appends the value's bytes, as many as its type has.
+template <typename Buffer, typename Unsigned>
+void AppendLittle(Buffer* bytes, Unsigned value) {
+    for (size_t i = 0; i < sizeof(value); ++i)
+        bytes->push_back(static_cast<typename Buffer::value_type>(value >> (8 * i)));
 }
 
 }  // namespace kirto

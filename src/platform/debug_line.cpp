@@ -5,6 +5,7 @@
 #include <mutex>
 #include <utility>
 
+#include "platform/line_output.h"
 #include "platform/text.h"
 
 namespace kirto {
@@ -14,6 +15,7 @@ namespace {
 struct Output {
     std::mutex mutex;
     DebugSink sink;
+    LineOutput lines{stdout};
 };
 
 // Never destroyed: threads and objects with static storage may print until the very end.
@@ -34,7 +36,7 @@ void DebugLine(const char* format, ...) {
     if (output.sink) {
         output.sink(text);
     } else {
-        std::fwrite(text.data(), 1, text.size(), stdout);
+        output.lines.Write(text);
     }
 }
 

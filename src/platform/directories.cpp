@@ -5,6 +5,8 @@
 #include <pwd.h>
 #include <unistd.h>
 
+#include "platform/text.h"
+
 namespace kirto {
 
 namespace {
@@ -24,24 +26,18 @@ std::string AccountHome() {
     return found->pw_dir;
 }
 
-std::string WithoutClosingSlashes(std::string path) {
-    while (path.size() > 1 && path.back() == '/')
-        path.pop_back();
-    return path;
-}
-
 }  // namespace
 
 std::string SettingsDirectory() {
     const std::string configured = Environment("XDG_CONFIG_HOME");
-    if (configured.starts_with('/')) return WithoutClosingSlashes(configured);
+    if (configured.starts_with('/')) return std::string(WithoutClosingSlashes(configured));
     const std::string home = HomeDirectory();
     return home == "/" ? "/.config" : home + "/.config";
 }
 
 std::string HomeDirectory() {
     const std::string home = Environment("HOME");
-    return WithoutClosingSlashes(home.empty() ? AccountHome() : home);
+    return std::string(WithoutClosingSlashes(home.empty() ? AccountHome() : home));
 }
 
 }  // namespace kirto

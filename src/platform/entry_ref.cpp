@@ -2,16 +2,9 @@
 
 #include <string_view>
 
-namespace {
+#include "platform/text.h"
 
-// Without the slashes at its end; "/" alone stays.
-std::string_view WithoutClosingSlashes(std::string_view path) {
-    while (path.size() > 1 && path.back() == '/')
-        path.remove_suffix(1);
-    return path;
-}
-
-}  // namespace
+using kirto::WithoutClosingSlashes;
 
 std::string entry_ref::Leaf() const {
     const std::string_view entry = WithoutClosingSlashes(path);

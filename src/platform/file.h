@@ -44,8 +44,6 @@ class BFile {
 
     // B_OK, or why the file can't be used.
     status_t InitCheck() const { return status_; }
-    // The path as it was given; empty for memory.
-    const std::string& Path() const { return path_; }
     // Whole size in bytes, unwritten buffer included.
     int64 Size() const;
 

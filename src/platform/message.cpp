@@ -18,6 +18,7 @@
 #include <span>
 #include <utility>
 
+#include "platform/byte_order.h"
 #include "platform/byte_reader.h"
 
 namespace {
@@ -36,12 +37,6 @@ std::string_view TextOf(Bytes bytes) {
 }
 
 template <typename Unsigned>
-void PutLittle(std::string* bytes, Unsigned value) {
-    for (size_t i = 0; i < sizeof(value); ++i)
-        *bytes += static_cast<char>(value >> (8 * i));
-}
-
-template <typename Unsigned>
 Unsigned GetLittle(std::string_view bytes) {
     Unsigned value = 0;
     for (size_t i = sizeof(value); i-- > 0;) {
@@ -53,14 +48,14 @@ Unsigned GetLittle(std::string_view bytes) {
 template <typename Unsigned>
 std::string LittleBytes(Unsigned value) {
     std::string bytes;
-    PutLittle(&bytes, value);
+    kirto::AppendLittle(&bytes, value);
     return bytes;
 }
 
 std::string FloatBytes(std::initializer_list<float> values) {
     std::string bytes;
     for (const float value : values)
-        PutLittle(&bytes, std::bit_cast<uint32>(value));
+        kirto::AppendLittle(&bytes, std::bit_cast<uint32>(value));
     return bytes;
 }
 
@@ -310,18 +305,6 @@ BMessage::Field* BMessage::FieldNamed(std::string_view name) {
     return const_cast<Field*>(std::as_const(*this).FieldNamed(name));
 }
 
-status_t BMessage::ReplaceInt32(std::string_view name, int32 value, int32 index) {
-    return Replace(name, B_INT32_TYPE, index, LittleBytes(static_cast<uint32>(value)));
-}
-
-status_t BMessage::ReplaceBool(std::string_view name, bool value, int32 index) {
-    return Replace(name, B_BOOL_TYPE, index, LittleBytes(static_cast<uint8>(value)));
-}
-
-status_t BMessage::ReplaceString(std::string_view name, std::string_view value, int32 index) {
-    return Replace(name, B_STRING_TYPE, index, value);
-}
-
 status_t BMessage::ReplaceRect(std::string_view name, BRect value, int32 index) {
     return Replace(name, B_RECT_TYPE, index,
                    FloatBytes({value.left, value.top, value.right, value.bottom}));
@@ -352,15 +335,15 @@ status_t BMessage::RemoveName(std::string_view name) {
 std::vector<uint8> BMessage::Flatten() const {
     const auto length = [](const auto& items) { return static_cast<uint32>(items.size()); };
     std::string bytes(kMagic);
-    PutLittle(&bytes, what);
-    PutLittle(&bytes, length(fields_));
+    kirto::AppendLittle(&bytes, what);
+    kirto::AppendLittle(&bytes, length(fields_));
     for (const Field& field : fields_) {
-        PutLittle(&bytes, field.type);
-        PutLittle(&bytes, length(field.name));
-        PutLittle(&bytes, length(field.values));
+        kirto::AppendLittle(&bytes, field.type);
+        kirto::AppendLittle(&bytes, length(field.name));
+        kirto::AppendLittle(&bytes, length(field.values));
         bytes += field.name;
         for (const std::string& value : field.values) {
-            PutLittle(&bytes, length(value));
+            kirto::AppendLittle(&bytes, length(value));
             bytes += value;
         }
     }

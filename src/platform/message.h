@@ -65,13 +65,9 @@ class BMessage {
 
     // Replace value number index; the field and the value must exist with that type, or the status
     // is that of Find. B_BAD_VALUE as for Add.
-    status_t ReplaceInt32(std::string_view name, int32 value, int32 index = 0);
-    status_t ReplaceBool(std::string_view name, bool value, int32 index = 0);
-    status_t ReplaceString(std::string_view name, std::string_view value, int32 index = 0);
     status_t ReplaceRect(std::string_view name, BRect value, int32 index = 0);
     status_t ReplaceMessage(std::string_view name, const BMessage& value, int32 index = 0);
     status_t RemoveName(std::string_view name);
-    void MakeEmpty() { fields_.clear(); }
     bool IsEmpty() const { return fields_.empty(); }
 
     // The message as bytes, and back. Numbers are little-endian; a pointer field survives only

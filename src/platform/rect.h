@@ -23,7 +23,6 @@ struct BRect {
     // edges that are no numbers, give 0.
     int32 PixelWidth() const;
     int32 PixelHeight() const;
-    BPoint LeftTop() const { return {left, top}; }
     void OffsetBy(float dx, float dy);
     void OffsetTo(float x, float y) { OffsetBy(x - left, y - top); }
 

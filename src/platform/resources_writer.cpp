@@ -20,8 +20,7 @@ constexpr size_t kRoom = kMaxContainerSize - kContainerHeaderSize - kIndexHeader
 
 // Stores the low 32 bits; containers are far smaller than those can say.
 void PutWord(std::vector<uint8>* bytes, uint64 value) {
-    for (int shift = 0; shift < 32; shift += 8)
-        bytes->push_back(static_cast<uint8>(value >> shift));
+    AppendLittle(bytes, static_cast<uint32>(value));
 }
 
 // The header and the whole steps that the index of so many resources takes.
@@ -102,8 +101,7 @@ std::vector<uint8> ResourcesWriter::InfoTable() const {
             PutWord(&table, static_cast<uint32>(resource.id));
             PutWord(&table, static_cast<uint32>(i + 1));
             const size_t length = resource.name.size() + 1;
-            table.push_back(static_cast<uint8>(length));
-            table.push_back(static_cast<uint8>(length >> 8));
+            AppendLittle(&table, static_cast<uint16>(length));
             table.insert(table.end(), resource.name.begin(), resource.name.end());
             table.push_back(0);
         }

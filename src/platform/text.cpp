@@ -4,9 +4,6 @@
 
 namespace kirto {
 
-namespace {
-
-// Length of the well-formed UTF-8 sequence at the start of text, or 0.
 size_t Utf8SequenceLength(std::string_view text) {
     const auto byte = [&](size_t i) { return static_cast<uint8>(text[i]); };
     const uint8 lead = byte(0);
@@ -22,8 +19,6 @@ size_t Utf8SequenceLength(std::string_view text) {
     const bool too_large = lead == 0xF4 && second >= 0x90;
     return overlong || surrogate || too_large ? 0 : length;
 }
-
-}  // namespace
 
 std::string FormatV(const char* format, va_list arguments) {
     va_list copy;
@@ -54,6 +49,12 @@ std::string_view CutUtf8(std::string_view text, size_t max_bytes) {
         end += step;
     }
     return text.substr(0, end);
+}
+
+std::string_view WithoutClosingSlashes(std::string_view path) {
+    while (path.size() > 1 && path.back() == '/')
+        path.remove_suffix(1);
+    return path;
 }
 
 bool IsValidUtf8(std::string_view text) {

@@ -17,10 +17,16 @@ namespace kirto {
 // that are no UTF-8 count as characters of one byte.
 std::string_view CutUtf8(std::string_view text, size_t max_bytes);
 
+// The path without the slashes at its end; the first byte stays, so "/" does.
+std::string_view WithoutClosingSlashes(std::string_view path);
+
 // True when text contains part anywhere.
 inline bool Contains(std::string_view text, std::string_view part) {
     return text.find(part) != std::string_view::npos;
 }
+
+// Length of the well-formed UTF-8 sequence at the start of the text, or 0. The text isn't empty.
+size_t Utf8SequenceLength(std::string_view text);
 
 // True when the bytes are well-formed UTF-8 (no overlong forms, no surrogates).
 bool IsValidUtf8(std::string_view text);

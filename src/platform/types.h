@@ -87,7 +87,6 @@ inline constexpr type_code B_POINT_TYPE = kirto::FourCharCode("BPNT");
 inline constexpr type_code B_REF_TYPE = kirto::FourCharCode("RREF");
 inline constexpr type_code B_MESSAGE_TYPE = kirto::FourCharCode("MSGG");
 inline constexpr type_code B_POINTER_TYPE = kirto::FourCharCode("PNTR");
-inline constexpr type_code B_RAW_TYPE = kirto::FourCharCode("RAWT");
 
 // Message codes that belong to the kit rather than to one program.
 inline constexpr uint32 B_QUIT_REQUESTED = kirto::FourCharCode("_QRQ");

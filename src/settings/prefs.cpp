@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <cmath>
 #include <cstring>
 #include <iterator>
@@ -14,6 +13,7 @@
 #include "platform/attribute_file.h"
 #include "platform/debug_line.h"
 #include "platform/directories.h"
+#include "platform/number.h"
 #include "platform/text.h"
 
 namespace {
@@ -168,20 +168,9 @@ bool WriteValue(BNode& node, const char* key, const std::string& value) {
            static_cast<int64>(value.size());
 }
 
-// Reads the whole text as a number; leaves the number alone where it is none.
-template <typename T>
-bool ParseNumber(std::string_view text, T* number) {
-    T parsed{};
-    const char* end = text.data() + text.size();
-    const std::from_chars_result result = std::from_chars(text.data(), end, parsed);
-    if (result.ec != std::errc() || result.ptr != end) return false;
-    *number = parsed;
-    return true;
-}
-
 // Each sets the value from the text and returns null, or returns what the text is not.
 const char* ParseValue(std::string_view text, int32* value) {
-    return ParseNumber(text, value) ? nullptr : "is no whole number";
+    return kirto::ParseNumber(text, value) ? nullptr : "is not a whole number";
 }
 
 const char* ParseValue(std::string_view text, bool* value) {
@@ -192,7 +181,7 @@ const char* ParseValue(std::string_view text, bool* value) {
 
 const char* ParseValue(std::string_view text, double* value) {
     double number = 0;
-    if (!ParseNumber(text, &number) || !std::isfinite(number)) return "is no number";
+    if (!kirto::ParseNumber(text, &number) || !std::isfinite(number)) return "is not a number";
     *value = number;
     return nullptr;
 }
@@ -203,14 +192,15 @@ const char* ParseValue(std::string_view text, std::string* value) {
 }
 
 const char* ParseValue(std::string_view text, BRect* value) {
-    constexpr const char* kReason = "is no rectangle of the form left,top,right,bottom";
+    constexpr const char* kReason = "is not a rectangle of the form left,top,right,bottom";
     BRect rect;
     float* const edges[] = {&rect.left, &rect.top, &rect.right, &rect.bottom};
     for (float* edge : edges) {
         const bool last = edge == &rect.bottom;
         const size_t comma = text.find(',');
         if (last != (comma == std::string_view::npos)) return kReason;
-        if (!ParseNumber(text.substr(0, comma), edge) || !std::isfinite(*edge)) return kReason;
+        if (!kirto::ParseNumber(text.substr(0, comma), edge) || !std::isfinite(*edge))
+            return kReason;
         if (!last) text.remove_prefix(comma + 1);
     }
     *value = rect;
@@ -312,7 +302,7 @@ bool Prefs::SetFromText(const std::string& key, const std::string& text, std::st
         if (key != setting.key) continue;
         const char* const fault = std::visit(
             [&](auto member) { return ParseValue(text, &(this->*member)); }, setting.member);
-        if (fault) *reason = "\"" + text + "\" " + fault + ".";
+        if (fault) *reason = key + ": \"" + text + "\" " + fault + ".";
         return !fault;
     }
     *reason = "There is no setting named \"" + key + "\".";

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "ui/picture_image.h"
+#include "platform/qt/picture_image.h"
 
 namespace kirto {
 

@@ -13,15 +13,12 @@ namespace {
 
 QMessageBox::Icon IconOf(alert_type type) {
     switch (type) {
-        case B_INFO_ALERT:
-        case B_IDEA_ALERT:
-            return QMessageBox::Information;
         case B_WARNING_ALERT:
             return QMessageBox::Warning;
         case B_STOP_ALERT:
             return QMessageBox::Critical;
         default:
-            return QMessageBox::NoIcon;
+            return QMessageBox::Information;
     }
 }
 

@@ -23,6 +23,11 @@ BMessenger QtDesktop::OpenMainWindow(Kirto& application, const BRect& frame,
     return window_messenger_;
 }
 
+void QtDesktop::CloseWindows() {
+    window_.reset();
+    InstallAlertPresenter(nullptr);
+}
+
 void QtDesktop::AbandonPendingCommand() {
     window_messenger_.SendMessage(kAbandonPending);
 }

@@ -1,6 +1,6 @@
 #include "ui/thumbnail_cache.h"
 
-#include "ui/picture_image.h"
+#include "platform/qt/picture_image.h"
 
 namespace kirto {
 

@@ -93,6 +93,19 @@ TEST_F(KirtoConstruction, TellsOfUnusableSettingsBeforeItUsesThem) {
     EXPECT_EQ(app_->Current()->palette->mode, kPaletteWebSafe);
 }
 
+TEST_F(KirtoConstruction, TellsOfADamagedSettingsFile) {
+    prefs_.damaged_copy = "/home/ann/Kirto_settings.damaged";
+
+    Make();
+
+    const Lines lines = TakeLines();
+    ASSERT_EQ(lines.size(), 2u);
+    EXPECT_EQ(lines[0],
+              WarningLine("The settings file was damaged. It has been put aside as "
+                          "\"/home/ann/Kirto_settings.damaged\", and default values will be used "
+                          "instead."));
+}
+
 TEST_F(KirtoConstruction, GoesOnWithoutASemaphore) {
     DebugRecorder debug;
     {

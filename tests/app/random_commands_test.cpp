@@ -166,7 +166,7 @@ class RandomCommands : public KirtoFixture, public ::testing::WithParamInterface
         const uint32 code = OneOf(choices_, kCodes);
         const bool of_animations = code == kOpenFile || (code != kInsertFiles && choices_.OneIn(2));
         BMessage message = Files(code, {OneOf(choices_, of_animations ? kAnimations : kImages)});
-        if (choices_.OneIn(10)) message.MakeEmpty();
+        if (choices_.OneIn(10)) message = BMessage(code);
         if (choices_.OneIn(2)) message.AddInt32("position", choices_.Between(-3, 12));
         if (!choices_.OneIn(10)) message.AddBool("reset", choices_.OneIn(10));
         message.AddInt32("count", choices_.Between(-1, 3));

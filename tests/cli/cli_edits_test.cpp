@@ -163,7 +163,7 @@ TEST(KirtoCli, RefusesTextsThatAreNoNumbers) {
     ExpectRefused({"--pause", "ten"}, "Pause length: \"ten\" is no number.");
     ExpectRefused({"--pause", "nan"}, "Pause length: \"nan\" is no number.");
     ExpectRefused({"--frame-pause", "inf"}, "Pause length: \"inf\" is no number.");
-    ExpectRefused({"--frame-offset", "5"}, "--frame-offset: \"5\" is no X,Y.");
+    ExpectRefused({"--frame-offset", "5"}, "--frame-offset: \"5\" is not X,Y.");
     ExpectRefused({"--frame-offset", "5,"}, "YOffset: \"\" is no whole number.");
     ExpectRefused({"--frame-offset", "5,6,7"}, "YOffset: \"6,7\" is no whole number.");
 }
@@ -273,12 +273,21 @@ TEST(KirtoCli, KeepsTheKindOfAFramePaletteThatIsTurnedOff) {
     EXPECT_EQ(frame["palette"]["mode"], kPaletteSystem);
 }
 
+TEST(KirtoCli, RefusesAnOffsetOfOneNumberAlsoWithoutAFrame) {
+    const CliHome home;
+
+    const RunResult result = home.Run({"--frame-offset", "3"});
+
+    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(result.err, "kirto-cli: --frame-offset: \"3\" is not X,Y.\n");
+}
+
 TEST(KirtoCli, FailsToChangeAFrameWhereThereIsNone) {
     const CliHome home;
     for (const Arguments& edit :
-         {Arguments{"--frame-offset", "1,1"}, Arguments{"--frame-offset", "nonsense"},
-          Arguments{"--frame-pause", "1"}, Arguments{"--frame-pause", "off"},
-          Arguments{"--frame-palette", "system"}, Arguments{"--frame-palette", "off"}}) {
+         {Arguments{"--frame-offset", "1,1"}, Arguments{"--frame-pause", "1"},
+          Arguments{"--frame-pause", "off"}, Arguments{"--frame-palette", "system"},
+          Arguments{"--frame-palette", "off"}}) {
         const RunResult result = home.Run(edit);
         EXPECT_EQ(result.status, 1) << edit[0];
         EXPECT_EQ(result.err, "kirto-cli: There is no current frame.\n");

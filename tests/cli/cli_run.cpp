@@ -93,20 +93,22 @@ RunResult CliHome::Run(const Arguments& arguments) const {
     return RunProgram(KIRTO_CLI, arguments);
 }
 
-RunResult CliHome::RunOnTerminal(const Arguments& arguments) const {
-    const std::string out_path = home_.File("stdout");
-    const int out = OpenForWriting(out_path);
+RunResult CliHome::RunOnTerminal(const Arguments& arguments, int stream) const {
+    const bool on_output = stream == STDOUT_FILENO;
+    const std::string other_path = home_.File(on_output ? "stderr" : "stdout");
+    const int other = OpenForWriting(other_path);
     int terminal = -1;
-    int err = -1;
+    int program_side = -1;
     RunResult result;
-    if (openpty(&terminal, &err, nullptr, nullptr, nullptr) != 0) return result;
-    const int child = Start(KIRTO_CLI, arguments, out, err);
-    close(err);
-    close(out);
-    result.err = ReadTerminal(terminal);
+    if (openpty(&terminal, &program_side, nullptr, nullptr, nullptr) != 0) return result;
+    const int child = Start(KIRTO_CLI, arguments, on_output ? program_side : other,
+                            on_output ? other : program_side);
+    close(program_side);
+    close(other);
+    (on_output ? result.out : result.err) = ReadTerminal(terminal);
     close(terminal);
     result.status = ExitStatusOf(child);
-    result.out = TextOf(out_path);
+    (on_output ? result.err : result.out) = TextOf(other_path);
     return result;
 }
 

@@ -3,6 +3,7 @@
 
 #include <nlohmann/json.hpp>
 #include <string>
+#include <unistd.h>
 #include <vector>
 
 #include "support/gif_builder.h"
@@ -27,8 +28,9 @@ class CliHome {
 
     // Runs kirto-cli with the arguments.
     RunResult Run(const Arguments& arguments) const;
-    // As Run, with a terminal as standard error; err is what the terminal was sent.
-    RunResult RunOnTerminal(const Arguments& arguments) const;
+    // As Run, with a terminal as standard error or standard output; that text is what the terminal
+    // was sent.
+    RunResult RunOnTerminal(const Arguments& arguments, int stream = STDERR_FILENO) const;
     // As Run, with standard output going to the file at path.
     RunResult RunInto(const std::string& path, const Arguments& arguments) const;
     // Runs another program.

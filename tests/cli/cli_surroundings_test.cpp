@@ -72,8 +72,10 @@ TEST(KirtoCli, RefusesSettingsThatAreNone) {
     ExpectRefused({"--set", "global_width"}, "--set: \"global_width\" is no KEY=VALUE.");
     ExpectRefused({"--set", "=5"}, "--set: There is no setting named \"\".");
     ExpectRefused({"--set", "speed=5"}, "--set: There is no setting named \"speed\".");
-    ExpectRefused({"--set", "global_width=wide"}, "--set: \"wide\" is no whole number.");
-    ExpectRefused({"--set", "palette_dither=on"}, "--set: \"on\" is neither true nor false.");
+    ExpectRefused({"--set", "global_width=wide"},
+                  "--set: global_width: \"wide\" is not a whole number.");
+    ExpectRefused({"--set", "palette_dither=on"},
+                  "--set: palette_dither: \"on\" is neither true nor false.");
 }
 
 TEST(KirtoCli, ReadsTheUsersSettings) {
@@ -98,10 +100,9 @@ TEST(KirtoCli, PutsADamagedSettingsFileAsideAndGoesOn) {
     const RunResult result = home.Run({"--quiet", "--info"});
 
     EXPECT_EQ(result.status, 0);
-    EXPECT_EQ(result.err,
-              "kirto-cli: " + home.ConfigFile() +
-                  ".damaged: The settings file was damaged and has been put aside under this "
-                  "name.\n");
+    EXPECT_EQ(result.err, "kirto-cli: The settings file was damaged. It has been put aside as \"" +
+                              home.ConfigFile() +
+                              ".damaged\", and default values will be used instead.\n");
     EXPECT_EQ(TextOf(home.ConfigFile() + ".damaged"), damaged);
     EXPECT_EQ(home.Run({"--info"}).err, "");
 }
@@ -200,10 +201,56 @@ TEST(KirtoCli, ClearsItsProgressBeforeOtherLines) {
     EXPECT_EQ(result.err,
               "\r\033[KStatus: loading frame 1..."
               "\r\033[KGifLoad::ReadGifCommentBlock() - Found:\r\n"
-              "hi\r\n"
+              "    hi\r\n"
               "\r\033[KStatus: loading frame 2..."
               "\r\033[Kkirto-cli: damaged.gif: The animation can't be opened because it was "
               "corrupted or unreadable.\r\n");
+}
+
+TEST(KirtoCli, ShowsNoControlCharactersOnATerminal) {
+    CliHome home;
+    std::vector<uint8> bytes = ThreeFrameGif();
+    const std::vector<uint8> comment = {0x21, 0xFE, 4, '\x1b', ']', '0', ';', 0};
+    bytes.insert(bytes.end() - 1, comment.begin(), comment.end());
+    home.Write("a\x1b\nb.gif", bytes);
+
+    const RunResult errors =
+        home.RunOnTerminal({"--open", "a\x1b\nb.gif", "--open", "missing\x1b\n.gif"});
+
+    EXPECT_EQ(errors.status, 1);
+    EXPECT_NE(errors.err.find("Found:\r\n    \\x1b]0;\r\n"), std::string::npos) << errors.err;
+    EXPECT_NE(errors.err.find("kirto-cli: missing\\x1b\\x0a.gif: "), std::string::npos);
+    const std::string info =
+        home.RunOnTerminal({"--quiet", "--open", "a\x1b\nb.gif", "--info"}, STDOUT_FILENO).out;
+    EXPECT_EQ(info.find("a\\x1b\\x0ab.gif: 2 x 1, "), 0U) << info;
+    const std::string usage = home.RunOnTerminal({"a\x1b[2J.gif"}).err;
+    EXPECT_EQ(usage.find("The following argument was not expected: a\\x1b[2J.gif\r\n"), 0U)
+        << usage;
+}
+
+TEST(KirtoCli, PrintsJsonOnATerminalWithoutControlCharacters) {
+    const CliHome home;
+    home.Write("a\x7f\xc2\x9b\x31.gif", ThreeFrameGif());
+
+    const std::string text =
+        home.RunOnTerminal({"--quiet", "--open", "a\x7f\xc2\x9b\x31.gif", "--info-json"},
+                           STDOUT_FILENO)
+            .out;
+
+    EXPECT_EQ(text.find('\x7f'), std::string::npos);
+    EXPECT_EQ(text.find('\x9b'), std::string::npos);
+    EXPECT_EQ(Json::parse(text)["file_name"], "a\x7f\xc2\x9b\x31.gif");
+}
+
+TEST(KirtoCli, WritesDebugLinesWordForWordIntoFiles) {
+    const CliHome home;
+    std::vector<uint8> bytes = ThreeFrameGif();
+    const std::vector<uint8> comment = {0x21, 0xFE, 3, '\x1b', '\n', 'c', 0};
+    bytes.insert(bytes.end() - 1, comment.begin(), comment.end());
+    home.Write("three.gif", bytes);
+
+    EXPECT_EQ(home.Run({"--open", "three.gif"}).err,
+              "GifLoad::ReadGifCommentBlock() - Found:\n\x1b\nc\n");
 }
 
 TEST(KirtoCli, ShowsNoProgressWhenItIsToBeQuiet) {

@@ -1,4 +1,5 @@
 // Holds the headers of command codes against each other.
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <map>
 #include <string>
@@ -26,6 +27,32 @@ TEST(CommandCodes, StandInTheirOwnHeaders) {
         if (source.filename().string().ends_with("command_codes.h")) continue;
         const std::string text = ReadText(ProjectRoot() / "src" / source);
         EXPECT_TRUE(AllMatches(text, "(FourCharCode\\()").empty()) << source;
+    }
+}
+
+TEST(CommandCodes, OfThePreferencesAreEachSentByOneControlOfTheLayout) {
+    std::map<std::string, int> controls;
+    for (const std::string& code :
+         AllMatches(ReadText(ProjectRoot() / "resources/preferences_window.toml"),
+                    "message = \"([^\"]*)\"")) {
+        EXPECT_EQ(++controls[code], 1) << code;
+    }
+    const std::vector<std::string> answered =
+        AllMatches(ReadText(ProjectRoot() / "src/ui/preferences_command_codes.h"),
+                   "= FourCharCode\\(\"([^\"]*)\"\\)");
+    EXPECT_FALSE(answered.empty());
+    for (const std::string& code : answered) {
+        EXPECT_TRUE(controls.contains(code)) << code;
+    }
+}
+
+TEST(CommandCodes, OfThePreferencesAreAllAnswered) {
+    const std::vector<std::string> used = AllMatches(
+        ReadText(ProjectRoot() / "src/ui/preferences_window.cpp"), "kirto::(kPrefs[A-Za-z]+)");
+    for (const std::string& name :
+         AllMatches(ReadText(ProjectRoot() / "src/ui/preferences_command_codes.h"),
+                    "(kPrefs[A-Za-z]+) = ")) {
+        EXPECT_NE(std::find(used.begin(), used.end(), name), used.end()) << name;
     }
 }
 

@@ -38,9 +38,9 @@ TEST(BAlert, HasItsLastButtonAsTheDefaultUnlessSaidOtherwise) {
 TEST(BAlert, GivesThePresentersAnswer) {
     AlertRecorder recorder({0, 1});
     EXPECT_EQ(BAlert("Quit", "Save?", "Cancel", "Save", "", B_IDEA_ALERT).Go(), 0);
-    EXPECT_EQ(BAlert("", "Sure?", "No", "Yes", "", B_EMPTY_ALERT).Go(), 1);
+    EXPECT_EQ(BAlert("", "Sure?", "No", "Yes", "", B_INFO_ALERT).Go(), 1);
     EXPECT_THAT(recorder.Lines(),
-                ElementsAre("IDEA [Quit] Save? | Cancel | Save", "EMPTY [] Sure? | No | Yes"));
+                ElementsAre("IDEA [Quit] Save? | Cancel | Save", "INFO [] Sure? | No | Yes"));
 }
 
 TEST(BAlert, IsAnsweredWithTheLastButtonWithoutPresenter) {

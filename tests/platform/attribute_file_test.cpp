@@ -11,6 +11,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "platform/allocation.h"
 #include "platform/rect.h"
 #include "support/test_support.h"
 
@@ -332,6 +333,56 @@ TEST(AttributeFile, AReadTakesAtMostTheBytesAskedFor) {
     EXPECT_EQ(name, "abcd--");
 }
 
+TEST(AttributeFile, NumbersAreReadAsTheTypeAskedFor) {
+    const TemporaryFolder folder;
+    WriteText(folder.File("settings"),
+              "pause = 5\nlarge = 5000000000\nwidth = 320.0\npart = -7.9\nfar = -1e300\n"
+              "not_a_number = nan\n");
+    AttributeFile file(folder.File("settings"));
+    const auto as_double = [&](const char* name) {
+        double value = 0;
+        EXPECT_EQ(file.ReadAttr(name, B_DOUBLE_TYPE, &value, sizeof(value)), 8) << name;
+        return value;
+    };
+    const auto as_int = [&](const char* name) {
+        int32 value = -1;
+        EXPECT_EQ(ReadInt(file, name, &value), 4) << name;
+        return value;
+    };
+    EXPECT_EQ(as_double("pause"), 5.0);
+    EXPECT_EQ(as_double("large"), 5e9);
+    EXPECT_EQ(as_int("width"), 320);
+    EXPECT_EQ(as_int("part"), -7);
+    EXPECT_EQ(as_int("large"), std::numeric_limits<int32>::max());
+    EXPECT_EQ(as_int("far"), std::numeric_limits<int32>::min());
+    EXPECT_EQ(as_int("not_a_number"), 0);
+}
+
+TEST(AttributeFile, OnlyNumbersAreConverted) {
+    const TemporaryFolder folder;
+    WriteText(folder.File("settings"), "text = \"5\"\n");
+    AttributeFile file(folder.File("settings"));
+    double value = 0;
+    EXPECT_EQ(file.ReadAttr("text", B_DOUBLE_TYPE, &value, sizeof(value)), 1);
+}
+
+TEST(AttributeFile, BytesAreReadAsTheyAreWhateverTheirType) {
+    const TemporaryFolder folder;
+    const std::string text =
+        std::string(kHeading) + "pause = { type = \"LONG\", bytes = \"05000000\" }\n";
+    WriteText(folder.File("settings"), text);
+    for (int i = 0; i < 2; ++i) {
+        AttributeFile file(folder.File("settings"));
+        std::array<uint8, 8> bytes{9, 9, 9, 9, 9, 9, 9, 9};
+        EXPECT_EQ(file.ReadAttr("pause", B_DOUBLE_TYPE, bytes.data(), bytes.size()), 4);
+        EXPECT_EQ(bytes, (std::array<uint8, 8>{5, 0, 0, 0, 9, 9, 9, 9}));
+        // Writing something else leaves the form of this one as it is.
+        EXPECT_EQ(WriteInt(file, "width", 1), 4);
+        EXPECT_EQ(file.Sync(), B_OK);
+    }
+    EXPECT_EQ(TextOf(folder.File("settings")), text + "width = 1\n");
+}
+
 TEST(AttributeFile, AMissingAttributeIsNotFound) {
     const TemporaryFolder folder;
     AttributeFile file(folder.File("settings"));
@@ -446,6 +497,27 @@ TEST(AttributeFile, ADamagedFileIsPutAsideAndTheAttributesStartEmpty) {
     WriteInt(file, "y", 3);
     EXPECT_EQ(file.Sync(), B_OK);
     EXPECT_EQ(TextOf(path), std::string(kHeading) + "y = 3\n");
+}
+
+TEST(AttributeFile, AHealthyFileStaysWhereItIsWhenMemoryIsShort) {
+    const TemporaryFolder folder;
+    const std::string path = folder.File("settings");
+    WriteText(path, "width = 1\n");
+    {
+        const AllocationFault fault(1);
+        AttributeFile file(path);
+        EXPECT_EQ(file.InitCheck(), B_NO_MEMORY);
+        EXPECT_EQ(file.DamagedCopy(), "");
+        int32 width = 7;
+        EXPECT_EQ(ReadInt(file, "width", &width), B_NO_MEMORY);
+        EXPECT_EQ(WriteInt(file, "width", 2), B_NO_MEMORY);
+        EXPECT_EQ(file.Sync(), B_NO_MEMORY);
+    }
+    EXPECT_EQ(TextOf(path), "width = 1\n");
+    AttributeFile file(path);
+    int32 width = 7;
+    EXPECT_EQ(ReadInt(file, "width", &width), 4);
+    EXPECT_EQ(width, 1);
 }
 
 TEST(AttributeFile, EarlierDamagedCopiesAreNeverOverwritten) {

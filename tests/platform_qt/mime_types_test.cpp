@@ -100,20 +100,4 @@ TEST_F(MimeTypesTest, FindsFilesByTheBytesOfTheirNames) {
     EXPECT_EQ(MimeTypeOf(Write("\xff\xfe", "GIF89a")), "image/gif");
 }
 
-TEST_F(MimeTypesTest, SetsTheTypeThatItReads) {
-    const std::string path = Write("a.png", "");
-    if (!SetAttribute(path, "x/y")) GTEST_SKIP() << "no attributes on this file system";
-
-    SetMimeType(path, "image/x-tga");
-
-    EXPECT_EQ(MimeTypeOf(path), "image/x-tga");
-}
-
-TEST_F(MimeTypesTest, TakesARefusalToSetATypeSilently) {
-    SetMimeType(folder.File("missing"), "image/gif");
-    SetMimeType("/proc/version", "image/gif");
-
-    EXPECT_FALSE(fs::exists(folder.File("missing")));
-}
-
 }  // namespace kirto::test

@@ -623,6 +623,16 @@ TEST_F(PrefsTest, AttributesOfOthersInTheFileAreKept) {
     EXPECT_EQ(zoom, 3);
 }
 
+TEST_F(PrefsTest, NumbersMayBeWrittenWithAndWithoutAPoint) {
+    const std::string text = "global_pauselength = 5\nglobal_width = 111.0\n";
+    WriteBytes(Prefs::SettingsPath(), {text.begin(), text.end()});
+
+    const Prefs prefs;
+
+    EXPECT_EQ(prefs.global_pauselength, 5.0);
+    EXPECT_EQ(prefs.global_width, 111);
+}
+
 TEST_F(PrefsTest, ADamagedFileIsPutAsideAndReplacedByTheDefaults) {
     WriteBytes(Prefs::SettingsPath(), {'?'});
 
@@ -705,18 +715,21 @@ TEST_F(PrefsTest, TextThatDoesNotFitIsRefusedAndChangesNothing) {
     Prefs prefs{Prefs::BuiltIn{}};
 
     for (const std::string text : {"abc", "", "12 ", " 12", "12a", "1.5", "2147483648", "0x10"}) {
-        EXPECT_EQ(Refusal(prefs, "global_width", text), "\"" + text + "\" is no whole number.");
+        EXPECT_EQ(Refusal(prefs, "global_width", text),
+                  "global_width: \"" + text + "\" is not a whole number.");
     }
     for (const std::string text : {"1", "True", "", "yes"}) {
         EXPECT_EQ(Refusal(prefs, "global_usepause", text),
-                  "\"" + text + "\" is neither true nor false.");
+                  "global_usepause: \"" + text + "\" is neither true nor false.");
     }
     for (const std::string text : {"abc", "", "1,5", "nan", "inf", "1e999"}) {
-        EXPECT_EQ(Refusal(prefs, "global_pauselength", text), "\"" + text + "\" is no number.");
+        EXPECT_EQ(Refusal(prefs, "global_pauselength", text),
+                  "global_pauselength: \"" + text + "\" is not a number.");
     }
     for (const std::string text : {"", "1,2,3", "1,2,3,4,5", "1,2,3,", "a,2,3,4", "1,2,3,inf"}) {
         EXPECT_EQ(Refusal(prefs, "misc_windowdimensions", text),
-                  "\"" + text + "\" is no rectangle of the form left,top,right,bottom.");
+                  "misc_windowdimensions: \"" + text +
+                      "\" is not a rectangle of the form left,top,right,bottom.");
     }
 
     EXPECT_EQ(prefs.global_width, 320);

@@ -27,9 +27,9 @@ std::string DebugRecorder::Text() const {
 }
 
 std::string AlertLine(const BAlert& alert) {
-    static constexpr const char* kTypes[] = {"EMPTY", "INFO", "IDEA", "WARNING", "STOP"};
-    std::string line =
-        std::string(kTypes[alert.Type()]) + " [" + alert.Title() + "] " + alert.Text();
+    static constexpr const char* kTypes[] = {"INFO", "IDEA", "WARNING", "STOP"};
+    std::string line = std::string(kTypes[alert.Type() - B_INFO_ALERT]) + " [" + alert.Title() +
+                       "] " + alert.Text();
     for (const std::string& button : alert.Buttons())
         line += " | " + button;
     return line;

@@ -131,8 +131,9 @@ TEST_F(QtAlertsTest, TakeEnterForTheButtonThatTheAlertSays) {
 
 TEST_F(QtAlertsTest, ShowTheTypeAsAnIcon) {
     const std::pair<alert_type, QMessageBox::Icon> icons[] = {
-        {B_EMPTY_ALERT, QMessageBox::NoIcon},     {B_INFO_ALERT, QMessageBox::Information},
-        {B_IDEA_ALERT, QMessageBox::Information}, {B_WARNING_ALERT, QMessageBox::Warning},
+        {B_INFO_ALERT, QMessageBox::Information},
+        {B_IDEA_ALERT, QMessageBox::Information},
+        {B_WARNING_ALERT, QMessageBox::Warning},
         {B_STOP_ALERT, QMessageBox::Critical},
     };
     for (const auto& [type, icon] : icons) {

@@ -6,6 +6,7 @@
 #include <QListWidget>
 #include <QMessageBox>
 #include <QScreen>
+#include <QTimer>
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <thread>
@@ -199,6 +200,23 @@ TEST_F(QtDesktopTest, AbandonsTheCommandThatWaitsForASave) {
     desktop.AbandonPendingCommand();
 
     EXPECT_TRUE(WaitFor([&] { return Window().PendingCommand() == 0; }));
+}
+
+TEST_F(QtDesktopTest, TellsNobodyAnythingOnceTheWindowsAreGone) {
+    prefs.palette_mapping = kPaletteFromFile;
+    prefs.palette_filename = folder.File("missing.gif");
+    bool told = false;
+    QObject context;
+    QTimer::singleShot(0, &context, [&told] {
+        told = true;
+        if (QMessageBox* box = Alert()) box->close();
+    });
+
+    // The application's last reset looks for the palette once more.
+    desktop.CloseWindows();
+    app.reset();
+
+    EXPECT_FALSE(told);
 }
 
 TEST_F(QtDesktopTest, QuitsTheApplicationWhenTheWindowIsClosedAndStoresTheSettings) {

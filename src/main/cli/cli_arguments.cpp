@@ -2,6 +2,9 @@
 
 #include <CLI/CLI.hpp>
 #include <map>
+#include <unistd.h>
+
+#include "platform/terminal_text.h"
 
 namespace kirto {
 
@@ -68,11 +71,19 @@ std::vector<CliOperation> InOrder(const CLI::App& app) {
     return operations;
 }
 
+// The arguments in it may be file names that the shell has put there.
+std::string UsageError(const CLI::App*, const CLI::Error& error) {
+    const std::string text = error.what();
+    const bool terminal = isatty(STDERR_FILENO) != 0;
+    return (terminal ? TerminalText(text) : text) + "\nRun with --help for more information.\n";
+}
+
 }  // namespace
 
 std::optional<int> ParseArguments(int argc, const char* const* argv, CliArguments* arguments) {
     CLI::App app("Edits frame animations from the command line.", "kirto-cli");
     app.footer(kFooter);
+    app.failure_message(UsageError);
     app.set_version_flag("--version", "kirto-cli " KIRTO_VERSION, "Print the version");
     app.set_help_flag("--help", "Print this help");
     app.get_formatter()->column_width(36);

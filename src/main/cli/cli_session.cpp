@@ -10,13 +10,7 @@ CliSession::CliSession(CliArguments arguments, BTranslatorRoster& roster)
     : arguments_(std::move(arguments)),
       roster_(roster),
       desktop_(arguments_.salvage, arguments_.quiet),
-      previous_presenter_(InstallAlertPresenter(&desktop_)) {
-    if (!prefs_.damaged_copy.empty()) {
-        desktop_.Complain(
-            prefs_.damaged_copy +
-            ": The settings file was damaged and has been put aside under this name.");
-    }
-}
+      previous_presenter_(InstallAlertPresenter(&desktop_)) {}
 
 CliSession::~CliSession() {
     running_ = nullptr;

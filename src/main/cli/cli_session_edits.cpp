@@ -1,6 +1,7 @@
 // The operations that edit the document in memory.
 #include <cmath>
 #include <cstdio>
+#include <unistd.h>
 
 #include "document/command_codes.h"
 #include "main/cli/cli_session.h"
@@ -133,19 +134,16 @@ CliSession::Outcome CliSession::SetBackground(const std::string& value) {
 }
 
 CliSession::Outcome CliSession::SetFrameOffset(const std::string& value) {
-    if (CheckCurrentFrame() != Outcome::kDone) return Outcome::kFailed;
     const size_t comma = value.find(',');
-    if (comma == std::string::npos) return Refuse("--frame-offset: \"" + value + "\" is no X,Y.");
+    if (comma == std::string::npos) return Refuse("--frame-offset: \"" + value + "\" is not X,Y.");
+    if (CheckCurrentFrame() != Outcome::kDone) return Outcome::kFailed;
     const std::string x = value.substr(0, comma);
     const std::string y = value.substr(comma + 1);
-    int32 checked = 0;
     // Both are sound before either is set.
-    if (const Outcome y_sound = CheckInput(*FieldOf(kFrameSetYOffset), y, &checked);
-        y_sound != Outcome::kDone) {
-        const Outcome x_sound = CheckInput(*FieldOf(kFrameSetXOffset), x, &checked);
-        return x_sound != Outcome::kDone ? x_sound : y_sound;
-    }
-    const Outcome outcome = PostNumber(kFrameSetXOffset, x);
+    int32 checked = 0;
+    Outcome outcome = CheckInput(*FieldOf(kFrameSetXOffset), x, &checked);
+    if (outcome == Outcome::kDone) outcome = CheckInput(*FieldOf(kFrameSetYOffset), y, &checked);
+    if (outcome == Outcome::kDone) outcome = PostNumber(kFrameSetXOffset, x);
     return outcome == Outcome::kDone ? PostNumber(kFrameSetYOffset, y) : outcome;
 }
 
@@ -201,12 +199,16 @@ CliSession::Outcome CliSession::PostAlongHistory(uint32 command, const char* ver
 }
 
 CliSession::Outcome CliSession::PrintInfo(const std::string&) {
-    std::fputs(DescribeDocument(*app_->CurrentState(), prefs_.global_pauseinseconds).c_str(), stdout);
+    const bool for_terminal = isatty(STDOUT_FILENO) != 0;
+    std::fputs(DescribeDocument(*app_->CurrentState(), prefs_.global_pauseinseconds, for_terminal)
+                   .c_str(),
+               stdout);
     return Outcome::kDone;
 }
 
 CliSession::Outcome CliSession::PrintInfoJson(const std::string&) {
-    std::fputs(DescribeDocumentAsJson(*app_->CurrentState()).c_str(), stdout);
+    const bool for_terminal = isatty(STDOUT_FILENO) != 0;
+    std::fputs(DescribeDocumentAsJson(*app_->CurrentState(), for_terminal).c_str(), stdout);
     return Outcome::kDone;
 }
 

@@ -3,6 +3,7 @@
 #include <nlohmann/json.hpp>
 
 #include "platform/md5.h"
+#include "platform/terminal_text.h"
 #include "platform/text.h"
 
 namespace kirto {
@@ -70,10 +71,13 @@ Json FrameJson(const Frame& frame, int32 index) {
 
 }  // namespace
 
-std::string DescribeDocument(const DocumentState& document, bool in_seconds) {
+std::string DescribeDocument(const DocumentState& document, bool in_seconds, bool for_terminal) {
+    const auto shown = [for_terminal](const std::string& name) {
+        return for_terminal ? TerminalText(name) : name;
+    };
     const Animation& animation = *document.animation;
     const Palette& palette = *animation.palette;
-    std::string text = Format("%s: %d x %d, %d frame(s), %s\n", document.file_name.c_str(),
+    std::string text = Format("%s: %d x %d, %d frame(s), %s\n", shown(document.file_name).c_str(),
                               animation.width, animation.height, animation.frames.Size(),
                               document.modified ? "modified" : "unmodified");
     text += "loop: " + (animation.use_loop ? std::to_string(animation.loop_count) : "off") +
@@ -89,7 +93,7 @@ std::string DescribeDocument(const DocumentState& document, bool in_seconds) {
     for (const FramePointer& frame : animation.frames) {
         const std::string pause = PauseText(frame->use_pause, frame->pause_length, in_seconds);
         text += Format("%c %4d  %-24s %d x %d at %d,%d  pause %s  %s\n",
-                       index == animation.selected ? '*' : ' ', index, frame->name.c_str(),
+                       index == animation.selected ? '*' : ' ', index, shown(frame->name).c_str(),
                        frame->width, frame->height, frame->x_offset, frame->y_offset,
                        pause.c_str(),
                        frame->local_palette ? KindName(frame->palette->mode) : "global palette");
@@ -98,7 +102,7 @@ std::string DescribeDocument(const DocumentState& document, bool in_seconds) {
     return text;
 }
 
-std::string DescribeDocumentAsJson(const DocumentState& document) {
+std::string DescribeDocumentAsJson(const DocumentState& document, bool for_terminal) {
     const Animation& animation = *document.animation;
     Json frames = Json::array();
     int32 index = 0;
@@ -116,7 +120,7 @@ std::string DescribeDocumentAsJson(const DocumentState& document) {
                        {"frame_count", animation.frames.Size()},
                        {"global_palette", PaletteJson(*animation.palette)},
                        {"frames", frames}};
-    return json.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
+    return json.dump(2, ' ', for_terminal, Json::error_handler_t::replace) + "\n";
 }
 
 }  // namespace kirto

@@ -7,6 +7,7 @@
 #include "main/cli/viewer.h"
 #include "platform/entry_ref.h"
 #include "platform/file.h"
+#include "platform/terminal_text.h"
 
 namespace kirto {
 
@@ -32,7 +33,7 @@ HeadlessDesktop::HeadlessDesktop(bool salvage, bool quiet)
       previous_sink_(InstallDebugSink([this, quiet](const std::string& text) {
           if (quiet) return;
           ClearProgress();
-          std::fputs(text.c_str(), stderr);
+          lines_.Write(text);
       })) {}
 
 HeadlessDesktop::~HeadlessDesktop() {
@@ -97,7 +98,9 @@ void HeadlessDesktop::OpenInBrowser(const std::string& path) {
 
 void HeadlessDesktop::Complain(const std::string& text) {
     ClearProgress();
-    std::fprintf(stderr, "kirto-cli: %s\n", text.c_str());
+    lines_.EndLine();
+    const std::string shown = lines_.IsTerminal() ? TerminalText(text) : text;
+    std::fprintf(stderr, "kirto-cli: %s\n", shown.c_str());
 }
 
 }  // namespace kirto

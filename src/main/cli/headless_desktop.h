@@ -7,6 +7,7 @@
 #include "app/desktop.h"
 #include "main/cli/progress_line.h"
 #include "platform/debug_line.h"
+#include "platform/line_output.h"
 
 namespace kirto {
 
@@ -46,6 +47,7 @@ class HeadlessDesktop : public Desktop {
 
   private:
     const bool salvage_;
+    LineOutput lines_{stderr};
     std::shared_ptr<ProgressLine> progress_;
     std::string subject_;
     TileChoice tiles_;

@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include "document/command_codes.h"
+#include "platform/terminal_text.h"
 
 namespace kirto {
 
@@ -17,7 +18,7 @@ status_t ProgressLine::Post(BMessage message, handler_token) {
     std::string text;
     if (!enabled_ || message.what != kStatusUpdate) return B_OK;
     if (message.FindString("text", &text) != B_OK) return B_OK;
-    std::fprintf(stderr, "\r\033[K%s", text.c_str());
+    std::fprintf(stderr, "\r\033[K%s", TerminalText(text).c_str());
     std::fflush(stderr);
     shown_ = true;
     return B_OK;

@@ -5,6 +5,7 @@
 
 #include "framework/window_layout.h"
 #include "main/rsrc/text_icon.h"
+#include "platform/byte_order.h"
 #include "platform/file.h"
 #include "platform/message.h"
 #include "platform/resources.h"
@@ -21,11 +22,6 @@ constexpr int32 kIconId = 101;
 constexpr size_t kVersionShort = 64;
 constexpr size_t kVersionLong = 256;
 constexpr size_t kVersionRecord = size_t{5} * 4 + kVersionShort + kVersionLong;
-
-void PutNumber(std::vector<uint8>* bytes, uint32 value) {
-    for (int shift = 0; shift < 32; shift += 8)
-        bytes->push_back(static_cast<uint8>(value >> shift));
-}
 
 // The text, filled up with zeros.
 void PutText(std::vector<uint8>* bytes, const std::string& text, size_t size) {
@@ -110,7 +106,7 @@ bool ResourceCompiler::AddVersion() {
     for (const char* key : {"major", "middle", "minor", "variety", "internal"}) {
         uint32 number = 0;
         if (!FindNumber(std::string("version.") + key, &number)) return false;
-        PutNumber(&bytes, number);
+        AppendLittle(&bytes, number);
     }
     std::string short_text;
     std::string long_text;
@@ -129,7 +125,7 @@ bool ResourceCompiler::AddFlags() {
     uint32 flags = 0;
     if (!FindNumber("flags", &flags)) return false;
     std::vector<uint8> bytes;
-    PutNumber(&bytes, flags);
+    AppendLittle(&bytes, flags);
     return Add(kFlagsType, 1, "BEOS:APP_FLAGS", std::move(bytes));
 }
 

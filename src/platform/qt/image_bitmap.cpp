@@ -10,30 +10,7 @@ namespace {
 // Rows that are converted at a time, so that no second picture comes about on the way.
 constexpr int kBandRows = 64;
 
-bool HasTransparency(const BBitmap& bitmap) {
-    const size_t alpha = IsBigEndian(bitmap.ColorSpace()) ? 0 : 3;
-    for (size_t i = alpha; i < bitmap.BitsLength(); i += 4) {
-        if (bitmap.Bits()[i] != 255) return true;
-    }
-    return false;
-}
-
 }  // namespace
-
-QImage ImageOf(const BBitmap& bitmap) {
-    const QImage::Format format =
-        HasTransparency(bitmap) ? QImage::Format_ARGB32 : QImage::Format_RGB32;
-    QImage image(bitmap.Width(), bitmap.Height(), format);
-    if (image.isNull()) return image;
-    for (int32 y = 0; y < bitmap.Height(); ++y) {
-        uchar* target = image.scanLine(y);
-        std::memcpy(target, bitmap.Row(y), bitmap.BytesPerRow());
-        if (!IsBigEndian(bitmap.ColorSpace())) continue;
-        for (int32 x = 0; x < bitmap.Width(); ++x, target += 4)
-            std::reverse(target, target + 4);
-    }
-    return image;
-}
 
 std::shared_ptr<BBitmap> BitmapOf(const QImage& image, std::shared_ptr<PixelBudget> budget) {
     const bool has_alpha = image.hasAlphaChannel();

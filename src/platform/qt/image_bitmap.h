@@ -1,4 +1,4 @@
-// Pictures as Qt has them and as bitmaps.
+// Qt's pictures as bitmaps.
 #pragma once
 
 #include <QImage>
@@ -8,10 +8,6 @@
 #include "platform/bitmap.h"
 
 namespace kirto {
-
-// The picture for Qt; without transparent pixels it says so, so that files get no alpha channel for
-// nothing. Null when memory is short.
-QImage ImageOf(const BBitmap& bitmap);
 
 // The picture as a bitmap, B_RGBA32 when it has an alpha channel, else B_RGB32; null when the
 // budget refuses it or memory is short.

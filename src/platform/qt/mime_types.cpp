@@ -66,9 +66,4 @@ std::string MimeTypeOf(const std::string& path) {
     return folder ? "inode/directory" : WithFliName(DatabaseType(path));
 }
 
-void SetMimeType(const std::string& path, const std::string& type) {
-    [[maybe_unused]] const int ignored =
-        setxattr(path.c_str(), kAttribute, type.data(), type.size(), 0);
-}
-
 }  // namespace kirto

@@ -12,7 +12,4 @@ namespace kirto {
 // thread.
 std::string MimeTypeOf(const std::string& path);
 
-// Sets the extended attribute; where the file system refuses it, nothing happens.
-void SetMimeType(const std::string& path, const std::string& type);
-
 }  // namespace kirto

@@ -14,6 +14,7 @@
 #include "platform/qt/image_bitmap.h"
 #include "platform/qt/png_device.h"
 #include "platform/qt/safe_drawing.h"
+#include "platform/qt/picture_image.h"
 #include "platform/qt/straight_tiff.h"
 #include "platform/targa.h"
 
@@ -119,7 +120,7 @@ class EmbeddedImages {
         bytes_left_ -= bitmap->BitsLength();
         QBuffer png;
         png.open(QIODevice::WriteOnly);
-        return ImageOf(*bitmap).save(&png, "png") ? png.data() : QByteArray();
+        return ImageOfPicture(*bitmap).save(&png, "png") ? png.data() : QByteArray();
     }
 
   private:
@@ -170,7 +171,7 @@ status_t WriteTargaImage(const BBitmap& source, const BMessage& settings, const 
     bool packed = false;
     format.settings.FindBool("rle", &packed);
     settings.FindBool("rle", &packed);
-    const QImage image = ImageOf(source);
+    const QImage image = ImageOfPicture(source);
     const QImage rgba = image.convertToFormat(QImage::Format_RGBA8888);
     if (rgba.isNull()) return B_NO_MEMORY;
     return WriteTarga(rgba.constBits(), rgba.width(), rgba.height(), image.hasAlphaChannel(),
@@ -227,7 +228,7 @@ status_t QtTranslatorRoster::Translate(const BBitmap& source, translator_id tran
     if (IsTarga(*entry->format)) {
         return WriteTargaImage(source, settings, *entry->format, destination);
     }
-    const QImage image = ImageOf(source);
+    const QImage image = ImageOfPicture(source);
     if (image.isNull()) return B_NO_MEMORY;
     FileDevice device(destination, QIODevice::WriteOnly);
     QImageWriter writer(&device, entry->format->qt_name);

@@ -1,4 +1,4 @@
-#include "ui/picture_image.h"
+#include "platform/qt/picture_image.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -16,6 +16,14 @@ TEST(PictureImage, SharesPixelsInTheOrderThatPaintingTakes) {
     EXPECT_EQ(image.constBits(), picture->Bits());
     EXPECT_FALSE(image.hasAlphaChannel());
     EXPECT_EQ(image.pixel(1, 0), 0xFF405060u);
+}
+
+TEST(PictureImage, SharesPixelsWithAPictureThatItDoesNotKeep) {
+    const auto picture = PictureOf(2, 1, {0x00102030, 0xFF405060});
+    const QImage image = ImageOfPicture(*picture);
+    EXPECT_EQ(picture.use_count(), 1);
+    EXPECT_EQ(image.constBits(), picture->Bits());
+    EXPECT_TRUE(image.hasAlphaChannel());
 }
 
 TEST(PictureImage, TakesAlphaSeriouslyInAllFourColourSpaces) {

@@ -1,4 +1,4 @@
-#include "ui/picture_image.h"
+#include "platform/qt/picture_image.h"
 
 #include <algorithm>
 #include <cstring>
@@ -36,14 +36,21 @@ QImage CopyTurned(const BBitmap& picture, QImage::Format format) {
 
 }  // namespace
 
-QImage ImageOfPicture(const SharedPicture& picture) {
-    if (!picture || picture->InitCheck() != B_OK || !Is32Bit(picture->ColorSpace())) return {};
+QImage ImageOfPicture(const BBitmap& picture) {
+    if (picture.InitCheck() != B_OK || !Is32Bit(picture.ColorSpace())) return {};
     const QImage::Format format =
-        HasTransparency(*picture) ? QImage::Format_ARGB32 : QImage::Format_RGB32;
-    if (IsBigEndian(picture->ColorSpace())) return CopyTurned(*picture, format);
-    return QImage(picture->Bits(), picture->Width(), picture->Height(),
-                  static_cast<qsizetype>(picture->BytesPerRow()), format, Release,
-                  new SharedPicture(picture));
+        HasTransparency(picture) ? QImage::Format_ARGB32 : QImage::Format_RGB32;
+    if (IsBigEndian(picture.ColorSpace())) return CopyTurned(picture, format);
+    return QImage(picture.Bits(), picture.Width(), picture.Height(),
+                  static_cast<qsizetype>(picture.BytesPerRow()), format);
+}
+
+QImage ImageOfPicture(const SharedPicture& picture) {
+    if (!picture) return {};
+    const QImage image = ImageOfPicture(*picture);
+    if (image.isNull() || image.constBits() != picture->Bits()) return image;
+    return QImage(picture->Bits(), image.width(), image.height(), image.bytesPerLine(),
+                  image.format(), Release, new SharedPicture(picture));
 }
 
 }  // namespace kirto

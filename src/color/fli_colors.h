@@ -1,0 +1,16 @@
+// The colour chunks of FLI and FLC files.
+#pragma once
+
+#include <span>
+
+#include "color/builtin_palettes.h"
+#include "platform/types.h"
+
+namespace kirto {
+
+// Carries out the packets of a colour chunk's data: each skips entries of the table and fills those
+// after them. Components are multiplied by the factor and keep the low byte. What lies past the
+// last entry is dropped; packets end early where the data does.
+void ReadFliColors(std::span<const uint8> data, int32 factor, ColorTable* colors);
+
+}  // namespace kirto
