@@ -11,8 +11,8 @@ FramePointer FrameSequence::At(int32 i) const {
 }
 
 int32 FrameSequence::Find(FrameId id) const {
-    const auto found = std::find_if(begin(), end(),
-                                    [id](const FramePointer& frame) { return frame->id == id; });
+    const auto found =
+        std::find_if(begin(), end(), [id](const FramePointer& frame) { return frame->id == id; });
     return found == end() ? -1 : static_cast<int32>(std::distance(begin(), found));
 }
 
@@ -119,10 +119,9 @@ FrameSequence::Difference FrameSequence::DifferenceTo(const FrameSequence& other
 bool operator==(const FrameSequence& a, const FrameSequence& b) {
     if (a.size_ != b.size_) return false;
     if (a.leaves_ == b.leaves_) return true;
-    return std::equal(a.begin(), a.end(), b.begin(),
-                      [](const FramePointer& x, const FramePointer& y) {
-                          return x == y || *x == *y;
-                      });
+    return std::equal(
+        a.begin(), a.end(), b.begin(),
+        [](const FramePointer& x, const FramePointer& y) { return x == y || *x == *y; });
 }
 
 }  // namespace kirto

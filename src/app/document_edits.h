@@ -6,7 +6,7 @@
 
 namespace kirto {
 
-// Carries out the edit under the writer lock and marks the document modified. An edit of the
+// Carries out the edit and marks the document modified. An edit of the
 // current frame does nothing without one, and a message without its field "value" does nothing.
 // False when the code is none of these edits.
 bool ApplyEdit(AnimationDocument& document, const BMessage& message);

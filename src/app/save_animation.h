@@ -20,8 +20,7 @@ enum class SaveResult {
 };
 
 // Encode the document into the file at path, which is replaced as a whole or not at all. The caller
-// holds the reader lock and has let the global palette follow its frame (UpdateGlobalPalette). The
-// document is not changed.
+// has let the global palette follow its frame (UpdateGlobalPalette). The document is not changed.
 
 // Into a file of the user's: a symbolic link leads to its target, permissions are kept.
 SaveResult SaveAnimatedGif(AnimationDocument& document, const std::string& path);
