@@ -104,29 +104,31 @@ std::vector<uint8> IndicesOf(const Frame& frame, const Palette& palette, int32 t
 
 }  // namespace
 
-Animation::Animation(const AnimationPlan& plan) : plan_(plan), name_(plan.name) {}
+BenchAnimation::BenchAnimation(const AnimationPlan& plan) : plan_(plan), name_(plan.name) {}
 
-int64 Animation::CanvasPixels() const {
+int64 BenchAnimation::CanvasPixels() const {
     return int64{plan_.width} * plan_.height * plan_.frames;
 }
 
-int64 Animation::ImagePixels() {
+int64 BenchAnimation::ImagePixels() {
     int64 pixels = 0;
-    for (const FramePointer frame = Document().FirstFrame(); frame; frame = frame->next)
+    for (const FramePointer& frame : Document().Current()->frames)
         pixels += int64{frame->width} * frame->height;
     return pixels;
 }
 
-AnimationDocument& Animation::Document() {
+AnimationDocument& BenchAnimation::Document() {
     if (!document_) Draw();
     return *document_;
 }
 
-void Animation::Draw() {
+void BenchAnimation::Draw() {
     document_ = std::make_unique<AnimationDocument>(prefs_);
-    EditOf(*document_)->width = plan_.width;
-    EditOf(*document_)->height = plan_.height;
-    EditOf(*document_)->pause_length = 5;
+    document_->Change([this](Animation& animation) {
+        animation.width = plan_.width;
+        animation.height = plan_.height;
+        animation.pause_length = 5;
+    });
     std::shared_ptr<BBitmap> before;
     for (int32 step = 0; step < plan_.frames; ++step) {
         const std::shared_ptr<BBitmap> picture = PaintStep(step);
@@ -138,7 +140,7 @@ void Animation::Draw() {
         }
         before = picture;
     }
-    Palette& palette = *document_->Current()->palette;
+    Palette palette = *document_->Current()->palette;
     palette.Set(document_->FirstFrame()->bitmap.get());
     if (plan_.differences) {
         // The first picture has fewer colours than entries: the last one is free.
@@ -146,9 +148,12 @@ void Animation::Draw() {
         palette.use_transparent = true;
         palette.transparent_index = palette.size - 1;
     }
+    document_->Change([&palette](Animation& animation) {
+        animation.palette = std::make_shared<const Palette>(palette);
+    });
 }
 
-std::shared_ptr<BBitmap> Animation::PaintStep(int32 step) const {
+std::shared_ptr<BBitmap> BenchAnimation::PaintStep(int32 step) const {
     auto bitmap = NewBitmap(plan_.width, plan_.height, B_RGB32);
     for (int32 y = 0; y < plan_.height; ++y) {
         uint8* pixel = bitmap->Row(y);
@@ -163,33 +168,32 @@ std::shared_ptr<BBitmap> Animation::PaintStep(int32 step) const {
     return bitmap;
 }
 
-void Animation::AddFrame(std::shared_ptr<BBitmap> bitmap, int32 left, int32 top) {
+void BenchAnimation::AddFrame(std::shared_ptr<BBitmap> bitmap, int32 left, int32 top) {
     const int32 index = document_->FrameCount();
-    auto frame = std::make_unique<Frame>(Format("frame%04d", index), bitmap->Width(),
-                                         bitmap->Height(), index);
-    frame->x_offset = left;
-    frame->y_offset = top;
-    frame->bitmap = std::move(bitmap);
+    Frame frame(Format("frame%04d", index), bitmap->Width(), bitmap->Height());
+    frame.x_offset = left;
+    frame.y_offset = top;
     if (plan_.local_palettes) {
-        frame->palette->Set(frame->bitmap.get());
-        frame->local_palette = true;
+        const BBitmap* picture = bitmap.get();
+        frame.palette = std::make_shared<const Palette>(picture);
+        frame.local_palette = true;
     }
-    if (!document_->InsertFrame(frame.get())) std::abort();
-    static_cast<void>(frame.release());
+    frame.bitmap = std::move(bitmap);
+    if (!document_->InsertFrame(index, std::move(frame))) std::abort();
 }
 
-const std::vector<uint8>& Animation::File() {
+const std::vector<uint8>& BenchAnimation::File() {
     if (!file_) file_ = SaveToMemory(Document(), plan_.dithered_file);
     return *file_;
 }
 
-int32 Animation::TransparentIndex() {
+int32 BenchAnimation::TransparentIndex() {
     const Palette& palette = *Document().Current()->palette;
     return palette.use_transparent ? palette.transparent_index : -1;
 }
 
 // Reads the file back: its pixels have exactly the palette's colours, so that each finds its index.
-const std::vector<IndexedImage>& Animation::Images() {
+const std::vector<IndexedImage>& BenchAnimation::Images() {
     if (images_) return *images_;
     Prefs prefs{Prefs::BuiltIn{}};
     prefs.animation_gifloadfullframe = false;
@@ -198,24 +202,26 @@ const std::vector<IndexedImage>& Animation::Images() {
     const AnimationDocument& document = Document();
     images_.emplace();
     for (const FramePointer& frame : loaded.Current()->frames) {
-        const Palette* palette = frame->local_palette
-                                     ? document.FrameAt(frame->index)->palette.get()
-                                     : document.Current()->palette.get();
+        const int32 index = static_cast<int32>(images_->size());
+        const std::shared_ptr<const Palette> palette =
+            frame->local_palette ? document.FrameAt(index)->palette : document.Current()->palette;
         images_->push_back({frame->x_offset, frame->y_offset, frame->width, frame->height, palette,
                             frame->local_palette, IndicesOf(*frame, *palette, TransparentIndex())});
     }
     return *images_;
 }
 
-std::vector<std::unique_ptr<Animation>> AllAnimations() {
-    std::vector<std::unique_ptr<Animation>> animations;
+std::vector<std::unique_ptr<BenchAnimation>> AllAnimations() {
+    std::vector<std::unique_ptr<BenchAnimation>> animations;
     for (const AnimationPlan& plan : kPlans)
-        animations.push_back(std::make_unique<Animation>(plan));
+        animations.push_back(std::make_unique<BenchAnimation>(plan));
     return animations;
 }
 
 std::vector<uint8> SaveToMemory(AnimationDocument& document, bool dither) {
-    PaletteEditOf(document)->dither = dither;
+    document.Change([dither](Animation& animation) {
+        EditPalette(animation, [dither](Palette& palette) { palette.dither = dither; });
+    });
     const std::shared_ptr<BFile> file = BFile::OnMemory();
     GifSave(file, document);
     return file->Memory();

@@ -30,16 +30,16 @@ struct IndexedImage {
     int32 top = 0;
     int32 width = 0;
     int32 height = 0;
-    const Palette* palette = nullptr;  // the document's or the frame's, not owned
+    std::shared_ptr<const Palette> palette;  // the document's or the frame's
     bool local_palette = false;
     std::vector<uint8> indices;  // row after row
 };
 
 // An animation in every form that a benchmark starts from. Each form is made when it is first asked
 // for, so that a choice of benchmarks does not wait for the others'. Used by one thread.
-class Animation {
+class BenchAnimation {
   public:
-    explicit Animation(const AnimationPlan& plan);
+    explicit BenchAnimation(const AnimationPlan& plan);
 
     const std::string& Name() const { return name_; }
     const AnimationPlan& Plan() const { return plan_; }
@@ -70,7 +70,7 @@ class Animation {
 };
 
 // Every animation of the benchmarks.
-std::vector<std::unique_ptr<Animation>> AllAnimations();
+std::vector<std::unique_ptr<BenchAnimation>> AllAnimations();
 
 // Writes the document to memory, with or without dithering.
 std::vector<uint8> SaveToMemory(AnimationDocument& document, bool dither);

@@ -28,7 +28,7 @@ void Measure(benchmark::State& state, const std::function<Work()>& prepare) {
 
 }  // namespace
 
-void Register(const char* step, const Animation& animation, const char* who,
+void Register(const char* step, const BenchAnimation& animation, const char* who,
               const std::function<Work()>& prepare) {
     const std::string name = std::string(step) + '/' + animation.Name() + '/' + who;
     // The whole process is measured, so that work on other threads counts.

@@ -13,15 +13,15 @@ namespace kirto::bench {
 // The counter of the CPU time, in seconds, that each output pixel takes.
 inline constexpr char kTimePerPixel[] = "time/px";
 
-void RegisterDecodeBenchmarks(Animation& animation);
-void RegisterEncodeBenchmarks(Animation& animation);
-void RegisterColorBenchmarks(Animation& animation);
+void RegisterDecodeBenchmarks(BenchAnimation& animation);
+void RegisterEncodeBenchmarks(BenchAnimation& animation);
+void RegisterColorBenchmarks(BenchAnimation& animation);
 
 // Does the work once and returns the pixels that it put out; 0 where it failed.
 using Work = std::function<int64()>;
 // Registers a benchmark. prepare is called before the clock starts, each time the benchmark is run;
 // it returns the work, or nothing when there is a reason not to measure it.
-void Register(const char* step, const Animation& animation, const char* who,
+void Register(const char* step, const BenchAnimation& animation, const char* who,
               const std::function<Work()>& prepare);
 
 }  // namespace kirto::bench

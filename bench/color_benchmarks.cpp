@@ -34,19 +34,19 @@ int64 FindNearest(const BBitmap& picture, const Palette& palette) {
 
 }  // namespace
 
-void RegisterColorBenchmarks(Animation& animation) {
+void RegisterColorBenchmarks(BenchAnimation& animation) {
     Register("count", animation, "kirto", [&]() -> Work {
         AnimationDocument& document = animation.Document();
         return [&document] { return CountColors(document); };
     });
     Register("palette", animation, "kirto", [&]() -> Work {
-        const std::shared_ptr<BBitmap> picture = animation.Document().FirstFrame()->bitmap;
+        const std::shared_ptr<const BBitmap> picture = animation.Document().FirstFrame()->bitmap;
         return [picture] { return BuildPalette(*picture); };
     });
     Register("nearest", animation, "kirto", [&]() -> Work {
-        const std::shared_ptr<BBitmap> picture = animation.Document().FirstFrame()->bitmap;
-        const Palette& palette = *animation.Document().Current()->palette;
-        return [picture, &palette] { return FindNearest(*picture, palette); };
+        const std::shared_ptr<const BBitmap> picture = animation.Document().FirstFrame()->bitmap;
+        const std::shared_ptr<const Palette> palette = animation.Document().Current()->palette;
+        return [picture, palette] { return FindNearest(*picture, *palette); };
     });
 }
 

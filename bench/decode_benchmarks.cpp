@@ -16,7 +16,7 @@ namespace kirto::bench {
 
 namespace {
 
-Work PrepareLoad(Animation& animation, bool full_frame) {
+Work PrepareLoad(BenchAnimation& animation, bool full_frame) {
     const std::shared_ptr<BFile> file = BFile::OnMemory(animation.File());
     const int64 pixels = full_frame ? animation.CanvasPixels() : animation.ImagePixels();
     return [file, pixels, full_frame] {
@@ -35,7 +35,7 @@ struct CompressedImage {
     std::unique_ptr<BFile> data;
 };
 
-std::vector<CompressedImage> Compress(Animation& animation) {
+std::vector<CompressedImage> Compress(BenchAnimation& animation) {
     std::vector<CompressedImage> compressed;
     for (const IndexedImage& image : animation.Images()) {
         CompressedImage result{{image.left, image.top, image.width, image.height},
@@ -75,7 +75,7 @@ bool Decode(const std::vector<CompressedImage>& images, const AnimationPlan& pla
 using Decoder = std::function<bool(const CanvasVisitor&)>;
 
 // The work of a decoder, if it sees the pictures that GifLoad sees.
-Work DecodeWork(Animation& animation, const Decoder& decode) {
+Work DecodeWork(BenchAnimation& animation, const Decoder& decode) {
     CanvasDigest digest(animation.Plan());
     const auto add = [&](const uint8* row, size_t bytes) { digest.Add(row, bytes); };
     if (!decode(add)) return nullptr;
@@ -87,14 +87,14 @@ Work DecodeWork(Animation& animation, const Decoder& decode) {
     };
 }
 
-Work PrepareDecode(Animation& animation) {
+Work PrepareDecode(BenchAnimation& animation) {
     const auto images = std::make_shared<std::vector<CompressedImage>>(Compress(animation));
     return DecodeWork(animation, [images, &animation](const CanvasVisitor& visit) {
         return Decode(*images, animation.Plan(), visit);
     });
 }
 
-Work PreparePeerDecode(Animation& animation, const Peer& peer) {
+Work PreparePeerDecode(BenchAnimation& animation, const Peer& peer) {
     return DecodeWork(animation, [peer, &animation](const CanvasVisitor& visit) {
         return peer.decode(animation.File(), visit);
     });
@@ -102,7 +102,7 @@ Work PreparePeerDecode(Animation& animation, const Peer& peer) {
 
 }  // namespace
 
-void RegisterDecodeBenchmarks(Animation& animation) {
+void RegisterDecodeBenchmarks(BenchAnimation& animation) {
     Register("load", animation, "kirto", [&] { return PrepareLoad(animation, true); });
     Register("load-raw", animation, "kirto", [&] { return PrepareLoad(animation, false); });
     Register("decode", animation, "kirto", [&] { return PrepareDecode(animation); });

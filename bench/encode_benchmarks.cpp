@@ -12,7 +12,7 @@ namespace kirto::bench {
 
 namespace {
 
-int64 Encode(Animation& animation) {
+int64 Encode(BenchAnimation& animation) {
     const auto file = BFile::OnMemory();
     for (const IndexedImage& image : animation.Images()) {
         GifLzwEncoder encoder(*file, std::max(image.palette->bits, 2));
@@ -23,16 +23,16 @@ int64 Encode(Animation& animation) {
     return animation.ImagePixels();
 }
 
-bool SameImages(Animation& animation, const std::vector<uint8>& gif) {
+bool SameImages(BenchAnimation& animation, const std::vector<uint8>& gif) {
     return LoadedDigest(gif, animation.Plan()) == LoadedDigest(animation.File(), animation.Plan());
 }
 
-Work PrepareEncode(Animation& animation) {
+Work PrepareEncode(BenchAnimation& animation) {
     animation.Images();
     return [&animation] { return Encode(animation); };
 }
 
-Work PreparePeerEncode(Animation& animation, const Peer& peer) {
+Work PreparePeerEncode(BenchAnimation& animation, const Peer& peer) {
     const std::vector<uint8> result = peer.encode(animation);
     if (result.empty()) return nullptr;
     if (peer.writes_files && !SameImages(animation, result)) return nullptr;
@@ -40,7 +40,7 @@ Work PreparePeerEncode(Animation& animation, const Peer& peer) {
         [&animation, peer] { return peer.encode(animation).empty() ? 0 : animation.ImagePixels(); };
 }
 
-Work PrepareSave(Animation& animation, bool dither) {
+Work PrepareSave(BenchAnimation& animation, bool dither) {
     AnimationDocument& document = animation.Document();
     const int64 pixels = animation.ImagePixels();
     return
@@ -49,7 +49,7 @@ Work PrepareSave(Animation& animation, bool dither) {
 
 }  // namespace
 
-void RegisterEncodeBenchmarks(Animation& animation) {
+void RegisterEncodeBenchmarks(BenchAnimation& animation) {
     Register("encode", animation, "kirto", [&] { return PrepareEncode(animation); });
     for (const Peer& peer : Peers()) {
         if (animation.Plan().differences && !peer.takes_any_images) continue;

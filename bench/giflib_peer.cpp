@@ -151,7 +151,7 @@ bool DecodeWithGiflib(const std::vector<uint8>& gif, const CanvasVisitor& visit)
     return true;
 }
 
-std::vector<uint8> EncodeWithGiflib(Animation& animation) {
+std::vector<uint8> EncodeWithGiflib(BenchAnimation& animation) {
     std::vector<uint8> bytes;
     std::unique_ptr<GifFileType, CloseEncoder> file(EGifOpen(&bytes, AppendBytes, nullptr));
     if (!file) return {};

@@ -175,7 +175,7 @@ bool DecodeWithLibavcodec(const std::vector<uint8>& gif, const CanvasVisitor& vi
     return true;
 }
 
-std::vector<uint8> EncodeWithLibavcodec(Animation& animation) {
+std::vector<uint8> EncodeWithLibavcodec(BenchAnimation& animation) {
     const CodecPointer encoder = OpenEncoder(animation.Plan());
     if (!encoder) return {};
     std::vector<uint8> bytes;

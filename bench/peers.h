@@ -18,7 +18,7 @@ struct Peer {
     // then shows them to the visitor. False when the file can't be decoded.
     bool (*decode)(const std::vector<uint8>& gif, const CanvasVisitor& visit);
     // Encodes the animation's images and returns their bytes; nothing when it can't.
-    std::vector<uint8> (*encode)(Animation& animation);
+    std::vector<uint8> (*encode)(BenchAnimation& animation);
     bool writes_files;      // what encode returns is a GIF file, not only its images
     bool takes_any_images;  // encodes images smaller than the canvas
 };
@@ -26,9 +26,9 @@ struct Peer {
 std::vector<Peer> Peers();
 
 bool DecodeWithGiflib(const std::vector<uint8>& gif, const CanvasVisitor& visit);
-std::vector<uint8> EncodeWithGiflib(Animation& animation);
+std::vector<uint8> EncodeWithGiflib(BenchAnimation& animation);
 
 bool DecodeWithLibavcodec(const std::vector<uint8>& gif, const CanvasVisitor& visit);
-std::vector<uint8> EncodeWithLibavcodec(Animation& animation);
+std::vector<uint8> EncodeWithLibavcodec(BenchAnimation& animation);
 
 }  // namespace kirto::bench

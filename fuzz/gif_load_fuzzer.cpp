@@ -24,12 +24,12 @@ void CheckFrame(const Frame& frame, const AnimationDocument& document) {
 void CheckList(const AnimationDocument& document) {
     const int32 count = document.FrameCount();
     Check(document.Selected() == (count > 0 ? 0 : -1));
-    const FramePointer linked = document.FirstFrame();
-    for (int32 i = 0; i < count; ++i, linked = linked->next) {
-        Check(linked && linked == document.FrameAt(i) && linked->index == i);
-        CheckFrame(*linked, document);
+    int32 visited = 0;
+    for (const kirto::FramePointer& frame : document.Current()->frames) {
+        Check(frame && frame == document.FrameAt(visited++));
+        CheckFrame(*frame, document);
     }
-    Check(!linked);
+    Check(visited == count);
 }
 
 }  // namespace

@@ -25,13 +25,15 @@ Frame::Frame(std::string_view frame_name, int32 frame_width, int32 frame_height)
 status_t Frame::Read(const std::string& path, std::string_view frame_name,
                      BTranslatorRoster& roster, std::shared_ptr<kirto::PixelBudget> budget,
                      Frame* result) {
+    const std::shared_ptr<Palette> own_palette = kirto::SharePalette();
+    if (!own_palette) return B_NO_MEMORY;
     BFile file(path, B_READ_ONLY);
     std::shared_ptr<BBitmap> picture;
     const status_t status = roster.Translate(file, std::move(budget), &picture);
-    if (status < B_OK) return status;
+    if (status < B_OK) return status == B_NO_MEMORY ? B_NO_TRANSLATOR : status;
+    own_palette->Set(static_cast<const BBitmap*>(picture.get()));
     Frame frame(frame_name, picture->Bounds().PixelWidth(), picture->Bounds().PixelHeight());
-    frame.palette = kirto::SharePalette(Palette(static_cast<const BBitmap*>(picture.get())));
-    if (!frame.palette) return B_NO_MEMORY;
+    frame.palette = own_palette;
     frame.bitmap = std::move(picture);
     *result = std::move(frame);
     return B_OK;

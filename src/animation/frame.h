@@ -41,7 +41,8 @@ class Frame {
     // Of the given name and size, without pixels yet. Note the order.
     Frame(std::string_view frame_name, int32 frame_width, int32 frame_height);
     // Makes *result of an image file, with a palette built from the picture; its pixels are counted
-    // by the budget. B_NO_MEMORY, or the roster's error when no translator reads the file.
+    // by the budget. B_NO_MEMORY when the frame itself could not be made; the roster's error when
+    // no translator reads the file, which includes pictures beyond the budget. *result stays then.
     static status_t Read(const std::string& path, std::string_view frame_name,
                          BTranslatorRoster& roster, std::shared_ptr<kirto::PixelBudget> budget,
                          Frame* result);

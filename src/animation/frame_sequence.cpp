@@ -11,24 +11,22 @@ FramePointer FrameSequence::At(int32 i) const {
 }
 
 int32 FrameSequence::Find(FrameId id) const {
-    const auto found = std::find_if(begin(), end(),
-                                    [id](const FramePointer& frame) { return frame->id == id; });
+    const auto found =
+        std::find_if(begin(), end(), [id](const FramePointer& frame) { return frame->id == id; });
     return found == end() ? -1 : static_cast<int32>(std::distance(begin(), found));
 }
 
 void FrameSequence::Insert(int32 i, FramePointer frame) {
-    if (leaves_.empty()) {
-        SetLeaf(0, {std::move(frame)});
+    // Appending fills the last leaf before it starts another.
+    if (i == size_ && (leaves_.empty() || leaves_.back()->size() == kLeafSize)) {
+        SetLeaf(leaves_.size(), {std::move(frame)});
         return;
     }
-    // Behind the last frame counts as within the last leaf.
     const size_t leaf = i == size_ ? leaves_.size() - 1 : LeafOf(i);
     Leaf frames = *leaves_[leaf];
     frames.insert(frames.begin() + (i - starts_[leaf]), std::move(frame));
     if (frames.size() > kLeafSize) {
-        // A leaf that grows at its end is left full, so that appending fills every leaf.
-        const bool appended = i == size_;
-        const auto middle = appended ? frames.end() - 1 : frames.begin() + kLeafSize / 2;
+        const auto middle = frames.begin() + kLeafSize / 2;
         Leaf rest(std::make_move_iterator(middle), std::make_move_iterator(frames.end()));
         frames.erase(middle, frames.end());
         leaves_.insert(leaves_.begin() + static_cast<std::ptrdiff_t>(leaf) + 1,
@@ -71,7 +69,7 @@ size_t FrameSequence::LeafOf(int32 i) const {
     return static_cast<size_t>(after - starts_.begin()) - 1;
 }
 
-// Puts the frames in the leaf's place, adds a first leaf, or takes away an emptied one.
+// Puts the frames in the leaf's place, adds a last leaf, or takes away an emptied one.
 void FrameSequence::SetLeaf(size_t leaf, Leaf frames) {
     const auto place = leaves_.begin() + static_cast<std::ptrdiff_t>(leaf);
     if (frames.empty()) {
@@ -121,10 +119,9 @@ FrameSequence::Difference FrameSequence::DifferenceTo(const FrameSequence& other
 bool operator==(const FrameSequence& a, const FrameSequence& b) {
     if (a.size_ != b.size_) return false;
     if (a.leaves_ == b.leaves_) return true;
-    return std::equal(a.begin(), a.end(), b.begin(),
-                      [](const FramePointer& x, const FramePointer& y) {
-                          return x == y || *x == *y;
-                      });
+    return std::equal(
+        a.begin(), a.end(), b.begin(),
+        [](const FramePointer& x, const FramePointer& y) { return x == y || *x == *y; });
 }
 
 }  // namespace kirto

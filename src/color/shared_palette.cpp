@@ -11,10 +11,10 @@ std::shared_ptr<const Palette> DefaultPalette() {
     return palette;
 }
 
-std::shared_ptr<const Palette> SharePalette(const Palette& palette) {
+std::shared_ptr<Palette> SharePalette(const Palette& palette) {
     if (AllocationShouldFail()) return nullptr;
     try {
-        return std::make_shared<const Palette>(palette);
+        return std::make_shared<Palette>(palette);
     } catch (const std::bad_alloc&) {
         return nullptr;
     }

@@ -10,7 +10,8 @@ namespace kirto {
 // The web-safe palette that everything starts with; one object for all. Never null.
 std::shared_ptr<const Palette> DefaultPalette();
 
-// A copy on the heap, or null when memory is short.
-std::shared_ptr<const Palette> SharePalette(const Palette& palette);
+// A palette on the heap that its maker may still change until others see it. Null when memory is
+// short.
+std::shared_ptr<Palette> SharePalette(const Palette& palette = Palette());
 
 }  // namespace kirto

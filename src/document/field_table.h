@@ -13,9 +13,9 @@ namespace kirto {
 
 struct Field {
     // Animation: the animation's; Palette: the global palette's; Frame: the current frame's.
-    using Member = std::variant<int32 Animation::*, bool Animation::*, double Animation::*,
-                                int32 Palette::*, bool Palette::*, int32 Frame::*, bool Frame::*,
-                                double Frame::*>;
+    using Member =
+        std::variant<int32 Animation::*, bool Animation::*, double Animation::*, int32 Palette::*,
+                     bool Palette::*, int32 Frame::*, bool Frame::*, double Frame::*>;
     enum class Bound { kNone, kFromZero, kPaletteIndex };
 
     uint32 code;       // the command that sets it, with a "value" of the member's type

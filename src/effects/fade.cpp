@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <memory>
-#include <optional>
 
 #include "effects/fade_kernels.h"
 #include "platform/alert.h"
@@ -42,24 +41,20 @@ struct FadePlan {
     FramePointer other;  // the neighbour; null for fades of a colour
 };
 
-// A frame of the fade, or none when memory is short.
-std::optional<Frame> MakeFrame(const FadePlan& plan, const std::string& name, float f,
-                               std::shared_ptr<PixelBudget> budget) {
+// A picture of the fade, or null when memory is short.
+std::shared_ptr<const BBitmap> MakePicture(const FadePlan& plan, float f,
+                                           std::shared_ptr<PixelBudget> budget) {
     const BBitmap& current = *plan.current->bitmap;
-    const auto picture = std::make_shared<BBitmap>(
-        BRect::OfSize(current.Width(), current.Height()), B_RGB32, std::move(budget));
-    if (picture->InitCheck() != B_OK) return std::nullopt;
+    auto picture = std::make_shared<BBitmap>(BRect::OfSize(current.Width(), current.Height()),
+                                             B_RGB32, std::move(budget));
+    if (picture->InitCheck() != B_OK) return nullptr;
     if (plan.other) {
         BlendFrames(current, *plan.other->bitmap, picture.get(), f);
     } else {
         FadeToRGB(current.Bits(), current.ColorSpace(), picture->Bits(), current.Width(),
                   current.Height(), f, plan.mode == FadeMode::kToColor, plan.color);
     }
-    Frame frame(name, picture->Width(), picture->Height());
-    frame.palette = SharePalette(Palette(static_cast<const BBitmap*>(picture.get())));
-    if (!frame.palette) return std::nullopt;
-    frame.bitmap = picture;
-    return frame;
+    return picture;
 }
 
 }  // namespace
@@ -93,14 +88,20 @@ void Fade(AnimationDocument& document, FadeMode mode, int32 count, rgb_color col
     }
     int32 position = before->selected + (after ? 1 : 0);
     for (int32 i = 0; i < count && !document.StopRequested(); ++i) {
-        document.PostStatus(Format("Status: generating frame %d of %d...", i + 1, count));
-        auto frame = MakeFrame(plan, Format("fade%04d", *name_base + i),
-                               FadeFactor(mode, i, count), document.pixel_budget);
-        if (!frame) {
+        Frame frame(Format("fade%04d", *name_base + i), plan.current->bitmap->Width(),
+                    plan.current->bitmap->Height());
+        const std::shared_ptr<Palette> palette = SharePalette();
+        if (palette) {
+            document.PostStatus(Format("Status: generating frame %d of %d...", i + 1, count));
+            frame.bitmap = MakePicture(plan, FadeFactor(mode, i, count), document.pixel_budget);
+        }
+        if (!frame.bitmap) {
             WarnOutOfMemory();
             return;
         }
-        document.InsertFrame(position++, std::move(*frame));
+        palette->Set(frame.bitmap.get());
+        frame.palette = palette;
+        document.InsertFrame(position++, std::move(frame));
     }
     document.SetModified(true);
     *name_base += kNamesPerFade;

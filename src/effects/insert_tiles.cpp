@@ -48,6 +48,8 @@ TilePlace PlaceOf(int32 tile, const TileGrid& grid) {
 // A frame of one tile, or none when memory is short.
 std::optional<Frame> MakeTile(const BBitmap& picture, int32 tile, const TileGrid& grid,
                               std::shared_ptr<PixelBudget> budget) {
+    const std::shared_ptr<Palette> palette = SharePalette();
+    if (!palette) return std::nullopt;
     Frame frame(Format("tiled%04d", tile), picture.Width() / grid.columns,
                 picture.Height() / grid.rows);
     const auto bitmap = std::make_shared<BBitmap>(BRect::OfSize(frame.width, frame.height),
@@ -55,8 +57,8 @@ std::optional<Frame> MakeTile(const BBitmap& picture, int32 tile, const TileGrid
     if (bitmap->InitCheck() != B_OK) return std::nullopt;
     const TilePlace place = PlaceOf(tile, grid);
     CopyTile(picture, place.row, place.column, bitmap.get());
-    frame.palette = SharePalette(Palette(static_cast<const BBitmap*>(bitmap.get())));
-    if (!frame.palette) return std::nullopt;
+    palette->Set(static_cast<const BBitmap*>(bitmap.get()));
+    frame.palette = palette;
     frame.bitmap = bitmap;
     return frame;
 }

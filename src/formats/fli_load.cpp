@@ -155,12 +155,12 @@ bool FliLoad::ReadFliFrameData(int32 index) {
 
 bool FliLoad::StartFrame(int32 index) {
     frame_ = Frame(kirto::Format("frame%04d", index), width_, height_);
-    local_palette_ = Palette();
+    local_palette_ = kirto::SharePalette();
     const BRect bounds = BRect::OfSize(width_, height_);
-    picture_ = std::make_shared<BBitmap>(bounds, B_RGB32, document_.pixel_budget);
-    if (picture_->InitCheck() != B_OK) {
+    if (local_palette_) picture_ = std::make_shared<BBitmap>(bounds, B_RGB32, document_.pixel_budget);
+    if (!local_palette_ || picture_->InitCheck() != B_OK) {
         // No memory of any size makes a picture of no pixels.
-        out_of_memory = bounds.IsValid();
+        out_of_memory = !local_palette_ || bounds.IsValid();
         return false;
     }
     return ChargeFrame(static_cast<int64>(picture_->BitsLength()));
@@ -185,8 +185,8 @@ bool FliLoad::CopyPreviousFrame() {
 }
 
 void FliLoad::TakeLocalPalette(const Palette& source) {
-    local_palette_.colors = source.colors;
-    MarkReadFromFile(&local_palette_);
+    local_palette_->colors = source.colors;
+    MarkReadFromFile(local_palette_.get());
     frame_.local_palette = true;
 }
 
@@ -238,14 +238,13 @@ bool FliLoad::SkipUnknownChunk(const Chunk& chunk) {
 bool FliLoad::FinishFrame() {
     const BBitmap* picture = picture_.get();
     if (frame_.local_palette) {
-        local_palette_.unique_colors = local_palette_.CountUniqueColors(picture);
+        local_palette_->unique_colors = local_palette_->CountUniqueColors(picture);
     } else {
-        local_palette_.Set(picture);
+        local_palette_->Set(picture);
     }
-    frame_.palette = kirto::SharePalette(local_palette_);
+    frame_.palette = std::move(local_palette_);
     frame_.bitmap = std::move(picture_);
-    out_of_memory = !frame_.palette;
-    return !out_of_memory && document_.InsertFrame(position_, std::move(frame_));
+    return document_.InsertFrame(position_, std::move(frame_));
 }
 
 // The document's first frame defines the global palette, any other frame one of its own. Pixels
@@ -265,7 +264,7 @@ bool FliLoad::ReadFliCOLORChunk(int64 size, bool full8bit) {
         return true;
     }
     if (!frame_.local_palette && !TakePreviousPalette()) return false;
-    kirto::ReadFliColors(data, factor, &local_palette_.colors);
+    kirto::ReadFliColors(data, factor, &local_palette_->colors);
     return true;
 }
 
@@ -345,7 +344,7 @@ bool FliLoad::ReadFliBLACKChunk() {
 kirto::FliPixelWriter FliLoad::Writer() {
     StartPicture();
     const auto animation = document_.Current();
-    return FliPixelWriter(*picture_, frame_.local_palette ? local_palette_ : *animation->palette);
+    return FliPixelWriter(*picture_, frame_.local_palette ? *local_palette_ : *animation->palette);
 }
 
 // The file's first picture starts black, but only once there is something to draw into it: until

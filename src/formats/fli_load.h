@@ -75,6 +75,6 @@ class FliLoad {
     // The frame being read, not yet inserted; its own palette, in force where the frame is marked
     // local; and its pixels.
     Frame frame_;
-    Palette local_palette_;
+    std::shared_ptr<Palette> local_palette_;
     std::shared_ptr<BBitmap> picture_;
 };

@@ -47,11 +47,10 @@ GifLoad::GifLoad(BFile* file, int32 start, AnimationDocument& document)
       next_position_(start),
       full_frame_(document.prefs.animation_gifloadfullframe) {
     Init();
-    if (!ReadGifHeader()) {
+    if (!ReadGifHeader() || !StartFrame()) {
         failed = true;
         return;
     }
-    StartFrame();
     uint8 introducer = 0;
     do {
         if (!file_->ReadExactly(&introducer, 1) || !ReadBlock(introducer)) {
@@ -109,25 +108,21 @@ bool GifLoad::ReadImage() {
     if (document_.StopRequested()) return false;
     if (!ReadGifImageHeader() || !ReadGifImageData() || !FinishFrame()) return false;
     ++next_position_;
-    StartFrame();
-    return true;
+    if (StartFrame()) return true;
+    kirto::DebugLine("GifLoad::GifLoad() - Out of memory\n");
+    return false;
 }
 
 // Gives the frame its palette and its pixels, and the document the frame.
 bool GifLoad::FinishFrame() {
     const BBitmap* picture = picture_.get();
     if (frame_.local_palette) {
-        local_palette_.unique_colors = local_palette_.CountUniqueColors(picture);
+        local_palette_->unique_colors = local_palette_->CountUniqueColors(picture);
     } else {
-        local_palette_.Set(picture);
+        local_palette_->Set(picture);
     }
-    frame_.palette = kirto::SharePalette(local_palette_);
+    frame_.palette = std::move(local_palette_);
     frame_.bitmap = std::move(picture_);
-    out_of_memory = !frame_.palette;
-    if (out_of_memory) {
-        kirto::DebugLine("GifLoad::GifLoad() - Out of memory\n");
-        return false;
-    }
     return document_.InsertFrame(next_position_, std::move(frame_));
 }
 
@@ -235,12 +230,12 @@ bool GifLoad::ReadGifImageHeader() {
         return false;
     }
     frame_.local_palette = (header[8] & 0x80) != 0;
-    if (frame_.local_palette && !ReadColorTable(&local_palette_, (header[8] & 7) + 1)) {
+    if (frame_.local_palette && !ReadColorTable(local_palette_.get(), (header[8] & 7) + 1)) {
         return false;
     }
     interlaced_ = (header[8] & 0x40) != 0;
-    const BRect bounds = full_frame_ ? BRect::OfSize(width_, height_)
-                                     : BRect::OfSize(frame_.width, frame_.height);
+    const BRect bounds =
+        full_frame_ ? BRect::OfSize(width_, height_) : BRect::OfSize(frame_.width, frame_.height);
     picture_ = std::make_shared<BBitmap>(bounds, B_RGB32, document_.pixel_budget);
     if (picture_->InitCheck() != B_OK) {
         // No memory of any size makes a picture of no pixels.
@@ -347,9 +342,11 @@ bool GifLoad::ReadCodeSize(int32* min_code_size) {
     return true;
 }
 
-void GifLoad::StartFrame() {
+bool GifLoad::StartFrame() {
     frame_ = Frame(kirto::Format("frame%04d", next_position_), 0, 0);
-    local_palette_ = Palette();
+    local_palette_ = kirto::SharePalette();
+    out_of_memory = !local_palette_;
+    return !out_of_memory;
 }
 
 bool GifLoad::CoversScreen() const {
@@ -357,7 +354,7 @@ bool GifLoad::CoversScreen() const {
 }
 
 const Palette& GifLoad::CurrentPalette() const {
-    return frame_.local_palette ? local_palette_ : global_palette_;
+    return frame_.local_palette ? *local_palette_ : global_palette_;
 }
 
 rgb_color GifLoad::BackgroundColor() const {

@@ -37,7 +37,7 @@ class GifLoad {
     bool ReadCodeSize(int32* min_code_size);
     bool ReadColorTable(Palette* palette, int32 bits);
     bool SkipSubBlocks();
-    void StartFrame();
+    bool StartFrame();
     bool FinishFrame();
     bool IsFirst() const { return next_position_ == start_; }
     bool CoversScreen() const;
@@ -60,6 +60,6 @@ class GifLoad {
     // The frame being read, not yet inserted; its own palette, in force where the frame is marked
     // local; and its pixels.
     Frame frame_;
-    Palette local_palette_;
+    std::shared_ptr<Palette> local_palette_;
     std::shared_ptr<BBitmap> picture_;
 };

@@ -9,7 +9,7 @@
 
 // Every user setting of the program, as public fields, kept as typed attributes named like the
 // fields. The program's settings are one object, made at start, that belongs to the application
-// thread and changes under the document's writer lock; windows keep copies.
+// thread; windows look at the copy in the document's state.
 class Prefs {
   public:
     // The fields in the order in which they are read and written. Reading stops at the first

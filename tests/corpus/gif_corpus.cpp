@@ -51,15 +51,14 @@ uint32 WebSafeColor(int32 index) {
 void ExpectSoundList(const AnimationDocument& document) {
     const int32 count = document.FrameCount();
     EXPECT_EQ(document.Selected(), count > 0 ? 0 : -1);
-    const FramePointer linked = document.FirstFrame();
-    for (int32 i = 0; i < count; ++i, linked = linked->next) {
-        ASSERT_EQ(linked, document.FrameAt(i));
-        EXPECT_EQ(linked->index, i);
-        EXPECT_EQ(linked->bitmap->InitCheck(), B_OK);
-        EXPECT_EQ(linked->bitmap->Width(), linked->width);
-        EXPECT_EQ(linked->bitmap->Height(), linked->height);
+    int32 visited = 0;
+    for (const FramePointer& frame : document.Current()->frames) {
+        ASSERT_EQ(frame, document.FrameAt(visited++));
+        EXPECT_EQ(frame->bitmap->InitCheck(), B_OK);
+        EXPECT_EQ(frame->bitmap->Width(), frame->width);
+        EXPECT_EQ(frame->bitmap->Height(), frame->height);
     }
-    EXPECT_EQ(linked, nullptr);
+    EXPECT_EQ(visited, count);
 }
 
 std::map<std::string, std::vector<CorpusRow>> RawImages(const std::filesystem::path& folder) {

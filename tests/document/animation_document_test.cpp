@@ -76,7 +76,7 @@ TEST(AnimationDocument, WorksWithoutAWindow) {
     EXPECT_EQ(Names(document), NameList{"one"});
 }
 
-TEST(AnimationDocument, AppendsAFrameWhoseIndexIsTheCount) {
+TEST(AnimationDocument, AppendsAFrameWhosePositionIsTheCount) {
     ThreeFrames fixture;
 
     EXPECT_TRUE(Insert(fixture.document, "four", 3));
@@ -85,7 +85,7 @@ TEST(AnimationDocument, AppendsAFrameWhoseIndexIsTheCount) {
     ExpectConsistent(fixture.document);
 }
 
-TEST(AnimationDocument, LeavesAFrameOutsideTheListToItsCaller) {
+TEST(AnimationDocument, InsertsNoFrameOutsideTheList) {
     ThreeFrames fixture;
     const std::string before = fixture.port->Transcript();
 
@@ -97,7 +97,7 @@ TEST(AnimationDocument, LeavesAFrameOutsideTheListToItsCaller) {
     ExpectConsistent(fixture.document);
 }
 
-TEST(AnimationDocument, InsertsBetweenFramesAndNumbersThoseBehind) {
+TEST(AnimationDocument, InsertsBetweenFrames) {
     ThreeFrames fixture;
 
     EXPECT_TRUE(Insert(fixture.document, "new", 1));
@@ -119,7 +119,7 @@ TEST(AnimationDocument, KeepsTheSelectedNumberWhenAFrameComesInBefore) {
 TEST(AnimationDocument, MakesAFrameInsertedAsCurrentTheCurrentOne) {
     ThreeFrames fixture;
 
-    fixture.document.InsertFrameAsCurrent(MakeFrame("new", 1).release());
+    fixture.document.InsertFrameAsCurrent(1, MakeFrame("new"));
 
     EXPECT_EQ(Names(fixture.document), (NameList{"one", "new", "two", "three"}));
     EXPECT_EQ(fixture.document.Selected(), 1);
@@ -129,12 +129,12 @@ TEST(AnimationDocument, MakesAFrameInsertedAsCurrentTheCurrentOne) {
     ExpectConsistent(fixture.document);
 }
 
-TEST(AnimationDocument, ClampsTheIndexOfAFrameInsertedAsCurrent) {
+TEST(AnimationDocument, ClampsThePositionOfAFrameInsertedAsCurrent) {
     ThreeFrames fixture;
 
-    fixture.document.InsertFrameAsCurrent(MakeFrame("last", 99).release());
+    fixture.document.InsertFrameAsCurrent(99, MakeFrame("last"));
     EXPECT_EQ(fixture.document.Selected(), 3);
-    fixture.document.InsertFrameAsCurrent(MakeFrame("first", -7).release());
+    fixture.document.InsertFrameAsCurrent(-7, MakeFrame("first"));
     EXPECT_EQ(fixture.document.Selected(), 0);
 
     EXPECT_EQ(Names(fixture.document), (NameList{"first", "one", "two", "three", "last"}));
@@ -145,11 +145,11 @@ TEST(AnimationDocument, TakesItsSizeFromTheFirstFrameInsertedAsCurrentWhereTheSe
     for (const bool set_dimensions : {true, false}) {
         DocumentFixture fixture;
         fixture.prefs.global_setdimensions = set_dimensions;
-        auto frame = MakeFrame("one", 5);
-        frame->width = 40;
-        frame->height = 30;
+        Frame frame = MakeFrame("one");
+        frame.width = 40;
+        frame.height = 30;
 
-        fixture.document.InsertFrameAsCurrent(frame.release());
+        fixture.document.InsertFrameAsCurrent(5, frame);
 
         EXPECT_EQ(fixture.document.Current()->width, set_dimensions ? 40 : 320);
         EXPECT_EQ(fixture.document.Current()->height, set_dimensions ? 30 : 240);
@@ -317,21 +317,6 @@ TEST(AnimationDocument, HasNoFrameAtItsCount) {
     EXPECT_EQ(fixture.document.FrameAt(3), nullptr);
     EXPECT_EQ(fixture.document.FrameAt(-1), nullptr);
     EXPECT_EQ(fixture.document.FrameAt(2)->name, "three");
-}
-
-TEST(AnimationDocument, FindsTheFirstFrameThatIsLargerThanTheCanvas) {
-    ThreeFrames fixture;
-    AnimationDocument& document = fixture.document;
-    EditOf(document)->width = 5;
-    EditOf(document)->height = 5;
-    EXPECT_EQ(document.FrameLargerThanCanvas(), nullptr);
-
-    FrameEditOf(document, 2)->width = 6;
-    EXPECT_EQ(document.FrameLargerThanCanvas(), document.FrameAt(2));
-    FrameEditOf(document, 1)->height = 6;
-    EXPECT_EQ(document.FrameLargerThanCanvas(), document.FrameAt(1));
-    FrameEditOf(document, 0)->width = 5;
-    EXPECT_EQ(document.FrameLargerThanCanvas(), document.FrameAt(1));
 }
 
 TEST(AnimationDocument, LetsThePaletteFollowTheFirstOrTheCurrentFrame) {

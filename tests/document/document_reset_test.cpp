@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 #include <thread>
 
-#include "document/document_scope.h"
+#include "document/animation_document.h"
 #include "support/gif_builder.h"
 #include "support/test_support.h"
 
@@ -25,7 +25,7 @@ struct PaletteFileFixture : DocumentFixture {
     }
 };
 
-// While an alert is up, tries to read the document on a thread of its own.
+// While an alert is up, reads the document on a thread of its own.
 class ReadingPresenter : public AlertPresenter {
   public:
     explicit ReadingPresenter(AnimationDocument& document)
@@ -34,15 +34,20 @@ class ReadingPresenter : public AlertPresenter {
 
     int32 Present(const BAlert&) override {
         std::thread([this] {
-            const TryReaderScope reader(document_);
-            entered = reader.Entered();
+            const auto state = document_.CurrentState();
+            seen_mode = state->animation->palette->mode;
+            seen_frames = state->animation->frames.Size();
+            lock_is_free = try_acquire_sem(document_.frame_sem) == B_OK;
+            if (lock_is_free) release_sem(document_.frame_sem);
         }).join();
         ++shown;
         return 0;
     }
 
     int32 shown = 0;
-    bool entered = true;
+    int32 seen_mode = -1;
+    int32 seen_frames = -1;
+    bool lock_is_free = false;
 
   private:
     AnimationDocument& document_;
@@ -62,7 +67,6 @@ TEST(AnimationDocument, IsEmptyUntitledAndUnmodifiedAtFirst) {
     EXPECT_FALSE(document.Modified());
     EXPECT_EQ(document.CurrentState()->file_name, "untitled");
     EXPECT_EQ(document.CurrentState()->file_directory, "");
-    EXPECT_FALSE(document.open_panel_delivered);
     EXPECT_EQ(document.reader_count, 0);
     EXPECT_EQ(fixture.port->Transcript(), "");
 }
@@ -92,8 +96,7 @@ TEST(AnimationDocument, DeletesEveryFrameAtAReset) {
     }
     document.Select(2);
     document.SetModified(true);
-    document.file_name = "movie.gif";
-    document.file_directory = "/films";
+    document.SetFile("/films", "movie.gif");
 
     document.Reset();
 
@@ -201,27 +204,18 @@ TEST(AnimationDocument, LeavesNothingOfAPaletteFileThatEndsEarly) {
     EXPECT_EQ(fixture.document.Current()->palette->size, kWebSafeSize);
 }
 
-TEST(AnimationDocument, ShowsThePaletteWarningWhileOthersCanNotReadYet) {
+TEST(AnimationDocument, ShowsThePaletteWarningWhileOthersReadTheDocumentThatIsReset) {
     PaletteFileFixture fixture;
+    AppendFrame(fixture.document, PictureOf(1, 1, {0}), "frame");
+    PaletteEditOf(fixture.document)->Set(kPaletteGreyscale);
     ReadingPresenter presenter(fixture.document);
 
     fixture.document.Reset();
 
     EXPECT_EQ(presenter.shown, 1);
-    EXPECT_FALSE(presenter.entered);
-    const TryReaderScope reader(fixture.document);
-    EXPECT_TRUE(reader.Entered());
-}
-
-TEST(AnimationDocument, GivesBackItsSemaphore) {
-    Prefs prefs{Prefs::BuiltIn{}};
-    sem_id semaphore = -1;
-    {
-        const AnimationDocument document(prefs);
-        semaphore = document.frame_sem;
-    }
-
-    EXPECT_EQ(delete_sem(semaphore), B_BAD_SEM_ID);
+    EXPECT_EQ(presenter.seen_mode, kPaletteWebSafe);
+    EXPECT_EQ(presenter.seen_frames, 0);
+    EXPECT_TRUE(presenter.lock_is_free);
 }
 
 TEST(AnimationDocument, DithersNoGreysAtAReset) {

@@ -22,8 +22,8 @@ using NameList = std::vector<std::string>;
 NameList Names(const AnimationDocument& document) {
     NameList names;
     for (const FramePointer& frame : document.Current()->frames) {
-        names.push_back(frame->index == document.Selected() ? "[" + frame->name + "]"
-                                                            : frame->name);
+        const bool current = static_cast<int32>(names.size()) == document.Selected();
+        names.push_back(current ? "[" + frame->name + "]" : frame->name);
     }
     return names;
 }
@@ -325,8 +325,8 @@ TEST(Fade, StopsWithOutOfMemoryAndKeepsTheFramesInsertedSoFar) {
             ASSERT_EQ(line, "WARNING [] Out of memory. | OK");
         if (inserted < 3) ++stopped_fades;
     }
-    // Frame, palette and pixels of three frames; the local palettes are no reason to stop.
-    EXPECT_GE(stopped_fades, 9);
+    // Palette and pixels of three frames; too little memory to count colours is no reason to stop.
+    EXPECT_GE(stopped_fades, 6);
 }
 
 TEST(Fade, ReportsMemoryOnlyAfterTheStatusOfAFrameThatCouldBeMade) {
@@ -339,8 +339,7 @@ TEST(Fade, ReportsMemoryOnlyAfterTheStatusOfAFrameThatCouldBeMade) {
         return fixture.port->Transcript();
     };
     EXPECT_EQ(transcript_with_fault(1), "");
-    EXPECT_EQ(transcript_with_fault(2), "");
-    EXPECT_EQ(transcript_with_fault(3), "svup(Status: generating frame 1 of 1...)");
+    EXPECT_EQ(transcript_with_fault(2), "svup(Status: generating frame 1 of 1...)");
 }
 
 TEST(Fade, StopsWhereTheDocumentsPixelMemoryEnds) {

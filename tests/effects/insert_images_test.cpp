@@ -55,8 +55,7 @@ struct InsertFixture : DocumentFixture {
     Lines Names() const {
         Lines names;
         for (const FramePointer& frame : document.Current()->frames) {
-            EXPECT_EQ(frame->index, static_cast<int32>(names.size()));
-            const bool current = frame->index == document.Selected();
+            const bool current = static_cast<int32>(names.size()) == document.Selected();
             names.push_back(current ? "[" + frame->name + "]" : frame->name);
         }
         return names;

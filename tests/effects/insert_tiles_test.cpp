@@ -54,10 +54,8 @@ struct TilesFixture : DocumentFixture {
 
     Lines Names() const {
         Lines names;
-        for (const FramePointer& frame : document.Current()->frames) {
-            EXPECT_EQ(frame->index, static_cast<int32>(names.size()));
+        for (const FramePointer& frame : document.Current()->frames)
             names.push_back(frame->name);
-        }
         return names;
     }
     // The first pixel of each frame.
@@ -313,8 +311,8 @@ TEST(InsertTiles, StopsWithOutOfMemoryAndKeepsTheTilesInsertedSoFar) {
             ASSERT_EQ(line, kOutOfMemory);
         if (inserted < 3) ++stopped;
     }
-    // Frame, palette and pixels of three tiles; the local palettes are no reason to stop.
-    EXPECT_GE(stopped, 9);
+    // Palette and pixels of three tiles; too little memory to count colours is no reason to stop.
+    EXPECT_GE(stopped, 6);
 }
 
 TEST(InsertTiles, StopsWhereTheDocumentsPixelMemoryEnds) {

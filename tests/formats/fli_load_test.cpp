@@ -275,7 +275,6 @@ TEST_F(FliLoadTest, FramesAreCompleteRecords) {
     EXPECT_EQ(frame->bitmap->ColorSpace(), B_RGB32);
     EXPECT_EQ(frame->width, 2);
     EXPECT_EQ(frame->height, 1);
-    EXPECT_EQ(frame->index, 0);
     EXPECT_FALSE(frame->local_palette);
     EXPECT_FALSE(frame->use_pause);
     EXPECT_EQ(frame->palette->mode, kPaletteOptimal);
@@ -293,8 +292,8 @@ TEST_F(FliLoadTest, LaterFramesStartFromTheOneBefore) {
 }
 
 TEST_F(FliLoadTest, AFirstFrameBehindExistingOnesStartsBlackButTakesTheirPalette) {
-    Frame* before = AppendFrame(document_, PictureOf(2, 1, {kRed, kGreen}), "before");
-    before->palette->colors[7] = {1, 2, 3, 255};
+    const FrameHandle before = AppendFrame(document_, PictureOf(2, 1, {kRed, kGreen}), "before");
+    before.Palette()->colors[7] = {1, 2, 3, 255};
     before->local_palette = true;
     FliBuilder fli(2, 1);
     fli.Record().Color256({{9, {0x00FF00}}}).Lc(0, {{{1, 1, {9}}}});
@@ -338,10 +337,10 @@ TEST_F(FliLoadTest, ALocalPaletteIsHandedOnToLaterFrames) {
 }
 
 TEST_F(FliLoadTest, OnlyTheEntriesOfAPaletteAreCopied) {
-    Frame* before = AppendFrame(document_, PictureOf(1, 1, {kRed}), "before");
+    const FrameHandle before = AppendFrame(document_, PictureOf(1, 1, {kRed}), "before");
     before->local_palette = true;
-    before->palette->transparent_index = 5;
-    before->palette->use_transparent = true;
+    before.Palette()->transparent_index = 5;
+    before.Palette()->use_transparent = true;
     FliBuilder fli(1, 1);
     fli.Record().Color256({{9, {1}}});
 

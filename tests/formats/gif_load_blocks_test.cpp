@@ -339,7 +339,6 @@ TEST_F(GifLoadBlocks, FramesAreNumberedAndNamedFromZero) {
 
     EXPECT_EQ(FrameOf(0).name, "frame0000");
     EXPECT_EQ(FrameOf(1).name, "frame0001");
-    EXPECT_EQ(FrameOf(1).index, 1);
     EXPECT_EQ(document.Selected(), 0);
     EXPECT_FALSE(document.Modified());
     EXPECT_EQ(end, 2);

@@ -24,7 +24,7 @@ std::vector<uint32> GreyNoise(size_t count) {
 
 TEST(GifSave, WritesPlaceAndSizeOfEachFrame) {
     PlainDocument plain;
-    Frame* frame = plain.Add(2, 3, std::vector<uint32>(6, kBlack));
+    const FrameHandle frame = plain.Add(2, 3, std::vector<uint32>(6, kBlack));
     frame->x_offset = 0x0102;
     frame->y_offset = 0x30405;
     EXPECT_EQ(plain.SaveParts().images.at(0).descriptor, (Bytes{',', 2, 1, 5, 4, 2, 0, 3, 0, 0}));
@@ -32,10 +32,10 @@ TEST(GifSave, WritesPlaceAndSizeOfEachFrame) {
 
 TEST(GifSave, ALocalPaletteIsWrittenBehindItsImage) {
     PlainDocument plain;
-    Frame* frame = plain.Add(1, 2, {0xFF102030, 0xFF405060});
-    frame->palette->bits = 2;
-    frame->palette->colors[2] = {7, 8, 9, 255};
-    frame->palette->colors[3] = {10, 11, 12, 255};
+    const FrameHandle frame = plain.Add(1, 2, {0xFF102030, 0xFF405060});
+    frame.Palette()->bits = 2;
+    frame.Palette()->colors[2] = {7, 8, 9, 255};
+    frame.Palette()->colors[3] = {10, 11, 12, 255};
     frame->local_palette = true;
     const GifImageParts image = plain.SaveParts().images.at(0);
     EXPECT_EQ(image.descriptor[9], 0x81);
@@ -47,9 +47,9 @@ TEST(GifSave, TheCodeSizeIsThatOfThePaletteInUse) {
     for (int32 bits = 1; bits <= 8; ++bits) {
         PlainDocument plain;
         PaletteEditOf(plain.document)->bits = bits;
-        Frame* frame = plain.Add(1, 1, {kWhite});
-        frame->palette->bits = 9 - bits;
-        plain.Add(1, 1, {kWhite})->palette->bits = 9 - bits;
+        const FrameHandle frame = plain.Add(1, 1, {kWhite});
+        frame.Palette()->bits = 9 - bits;
+        plain.Add(1, 1, {kWhite}).Palette()->bits = 9 - bits;
         frame->local_palette = true;
         const GifParts parts = plain.SaveParts();
         EXPECT_EQ(parts.images.at(0).code_size, std::max(9 - bits, 2));
@@ -156,8 +156,8 @@ TEST(GifSave, AFrameThatNeedsAnIndexPastItsLocalTableGetsItWider) {
     PaletteEditOf(plain.document)->Set(kPaletteWebSafe);
     PaletteEditOf(plain.document)->use_transparent = true;
     PaletteEditOf(plain.document)->transparent_index = 255;
-    Frame* frame = plain.Add(2, 1, {0x80FFFFFF, 0xFF0000FF});
-    MakeBlackAndWhite(frame->palette.get());
+    const FrameHandle frame = plain.Add(2, 1, {0x80FFFFFF, 0xFF0000FF});
+    MakeBlackAndWhite(&*frame.Palette());
     frame->local_palette = true;
     const GifImageParts image = plain.SaveParts().images.at(0);
     EXPECT_EQ(image.descriptor[9], 0x87);
@@ -168,10 +168,9 @@ TEST(GifSave, AFrameThatNeedsAnIndexPastItsLocalTableGetsItWider) {
 TEST(GifSave, LevelsPastAShortGreyRampGetAWiderTable) {
     // 128 entries read from a file into what was the grey ramp before are recognised as the ramp.
     PlainDocument plain;
-    Palette& palette = *plain.document.Current()->palette;
-    palette.Set(kPaletteGreyscale);
-    palette.bits = 7;
-    palette.size = 128;
+    PaletteEditOf(plain.document)->Set(kPaletteGreyscale);
+    PaletteEditOf(plain.document)->bits = 7;
+    PaletteEditOf(plain.document)->size = 128;
     plain.Add(2, 1, {kBlack, kWhite});
     plain.Add(1, 1, {0xFF7F7F7F});
     const GifParts parts = plain.SaveParts();
@@ -183,8 +182,7 @@ TEST(GifSave, LevelsPastAShortGreyRampGetAWiderTable) {
 
 TEST(GifSave, AFrameWithoutPixelsIsAnImageWithoutData) {
     PlainDocument plain;
-    auto frame = std::make_unique<Frame>();
-    if (plain.document.InsertFrame(frame.get())) static_cast<void>(frame.release());
+    plain.document.InsertFrame(0, Frame());
     const GifImageParts image = plain.SaveParts().images.at(0);
     EXPECT_EQ(image.descriptor, (Bytes{',', 0, 0, 0, 0, 0, 0, 0, 0, 0}));
     EXPECT_EQ(image.image_data, (Bytes{2, 2, 0x2C, 0, 0}));
@@ -193,8 +191,7 @@ TEST(GifSave, AFrameWithoutPixelsIsAnImageWithoutData) {
 TEST(GifSave, AFrameWithoutAPictureIsTransparent) {
     PlainDocument plain;
     PaletteEditOf(plain.document)->transparent_index = 1;
-    auto frame = std::make_unique<Frame>("frame", 2, 2, 0);
-    if (plain.document.InsertFrame(frame.get())) static_cast<void>(frame.release());
+    plain.document.InsertFrame(0, Frame("frame", 2, 2));
     EXPECT_EQ(plain.SaveParts().images.at(0).image_data, ReferenceImageData(Bytes(4, 1), 2));
 }
 

@@ -12,22 +12,23 @@ namespace kirto::test {
 
 namespace {
 
-void ExpectImageAsMeant(const Slurped& slurped, const AnimationDocument& document,
-                        const Frame& frame, bool pixels_are_known) {
-    const SavedImage& image = slurped.Image(frame.index);
+void ExpectImageAsMeant(const Slurped& slurped, const AnimationDocument& document, int32 index,
+                        bool pixels_are_known) {
+    const Frame& frame = *document.FrameAt(index);
+    const SavedImage& image = slurped.Image(index);
     EXPECT_EQ(image.ImageDesc.Left, frame.x_offset);
     EXPECT_EQ(image.ImageDesc.Top, frame.y_offset);
     ASSERT_EQ(image.ImageDesc.Width, frame.width);
     ASSERT_EQ(image.ImageDesc.Height, frame.height);
     EXPECT_EQ(image.ImageDesc.Interlace, document.prefs.animation_gifinterlaced);
-    const GraphicsControlBlock control = slurped.Control(frame.index);
+    const GraphicsControlBlock control = slurped.Control(index);
     const Palette& palette = *document.Current()->palette;
     EXPECT_EQ(control.DelayTime, DelayOf(document, frame));
     EXPECT_EQ(control.DisposalMode, std::min(document.prefs.animation_gifdisposal, 3));
     EXPECT_EQ(control.TransparentColor,
               palette.use_transparent ? palette.transparent_index : NO_TRANSPARENT_COLOR);
     if (!pixels_are_known) return;
-    ASSERT_TRUE(slurped.ImagePixels(frame.index) == MeantPixels(document, frame));
+    ASSERT_TRUE(slurped.ImagePixels(index) == MeantPixels(document, frame));
 }
 
 // The content of the extension blocks before the first image, label before content.
@@ -74,8 +75,8 @@ void ExpectReadAsMeant(const DocumentStyle& style, uint32 first_seed, uint32 cou
         EXPECT_EQ(slurped.Gif().SHeight, document.Current()->height);
         EXPECT_EQ(slurped.Gif().SBackGroundColor, document.Current()->palette->background_index);
         ExpectLoopAndComment(slurped, document);
-        for (const FramePointer& frame : document.Current()->frames)
-            ExpectImageAsMeant(slurped, document, *frame, made.PixelsAreKnown(style));
+        for (int32 i = 0; i < document.FrameCount(); ++i)
+            ExpectImageAsMeant(slurped, document, i, made.PixelsAreKnown(style));
         if (testing::Test::HasFailure()) return;
     }
 }

@@ -41,7 +41,7 @@ std::vector<Pixels> FullSizePictures(const AnimationDocument& saved,
                        kTransparentPixel);
     std::vector<Pixels> pictures;
     for (const FramePointer& frame : saved.Current()->frames) {
-        const Frame& loaded_frame = *loaded.FrameAt(frame->index);
+        const Frame& loaded_frame = *loaded.FrameAt(static_cast<int32>(pictures.size()));
         const Palette& palette =
             loaded_frame.local_palette ? *loaded_frame.palette : *loaded.Current()->palette;
         const rgb_color background =
@@ -70,9 +70,10 @@ void ExpectSamePixels(const AnimationDocument& saved, const AnimationDocument& l
     const std::vector<Pixels> pictures = saved.prefs.animation_gifloadfullframe
                                              ? FullSizePictures(saved, loaded)
                                              : OwnSizePictures(saved);
+    size_t number = 0;
     for (const FramePointer& frame : loaded.Current()->frames) {
-        ASSERT_TRUE(PixelsOf(*frame->bitmap) == pictures[static_cast<size_t>(frame->index)])
-            << "frame " << frame->index;
+        ASSERT_TRUE(PixelsOf(*frame->bitmap) == pictures[number]) << "frame " << number;
+        ++number;
     }
 }
 
@@ -95,9 +96,10 @@ void ExpectSameProperties(const AnimationDocument& saved, const AnimationDocumen
 void ExpectSameFrames(const AnimationDocument& saved, const AnimationDocument& loaded) {
     ASSERT_EQ(loaded.FrameCount(), saved.FrameCount());
     const bool own_size = !saved.prefs.animation_gifloadfullframe;
-    for (const FramePointer& frame : saved.Current()->frames) {
-        const Frame& other = *loaded.FrameAt(frame->index);
-        EXPECT_EQ(DelayOf(loaded, other), DelayOf(saved, *frame)) << "frame " << frame->index;
+    for (int32 i = 0; i < saved.FrameCount(); ++i) {
+        const FramePointer frame = saved.FrameAt(i);
+        const Frame& other = *loaded.FrameAt(i);
+        EXPECT_EQ(DelayOf(loaded, other), DelayOf(saved, *frame)) << "frame " << i;
         EXPECT_EQ(other.width, own_size ? frame->width : saved.Current()->width);
         EXPECT_EQ(other.height, own_size ? frame->height : saved.Current()->height);
         EXPECT_EQ(other.x_offset, own_size ? frame->x_offset : 0);

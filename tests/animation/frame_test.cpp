@@ -1,5 +1,6 @@
 #include "animation/frame.h"
 
+#include <functional>
 #include <gtest/gtest.h>
 
 #include "support/test_support.h"
@@ -35,7 +36,7 @@ class OnePictureRoster : public BTranslatorRoster {
     BMessage DefaultSettings(translator_id) const override { return {}; }
 };
 
-// A file for the roster, and frames made from it.
+// A file for the roster, and what Frame::Read makes of it.
 struct ImageFile {
     TemporaryFolder folder;
     std::string path = folder.File("picture.png");
@@ -46,9 +47,14 @@ struct ImageFile {
         roster.picture = std::move(picture);
         WriteBytes(path, {'p', 'n', 'g'});
     }
-    std::unique_ptr<Frame> Load(const std::string& name = "picture.png", int32 index = 4) {
-        return std::make_unique<Frame>(path.c_str(), name, index, roster, budget);
+    // The frame of the file; a blank one, and the status, where that fails.
+    Frame Load(const std::string& name = "picture.png") {
+        Frame frame;
+        status = Frame::Read(path, name, roster, budget, &frame);
+        return frame;
     }
+
+    status_t status = B_ERROR;
 };
 
 void ExpectNoPlaceAndNoPause(const Frame& frame) {
@@ -57,7 +63,6 @@ void ExpectNoPlaceAndNoPause(const Frame& frame) {
     EXPECT_EQ(frame.pause_length, 0.0);
     EXPECT_FALSE(frame.use_pause);
     EXPECT_FALSE(frame.local_palette);
-    EXPECT_EQ(frame.next, nullptr);
 }
 
 }  // namespace
@@ -65,24 +70,20 @@ void ExpectNoPlaceAndNoPause(const Frame& frame) {
 TEST(Frame, WithoutArgumentsIsBlankAndWebSafe) {
     const Frame frame;
 
-    EXPECT_FALSE(frame.init_failed);
     EXPECT_EQ(frame.name, "");
     EXPECT_EQ(frame.width, 0);
     EXPECT_EQ(frame.height, 0);
-    EXPECT_EQ(frame.index, 0);
     EXPECT_EQ(frame.bitmap, nullptr);
     ExpectNoPlaceAndNoPause(frame);
     EXPECT_EQ(frame.palette->mode, kPaletteWebSafe);
 }
 
 TEST(Frame, TakesItsWidthBeforeItsHeight) {
-    const Frame frame("tile", 320, 240, 3);
+    const Frame frame("tile", 320, 240);
 
-    EXPECT_FALSE(frame.init_failed);
     EXPECT_EQ(frame.name, "tile");
     EXPECT_EQ(frame.width, 320);
     EXPECT_EQ(frame.height, 240);
-    EXPECT_EQ(frame.index, 3);
     EXPECT_EQ(frame.bitmap, nullptr);
     ExpectNoPlaceAndNoPause(frame);
     EXPECT_EQ(frame.palette->mode, kPaletteWebSafe);
@@ -91,49 +92,48 @@ TEST(Frame, TakesItsWidthBeforeItsHeight) {
 TEST(Frame, FromAnImageFileHoldsThePictureAsItWasDelivered) {
     ImageFile file(PictureOf(2, 1, {kRed, kBlue}, B_RGBA32_BIG));
 
-    const auto frame = file.Load("picture.png", 4);
+    const Frame frame = file.Load("picture.png");
 
-    EXPECT_FALSE(frame->init_failed);
-    EXPECT_EQ(frame->bitmap, file.roster.picture);
-    EXPECT_EQ(frame->bitmap->ColorSpace(), B_RGBA32_BIG);
-    EXPECT_EQ(frame->name, "picture.png");
-    EXPECT_EQ(frame->width, 2);
-    EXPECT_EQ(frame->height, 1);
-    EXPECT_EQ(frame->index, 4);
-    ExpectNoPlaceAndNoPause(*frame);
+    EXPECT_EQ(file.status, B_OK);
+    EXPECT_EQ(frame.bitmap, file.roster.picture);
+    EXPECT_EQ(frame.bitmap->ColorSpace(), B_RGBA32_BIG);
+    EXPECT_EQ(frame.name, "picture.png");
+    EXPECT_EQ(frame.width, 2);
+    EXPECT_EQ(frame.height, 1);
+    ExpectNoPlaceAndNoPause(frame);
 }
 
 TEST(Frame, WithPictureBoundsTo99And49Is100By50) {
     ImageFile file(std::make_shared<BBitmap>(BRect(0, 0, 99, 49), B_RGB32));
 
-    const auto frame = file.Load();
+    const Frame frame = file.Load();
 
-    EXPECT_EQ(frame->width, 100);
-    EXPECT_EQ(frame->height, 50);
+    EXPECT_EQ(frame.width, 100);
+    EXPECT_EQ(frame.height, 50);
 }
 
 TEST(Frame, CountsPixelsOfBoundsThatAreOffTheOriginOrBetweenPixels) {
     ImageFile moved(std::make_shared<BBitmap>(BRect(10, 20, 109, 69), B_RGB32));
     ImageFile uneven(std::make_shared<BBitmap>(BRect(0, 0, 98.5F, 48.25F), B_RGB32));
 
-    const auto first = moved.Load();
-    const auto second = uneven.Load();
+    const Frame first = moved.Load();
+    const Frame second = uneven.Load();
 
-    EXPECT_EQ(first->width, 100);
-    EXPECT_EQ(first->height, 50);
-    EXPECT_EQ(second->width, 100);
-    EXPECT_EQ(second->height, 50);
+    EXPECT_EQ(first.width, 100);
+    EXPECT_EQ(first.height, 50);
+    EXPECT_EQ(second.width, 100);
+    EXPECT_EQ(second.height, 50);
 }
 
 TEST(Frame, FromAnImageFileGetsThePicturesOwnPalette) {
     ImageFile file(PictureOf(3, 1, {kBlue, kRed, kRed}));
 
-    const auto frame = file.Load();
+    const Frame frame = file.Load();
 
-    EXPECT_EQ(frame->palette->mode, kPaletteOptimal);
-    EXPECT_EQ(frame->palette->unique_colors, 2);
-    EXPECT_EQ(frame->palette->ColorForIndex(0), (rgb_color{255, 0, 0, 255}));
-    EXPECT_EQ(frame->palette->ColorForIndex(1), (rgb_color{0, 0, 255, 255}));
+    EXPECT_EQ(frame.palette->mode, kPaletteOptimal);
+    EXPECT_EQ(frame.palette->unique_colors, 2);
+    EXPECT_EQ(frame.palette->ColorForIndex(0), (rgb_color{255, 0, 0, 255}));
+    EXPECT_EQ(frame.palette->ColorForIndex(1), (rgb_color{0, 0, 255, 255}));
 }
 
 TEST(Frame, HandsTheDocumentsBudgetToTheTranslators) {
@@ -144,38 +144,44 @@ TEST(Frame, HandsTheDocumentsBudgetToTheTranslators) {
     EXPECT_EQ(file.roster.budget, file.budget);
 }
 
-TEST(Frame, OfAFileThatNoTranslatorReadsHasNeitherPictureNorPalette) {
+TEST(Frame, OfAFileThatNoTranslatorReadsIsNotMade) {
     ImageFile file(nullptr);
     file.roster.status = B_NO_TRANSLATOR;
 
-    auto frame = file.Load("notes.txt");
+    const Frame frame = file.Load("notes.txt");
 
-    EXPECT_TRUE(frame->init_failed);
-    EXPECT_EQ(frame->bitmap, nullptr);
-    EXPECT_EQ(frame->palette, nullptr);
-    EXPECT_EQ(frame->name, "notes.txt");
-    frame.reset();
+    EXPECT_EQ(file.status, B_NO_TRANSLATOR);
+    EXPECT_EQ(frame.bitmap, nullptr);
+    EXPECT_EQ(frame.name, "");
 }
 
-TEST(Frame, OfAMissingFileHasNeitherPictureNorPalette) {
+TEST(Frame, OfAMissingFileIsNotMade) {
     ImageFile file(PictureOf(1, 1, {kRed}));
     file.path = file.folder.File("missing.png");
 
-    const auto frame = file.Load();
+    const Frame frame = file.Load();
 
-    EXPECT_TRUE(frame->init_failed);
-    EXPECT_EQ(frame->bitmap, nullptr);
-    EXPECT_EQ(frame->palette, nullptr);
+    EXPECT_EQ(file.status, B_ENTRY_NOT_FOUND);
+    EXPECT_EQ(frame.bitmap, nullptr);
 }
 
 TEST(Frame, DropsThePictureOfATranslationThatFailedHalfWay) {
     ImageFile file(PictureOf(1, 1, {kRed}));
     file.roster.status = B_IO_ERROR;
 
-    const auto frame = file.Load();
+    const Frame frame = file.Load();
 
-    EXPECT_TRUE(frame->init_failed);
-    EXPECT_EQ(frame->bitmap, nullptr);
+    EXPECT_EQ(file.status, B_IO_ERROR);
+    EXPECT_EQ(frame.bitmap, nullptr);
+}
+
+TEST(Frame, OfAPictureThatTranslatorsLackMemoryForCountsAsUnreadable) {
+    ImageFile file(PictureOf(1, 1, {kRed}));
+    file.roster.status = B_NO_MEMORY;
+
+    file.Load();
+
+    EXPECT_EQ(file.status, B_NO_TRANSLATOR);
 }
 
 TEST(Frame, FailsWithoutAWordWhenThereIsNoMemoryForItsPalette) {
@@ -184,14 +190,10 @@ TEST(Frame, FailsWithoutAWordWhenThereIsNoMemoryForItsPalette) {
     const DebugRecorder debug;
     const AllocationFault fault(1);
 
-    const Frame blank;
-    const Frame sized("frame", 1, 1, 0);
-    const auto loaded = file.Load();
+    const Frame frame = file.Load();
 
-    for (const Frame* frame : {&blank, &sized, static_cast<const Frame*>(loaded.get())}) {
-        EXPECT_TRUE(frame->init_failed);
-        EXPECT_EQ(frame->palette, nullptr);
-    }
+    EXPECT_EQ(file.status, B_NO_MEMORY);
+    EXPECT_EQ(frame.bitmap, nullptr);
     EXPECT_EQ(debug.Text(), "");
     EXPECT_TRUE(alerts.Lines().empty());
 }
@@ -201,27 +203,15 @@ TEST(Frame, IsWebSafeWhenThereIsNoMemoryToCountItsColours) {
     const AlertRecorder alerts;
     const AllocationFault fault(2);
 
-    const auto frame = file.Load();
+    const Frame frame = file.Load();
 
-    EXPECT_FALSE(frame->init_failed);
-    EXPECT_EQ(frame->palette->mode, kPaletteWebSafe);
+    EXPECT_EQ(file.status, B_OK);
+    EXPECT_EQ(frame.palette->mode, kPaletteWebSafe);
     EXPECT_EQ(alerts.Lines(), std::vector<std::string>{"WARNING [] Out of memory. | OK"});
 }
 
-TEST(Frame, IsDeletedWithoutTouchingTheNextOne) {
-    auto second = std::make_unique<Frame>("second", 1, 1, 1);
-    second->bitmap = PictureOf(1, 1, {kRed});
-    auto first = std::make_unique<Frame>("first", 1, 1, 0);
-    first->next = second.get();
-
-    first.reset();
-
-    EXPECT_EQ(second->name, "second");
-    EXPECT_EQ(PixelsOf(*second->bitmap), std::vector<uint32>{kRed});
-}
-
 TEST(Frame, LeavesItsPictureToWhoeverStillShowsIt) {
-    auto frame = std::make_unique<Frame>("frame", 1, 1, 0);
+    auto frame = std::make_unique<Frame>("frame", 1, 1);
     frame->bitmap = PictureOf(1, 1, {kBlue});
     const std::shared_ptr<const BBitmap> shown = frame->bitmap;
 
@@ -230,22 +220,64 @@ TEST(Frame, LeavesItsPictureToWhoeverStillShowsIt) {
     EXPECT_EQ(PixelsOf(*shown), std::vector<uint32>{kBlue});
 }
 
+TEST(Frame, HasAnIdOfItsOwnThatItsCopiesKeep) {
+    const Frame first;
+    const Frame second("frame", 1, 1);
+    Frame copy = first;
+    copy.SetName("copy");
+
+    EXPECT_NE(first.id, 0U);
+    EXPECT_NE(first.id, second.id);
+    EXPECT_EQ(copy.id, first.id);
+}
+
+TEST(Frame, EqualsACopyUntilAnyOfItsFieldsChanges) {
+    const Frame frame("frame", 1, 1);
+    const std::function<void(Frame&)> edits[] = {
+        [](Frame& f) { f.id = Frame().id; },
+        [](Frame& f) { f.bitmap = PictureOf(1, 1, {0}); },
+        [](Frame& f) { f.name = "other"; },
+        [](Frame& f) { f.height = 2; },
+        [](Frame& f) { f.width = 2; },
+        [](Frame& f) { f.x_offset = 2; },
+        [](Frame& f) { f.y_offset = 2; },
+        [](Frame& f) { f.pause_length = 2; },
+        [](Frame& f) { f.local_palette = true; },
+        [](Frame& f) { f.use_pause = true; },
+        [](Frame& f) { f.palette = SharePalette(Palette(kPaletteGreyscale)); }};
+    for (const auto& edit : edits) {
+        Frame copy = frame;
+        EXPECT_EQ(copy, frame);
+        edit(copy);
+        EXPECT_FALSE(copy == frame) << "edit " << &edit - edits;
+    }
+}
+
+TEST(Frame, EqualsAFrameWhosePaletteIsTheSameInAnotherPlace) {
+    const Frame frame;
+    Frame copy = frame;
+    copy.palette = SharePalette(*frame.palette);
+
+    EXPECT_NE(copy.palette, frame.palette);
+    EXPECT_EQ(copy, frame);
+}
+
 TEST(Frame, CutsALongNameAfterAWholeCharacter) {
     const std::string fits(255, 'n');
     const std::string umlaut = "\xC3\xA4";
 
-    EXPECT_EQ(Frame(fits, 1, 1, 0).name, fits);
-    EXPECT_EQ(Frame(fits + "n", 1, 1, 0).name, fits);
-    EXPECT_EQ(Frame(std::string(254, 'n') + umlaut, 1, 1, 0).name, std::string(254, 'n'));
-    EXPECT_EQ(Frame(std::string(253, 'n') + umlaut, 1, 1, 0).name, std::string(253, 'n') + umlaut);
+    EXPECT_EQ(Frame(fits, 1, 1).name, fits);
+    EXPECT_EQ(Frame(fits + "n", 1, 1).name, fits);
+    EXPECT_EQ(Frame(std::string(254, 'n') + umlaut, 1, 1).name, std::string(254, 'n'));
+    EXPECT_EQ(Frame(std::string(253, 'n') + umlaut, 1, 1).name, std::string(253, 'n') + umlaut);
 }
 
 TEST(Frame, CutsTheNameOfALongFile) {
     ImageFile file(PictureOf(1, 1, {kRed}));
 
-    const auto frame = file.Load(std::string(300, 'x'));
+    const Frame frame = file.Load(std::string(300, 'x'));
 
-    EXPECT_EQ(frame->name, std::string(255, 'x'));
+    EXPECT_EQ(frame.name, std::string(255, 'x'));
 }
 
 }  // namespace kirto::test
