@@ -1,4 +1,4 @@
-# Compile flags of every target, and the functions that declare libraries, tests and harnesses.
+# Compile flags of every target, and the function that declares libraries.
 
 find_package(Threads REQUIRED)
 
@@ -26,19 +26,41 @@ if(KIRTO_COVERAGE)
     target_link_options(kirto_flags INTERFACE --coverage)
 endif()
 
+# Linking many programs of much debug information is what lld is good at.
+find_program(KIRTO_LLD ld.lld)
+if(KIRTO_LLD AND KIRTO_TESTS)
+    target_link_options(kirto_flags INTERFACE -fuse-ld=lld)
+endif()
+
+# What most files of the windows and their tests include of Qt, for precompiled headers.
+set(kirto_qt_headers
+    <QApplication>
+    <QCheckBox>
+    <QComboBox>
+    <QDialog>
+    <QGroupBox>
+    <QImage>
+    <QKeyEvent>
+    <QLabel>
+    <QLineEdit>
+    <QListWidget>
+    <QMimeData>
+    <QMouseEvent>
+    <QPainter>
+    <QPointer>
+    <QPushButton>
+    <QRadioButton>
+    <QScreen>
+    <QSlider>
+    <QSpinBox>
+    <QTabWidget>
+    <QTimer>
+    <QVBoxLayout>)
+
 # kirto_library(NAME SOURCES ... DEPENDS ...): one static library a folder of src/. DEPENDS names the
 # layers it may include; the linker refuses what is not among them.
 function(kirto_library name)
     cmake_parse_arguments(ARG "" "" "SOURCES;DEPENDS" ${ARGN})
     add_library(${name} STATIC ${ARG_SOURCES})
     target_link_libraries(${name} PUBLIC kirto_flags ${ARG_DEPENDS})
-endfunction()
-
-# kirto_test(NAME SOURCES ... DEPENDS ...): one GoogleTest program; each case is a CTest test.
-function(kirto_test name)
-    cmake_parse_arguments(ARG "" "" "SOURCES;DEPENDS" ${ARGN})
-    add_executable(${name} ${ARG_SOURCES})
-    target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
-    target_link_libraries(${name} PRIVATE ${ARG_DEPENDS} kirto_test_support GTest::gmock GTest::gtest_main)
-    gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300)
 endfunction()

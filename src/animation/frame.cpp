@@ -30,7 +30,7 @@ status_t Frame::Read(const std::string& path, std::string_view frame_name,
     BFile file(path, B_READ_ONLY);
     std::shared_ptr<BBitmap> picture;
     const status_t status = roster.Translate(file, std::move(budget), &picture);
-    if (status < B_OK) return status == B_NO_MEMORY ? B_NO_TRANSLATOR : status;
+    if (status < B_OK) return status;
     own_palette->Set(static_cast<const BBitmap*>(picture.get()));
     Frame frame(frame_name, picture->Bounds().PixelWidth(), picture->Bounds().PixelHeight());
     frame.palette = own_palette;

@@ -210,4 +210,33 @@ TEST(DocumentState, IsWholeForReadersWhileTheDocumentIsEdited) {
     ExpectConsistent(document);
 }
 
+TEST(DocumentState, MissesNoChangeThatIsCarriedOutWhileItIsAskedForUnsavedOnes) {
+    constexpr int32 kRounds = 300;
+    DocumentFixture fixture;
+    AnimationDocument& document = fixture.document;
+    AppendFrame(document, PictureOf(1, 1, {0}), "frame");
+    std::atomic<int32> round = 0;
+    std::thread editor([&] {
+        for (int32 i = 1; i <= kRounds; ++i) {
+            while (round != i)
+                std::this_thread::yield();
+            document.SetModified(true);
+            document.changes_waiting = 0;
+        }
+    });
+    int32 missed = 0;
+
+    for (int32 i = 1; i <= kRounds; ++i) {
+        document.changes_waiting = 1;
+        document.SetModified(false);
+        round = i;
+        do {
+            if (!document.HasUnsavedChanges()) ++missed;
+        } while (document.changes_waiting > 0);
+    }
+    editor.join();
+
+    EXPECT_EQ(missed, 0);
+}
+
 }  // namespace kirto::test
