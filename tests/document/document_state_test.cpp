@@ -22,7 +22,6 @@ std::string TextOf(const DocumentState& state) {
     const Animation& animation = *state.animation;
     std::string text = state.file_directory + "/" + state.file_name;
     text += state.modified ? " modified" : "";
-    text += " edit " + std::to_string(state.edits_done);
     text += " selected " + std::to_string(animation.selected);
     text += " palette " + std::to_string(animation.palette->mode);
     text += " thumbnails " + std::to_string(state.settings->thumbnail_height);
@@ -56,7 +55,6 @@ TEST(DocumentState, StaysAsItWasThroughEveryKindOfEdit) {
         [&] { PaletteEditOf(document)->Set(kPaletteGreyscale); },
         [&] { document.RemoveFrame(); },
         [&] { document.SetFile("/films", "movie.gif"); },
-        [&] { document.SetEditsDone(5); },
         [&] { 
             fixture.prefs.thumbnail_height = 2;
             document.PublishSettings();
@@ -79,7 +77,6 @@ TEST(DocumentState, KeepsAllThatAnEditDoesNotConcern) {
     AnimationDocument& document = fixture.document;
     Insert(document, "one", 0);
     document.SetFile("/films", "movie.gif");
-    document.SetEditsDone(3);
     document.SetModified(true);
     const StatePointer before = document.CurrentState();
 
@@ -92,7 +89,6 @@ TEST(DocumentState, KeepsAllThatAnEditDoesNotConcern) {
     EXPECT_EQ(after->settings, before->settings);
     EXPECT_EQ(after->file_directory, "/films");
     EXPECT_EQ(after->file_name, "movie.gif");
-    EXPECT_EQ(after->edits_done, 3);
     EXPECT_TRUE(after->modified);
 }
 
