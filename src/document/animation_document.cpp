@@ -138,8 +138,7 @@ void AnimationDocument::Return(const kirto::Moment& moment, const kirto::Moment&
             state.file_directory = moment.file_directory;
         }
         state.modified = !history_.IsAtSaved();
-        state.undo_name = history_.UndoName();
-        state.redo_name = history_.RedoName();
+        AddHistory(state);
     });
 }
 
@@ -149,10 +148,13 @@ void AnimationDocument::MarkSaved() {
 }
 
 void AnimationDocument::PublishHistory() {
-    ChangeState([this](kirto::DocumentState& state) {
-        state.undo_name = history_.UndoName();
-        state.redo_name = history_.RedoName();
-    });
+    ChangeState([this](kirto::DocumentState& state) { AddHistory(state); });
+}
+
+void AnimationDocument::AddHistory(kirto::DocumentState& state) const {
+    state.undo_steps = static_cast<int32>(history_.UndoSteps());
+    state.undo_name = history_.UndoName();
+    state.redo_name = history_.RedoName();
 }
 
 void AnimationDocument::Reset() {

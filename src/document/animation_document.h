@@ -119,6 +119,7 @@ class AnimationDocument : public DocumentLock {
     void PostInserted(bool first) const;
     kirto::Moment Now() const;
     void PublishHistory();
+    void AddHistory(kirto::DocumentState& state) const;
     void Return(const kirto::Moment& moment, const kirto::Moment& from);
     void Publish(kirto::DocumentState next);
     template <typename Edit>

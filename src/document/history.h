@@ -34,6 +34,8 @@ class History {
     // until the history changes.
     const Step* Undo();
     const Step* Redo();
+    // How many edits can be undone.
+    size_t UndoSteps() const { return done_; }
     // Names of those edits; empty when there are none.
     std::string UndoName() const;
     std::string RedoName() const;

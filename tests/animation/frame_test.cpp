@@ -175,13 +175,13 @@ TEST(Frame, DropsThePictureOfATranslationThatFailedHalfWay) {
     EXPECT_EQ(frame.bitmap, nullptr);
 }
 
-TEST(Frame, OfAPictureThatTranslatorsLackMemoryForCountsAsUnreadable) {
+TEST(Frame, TellsThatTranslatorsLackMemoryForItsPicture) {
     ImageFile file(PictureOf(1, 1, {kRed}));
     file.roster.status = B_NO_MEMORY;
 
     file.Load();
 
-    EXPECT_EQ(file.status, B_NO_TRANSLATOR);
+    EXPECT_EQ(file.status, B_NO_MEMORY);
 }
 
 TEST(Frame, FailsWithoutAWordWhenThereIsNoMemoryForItsPalette) {

@@ -33,7 +33,6 @@ BMessage Switch(uint32 code, bool value) {
 class DocumentEdits : public ::testing::Test {
   protected:
     DocumentEdits() {
-        frame = AppendFrame(document, PictureOf(2, 1, {0xFF000001, 0xFF000002}), "frame");
         document.SetModified(false);
         PaletteEditOf(document)->dither = true;
     }
@@ -47,7 +46,8 @@ class DocumentEdits : public ::testing::Test {
 
     DocumentFixture fixture;
     AnimationDocument& document = fixture.document;
-    Frame* frame = nullptr;
+    const FrameHandle frame =
+        AppendFrame(document, PictureOf(2, 1, {0xFF000001, 0xFF000002}), "frame");
 };
 
 TEST_F(DocumentEdits, SetTheCanvas) {
@@ -145,7 +145,7 @@ TEST_F(DocumentEdits, SwitchTheCurrentFramesFieldsOff) {
 }
 
 TEST_F(DocumentEdits, ChangeTheCurrentFrameAlone) {
-    Frame* other = AppendFrame(document, PictureOf(1, 1, {0xFF000003}), "other");
+    const FrameHandle other = AppendFrame(document, PictureOf(1, 1, {0xFF000003}), "other");
     document.Select(1);
 
     Modifies(Number(kFrameSetXOffset, 3));
@@ -188,7 +188,7 @@ TEST_F(DocumentEdits, DoNothingWithAValueOfAnotherType) {
 }
 
 TEST_F(DocumentEdits, LeaveOtherCommandsToOthers) {
-    for (const uint32 code : {kUpdateAll, kSaveAgain, kFrameWebSafe, kRemoveFrame, uint32{0}}) {
+    for (const uint32 code : {kUpdateAll, kSaveAgain, kRemoveFrame, kUndo, uint32{0}}) {
         EXPECT_FALSE(ApplyEdit(document, Number(code, 1))) << CodeText(code);
     }
     EXPECT_FALSE(document.Modified());

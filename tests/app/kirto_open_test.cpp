@@ -225,12 +225,17 @@ TEST_F(KirtoOpen, PutsAPaletteBackThatCantBeLoaded) {
     Write("notes.txt", {'n'});
     Start();
     Append({"old"});
-    for (Palette* palette : {app_->Current()->palette.get(), app_->CurrentFrame()->palette.get()}) {
+    for (const bool global : {true, false}) {
         app_->SetModified(false);
-        palette->Set(kPaletteAwaitingFile);
+        if (global) {
+            PaletteEditOf(*app_)->Set(kPaletteAwaitingFile);
+        } else {
+            FramePaletteEditOf(*app_, 0)->Set(kPaletteAwaitingFile);
+        }
 
         EXPECT_EQ(Do(Files(kOpenFile, {"notes.txt"})), "tvff auda");
 
+        const auto palette = global ? app_->Current()->palette : app_->FirstFrame()->palette;
         EXPECT_EQ(palette->mode, kPaletteWebSafe);
         EXPECT_TRUE(app_->Modified());
         EXPECT_EQ(TakeLines(), Lines{WarningLine(kPaletteUnreadable)});

@@ -102,8 +102,7 @@ TEST_F(KirtoPreview, RefusesFramesLargerThanTheAnimation) {
     Start();
     Append({"one"});
     EditOf(*app_)->width = 0;
-    app_->file_name = "kept.gif";
-    app_->file_directory = folder_.Path();
+    app_->AnimationDocument::SetFile(folder_.Path(), "kept.gif");
 
     EXPECT_EQ(Do(kPreview), "auda");
 

@@ -34,7 +34,7 @@ TEST_F(KirtoSettings, AreTakenOverWrittenAndShown) {
     EXPECT_EQ(prefs_.global_width, 77);
     const Prefs read;
     EXPECT_FALSE(read.failed);
-    EXPECT_EQ(read.Current()->width, 77);
+    EXPECT_EQ(read.global_width, 77);
     EXPECT_EQ(read.misc_windowdimensions, BRect(1, 2, 3, 4));
 }
 
@@ -60,7 +60,7 @@ TEST_F(KirtoSettings, AreWrittenWithTheWindowsPlaceAlone) {
     EXPECT_EQ(Do(message), "auda");
 
     const Prefs read;
-    EXPECT_EQ(read.Current()->width, 78);
+    EXPECT_EQ(read.global_width, 78);
     EXPECT_EQ(read.misc_windowdimensions, BRect(10, 20, 700, 500));
 }
 

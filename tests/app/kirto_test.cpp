@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "app/command_port.h"
 #include "app/kirto_fixture.h"
 
 namespace kirto::test {
@@ -82,7 +83,7 @@ TEST_F(KirtoCommands, ACommandThatRunsOutOfMemoryIsAWarningAndTheDocumentStays) 
     Start();
     Append({"before"});
     BMessage insert = Files(kInsertFiles, {"one.raw"});
-    insert.AddInt32("serial", 1);
+    CommandPort::Count(*app_, &insert);
     roster_.out_of_memory = true;
 
     Do(insert);
@@ -90,10 +91,10 @@ TEST_F(KirtoCommands, ACommandThatRunsOutOfMemoryIsAWarningAndTheDocumentStays) 
 
     EXPECT_EQ(TakeLines(), Lines(2, "WARNING [] Out of memory. | OK"));
     EXPECT_EQ(Names(), Lines{"[before]"});
-    EXPECT_EQ(app_->CurrentState()->edits_done, 1);
+    EXPECT_EQ(app_->changes_waiting, 0);
     EXPECT_FALSE(app_->Modified());
     roster_.out_of_memory = false;
-    Do(insert);
+    Do(Files(kInsertFiles, {"one.raw"}));
     EXPECT_EQ(app_->FrameCount(), 2);
 }
 
@@ -160,8 +161,7 @@ TEST_F(KirtoCommands, AsfpSavesToThePlaceChosen) {
 TEST_F(KirtoCommands, AsavSavesInTheFormatOfTheSavePanel) {
     Start();
     Append({"one"});
-    app_->file_directory = folder_.Path();
-    app_->file_name = "out.gif";
+    app_->AnimationDocument::SetFile(folder_.Path(), "out.gif");
 
     EXPECT_EQ(Do(kSaveAgain), "svup(Status: writing frame 1 of 1...) arsm auda");
     desktop_.fields.output_format = FakeRoster::kRaw;

@@ -63,8 +63,10 @@ std::string Pause(bool used, double length) {
 // The animation's pause and those of its frames: "10: off 0, off 0, 20".
 std::string Pauses(const AnimationDocument& document) {
     std::string text = Pause(document.Current()->use_pause, document.Current()->pause_length) + ":";
+    const char* separator = " ";
     for (const FramePointer& frame : document.Current()->frames) {
-        text += (frame->index == 0 ? " " : ", ") + Pause(frame->use_pause, frame->pause_length);
+        text += separator + Pause(frame->use_pause, frame->pause_length);
+        separator = ", ";
     }
     return text;
 }
@@ -214,12 +216,12 @@ TEST(OpenGif, LeavesFramesThatWereThereBeforeAsTheyAre) {
     AnimationDocument& document = fixture.document;
     fixture.prefs.global_pauseinseconds = true;
     for (const double pause : {10.0, 0.5}) {
-        Frame* frame = AppendFrame(document, PictureOf(1, 1, {0}), "old");
+        const FrameHandle frame = AppendFrame(document, PictureOf(1, 1, {0}), "old");
         frame->pause_length = pause;
         frame->use_pause = true;
         frame->local_palette = true;
-        frame->palette->Set(kPaletteGreyscale);
-        frame->palette->mode = kPaletteFromFile;
+        frame.Palette()->Set(kPaletteGreyscale);
+        frame.Palette()->mode = kPaletteFromFile;
     }
 
     EXPECT_TRUE(OpenGifBytes(GifWithPauses({10, 10, 20}), document, 1));

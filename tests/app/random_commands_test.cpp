@@ -40,33 +40,28 @@ uint64 SumOf(const Frame& frame) {
            bits[frame.bitmap->BitsLength() - 1] + SumOf(*frame.palette);
 }
 
-// Copies the settings as windows do.
-uint64 SumOf(const Prefs& live) {
-    const Prefs copy(live);
-    return copy.misc_tempfilelocation.size() + copy.palette_filename.size() +
-           copy.damaged_copy.size() + static_cast<uint64>(copy.global_width) +
-           (copy.failed ? 1 : 0);
-}
-
-// Reads all that a window shows, and checks the list on the way. The caller is inside the lock.
-// The sum keeps the reads from being left out.
+// Reads all that a window shows, and checks the list on the way. The sum keeps the reads from being
+// left out.
 uint64 ReadDocument(const AnimationDocument& document) {
-    uint64 sum = document.CurrentState()->file_name.size() + document.CurrentState()->file_directory.size() +
-                 static_cast<uint64>(document.Current()->width + document.Current()->height) +
-                 static_cast<uint64>(document.Current()->loop_count) +
-                 static_cast<uint64>(document.Current()->pause_length) + (document.Modified() ? 1 : 0) +
-                 (document.Current()->use_loop ? 1 : 0) + (document.Current()->use_pause ? 1 : 0) +
-                 SumOf(*document.Current()->palette) + SumOf(document.prefs);
+    const auto state = document.CurrentState();
+    const Animation& animation = *state->animation;
+    uint64 sum = state->file_name.size() + state->file_directory.size() + state->undo_name.size() +
+                 static_cast<uint64>(animation.width + animation.height) +
+                 static_cast<uint64>(animation.loop_count) +
+                 static_cast<uint64>(animation.pause_length) + (state->modified ? 1 : 0) +
+                 (animation.use_loop ? 1 : 0) + (animation.use_pause ? 1 : 0) +
+                 SumOf(*animation.palette) + state->settings->misc_tempfilelocation.size() +
+                 state->settings->palette_filename.size() +
+                 static_cast<uint64>(state->settings->global_width);
     int32 visited = 0;
-    for (const FramePointer& frame : document.Current()->frames) {
-        EXPECT_EQ(frame->index, visited);
-        EXPECT_EQ(document.FrameAt(visited), frame);
+    for (const FramePointer& frame : animation.frames) {
+        EXPECT_EQ(animation.frames.At(visited), frame);
         ++visited;
         sum += SumOf(*frame);
     }
-    EXPECT_EQ(document.FrameCount(), visited);
-    EXPECT_GE(document.Selected(), visited == 0 ? -1 : 0);
-    EXPECT_LT(document.Selected(), visited == 0 ? 0 : visited);
+    EXPECT_EQ(animation.frames.Size(), visited);
+    EXPECT_GE(animation.selected, visited == 0 ? -1 : 0);
+    EXPECT_LT(animation.selected, visited == 0 ? 0 : visited);
     return sum;
 }
 
@@ -85,12 +80,13 @@ class Readers {
     uint64 Reads() const { return reads_; }
 
   private:
-    void Read(AnimationDocument& document, bool waits) {
+    // One of them enters the lock, which keeps the writer out meanwhile; nobody has to.
+    void Read(AnimationDocument& document, bool locks) {
         while (!done_) {
-            if (waits) {
+            if (locks) {
                 const ReaderScope reader(document);
                 Count(ReadDocument(document));
-            } else if (const TryReaderScope reader(document); reader.Entered()) {
+            } else {
                 Count(ReadDocument(document));
             }
             snooze(kReaderPause);
@@ -132,6 +128,7 @@ class RandomCommands : public KirtoFixture, public ::testing::WithParamInterface
         if (choices_.OneIn(3000)) return BMessage(kResetDocument);
         if (choices_.OneIn(50)) return BMessage(choices_.Below(1u << 31));
         if (choices_.OneIn(3)) return PanelEdit();
+        if (choices_.OneIn(8)) return BMessage(choices_.OneIn(3) ? kRedo : kUndo);
         BMessage message(OneOf(choices_, kCodes));
         if (message.what == kSelectFrame) message.AddInt32("number", choices_.Between(-2, 20));
         if (message.what == B_CANCEL) message.AddPointer("source", AnyPanel());
@@ -207,7 +204,6 @@ class RandomCommands : public KirtoFixture, public ::testing::WithParamInterface
             answer = choices_.OneIn(6) ? 1 : choices_.OneIn(2) ? 0 : 2;
         desktop_.Answer(answers);
         desktop_.fields = {choices_.Below(2), choices_.OneIn(4) ? "" : "1", "2", choices_.OneIn(2)};
-        const WriterScope writer(*app_);
         prefs_.thumbnail_height = choices_.Between(0, 3);
         prefs_.palette_mapping = choices_.OneIn(5) ? kPaletteFromFile : choices_.Between(0, 2);
         prefs_.palette_filename = File(OneOf(choices_, kAnimations));
@@ -239,11 +235,86 @@ TEST_P(RandomCommands, KeepTheDocumentWholeForEveryReader) {
             app_->PostMessage(NextCommand());
         Do(kReverseFrames);
         TakeLines();
-        const ReaderScope reader(*app_);
         ReadDocument(*app_);
     }
 
     EXPECT_GT(readers.Reads(), 0u);
+}
+
+// What an edit of the history was made of.
+struct Edit {
+    std::shared_ptr<const Animation> before;
+    std::shared_ptr<const Animation> after;
+};
+
+// Follows the history from outside: what each edit found and left.
+class EditLog {
+  public:
+    explicit EditLog(Kirto& app) : app_(app) {}
+
+    // Carries the command out, which is none of the history's own.
+    void Do(BMessage command) {
+        const auto before = app_.CurrentState();
+        app_.MessageReceived(&command);
+        const auto after = app_.CurrentState();
+        const auto steps = static_cast<size_t>(after->undo_steps);
+        if (steps == edits_.size() + 1) {
+            edits_.push_back({before->animation, after->animation});
+        } else if (steps == 0) {
+            edits_.clear();
+        } else if (before->animation != after->animation &&
+                   (command.what == kOpenFile || command.what == B_CANCEL)) {
+            // A palette's file belongs to the edit that asked for it.
+            edits_.back().after = after->animation;
+        }
+        ASSERT_EQ(steps, edits_.size());
+    }
+    // Undoes so many edits, or as many as there are, and redoes them again.
+    void GoBackAndForth(size_t count) {
+        count = std::min(count, edits_.size());
+        for (size_t i = 0; i < count; ++i) {
+            ASSERT_TRUE(app_.Undo());
+            ASSERT_EQ(*app_.Current(), *edits_[edits_.size() - 1 - i].before) << "edit " << i;
+        }
+        for (size_t i = count; i > 0; --i) {
+            ASSERT_TRUE(app_.Redo());
+            ASSERT_EQ(*app_.Current(), *edits_[edits_.size() - i].after) << "edit " << i;
+        }
+    }
+    size_t Count() const { return edits_.size(); }
+
+  private:
+    Kirto& app_;
+    std::vector<Edit> edits_;
+};
+
+TEST_P(RandomCommands, AreUndoneAndRedoneExactly) {
+    constexpr int32 kCommands = 50000;
+    constexpr int32 kFewFrames = 30;
+    Make();
+    open_panel_ = app_->GetOpenFilePanel();
+    save_panel_ = app_->GetSaveFilePanel();
+    WriteFiles();
+    desktop_.fields = {0, "1", "2", false};
+    Append({"one", "two", "three", "four", "five", "six"});
+    app_->StartHistory();
+    EditLog log(*app_);
+    size_t most = 0;
+
+    for (int32 i = 0; i < kCommands && !HasFatalFailure(); ++i) {
+        BMessage command = NextCommand();
+        if (command.what == kUndo || command.what == kRedo) continue;
+        // Frames would grow without end where most commands insert, and files be overwritten.
+        if (app_->FrameCount() > kFewFrames) command = BMessage(kRemoveFrame);
+        if (i % 5000 == 0) WriteFiles();
+        log.Do(command);
+        if (choices_.OneIn(200)) log.GoBackAndForth(choices_.Below(100));
+        most = std::max(most, log.Count());
+        if (i % 1000 == 0) TakeLines();
+    }
+    log.GoBackAndForth(log.Count());
+
+    EXPECT_GT(most, 500u);
 }
 
 INSTANTIATE_TEST_SUITE_P(Seeds, RandomCommands, ::testing::Values(1u, 2u, 3u, 4u, 5u));

@@ -6,7 +6,6 @@
 #include <sys/resource.h>
 
 #include "app/open_animation.h"
-#include "document/document_scope.h"
 #include "support/test_support.h"
 
 namespace kirto::test {
@@ -32,14 +31,8 @@ struct SaveFixture : DocumentFixture {
         document.SetModified(true);
     }
     SaveResult Save() { return SaveTo(path); }
-    SaveResult SaveTo(const std::string& target) {
-        const ReaderScope reader(document);
-        return SaveAnimatedGif(document, target);
-    }
-    SaveResult SavePreview() {
-        const ReaderScope reader(document);
-        return SavePreviewGif(document, path);
-    }
+    SaveResult SaveTo(const std::string& target) { return SaveAnimatedGif(document, target); }
+    SaveResult SavePreview() { return SavePreviewGif(document, path); }
     size_t EntriesInFolder() const {
         const fs::directory_iterator entries(folder.Path());
         return static_cast<size_t>(std::distance(begin(entries), end(entries)));
@@ -126,7 +119,9 @@ TEST(SaveAnimatedGif, WritesNothingWhileAFrameIsLargerThanTheCanvas) {
     for (const bool too_wide : {true, false}) {
         SaveFixture fixture;
         WriteBytes(fixture.path, kOldBytes);
-        (too_wide ? fixture.document.Current()->width : fixture.document.Current()->height) -= 1;
+        fixture.document.Change([too_wide](Animation& animation) {
+            (too_wide ? animation.width : animation.height) -= 1;
+        });
 
         EXPECT_EQ(fixture.Save(), SaveResult::kFrameTooLarge);
 
