@@ -98,7 +98,7 @@ class Pictures {
         BMessage open(kirto::kOpenFile);
         open.AddRef("refs", entry_ref(animation));
         application_.PostMessage(open);
-        WaitUntil([this] { return Main()->Shown().file_name != "untitled"; });
+        WaitUntil([this] { return Main()->Shown().State().file_name != "untitled"; });
         BMessage select(kirto::kSelectFrame);
         select.AddInt32("number", kCurrentFrame);
         application_.PostMessage(select);

@@ -6,15 +6,40 @@
 
 namespace kirto::test {
 
-FrameSnapshot FrameOf(int32 width, int32 height, uint32 argb, const std::string& name,
-                      color_space space) {
+FramePointer FrameOf(int32 width, int32 height, uint32 argb, const std::string& name,
+                     color_space space) {
     const std::vector<uint32> pixels(static_cast<size_t>(width) * static_cast<size_t>(height),
                                      argb);
-    return {PictureOf(width, height, pixels, space), name, width, height};
+    auto frame = std::make_shared<Frame>(name, width, height);
+    frame->bitmap = PictureOf(width, height, pixels, space);
+    return frame;
 }
 
-std::vector<FrameSnapshot> SameFrames(int32 count, int32 width, int32 height) {
-    return std::vector<FrameSnapshot>(static_cast<size_t>(count), FrameOf(width, height));
+std::vector<FramePointer> SameFrames(int32 count, int32 width, int32 height) {
+    const FramePointer first = FrameOf(width, height);
+    std::vector<FramePointer> frames;
+    for (int32 i = 0; i < count; ++i) {
+        auto frame = std::make_shared<Frame>(first->name, width, height);
+        frame->bitmap = first->bitmap;
+        frames.push_back(frame);
+    }
+    return frames;
+}
+
+FrameSequence SequenceOf(const std::vector<FramePointer>& frames) {
+    FrameSequence sequence;
+    for (const FramePointer& frame : frames)
+        sequence.Insert(sequence.Size(), frame);
+    return sequence;
+}
+
+void ShowFrames(ShownDocument& shown, AnimationDocument& document,
+                const std::vector<FramePointer>& frames, int32 selected) {
+    document.Change([&](Animation& animation) {
+        animation.frames = SequenceOf(frames);
+        animation.selected = frames.empty() ? -1 : selected;
+    });
+    shown.Take(document);
 }
 
 std::vector<translator_id> TargaRoster::Translators() const {
@@ -34,9 +59,9 @@ status_t TargaRoster::Translate(const BBitmap& source, translator_id translator,
     return FakeRoster::Translate(source, kRaw, kRawFormat, settings, destination);
 }
 
-ThumbnailFixture::ThumbnailFixture(std::vector<FrameSnapshot> frames, int32 selected, QSize size) {
-    shown.frames = std::move(frames);
-    shown.selected = shown.frames.empty() ? -1 : selected;
+ThumbnailFixture::ThumbnailFixture(const std::vector<FramePointer>& frames, int32 selected,
+                                   QSize size) {
+    ShowFrames(shown, fixture.document, frames, selected);
     view = std::make_unique<ThumbnailView>(shown, editor, BMessenger(window));
     view->resize(size);
     view->show();
@@ -65,8 +90,14 @@ std::vector<int32> ThumbnailFixture::TakeSelected() {
     return numbers;
 }
 
+void ThumbnailFixture::Show(const std::vector<FramePointer>& frames, int32 selected) {
+    ShowFrames(shown, fixture.document, frames, selected);
+    view->UpdateDisplay();
+}
+
 void ThumbnailFixture::Select(int32 index) {
-    shown.selected = index;
+    fixture.document.Select(index);
+    shown.Take(fixture.document);
     view->UpdateDisplay();
 }
 

@@ -15,11 +15,17 @@
 namespace kirto::test {
 
 // A frame in one colour, 0xAARRGGBB.
-FrameSnapshot FrameOf(int32 width, int32 height, uint32 argb = 0xFF336699,
-                      const std::string& name = "frame", color_space space = B_RGB32);
+FramePointer FrameOf(int32 width, int32 height, uint32 argb = 0xFF336699,
+                     const std::string& name = "frame", color_space space = B_RGB32);
 
 // count frames of that size, all with one picture.
-std::vector<FrameSnapshot> SameFrames(int32 count, int32 width, int32 height);
+std::vector<FramePointer> SameFrames(int32 count, int32 width, int32 height);
+
+FrameSequence SequenceOf(const std::vector<FramePointer>& frames);
+
+// Makes the frames the document's, the one selected current, and shows them.
+void ShowFrames(ShownDocument& shown, AnimationDocument& document,
+                const std::vector<FramePointer>& frames, int32 selected);
 
 // No file panels at all.
 class NoPanels : public FilePanelSource {
@@ -55,7 +61,7 @@ struct ThumbnailFixture {
 
     // Shows the frames in a view of that size, the one selected current; on the screen unless
     // hidden.
-    explicit ThumbnailFixture(std::vector<FrameSnapshot> frames, int32 selected = 0,
+    explicit ThumbnailFixture(const std::vector<FramePointer>& frames, int32 selected = 0,
                               QSize size = {400, 400});
     ThumbDrawingView& Grid() { return *view->DrawingView(); }
     ThumbScrollView& Scroll();
@@ -63,6 +69,8 @@ struct ThumbnailFixture {
     QPoint MiddleOf(int32 index);
     // The numbers of the frames that the application was asked to select, which are forgotten.
     std::vector<int32> TakeSelected();
+    // Shows other frames.
+    void Show(const std::vector<FramePointer>& frames, int32 selected = 0);
     // Shows another frame as the current one.
     void Select(int32 index);
 };

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <gtest/gtest.h>
 
 #include "ui/frame_area_fixture.h"
@@ -11,17 +12,21 @@ namespace kirto::test {
 namespace {
 
 struct ListFixture {
+    DocumentFixture document;
     std::shared_ptr<PortRecorder> window = std::make_shared<PortRecorder>();
     ShownDocument shown;
     std::unique_ptr<FrameListView> view;
 
-    explicit ListFixture(std::vector<FrameSnapshot> frames, int32 selected = 0) {
-        shown.frames = std::move(frames);
-        shown.selected = shown.frames.empty() ? -1 : selected;
+    explicit ListFixture(const std::vector<FramePointer>& frames, int32 selected = 0) {
+        ShowFrames(shown, document.document, frames, selected);
         view = std::make_unique<FrameListView>(shown, BMessenger(window));
         view->resize(700, 400);
         view->show();
         HandleEvents();
+    }
+    void Show(const std::vector<FramePointer>& frames, int32 selected = 0) {
+        ShowFrames(shown, document.document, frames, selected);
+        view->UpdateDisplay();
     }
     FrameList& List() { return *view->List(); }
     FramePreview& Preview() {
@@ -36,14 +41,26 @@ struct ListFixture {
     }
     // Shows a frame of that size in a preview of the other size.
     QString TitleOf(int32 width, int32 height, QSize preview) {
-        shown.frames = {FrameOf(width, height)};
-        shown.selected = 0;
-        view->UpdateDisplay();
+        Show({FrameOf(width, height)});
         Preview().setFixedSize(preview);
         HandleEvents();
         return Title();
     }
 };
+
+// The same frame after an edit.
+FramePointer Renamed(const FramePointer& frame, const std::string& name) {
+    auto renamed = std::make_shared<Frame>(*frame);
+    renamed->SetName(name);
+    return renamed;
+}
+
+std::vector<FramePointer> FramesNamed(const std::string& names) {
+    std::vector<FramePointer> frames;
+    for (const char name : names)
+        frames.push_back(FrameOf(1, 1, 0, std::string(1, name)));
+    return frames;
+}
 
 void Press(QWidget& widget, int key) {
     QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
@@ -59,34 +76,107 @@ TEST(FrameListView, ListsFramesByIndexAndName) {
 }
 
 TEST(FrameListView, FollowsTheFramesWithoutSendingAnything) {
-    ListFixture fixture({FrameOf(1, 1, 0, "a"), FrameOf(1, 1, 0, "b"), FrameOf(1, 1, 0, "c")}, 2);
-    fixture.shown.frames[0].name = "z";
-    fixture.shown.frames.pop_back();
-    fixture.shown.selected = 0;
-    fixture.view->UpdateDisplay();
+    std::vector<FramePointer> frames = FramesNamed("abc");
+    ListFixture fixture(frames, 2);
+    frames[0] = Renamed(frames[0], "z");
+    frames.pop_back();
+    fixture.Show(frames);
     EXPECT_EQ(fixture.Rows(), (std::vector<std::string>{"frame #0000    z", "frame #0001    b"}));
     EXPECT_EQ(fixture.List().CurrentSelection(), 0);
-    fixture.shown.frames.push_back(FrameOf(1, 1, 0, "new"));
-    fixture.view->UpdateDisplay();
+    frames.push_back(FrameOf(1, 1, 0, "new"));
+    fixture.Show(frames);
     EXPECT_EQ(fixture.Rows().back(), "frame #0002    new");
-    fixture.shown.frames.clear();
-    fixture.shown.selected = -1;
-    fixture.view->UpdateDisplay();
+    fixture.Show({});
     EXPECT_TRUE(fixture.Rows().empty());
     EXPECT_EQ(fixture.List().CurrentSelection(), -1);
     EXPECT_EQ(fixture.window->Transcript(), "");
 }
 
 TEST(FrameListView, TouchesOnlyTheRowsThatChange) {
-    ListFixture fixture(SameFrames(3000, 1, 1));
+    std::vector<FramePointer> frames = SameFrames(3000, 1, 1);
+    ListFixture fixture(frames);
     int changes = 0;
     QObject::connect(&fixture.List(), &QListWidget::itemChanged, [&] { ++changes; });
     fixture.view->UpdateDisplay();
     EXPECT_EQ(changes, 0);
-    fixture.shown.frames[7].name = "other";
-    fixture.view->UpdateDisplay();
+    frames[7] = Renamed(frames[7], "other");
+    fixture.Show(frames);
     EXPECT_EQ(changes, 1);
     EXPECT_EQ(fixture.Rows()[7], "frame #0007    other");
+}
+
+// What the list's views were told of its rows.
+struct RowSpies {
+    QSignalSpy changed;
+    QSignalSpy inserted;
+    QSignalSpy removed;
+
+    explicit RowSpies(FrameList& list)
+        : changed(list.model(), &QAbstractItemModel::dataChanged),
+          inserted(list.model(), &QAbstractItemModel::rowsInserted),
+          removed(list.model(), &QAbstractItemModel::rowsRemoved) {}
+    std::string Counts() const {
+        return std::to_string(changed.count()) + " changed, " + std::to_string(inserted.count()) +
+               " inserted, " + std::to_string(removed.count()) + " removed";
+    }
+};
+
+TEST(FrameList, TouchesNoRowInFrontOfAFrameThatIsInsertedInTheMiddle) {
+    std::vector<FramePointer> frames = FramesNamed("abcd");
+    ListFixture fixture(frames);
+    const RowSpies spies(fixture.List());
+
+    frames.insert(frames.begin() + 2, FrameOf(1, 1, 0, "new"));
+    fixture.Show(frames);
+
+    EXPECT_EQ(fixture.Rows(), (std::vector<std::string>{"frame #0000    a", "frame #0001    b",
+                                                        "frame #0002    new", "frame #0003    c",
+                                                        "frame #0004    d"}));
+    EXPECT_EQ(spies.Counts(), "2 changed, 1 inserted, 0 removed");
+}
+
+TEST(FrameList, TouchesNoRowInFrontOfAFrameThatIsRemovedFromTheMiddle) {
+    std::vector<FramePointer> frames = FramesNamed("abcde");
+    ListFixture fixture(frames);
+    const RowSpies spies(fixture.List());
+
+    frames.erase(frames.begin() + 2);
+    fixture.Show(frames);
+
+    EXPECT_EQ(fixture.Rows(), (std::vector<std::string>{"frame #0000    a", "frame #0001    b",
+                                                        "frame #0002    d", "frame #0003    e"}));
+    EXPECT_EQ(spies.Counts(), "2 changed, 0 inserted, 1 removed");
+}
+
+TEST(FrameList, TouchesOnlyTheRowsOfFramesThatAreRenamedOrSwapped) {
+    std::vector<FramePointer> frames = FramesNamed("abcdef");
+    ListFixture fixture(frames);
+    const RowSpies spies(fixture.List());
+
+    frames[3] = Renamed(frames[3], "z");
+    fixture.Show(frames);
+    EXPECT_EQ(fixture.Rows()[3], "frame #0003    z");
+    EXPECT_EQ(spies.Counts(), "1 changed, 0 inserted, 0 removed");
+
+    std::swap(frames[1], frames[2]);
+    fixture.Show(frames);
+    EXPECT_EQ(fixture.Rows()[1], "frame #0001    c");
+    EXPECT_EQ(fixture.Rows()[2], "frame #0002    b");
+    EXPECT_EQ(spies.Counts(), "3 changed, 0 inserted, 0 removed");
+}
+
+TEST(FrameList, TouchesNoRowForAnEditThatItDoesNotShow) {
+    std::vector<FramePointer> frames = FramesNamed("abc");
+    ListFixture fixture(frames);
+    const RowSpies spies(fixture.List());
+
+    auto moved = std::make_shared<Frame>(*frames[1]);
+    moved->x_offset = 5;
+    frames[1] = moved;
+    fixture.Show(frames, 2);
+
+    EXPECT_EQ(fixture.List().CurrentSelection(), 2);
+    EXPECT_EQ(spies.Counts(), "0 changed, 0 inserted, 0 removed");
 }
 
 TEST(FrameList, TellsTheWindowWhichRowTheUserSelects) {
@@ -144,7 +234,9 @@ TEST(FrameListView, ShowsTheCurrentFrameAsLargeAsFits) {
 TEST(FrameListView, ShowsWhatIsBehindTransparentPixelsAsTheSettingsSay) {
     ListFixture fixture({FrameOf(10, 10, 0)});
     const QImage checkered = fixture.Preview().grab().toImage();
-    fixture.shown.prefs.thumbnail_drawtransparent = false;
+    fixture.document.prefs.thumbnail_drawtransparent = false;
+    fixture.document.document.PublishSettings();
+    fixture.shown.Take(fixture.document.document);
     fixture.view->UpdateDisplay();
     const QImage grey = fixture.Preview().grab().toImage();
     const BRect area = fixture.Preview().PictureArea();

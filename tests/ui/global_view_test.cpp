@@ -122,6 +122,7 @@ TEST_F(GlobalViewTest, ResetsToTheSettingsDefaults) {
     prefs.global_pauselength = 3.25;
     prefs.global_useloop = false;
     prefs.global_loopcount = 23;
+    document.PublishSettings();
     EditOf(document)->width = 320;
     Take();
     panel.UpdateDisplay();

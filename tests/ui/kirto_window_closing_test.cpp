@@ -20,7 +20,7 @@ class KirtoWindowClosing : public KirtoWindowFixture {
     void OpenModified(const std::string& file_name = "some.gif") {
         AddFrame();
         document.SetModified(true);
-        document.file_name = file_name;
+        document.SetFile({}, file_name);
         Open();
     }
     // Lets the command ask its question, and gives that answer.
@@ -43,7 +43,7 @@ constexpr uint32 kAllCommands[] = {kMenuNew, kMenuOpen, B_QUIT_REQUESTED};
 
 TEST_F(KirtoWindowClosing, NewResetsTheDocumentAndShowsAnEmptyOne) {
     AddFrame();
-    document.file_name = "some.gif";
+    document.SetFile({}, "some.gif");
     prefs.global_width = 77;
     Open();
     KirtoWindowFixture::Do(kUpdateAll);
@@ -274,7 +274,7 @@ TEST_F(KirtoWindowClosing, ALaterAnswerReplacesTheCommandThatWaits) {
 
 TEST_F(KirtoWindowClosing, CountsAnEditOnItsWayToTheApplicationAsAChange) {
     AddFrame();
-    document.file_name = "some.gif";
+    document.SetFile({}, "some.gif");
     Open();
     KirtoWindowFixture::Do(kMoveFrameUp);
 
@@ -287,7 +287,7 @@ TEST_F(KirtoWindowClosing, CountsAnEditOnItsWayToTheApplicationAsAChange) {
 
 TEST_F(KirtoWindowClosing, CountsAFadeOnItsWayToTheApplicationAsAChange) {
     AddFrame();
-    document.file_name = "some.gif";
+    document.SetFile({}, "some.gif");
     Open();
     KirtoWindowFixture::Do(kMenuFadeEffects);
     Named<QPushButton>(*window->findChild<FadeWindow*>(), "OK")->click();
@@ -323,7 +323,7 @@ TEST_F(KirtoWindowClosing, CountsNoEditOnItsWayToAnEmptyAnimationAsAChange) {
 
 TEST_F(KirtoWindowClosing, SendsTheEditThatIsBeingTypedBeforeTheQuestion) {
     AddFrame();
-    document.file_name = "some.gif";
+    document.SetFile({}, "some.gif");
     Open();
     Type(Find<TextControl>("Width"), "12");
     const AlertRecorder alerts({kCancel});

@@ -59,7 +59,7 @@ TEST_F(KirtoWindowCommands, SaveDoesNothingUnlessThereAreChangesOfFrames) {
 TEST_F(KirtoWindowCommands, SaveSavesToTheFileThatTheDocumentHas) {
     AddFrame();
     document.SetModified(true);
-    document.file_name = "some.gif";
+    document.SetFile({}, "some.gif");
     Open();
 
     Do(kMenuSave);
@@ -89,8 +89,7 @@ TEST_F(KirtoWindowCommands, SaveAsShowsTheSavePanelWithAnEmptyNameAlsoForAnUnmod
 }
 
 TEST_F(KirtoWindowCommands, SaveAsShowsTheSavePanelInTheDocumentsFolder) {
-    document.file_name = "some.gif";
-    document.file_directory = "/some/folder";
+    document.SetFile("/some/folder", "some.gif");
     OpenWithFrames(1);
 
     Do(kMenuSaveAs);
@@ -174,6 +173,17 @@ TEST_F(KirtoWindowCommands, EditsOfFramesAreForwardedAndCounted) {
         EXPECT_EQ(document.changes_waiting, ++number);
     }
     EXPECT_EQ(Posted(), "awfr awfu awfd awfv DATA");
+}
+
+TEST_F(KirtoWindowCommands, UndoAndRedoAreForwardedAndCounted) {
+    OpenWithFrames(1);
+
+    Do(kUndo);
+    EXPECT_EQ(LastPosted().what, kUndo);
+    EXPECT_EQ(document.changes_waiting, 1);
+    Do(kRedo);
+    EXPECT_EQ(LastPosted().what, kRedo);
+    EXPECT_EQ(document.changes_waiting, 2);
 }
 
 TEST_F(KirtoWindowCommands, AForwardedMessageKeepsItsFields) {
@@ -378,15 +388,14 @@ TEST_F(KirtoWindowCommands, ThePresetOfTheSettingsNeedsNoFrame) {
     EXPECT_EQ(Height(), 77);
 }
 
-TEST_F(KirtoWindowCommands, APresetWaitsForTheFramesItIsAbout) {
+TEST_F(KirtoWindowCommands, APresetTakesFramesThatTheWindowHasNotShownYet) {
     Open();
-    document.WriterEnter();
-    Do(kThumbnailFirstFull);
-    EXPECT_EQ(Height(), 100);
-    document.WriterExit();
     AddFrame(1, 131);
 
-    EXPECT_TRUE(WaitFor([&] { return Height() == 131; }));
+    Do(kThumbnailFirstFull);
+
+    EXPECT_EQ(Height(), 131);
+    EXPECT_EQ(Find<QListWidget>("FrameList").count(), 1);
 }
 
 TEST_F(KirtoWindowCommands, SelectingInTheListSelectsTheFrame) {

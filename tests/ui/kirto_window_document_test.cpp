@@ -2,12 +2,12 @@
 // afterwards.
 #include <QCheckBox>
 #include <QComboBox>
+#include <QLabel>
 #include <QMenuBar>
 #include <QTest>
 #include <gtest/gtest.h>
 
 #include "app/kirto.h"
-#include "document/document_scope.h"
 #include "framework/qt/text_control.h"
 #include "support/environment.h"
 #include "support/fake_roster.h"
@@ -65,20 +65,32 @@ class KirtoWindowDocument : public ::testing::Test {
         }
         ADD_FAILURE() << "no " << label;
     }
+    void Press(int key, Qt::KeyboardModifiers modifiers) {
+        QTest::keyClick(QApplication::focusWidget(), static_cast<Qt::Key>(key), modifiers);
+    }
+    // True once the item can be chosen.
+    bool CanChoose(const char* label) {
+        return WaitFor([&] {
+            const auto* item = Window().menuBar()->findChild<QAction*>(label);
+            return item->isEnabled();
+        });
+    }
+    // True once the status line reads so.
+    bool StatusBecomes(const QString& text) {
+        return WaitFor([&] { return Named<QLabel>(Window(), "Status")->text() == text; });
+    }
     // True once the document is as the condition says.
     bool Becomes(const std::function<bool(const Kirto&)>& condition) {
-        return WaitFor([&] {
-            const ReaderScope reader(*app);
-            return condition(*app);
-        });
+        return WaitFor([&] { return condition(*app); });
     }
     // True once the frames stand in this order, the current one in brackets.
     bool FramesBecome(const std::string& names) {
         std::string now;
         const bool same = Becomes([&](const Kirto& document) {
             now.clear();
-            for (const FramePointer& frame : document.Current()->frames) {
-                const bool current = frame->index == document.Selected();
+            const auto animation = document.Current();
+            for (const FramePointer& frame : animation->frames) {
+                const bool current = frame == animation->CurrentFrame();
                 now += current ? "[" + frame->name + "]" : frame->name;
             }
             return now == names;
@@ -115,7 +127,7 @@ TEST_F(KirtoWindowDocument, TakesThePalettesChoices) {
     Enter("PaletteView", "Transparent index", "4");
 
     EXPECT_TRUE(Becomes([](const Kirto& document) {
-        const Palette& palette = *document.Current()->palette;
+        const Palette palette = *document.Current()->palette;
         return palette.use_transparent && palette.dither && palette.background_index == 3 &&
                palette.transparent_index == 4;
     }));
@@ -128,12 +140,12 @@ TEST_F(KirtoWindowDocument, TakesTheCurrentFramesNumbersAndNoOthers) {
     Enter("LocalView", "Pause length", "1.5");
 
     EXPECT_TRUE(Becomes([](const Kirto& document) {
-        const Frame& frame = *document.FirstFrame()->next;
+        const Frame frame = *document.FrameAt(1);
         return frame.x_offset == 6 && frame.y_offset == 7 && frame.use_pause &&
                frame.pause_length == 1.5;
     }));
     EXPECT_EQ(app->FirstFrame()->x_offset, 0);
-    EXPECT_EQ(app->FirstFrame()->next->next->x_offset, 0);
+    EXPECT_EQ(app->FrameAt(2)->x_offset, 0);
 }
 
 TEST_F(KirtoWindowDocument, TakesOverWhatIsTypedBeforeAShortcutMovesTheFrame) {
@@ -142,7 +154,8 @@ TEST_F(KirtoWindowDocument, TakesOverWhatIsTypedBeforeAShortcutMovesTheFrame) {
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_U, Qt::ControlModifier);
 
     EXPECT_TRUE(FramesBecome("[b]ac"));
-    EXPECT_TRUE(Becomes([](const Kirto& document) { return document.FirstFrame()->x_offset == 5; }));
+    EXPECT_TRUE(
+        Becomes([](const Kirto& document) { return document.FirstFrame()->x_offset == 5; }));
     EXPECT_TRUE(WaitFor([&] { return Find<TextControl>("LocalView", "XOffset").text() == "5"; }));
 }
 
@@ -171,23 +184,71 @@ TEST_F(KirtoWindowDocument, UnticksDitherTogetherWithTheDocument) {
 }
 
 TEST_F(KirtoWindowDocument, SavesTheChangesAndIsUnmodifiedThen) {
-    {
-        const WriterScope writer(*app);
-        app->file_directory = folder.Path();
-        app->file_name = "some.gif";
-    }
+    app->AnimationDocument::SetFile(folder.Path(), "some.gif");
     Window().UpdateDisplay();
     Enter("GlobalView", "Width", "77");
-    ASSERT_TRUE(Becomes([](const Kirto& document) { return document.Modified().load(); }));
-    ASSERT_TRUE(WaitFor([&] { return Window().Shown().modified; }));
+    ASSERT_TRUE(Becomes([](const Kirto& document) { return document.Modified(); }));
+    ASSERT_TRUE(WaitFor([&] { return Window().Shown().State().modified; }));
 
     Choose("Save");
 
-    EXPECT_TRUE(WaitFor([&] { return !Window().Shown().modified; }));
+    EXPECT_TRUE(WaitFor([&] { return !Window().Shown().State().modified; }));
     EXPECT_FALSE(app->Modified());
     const std::vector<uint8> bytes = ReadBytes(folder.File("some.gif"));
     ASSERT_GT(bytes.size(), 7u);
     EXPECT_EQ(bytes[6], 77) << "The width in the header.";
+}
+
+TEST_F(KirtoWindowDocument, UndoesAndRedoesTheRemovalOfAFrameWithTheKeyboard) {
+    Choose("Remove");
+    ASSERT_TRUE(FramesBecome("a[c]"));
+    ASSERT_TRUE(CanChoose("Undo"));
+    EXPECT_TRUE(StatusBecomes("Status: 2 frame(s), modified"));
+
+    Press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_TRUE(FramesBecome("a[b]c"));
+    EXPECT_TRUE(StatusBecomes("Status: 3 frame(s), unmodified"))
+        << "The document stands where it was saved.";
+    ASSERT_TRUE(CanChoose("Redo"));
+
+    Press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_TRUE(FramesBecome("a[c]"));
+    EXPECT_TRUE(StatusBecomes("Status: 2 frame(s), modified"));
+}
+
+TEST_F(KirtoWindowDocument, IsUnmodifiedWhereverTheHistoryMeetsTheSavedState) {
+    app->AnimationDocument::SetFile(folder.Path(), "some.gif");
+    Window().UpdateDisplay();
+    Choose("Remove");
+    ASSERT_TRUE(StatusBecomes("Status: 2 frame(s), modified"));
+    Choose("Save");
+    ASSERT_TRUE(StatusBecomes("Status: 2 frame(s), unmodified"));
+
+    Choose("Undo Remove Frame");
+    EXPECT_TRUE(StatusBecomes("Status: 3 frame(s), modified"));
+    EXPECT_EQ(Window().windowTitle(), "Kirto - some.gif");
+
+    Choose("Redo Remove Frame");
+    EXPECT_TRUE(StatusBecomes("Status: 2 frame(s), unmodified"));
+    EXPECT_EQ(Window().windowTitle(), "Kirto - some.gif");
+}
+
+TEST_F(KirtoWindowDocument, TakesOverWhatIsTypedBeforeAShortcutUndoesIt) {
+    const QString before = Find<TextControl>("GlobalView", "Width").text();
+    Choose("Remove");
+    ASSERT_TRUE(FramesBecome("a[c]"));
+    ASSERT_TRUE(CanChoose("Undo"));
+    Type("GlobalView", "Width", "77");
+
+    Press(Qt::Key_Z, Qt::ControlModifier);
+
+    EXPECT_TRUE(WaitFor([&] { return Window().Shown().State().redo_name == "Change Width"; }));
+    EXPECT_EQ(Find<TextControl>("GlobalView", "Width").text(), before);
+    EXPECT_EQ(Window().Shown().State().undo_name, "Remove Frame");
+    EXPECT_TRUE(FramesBecome("a[c]"));
+
+    Press(Qt::Key_Y, Qt::ControlModifier);
+    EXPECT_TRUE(Becomes([](const Kirto& document) { return document.Current()->width == 77; }));
 }
 
 TEST_F(KirtoWindowDocument, EmptiesTheDocumentWithNew) {

@@ -94,7 +94,7 @@ TEST_F(KirtoWindowEdits, TellThatAWidthCanNotBeLessThanZero) {
 }
 
 TEST_F(KirtoWindowEdits, NameEveryFieldThatIsTooLow) {
-    AddFrame().use_pause = true;
+    AddFrame()->use_pause = true;
     EditOf(document)->use_pause = true;
     EditOf(document)->use_loop = true;
     PaletteEditOf(document)->use_transparent = true;
@@ -313,7 +313,7 @@ TEST_F(KirtoWindowEdits, SwitchTheLocalPaletteWithItsMenu) {
 }
 
 TEST_F(KirtoWindowEdits, ForwardTheLocalPalettesKind) {
-    AddFrame().local_palette = true;
+    AddFrame()->local_palette = true;
     Open();
     for (const auto& [label, code] :
          {std::pair{"BeOS system", kFrameSystem}, std::pair{"web safe", kFrameWebSafe},
@@ -325,7 +325,7 @@ TEST_F(KirtoWindowEdits, ForwardTheLocalPalettesKind) {
 }
 
 TEST_F(KirtoWindowEdits, AskForALocalPalettesFile) {
-    AddFrame().local_palette = true;
+    AddFrame()->local_palette = true;
     Open();
 
     Choose("LocalView", "from a file");

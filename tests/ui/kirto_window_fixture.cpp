@@ -34,6 +34,7 @@ KirtoWindowFixture::KirtoWindowFixture()
 }
 
 void KirtoWindowFixture::Open(BRect frame) {
+    document.PublishSettings();
     const Editor editor{document, commands, panels, roster, &resources.Handler()};
     window = std::make_unique<KirtoWindow>(frame, "Kirto - untitled", editor);
     window->show();
@@ -41,11 +42,11 @@ void KirtoWindowFixture::Open(BRect frame) {
     HandleEvents();
 }
 
-Frame& KirtoWindowFixture::AddFrame(int32 width, int32 height) {
+FrameHandle KirtoWindowFixture::AddFrame(int32 width, int32 height) {
     const std::vector<uint32> pixels(static_cast<size_t>(width) * static_cast<size_t>(height),
                                      0xFF336699);
-    return *AppendFrame(document, PictureOf(width, height, pixels),
-                        "frame" + std::to_string(document.FrameCount()));
+    return AppendFrame(document, PictureOf(width, height, pixels),
+                       "frame" + std::to_string(document.FrameCount()));
 }
 
 void KirtoWindowFixture::Do(const BMessage& command) {

@@ -42,7 +42,7 @@ class KirtoWindowFixture : public ::testing::Test {
     // Makes the window for the settings and the document as they stand, and shows it.
     void Open(BRect frame = BRect(100, 80, 899, 679));
     // Appends a frame of that size.
-    Frame& AddFrame(int32 width = 2, int32 height = 1);
+    FrameHandle AddFrame(int32 width = 2, int32 height = 1);
     // Lets the window handle the command, and whatever it waits for then.
     void Do(const BMessage& command);
     void Do(uint32 code) { Do(BMessage(code)); }

@@ -12,13 +12,16 @@ class KirtoWindowShortcuts : public KirtoWindowFixture {
   protected:
     KirtoWindowShortcuts() {
         for (int32 i = 0; i < 3; ++i) {
-            Frame& frame = AddFrame();
-            frame.use_pause = true;
-            frame.local_palette = true;
+            const FrameHandle frame = AddFrame();
+            frame->use_pause = true;
+            frame->local_palette = true;
         }
         EditOf(document)->use_pause = true;
         EditOf(document)->use_loop = true;
         PaletteEditOf(document)->use_transparent = true;
+        MakeStep();
+        MakeStep();
+        document.Undo();
         Open();
         for (QAction* menu : window->menuBar()->actions()) {
             for (QAction* item : menu->menu()->actions()) {
@@ -27,6 +30,12 @@ class KirtoWindowShortcuts : public KirtoWindowFixture {
         }
     }
 
+    // An edit that can be undone.
+    void MakeStep() {
+        document.BeginStep();
+        document.ReverseFrames();
+        document.EndStep("Reverse All");
+    }
     // Whatever can have the keyboard now.
     std::vector<QWidget*> Controls() const {
         std::vector<QWidget*> controls;
@@ -57,7 +66,7 @@ class KirtoWindowShortcuts : public KirtoWindowFixture {
 };
 
 TEST_F(KirtoWindowShortcuts, ChooseTheirItemsWhateverControlHasTheKeyboard) {
-    ASSERT_EQ(items.size(), 13u);
+    ASSERT_EQ(items.size(), 15u);
     size_t fields = 0;
     for (QWidget* control : Controls()) {
         auto* field = dynamic_cast<TextControl*>(control);
@@ -85,6 +94,16 @@ TEST_F(KirtoWindowShortcuts, LeaveTheTextOfTheFieldsAloneEvenWhereTheirItemsAreD
         }
         EXPECT_EQ(field->selectedText(), "12") << "Ctrl+A selects it.";
     }
+}
+
+TEST_F(KirtoWindowShortcuts, RedoWithTheSecondKeysToo) {
+    TextControl& field = Find<TextControl>("Width");
+    field.setFocus();
+
+    QTest::keyClick(&field, Qt::Key_Y, Qt::ControlModifier);
+    HandleEvents();
+
+    EXPECT_EQ(Posted(), CodeText(kRedo));
 }
 
 TEST_F(KirtoWindowShortcuts, PostWhatWasTypedBeforeTheirCommand) {

@@ -12,8 +12,8 @@ using Lines = std::vector<std::string>;
 
 class LocalViewTest : public ViewFixture {
   protected:
-    Frame& AddFrame() {
-        return *AppendFrame(document, PictureOf(2, 1, {0xFF000001, 0xFF000002}), "frame0000");
+    FrameHandle AddFrame() {
+        return AppendFrame(document, PictureOf(2, 1, {0xFF000001, 0xFF000002}), "frame0000");
     }
     void Update() {
         Take();
@@ -92,7 +92,7 @@ TEST_F(LocalViewTest, BeginsWithoutAFrame) {
 }
 
 TEST_F(LocalViewTest, ShowsNoneAndUnknownWithoutACurrentFrame) {
-    AddFrame().use_pause = true;
+    AddFrame()->use_pause = true;
     Update();
     document.RemoveFrame();
 
@@ -102,13 +102,13 @@ TEST_F(LocalViewTest, ShowsNoneAndUnknownWithoutACurrentFrame) {
 }
 
 TEST_F(LocalViewTest, ShowsTheCurrentFrame) {
-    Frame& frame = AddFrame();
-    frame.x_offset = 3;
-    frame.y_offset = 4;
-    frame.use_pause = true;
-    frame.pause_length = 1.5;
-    frame.local_palette = true;
-    frame.palette->Set(kPaletteGreyscale);
+    const FrameHandle frame = AddFrame();
+    frame->x_offset = 3;
+    frame->y_offset = 4;
+    frame->use_pause = true;
+    frame->pause_length = 1.5;
+    frame->local_palette = true;
+    frame.Palette()->Set(kPaletteGreyscale);
     Update();
 
     EXPECT_EQ(panel.frame_name->text(), "frame0000");
@@ -126,10 +126,10 @@ TEST_F(LocalViewTest, ShowsTheCurrentFrame) {
 }
 
 TEST_F(LocalViewTest, CountsTheColours) {
-    Frame& frame = AddFrame();
+    const FrameHandle frame = AddFrame();
     for (const auto& [colors, text] : {std::pair{0, "Unknown"}, std::pair{1, "1 color"},
                                        std::pair{2, "2 colors"}, std::pair{300, "300 colors"}}) {
-        frame.palette->unique_colors = colors;
+        frame.Palette()->unique_colors = colors;
         Update();
         EXPECT_EQ(panel.frame_colors->text(), text);
     }
@@ -148,14 +148,14 @@ TEST_F(LocalViewTest, EnablesWhatBelongsToABoxOnlyWhileItIsTicked) {
 }
 
 TEST_F(LocalViewTest, MarksTheLocalPalettesKind) {
-    Frame& frame = AddFrame();
+    const FrameHandle frame = AddFrame();
     const std::pair<int32, const char*> kinds[] = {
         {kPaletteSystem, "BeOS system"},   {kPaletteWebSafe, "web safe"},
         {kPaletteGreyscale, "greyscale"},  {kPaletteOptimal, "optimal"},
         {kPaletteFromFile, "from a file"}, {kPaletteAwaitingFile, "from a file"},
     };
     for (const auto& [mode, label] : kinds) {
-        frame.palette->mode = mode;
+        frame.Palette()->mode = mode;
         Update();
         EXPECT_EQ(panel.palette_menu->currentText(), label) << mode;
     }
@@ -173,7 +173,7 @@ TEST_F(LocalViewTest, LeavesAFieldAloneWhileTheUserTypesInIt) {
 }
 
 TEST_F(LocalViewTest, ShowsANameThatLooksLikeMarkupAsItIs) {
-    AddFrame().name = "<b>&name</b>";
+    AddFrame()->name = "<b>&name</b>";
     Update();
 
     EXPECT_EQ(panel.frame_name->text(), "<b>&name</b>");

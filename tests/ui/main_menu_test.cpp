@@ -39,13 +39,13 @@ class MainMenu : public ::testing::Test {
     QMenuBar* bar = MakeMainMenu(&window, [this](uint32 code) { chosen += CodeText(code); });
 };
 
-TEST_F(MainMenu, HasThreeMenus) {
+TEST_F(MainMenu, HasFourMenusWithEditBetweenFileAndView) {
     Lines titles;
     for (const QAction* action : bar->actions())
         titles.push_back(action->text().remove('&').toStdString());
 
     EXPECT_EQ(bar->objectName(), "MenuBar");
-    EXPECT_EQ(titles, (Lines{"File", "View", "Frame"}));
+    EXPECT_EQ(titles, (Lines{"File", "Edit", "View", "Frame"}));
 }
 
 TEST_F(MainMenu, HasTheItemsOfTheFileMenu) {
@@ -56,17 +56,50 @@ TEST_F(MainMenu, HasTheItemsOfTheFileMenu) {
                      "Save As...|Ctrl+A|awfa", "-", "About...||_ABR", "-", "Quit|Ctrl+Q|_QRQ"}));
 }
 
+TEST_F(MainMenu, HasTheItemsOfTheEditMenu) {
+    ShowHistory(*bar, "Remove Frame", "Reverse Frames");
+
+    EXPECT_EQ(ItemsOf(MenuAt(1)), (Lines{"Undo Remove Frame|Ctrl+Z|" + CodeText(kUndo),
+                                         "Redo Reverse Frames|Ctrl+Shift+Z|" + CodeText(kRedo)}));
+}
+
+TEST_F(MainMenu, RedoesWithTheKeysOfEitherHabit) {
+    const QAction* redo = MenuAt(1).actions().at(1);
+
+    EXPECT_EQ(redo->shortcuts(),
+              (QList<QKeySequence>{QKeySequence("Ctrl+Shift+Z"), QKeySequence("Ctrl+Y")}));
+}
+
+TEST_F(MainMenu, NamesTheEditsThatCanBeUndoneAndRedoneAndDisablesWhatHasNone) {
+    const QAction* undo = MenuAt(1).actions().at(0);
+    const QAction* redo = MenuAt(1).actions().at(1);
+    const auto expect = [&](const QString& undo_text, const QString& redo_text) {
+        EXPECT_EQ(undo->text(), "&" + undo_text);
+        EXPECT_EQ(redo->text(), "&" + redo_text);
+        EXPECT_EQ(undo->isEnabled(), undo_text != "Undo");
+        EXPECT_EQ(redo->isEnabled(), redo_text != "Redo");
+    };
+
+    expect("Undo", "Redo");
+    ShowHistory(*bar, "Remove Frame", "");
+    expect("Undo Remove Frame", "Redo");
+    ShowHistory(*bar, "", "Remove Frame");
+    expect("Undo", "Redo Remove Frame");
+    ShowHistory(*bar, "", "");
+    expect("Undo", "Redo");
+}
+
 TEST_F(MainMenu, HasTheItemsOfTheViewMenu) {
     EnableFrameItems(*bar, true);
 
-    EXPECT_EQ(ItemsOf(MenuAt(1)), (Lines{"Preview|Ctrl+P|awvp", "Toggle Mode|Ctrl+M|awvm", "-",
+    EXPECT_EQ(ItemsOf(MenuAt(2)), (Lines{"Preview|Ctrl+P|awvp", "Toggle Mode|Ctrl+M|awvm", "-",
                                          "Preferences...||awvr"}));
 }
 
 TEST_F(MainMenu, HasTheItemsOfTheFrameMenu) {
     EnableFrameItems(*bar, true);
 
-    EXPECT_EQ(ItemsOf(MenuAt(2)),
+    EXPECT_EQ(ItemsOf(MenuAt(3)),
               (Lines{"Insert...|Ctrl+I|awfi", "Insert Tiled...|Ctrl+T|awit", "Remove|Ctrl+R|awfr",
                      "-", "Move Up|Ctrl+U|awfu", "Move Down|Ctrl+D|awfd", "Reverse All||awfv", "-",
                      "Fade Effects...|Ctrl+F|awfe"}));

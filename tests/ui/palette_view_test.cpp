@@ -82,11 +82,10 @@ TEST_F(PaletteViewTest, MarksThePalettesKind) {
 }
 
 TEST_F(PaletteViewTest, ShowsTheGlobalPalette) {
-    Palette& palette = *document.Current()->palette;
-    palette.dither = true;
-    palette.background_index = 5;
-    palette.use_transparent = true;
-    palette.transparent_index = 6;
+    PaletteEditOf(document)->dither = true;
+    PaletteEditOf(document)->background_index = 5;
+    PaletteEditOf(document)->use_transparent = true;
+    PaletteEditOf(document)->transparent_index = 6;
     Take();
 
     panel.UpdateDisplay();
@@ -146,6 +145,7 @@ TEST_F(PaletteViewTest, ResetsToTheSettingsDefaults) {
     prefs.palette_backgroundindex = 7;
     prefs.palette_usetransparent = true;
     prefs.palette_transparentindex = 8;
+    document.PublishSettings();
     Take();
 
     panel.ResetDisplay();
@@ -162,6 +162,7 @@ TEST_F(PaletteViewTest, ResetsToTheSettingsDefaults) {
 TEST_F(PaletteViewTest, ResetsToGreyscaleWithoutDither) {
     fixture.prefs.palette_mapping = kPaletteGreyscale;
     fixture.prefs.palette_dither = true;
+    document.PublishSettings();
     Take();
 
     panel.ResetDisplay();

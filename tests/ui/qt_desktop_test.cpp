@@ -168,7 +168,7 @@ TEST_F(QtDesktopTest, EditsTravelToTheDocumentAndBack) {
 
     auto* status = Named<QLabel>(Window(), "Status");
     EXPECT_TRUE(WaitFor([&] { return status->text() == "Status: 3 frame(s), modified"; }));
-    EXPECT_EQ(Window().Shown().width, 77);
+    EXPECT_EQ(Window().Shown().Current().width, 77);
 }
 
 TEST_F(QtDesktopTest, FollowsTheSelectionInTheList) {
@@ -187,7 +187,7 @@ TEST_F(QtDesktopTest, AbandonsTheCommandThatWaitsForASave) {
     // The application's thread does not run: nothing is saved before the window forgets it.
     WriteGif("some.gif", 1);
     AppendFrame(*app, PictureOf(1, 1, {0xFF000001}), "frame");
-    app->file_name = "some.gif";
+    app->AnimationDocument::SetFile({}, "some.gif");
     app->SetModified(true);
     {
         const AlertRecorder save({2});

@@ -111,7 +111,7 @@ TEST_P(Responsiveness, TheWindowIsUsedToTheFullWhileTheDocumentIsBeingEdited) {
     edit->Release();
 
     EXPECT_TRUE(edit->WasReleased()) << "The window waited for the document.";
-    EXPECT_TRUE(WaitFor([&] { return Window().Shown().width == 77; }))
+    EXPECT_TRUE(WaitFor([&] { return Window().Shown().Current().width == 77; }))
         << "What was done meanwhile is carried out afterwards.";
 }
 

@@ -108,8 +108,9 @@ TEST(ThumbDrawingViewDrag, CarriesAMessageThatSaysWhereItBegan) {
 TEST(ThumbDrawingViewDrag, StartsForAll32BitPicturesAndNoOthers) {
     for (const color_space space : {B_RGB32, B_RGBA32, B_RGB32_BIG, B_RGBA32_BIG, B_CMAP8, B_RGB24,
                                     B_RGB16, B_GRAY8, B_GRAY1}) {
-        const auto picture = std::make_shared<BBitmap>(BRect(0, 0, 9, 9), space);
-        ThumbnailFixture fixture({{picture, "frame", 10, 10}});
+        const auto frame = std::make_shared<Frame>("frame", 10, 10);
+        frame->bitmap = std::make_shared<BBitmap>(BRect(0, 0, 9, 9), space);
+        ThumbnailFixture fixture({frame});
         BegunDrag begun;
         fixture.Grid().SetDragStarter(begun.Starter());
         fixture.Grid().DragToTracker({0, 0});
@@ -143,7 +144,7 @@ TEST(ThumbDrawingViewDrag, LeavesATargaFileThatIsGoneWithTheView) {
         ASSERT_EQ(begun.data->urls().size(), 1);
         path = begun.data->urls().first().toLocalFile().toStdString();
         EXPECT_EQ(entry_ref(path).Leaf(), "red.tga");
-        EXPECT_EQ(ReadBytes(path), RawPicture(*fixture.shown.frames[0].bitmap));
+        EXPECT_EQ(ReadBytes(path), RawPicture(*fixture.shown.Frames().At(0)->bitmap));
         fixture.Grid().DragToTracker({0, 0});
         EXPECT_NE(begun.data->urls().first().toLocalFile().toStdString(), path);
     }
@@ -172,7 +173,8 @@ TEST(ThumbDrawingViewDrag, SavesTheCurrentFrameWhereTheTargetAsks) {
     ThumbnailFixture fixture({FrameOf(2, 2, 0xFFFF0000), FrameOf(2, 2, 0xFF00FF00)}, 1);
     BMessage message = CopyTo(folder.Path(), "green.tga");
     fixture.Grid().MessageReceived(&message);
-    EXPECT_EQ(ReadBytes(folder.File("green.tga")), RawPicture(*fixture.shown.frames[1].bitmap));
+    EXPECT_EQ(ReadBytes(folder.File("green.tga")),
+              RawPicture(*fixture.shown.Frames().At(1)->bitmap));
 }
 
 TEST(ThumbDrawingViewDrag, SavesNothingWithoutDirectoryNameOrFrame) {

@@ -195,9 +195,7 @@ TEST(ThumbDrawingView, HasAScrollRangeThatEndsAGapBelowTheLastRow) {
     EXPECT_EQ(bar->singleStep(), 8);
     EXPECT_EQ(bar->pageStep(), 64);
     EXPECT_FALSE(fixture.Scroll().horizontalScrollBar()->isVisible());
-    fixture.shown.frames.clear();
-    fixture.shown.selected = -1;
-    fixture.view->UpdateDisplay();
+    fixture.Show({});
     EXPECT_EQ(bar->maximum(), 0);
 }
 
@@ -232,7 +230,8 @@ TEST(ThumbDrawingView, LeavesTheUserAloneWhileTheCurrentFrameStaysTheSame) {
     EXPECT_EQ(fixture.Scroll().Top(), 0);
     fixture.Select(31);
     fixture.Scroll().ScrollTo(0);
-    fixture.shown.selected = 32;
+    fixture.fixture.document.Select(32);
+    fixture.shown.Take(fixture.fixture.document);
     fixture.view->ResetDisplay();
     EXPECT_EQ(fixture.Scroll().Top(), 0);
 }
@@ -270,9 +269,9 @@ TEST(ThumbDrawingView, DrawsTheCurrentFrameWithALineInTheSelectionColour) {
 }
 
 TEST(ThumbDrawingView, DrawsFramesPastTheThousandthButDoesNotHitThem) {
-    std::vector<FrameSnapshot> frames = SameFrames(1001, 100, 100);
+    std::vector<FramePointer> frames = SameFrames(1001, 100, 100);
     frames.back() = FrameOf(100, 100, 0xFFFF0000);
-    ThumbnailFixture fixture(std::move(frames));
+    ThumbnailFixture fixture(frames);
     fixture.Scroll().ScrollTo(1 << 24);
     const QPoint middle = fixture.MiddleOf(1000);
     const QImage image = fixture.Scroll().viewport()->grab().toImage();
@@ -297,8 +296,7 @@ TEST(ThumbDrawingView, TellsThoseWhoCanNotSeeItWhichFrameIsCurrent) {
     ThumbnailFixture fixture(SameFrames(12, 320, 240), 3);
     EXPECT_EQ(fixture.Grid().accessibleName(), "Thumbnails");
     EXPECT_EQ(fixture.Grid().accessibleDescription(), "frame #0003 frame, 320 x 240, 12 frame(s)");
-    fixture.shown.frames.clear();
-    fixture.Select(-1);
+    fixture.Show({});
     EXPECT_EQ(fixture.Grid().accessibleDescription(), "no frames");
 }
 

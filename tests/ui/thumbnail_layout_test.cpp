@@ -3,35 +3,33 @@
 #include <gtest/gtest.h>
 #include <random>
 
-#include "ui/frame_area_fixture.h"
-
 namespace kirto::test {
 namespace {
 
 // count frames of width x height without pixels.
-std::vector<FrameSnapshot> Sizes(int32 count, int32 width, int32 height) {
-    return std::vector<FrameSnapshot>(static_cast<size_t>(count),
-                                      FrameSnapshot{nullptr, "", width, height});
+FrameSequence Sizes(int32 count, int32 width, int32 height) {
+    FrameSequence frames;
+    for (int32 i = 0; i < count; ++i)
+        frames.Insert(i, std::make_shared<Frame>("", width, height));
+    return frames;
 }
 
-ThumbnailLayout LayoutOf(const std::vector<FrameSnapshot>& frames, int32 height, float right_edge) {
+ThumbnailLayout LayoutOf(const FrameSequence& frames, int32 height, float right_edge) {
     ThumbnailLayout layout;
     layout.Update(frames, height, right_edge);
     return layout;
 }
 
 // The rectangles, one frame after the other.
-std::vector<BRect> PlainRectangles(const std::vector<FrameSnapshot>& frames, int32 height,
-                                   float right_edge) {
+std::vector<BRect> PlainRectangles(const FrameSequence& frames, int32 height, float right_edge) {
     std::vector<BRect> table;
     const auto h = static_cast<float>(height);
     float left = 4;
     float top = 5;
-    for (size_t i = 0; i < frames.size(); ++i) {
-        const float w =
-            static_cast<float>(frames[i].width) * h / static_cast<float>(frames[i].height);
+    for (const FramePointer& frame : frames) {
+        const float w = static_cast<float>(frame->width) * h / static_cast<float>(frame->height);
         BRect rect(left, top, left + w - 1, top + h - 1);
-        if (i > 0 && rect.right + 4 >= right_edge) {
+        if (!table.empty() && rect.right + 4 >= right_edge) {
             left = 4;
             top = top + h + 5;
             rect = BRect(left, top, left + w - 1, top + h - 1);
@@ -48,9 +46,9 @@ TEST(ThumbnailLayout, EqualsAPlainLoopOnFramesOfAnySize) {
         return std::uniform_int_distribution<int32>(first, last)(random);
     };
     for (int round = 0; round < 200; ++round) {
-        std::vector<FrameSnapshot> frames;
+        FrameSequence frames;
         for (int32 count = number(0, 60); count > 0; --count)
-            frames.push_back({nullptr, "", number(1, 900), number(1, 700)});
+            frames.Insert(0, std::make_shared<Frame>("", number(1, 900), number(1, 700)));
         const int32 height = number(1, 400);
         const auto right_edge = static_cast<float>(number(0, 2000));
         const ThumbnailLayout layout = LayoutOf(frames, height, right_edge);
@@ -83,15 +81,15 @@ TEST(ThumbnailLayout, NeverWrapsTheFirst) {
 }
 
 TEST(ThumbnailLayout, LaysOutOnlyWhatHasChanged) {
-    std::vector<FrameSnapshot> frames = Sizes(3, 10, 10);
+    FrameSequence frames = Sizes(3, 10, 10);
     ThumbnailLayout layout;
     EXPECT_TRUE(layout.Update(frames, 20, 100));
     EXPECT_FALSE(layout.Update(frames, 20, 100));
     EXPECT_TRUE(layout.Update(frames, 21, 100));
     EXPECT_TRUE(layout.Update(frames, 21, 99));
-    frames[1].width = 11;
+    frames.Replace(1, std::make_shared<Frame>("", 11, 10));
     EXPECT_TRUE(layout.Update(frames, 21, 99));
-    frames.pop_back();
+    frames.Remove(2);
     EXPECT_TRUE(layout.Update(frames, 21, 99));
     EXPECT_EQ(layout.Count(), 2);
 }

@@ -47,8 +47,10 @@ TEST(ThumbnailView, TakesTheSlidersRangeFromTheSettings) {
     ThumbnailFixture fixture({});
     EXPECT_EQ(Named<QSlider>(fixture, "Slider").minimum(), 30);
     EXPECT_EQ(Named<QSlider>(fixture, "Slider").maximum(), 400);
-    fixture.shown.prefs.thumbnail_minheight = 120;
-    fixture.shown.prefs.thumbnail_maxheight = 200;
+    fixture.fixture.prefs.thumbnail_minheight = 120;
+    fixture.fixture.prefs.thumbnail_maxheight = 200;
+    fixture.fixture.document.PublishSettings();
+    fixture.shown.Take(fixture.fixture.document);
     fixture.view->UpdateDisplay();
     EXPECT_EQ(Named<QSlider>(fixture, "Slider").minimum(), 120);
     EXPECT_EQ(Named<QSlider>(fixture, "Slider").maximum(), 200);
