@@ -29,7 +29,7 @@ std::string SplitPosition(const std::string& value, int32* position) {
     return value.substr(0, at);
 }
 
-// Takes the text behind the last comma off the value; empty without a comma.
+// Takes the text after the last comma off the value; empty without a comma.
 std::string TakeLastItem(std::string* value) {
     const size_t comma = value->rfind(',');
     if (comma == std::string::npos) return {};
