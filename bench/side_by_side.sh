@@ -27,7 +27,7 @@ ffmpeg_quietly() {
     ffmpeg -hide_banner -loglevel error -nostdin -y "$@"
 }
 
-# The 216 web-safe colours as ffmpeg takes a palette: a picture of 16 x 16 pixels.
+# The 216 web-safe colors as ffmpeg takes a palette: a picture of 16 x 16 pixels.
 write_web_palette() {
     awk 'BEGIN {
         print "P3 16 16 255"
@@ -117,8 +117,8 @@ for animation in small sprites screen changes photo large; do
 done
 # With one palette for all frames, so that the palette of the file is really replaced.
 for animation in sprites screen photo large; do
-    row 'dither to web-safe colours' dither "$animation"
+    row 'dither to web-safe colors' dither "$animation"
 done
 for animation in sprites photo large; do
-    row 'dither to 64 colours' reduce "$animation"
+    row 'dither to 64 colors' reduce "$animation"
 done

@@ -11,7 +11,7 @@
 
 namespace kirto {
 
-// Tells frames apart for the life of the program. 0 is no frame.
+// Tells frames apart for the life of the program. 0 is not a frame.
 using FrameId = uint64;
 
 }  // namespace kirto
@@ -32,7 +32,7 @@ class Frame {
     int32 x_offset = 0;          // left edge on the canvas, pixels
     int32 y_offset = 0;          // top edge on the canvas, pixels
     double pause_length = 0.0;   // hundredths of a second, or seconds ("global_pauseinseconds")
-    bool local_palette = false;  // written with its own colour table
+    bool local_palette = false;  // written with its own color table
     bool use_pause = false;      // pause_length overrides the animation's
     std::shared_ptr<const Palette> palette;  // never null
 

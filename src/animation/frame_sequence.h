@@ -11,8 +11,8 @@ namespace kirto {
 
 // The frames of an animation, in order. A value whose copies share what they have in common: it is
 // kept in leaves of at most 64 frames, and an edit makes new ones of those leaves only that it
-// changes. So a step of the history, and what a window shows, cost next to nothing beside the
-// frames themselves. Copies may be used by several threads.
+// changes. So a step of the history, or a window's copy, costs next to nothing besides the frames
+// themselves. Copies may be used by several threads.
 class FrameSequence {
   public:
     class Iterator;
@@ -20,7 +20,7 @@ class FrameSequence {
     int32 Size() const { return size_; }
     bool Empty() const { return size_ == 0; }
 
-    // Null outside 0..Size() - 1.
+    // Null for positions outside 0..Size() - 1.
     FramePointer At(int32 i) const;
     // The position of the frame of that id, or -1.
     int32 Find(FrameId id) const;
@@ -37,9 +37,9 @@ class FrameSequence {
     Iterator begin() const;
     Iterator end() const;
 
-    // The frames [begin, end) of this sequence stand where the other one has [begin, other_end); in
-    // front of and behind them both have the same frames, by identity. All equal for sequences that
-    // are the same. Costs what differs, not what is shared.
+    // The frames [begin, end) of this sequence stand where the other one has [begin, other_end);
+    // before and after them both have the same frames, by identity. All equal for sequences that
+    // are the same. The cost depends on what differs, not on what is shared.
     struct Difference {
         int32 begin = 0;
         int32 end = 0;
@@ -47,7 +47,7 @@ class FrameSequence {
     };
     Difference DifferenceTo(const FrameSequence& other) const;
 
-    // Whether both have equal frames. What they share is not looked at.
+    // Whether both have equal frames. Skips what they share.
     friend bool operator==(const FrameSequence& a, const FrameSequence& b);
 
   private:
@@ -64,7 +64,7 @@ class FrameSequence {
     int32 size_ = 0;
 };
 
-// Goes over the frames in order, in constant time a step.
+// Iterates over the frames in order, in constant time per step.
 class FrameSequence::Iterator {
   public:
     using iterator_category = std::forward_iterator_tag;

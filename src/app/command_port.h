@@ -7,9 +7,9 @@
 
 namespace kirto {
 
-// Where windows and file panels post the application's commands. Those that change the document
-// count as changes from the moment they are posted until they are carried out, however long other
-// work keeps them waiting. Callable from any thread.
+// Where windows and file panels post the application's commands. A command that changes the
+// document counts as a pending change from the moment it is posted until it has been carried out.
+// Thread-safe.
 class CommandPort : public MessagePort {
   public:
     // The document outlives whoever posts.
@@ -18,10 +18,10 @@ class CommandPort : public MessagePort {
     status_t Post(BMessage message, handler_token handler) override;
     bool IsOpen() const override { return application_->IsOpen(); }
 
-    // Counts the command among the document's waiting changes, if it is a change, and marks it.
+    // If the command changes the document: counts it as a pending change and marks it.
     static void Count(AnimationDocument& document, BMessage* command);
     static bool IsCounted(const BMessage& command);
-    // The command is carried out, or never will be: it counts no longer. Its code is what it was.
+    // Stops counting a command that was carried out or dropped, and restores its code.
     static void Uncount(AnimationDocument& document, const BMessage& command);
 
   private:

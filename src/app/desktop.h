@@ -12,9 +12,9 @@ class Kirto;
 
 namespace kirto {
 
-// Everything the application asks of a screen and of the desktop behind it: windows, the command
-// line or a test's script. Called on the application's thread; implementations do their own
-// crossing to other threads. Outlives the application.
+// Everything the application needs from a screen and a desktop; implemented by the windows, the
+// command line and a test's script. Called on the application's thread; implementations cross to
+// other threads themselves. Outlives the application.
 class Desktop : public AlertPresenter {
   public:
     // Makes and shows the main window of the application, which is still being constructed, and
@@ -27,7 +27,7 @@ class Desktop : public AlertPresenter {
     virtual BRect ScreenFrame() = 0;
     // A file panel that posts to target; not shown yet.
     virtual std::unique_ptr<FilePanel> MakeFilePanel(FilePanelKind kind, BMessenger target) = 0;
-    // The file's MIME type, or an empty text when nobody knows it.
+    // The file's MIME type, or an empty string when it is unknown.
     virtual std::string MimeTypeOf(const std::string& path) = 0;
     // Shows the file in the user's web browser, or in the viewer for its kind.
     virtual void OpenInBrowser(const std::string& path) = 0;

@@ -6,12 +6,12 @@
 
 namespace kirto {
 
-// The edit of this code, as the "Edit" menu names it; null when the code is none of these edits.
+// The name of the edit in the "Edit" menu, or null when the code is not one of these edits.
 const char* EditName(uint32 code);
 
-// Carries out the edit and marks the document modified. An edit of the
-// current frame does nothing without one, and a message without its field "value" does nothing.
-// False when the code is none of these edits.
+// Carries out the edit and marks the document modified. Does nothing when an edit of the current
+// frame finds none, or when the message lacks its field "value". Returns false when the code is not
+// one of these edits.
 bool ApplyEdit(AnimationDocument& document, const BMessage& message);
 
 }  // namespace kirto

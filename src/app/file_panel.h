@@ -10,16 +10,16 @@ enum class FilePanelKind { kOpen, kInsert, kInsertTiled, kSave };
 
 // A file dialog of the application. It posts its own message to the application when files are
 // chosen, and B_CANCEL with itself as pointer "source" whenever it closes. Made by the Desktop,
-// owned by the application. Made on any thread; what its fields hold may be asked from any thread,
-// showing it belongs to the GUI thread, and so does its end.
+// owned by the application. It may be made, and its fields read, on any thread; it is shown and
+// destroyed on the GUI thread.
 class FilePanel {
   public:
     virtual ~FilePanel() = default;
 
-    // The save panel's chosen output: a translator's id, or 0 for animated GIF. A choice that is
-    // cancelled is none.
+    // The save panel's chosen output: a translator's id, or 0 for animated GIF. A cancelled choice
+    // does not count.
     virtual uint32 OutputFormat() const { return 0; }
-    // Makes it animated GIF again. From any thread.
+    // Resets the output to animated GIF. Thread-safe.
     virtual void ForgetOutputFormat() {}
     // The insert-tiled panel's fields as they stand, and its order.
     virtual std::string RowsText() const { return {}; }
@@ -27,7 +27,7 @@ class FilePanel {
     virtual bool ColumnByColumn() const { return false; }
 
     virtual void SetTitle(const std::string&) {}
-    // The folder that the panel shows next; nothing happens where there is none.
+    // The folder that the panel shows next; does nothing if there is no such folder.
     virtual void SetDirectory(const std::string&) {}
     // The save panel's field for the file's name.
     virtual void SetSaveText(const std::string&) {}
@@ -35,8 +35,7 @@ class FilePanel {
     virtual void Show() {}
 };
 
-// The program's file panels, each made on first use and the same ever after. Callable from any
-// thread.
+// The program's file panels, each made on first use and then kept. Thread-safe.
 class FilePanelSource {
   public:
     virtual ~FilePanelSource() = default;

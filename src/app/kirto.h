@@ -33,10 +33,10 @@ class Kirto : public IEApplication, public AnimationDocument, public kirto::File
     // Ends the loop, deletes all frames and removes the preview files that it wrote.
     ~Kirto() override;
 
-    bool open_panel_delivered = false;  // the open panel's next cancel notice is no real cancel
+    bool open_panel_delivered = false;  // the open panel's next cancel notice is not a real cancel
 
-    // Settings of the image writers by translator id, as the save panel's settings leave them. The
-    // application thread's.
+    // Settings of the image writers by translator id, as set in the save panel. Application's
+    // thread only.
     std::map<translator_id, BMessage> translator_settings;
 
     // Where windows and file panels send their commands.
@@ -46,7 +46,7 @@ class Kirto : public IEApplication, public AnimationDocument, public kirto::File
     // Files dropped on the window, or opened from the desktop: routed to opening or inserting.
     void RefsReceived(BMessage* message) override;
     void AboutRequested() override;
-    // 'asav': to the current file in the save panel's format. Asks first where another program has
+    // 'asav': to the current file in the save panel's format. Asks first if another program has
     // changed the file since it was opened or saved.
     void SaveAgain();
     // A file panel closed. True when the window must be refreshed.
@@ -59,8 +59,8 @@ class Kirto : public IEApplication, public AnimationDocument, public kirto::File
     // To file_directory/file_name. format: 0 or 0xFFFFFFFF for animated GIF, else the translator of
     // an image sequence.
     void Save(uint32 format);
-    // One image file a frame, of file_name with a number before its first dot. False after telling
-    // the user what went wrong.
+    // Writes one image file per frame, named file_name with a number before its first dot. On
+    // failure tells the user and returns false.
     bool SaveSequence(uint32 translator);
     // Writes a temporary GIF and shows it in the browser.
     void Preview();
@@ -88,7 +88,7 @@ class Kirto : public IEApplication, public AnimationDocument, public kirto::File
     struct Command;
 
     static const Command* CommandFor(uint32 code);
-    // Throws what the standard library throws without memory.
+    // Throws std::bad_alloc when memory runs out.
     void CarryOut(BMessage* message);
     // True when that panel exists and is the source.
     bool IsPanel(kirto::FilePanelKind kind, const void* source);

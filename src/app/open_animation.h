@@ -10,17 +10,17 @@ namespace kirto {
 
 enum class AnimationType { kNone, kGif, kFli };
 
-// What kind of animation the name or the MIME type says a file is. The name parts are looked for
-// anywhere in the leaf name and are case-sensitive; GIF is asked first.
+// What kind of animation the name or the MIME type says a file is. The name parts match anywhere in
+// the leaf name, case-sensitively; GIF is tested first.
 AnimationType ClassifyAnimation(const std::string& leaf_name, const std::string& mime_type);
-// By the file's first bytes alone. The position goes back to the start.
+// Looks at the file's first bytes only, and sets the position back to the start.
 AnimationType ClassifyContent(BFile* file);
 
-// Decodes the file into the document from the position on. On failure the user is told when memory
-// was too short, and is asked whether to keep what was decoded ("Salvage", the default where the
-// document had other frames before) or not ("OK", which resets the document); the result is false
-// either way. After a GIF, palettes are recognised and
-// pauses are shared out between the animation and its frames; a FLI animation loops for ever.
+// Decodes the file into the document from the position on. On failure tells the user if memory ran
+// out, asks whether to keep what was decoded ("Salvage", the default if the document had other
+// frames before) or not ("OK", which resets the document), and returns false either way. After a
+// GIF, palettes are recognized and the commonest pause becomes the animation's; a FLI animation
+// loops forever.
 bool OpenGif(BFile* file, int32 position, AnimationDocument& document);
 bool OpenFli(BFile* file, int32 position, AnimationDocument& document);
 

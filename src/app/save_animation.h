@@ -11,24 +11,24 @@ namespace kirto {
 // first dot, "anim.png" gives "anim0007.png".
 std::string SequenceFileName(const std::string& file_name, int32 index);
 
-// Told when a file can't be made.
+// The alert when a file can't be created.
 inline constexpr const char* kFileNotCreatedText =
     "The animation can't be saved because the file could not be created at this location.";
 
-// The first size or offset that a GIF has no room for, by the name of its field: "Width", or
+// The first size or offset that does not fit into a GIF, by the name of its field: "Width", or
 // "XOffset of frame0003". Empty when all are between 0 and 65535.
 std::string SizeOutOfRange(const Animation& animation);
-// What became of a loop count and pauses that a GIF has no room for, in words: it keeps their low
-// 16 bits. Empty when there is room for all.
+// Describes the loop count and the pauses that do not fit into a GIF, which keeps their low 16
+// bits. Empty when all of them fit.
 std::string NumbersCutShort(const Animation& animation, bool in_seconds);
 
 enum class SaveResult {
     kSaved,
     kFrameTooLarge,   // a frame is larger than the canvas; nothing was written
     kSizeOutOfRange,  // SizeOutOfRange() names a field; nothing was written
-    kFileNotCreated,  // the file can't be made at this place
-    kWriteFailed,     // writing broke off; an old file is untouched
-    kStopped,         // the user asked to stop; an old file is untouched
+    kFileNotCreated,  // the file can't be created there
+    kWriteFailed,     // writing failed; an existing file is untouched
+    kStopped,         // the user asked to stop; an existing file is untouched
 };
 
 // Encode the document into the file at path, which is replaced as a whole or not at all. The caller

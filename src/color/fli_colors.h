@@ -1,4 +1,4 @@
-// The colour chunks of FLI and FLC files.
+// The color chunks of FLI and FLC files.
 #pragma once
 
 #include <span>
@@ -8,7 +8,7 @@
 
 namespace kirto {
 
-// Carries out the packets of a colour chunk's data: each skips entries of the table and fills those
+// Carries out the packets of a color chunk's data: each skips entries of the table and fills those
 // after them. Components are multiplied by the factor and keep the low byte. What lies past the
 // last entry is dropped; packets end early where the data does.
 void ReadFliColors(std::span<const uint8> data, int32 factor, ColorTable* colors);

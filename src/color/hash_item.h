@@ -11,7 +11,7 @@ struct HashItem {
     virtual ~HashItem() = default;
 };
 
-// A colour with a payload: a number of pixels, or a palette index.
+// A color with a payload: a number of pixels, or a palette index.
 struct ColorItem : HashItem {
     uint32 value = 0;
 
@@ -20,7 +20,7 @@ struct ColorItem : HashItem {
 
 namespace kirto {
 
-// The key of a colour: red * 65536 + green * 256 + blue.
+// The key of a color: red * 65536 + green * 256 + blue.
 constexpr uint32 ColorKey(uint8 red, uint8 green, uint8 blue) {
     return static_cast<uint32>(red) << 16 | static_cast<uint32>(green) << 8 | blue;
 }

@@ -26,7 +26,7 @@ enum PaletteMode : int32 {
 
 }  // namespace kirto
 
-// At most 256 colours that a picture is reduced to when it is written as GIF, with the encoding
+// At most 256 colors that a picture is reduced to when it is written as GIF, with the encoding
 // settings that go with them. A plain value without a lock: whoever owns it (document, frame) says
 // who may touch it when.
 class Palette {
@@ -36,7 +36,7 @@ class Palette {
     int32 mode = 0;           // a kirto::PaletteMode
     int32 size = 0;           // entries in use, from index 0
     int32 bits = 0;           // index width, 1 to 8
-    int32 unique_colors = 0;  // distinct colours the last optimal build found
+    int32 unique_colors = 0;  // distinct colors the last optimal build found
     int32 background_index = 0;
     int32 transparent_index = 0;
     bool use_transparent = false;
@@ -51,34 +51,34 @@ class Palette {
     // Stores the kind and bits = 8. Kinds 0, 1 and 2 also fill the entries and the size; the others
     // leave them as they were.
     void Set(int32 kind);
-    // Kind 6 with the picture's most frequent colours; on failure web safe.
+    // Kind 6 with the picture's most frequent colors; on failure web safe.
     void Set(const BBitmap* picture);
-    // Kind 7 with the colour table of a GIF or FLI file, recognised by "gif", "GIF", "fli" or "FLI"
+    // Kind 7 with the color table of a GIF or FLI file, recognized by "gif", "GIF", "fli" or "FLI"
     // anywhere in the path, in that order. On failure kind 8 and false; entries may be partly
     // overwritten.
     bool Set(const char* path);
 
-    // Read the colour table from the file's position on. False on short or unsuitable data.
+    // Read the color table from the file's position on. False on short or unsuitable data.
     bool StripGif(BFile* file);
     bool StripFli(BFile* file);
 
     // colors[index]; opaque black outside 0..255. The size is not consulted.
     rgb_color ColorForIndex(int32 index) const;
 
-    // The entry below size nearest to the colour by the sum of absolute differences, the lowest
+    // The entry below size nearest to the color by the sum of absolute differences, the lowest
     // index among equals; 0 without entries. The grey ramp answers (red + 2 green + blue) / 4
     // whatever its entries hold. Alpha is ignored.
     uint8 IndexForColor(rgb_color color) const;
     uint8 IndexForColor(uint8 red, uint8 green, uint8 blue) const;
 
-    // The picture's most frequent colours in falling order, 2^bits of them (opaque black where
+    // The picture's most frequent colors in falling order, 2^bits of them (opaque black where
     // there are fewer); sets unique_colors, bits and size. Nothing on failure: out of memory (the
     // user is told) or a picture that is not 32-bit.
     std::optional<std::vector<rgb_color>> MakeNearestColorPalette(const BBitmap* picture);
-    // Each colour of the picture with its number of pixels, in 65,536 buckets, for who wants to
-    // walk them; null on failure, as above.
+    // Each color of the picture with its number of pixels, in 65,536 buckets, for iteration; null
+    // on failure, as above.
     std::unique_ptr<SFHash> BuildHashtable(const BBitmap* picture) const;
-    // Distinct colours in the picture; 0 on failure.
+    // Distinct colors in the picture; 0 on failure.
     int32 CountUniqueColors(const BBitmap* picture) const;
 
     // Recomputes kind 3 from the first frame's picture, kind 4 from the current frame's. Null
@@ -92,7 +92,7 @@ class Palette {
     bool operator==(const Palette&) const = default;
 
   private:
-    // Greys are never dithered, and the flag says so.
+    // Greys are never dithered: clears the flag.
     void SetKind(int32 kind);
     bool ReadTriples(BFile* file, int32 count);
 };

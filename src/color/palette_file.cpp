@@ -103,7 +103,7 @@ bool Palette::StripFli(BFile* file) {
         std::array<uint8, kFliChunkHeaderSize> chunk{};
         if (!file->ReadExactly(chunk.data(), chunk.size())) return false;
         if (kirto::ReadLittle16(&chunk[4]) == kFliColor64) {
-            // The chunk's size counts its header, so this also asks for the 6 bytes behind it.
+            // The chunk's size counts its header, so this also asks for the 6 bytes after it.
             return ReadFliColorChunk(*file, static_cast<int32>(kirto::ReadLittle32(chunk.data())),
                                      colors);
         }

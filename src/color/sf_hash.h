@@ -47,7 +47,7 @@ class SFHash {
     uint64& UsedBits(int32 bucket) const { return used_[bucket / 64]; }
 
     kirto::AllocatedArray<HashItem*> buckets_;
-    // One bit a bucket that holds an item, behind the buckets in the same block: most tables are
+    // One bit per bucket that holds an item, after the buckets in the same block: most tables are
     // nearly empty, and walking all their buckets would cost more than filling them.
     uint64* used_ = nullptr;
     int32 item_count_ = 0;

@@ -19,8 +19,8 @@
 // application's, and any thread may read the state of the last change without waiting.
 class AnimationDocument : public DocumentLock {
   public:
-    // Commands that are on their way and will change the document; and those of them that may bring
-    // frames. A command is counted down after it has set modified.
+    // Pending commands that will change the document, and those of them that may bring frames. A
+    // command is uncounted after it has set modified.
     std::atomic<int32> changes_waiting = 0;
     std::atomic<int32> insertions_waiting = 0;
 
@@ -43,11 +43,11 @@ class AnimationDocument : public DocumentLock {
     kirto::FramePointer CurrentFrame() const { return Current()->CurrentFrame(); }
     int32 Selected() const { return Current()->selected; }
     bool Modified() const { return CurrentState()->modified; }
-    // Changes that no file has, made or on their way. An animation without frames has nothing to
-    // lose, but frames on their way count already.
+    // True when there are unsaved changes, made or pending. An animation without frames has nothing
+    // to lose, but pending frames count already.
     bool HasUnsavedChanges() const;
 
-    // All that follows is for the application thread.
+    // Everything below is for the application's thread only.
 
     // Makes next the document's animation, as the lock's writer. The modified flag stays, or is
     // set.
@@ -63,7 +63,7 @@ class AnimationDocument : public DocumentLock {
     void SetModified(bool changed);
     // The name is cut at a whole UTF-8 character where it is too long.
     void SetFile(const std::string& directory, const std::string& name);
-    // Makes the settings as they are now part of the state.
+    // Publishes the current settings as part of the state.
     void PublishSettings();
 
     // Empties the document and takes its properties from the settings. An unreadable palette file
@@ -84,21 +84,21 @@ class AnimationDocument : public DocumentLock {
     void ReverseFrames();
     // Makes frame i current; true only if the selection changed.
     bool Select(int32 i);
-    // Lets the global palette follow the first or the current frame, where its kind says so.
+    // Updates the global palette from the first or the current frame, if its kind says so.
     void UpdateGlobalPalette();
 
-    // The history of edits. What happens between BeginStep and EndStep is one edit, of that name;
-    // it is no step when the animation is the same afterwards, nor without a name (null).
+    // The history of edits. What happens between BeginStep and EndStep is one edit of that name. It
+    // is not recorded if the animation is the same afterward, or if the name is null.
     void BeginStep();
     void EndStep(const char* name);
-    // What happened since BeginStep belongs to the edit before it.
+    // Adds what happened since BeginStep to the edit before it.
     void EndStepWithinLast();
-    // What happened since BeginStep can't be undone.
+    // Ends the step without recording it.
     void AbandonStep() { before_step_.reset(); }
-    // Forgets all edits; what happens until EndStep is none.
+    // Forgets all edits; what happens until EndStep is not recorded.
     void StartHistory();
-    // True when there was an edit to undo or redo. The document is modified unless it stands again
-    // as it was saved.
+    // Return true when there was an edit to undo or redo. The document counts as modified unless it
+    // is back in its saved state.
     bool Undo();
     bool Redo();
     // The document has been written to its file: it is not modified.
@@ -111,7 +111,7 @@ class AnimationDocument : public DocumentLock {
     // Posts the thumbnail-size command that the setting "thumbnail_height" asks for, if any.
     void PostThumbnailSize() const;
 
-    // Asks work in progress to end before its next frame, from any thread. What is done stays done.
+    // Asks work in progress to end before its next frame. Thread-safe; what is done is kept.
     void RequestStop() { stop_requested_ = true; }
     bool StopRequested() const { return stop_requested_; }
 
@@ -132,6 +132,6 @@ class AnimationDocument : public DocumentLock {
     std::atomic<bool> stop_requested_ = false;
     kirto::History history_;
     std::optional<kirto::Moment> before_step_;  // while a step is being made
-    mutable std::mutex state_mutex_;  // held for as long as a pointer is copied
+    mutable std::mutex state_mutex_;            // held for as long as a pointer is copied
     std::shared_ptr<const kirto::DocumentState> state_;
 };

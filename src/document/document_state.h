@@ -11,8 +11,8 @@ namespace kirto {
 
 inline constexpr size_t kMaxFileNameBytes = 255;
 
-// Everything about the open document at one moment. Constant once published, so that any thread
-// may keep and read it.
+// Everything about the open document at one moment. Never changes once published, so any thread may
+// keep and read it.
 struct DocumentState {
     std::shared_ptr<const Animation> animation;  // never null
     std::string file_name = "untitled";          // at most kMaxFileNameBytes

@@ -1,6 +1,6 @@
-// The fields of an animation that users edit, each once: its command, its name, where it is kept
-// and what it may hold. The application sets fields by this table, panels and the command line
-// check and name them by it.
+// The fields of an animation that users edit: command, name, location and allowed values of each.
+// The application sets fields by this table; panels and the command line use it to check and name
+// them.
 #pragma once
 
 #include <variant>
@@ -19,16 +19,16 @@ struct Field {
     enum class Bound { kNone, kFromZero, kPaletteIndex };
 
     uint32 code;       // the command that sets it, with a "value" of the member's type
-    const char* name;  // as alerts say it
-    const char* step;  // as the "Edit" menu names a change of it
+    const char* name;  // as shown in alerts
+    const char* step;  // name of a change in the "Edit" menu
     Member member;
     Bound bound;  // of numbers: at least 0, or an index of the global palette
 
     bool IsReal() const;  // holds a double
     // The largest number allowed, or -1 where there is none.
     int32 Largest(const Animation& animation) const;
-    // Takes the value out of the command. False, and nothing changes, when it has none or the
-    // animation has no current frame for it.
+    // Sets the field to the value in the command. Changes nothing and returns false when the
+    // command has no value, or when there is no current frame for it.
     bool Set(Animation& animation, const BMessage& command) const;
 };
 

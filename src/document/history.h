@@ -9,15 +9,15 @@
 
 namespace kirto {
 
-// What a step of the history brings back.
+// What a step of the history restores.
 struct Moment {
     std::shared_ptr<const Animation> animation;  // never null
     std::string file_name;
     std::string file_directory;
 };
 
-// The edits of a document that can be undone and redone, each with the moments before and after
-// it. Moments share all that they have in common. A plain value; the document's thread keeps it.
+// The edits of a document that can be undone and redone, each with the moments before and after it.
+// Moments share all that they have in common. A plain value, used on the document's thread.
 class History {
   public:
     struct Step {
@@ -26,12 +26,12 @@ class History {
         Moment after;
     };
 
-    // Adds an edit that has just been made. What was undone can't be redone any more.
+    // Adds an edit that has just been made. Drops the edits that were undone.
     void Record(Step step);
-    // Makes an edit part of the last step, whose "after" becomes this.
+    // Adds an edit to the last step, whose "after" it replaces.
     void Extend(Moment after);
-    // The edit to be undone or redone, which then counts as that; null when there is none. Valid
-    // until the history changes.
+    // Mark the next edit as undone or redone and return it; null when there is none. Valid until
+    // the history changes.
     const Step* Undo();
     const Step* Redo();
     // How many edits can be undone.
@@ -40,20 +40,20 @@ class History {
     std::string UndoName() const;
     std::string RedoName() const;
 
-    // The document is saved as it is now; and whether it stands where it was saved last.
+    // MarkSaved: the document has just been saved. IsAtSaved: it is in its saved state.
     void MarkSaved() { saved_ = done_; }
     bool IsAtSaved() const { return saved_ == done_; }
 
     // Forgets everything; the document counts as saved.
     void Clear();
-    // Forgets the oldest step, or, when none can be undone, the last that could be redone. False
-    // when there is none.
+    // Forgets the oldest step, or, when none can be undone, the last that could be redone. Returns
+    // false when there is nothing to forget.
     bool DropOne();
 
   private:
     std::deque<Step> steps_;
-    size_t done_ = 0;  // so many of them are made, the others are undone
-    // So many of them were made at the last save; nothing: that state can't be reached any more.
+    size_t done_ = 0;  // how many of them are in effect; the others are undone
+    // The value of done_ at the last save; empty when that state can't be reached anymore.
     std::optional<size_t> saved_ = 0;
 };
 

@@ -1,4 +1,4 @@
-// Generating runs of frames that blend the current frame with a colour or with a neighbour.
+// Generating runs of frames that blend the current frame with a color or with a neighbor.
 #pragma once
 
 #include "document/animation_document.h"
@@ -7,18 +7,18 @@
 namespace kirto {
 
 enum class FadeMode {
-    kToColor,       // after the current frame, ending in the colour
-    kFromColor,     // before the current frame, starting with the colour
+    kToColor,       // after the current frame, ending in the color
+    kFromColor,     // before the current frame, starting with the color
     kToNext,        // between the current and the next frame
     kFromPrevious,  // between the previous and the current frame
 };
 
-// The share that the kernel is given for frame i of count: of the colour (kToColor), of the current
+// The share that the kernel is given for frame i of count: of the color (kToColor), of the current
 // frame (all others).
 float FadeFactor(FadeMode mode, int32 i, int32 count);
 
 // Inserts count new frames and marks the document modified. Without a current frame or the
-// neighbour that the mode needs, nothing happens. Where the neighbour is smaller than the current
+// neighbor that the mode needs, nothing happens. Where the neighbor is smaller than the current
 // frame, the current frame's pixels are kept; pictures are aligned at the top left. Runs on the
 // application's thread. *name_base numbers the frames' names and grows by
 // 100 after a fade that ran to its end; running out of memory is reported and ends the fade, the

@@ -1,14 +1,14 @@
 // Blends pictures pixel by pixel. Pure functions over buffers of 4-byte pixels without padding
 // between rows. The target is always in the order blue, green, red, alpha; its alpha is the (first)
 // source's. A source in B_RGB32 or B_RGBA32 is read in that order too, any other as alpha, red,
-// green, blue. Results are truncated towards zero.
+// green, blue. Results are truncated toward zero.
 #pragma once
 
 #include "platform/types.h"
 
 namespace kirto {
 
-// to_color: (1 - f) source + f colour; else f source + (1 - f) colour. 0 <= f <= 1.
+// to_color: (1 - f) source + f color; else f source + (1 - f) color. 0 <= f <= 1.
 void FadeToRGB(const uint8* source, color_space source_space, uint8* target, int32 width,
                int32 height, float f, bool to_color, rgb_color color);
 

@@ -15,14 +15,14 @@ struct TileGrid {
 };
 
 // Copies the tile at (row, column) of a grid of the tile's size out of the picture, pixels
-// unchanged. Both are 32-bit in the same colour space and the tile lies within the picture.
+// unchanged. Both are 32-bit in the same color space and the tile lies within the picture.
 void CopyTile(const BBitmap& picture, int32 row, int32 column, BBitmap* tile);
 
 // Cuts the file's picture into rows x columns tiles of equal size (what is left over at the right
-// and the bottom belongs to no tile) and inserts each as a frame behind the current one. Grids
+// and the bottom belongs to no tile) and inserts each as a frame after the current one. Grids
 // without rows or columns, or with more of them than pixels, unreadable files and running out of
-// memory are reported; in the last case the tiles inserted so far stay. Without a file (null) a
-// sound grid does nothing. Runs on the application's thread.
+// memory are reported; in the last case the tiles inserted so far stay. A valid grid without a file
+// (null) does nothing. Runs on the application's thread.
 void InsertTiles(AnimationDocument& document, const entry_ref* ref, const TileGrid& grid,
                  BTranslatorRoster& roster);
 

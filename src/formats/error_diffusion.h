@@ -16,19 +16,19 @@ class ErrorDiffusion {
 
     // max_width: pixels of the widest picture.
     explicit ErrorDiffusion(int32 max_width);
-    // False when there is no memory for the errors; nothing below may be called then.
+    // False when memory is short; then nothing below may be called.
     bool Ready() const;
 
     // Before each picture: forgets all errors.
     void StartPicture();
     // At a row's first pixel: nothing is carried over from the row before.
     void StartRow() { carried_ = {}; }
-    // Forgets the errors meant for the next row, where that row is no neighbour.
+    // Forgets the errors meant for the next row, if that row is not a neighbor.
     void ClearRows();
 
-    // The colour less the carried error, within 0..255.
+    // The color less the carried error, within 0..255.
     Components Correct(const Components& color) const;
-    // Spreads the error of pixel x: its palette colour against its corrected colour.
+    // Spreads the error of pixel x: its palette color against its corrected color.
     void Diffuse(int32 x, const Components& chosen, const Components& corrected);
 
   private:

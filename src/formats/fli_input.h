@@ -9,7 +9,7 @@
 namespace kirto {
 
 // A FLI or FLC file as its decoder reads it: whole blocks, skips in both directions, and an account
-// of the work. A sound file is read once; one whose sizes lie can lead back to the same bytes
+// of the work. A valid file is read once; one with false sizes can lead back to the same bytes
 // 65535 times in each of 65535 records. So every read and every filled picture is charged, and a
 // file that asks for much more than its size explains ends as if it were cut off.
 class FliInput {
@@ -30,7 +30,7 @@ class FliInput {
     // or further on before.
     bool StartRecord();
 
-    // Charges work, in bytes handled. False when the account is used up.
+    // Charges work, in bytes handled. Returns false when the account is used up.
     bool Spend(int64 work);
     // Allows this much more work: each picture brings its own.
     void Allow(int64 work) { work_left_ += work; }

@@ -9,14 +9,14 @@
 #include "platform/file.h"
 #include "platform/types.h"
 
-// Reads a FLI or FLC animation into a document, one Frame a displayed frame, each at full size. The
-// construction does all the work on the editing thread; frames are inserted as soon as they are
-// complete and stay when a later one fails. The methods stand in the order of the file; the layout
-// is described in docs/formats/fli.md.
+// Reads a FLI or FLC animation into a document, one Frame per displayed frame, each at full size.
+// The constructor does all the work, on the editing thread; frames are inserted as soon as they are
+// complete and stay when a later one fails. The methods are in the order of the file; the layout is
+// described in docs/formats/fli.md.
 class FliLoad {
   public:
     bool failed = false;         // decoding ended before the last frame
-    bool out_of_memory = false;  // it ended for lack of memory; the file may be sound
+    bool out_of_memory = false;  // it ran out of memory; the file may be intact
 
     // file: at its start, not owned. start: document position of the first frame.
     FliLoad(BFile* file, int32 start, AnimationDocument& document);
@@ -66,7 +66,7 @@ class FliLoad {
     int32 frame_count_ = 0;
     int64 bytes_left_ = 0;        // of the current record, as far as its chunks are read
     int32 chunk_count_ = 0;       // of the current record
-    bool led_back_ = false;       // the current record does not lie behind all others
+    bool led_back_ = false;       // the current record does not lie after all others
     bool skipped_block_ = false;  // the current record is of type 0x00A1
     bool blank_ = false;          // the current picture is still to be filled with black
     int32 width_ = 0;             // of all pictures

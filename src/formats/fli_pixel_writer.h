@@ -14,7 +14,7 @@ namespace kirto {
 // and pictures must stay what they are. What passes the last row is dropped.
 class FliPixelWriter {
   public:
-    // The bitmap is B_RGB32 with bits, and outlives the writer; the palette's colours are taken as
+    // The bitmap is B_RGB32 with bits, and outlives the writer; the palette's colors are taken as
     // they are now.
     FliPixelWriter(BBitmap& bitmap, const Palette& palette);
 
@@ -22,11 +22,11 @@ class FliPixelWriter {
     void MoveToRow(int64 y);
     // Leaves the next pixels as they are.
     void Skip(int64 count);
-    // One pixel an index.
+    // One pixel per index.
     void Copy(std::span<const uint8> indices);
-    // count times the index.
+    // The index, count times.
     void Repeat(uint8 index, int32 count);
-    // count times the two indices.
+    // The two indices, count times.
     void RepeatPair(uint8 first, uint8 second, int32 count);
 
   private:

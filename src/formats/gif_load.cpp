@@ -148,7 +148,7 @@ bool GifLoad::ReadGifLoopBlock() {
     if (!file_->ReadExactly(&size, 1) || !file_->ReadExactly(block.data(), size)) return false;
     if (std::memcmp(block.data(), kIdentifier, sizeof(kIdentifier)) != 0) return SkipSubBlocks();
 
-    // One read takes the sub-block and the terminator behind it.
+    // One read takes the sub-block and the terminator after it.
     block.fill(0);
     if (!file_->ReadExactly(&size, 1)) return false;
     if (!file_->ReadExactly(block.data(), static_cast<size_t>(size) + 1)) return false;

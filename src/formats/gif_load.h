@@ -5,14 +5,14 @@
 #include "platform/file.h"
 #include "platform/types.h"
 
-// Reads a GIF file (87a or 89a) into a document, one Frame an image. The construction does all the
-// work on the editing thread; each frame is inserted as soon as it is decoded and stays when a
-// later one fails. The methods stand in the order of the file; the layout is described in
+// Reads a GIF file (87a or 89a) into a document, one Frame per image. The constructor does all the
+// work, on the editing thread; each frame is inserted as soon as it is decoded and stays when a
+// later one fails. The methods are in the order of the file; the layout is described in
 // docs/formats/gif.md.
 class GifLoad {
   public:
     bool failed = false;         // decoding ended before the trailer
-    bool out_of_memory = false;  // it ended for lack of memory; the file may be sound
+    bool out_of_memory = false;  // it ran out of memory; the file may be intact
 
     // file: at its start, not owned. start: document position and number of the first frame.
     GifLoad(BFile* file, int32 start, AnimationDocument& document);

@@ -54,8 +54,8 @@ class GifLzwDecoder {
     int32 largest_code_ = 0;
     int32 next_free_ = 0;
 
-    // Codes, and behind them a one-byte string for each byte value: the first code of a run may be
-    // no literal and then counts by its low byte.
+    // Codes, followed by a one-byte string for each byte value: the first code of a run may not be
+    // a literal, and then its low byte counts.
     std::array<String, kMaxCodes + 256> strings_;
     std::array<uint8, kMaxCodes + 1> expanded_;
 

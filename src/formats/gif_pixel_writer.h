@@ -24,10 +24,10 @@ struct GifPixelColors {
     int32 skipped_index = -1;  // pixels of this index are left as they are; -1: none
 };
 
-// The palette's colours as pixels.
+// The palette's colors as pixels.
 GifPixelColors PixelColorsOf(const Palette& palette);
 
-// One colour as a pixel.
+// One color as a pixel.
 uint32 PixelOf(rgb_color color);
 
 // Puts a stream of palette indices into a bitmap, row after row in the image's row order. Indices

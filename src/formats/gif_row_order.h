@@ -4,9 +4,9 @@
 
 namespace kirto {
 
-// The order in which a GIF image's rows stand in its data: from the top, or interlaced in the four
+// The order of a GIF image's rows in its data: from the top, or interlaced in the four
 // passes 0, 8, 16, ...; 4, 12, ...; 2, 6, ...; 1, 3, .... Passes whose first row is below a low
-// image are passed over.
+// image are skipped.
 class GifRowOrder {
   public:
     // height: rows of the image, 0 or more.

@@ -8,16 +8,15 @@
 #include "platform/file.h"
 #include "platform/types.h"
 
-// Writes a document's animation, as it is at the start, as an animated GIF89a. The construction does
-// all the work. Write results are not checked here: the file remembers its first error.
-// The methods stand in the order of the file; the layout is described in docs/formats/gif.md.
+// Writes a document's animation, as it is at the start, as an animated GIF89a. The constructor does
+// all the work. Write results are not checked here: the file remembers its first error. The methods
+// are in the order of the file; the layout is described in docs/formats/gif.md.
 class GifSave {
   public:
-    // file: empty and writable; this object's share of it ends with the object, the caller keeps
-    // one to commit it.
+    // file: empty and writable; this object shares it with the caller, who commits it afterward.
     GifSave(std::shared_ptr<BFile> file, AnimationDocument& document);
 
-    // How long a frame is shown, in hundredths of a second. A file keeps the low 16 bits of it.
+    // How long a frame is shown, in hundredths of a second. A file keeps the low 16 bits.
     static int64 DelayOf(const kirto::Animation& animation, const Frame& frame, bool in_seconds);
 
   private:
@@ -26,10 +25,10 @@ class GifSave {
     void WriteGifImageHeader(const Frame& frame);
     void WriteGifImageData(const Frame& frame);
 
-    // How one frame is written: settled once, used by its header and its data.
+    // How one frame is written: decided once, used for its header and its data.
     struct Encoding {
         const Palette* palette = nullptr;  // the frame's local one, else the document's; not owned
-        int32 bits = 0;                    // of the colour table and of the codes
+        int32 bits = 0;                    // of the color table and of the codes
         bool local_table = false;
     };
     Encoding EncodingOf(const Frame& frame) const;

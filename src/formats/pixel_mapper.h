@@ -11,8 +11,8 @@
 
 namespace kirto {
 
-// Reduces the rows of 32-bit pictures to palette indices, with a cache of the colours already
-// looked up in a picture and, where asked for, error diffusion.
+// Reduces the rows of 32-bit pictures to palette indices, with a cache of the colors already looked
+// up in a picture and, on request, error diffusion.
 class PixelMapper {
   public:
     // transparent_index: what pixels with alpha below 255 become. dither: spread errors, in
@@ -20,8 +20,8 @@ class PixelMapper {
     PixelMapper(uint8 transparent_index, bool dither, int32 max_width);
 
     // Before each picture: the palette to map to, which outlives the picture. The grey ramp is
-    // never dithered. unconnected_rows: rows do not follow their upper neighbour (interlaced
-    // order), so no error passes from row to row.
+    // never dithered. unconnected_rows: rows do not follow their upper neighbor (interlaced order),
+    // so no error passes from row to row.
     void StartPicture(const Palette& palette, bool unconnected_rows);
 
     // Maps row y of the bitmap, width pixels wide. Pixels outside the bitmap, and all pixels of a
@@ -41,7 +41,7 @@ class PixelMapper {
     ErrorDiffusion diffusion_;
 };
 
-// The picture's pixel as a colour; black with alpha 0 outside the bitmap and in other colour spaces
+// The picture's pixel as a color; black with alpha 0 outside the bitmap and in other color spaces
 // than the 32-bit ones.
 rgb_color PixelColor(const BBitmap* bitmap, int32 x, int32 y);
 

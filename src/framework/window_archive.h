@@ -31,7 +31,7 @@ inline constexpr char kArchiveFrameworkFlags[] = "IEflags";  // int32, framework
 // Of views.
 inline constexpr char kArchiveLabel[] = "_label";         // string
 inline constexpr char kArchiveMessage[] = "_msg";         // message: what a control sends
-inline constexpr char kArchiveDivider[] = "_divide";      // float: where a labelled field begins
+inline constexpr char kArchiveDivider[] = "_divide";      // float: where a labeled field begins
 inline constexpr char kArchiveTabs[] = "_l_items";        // messages: the tabs of a tab view
 inline constexpr char kArchiveTabViews[] = "_view_list";  // messages: what the tabs show
 

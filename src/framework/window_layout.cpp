@@ -64,7 +64,7 @@ bool LayoutCompiler::Expect(const toml::table& table, Keys required, Keys option
         const auto is_key = [&key = key](std::string_view known) { return key.str() == known; };
         if (std::any_of(required.begin(), required.end(), is_key)) continue;
         if (std::any_of(optional.begin(), optional.end(), is_key)) continue;
-        return Fail(value, "\"" + std::string(key.str()) + "\" has no meaning here.");
+        return Fail(value, "\"" + std::string(key.str()) + "\" is not allowed here.");
     }
     for (const std::string_view key : required) {
         if (!table.contains(key)) {
@@ -78,7 +78,7 @@ bool LayoutCompiler::AddText(const toml::table& table, const char* key, const ch
                              BMessage* archive) {
     const toml::node* node = table.get(key);
     if (!node) return true;
-    if (!node->is_string()) return Fail(*node, Format("\"%s\" must be a text.", key));
+    if (!node->is_string()) return Fail(*node, Format("\"%s\" must be a string.", key));
     archive->AddString(field, node->value_or(std::string_view()));
     return true;
 }
@@ -99,7 +99,7 @@ bool LayoutCompiler::ReadWord(const toml::node& node, std::span<const Word> word
         *number = word.number;
         return true;
     }
-    return Fail(node, Format("\"%s\" is none of the words that can stand here.", text.c_str()));
+    return Fail(node, Format("\"%s\" is not a valid value here.", text.c_str()));
 }
 
 bool LayoutCompiler::AddFlags(const toml::table& table, const char* key, const char* field,
@@ -107,7 +107,7 @@ bool LayoutCompiler::AddFlags(const toml::table& table, const char* key, const c
     int32 flags = 0;
     if (const toml::node* node = table.get(key)) {
         const toml::array* array = node->as_array();
-        if (!array) return Fail(*node, Format("\"%s\" must be an array of words.", key));
+        if (!array) return Fail(*node, Format("\"%s\" must be an array of strings.", key));
         for (const toml::node& word : *array) {
             int32 flag = 0;
             if (!ReadWord(word, words, &flag)) return false;
@@ -162,7 +162,7 @@ bool LayoutCompiler::AddLimits(const toml::table& table, BMessage* archive) {
     if (!ReadNumbers(table, "limits", limits)) return false;
     if (limits[0] > limits[1] || limits[2] > limits[3]) {
         return Fail(*table.get("limits"),
-                    "\"limits\" must be least and most width, least and most height.");
+                    "\"limits\" must be minimum and maximum width, minimum and maximum height.");
     }
     for (size_t i = 0; i < limits.size(); ++i) {
         archive->AddFloat(kArchiveSizeLimits, limits[i]);
@@ -199,7 +199,7 @@ bool LayoutCompiler::AddViews(const toml::table& table, const char* key, const c
         BMessage view_archive;
         if (!MakeView(*view, &view_archive)) return false;
         if (archive->AddMessage(field, view_archive) != B_OK) {
-            return Fail(element, "Views lie too deep in each other.");
+            return Fail(element, "Views are nested too deeply.");
         }
     }
     return true;

@@ -8,7 +8,7 @@ namespace kirto {
 
 // Makes the archive of a window (window_archive.h) from its readable source, a TOML file like
 // resources/preferences_window.toml. False, with a sentence that names the file and the line in
-// *error, where the source is no sound layout; *archive is untouched then.
+// *error, if the source is not a valid layout; *archive is untouched then.
 bool CompileWindowLayout(const std::string& path, BMessage* archive, std::string* error);
 
 }  // namespace kirto

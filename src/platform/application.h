@@ -5,7 +5,7 @@
 #include "platform/looper.h"
 
 // The program's own looper: commands of the program arrive here, and the desktop's notices are
-// turned into the hooks below. One a process.
+// turned into the hooks below. One per process.
 class BApplication : public BLooper {
   public:
     // signature: the program's MIME signature.

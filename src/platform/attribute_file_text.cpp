@@ -24,7 +24,7 @@ using Attribute = AttributeFile::Attribute;
 constexpr int kMaxDotsInLine = 64;
 
 constexpr std::string_view kHeading =
-    "# Settings, one a line. This file is replaced as a whole: comments in it are not kept.\n";
+    "# Settings, one per line. This file is replaced as a whole: comments in it are not kept.\n";
 
 // --- Attributes to text
 
@@ -252,7 +252,7 @@ bool ReadTable(const toml::table& table, AttributeFile::Attributes* attributes,
     for (const auto& [key, node] : table) {
         std::optional<Attribute> attribute = AttributeOf(node);
         if (!attribute) {
-            *reason = Format("line %u: no setting's value", node.source().begin.line);
+            *reason = Format("line %u: not the value of a setting", node.source().begin.line);
             return false;
         }
         attributes->emplace(key.str(), std::move(*attribute));
@@ -301,7 +301,7 @@ AttributeFile::Attribute AttributeFile::Attribute::As(type_code wanted) const {
 bool AttributeFile::Parse(std::string_view text, Attributes* attributes, std::string* reason) {
     attributes->clear();
     if (!kirto::HasShallowKeys(text)) {
-        *reason = "a string of several lines, or a key of too many parts";
+        *reason = "a multi-line string, or a key with too many parts";
         return false;
     }
     if (kirto::AllocationShouldFail()) throw std::bad_alloc();

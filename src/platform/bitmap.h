@@ -7,7 +7,7 @@
 #include "platform/rect.h"
 #include "platform/types.h"
 
-// A picture in memory: bounds, colour space and rows of bytes, zero-filled when made. Not tied to a
+// A picture in memory: bounds, color space and rows of bytes, zero-filled when made. Not tied to a
 // thread; whoever shares it (frames share theirs) treats the pixels as read-only.
 class BBitmap {
   public:
@@ -51,7 +51,7 @@ class BBitmap {
 
 namespace kirto {
 
-// True for the four colour spaces of 4 bytes a pixel.
+// True for the four color spaces of 4 bytes a pixel.
 bool Is32Bit(color_space space);
 
 // True for the two 32-bit spaces in the order blue, green, red, alpha.

@@ -23,7 +23,7 @@ enum seek_mode : int32 {
 // target's place only when Commit() succeeds; and bytes in memory.
 class BFile {
   public:
-    // Opens an existing file for reading. Folders and other things that are no regular files are
+    // Opens an existing file for reading. Folders and other entries that are not regular files are
     // refused with B_NOT_ALLOWED.
     BFile(const std::string& path, open_mode mode);
     // Flushes nothing and commits nothing: a written file that was not committed leaves no trace.

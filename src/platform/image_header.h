@@ -17,8 +17,8 @@ struct ImageHeader {
     static constexpr uint64 kMostPixels = uint64{1} << 56;
 };
 
-// Recognises the file by its content. Without a format when it is none of those that are read, or
-// damaged where it tells its size. The file's position is lost.
+// Recognizes the file by its content. Returns no format when it is not one of those that are read,
+// or damaged where it tells its size. The file's position is lost.
 ImageHeader ReadImageHeader(BFile& source);
 
 }  // namespace kirto

@@ -17,7 +17,7 @@ bool Store(uint64 width, uint64 height, ImageHeader* header) {
     return width > 0 && height > 0;
 }
 
-// The first number from the position on, which moves behind it; 0 for none.
+// The first number from the position on, which moves past it; 0 for none.
 uint64 NextNumber(std::string_view text, size_t* position) {
     *position = std::min(text.find_first_of("0123456789", *position), text.size());
     uint64 number = 0;

@@ -1,4 +1,4 @@
-// The parsers behind ReadImageHeader(), one a format.
+// The parsers of ReadImageHeader(), one per format.
 #pragma once
 
 #include <span>

@@ -16,10 +16,10 @@ namespace kirto {
 class MessageQueue;
 }
 
-// A thread with a queue: messages are handled one after the other, in the order posted. A handler
-// that runs out of memory is a warning for the user, and the next message's turn. Posting is
-// safe from any thread; AddHandler and RemoveHandler belong to the looper's own thread or to the
-// time when the loop does not run. Destroyed by another thread than its own.
+// A thread with a queue of messages, which it handles one by one in the order posted. When a
+// handler runs out of memory, the looper warns the user and goes on with the next message. Posting
+// is thread-safe; call AddHandler and RemoveHandler on the looper's own thread or while the loop
+// does not run. Must be destroyed by another thread.
 class BLooper : public BHandler {
   public:
     explicit BLooper(std::string name = {});

@@ -20,7 +20,7 @@ struct BRect {
     float Width() const { return right - left; }
     float Height() const { return bottom - top; }
     // Whole pixels covered: ceil(distance) + 1, at least 0. Edges too far apart for int32, and
-    // edges that are no numbers, give 0.
+    // edges that are not numbers, give 0.
     int32 PixelWidth() const;
     int32 PixelHeight() const;
     void OffsetBy(float dx, float dy);

@@ -32,7 +32,7 @@ class BResources {
         std::span<const uint8> bytes;
     };
 
-    // Reads the file, which is needed no longer afterwards, from its start. InitCheck() tells
+    // Reads the file, which is needed no longer afterward, from its start. InitCheck() tells
     // whether that went well.
     explicit BResources(BFile* file);
 

@@ -15,7 +15,7 @@ inline constexpr uint32 kContainerMagic = 0x444F1000;
 // Larger ones are refused: the program's own is a few tens of KiB.
 inline constexpr size_t kMaxContainerSize = size_t{16} << 20;
 
-// The administrative sections: the header, and the index right behind it.
+// The administrative sections: the header, and the index right after it.
 inline constexpr uint32 kContainerHeaderSize = 0x44;
 inline constexpr uint32 kIndexHeaderSize = 33 * 4;
 inline constexpr uint32 kIndexEntrySize = 3 * 4;
@@ -24,7 +24,7 @@ inline constexpr int kIndexFillerWords = 25;
 // An index grows in steps of this many bytes; the first step has room for 117 entries.
 inline constexpr uint32 kIndexStep = 0x600;
 
-// Reserved by the format: a section of zeros behind the index.
+// Reserved by the format: a section of zeros after the index.
 inline constexpr uint32 kReservedSectionSize = 0x168;
 
 // Ends a type's block in the info table, twice in a row.

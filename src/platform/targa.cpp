@@ -29,13 +29,13 @@ constexpr int32 kMaxSide = 65535;
 constexpr int32 kMaxPacket = 128;  // pixels
 constexpr int32 kRunPacket = 0x80;
 
-// What a header says about the bytes behind it.
+// What a header says about the bytes after it.
 struct TargaLayout {
     int32 width = 0;
     int32 height = 0;
     bool has_alpha = false;
     bool packed = false;
-    int64 first_pixel = 0;  // offset of the pixels: behind the comment and the colour table
+    int64 first_pixel = 0;  // offset of the pixels: after the comment and the color table
     int64 pixel_bytes = 0;  // of one pixel, or of its index
 
     int64 Pixels() const { return int64{width} * height; }

@@ -9,8 +9,8 @@
 namespace kirto {
 
 // Reads the file as Targa, of any of its pixel and packing forms. Targa has no signature, so ask
-// last. B_BAD_DATA for what is no whole Targa file, B_NO_MEMORY when the budget refuses the picture
-// or memory is short; the result is then left alone.
+// last. B_BAD_DATA if it is not a complete Targa file, B_NO_MEMORY when the budget refuses the
+// picture or memory is short; the result is then left alone.
 status_t ReadTarga(BFile& source, std::shared_ptr<PixelBudget> budget,
                    std::shared_ptr<BBitmap>* result);
 

@@ -24,9 +24,9 @@ struct translation_format {
     std::vector<std::string> extensions;  // without dot, lower case, the usual one first
 };
 
-// Turns image files into pictures and pictures into image files. One roster a process, owned by the
-// program's main function. Any thread may read, one file at a time; any thread may write or ask
-// what there is, whatever others do at that time.
+// Turns image files into pictures and pictures into image files. One roster per process, owned by
+// the program's main function. Thread-safe, except that only one thread at a time may read a
+// file.
 class BTranslatorRoster {
   public:
     virtual ~BTranslatorRoster() = default;

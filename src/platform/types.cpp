@@ -27,7 +27,7 @@ std::string StatusText(status_t status) {
         case B_NOT_ALLOWED:
             return "Operation not allowed";
         case B_NO_INIT:
-            return "Not initialised";
+            return "Not initialized";
         case B_BAD_DATA:
             return "Damaged data";
         case B_NO_TRANSLATOR:

@@ -1,4 +1,4 @@
-// The kit's basic types: fixed-width integers, status codes, colours and four-character codes.
+// The kit's basic types: fixed-width integers, status codes, colors and four-character codes.
 #pragma once
 
 #include <cstddef>

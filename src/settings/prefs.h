@@ -19,7 +19,7 @@ class Prefs {
     bool global_usepause = true;         // new animations pause between frames
     bool global_useloop = true;          // new animations loop
     double global_pauselength = 100.0;   // of new animations, in the unit below
-    int32 global_loopcount = 0;          // 0: for ever
+    int32 global_loopcount = 0;          // 0: forever
     bool global_setdimensions = true;    // the first inserted frame sets the animation's size
     bool global_pauseinseconds = false;  // pauses in seconds, else in hundredths
     int32 palette_mapping = 0;           // 0, 1, 2 or 7 (a kirto::PaletteMode)
@@ -61,11 +61,11 @@ class Prefs {
 
     // Sets one setting from text, for this run only: a whole number for integers, "true" or "false"
     // for booleans, a number for doubles, any text for strings, "left,top,right,bottom" for
-    // rectangles. False, with a sentence in *reason, for an unknown key or an unfit text.
+    // rectangles. False, with a sentence in *reason, for an unknown key or an invalid value.
     bool SetFromText(const std::string& key, const std::string& text, std::string* reason);
 
     // Adds every setting to the message, as a field of its key and type; and takes over those that
-    // the message has. What the program keeps besides the settings stays.
+    // the message has. Leaves alone what the program keeps besides the settings.
     void AddTo(BMessage* message) const;
     void TakeFrom(const BMessage& message);
 

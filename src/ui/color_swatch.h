@@ -6,7 +6,7 @@
 
 namespace kirto {
 
-// Shows a colour that somebody else holds; asks for it each time it is painted. GUI thread.
+// Shows a color that its owner provides; asks for it at each paint event. GUI thread.
 class ColorSwatch : public QWidget {
   public:
     ColorSwatch(const char* name, std::function<QColor()> color, QWidget* parent);

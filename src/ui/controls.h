@@ -1,6 +1,6 @@
-// Makers of the controls that panels are built of. Every control carries its view name as object
-// name, and its label as accessible name where it has one; it sends its command to the target when
-// the user changes it, never when the program does. GUI thread; the parent owns what is made.
+// Functions that make the controls of panels. Every control carries its view name as object name,
+// and its label as accessible name where it has one; it sends its command to the target when the
+// user changes it, never when the program does. GUI thread; the parent owns the control.
 #pragma once
 
 #include <QCheckBox>

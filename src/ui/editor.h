@@ -9,15 +9,15 @@ class IEResourceHandler;
 
 namespace kirto {
 
-// What windows are made for: the document they show, and where their commands go (by way of a
+// What windows work on: the document they show, and the target of their commands (through a
 // CommandPort, so that changes count at once). Everything outlives every window. The document is
-// read only by way of ShownDocument::Take.
+// read only through ShownDocument::Take.
 struct Editor {
     AnimationDocument& document;
     BMessenger application;
     FilePanelSource& panels;
     BTranslatorRoster& roster;
-    IEResourceHandler* resources;  // null where no window is built from resources
+    IEResourceHandler* resources;  // null if no window is built from resources
 };
 
 }  // namespace kirto

@@ -62,7 +62,7 @@ void FadeWindow::MakeControls() {
                                   {"from previous frame", kirto::kFadeFromPrevious, 3}},
                                  Messenger(), panel);
     mode_->view()->setObjectName("ModeMenu");
-    mode_->setToolTip("What the new frames blend the current frame with");
+    mode_->setToolTip("What to blend the current frame with");
     frame_count_ = kirto::MakeField("FrameCount", kirto::kFadeCount, Messenger(), panel);
     frame_count_->setText("1");
     frame_count_->setFixedWidth(kCountDigits * frame_count_->fontMetrics().horizontalAdvance("0"));

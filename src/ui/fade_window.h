@@ -16,11 +16,10 @@ class TextControl;
 }
 
 // The window "Fade Effects", in which a fade is chosen: its kind, its number of frames and its
-// colour. Goes on by itself once it is shown, beside its parent window, and deletes itself when it
-// is closed. GUI thread.
+// color. Opens beside its parent window and deletes itself when it is closed. GUI thread.
 class FadeWindow : public QDialog, public BWindow {
   public:
-    // application: where the fade is carried out.
+    // application: carries out the fade.
     FadeWindow(BMessenger application, QWidget* parent);
     ~FadeWindow() override;
 
@@ -28,7 +27,7 @@ class FadeWindow : public QDialog, public BWindow {
     void MessageReceived(BMessage* message) override;
     // Asks the application for the fade, with the count as it stands.
     void Fade();
-    // The end of the window, whichever way it is closed.
+    // Called whichever way the window is closed.
     void done(int result) override;
 
   protected:
@@ -41,7 +40,7 @@ class FadeWindow : public QDialog, public BWindow {
     void MakeControls();
     void Arrange(QWidget* panel);
     int32 Count() const;
-    // Puts 1 in the place of a count that is out of bounds, and tells the user; false then.
+    // Replaces a count that is out of bounds by 1, tells the user and returns false.
     bool CheckCount();
 
     BMessenger application_;

@@ -80,7 +80,7 @@ void FileDialog::showEvent(QShowEvent* event) {
     QFileDialog::showEvent(event);
 }
 
-// Keys that were typed behind the one that closes the dialog still reach the field, and a folder
+// Keys that were typed after the one that closes the dialog still reach the field, and a folder
 // may only now have been read; neither may bring up what completes the name.
 void FileDialog::hideEvent(QHideEvent* event) {
     QFileDialog::hideEvent(event);

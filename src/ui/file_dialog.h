@@ -13,20 +13,20 @@ namespace kirto {
 
 class FilterProxy;
 
-// The toolkit's file dialog, with room for controls of our own, a filter of our own and our own
-// question before a file is replaced. GUI thread.
+// The toolkit's file dialog, with room for our own controls, filter and question before a file is
+// replaced. GUI thread.
 class FileDialog : public QFileDialog {
   public:
     // parent: the window that can't be used meanwhile; null for none.
     explicit FileDialog(QWidget* parent);
 
-    // Shows only the entries that the filter offers. What is typed is taken all the same.
+    // Shows only the entries that the filter offers. Names that are typed are accepted anyway.
     void SetFilter(std::unique_ptr<BRefFilter> filter);
     // Asked when a place to save to has been chosen, with its path; false leaves the dialog open.
     void SetReplaceCheck(std::function<bool(const QString& path)> may_write);
-    // Puts the controls below the field for the name, and makes room for them.
+    // Puts the controls below the name field and makes room for them.
     void AddRow(QWidget* controls);
-    // Starts over in the same folder, with the text in the field for the name.
+    // Starts over in the same folder, with the text in the name field.
     void Restart(const QString& name);
     // The absolute paths of the files that are chosen or typed.
     QStringList ChosenFiles() const;
@@ -38,7 +38,7 @@ class FileDialog : public QFileDialog {
     void hideEvent(QHideEvent* event) override;
 
   private:
-    // Shows the folder that is typed in the place of a name; false where none is.
+    // Shows the folder typed into the name field; returns false if there is none.
     bool EntersFolder();
 
     QLineEdit* name_field_;

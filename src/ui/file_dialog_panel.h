@@ -11,8 +11,8 @@
 
 namespace kirto {
 
-// What the file panels have in common: a dialog that is made when it is first shown and that keeps
-// its folder from then on, and what it tells the application. Threads as for FilePanel.
+// What the file panels have in common: a dialog that is made when first shown and then keeps its
+// folder, and the messages that it sends to the application. Threads as for FilePanel.
 class FileDialogPanel : public FilePanel {
   public:
     ~FileDialogPanel() override;
@@ -29,12 +29,12 @@ class FileDialogPanel : public FilePanel {
     // target: the application. parent: the window that can't be used while the dialog is shown.
     FileDialogPanel(std::string title, BMessenger target, QPointer<QWidget> parent);
 
-    // Sets a new dialog up.
+    // Sets up a new dialog.
     virtual void Prepare(FileDialog& dialog) = 0;
     // The command for the files that were chosen, at least one, by their absolute paths.
     virtual BMessage CommandFor(const QStringList& files) const = 0;
 
-    // The dialog was closed, with the files sent or without any.
+    // Called when the dialog was closed, with or without files.
     virtual void Closed(bool) {}
 
     void SendToTarget(const BMessage& message) const { target_.SendMessage(message); }

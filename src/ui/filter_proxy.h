@@ -15,9 +15,9 @@ class FilterProxy : public QSortFilterProxyModel {
   public:
     explicit FilterProxy(std::unique_ptr<BRefFilter> filter);
 
-    // Looks the types up again, as the files may have become others.
+    // Looks the types up again, since files may have changed.
     void ForgetTypes();
-    // Sorts the model behind, which knows folders, sizes and dates.
+    // Sorts the source model, which knows folders, sizes and dates.
     void sort(int column, Qt::SortOrder order) override;
 
   protected:

@@ -5,8 +5,8 @@
 
 namespace kirto {
 
-// Two groups of controls in a row. Where the row is too narrow for both, the second group stands
-// below the first. GUI thread.
+// Two groups of controls in a row. If the row is too narrow for both, the second group goes below
+// the first. GUI thread.
 class FoldingRow : public QWidget {
   public:
     // The layouts, which become the row's, hold the controls.

@@ -29,7 +29,7 @@ void FrameList::ShowFrames(const kirto::FrameSequence& frames, int32 selected) {
     showing_ = true;
     const int32 common = std::min(frames.Size(), frames_.Size());
     const kirto::FrameSequence::Difference changed = frames.DifferenceTo(frames_);
-    // Where frames came or went, all rows behind show others: their numbers stay.
+    // Where frames came or went, all rows after them show others: their numbers stay.
     const bool moved = changed.end != changed.other_end;
     const int32 end = moved ? common : changed.end;
     for (int32 row = changed.begin; row < end; ++row) {

@@ -5,8 +5,8 @@
 #include "animation/frame_sequence.h"
 #include "platform/messenger.h"
 
-// The frames as rows of text, of which one at most is selected. Sends kFrameListSelection to the
-// window when the user selects another row. GUI thread.
+// The frames as rows of text; at most one is selected. Sends kFrameListSelection to the window when
+// the user selects another row. GUI thread.
 class FrameList : public QListWidget {
   public:
     explicit FrameList(BMessenger window, QWidget* parent = nullptr);
@@ -23,5 +23,5 @@ class FrameList : public QListWidget {
   private:
     const BMessenger window_;
     kirto::FrameSequence frames_;  // in the rows
-    bool showing_ = false;         // what changes now is not the user's doing
+    bool showing_ = false;         // the program, not the user, is changing the rows
 };

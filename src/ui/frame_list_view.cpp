@@ -46,10 +46,10 @@ QLayout* FrameListView::MakeButtons(const BMessenger& window) {
     buttons->addWidget(make("Remove", "Remove", kirto::kRemoveFrame, "Remove the current frame"), 0,
                        1);
     buttons->addWidget(
-        make("MoveUp", "Move Up", kirto::kMoveFrameUp, "Move the current frame towards the first"),
+        make("MoveUp", "Move Up", kirto::kMoveFrameUp, "Move the current frame toward the start"),
         1, 0);
     buttons->addWidget(make("MoveDown", "Move Down", kirto::kMoveFrameDown,
-                            "Move the current frame towards the last"),
+                            "Move the current frame toward the end"),
                        1, 1);
     return buttons;
 }

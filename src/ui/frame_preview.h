@@ -13,12 +13,12 @@ namespace kirto {
 // One picture, scaled to fit. GUI thread.
 class FramePreview : public QWidget {
   public:
-    // scaled: called with the scale in per cent whenever it may have become another one.
+    // scaled: called with the scale in percent whenever it may have changed.
     explicit FramePreview(std::function<void(int32 percent)> scaled, QWidget* parent = nullptr);
 
     // Shows the frame; null shows none. draw_transparent: as PicturePainter's.
     void ShowFrame(FramePointer frame, bool draw_transparent);
-    // Where the picture stands, in the widget's coordinates; invalid without one.
+    // The picture's rectangle in the widget's coordinates; invalid without a picture.
     BRect PictureArea() const;
 
   protected:

@@ -5,8 +5,7 @@
 #include "document/command_codes.h"
 #include "ui/panel_layout.h"
 
-GlobalView::GlobalView(const kirto::ShownDocument& shown, const BMessenger& window,
-                       QWidget* parent)
+GlobalView::GlobalView(const kirto::ShownDocument& shown, const BMessenger& window, QWidget* parent)
     : QGroupBox("Global", parent), shown_(shown) {
     setObjectName("GlobalView");
     width = kirto::MakeField("Width", kirto::kSetWidth, window, this);
@@ -25,7 +24,7 @@ GlobalView::GlobalView(const kirto::ShownDocument& shown, const BMessenger& wind
     pause->setToolTip("Pause after every frame that has no pause of its own");
     pause_length->setToolTip("Length of the pause, in the unit chosen in the preferences");
     loop->setToolTip("Play the animation more than once");
-    loop_count->setToolTip("How many times to play the animation; 0 is for ever");
+    loop_count->setToolTip("How many times to play the animation; 0 = forever");
 
     auto* layout = new kirto::PanelLayout(this);
     layout->AddField("Width:", width);

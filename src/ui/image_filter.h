@@ -8,7 +8,7 @@
 // Offers the files that can be read as pictures, and what may lead to them.
 class ImageFilter : public BRefFilter {
   public:
-    // Takes down the types of all formats that the roster reads.
+    // Notes the types of all formats that the roster reads.
     explicit ImageFilter(const BTranslatorRoster& roster);
 
     bool Filter(const entry_ref& ref, const TypeSource& type) const override;

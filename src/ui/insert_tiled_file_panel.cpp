@@ -69,9 +69,9 @@ void InsertTiledFilePanel::Prepare(kirto::FileDialog& dialog) {
     OpenFilePanel::Prepare(dialog);
     auto* controls = new QWidget(&dialog);
     QLineEdit* rows = MakeNumberField("Rows", &rows_, controls);
-    rows->setToolTip("How many tiles stand one below the other");
+    rows->setToolTip("Number of rows of tiles in the image");
     QLineEdit* columns = MakeNumberField("Columns", &columns_, controls);
-    columns->setToolTip("How many tiles stand side by side");
+    columns->setToolTip("Number of columns of tiles in the image");
     QRadioButton* by_row = MakeOrder("RowByRow", "Row by row", controls);
     QRadioButton* by_column = MakeOrder("ColumnByColumn", "Column by column", controls);
     (column_by_column_ ? by_column : by_row)->setChecked(true);

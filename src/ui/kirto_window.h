@@ -6,8 +6,8 @@
 #include "platform/qt/gui_port.h"
 #include "platform/rect.h"
 #include "platform/window.h"
-#include "ui/shown_document.h"
 #include "ui/editor.h"
+#include "ui/shown_document.h"
 
 class FrameListView;
 class GlobalView;
@@ -22,7 +22,8 @@ class ThumbnailView;
 
 // The main window: menus and panels around the frames. It turns choices and edits into commands for
 // the application, after checking what was typed, and shows the document again when the application
-// says that it changed. What it shows is the document's state at one moment, which never changes. GUI thread.
+// says that it changed. What it shows is the document's state at one moment, which never changes.
+// GUI thread.
 class KirtoWindow : public QMainWindow, public BWindow {
   public:
     // frame: the window's place on the screen, without its decoration. Not shown yet.
@@ -31,11 +32,11 @@ class KirtoWindow : public QMainWindow, public BWindow {
 
     // Handles one command; what its sender's control holds is read here.
     void MessageReceived(BMessage* message) override;
-    // Offers to save unsaved changes. True when the window may close; the settings are saved and
-    // the application is asked to quit then.
+    // Offers to save unsaved changes. Returns true when the window may close; then saves the
+    // settings and asks the application to quit.
     bool QuitRequested();
-    // True when the document's changes may go, or there are none. When the user wants them saved
-    // first, the save is started and the command is carried out after it.
+    // Returns true when the document has no changes or the user discards them. When the user wants
+    // to save them first, starts the save; the command is carried out after it.
     bool LoseChanges(uint32 command);
     // Sets the height of the thumbnails in pixels, within the settings' bounds.
     void SetThumbnailHeight(int32 height);
@@ -48,7 +49,7 @@ class KirtoWindow : public QMainWindow, public BWindow {
     // The command that waits for a save; 0 for none.
     uint32 PendingCommand() const { return pending_command_; }
     bool ShowsFrameList() const;
-    // The window's place on the screen, as the settings keep it.
+    // The window's rectangle on the screen, as the settings store it.
     BRect ScreenPlace() const;
     const kirto::ShownDocument& Shown() const { return shown_; }
 

@@ -15,8 +15,7 @@ QString ColorsText(int32 colors) {
 
 }  // namespace
 
-LocalView::LocalView(const kirto::ShownDocument& shown, const BMessenger& window,
-                     QWidget* parent)
+LocalView::LocalView(const kirto::ShownDocument& shown, const BMessenger& window, QWidget* parent)
     : QGroupBox("Current Frame", parent), shown_(shown) {
     setObjectName("LocalView");
     MakeControls(window);
@@ -65,13 +64,13 @@ void LocalView::MakeControls(const BMessenger& window) {
 }
 
 void LocalView::DescribeControls() {
-    palette_menu->setAccessibleName("Local palette colours");
+    palette_menu->setAccessibleName("Local palette colors");
     x_offset->setToolTip("Distance of the frame from the animation's left edge, in pixels");
     y_offset->setToolTip("Distance of the frame from the animation's top edge, in pixels");
-    pause->setToolTip("The frame has a pause of its own");
+    pause->setToolTip("Give the frame a pause of its own");
     pause_length->setToolTip("Length of the frame's pause, in the unit chosen in the preferences");
-    palette->setToolTip("The frame is saved with a palette of its own");
-    palette_menu->setToolTip("The colours of the frame's own palette");
+    palette->setToolTip("Save the frame with a palette of its own");
+    palette_menu->setToolTip("The colors of the frame's own palette");
     thumbnail_mode->setToolTip("Show the frames as pictures");
     frame_list_mode->setToolTip("Show the frames as a list, with a preview of the current one");
 }

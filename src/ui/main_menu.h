@@ -15,7 +15,7 @@ using MenuCommand = std::function<void(uint32 command)>;
 // The whole menu bar, named "MenuBar". GUI thread; the parent owns it.
 QMenuBar* MakeMainMenu(QWidget* parent, const MenuCommand& choose);
 
-// Names the edits in "Undo" and "Redo"; without one (empty) the item is disabled.
+// Names the edits in "Undo" and "Redo"; disables the item if the name is empty.
 void ShowHistory(QMenuBar& menu_bar, const std::string& undo_name, const std::string& redo_name);
 
 // Enables the items that need a frame, or disables them.

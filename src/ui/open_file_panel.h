@@ -6,7 +6,7 @@
 
 namespace kirto {
 
-// What sets one open panel apart from another.
+// How open panels differ.
 struct OpenPanelSetup {
     std::string title;
     uint32 command = 0;  // sent with the files as refs "refs"

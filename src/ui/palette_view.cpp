@@ -29,11 +29,11 @@ PaletteView::PaletteView(const kirto::ShownDocument& shown, const BMessenger& wi
     background_index->SetText("0");
     transparent_index->SetText("0");
     menu->view()->setObjectName("WhichPalette");
-    menu->setToolTip("The colours that all frames without a palette of their own are saved with");
-    dither->setToolTip("Mix the palette's colours where it lacks the picture's");
-    background_index->setToolTip("Palette index of the colour behind the frames");
-    transparent->setToolTip("One colour of the palette is transparent");
-    transparent_index->setToolTip("Palette index of the transparent colour");
+    menu->setToolTip("The colors used to save all frames that have no palette of their own");
+    dither->setToolTip("Approximate missing colors by dithering");
+    background_index->setToolTip("Palette index of the background color");
+    transparent->setToolTip("Make one color of the palette transparent");
+    transparent_index->setToolTip("Palette index of the transparent color");
 
     auto* layout = new kirto::PanelLayout(this);
     layout->AddField("Mapping:", menu);

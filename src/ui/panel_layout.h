@@ -12,15 +12,15 @@ class PanelLayout : public QGridLayout {
   public:
     explicit PanelLayout(QWidget* panel);
 
-    // A labelled field; the label is its buddy and its accessible name.
+    // A labeled field; the label is its buddy and its accessible name.
     void AddField(const QString& label, QWidget* field);
     // A field or menu that the box switches on and off.
     void AddField(QAbstractButton* box, QWidget* field);
     // A row of its own.
     void AddWide(QWidget* widget);
-    // Two that belong together, side by side.
+    // Two widgets that belong together, side by side.
     void AddPair(QWidget* left, QWidget* right);
-    // Sets what follows apart from what came before.
+    // Adds space before what follows.
     void AddGap();
 
   private:

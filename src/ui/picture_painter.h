@@ -15,16 +15,16 @@ namespace kirto {
 QRectF OnPixels(const BRect& rectangle, qreal device_pixel_ratio);
 
 // Paints scaled pictures, all of one paint event, transparent ones over a backdrop. Smooth scaling
-// takes its time: when the event has had its share of it, pictures that are not in the cache yet
-// are painted coarsely. GUI thread.
+// is slow: once a paint event has spent its share of time, pictures that are not cached yet are
+// painted coarsely. GUI thread.
 class PicturePainter {
   public:
     // draw_transparent: the backdrop is a quiet checkerboard, else plain grey. The painter and the
-    // cache live longer.
+    // cache outlive this object.
     PicturePainter(QPainter& painter, const QPalette& palette, bool draw_transparent,
                    ThumbnailCache& cache);
 
-    // Only the backdrop, for what is no 32-bit picture.
+    // Only the backdrop if the picture is not 32-bit.
     void Draw(const std::shared_ptr<const BBitmap>& picture, const BRect& rectangle);
 
     // True when a picture was painted coarsely: paint again, later.

@@ -44,14 +44,14 @@ class PreferencesWindow : public IEWindow {
     void ShowSettings();
     void TakeSettings();
     void ShowChoice(Choice choice, int32 value);
-    // The chosen value; otherwise where none is chosen.
+    // The chosen value, or the argument otherwise when none is chosen.
     int32 Chosen(Choice choice, int32 otherwise) const;
     // A field that belongs to a box or radio button can be used while that is on.
     void EnableDependents();
 
     // Edits that were not checked yet are on their way to be so. False without any.
     bool CommitEdits();
-    // Each checks what its command is about; false for a command of somebody else.
+    // Each checks the controls of its command and returns false for any other command.
     bool CheckNumber(uint32 command);
     bool CheckPath(uint32 command);
     // True when the path opens as a file, or else as a folder.

@@ -8,13 +8,13 @@
 
 namespace kirto {
 
-// Shows alerts as dialogs of the desktop. Made on the GUI thread, whose dialogs they are; presents
-// from any thread. Another thread waits for the answer, and gets the last button when the program
-// ends before there is one; the GUI thread goes on handling events.
+// Shows alerts as dialogs of the desktop. Made on the GUI thread; may be asked to present on any
+// thread. Another thread waits for the answer, and gets the last button when the program ends
+// before there is one; the GUI thread goes on handling events.
 class QtAlerts : public QObject, public AlertPresenter {
   public:
     QtAlerts();
-    // Must not go while another thread's alert is up.
+    // Must not be destroyed while another thread's alert is shown.
     ~QtAlerts() override;
 
     // Alerts stand in front of this window.

@@ -50,7 +50,7 @@ std::string QtDesktop::MimeTypeOf(const std::string& path) {
 
 void QtDesktop::OpenInBrowser(const std::string& path) {
     if (kirto::OpenInBrowser(path)) return;
-    Warn("The preview is written, but no program to show it was found.");
+    Warn("The preview was written, but no program to show it was found.");
 }
 
 }  // namespace kirto

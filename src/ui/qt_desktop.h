@@ -28,8 +28,8 @@ class QtDesktop : public Desktop {
 
     // Null before the application has asked for it. GUI thread.
     KirtoWindow* MainWindow() { return window_.get(); }
-    // Ends the windows, before the application that they show. From then on nobody is there to be
-    // told anything: alerts are answered with their last button.
+    // Ends the windows, before the application that they show. From then on alerts are answered
+    // with their last button.
     void CloseWindows();
 
   private:

@@ -10,17 +10,16 @@ class QGridLayout;
 class QSlider;
 class QSpinBox;
 
-// Three sliders, each with a field for its number, that mix a colour of red, green and blue. While
+// Three sliders, each with a field for its number, that mix a color of red, green and blue. While
 // one of them is moved, the view "Preview" of the same window follows. Black at first. GUI thread.
 class RTColorControl : public QWidget {
   public:
     RTColorControl(const char* name, QWidget* parent);
 
-    // The colour: red in bits 24 to 31, green in bits 16 to 23, blue in bits 8 to 15, the rest 0.
+    // The color: red in bits 24 to 31, green in bits 16 to 23, blue in bits 8 to 15, the rest 0.
     int32 Value() const { return value_; }
     QColor Color() const;
-    // Has the preview painted again, with the colour that is now set. Bits 0 to 7 count for
-    // nothing.
+    // Repaints the preview with the new color. Bits 0 to 7 are ignored.
     void SetValue(int32 value);
 
   private:

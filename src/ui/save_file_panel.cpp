@@ -82,11 +82,11 @@ void SaveFilePanel::MakeControls(kirto::FileDialog& dialog) {
     format_->setObjectName("FormatMenuField");
     format_->view()->setObjectName("FormatPopUpMenu");
     format_->setAccessibleName(label->text());
-    format_->setToolTip("One animation, or one image file a frame");
+    format_->setToolTip("One animation, or one image file per frame");
     label->setBuddy(format_);
     auto* settings = new QPushButton("Settings...", controls);
     settings->setObjectName("Settings");
-    settings->setToolTip("How the chosen format is written");
+    settings->setToolTip("Options of the chosen format");
     settings->setAutoDefault(false);
     QObject::connect(format_, &QComboBox::activated, [this] {
         BMessage chosen(MarkedItem()->Command());

@@ -26,7 +26,7 @@ class SaveFilePanel : public kirto::FileDialogPanel, public BHandler {
                   std::function<void()> show_preferences);
     ~SaveFilePanel() override;
 
-    // As of the last choice in the format menu, unless the panel was cancelled after it.
+    // The last choice in the format menu, unless the panel was cancelled after it.
     uint32 OutputFormat() const override { return output_format_; }
     void ForgetOutputFormat() override;
     void Show() override;
@@ -53,12 +53,12 @@ class SaveFilePanel : public kirto::FileDialogPanel, public BHandler {
     void MarkOutputFormat();
     // The first item of the format; "Animated GIF" where there is none.
     int RowOf(uint32 format) const;
-    // Makes the marked format the one that a choice of a place sends.
+    // Uses the marked format for the message that a chosen place sends.
     void UseMarkedFormat();
-    // The extension that names without one get.
+    // The extension added to names without one.
     void UseUsualExtension();
     void ShowSettings(int32 translator);
-    // Asks before anything that is there is replaced.
+    // Asks before an existing file is replaced.
     bool MayWrite(const QString& path) const;
 
     const BTranslatorRoster& roster_;

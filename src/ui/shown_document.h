@@ -7,14 +7,14 @@
 
 namespace kirto {
 
-// What the windows show: the document as it was when they last looked at it. Constant between two
-// looks, whatever is done to the document meanwhile. GUI thread. Before the first look it is an
-// empty animation with built-in settings.
+// What the windows show: the document as it was when they last looked at it. It does not change
+// between two looks, even if the document does. GUI thread. Before the first look it is an empty
+// animation with built-in settings.
 class ShownDocument {
   public:
     ShownDocument();
 
-    // Never waits.
+    // Never blocks.
     void Take(const AnimationDocument& document) { state_ = document.CurrentState(); }
     // An empty document, from the settings' defaults.
     void Reset();

@@ -6,8 +6,8 @@
 
 #include "ui/shown_document.h"
 
-// The line at the window's bottom: how many frames there are, or what is being done just now, with
-// a bar where the text says how far it is. GUI thread.
+// The line at the window's bottom: how many frames there are, or the work in progress, with a
+// progress bar if the text tells how far it is. GUI thread.
 class StatusView : public QWidget {
   public:
     // shown outlives the view.

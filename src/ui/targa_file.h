@@ -13,7 +13,7 @@ namespace kirto {
 std::string TargaFileName(const std::string& frame_name);
 
 // Writes the picture through the roster, with the file's MIME type "image/x-targa". False when no
-// translator writes Targa or something fails; what stood at path is then left alone.
+// translator writes Targa or something fails; an existing file at path is then left alone.
 bool WriteTargaFile(const BBitmap& picture, const std::string& path, BTranslatorRoster& roster);
 
 }  // namespace kirto

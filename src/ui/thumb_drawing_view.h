@@ -8,18 +8,18 @@
 #include <memory>
 
 #include "platform/message.h"
-#include "ui/shown_document.h"
 #include "ui/editor.h"
 #include "ui/frame_drag.h"
 #include "ui/picture_painter.h"
+#include "ui/shown_document.h"
 #include "ui/thumb_scroll_view.h"
 #include "ui/thumbnail_cache.h"
 #include "ui/thumbnail_layout.h"
 
 class QHelpEvent;
 
-// The grid of thumbnails. Frames are selected, dragged out as files and given as commands; files
-// dropped in are sent to the window with the place where they were dropped. GUI thread.
+// The grid of thumbnails. Frames can be selected and dragged out as files, and have a context menu;
+// dropped files are sent to the window with the position of the drop. GUI thread.
 class ThumbDrawingView : public QWidget {
   public:
     using DragStarter = std::function<void(std::unique_ptr<kirto::FrameDrag> drag,
@@ -44,15 +44,15 @@ class ThumbDrawingView : public QWidget {
     void MessageReceived(BMessage* message);
     // Drags the current frame out. grab: the pointer's place in its thumbnail.
     void DragToTracker(BPoint grab);
-    // Writes the current frame as a Targa file: ref "directory", string "name". False when it was
-    // not written; where that is a failure, an alert follows, though not while a drag goes on.
+    // Writes the current frame as a Targa file: ref "directory", string "name". Returns false when
+    // it was not written; a failure shows an alert, except during a drag.
     bool SaveToTracker(BMessage* message);
 
-    // Where thumbnails stand now.
+    // The current layout of the thumbnails.
     const kirto::ThumbnailLayout& Layout();
-    // Before which frame files would be dropped; -1 without files above the view.
+    // The frame before which files would be dropped; -1 while no files are dragged over the view.
     int32 DropPosition() const { return drop_position_; }
-    // What carries drags out, for tests; the desktop's drag and drop unless set.
+    // Carries out drags; the desktop's drag and drop unless a test sets it.
     void SetDragStarter(DragStarter starter) { start_drag_ = std::move(starter); }
 
   protected:

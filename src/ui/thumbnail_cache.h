@@ -10,8 +10,8 @@
 
 namespace kirto {
 
-// Pictures scaled to the sizes in which they were shown last, in bounded memory. Pictures are told
-// apart by their identity; the cache keeps none of them alive. GUI thread.
+// Pictures scaled to the sizes in which they were shown last, in bounded memory. Pictures are
+// told apart by identity; the cache does not keep them alive. GUI thread.
 class ThumbnailCache {
   public:
     static constexpr int64 kMaxBytes = int64{128} << 20;
@@ -20,7 +20,7 @@ class ThumbnailCache {
 
     // The picture at size, in pixels of the device, if it is here; else null.
     QImage Find(const std::shared_ptr<const BBitmap>& picture, QSize size) const;
-    // The same, scaled smoothly if need be. Null for what is no 32-bit picture, and when memory is
+    // The same, scaled smoothly if need be. Null if the picture is not 32-bit, and when memory is
     // short.
     QImage Scaled(const std::shared_ptr<const BBitmap>& picture, QSize size);
 
@@ -35,7 +35,7 @@ class ThumbnailCache {
         }
     };
     struct Entry {
-        std::weak_ptr<const BBitmap> picture;  // another one may come to stand at its address
+        std::weak_ptr<const BBitmap> picture;  // another picture may later have its address
         QImage image;
     };
 

@@ -8,8 +8,8 @@
 
 namespace kirto {
 
-// Where thumbnails stand: in rows from the left, each as high as is asked for and as wide as its
-// frame makes it. Coordinates are pixels of the whole grid, (0, 0) at its left top; edges are
+// The places of thumbnails: in rows from the left, all of the given height, each as wide as its
+// frame requires. Coordinates are pixels of the whole grid, (0, 0) at its left top; edges are
 // inclusive. A plain value.
 class ThumbnailLayout {
   public:
@@ -25,7 +25,7 @@ class ThumbnailLayout {
     int32 Count() const { return static_cast<int32>(rectangles_.size()); }
     // Of thumbnail index, 0 to Count() - 1.
     BRect At(int32 index) const { return rectangles_[static_cast<size_t>(index)]; }
-    // The line around a thumbnail, two pixels thick towards the right and the bottom.
+    // The line around a thumbnail, two pixels thick toward the right and the bottom.
     BRect OutlineAt(int32 index) const;
     // The thumbnails [first, second) whose rows, gaps included, touch top to bottom.
     std::pair<int32, int32> Between(float top, float bottom) const;

@@ -53,7 +53,7 @@ void ThumbnailView::MakeControls(const BMessenger& window) {
                              window, this);
     menu->view()->setObjectName("HeightMenu");
     menu->setAccessibleName("Use frame:");
-    menu->setToolTip("Take the thumbnails' height from a frame");
+    menu->setToolTip("Set the thumbnail height from a frame");
     menu_label->setBuddy(menu);
 
     auto* height = new QHBoxLayout;

@@ -10,9 +10,9 @@ class QFormLayout;
 
 namespace kirto {
 
-// The window "Translator Settings": a form of an image writer's settings, one row a named value.
-// Each change holds at once. Stays in front of its parent, and deletes itself when it is closed.
-// GUI thread.
+// The window "Translator Settings": a form of an image writer's settings, one row per named value.
+// Each change takes effect at once. Stays in front of its parent, and deletes itself when it is
+// closed. GUI thread.
 class TranslatorSettingsWindow : public QDialog {
   public:
     // settings: whole numbers, switches, real numbers and texts; other values stay as they are.
@@ -28,7 +28,7 @@ class TranslatorSettingsWindow : public QDialog {
     QWidget* MakeFloatField(const std::string& name);
     QWidget* MakeDoubleField(const std::string& name);
     QWidget* MakeTextField(const std::string& name);
-    // Puts the value in the place of the field's.
+    // Replaces the field's value.
     template <typename Add>
     void Change(const std::string& name, Add add);
 

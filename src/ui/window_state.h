@@ -5,7 +5,7 @@ class QSplitter;
 
 namespace kirto {
 
-// Divides the splitter as it was when it was stored last; as it is without that. GUI thread.
+// Restores the splitter as it was last stored, if it was. GUI thread.
 void RestoreSplitter(QSplitter& splitter);
 void StoreSplitter(const QSplitter& splitter);
 

@@ -43,8 +43,8 @@ TEST(KirtoCli, SelectsFrames) {
 TEST(KirtoCli, SelectsOnlyFramesThatAreThere) {
     ExpectRefused({"--select", "3"}, "There is no frame 3; the animation has 3 frame(s).", 1);
     ExpectRefused({"--select", "-1"}, "There is no frame -1; the animation has 3 frame(s).", 1);
-    ExpectRefused({"--select", "one"}, "--select: \"one\" is no number.");
-    ExpectRefused({"--select", ""}, "--select: \"\" is no number.");
+    ExpectRefused({"--select", "one"}, "--select: \"one\" is not a number.");
+    ExpectRefused({"--select", ""}, "--select: \"\" is not a number.");
 }
 
 TEST(KirtoCli, RemovesTheCurrentFrame) {
@@ -155,17 +155,17 @@ TEST(KirtoCli, RefusesNumbersOutOfRangeAsTheWindowDoes) {
 }
 
 TEST(KirtoCli, RefusesTextsThatAreNoNumbers) {
-    ExpectRefused({"--width", "10px"}, "Width: \"10px\" is no whole number.");
-    ExpectRefused({"--height", "1.5"}, "Height: \"1.5\" is no whole number.");
-    ExpectRefused({"--loop", "on"}, "Loop count: \"on\" is no whole number.");
-    ExpectRefused({"--loop", "99999999999"}, "Loop count: \"99999999999\" is no whole number.");
-    ExpectRefused({"--background", ""}, "Background index: \"\" is no whole number.");
-    ExpectRefused({"--pause", "ten"}, "Pause length: \"ten\" is no number.");
-    ExpectRefused({"--pause", "nan"}, "Pause length: \"nan\" is no number.");
-    ExpectRefused({"--frame-pause", "inf"}, "Pause length: \"inf\" is no number.");
-    ExpectRefused({"--frame-offset", "5"}, "--frame-offset: \"5\" is not X,Y.");
-    ExpectRefused({"--frame-offset", "5,"}, "YOffset: \"\" is no whole number.");
-    ExpectRefused({"--frame-offset", "5,6,7"}, "YOffset: \"6,7\" is no whole number.");
+    ExpectRefused({"--width", "10px"}, "Width: \"10px\" is not a whole number.");
+    ExpectRefused({"--height", "1.5"}, "Height: \"1.5\" is not a whole number.");
+    ExpectRefused({"--loop", "on"}, "Loop count: \"on\" is not a whole number.");
+    ExpectRefused({"--loop", "99999999999"}, "Loop count: \"99999999999\" is not a whole number.");
+    ExpectRefused({"--background", ""}, "Background index: \"\" is not a whole number.");
+    ExpectRefused({"--pause", "ten"}, "Pause length: \"ten\" is not a number.");
+    ExpectRefused({"--pause", "nan"}, "Pause length: \"nan\" is not a number.");
+    ExpectRefused({"--frame-pause", "inf"}, "Pause length: \"inf\" is not a number.");
+    ExpectRefused({"--frame-offset", "5"}, "--frame-offset: \"5\": expected X,Y.");
+    ExpectRefused({"--frame-offset", "5,"}, "YOffset: \"\" is not a whole number.");
+    ExpectRefused({"--frame-offset", "5,6,7"}, "YOffset: \"6,7\" is not a whole number.");
 }
 
 TEST(KirtoCli, ChoosesTheAnimationsPalette) {
@@ -218,7 +218,7 @@ TEST(KirtoCli, TurnsDitheringOnAndOff) {
     EXPECT_EQ(home.Edited({"--dither", "on"})["global_palette"]["dither"], true);
     EXPECT_EQ(home.Edited({"--dither", "on", "--dither", "off"})["global_palette"]["dither"],
               false);
-    ExpectRefused({"--dither", "maybe"}, "--dither: \"maybe\" is neither on nor off.");
+    ExpectRefused({"--dither", "maybe"}, "--dither: \"maybe\": expected on or off.");
 }
 
 TEST(KirtoCli, NeverDithersAGreyscalePalette) {
@@ -279,7 +279,7 @@ TEST(KirtoCli, RefusesAnOffsetOfOneNumberAlsoWithoutAFrame) {
     const RunResult result = home.Run({"--frame-offset", "3"});
 
     EXPECT_EQ(result.status, 2);
-    EXPECT_EQ(result.err, "kirto-cli: --frame-offset: \"3\" is not X,Y.\n");
+    EXPECT_EQ(result.err, "kirto-cli: --frame-offset: \"3\": expected X,Y.\n");
 }
 
 TEST(KirtoCli, FailsToChangeAFrameWhereThereIsNone) {

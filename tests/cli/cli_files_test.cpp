@@ -130,9 +130,9 @@ TEST(KirtoCli, DescribesAnimationsForPeople) {
     EXPECT_EQ(result.err, "");
     EXPECT_EQ(result.out,
               "three.gif: 2 x 1, 3 frame(s), modified\n"
-              "loop: 0 (for ever)\n"
+              "loop: 0 (forever)\n"
               "pause: 10.00 hundredths\n"
-              "palette: from a file, 4 colours, background 0, transparent 3, dithered\n"
+              "palette: from a file, 4 colors, background 0, transparent 3, dithered\n"
               "     0  frame0000                2 x 1 at 0,0  pause off  global palette\n"
               "*    1  frame0001                2 x 1 at 0,0  pause off  system\n"
               "     2  frame0002                2 x 1 at 0,0  pause 20.00 hundredths  global "
@@ -152,11 +152,11 @@ TEST(KirtoCli, NamesTheKindOfPaletteAndTheUnitOfPauses) {
         EXPECT_EQ(result.out,
                   "untitled: 320 x 240, 0 frame(s), modified\nloop: 3\npause: 1.50 s\n"
                   "palette: " +
-                      std::string(text) + " colours, background 0, transparent off\n");
+                      std::string(text) + " colors, background 0, transparent off\n");
     }
     EXPECT_EQ(home.Run({"--loop", "off", "--pause", "off", "--info"}).out,
               "untitled: 320 x 240, 0 frame(s), modified\nloop: off\npause: off\n"
-              "palette: web safe, 216 colours, background 0, transparent off\n");
+              "palette: web safe, 216 colors, background 0, transparent off\n");
     home.Write("three.gif", ThreeFrameGif());
     EXPECT_NE(home.Run({"--open", "three.gif", "--frame-palette", "optimal", "--info"})
                   .out.find("*    0  frame0000                2 x 1 at 0,0  pause off  optimal\n"),
@@ -273,7 +273,8 @@ TEST(KirtoCli, RefusesToInsertAnAnimationWithoutAPlace) {
     for (const std::string value : {"three.gif", "three.gif@", "three.gif@x", "@"}) {
         const RunResult result = home.Run({"--insert-animation", value});
         EXPECT_EQ(result.status, 2);
-        EXPECT_EQ(result.err, "kirto-cli: --insert-animation: \"" + value + "\" is no FILE@N.\n");
+        EXPECT_EQ(result.err,
+                  "kirto-cli: --insert-animation: \"" + value + "\": expected FILE@N.\n");
     }
 }
 

@@ -107,7 +107,7 @@ TEST(KirtoCli, RefusesTilesWithoutRowsAndColumns) {
     for (const std::string value : {"picture.ppm", "picture.ppm,2", "picture.ppm,a,b", ",", ""}) {
         home.ExpectRefused(
             {"--insert-tiled", value},
-            "--insert-tiled: \"" + value + "\" is no FILE,ROWS,COLUMNS[,by-column].");
+            "--insert-tiled: \"" + value + "\": expected FILE,ROWS,COLUMNS[,by-column].");
     }
 }
 
@@ -126,7 +126,7 @@ TEST(KirtoCli, RefusesFadesThatAreNone) {
     for (const std::string value :
          {"to-color", "to-nowhere:3", "to-color:x", "to-color:3:red", "to-color:3:ff", ""}) {
         home.ExpectRefused({"--open", "three.gif", "--fade", value},
-                           "--fade: \"" + value + "\" is no MODE:COUNT[:RRGGBB].");
+                           "--fade: \"" + value + "\": expected MODE:COUNT[:RRGGBB].");
     }
     home.ExpectRefused({"--open", "three.gif", "--fade", "to-next:0"},
                        "Frame count must be between 1 and 100.");
@@ -192,7 +192,7 @@ TEST(KirtoCli, FailsWhereNoProgramShowsThePreview) {
 
     home.ExpectRefused({"--open", "three.gif", "--preview"},
                        home.HomeFile("kirtotemp.gif") +
-                           ": The preview is written, but no program to show it was found.",
+                           ": The preview was written, but no program to show it was found.",
                        1);
 }
 

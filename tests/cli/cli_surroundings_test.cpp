@@ -69,7 +69,7 @@ TEST(KirtoCli, TakesSettingsWhoseValueHoldsAnEqualsSign) {
 }
 
 TEST(KirtoCli, RefusesSettingsThatAreNone) {
-    ExpectRefused({"--set", "global_width"}, "--set: \"global_width\" is no KEY=VALUE.");
+    ExpectRefused({"--set", "global_width"}, "--set: \"global_width\": expected KEY=VALUE.");
     ExpectRefused({"--set", "=5"}, "--set: There is no setting named \"\".");
     ExpectRefused({"--set", "speed=5"}, "--set: There is no setting named \"speed\".");
     ExpectRefused({"--set", "global_width=wide"},

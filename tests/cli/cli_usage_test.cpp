@@ -59,7 +59,7 @@ TEST(KirtoCli, NamesEveryOptionInItsHelp) {
                              "--memory-limit MIB",
                              "--help",
                              "--version",
-                             "Exit status: 0 done, 1 failed, 2 wrong usage."}) {
+                             "Exit status: 0 success, 1 failure, 2 wrong usage."}) {
         EXPECT_NE(result.out.find(text), std::string::npos) << text;
     }
 }

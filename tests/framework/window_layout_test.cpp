@@ -147,30 +147,30 @@ TEST(WindowLayout, KeepsTheViewsOfATabViewAndTheirTabsInFieldsOfTheirOwn) {
 
 TEST(WindowLayout, SaysInWhichLineTheSourceIsWrong) {
     EXPECT_EQ(Compiled("class = 'BWindow'\n").error, ":1: \"name\" is missing.");
-    EXPECT_EQ(ErrorWithLine("tilte = 'x'"), ":6: \"tilte\" has no meaning here.");
-    EXPECT_EQ(ErrorWithLine("type = 'round'"),
-              ":6: \"round\" is none of the words that can stand here.");
-    EXPECT_EQ(ErrorWithLine("type = 3"), ":6: \"\" is none of the words that can stand here.");
-    EXPECT_EQ(ErrorWithLine("flags = 'not resizable'"), ":6: \"flags\" must be an array of words.");
+    EXPECT_EQ(ErrorWithLine("tilte = 'x'"), ":6: \"tilte\" is not allowed here.");
+    EXPECT_EQ(ErrorWithLine("type = 'round'"), ":6: \"round\" is not a valid value here.");
+    EXPECT_EQ(ErrorWithLine("type = 3"), ":6: \"\" is not a valid value here.");
+    EXPECT_EQ(ErrorWithLine("flags = 'not resizable'"),
+              ":6: \"flags\" must be an array of strings.");
     EXPECT_EQ(ErrorWithLine("framework_flags = ['upright']"),
-              ":6: \"upright\" is none of the words that can stand here.");
+              ":6: \"upright\" is not a valid value here.");
     EXPECT_EQ(ErrorWithLine("font_height = 'high'"), ":6: \"font_height\" must be a number.");
     EXPECT_EQ(ErrorWithLine("limits = [1, 2, 3]"), ":6: \"limits\" must be 4 numbers.");
     EXPECT_EQ(ErrorWithLine("limits = [2, 1, 3, 4]"),
-              ":6: \"limits\" must be least and most width, least and most height.");
+              ":6: \"limits\" must be minimum and maximum width, minimum and maximum height.");
 }
 
 TEST(WindowLayout, SaysWhatIsWrongWithAView) {
     const std::string view = "class = 'BView', name = 'v', ";
     EXPECT_EQ(ErrorWithView("class = 'BView', name = 'v'"), ":6: \"frame\" is missing.");
     EXPECT_EQ(ErrorWithView("class = 1, name = 'v', frame = [0, 0, 1, 1]"),
-              ":6: \"class\" must be a text.");
+              ":6: \"class\" must be a string.");
     EXPECT_EQ(ErrorWithView(view + "frame = [0, 0, 1]"), ":6: \"frame\" must be 4 numbers.");
     EXPECT_EQ(ErrorWithView(view + "frame = [0, 0, 1, 'x']"), ":6: \"frame\" must be 4 numbers.");
     EXPECT_EQ(ErrorWithView(view + "frame = [5, 0, 1, 1]"),
               ":6: \"frame\" must be left, top, right and bottom.");
     EXPECT_EQ(ErrorWithView(view + "frame = [0, 0, 1, 1], label = 7"),
-              ":6: \"label\" must be a text.");
+              ":6: \"label\" must be a string.");
     EXPECT_EQ(ErrorWithView(view + "frame = [0, 0, 1, 1], message = 'long one'"),
               ":6: \"message\" must be the four characters of a command code.");
     EXPECT_EQ(ErrorWithView(view + "frame = [0, 0, 1, 1], divider = 'x'"),
@@ -187,7 +187,7 @@ TEST(WindowLayout, RefusesViewsThatNestTooDeep) {
         view = "{class = 'BView', name = 'v', frame = [0, 0, 1, 1], views = [" + view + "]}";
     }
     EXPECT_EQ(Compiled(std::string(kPlainWindow) + "views = [" + view + "]\n").error,
-              ":5: Views lie too deep in each other.");
+              ":5: Views are nested too deeply.");
 }
 
 TEST(WindowLayout, LeavesTheArchiveAloneWhereTheSourceIsWrong) {

@@ -51,7 +51,7 @@ std::vector<std::string> AllMatches(const std::string& text, const std::string& 
     std::vector<std::string> matches;
     regex_t regex;
     if (regcomp(&regex, expression.c_str(), REG_EXTENDED) != 0) {
-        ADD_FAILURE() << expression << " is no regular expression";
+        ADD_FAILURE() << expression << " is not a regular expression";
         return matches;
     }
     const char* rest = text.c_str();

@@ -24,7 +24,7 @@ using testing::EndsWith;
 using testing::HasSubstr;
 
 constexpr const char* kHeading =
-    "# Settings, one a line. This file is replaced as a whole: comments in it are not kept.\n";
+    "# Settings, one per line. This file is replaced as a whole: comments in it are not kept.\n";
 
 std::string TextOf(const std::string& path) {
     const std::vector<uint8> bytes = ReadBytes(path);
@@ -268,18 +268,19 @@ TEST(AttributeFile, ValuesThatAreNoAttributesAreRefused) {
              "{ type = \"LONG\", bytes = \"-1\" }",
              "{ type = \"0x-1020304\", bytes = \"00\" }",
          }) {
-        EXPECT_EQ(ReasonAgainst(std::string("y = 1\nx = ") + value), "line 2: no setting's value")
+        EXPECT_EQ(ReasonAgainst(std::string("y = 1\nx = ") + value),
+                  "line 2: not the value of a setting")
             << value;
     }
-    EXPECT_EQ(ReasonAgainst("[table]\nx = 1"), "line 1: no setting's value");
-    EXPECT_EQ(ReasonAgainst("a.b = 1"), "line 1: no setting's value");
+    EXPECT_EQ(ReasonAgainst("[table]\nx = 1"), "line 1: not the value of a setting");
+    EXPECT_EQ(ReasonAgainst("a.b = 1"), "line 1: not the value of a setting");
 }
 
 TEST(AttributeFile, KeysOfTooManyPartsAreRefusedBeforeTheyAreNested) {
     std::string key = "a";
     for (int i = 0; i < 200000; ++i)
         key += ".a";
-    const std::string reason = "a string of several lines, or a key of too many parts";
+    const std::string reason = "a multi-line string, or a key with too many parts";
 
     EXPECT_EQ(ReasonAgainst(key + " = 1"), reason);
     EXPECT_EQ(ReasonAgainst("[" + key + "]"), reason);
@@ -288,7 +289,7 @@ TEST(AttributeFile, KeysOfTooManyPartsAreRefusedBeforeTheyAreNested) {
 }
 
 TEST(AttributeFile, StringsOfSeveralLinesAreRefused) {
-    const std::string reason = "a string of several lines, or a key of too many parts";
+    const std::string reason = "a multi-line string, or a key with too many parts";
 
     EXPECT_EQ(ReasonAgainst("x = \"\"\"a\nb\"\"\""), reason);
     EXPECT_EQ(ReasonAgainst("x = '''a\nb'''"), reason);
@@ -491,8 +492,8 @@ TEST(AttributeFile, ADamagedFileIsPutAsideAndTheAttributesStartEmpty) {
     EXPECT_EQ(TextOf(path + ".damaged"), "y = 2\nx = [1]\n");
     EXPECT_FALSE(std::filesystem::exists(path));
     EXPECT_EQ(debug.Text(), "AttributeFile::PutAside() - " + path +
-                                " is damaged (line 2: no setting's value), kept as " + path +
-                                ".damaged\n");
+                                " is damaged (line 2: not the value of a setting), kept as " +
+                                path + ".damaged\n");
 
     WriteInt(file, "y", 3);
     EXPECT_EQ(file.Sync(), B_OK);

@@ -29,7 +29,7 @@ TEST(StatusText, HasASentenceForEveryStatus) {
     EXPECT_EQ(StatusText(B_BAD_SEM_ID), "No such semaphore");
     EXPECT_EQ(StatusText(B_WOULD_BLOCK), "Operation would block");
     EXPECT_EQ(StatusText(B_NOT_ALLOWED), "Operation not allowed");
-    EXPECT_EQ(StatusText(B_NO_INIT), "Not initialised");
+    EXPECT_EQ(StatusText(B_NO_INIT), "Not initialized");
     EXPECT_EQ(StatusText(B_BAD_DATA), "Damaged data");
     EXPECT_EQ(StatusText(B_NO_TRANSLATOR), "No translator for this format");
     EXPECT_EQ(StatusText(B_CANCELED), "Cancelled");

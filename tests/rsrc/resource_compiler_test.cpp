@@ -173,7 +173,7 @@ TEST(ResourceCompiler, SaysWhichValueIsOfTheWrongKind) {
     sources.Replace("\"First.Window\" = \"window.toml\"", "\"First.Window\" = 1");
     EXPECT_EQ(sources.Error(), "DIR/kirto.toml: no file for the window \"First.Window\"");
     sources.Replace("[\"image\"]", "[\"image\", 1]");
-    EXPECT_EQ(sources.Error(), "DIR/kirto.toml: \"file_types\" holds other things than strings");
+    EXPECT_EQ(sources.Error(), "DIR/kirto.toml: \"file_types\" may hold strings only");
     sources.Replace("major = 1", "major = -1");
     EXPECT_EQ(sources.Error(), "DIR/kirto.toml: no 32-bit number \"version.major\"");
     sources.Replace("major = 1", "major = 4294967296");
@@ -196,14 +196,15 @@ TEST(ResourceCompiler, RefusesVersionTextsThatDontFitTheirFields) {
 TEST(ResourceCompiler, RefusesWindowNamesWithAZeroByte) {
     const Sources sources;
     sources.Replace("Second", "\"Sec\\u0000ond\"");
-    EXPECT_EQ(sources.Error(),
-              "DIR/kirto.toml: \"" + std::string("Sec\0ond", 7) + "\" is no name of a resource");
+    EXPECT_EQ(sources.Error(), "DIR/kirto.toml: \"" + std::string("Sec\0ond", 7) +
+                                   "\" is not a valid resource name");
 }
 
 TEST(ResourceCompiler, PassesOnWhatIsWrongWithAnIconOrALayout) {
     const Sources sources;
     sources.Write("large.xpm", IconOf(16));
-    EXPECT_EQ(sources.Error(), "DIR/large.xpm: no XPM image of 32 x 32 with one character a pixel");
+    EXPECT_EQ(sources.Error(),
+              "DIR/large.xpm: not an XPM image of 32 x 32 with one character per pixel");
     sources.Write("window.toml", "class = 1\n");
     EXPECT_TRUE(std::regex_search(sources.Error(), std::regex("DIR/window.toml")))
         << sources.Error();

@@ -23,8 +23,8 @@ std::string ErrorOf(const std::string& text) {
     return error;
 }
 
-constexpr const char* kNoImage = "no XPM image of 2 x 2 with one character a pixel";
-constexpr const char* kNoColor = "a colour that is neither \"X c #RRGGBB\" nor \"X c None\"";
+constexpr const char* kNoImage = "not an XPM image of 2 x 2 with one character per pixel";
+constexpr const char* kNoColor = "a color that is neither \"X c #RRGGBB\" nor \"X c None\"";
 
 }  // namespace
 
@@ -75,11 +75,11 @@ TEST(TextIcon, RefusesColoursThatAreNone) {
 
 TEST(TextIcon, RefusesRowsWithOtherPixels) {
     EXPECT_EQ(ErrorOf(Icon(kSize, kColors, "\"#.\",\"b?\"")),
-              "row 1 has other than 2 known characters");
+              "row 1 does not have exactly 2 known characters");
     EXPECT_EQ(ErrorOf(Icon(kSize, kColors, "\"#..\",\"bg\"")),
-              "row 0 has other than 2 known characters");
+              "row 0 does not have exactly 2 known characters");
     EXPECT_EQ(ErrorOf(Icon(kSize, kColors, "\"#.?\",\"bg\"")),
-              "row 0 has other than 2 known characters");
+              "row 0 does not have exactly 2 known characters");
 }
 
 }  // namespace kirto::test

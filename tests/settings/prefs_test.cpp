@@ -562,7 +562,7 @@ TEST_F(PrefsTest, TheFirstStartMakesTheFileWithAllDefaults) {
     EXPECT_FALSE(prefs.failed);
     const std::vector<uint8> bytes = ReadBytes(Prefs::SettingsPath());
     EXPECT_EQ(std::string(bytes.begin(), bytes.end()),
-              "# Settings, one a line. This file is replaced as a whole: comments in it are not "
+              "# Settings, one per line. This file is replaced as a whole: comments in it are not "
               "kept.\n"
               "animation_gifcomment = true\n"
               "animation_gifdisposal = 0\n"

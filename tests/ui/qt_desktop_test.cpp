@@ -131,7 +131,7 @@ TEST_F(QtDesktopTest, TellsTheUserWhenNoProgramShowsThePreview) {
     desktop.OpenInBrowser("/some/file.gif");
 
     EXPECT_EQ(alerts.Lines(),
-              std::vector<std::string>{"WARNING [] The preview is written, but no program to show "
+              std::vector<std::string>{"WARNING [] The preview was written, but no program to show "
                                        "it was found. | OK"});
 }
 

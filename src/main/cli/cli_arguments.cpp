@@ -18,46 +18,46 @@ struct OptionText {
 };
 
 constexpr OptionText kOperations[] = {
-    {"--set", "KEY=VALUE", "Set a setting for this run, from here on"},
+    {"--set", "KEY=VALUE", "Change a setting for the rest of this run"},
     {"--open", "FILE", "Open a GIF, FLI or FLC animation in place of the current one"},
-    {"--insert-animation", "FILE@N", "Insert an animation's frames so that the first is frame N"},
-    {"--insert", "FILE[@N]", "Insert an image as frame N, or behind the current frame"},
+    {"--insert-animation", "FILE@N", "Insert an animation's frames before frame N"},
+    {"--insert", "FILE[@N]", "Insert an image as frame N, or after the current frame"},
     {"--insert-tiled", "FILE,ROWS,COLUMNS[,by-column]", "Cut an image into frames"},
     {"--fade", "MODE:COUNT[:RRGGBB]",
      "Fade the current frame: to-color, from-color, to-next or from-previous"},
     {"--select", "N", "Make frame N the current one (the first is 0)"},
     {"--remove", nullptr, "Remove the current frame"},
-    {"--move-up", nullptr, "Move the current frame one place towards the start"},
-    {"--move-down", nullptr, "Move the current frame one place towards the end"},
+    {"--move-up", nullptr, "Move the current frame one place toward the start"},
+    {"--move-down", nullptr, "Move the current frame one place toward the end"},
     {"--reverse", nullptr, "Reverse the order of all frames"},
     {"--width", "N", "Set the animation's width in pixels"},
     {"--height", "N", "Set the animation's height in pixels"},
-    {"--loop", "N|off", "Play N times (0: for ever), or once"},
-    {"--pause", "X|off", "Set the pause of frames without one of their own"},
+    {"--loop", "N|off", "Play N times (0 = forever, off = play once)"},
+    {"--pause", "X|off", "Set the pause of frames that have none of their own"},
     {"--palette", "web-safe|system|greyscale|first-frame|current-frame|FILE",
      "Choose the animation's palette"},
-    {"--dither", "on|off", "Dither when colours are mapped to a palette"},
-    {"--transparent", "N|off", "Set the transparent colour's index"},
-    {"--background", "N", "Set the background colour's index"},
-    {"--frame-offset", "X,Y", "Place the current frame on the canvas"},
+    {"--dither", "on|off", "Approximate missing colors by dithering"},
+    {"--transparent", "N|off", "Set the palette index of the transparent color"},
+    {"--background", "N", "Set the palette index of the background color"},
+    {"--frame-offset", "X,Y", "Set the current frame's offset in pixels"},
     {"--frame-pause", "X|off", "Give the current frame its own pause"},
     {"--frame-palette", "off|web-safe|system|greyscale|optimal|FILE",
      "Give the current frame its own palette"},
     {"--undo", "[N]", "Undo the last change, or the last N"},
-    {"--redo", "[N]", "Redo what was undone last, or the last N"},
+    {"--redo", "[N]", "Redo the last undone change, or the last N"},
     {"--save", "FILE.gif", "Save as an animated GIF"},
     {"--save-sequence", "NAME.EXT", "Save each frame as an image NAME0000.EXT, NAME0001.EXT, ..."},
     {"--list-formats", nullptr, "List the image formats that can be read and written"},
     {"--preview", nullptr, "Show the animation in the web browser"},
-    {"--info", nullptr, "Print what the animation is made of"},
-    {"--info-json", nullptr, "Print the same as one JSON object"},
+    {"--info", nullptr, "Describe the animation"},
+    {"--info-json", nullptr, "Describe the animation as one JSON object"},
 };
 
 constexpr const char* kFooter =
     "\nOptions are carried out in the order given, on one animation. Pauses are in hundredths of "
     "a\n"
     "second, or in seconds after --set global_pauseinseconds=true.\n"
-    "Exit status: 0 done, 1 failed, 2 wrong usage.\n";
+    "Exit status: 0 success, 1 failure, 2 wrong usage.\n";
 
 std::vector<CliOperation> InOrder(const CLI::App& app) {
     std::vector<CliOperation> operations;
@@ -107,7 +107,7 @@ std::optional<int> ParseArguments(int argc, const char* const* argv, CliArgument
         ->type_name("NAME");
     uint64 mebibytes = 0;
     const CLI::Option* limit =
-        app.add_option("--memory-limit", mebibytes, "Let frames take this much memory")
+        app.add_option("--memory-limit", mebibytes, "Limit the memory of the frames")
             ->type_name("MIB")
             ->check(CLI::Range(uint64{1}, uint64{1} << 30));
     try {

@@ -33,7 +33,7 @@ bool ParseColor(std::string_view text, uint32* color) {
 
 CliSession::Outcome CliSession::Set(const std::string& value) {
     const size_t equals = value.find('=');
-    if (equals == std::string::npos) return Refuse("--set: \"" + value + "\" is no KEY=VALUE.");
+    if (equals == std::string::npos) return Refuse("--set: \"" + value + "\": expected KEY=VALUE.");
     std::string reason;
     if (!prefs_.SetFromText(value.substr(0, equals), value.substr(equals + 1), &reason)) {
         return Refuse("--set: " + reason);
@@ -43,7 +43,7 @@ CliSession::Outcome CliSession::Set(const std::string& value) {
 
 CliSession::Outcome CliSession::SelectFrame(const std::string& value) {
     int32 number = 0;
-    if (!ParseNumber(value, &number)) return Refuse("--select: \"" + value + "\" is no number.");
+    if (!ParseNumber(value, &number)) return Refuse("--select: \"" + value + "\" is not a number.");
     if (!app_->FrameAt(number)) {
         return Fail(Format("There is no frame %d; the animation has %d frame(s).", number,
                            app_->FrameCount()));
@@ -79,7 +79,7 @@ CliSession::Outcome CliSession::FadeFrames(const std::string& value) {
     if (command == 0 || first == std::string::npos ||
         !ParseNumber(value.substr(first + 1, second - first - 1), &count) ||
         (second < value.size() && !ParseColor(value.substr(second + 1), &color))) {
-        return Refuse("--fade: \"" + value + "\" is no MODE:COUNT[:RRGGBB].");
+        return Refuse("--fade: \"" + value + "\": expected MODE:COUNT[:RRGGBB].");
     }
     if (count < 1 || count > kMaxFadeFrames) {
         return Refuse("Frame count must be between 1 and 100.");
@@ -120,7 +120,7 @@ CliSession::Outcome CliSession::SetPalette(const std::string& value) {
 
 CliSession::Outcome CliSession::SetDither(const std::string& value) {
     if (value != "on" && value != "off") {
-        return Refuse("--dither: \"" + value + "\" is neither on nor off.");
+        return Refuse("--dither: \"" + value + "\": expected on or off.");
     }
     return PostSwitch(kSetDither, value == "on");
 }
@@ -135,7 +135,8 @@ CliSession::Outcome CliSession::SetBackground(const std::string& value) {
 
 CliSession::Outcome CliSession::SetFrameOffset(const std::string& value) {
     const size_t comma = value.find(',');
-    if (comma == std::string::npos) return Refuse("--frame-offset: \"" + value + "\" is not X,Y.");
+    if (comma == std::string::npos)
+        return Refuse("--frame-offset: \"" + value + "\": expected X,Y.");
     if (CheckCurrentFrame() != Outcome::kDone) return Outcome::kFailed;
     const std::string x = value.substr(0, comma);
     const std::string y = value.substr(comma + 1);
@@ -200,9 +201,9 @@ CliSession::Outcome CliSession::PostAlongHistory(uint32 command, const char* ver
 
 CliSession::Outcome CliSession::PrintInfo(const std::string&) {
     const bool for_terminal = isatty(STDOUT_FILENO) != 0;
-    std::fputs(DescribeDocument(*app_->CurrentState(), prefs_.global_pauseinseconds, for_terminal)
-                   .c_str(),
-               stdout);
+    std::fputs(
+        DescribeDocument(*app_->CurrentState(), prefs_.global_pauseinseconds, for_terminal).c_str(),
+        stdout);
     return Outcome::kDone;
 }
 
@@ -244,7 +245,7 @@ CliSession::Outcome CliSession::PostSwitchedNumber(uint32 switch_command, uint32
 CliSession::Outcome CliSession::CheckInput(const Field& field, const std::string& text,
                                            int32* number) {
     if (!ParseNumber(text, number)) {
-        return Refuse(Format("%s: \"%s\" is no whole number.", field.name, text.c_str()));
+        return Refuse(Format("%s: \"%s\" is not a whole number.", field.name, text.c_str()));
     }
     const int32 largest = field.Largest(*app_->Current());
     if (*number < 0) return Refuse(Format("%s can't be less than %d.", field.name, 0));
@@ -257,7 +258,7 @@ CliSession::Outcome CliSession::CheckInput(const Field& field, const std::string
 CliSession::Outcome CliSession::CheckInput(const Field& field, const std::string& text,
                                            double* number) {
     if (!ParseNumber(text, number) || !std::isfinite(*number)) {
-        return Refuse(Format("%s: \"%s\" is no number.", field.name, text.c_str()));
+        return Refuse(Format("%s: \"%s\" is not a number.", field.name, text.c_str()));
     }
     if (*number < 0) return Refuse(Format("%s can't be less than %01.2f.", field.name, 0.0));
     return Outcome::kDone;

@@ -29,7 +29,7 @@ std::string SplitPosition(const std::string& value, int32* position) {
     return value.substr(0, at);
 }
 
-// Takes the text behind the last comma off the value; empty without a comma.
+// Takes the text after the last comma off the value; empty without a comma.
 std::string TakeLastItem(std::string* value) {
     const size_t comma = value->rfind(',');
     if (comma == std::string::npos) return {};
@@ -76,7 +76,7 @@ CliSession::Outcome CliSession::Open(const std::string& value) {
 CliSession::Outcome CliSession::InsertAnimation(const std::string& value) {
     int32 position = -1;
     const std::string path = SplitPosition(value, &position);
-    if (path == value) return Refuse("--insert-animation: \"" + value + "\" is no FILE@N.");
+    if (path == value) return Refuse("--insert-animation: \"" + value + "\": expected FILE@N.");
     if (CheckReadable(path) != Outcome::kDone) return Outcome::kFailed;
     desktop_.SetSubject(path);
     BMessage message(kOpenFile);
@@ -111,7 +111,7 @@ CliSession::Outcome CliSession::InsertTiled(const std::string& value) {
     tiles.rows = TakeLastItem(&path);
     int32 number = 0;
     if (!ParseNumber(tiles.rows, &number) || !ParseNumber(tiles.columns, &number)) {
-        return Refuse("--insert-tiled: \"" + value + "\" is no FILE,ROWS,COLUMNS[,by-column].");
+        return Refuse("--insert-tiled: \"" + value + "\": expected FILE,ROWS,COLUMNS[,by-column].");
     }
     desktop_.SetSubject(path);
     desktop_.SetTiles(tiles);

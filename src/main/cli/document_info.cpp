@@ -81,11 +81,10 @@ std::string DescribeDocument(const DocumentState& document, bool in_seconds, boo
                               animation.width, animation.height, animation.frames.Size(),
                               document.modified ? "modified" : "unmodified");
     text += "loop: " + (animation.use_loop ? std::to_string(animation.loop_count) : "off") +
-            (animation.use_loop && animation.loop_count == 0 ? " (for ever)\n" : "\n");
+            (animation.use_loop && animation.loop_count == 0 ? " (forever)\n" : "\n");
+    text += "pause: " + PauseText(animation.use_pause, animation.pause_length, in_seconds) + "\n";
     text +=
-        "pause: " + PauseText(animation.use_pause, animation.pause_length, in_seconds) + "\n";
-    text +=
-        Format("palette: %s, %d colours, background %d, transparent %s%s\n", KindName(palette.mode),
+        Format("palette: %s, %d colors, background %d, transparent %s%s\n", KindName(palette.mode),
                palette.size, palette.background_index,
                palette.use_transparent ? std::to_string(palette.transparent_index).c_str() : "off",
                palette.dither ? ", dithered" : "");
@@ -94,8 +93,7 @@ std::string DescribeDocument(const DocumentState& document, bool in_seconds, boo
         const std::string pause = PauseText(frame->use_pause, frame->pause_length, in_seconds);
         text += Format("%c %4d  %-24s %d x %d at %d,%d  pause %s  %s\n",
                        index == animation.selected ? '*' : ' ', index, shown(frame->name).c_str(),
-                       frame->width, frame->height, frame->x_offset, frame->y_offset,
-                       pause.c_str(),
+                       frame->width, frame->height, frame->x_offset, frame->y_offset, pause.c_str(),
                        frame->local_palette ? KindName(frame->palette->mode) : "global palette");
         ++index;
     }

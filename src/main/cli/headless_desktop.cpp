@@ -84,7 +84,7 @@ std::string HeadlessDesktop::MimeTypeOf(const std::string& path) {
 void HeadlessDesktop::OpenInBrowser(const std::string& path) {
     ClearProgress();
     if (!RunViewer(path)) {
-        Complain(path + ": The preview is written, but no program to show it was found.");
+        Complain(path + ": The preview was written, but no program to show it was found.");
         failure_ = true;
         return;
     }

@@ -24,7 +24,7 @@ std::optional<int> ParseArguments(int argc, const char* const* argv, EditorArgum
     app.set_help_flag("--help", "Print this help");
     app.get_formatter()->column_width(36);
     app.add_option("--screenshot", arguments->screenshot,
-                   "Write a picture of the window that shows the files, and end")
+                   "Write a picture of the window with the files, and exit")
         ->type_name("PNG");
     app.add_option("files", arguments->files, "Files to open")->type_name("FILE");
     try {

@@ -85,7 +85,7 @@ bool ResourceCompiler::AddFileTypes() {
     BMessage message;
     for (const toml::node& type : *types) {
         const auto text = type.value_exact<std::string>();
-        if (!text) return Fail(manifest_ + ": \"file_types\" holds other things than strings");
+        if (!text) return Fail(manifest_ + ": \"file_types\" may hold strings only");
         message.AddString("types", *text);
     }
     return Add(B_MESSAGE_TYPE, 1, "BEOS:FILE_TYPES", message.Flatten());
@@ -132,7 +132,7 @@ bool ResourceCompiler::AddFlags() {
 bool ResourceCompiler::Add(type_code type, int32 id, std::string_view name,
                            std::vector<uint8> bytes) {
     if (writer_.Add(type, id, name, std::move(bytes)) == B_OK) return true;
-    return Fail(manifest_ + ": \"" + std::string(name) + "\" is no name of a resource");
+    return Fail(manifest_ + ": \"" + std::string(name) + "\" is not a valid resource name");
 }
 
 bool ResourceCompiler::FindText(std::string_view key, std::string* text) {

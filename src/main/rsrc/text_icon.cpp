@@ -76,12 +76,12 @@ std::optional<std::vector<uint8>> ReadTextIcon(std::string_view text, int32 side
     const std::optional<size_t> colors =
         lines.empty() ? std::nullopt : ColorCountOf(lines[0], side);
     if (!colors || *colors > 256 || lines.size() != 1 + *colors + rows) {
-        *error = Format("no XPM image of %d x %d with one character a pixel", side, side);
+        *error = Format("not an XPM image of %d x %d with one character per pixel", side, side);
         return std::nullopt;
     }
     Legend legend;
     if (!ReadLegend(lines, *colors, &legend)) {
-        *error = R"(a colour that is neither "X c #RRGGBB" nor "X c None")";
+        *error = R"(a color that is neither "X c #RRGGBB" nor "X c None")";
         return std::nullopt;
     }
     std::vector<uint8> pixels;
@@ -92,7 +92,7 @@ std::optional<std::vector<uint8>> ReadTextIcon(std::string_view text, int32 side
             if (index) pixels.push_back(*index);
         }
         if (line.size() != rows || pixels.size() != (row + 1) * rows) {
-            *error = Format("row %zu has other than %d known characters", row, side);
+            *error = Format("row %zu does not have exactly %d known characters", row, side);
             return std::nullopt;
         }
     }

@@ -1,5 +1,5 @@
 // TIFF images with straight alpha, read through libtiff. Qt's reader goes by way of premultiplied
-// pixels, and there the colours of nearly transparent pixels are lost.
+// pixels, and there the colors of nearly transparent pixels are lost.
 #pragma once
 
 #include <memory>
