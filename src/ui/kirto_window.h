@@ -6,8 +6,12 @@
 #include "platform/qt/gui_port.h"
 #include "platform/rect.h"
 #include "platform/window.h"
-#include "ui/shown_document.h"
 #include "ui/editor.h"
+#include "ui/shown_document.h"
+
+namespace kirto {
+class TextControl;
+}
 
 class FrameListView;
 class GlobalView;
@@ -22,7 +26,8 @@ class ThumbnailView;
 
 // The main window: menus and panels around the frames. It turns choices and edits into commands for
 // the application, after checking what was typed, and shows the document again when the application
-// says that it changed. What it shows is the document's state at one moment, which never changes. GUI thread.
+// says that it changed. What it shows is the document's state at one moment, which never changes.
+// GUI thread.
 class KirtoWindow : public QMainWindow, public BWindow {
   public:
     // frame: the window's place on the screen, without its decoration. Not shown yet.
@@ -79,8 +84,11 @@ class KirtoWindow : public QMainWindow, public BWindow {
     void ChooseCommand(uint32 command);
     // Sends the command of the field that is being edited; true when there was one.
     bool CommitEdit();
+    // The field that is being edited, or null.
+    kirto::TextControl* EditedField() const;
+    void ShowHistory();
     bool HasUnsavedChanges();
-    void ApplyPreset();
+    void ApplyPreset(uint32 preset);
     void SaveOrAsk();
     void ShowSavePanel();
     void StartNew();
@@ -130,7 +138,6 @@ class KirtoWindow : public QMainWindow, public BWindow {
     std::shared_ptr<kirto::GuiPort> port_;
     kirto::ShownDocument shown_;
     uint32 pending_command_ = 0;
-    uint32 preset_ = 0;  // the preset height to be set as soon as there are frames
     bool may_close_ = false;
 
     GlobalView* global_view_ = nullptr;
