@@ -180,6 +180,8 @@ TEST_F(KirtoWindowDocument, UnticksDitherTogetherWithTheDocument) {
         return document.Current()->palette->mode == kPaletteGreyscale &&
                !document.Current()->palette->dither;
     }));
+    ASSERT_TRUE(
+        WaitFor([&] { return Window().Shown().Current().palette->mode == kPaletteGreyscale; }));
     EXPECT_FALSE(Find<QCheckBox>("PaletteView", "Dither").isChecked());
 }
 
