@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QLayout>
+#include <QLineEdit>
 #include <QMimeData>
 #include <QScreen>
 #include <QScrollArea>
@@ -92,6 +93,11 @@ void KirtoWindow::MakePanels() {
     kirto::Editor editor = editor_;
     editor.application = window;
     thumbnail_view_ = new ThumbnailView(shown_, editor, window);
+    for (QWidget* panel :
+         std::initializer_list<QWidget*>{global_view_, palette_view_, local_view_}) {
+        for (const QLineEdit* field : panel->findChildren<QLineEdit*>())
+            connect(field, &QLineEdit::textEdited, this, [this] { ShowHistory(); });
+    }
 }
 
 // The panels in a column at the left that scrolls when the window is low, the frames in all the
@@ -188,6 +194,7 @@ void KirtoWindow::ResetDisplay() {
     thumbnail_view_->ResetDisplay();
     frame_list_view_->ResetDisplay();
     status_view_->ResetDisplay();
+    ShowHistory();
     kirto::EnableFrameItems(*menuBar(), false);
 }
 
@@ -214,9 +221,14 @@ void KirtoWindow::ShowParts(uint32 parts) {
         frame_list_view_->UpdateDisplay();
     }
     if (parts & kStatus) status_view_->UpdateDisplay();
-    kirto::ShowHistory(*menuBar(), shown_.State().undo_name, shown_.State().redo_name);
+    ShowHistory();
     kirto::EnableFrameItems(*menuBar(), !shown_.Frames().Empty());
-    ApplyPreset();
+}
+
+// What is being typed becomes an edit as soon as it is to be undone.
+void KirtoWindow::ShowHistory() {
+    kirto::ShowHistory(*menuBar(), shown_.State().undo_name, shown_.State().redo_name);
+    if (EditedField()) kirto::EnableUndo(*menuBar());
 }
 
 bool KirtoWindow::ShowsFrameList() const {
@@ -245,8 +257,8 @@ void KirtoWindow::ShowPreferences(const char* tab) {
     QWidget* dialog = QApplication::activeModalWidget();
     QWidget* parent = dialog ? dialog : this;
     if (!preferences_window_) {
-        preferences_window_ =
-            new PreferencesWindow(editor_, shown_.Settings(), parent, [this] { return ScreenPlace(); });
+        preferences_window_ = new PreferencesWindow(editor_, shown_.Settings(), parent,
+                                                    [this] { return ScreenPlace(); });
         preferences_window_->Show();
     } else if (preferences_window_->parentWidget() != parent) {
         preferences_window_->setParent(parent, preferences_window_->windowFlags());
@@ -285,10 +297,15 @@ bool KirtoWindow::HasUnsavedChanges() {
     return editor_.document.HasUnsavedChanges();
 }
 
+kirto::TextControl* KirtoWindow::EditedField() const {
+    auto* field = dynamic_cast<kirto::TextControl*>(focusWidget());
+    return field && field->IsBeingEdited() ? field : nullptr;
+}
+
 // A field holds what was typed until it is left; a command of the keyboard leaves nothing.
 bool KirtoWindow::CommitEdit() {
-    auto* field = dynamic_cast<kirto::TextControl*>(focusWidget());
-    if (!field || !field->IsBeingEdited()) return false;
+    kirto::TextControl* field = EditedField();
+    if (!field) return false;
     field->Commit();
     return true;
 }

@@ -9,6 +9,10 @@
 #include "ui/editor.h"
 #include "ui/shown_document.h"
 
+namespace kirto {
+class TextControl;
+}
+
 class FrameListView;
 class GlobalView;
 class LocalView;
@@ -80,8 +84,11 @@ class KirtoWindow : public QMainWindow, public BWindow {
     void ChooseCommand(uint32 command);
     // Sends the command of the field that is being edited; true when there was one.
     bool CommitEdit();
+    // The field that is being edited, or null.
+    kirto::TextControl* EditedField() const;
+    void ShowHistory();
     bool HasUnsavedChanges();
-    void ApplyPreset();
+    void ApplyPreset(uint32 preset);
     void SaveOrAsk();
     void ShowSavePanel();
     void StartNew();
@@ -131,7 +138,6 @@ class KirtoWindow : public QMainWindow, public BWindow {
     std::shared_ptr<kirto::GuiPort> port_;
     kirto::ShownDocument shown_;
     uint32 pending_command_ = 0;
-    uint32 preset_ = 0;  // the preset height to be set as soon as there are frames
     bool may_close_ = false;
 
     GlobalView* global_view_ = nullptr;

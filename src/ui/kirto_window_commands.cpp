@@ -342,13 +342,11 @@ void KirtoWindow::SlideThumbnails(BMessage*) {
 
 void KirtoWindow::PresetThumbnails(BMessage* message) {
     // The command may be ahead of the frames that the window knows.
-    preset_ = message->what;
     Refresh(kFrames);
+    ApplyPreset(message->what);
 }
 
-void KirtoWindow::ApplyPreset() {
-    const uint32 preset = std::exchange(preset_, 0);
-    if (preset == 0) return;
+void KirtoWindow::ApplyPreset(uint32 preset) {
     if (preset == kirto::kThumbnailPreset) {
         SetThumbnailHeight(shown_.Settings().thumbnail_heightvalue);
         return;

@@ -108,6 +108,10 @@ void ShowHistory(QMenuBar& menu_bar, const std::string& undo_name, const std::st
     NameEdit(menu_bar, "Redo", redo_name);
 }
 
+void EnableUndo(QMenuBar& menu_bar) {
+    menu_bar.findChild<QAction*>("Undo")->setEnabled(true);
+}
+
 void EnableFrameItems(QMenuBar& menu_bar, bool enable) {
     for (const QMenu* menu : menu_bar.findChildren<QMenu*>()) {
         for (QAction* action : menu->actions()) {

@@ -18,6 +18,9 @@ QMenuBar* MakeMainMenu(QWidget* parent, const MenuCommand& choose);
 // Names the edits in "Undo" and "Redo"; disables the item if the name is empty.
 void ShowHistory(QMenuBar& menu_bar, const std::string& undo_name, const std::string& redo_name);
 
+// Enables "Undo" for an edit that is not in the history yet.
+void EnableUndo(QMenuBar& menu_bar);
+
 // Enables the items that need a frame, or disables them.
 void EnableFrameItems(QMenuBar& menu_bar, bool enable);
 

@@ -180,6 +180,8 @@ TEST_F(KirtoWindowDocument, UnticksDitherTogetherWithTheDocument) {
         return document.Current()->palette->mode == kPaletteGreyscale &&
                !document.Current()->palette->dither;
     }));
+    ASSERT_TRUE(
+        WaitFor([&] { return Window().Shown().Current().palette->mode == kPaletteGreyscale; }));
     EXPECT_FALSE(Find<QCheckBox>("PaletteView", "Dither").isChecked());
 }
 
@@ -249,6 +251,19 @@ TEST_F(KirtoWindowDocument, TakesOverWhatIsTypedBeforeAShortcutUndoesIt) {
 
     Press(Qt::Key_Y, Qt::ControlModifier);
     EXPECT_TRUE(Becomes([](const Kirto& document) { return document.Current()->width == 77; }));
+}
+
+TEST_F(KirtoWindowDocument, UndoesTheVeryFirstEditWhileItIsBeingTyped) {
+    const QString before = Find<TextControl>("GlobalView", "Width").text();
+    Type("GlobalView", "Width", "77");
+    Window().UpdateDisplay();
+
+    Press(Qt::Key_Z, Qt::ControlModifier);
+
+    EXPECT_TRUE(WaitFor([&] { return Window().Shown().State().redo_name == "Change Width"; }));
+    EXPECT_EQ(Find<TextControl>("GlobalView", "Width").text(), before);
+    EXPECT_TRUE(StatusBecomes("Status: 3 frame(s), unmodified"));
+    EXPECT_FALSE(Window().menuBar()->findChild<QAction*>("Undo")->isEnabled());
 }
 
 TEST_F(KirtoWindowDocument, EmptiesTheDocumentWithNew) {

@@ -218,6 +218,9 @@ TEST_F(KirtoWindowTest, NamesTheEditsThatCanBeUndoneAndRedone) {
     Do(kUpdateAll);
     EXPECT_FALSE(IsEnabled("Undo"));
     EXPECT_TRUE(IsEnabled("Redo Insert Frame"));
+
+    window->ResetDisplay();
+    EXPECT_FALSE(IsEnabled("Redo"));
 }
 
 TEST_F(KirtoWindowTest, ResetsAllPanelsToTheSettingsDefaults) {

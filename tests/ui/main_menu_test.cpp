@@ -89,6 +89,17 @@ TEST_F(MainMenu, NamesTheEditsThatCanBeUndoneAndRedoneAndDisablesWhatHasNone) {
     expect("Undo", "Redo");
 }
 
+TEST_F(MainMenu, EnablesUndoForAnEditThatTheHistoryDoesNotHaveYet) {
+    const QAction* undo = MenuAt(1).actions().at(0);
+
+    EnableUndo(*bar);
+    EXPECT_TRUE(undo->isEnabled());
+    EXPECT_EQ(undo->text(), "&Undo");
+
+    ShowHistory(*bar, "", "");
+    EXPECT_FALSE(undo->isEnabled());
+}
+
 TEST_F(MainMenu, HasTheItemsOfTheViewMenu) {
     EnableFrameItems(*bar, true);
 
