@@ -94,7 +94,8 @@ TEST_F(QtTranslatorRosterTest, ReadsSixteenBitsAChannelWithinABudgetOfEight) {
     QImage image(1000, 1000, QImage::Format_RGBA64);
     image.fill(Qt::red);
 
-    const Reading reading = Read(FileOf(image, "png"), std::make_shared<PixelBudget>(4000000));
+    const auto budget = std::make_shared<PixelBudget>(4000000 + PixelBudget::kFrameCost);
+    const Reading reading = Read(FileOf(image, "png"), budget);
 
     ASSERT_EQ(reading.status, B_OK);
     EXPECT_EQ(reading.Argb().back(), 0xFFFF0000);

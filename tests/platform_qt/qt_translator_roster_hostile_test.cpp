@@ -26,15 +26,16 @@ TEST_F(QtTranslatorRosterTest, AllowsPicturesOverQtsOwnCeiling) {
 }
 
 TEST_F(QtTranslatorRosterTest, ReadsExactlyWhatTheBudgetAllows) {
+    constexpr uint64 kNeeded = 400 + PixelBudget::kFrameCost;
     const auto picture = PictureOf(10, 10, Pixels(100, 0xFF336699));
     for (const char* extension : {"png", "jpg", "webp", "tiff", "bmp", "tga", "ppm", "ico"}) {
         if (!Writes(extension)) continue;
         const Bytes file = Write(extension, *picture);
-        const auto enough = std::make_shared<PixelBudget>(400);
-        const auto too_small = std::make_shared<PixelBudget>(399);
+        const auto enough = std::make_shared<PixelBudget>(kNeeded);
+        const auto too_small = std::make_shared<PixelBudget>(kNeeded - 1);
         const Reading reading = Read(file, enough);
         EXPECT_EQ(reading.status, B_OK) << extension;
-        EXPECT_EQ(enough->Used(), 400U) << extension;
+        EXPECT_EQ(enough->Used(), kNeeded) << extension;
         EXPECT_EQ(Read(file, enough).status, B_NO_MEMORY) << extension;
         EXPECT_EQ(Read(file, too_small).status, B_NO_MEMORY) << extension;
         EXPECT_EQ(too_small->Used(), 0U) << extension;
