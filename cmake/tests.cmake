@@ -56,13 +56,14 @@ function(kirto_test_program target)
     endif()
 endfunction()
 
-# kirto_test(NAME SOURCES ... DEPENDS ... [SHARDS n] [THREADED ...] [EACH]): one GoogleTest program.
-# CTest starts it SHARDS times, each time for another part of its cases, so that they share the cores
-# without a process a case. With EACH every case is a test of CTest, which then tells which were skipped.
-# THREADED names the sources that ThreadSanitizer has something to see in, or is ALL; in its build the
-# other sources are left out, and so are programs without any.
+# kirto_test(NAME SOURCES ... DEPENDS ... [SHARDS n] [EACH] [QT_HEADERS] [THREADED ...]): one
+# GoogleTest program. CTest starts it once, not once a case; a program whose cases take long is started
+# SHARDS times, each time for another part of them, side by side. With EACH every case is a test of
+# CTest, which then tells which of them were skipped. QT_HEADERS is for programs with many files that
+# include widgets. THREADED names the sources that ThreadSanitizer has something to see in, or is ALL; in
+# its build the other sources are left out, and so are programs without any.
 function(kirto_test name)
-    cmake_parse_arguments(ARG "EACH" "SHARDS" "SOURCES;DEPENDS;THREADED" ${ARGN})
+    cmake_parse_arguments(ARG "EACH;QT_HEADERS" "SHARDS" "SOURCES;DEPENDS;THREADED" ${ARGN})
     if(KIRTO_SANITIZE MATCHES "thread" AND NOT ARG_THREADED STREQUAL "ALL")
         set(ARG_SOURCES ${ARG_THREADED})
     endif()
@@ -73,7 +74,7 @@ function(kirto_test name)
     target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
     target_link_libraries(${name} PRIVATE
         ${ARG_DEPENDS} kirto_test_support kirto_test_flags GTest::gmock GTest::gtest_main)
-    if("Qt6::Test" IN_LIST ARG_DEPENDS)
+    if(ARG_QT_HEADERS)
         target_precompile_headers(${name} PRIVATE ${kirto_test_headers} ${kirto_qt_headers})
     else()
         target_precompile_headers(${name} REUSE_FROM kirto_test_support)
@@ -90,8 +91,11 @@ function(kirto_test name)
     endif()
     math(EXPR last "${ARG_SHARDS} - 1")
     foreach(shard RANGE ${last})
-        math(EXPR number "${shard} + 1")
-        set(test ${name}.${number}of${ARG_SHARDS})
+        set(test ${name})
+        if(ARG_SHARDS GREATER 1)
+            math(EXPR number "${shard} + 1")
+            string(APPEND test ".${number}of${ARG_SHARDS}")
+        endif()
         add_test(NAME ${test} COMMAND ${name})
         set_tests_properties(${test} PROPERTIES
             ENVIRONMENT "GTEST_TOTAL_SHARDS=${ARG_SHARDS};GTEST_SHARD_INDEX=${shard}"
