@@ -38,7 +38,7 @@ class History {
     std::string RedoName() const;
 
     // The document is saved as it is now; and whether it stands where it was saved last.
-    void MarkSaved() { saved_ = done_; }
+    void MarkSaved() { saved_ = static_cast<std::ptrdiff_t>(done_); }
     bool IsAtSaved() const { return saved_ == static_cast<std::ptrdiff_t>(done_); }
 
     // Forgets everything; the document counts as saved.
