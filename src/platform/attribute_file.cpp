@@ -11,11 +11,11 @@
 #include <filesystem>
 #include <limits>
 #include <memory>
-#include <sys/stat.h>
 #include <toml++/toml.h>
 #include <unistd.h>
 
 #include "platform/debug_line.h"
+#include "platform/directories.h"
 #include "platform/file.h"
 #include "platform/rect.h"
 #include "platform/text.h"
@@ -270,19 +270,6 @@ bool ReadTable(const toml::table& table, AttributeFile::Attributes* attributes,
 
 // --- Files
 
-// Makes the folders above path that are missing, for the user only. Where that fails, making the
-// file fails too and tells why.
-void MakeFoldersAbove(const std::string& path) {
-    const std::filesystem::path folder = std::filesystem::path(path).parent_path();
-    std::error_code ignored;
-    if (std::filesystem::is_directory(folder, ignored)) return;
-    std::filesystem::path made;
-    for (const std::filesystem::path& part : folder) {
-        made /= part;
-        mkdir(made.c_str(), 0700);
-    }
-}
-
 // Renames the file to a free name beside it and returns that; empty on failure. Behind a symbolic
 // link it is the file that moves.
 std::string MoveAside(const std::string& path) {
@@ -308,7 +295,7 @@ std::string MoveAside(const std::string& path) {
 }  // namespace kirto
 
 AttributeFile::AttributeFile(const std::string& path) : path_(path) {
-    kirto::MakeFoldersAbove(path_);
+    kirto::MakeFolders(std::filesystem::path(path_).parent_path());
     status_ = Load();
 }
 

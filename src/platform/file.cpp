@@ -94,7 +94,7 @@ int WithUniqueName(std::string* name, Action action) {
     for (int attempt = 0; attempt < kMaxNameAttempts; ++attempt) {
         unsigned long long number = 0;
         if (getrandom(&number, sizeof(number), 0) != sizeof(number)) return -1;
-        *name = kirto::Format(".kirto-%016llx", number);
+        *name = kirto::Format("%s%016llx", BFile::kTemporaryPrefix, number);
         const int result = action(name->c_str());
         if (result >= 0 || errno != EEXIST) return result;
     }

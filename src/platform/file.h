@@ -23,6 +23,10 @@ enum seek_mode : int32 {
 // target's place only when Commit() succeeds; and bytes in memory.
 class BFile {
   public:
+    // What the names of files start with that are written beside their target, where the file
+    // system has no files without a name.
+    static constexpr const char* kTemporaryPrefix = ".kirto-";
+
     // Opens an existing file for reading. Folders and other things that are no regular files are
     // refused with B_NOT_ALLOWED.
     BFile(const std::string& path, open_mode mode);
