@@ -51,9 +51,7 @@ bool RecoveryBlockReader::Open() {
         return Fail(B_BAD_DATA, "the file is cut off");
     }
     ByteReader fields(header);
-    kind_ = 0;
-    for (int i = 0; i < 4; ++i)
-        kind_ = kind_ << 8 | fields.U8();
+    kind_ = fields.U32();
     left_ = fields.U64();
     stored_left_ = fields.U64();
     if (stored_left_ > static_cast<uint64>(file_.Size() - file_.Position())) {

@@ -56,8 +56,8 @@ status_t RecoveryBlockWriter::Write(uint32 kind, std::span<const uint8> first,
 
 void RecoveryBlockWriter::WriteHeader(uint32 kind, uint64 length, uint64 stored) {
     std::array<uint8, kRecoveryBlockHeader> header;
-    for (size_t i = 0; i < 4; ++i)
-        header[i] = static_cast<uint8>(kind >> (24 - 8 * i));
+    WriteLittle16(&header[0], kind);
+    WriteLittle16(&header[2], kind >> 16);
     WriteLittle64(&header[4], length);
     WriteLittle64(&header[12], stored);
     file_.Write(header.data(), header.size());

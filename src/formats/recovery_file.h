@@ -35,11 +35,11 @@ bool IsRecoverable(const Frame& frame);
 inline constexpr std::string_view kRecoveryMagic = "KirtoRcv";
 inline constexpr uint32 kRecoveryVersion = 1;
 
-// Blocks, each by the four characters that it starts with.
-inline constexpr uint32 kRecoveryHead = FourCharCode("HEAD");
-inline constexpr uint32 kRecoveryPalette = FourCharCode("PALT");
-inline constexpr uint32 kRecoveryPicture = FourCharCode("PICT");
-inline constexpr uint32 kRecoveryFrame = FourCharCode("FRAM");
+// The kinds of blocks.
+inline constexpr uint32 kRecoveryHead = 1;
+inline constexpr uint32 kRecoveryPalette = 2;
+inline constexpr uint32 kRecoveryPicture = 3;
+inline constexpr uint32 kRecoveryFrame = 4;
 
 // The ceilings on what a file may ask memory for, besides the pixels, which the budget counts.
 inline constexpr int32 kMaxRecoveryFrames = int32{1} << 18;

@@ -59,6 +59,9 @@ std::optional<RecoveryDocument> RecoveryFileReader::ReadDocument(
     } catch (const std::bad_alloc&) {
         OutOfMemory();
     }
+    // Gives the budget back what had been read.
+    document_ = {};
+    pictures_.clear();
     return std::nullopt;
 }
 

@@ -181,8 +181,7 @@ TEST(RecoveryFileReader, RefusesMoreBlocksThanFramesCanUse) {
 }
 
 TEST(RecoveryFileReader, RefusesBlocksOfOtherKinds) {
-    EXPECT_EQ(RefusalWith(&HostileFile::frame_kind, FourCharCode("OTHR")),
-              "a block is of no known kind");
+    EXPECT_EQ(RefusalWith(&HostileFile::frame_kind, uint32{5}), "a block is of no known kind");
     EXPECT_EQ(RefusalWith(&HostileFile::frame_kind, kRecoveryHead), "a block is of no known kind");
 }
 

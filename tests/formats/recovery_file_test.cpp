@@ -260,6 +260,18 @@ TEST(RecoveryFile, IsRefusedWhereTheBudgetDoesNotSuffice) {
     EXPECT_TRUE(Read(bytes, budget).document);
 }
 
+TEST(RecoveryFile, AReaderThatFailedKeepsNoPictures) {
+    std::vector<uint8> bytes = Written(StateOf(SmallAnimation()));
+    bytes.pop_back();
+    const auto file = BFile::OnMemory(bytes);
+    RecoveryFileReader reader(*file);
+    const auto budget = std::make_shared<PixelBudget>();
+
+    EXPECT_FALSE(reader.ReadDocument(budget));
+
+    EXPECT_EQ(budget->Used(), 0u);
+}
+
 TEST(RecoveryFile, ReadingReportsEachFailedAllocation) {
     const Animation animation = SmallAnimation();
     const std::vector<uint8> bytes = Written(StateOf(animation));
