@@ -51,7 +51,7 @@ class History {
     static constexpr std::ptrdiff_t kNever = -1;
 
     std::deque<Step> steps_;
-    size_t done_ = 0;            // so many of them are made, the others are undone
+    size_t done_ = 0;           // so many of them are made, the others are undone
     std::ptrdiff_t saved_ = 0;  // so many were made at the last save; kNever: none of those left
 };
 
