@@ -74,7 +74,9 @@ int RunEditor(const kirto::EditorArguments& arguments) {
     std::thread loop([&application, &agreed] {
         application.Loop();
         agreed = true;
-        QMetaObject::invokeMethod(qApp, &QApplication::quit, Qt::QueuedConnection);
+        // Quitting would ask the main window again.
+        QMetaObject::invokeMethod(
+            qApp, [] { QApplication::exit(); }, Qt::QueuedConnection);
     });
     QApplication::exec();
     // A desktop that ends its programs has not asked whether the document may go.
