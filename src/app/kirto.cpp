@@ -56,6 +56,9 @@ const Kirto::Command* Kirto::CommandFor(uint32 code) {
         {kirto::kSaveFile, save, kNothing},
         {kirto::kSaveAgain, save_again, kNothing},
         {kirto::kResetDocument, [](Kirto& app, BMessage*) { app.StartAnew(); }, kNothing, kEdit},
+        {kirto::kOfferRecovery, [](Kirto& app, BMessage*) { app.OfferRecovery(); }, kNothing},
+        {kirto::kRecover, [](Kirto& app, BMessage* message) { app.Recover(message); }, kUpdateAll,
+         kInsertion},
         {kirto::kSelectFrame, [](Kirto& app, BMessage* message) { app.SelectFrame(message); },
          kNothing},
         {kirto::kRemoveFrame, [](Kirto& app, BMessage*) { app.RemoveFrame(); }, kUpdateFrames,
@@ -204,13 +207,15 @@ bool Kirto::Cancel(BMessage* message) {
 }
 
 void Kirto::StartAnew() {
-    {
-        const std::lock_guard lock(panels_mutex_);
-        const auto panel = panels_.find(kirto::FilePanelKind::kSave);
-        if (panel != panels_.end()) panel->second->ForgetOutputFormat();
-    }
+    ForgetOutputFormat();
     StartHistory();
     Reset();
+}
+
+void Kirto::ForgetOutputFormat() {
+    const std::lock_guard lock(panels_mutex_);
+    const auto panel = panels_.find(kirto::FilePanelKind::kSave);
+    if (panel != panels_.end()) panel->second->ForgetOutputFormat();
 }
 
 void Kirto::SelectFrame(BMessage* message) {

@@ -14,6 +14,10 @@
 #include "platform/file_stamp.h"
 #include "platform/translator_roster.h"
 
+namespace kirto {
+class CrashRecovery;
+}
+
 // The application object, and at the same time the one open document. It is driven by messages:
 // each command is looked up in a table and carried out on the application's own thread, in the
 // order of arrival; refresh commands go back to the main window. The work itself is done by the
@@ -73,6 +77,14 @@ class Kirto : public IEApplication, public AnimationDocument, public kirto::File
     // One of the four fade commands.
     void Fade(BMessage* message);
 
+    // Where documents that other editors have left come from; it outlives the application. Without
+    // it the two below do nothing. Called before the loop.
+    void UseRecovery(kirto::CrashRecovery& recovery) { recovery_ = &recovery; }
+    // Asks what is to become of those documents.
+    void OfferRecovery();
+    // Puts such a document in the current one's place, unless that has unsaved changes.
+    void Recover(BMessage* message);
+
     kirto::FilePanel* GetPanel(kirto::FilePanelKind kind) override;
     kirto::FilePanel* GetOpenFilePanel() { return GetPanel(kirto::FilePanelKind::kOpen); }
     kirto::FilePanel* GetInsertFilePanel() { return GetPanel(kirto::FilePanelKind::kInsert); }
@@ -95,6 +107,7 @@ class Kirto : public IEApplication, public AnimationDocument, public kirto::File
     BRect MainWindowFrame();
     // Empties the document; the next one is saved as animated GIF until told otherwise.
     void StartAnew();
+    void ForgetOutputFormat();
     bool LoadAwaitedPalette(const std::string& path);
     bool EditAwaitedPalette(const std::function<void(Palette&)>& edit);
     void SelectFrame(BMessage* message);
@@ -114,6 +127,7 @@ class Kirto : public IEApplication, public AnimationDocument, public kirto::File
 
     kirto::Desktop& desktop_;
     BTranslatorRoster& roster_;
+    kirto::CrashRecovery* recovery_ = nullptr;
     const std::shared_ptr<kirto::MessagePort> commands_;
     std::mutex panels_mutex_;
     std::map<kirto::FilePanelKind, std::unique_ptr<kirto::FilePanel>> panels_;  // guarded by it

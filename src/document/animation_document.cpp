@@ -48,11 +48,15 @@ bool AnimationDocument::HasUnsavedChanges() const {
 }
 
 void AnimationDocument::Publish(kirto::DocumentState next) {
+    const auto published = std::make_shared<const kirto::DocumentState>(std::move(next));
     // Declared first: what was published before goes when nobody is locked out.
-    auto published = std::make_shared<const kirto::DocumentState>(std::move(next));
-    const kirto::WriterScope writer(*this);
-    const std::lock_guard lock(state_mutex_);
-    state_.swap(published);
+    std::shared_ptr<const kirto::DocumentState> replaced = published;
+    {
+        const kirto::WriterScope writer(*this);
+        const std::lock_guard lock(state_mutex_);
+        state_.swap(replaced);
+    }
+    if (observer_) observer_(published);
 }
 
 void AnimationDocument::Commit(kirto::Animation next) {
@@ -76,6 +80,20 @@ void AnimationDocument::SetFile(const std::string& directory, const std::string&
     ChangeState([&](kirto::DocumentState& state) {
         state.file_directory = directory;
         state.file_name = kirto::CutUtf8(name, kirto::kMaxFileNameBytes);
+    });
+}
+
+void AnimationDocument::Restore(kirto::Animation animation, const std::string& directory,
+                                const std::string& name) {
+    before_step_.reset();
+    history_.Clear();
+    history_.ForgetSaved();
+    ChangeState([&](kirto::DocumentState& state) {
+        state.animation = std::make_shared<const kirto::Animation>(std::move(animation));
+        state.file_directory = directory;
+        state.file_name = kirto::CutUtf8(name, kirto::kMaxFileNameBytes);
+        state.modified = true;
+        AddHistory(state);
     });
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <atomic>
+#include <functional>
 #include <memory>
 #include <mutex>
 #include <optional>
@@ -43,6 +44,10 @@ class AnimationDocument : public DocumentLock {
     kirto::FramePointer CurrentFrame() const { return Current()->CurrentFrame(); }
     int32 Selected() const { return Current()->selected; }
     bool Modified() const { return CurrentState()->modified; }
+    // Whom to hand each new state to, on the application's thread; null for nobody. Set while the
+    // application's loop does not run.
+    using Observer = std::function<void(const std::shared_ptr<const kirto::DocumentState>&)>;
+    void SetObserver(Observer observer) { observer_ = std::move(observer); }
     // True when there are unsaved changes, made or pending. An animation without frames has nothing
     // to lose, but pending frames count already.
     bool HasUnsavedChanges() const;
@@ -63,6 +68,9 @@ class AnimationDocument : public DocumentLock {
     void SetModified(bool changed);
     // The name is cut at a whole UTF-8 character where it is too long.
     void SetFile(const std::string& directory, const std::string& name);
+    // Puts a document that was never saved like this in place of the current one: it is modified,
+    // and stays so whatever is undone. A new history.
+    void Restore(kirto::Animation animation, const std::string& directory, const std::string& name);
     // Publishes the current settings as part of the state.
     void PublishSettings();
 
@@ -130,6 +138,7 @@ class AnimationDocument : public DocumentLock {
     }
 
     std::atomic<bool> stop_requested_ = false;
+    Observer observer_;
     kirto::History history_;
     std::optional<kirto::Moment> before_step_;  // while a step is being made
     mutable std::mutex state_mutex_;            // held for as long as a pointer is copied

@@ -37,6 +37,11 @@ inline constexpr uint32 kInsertTiledFile = FourCharCode("aitp");
 // Save panel to application. Int64 "translator_id", ref "directory", string "name".
 inline constexpr uint32 kSaveFile = FourCharCode("asfp");
 
+// The program's start to application: offer what another editor has left. No fields. The application
+// to itself: recover that. String "path".
+inline constexpr uint32 kOfferRecovery = FourCharCode("aorc");
+inline constexpr uint32 kRecover = FourCharCode("arcv");
+
 // Main window to application. No fields but those named.
 inline constexpr uint32 kSaveAgain = FourCharCode("asav");  // to the current file
 inline constexpr uint32 kResetDocument = FourCharCode("arst");

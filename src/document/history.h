@@ -46,6 +46,8 @@ class History {
 
     // Forgets everything; the document counts as saved.
     void Clear();
+    // The document has a saved state no longer, or never had one.
+    void ForgetSaved() { saved_.reset(); }
     // Forgets the oldest step, or, when none can be undone, the last that could be redone. Returns
     // false when there is nothing to forget.
     bool DropOne();

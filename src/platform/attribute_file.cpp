@@ -5,10 +5,10 @@
 #include <filesystem>
 #include <memory>
 #include <new>
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include "platform/debug_line.h"
+#include "platform/directories.h"
 #include "platform/file.h"
 #include "platform/text.h"
 
@@ -18,19 +18,6 @@ namespace {
 
 constexpr size_t kMaxFileSize = size_t{1024} * 1024;
 constexpr int kMaxDamagedCopies = 1000;
-
-// Makes the folders above path that are missing, for the user only. Where that fails, making the
-// file fails too and tells why.
-void MakeFoldersAbove(const std::string& path) {
-    const std::filesystem::path folder = std::filesystem::path(path).parent_path();
-    std::error_code ignored;
-    if (std::filesystem::is_directory(folder, ignored)) return;
-    std::filesystem::path made;
-    for (const std::filesystem::path& part : folder) {
-        made /= part;
-        mkdir(made.c_str(), 0700);
-    }
-}
 
 // Renames the file to a free name beside it and returns that; empty on failure. Behind a symbolic
 // link it is the file that moves.
@@ -57,7 +44,7 @@ std::string MoveAside(const std::string& path) {
 }  // namespace kirto
 
 AttributeFile::AttributeFile(const std::string& path) : path_(path) {
-    kirto::MakeFoldersAbove(path_);
+    kirto::MakeFolders(std::filesystem::path(path_).parent_path());
     status_ = Load();
 }
 

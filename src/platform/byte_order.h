@@ -14,6 +14,11 @@ inline uint32 ReadLittle32(const uint8* bytes) {
     return high << 16 | ReadLittle16(bytes);
 }
 
+inline uint64 ReadLittle64(const uint8* bytes) {
+    const uint64 high = ReadLittle32(bytes + 4);
+    return high << 32 | ReadLittle32(bytes);
+}
+
 // Stores the low 16 bits.
 inline void WriteLittle16(uint8* bytes, int64 value) {
     bytes[0] = static_cast<uint8>(value);

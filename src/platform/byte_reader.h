@@ -1,5 +1,6 @@
 #pragma once
 
+#include <bit>
 #include <span>
 
 #include "platform/byte_order.h"
@@ -36,6 +37,16 @@ class ByteReader {
         position_ += 4;
         return value;
     }
+    int32 S32() { return static_cast<int32>(U32()); }
+    uint64 U64() {
+        if (!Need(8)) return 0;
+        const uint64 value = ReadLittle64(&bytes_[position_]);
+        position_ += 8;
+        return value;
+    }
+    int64 S64() { return static_cast<int64>(U64()); }
+    float F32() { return std::bit_cast<float>(U32()); }
+    double F64() { return std::bit_cast<double>(U64()); }
     // The next count bytes where they lie in the buffer; empty when there are fewer.
     std::span<const uint8> Bytes(size_t count) {
         if (!Need(count)) return {};

@@ -6,7 +6,6 @@
 #include <ctime>
 #include <dirent.h>
 #include <fcntl.h>
-#include <string_view>
 #include <sys/random.h>
 #include <sys/stat.h>
 #include <sys/xattr.h>
@@ -19,7 +18,6 @@ namespace kirto {
 
 namespace {
 
-constexpr std::string_view kPrefix = ".kirto-";
 constexpr size_t kDigits = 16;
 constexpr int kMaxNameAttempts = 100;
 constexpr time_t kStaleSeconds = 3600;
@@ -30,7 +28,7 @@ int WithUniqueName(std::string* name, Action action) {
     for (int attempt = 0; attempt < kMaxNameAttempts; ++attempt) {
         unsigned long long number = 0;
         if (getrandom(&number, sizeof(number), 0) != sizeof(number)) return -1;
-        *name = Format("%s%016llx", kPrefix.data(), number);
+        *name = Format("%s%016llx", kTemporaryPrefix.data(), number);
         const int result = action(name->c_str());
         if (result >= 0 || errno != EEXIST) return result;
     }
@@ -42,8 +40,9 @@ std::string DescriptorPath(int descriptor) {
 }
 
 bool IsTemporaryName(std::string_view name) {
-    if (!name.starts_with(kPrefix) || name.size() != kPrefix.size() + kDigits) return false;
-    for (const char digit : name.substr(kPrefix.size())) {
+    if (!name.starts_with(kTemporaryPrefix) || name.size() != kTemporaryPrefix.size() + kDigits)
+        return false;
+    for (const char digit : name.substr(kTemporaryPrefix.size())) {
         if (!std::isxdigit(static_cast<unsigned char>(digit))) return false;
     }
     return true;

@@ -2,9 +2,13 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <sys/types.h>
 
 namespace kirto {
+
+// What the names of such files start with, where they have one.
+inline constexpr std::string_view kTemporaryPrefix = ".kirto-";
 
 // Creates a file in the directory, without a name where the file system and the machine can do
 // that, so that nothing is left of it if the program is killed; else under a free name. Returns its

@@ -89,6 +89,13 @@ RunResult CliHome::RunProgram(const std::string& program, const Arguments& argum
     return result;
 }
 
+int CliHome::StartProgram(const std::string& program, const Arguments& arguments) const {
+    const int nothing = OpenForWriting("/dev/null");
+    const int child = Start(program, arguments, nothing, nothing);
+    close(nothing);
+    return child;
+}
+
 RunResult CliHome::Run(const Arguments& arguments) const {
     return RunProgram(KIRTO_CLI, arguments);
 }

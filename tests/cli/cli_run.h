@@ -36,6 +36,10 @@ class CliHome {
     // Runs another program.
     RunResult RunProgram(const std::string& program, const Arguments& arguments) const;
 
+    // Starts another program and returns its process, which the caller waits for. What it writes is
+    // thrown away.
+    int StartProgram(const std::string& program, const Arguments& arguments) const;
+
     // Runs with --info-json at the end, expects success, and returns what was printed.
     Json Info(Arguments arguments) const;
 

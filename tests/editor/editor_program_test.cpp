@@ -46,6 +46,15 @@ TEST_F(EditorProgram, WritesAPictureOfTheWindowThatShowsTheFile) {
     EXPECT_NE(ReadBytes(home.File("out.png")), ReadBytes(home.File("empty.png")));
 }
 
+TEST_F(EditorProgram, WritesAPictureOfAnInsertedImageWithoutAskingToSaveIt) {
+    home.Write("image.ppm", {'P', '6', ' ', '1', ' ', '1', ' ', '2', '5', '5', '\n', 1, 2, 3});
+
+    const RunResult result = Run({"--screenshot", "out.png", "image.ppm"});
+
+    EXPECT_EQ(result.status, 0) << result.err;
+    EXPECT_GE(SizeOfPng("out.png").first, 550u);
+}
+
 TEST_F(EditorProgram, SaysThatAPictureCanNotBeWritten) {
     const RunResult result = Run({"--screenshot", "nowhere/out.png"});
 

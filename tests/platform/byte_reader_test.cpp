@@ -18,6 +18,23 @@ TEST(ByteReader, ReadsLittleEndianNumbers) {
     EXPECT_FALSE(reader.Overrun());
 }
 
+TEST(ByteReader, ReadsWideNumbersAndRealOnes) {
+    const std::vector<uint8> bytes = {0xfd, 0xff, 0xff, 0xff,                           // -3
+                                      1,    2,    3,    4,    5,    6,    7,    0x80,   // 64 bits
+                                      0xfe, 0xff, 0xff, 0xff, 0xff, 0xff, 0xff, 0xff,   // -2
+                                      0,    0,    0x20, 0x41,                           // 10.0f
+                                      0,    0,    0,    0,    0,    0,    0xf8, 0xbf};  // -1.5
+    ByteReader reader(bytes);
+    EXPECT_EQ(reader.S32(), -3);
+    EXPECT_EQ(reader.U64(), 0x8007060504030201u);
+    EXPECT_EQ(reader.S64(), -2);
+    EXPECT_EQ(reader.F32(), 10.0f);
+    EXPECT_EQ(reader.F64(), -1.5);
+    EXPECT_FALSE(reader.Overrun());
+    EXPECT_EQ(reader.U64(), 0u);
+    EXPECT_TRUE(reader.Overrun());
+}
+
 TEST(ByteReader, GivesBytesWhereTheyLie) {
     const std::vector<uint8> bytes = {1, 2, 3, 4};
     ByteReader reader(bytes);

@@ -2,9 +2,11 @@
 
 #include <gtest/gtest.h>
 #include <pwd.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include "support/environment.h"
+#include "support/test_support.h"
 
 namespace kirto::test {
 namespace {
@@ -35,6 +37,32 @@ TEST(Directories, WithoutAConfigurationFolderSettingsStandBelowHome) {
     const ScopedEnvironment home("HOME", "/home/ann");
 
     EXPECT_EQ(SettingsDirectory(), "/home/ann/.config");
+}
+
+TEST(Directories, StateStandsWhereTheEnvironmentSays) {
+    const ScopedEnvironment state("XDG_STATE_HOME", "/tmp/ann/state/");
+
+    EXPECT_EQ(StateDirectory(), "/tmp/ann/state");
+}
+
+TEST(Directories, WithoutAStateFolderStateStandsBelowHome) {
+    const ScopedEnvironment state("XDG_STATE_HOME", nullptr);
+    const ScopedEnvironment home("HOME", "/home/ann");
+
+    EXPECT_EQ(StateDirectory(), "/home/ann/.local/state");
+}
+
+TEST(Directories, MissingFoldersAreMadeForTheUserOnly) {
+    const TemporaryFolder folder;
+
+    MakeFolders(folder.File("one/two"));
+    MakeFolders(folder.File("one/two"));
+
+    for (const char* name : {"one", "one/two"}) {
+        struct stat info {};
+        ASSERT_EQ(stat(folder.File(name).c_str(), &info), 0) << name;
+        EXPECT_EQ(info.st_mode & 0777, 0700u) << name;
+    }
 }
 
 TEST(Directories, ARootHomeKeepsItsSlash) {

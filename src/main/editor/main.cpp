@@ -3,18 +3,25 @@
 #include <QIcon>
 #include <QStyle>
 #include <QTimer>
+#include <atomic>
+#include <chrono>
 #include <clocale>
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
 #include <filesystem>
 #include <optional>
 #include <thread>
 
+#include "app/crash_recovery.h"
 #include "app/kirto.h"
+#include "document/command_codes.h"
 #include "framework/resource_file_path.h"
 #include "main/editor/editor_arguments.h"
 #include "main/editor/printed_alerts.h"
 #include "main/editor/screenshot.h"
+#include "main/editor/termination_signals.h"
+#include "platform/number.h"
 #include "platform/qt/qt_translator_roster.h"
 #include "ui/editor_style.h"
 #include "ui/qt_desktop.h"
@@ -32,6 +39,14 @@ BMessage RefsMessage(const std::vector<std::string>& files) {
     return refs;
 }
 
+// How long after a change the copy for the case of a crash is written. KIRTO_RECOVERY_DELAY,
+// milliseconds, is for tests, which have no time.
+std::chrono::milliseconds RecoveryDelay() {
+    const char* milliseconds = std::getenv("KIRTO_RECOVERY_DELAY");
+    if (!milliseconds) return kirto::RecoveryWriter::kDelay;
+    return std::chrono::milliseconds(kirto::LeadingInteger(milliseconds));
+}
+
 // Runs until the application's loop has ended; the loop ends when the main window has agreed.
 int RunEditor(const kirto::EditorArguments& arguments) {
     kirto::QtTranslatorRoster roster;
@@ -40,20 +55,39 @@ int RunEditor(const kirto::EditorArguments& arguments) {
     std::optional<kirto::PrintedAlerts> printed;
     if (!arguments.screenshot.empty()) printed.emplace();
     Prefs prefs;
+    std::optional<kirto::CrashRecovery> recovery;
+    std::optional<kirto::TerminationSignals> termination;
     Kirto application(prefs, desktop, roster, entry_ref(kirto::ResourceFilePath()));
+    if (arguments.screenshot.empty()) {
+        recovery.emplace(kirto::RecoveryStore::DefaultFolder(), RecoveryDelay());
+        recovery->Watch(application);
+        application.UseRecovery(*recovery);
+        termination.emplace([&recovery] { recovery->WriteNow(); });
+        application.PostMessage(kirto::kOfferRecovery);
+    }
     if (!arguments.files.empty()) application.Commands().SendMessage(RefsMessage(arguments.files));
 
     int status = 0;
     const kirto::Screenshot screenshot(application, *desktop.MainWindow(), arguments.screenshot,
                                        &status);
-    std::thread loop([&application] {
+    std::atomic<bool> agreed = false;
+    std::thread loop([&application, &agreed] {
         application.Loop();
-        QMetaObject::invokeMethod(qApp, &QApplication::quit, Qt::QueuedConnection);
+        agreed = true;
+        // Quitting would ask the main window again.
+        QMetaObject::invokeMethod(
+            qApp, [] { QApplication::exit(); }, Qt::QueuedConnection);
     });
     QApplication::exec();
+    // A desktop that ends its programs has not asked whether the document may go.
+    const bool done = agreed;
+    if (recovery && !done) recovery->WriteNow();
+    termination.reset();
     desktop.CloseWindows();
     application.Quit();
     loop.join();
+    application.SetObserver(nullptr);
+    if (recovery && done) recovery->Remove();
     const bool told = printed && printed->Presented();
     return told || application.Error() != 0 ? kExitFailed : status;
 }
