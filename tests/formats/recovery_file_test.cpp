@@ -190,7 +190,8 @@ TEST(RecoveryFile, SharedPicturesAndPalettesAreWrittenOnceAndSharedAgain) {
     const std::vector<uint8> bytes = Written(StateOf(animation));
 
     EXPECT_LT(bytes.size(), size_of_one + 3000);
-    const auto budget = std::make_shared<PixelBudget>(noise->BitsLength());
+    const auto budget =
+        std::make_shared<PixelBudget>(noise->BitsLength() + PixelBudget::kFrameCost);
     const ReadBack read = Read(bytes, budget);
     ASSERT_TRUE(read.document) << read.reason;
     const FrameSequence& frames = read.document->animation.frames;
@@ -249,14 +250,15 @@ TEST(RecoveryFile, IsRefusedWhereTheBudgetDoesNotSuffice) {
     Append(animation, FrameWith(Noise(10, 10)));
     Append(animation, FrameWith(Noise(10, 10)));
     const std::vector<uint8> bytes = Written(StateOf(animation));
-    const auto budget = std::make_shared<PixelBudget>(799);
+    const uint64 needed = 2 * (400 + PixelBudget::kFrameCost);
+    const auto budget = std::make_shared<PixelBudget>(needed - 1);
 
     const ReadBack read = Read(bytes, budget);
 
     EXPECT_FALSE(read.document);
     EXPECT_EQ(read.status, B_NO_MEMORY);
     EXPECT_EQ(budget->Used(), 0u);
-    budget->SetLimit(800);
+    budget->SetLimit(needed);
     EXPECT_TRUE(Read(bytes, budget).document);
 }
 
