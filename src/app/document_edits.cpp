@@ -17,19 +17,18 @@ struct KindCommand {
 
 // The animation's palette becomes one of these.
 constexpr KindCommand kPaletteKinds[] = {
-    {kPaletteToWebSafe, kPaletteWebSafe},
-    {kPaletteToSystem, kPaletteSystem},
-    {kPaletteToGreyscale, kPaletteGreyscale},
-    {kPaletteToFirstFrame, kPaletteFirstFrame},
-    {kPaletteToCurrentFrame, kPaletteCurrentFrame},
-    {kPaletteToFile, kPaletteAwaitingFile},
+    {kPaletteToWebSafe, kPaletteWebSafe},           {kPaletteToSystem, kPaletteSystem},
+    {kPaletteToGreyscale, kPaletteGreyscale},       {kPaletteToFirstFrame, kPaletteFirstFrame},
+    {kPaletteToCurrentFrame, kPaletteCurrentFrame}, {kPaletteToFile, kPaletteAwaitingFile},
 };
 
 // The current frame's palette becomes one of these, or, with the kind "optimal", what fits its
 // picture.
 constexpr KindCommand kFramePaletteKinds[] = {
-    {kFrameWebSafe, kPaletteWebSafe},     {kFrameSystem, kPaletteSystem},
-    {kFrameGreyscale, kPaletteGreyscale}, {kFrameOptimal, kPaletteOptimal},
+    {kFrameWebSafe, kPaletteWebSafe},
+    {kFrameSystem, kPaletteSystem},
+    {kFrameGreyscale, kPaletteGreyscale},
+    {kFrameOptimal, kPaletteOptimal},
     {kFramePaletteToFile, kPaletteAwaitingFile},
 };
 

@@ -243,8 +243,8 @@ bool Kirto::SaveGif() {
                 "animation.");
             break;
         case kirto::SaveResult::kSizeOutOfRange:
-            kirto::Warn("The animation can't be saved because " + kirto::SizeOutOfRange(*state->animation) +
-                        " is not between 0 and 65535.");
+            kirto::Warn("The animation can't be saved because " +
+                        kirto::SizeOutOfRange(*state->animation) + " is not between 0 and 65535.");
             break;
         case kirto::SaveResult::kFileNotCreated:
         case kirto::SaveResult::kWriteFailed:

@@ -29,16 +29,16 @@ inline constexpr uint32 kThumbnailPreset = FourCharCode("tvpv");     // the sett
 inline constexpr uint32 kStatusUpdate = FourCharCode("svup");
 
 // File panels and desktop to application. Refs "refs"; the first only, but for kInsertFiles.
-// kOpenFile: bool "reset", int32 "position"; bool "ask": about unsaved changes, before a reset; bool
-// "panel": false for files that no panel delivered.
+// kOpenFile: bool "reset", int32 "position"; bool "ask": about unsaved changes, before a reset;
+// bool "panel": false for files that no panel delivered.
 inline constexpr uint32 kOpenFile = FourCharCode("aofp");
 inline constexpr uint32 kInsertFiles = FourCharCode("aifp");  // int32 "position"
 inline constexpr uint32 kInsertTiledFile = FourCharCode("aitp");
 // Save panel to application. Int64 "translator_id", ref "directory", string "name".
 inline constexpr uint32 kSaveFile = FourCharCode("asfp");
 
-// The program's start to application: offer what another editor has left. No fields. The application
-// to itself: recover that. String "path".
+// The program's start to application: offer what another editor has left. No fields. The
+// application to itself: recover that. String "path".
 inline constexpr uint32 kOfferRecovery = FourCharCode("aorc");
 inline constexpr uint32 kRecover = FourCharCode("arcv");
 

@@ -157,7 +157,8 @@ bool FliLoad::StartFrame(int32 index) {
     frame_ = Frame(kirto::Format("frame%04d", index), width_, height_);
     local_palette_ = kirto::SharePalette();
     const BRect bounds = BRect::OfSize(width_, height_);
-    if (local_palette_) picture_ = std::make_shared<BBitmap>(bounds, B_RGB32, document_.pixel_budget);
+    if (local_palette_)
+        picture_ = std::make_shared<BBitmap>(bounds, B_RGB32, document_.pixel_budget);
     if (!local_palette_ || picture_->InitCheck() != B_OK) {
         // No memory of any size makes a picture of no pixels.
         out_of_memory = !local_palette_ || bounds.IsValid();

@@ -106,7 +106,8 @@ void GifSave::WriteGifControlBlock(const Frame& frame) {
     const int32 disposal = setting >= 0 && setting <= 2 ? setting : 3;
     uint8 block[8] = {0x21, 0xF9, 4};
     block[3] = LowByte(disposal << 2);
-    kirto::WriteLittle16(block + 4, DelayOf(*animation_, frame, document_.prefs.global_pauseinseconds));
+    kirto::WriteLittle16(block + 4,
+                         DelayOf(*animation_, frame, document_.prefs.global_pauseinseconds));
     if (global.use_transparent) {
         block[3] |= 1;
         block[6] = LowByte(global.transparent_index);

@@ -3,9 +3,9 @@
 #include <QLabel>
 #include <QWidget>
 
-#include "ui/shown_document.h"
 #include "ui/frame_list.h"
 #include "ui/frame_preview.h"
+#include "ui/shown_document.h"
 
 // The frame area in frame-list mode: the list, its buttons, and the current frame. GUI thread.
 class FrameListView : public QWidget {

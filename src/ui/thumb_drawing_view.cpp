@@ -15,9 +15,8 @@ BPoint PointOf(const QPoint& point) {
 
 }  // namespace
 
-ThumbDrawingView::ThumbDrawingView(const kirto::ShownDocument& shown,
-                                   const kirto::Editor& editor, BMessenger window,
-                                   kirto::ThumbScrollView* scroll_view)
+ThumbDrawingView::ThumbDrawingView(const kirto::ShownDocument& shown, const kirto::Editor& editor,
+                                   BMessenger window, kirto::ThumbScrollView* scroll_view)
     : QWidget(scroll_view->viewport()),
       shown_(shown),
       editor_(editor),

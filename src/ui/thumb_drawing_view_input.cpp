@@ -119,7 +119,8 @@ void ThumbDrawingView::MessageReceived(BMessage* message) {
         BPoint grab;
         // What is dragged is the current frame; a busy application may take a while to make it the
         // one that is held.
-        if (drag_pending_ && shown_.Selected() != held_) return drag_timer_.start(kRetryMilliseconds);
+        if (drag_pending_ && shown_.Selected() != held_)
+            return drag_timer_.start(kRetryMilliseconds);
         if (!std::exchange(drag_pending_, false)) return;
         if (message->FindPoint("point", &grab) == B_OK) DragToTracker(grab);
     } else if (message->what == B_COPY_TARGET) {
@@ -143,8 +144,8 @@ QImage ThumbDrawingView::DragImage(const Frame& frame) {
     image.setDevicePixelRatio(ratio);
     {
         QPainter painter(&image);
-        kirto::PicturePainter pictures(painter, palette(), shown_.Settings().thumbnail_drawtransparent,
-                                       cache_);
+        kirto::PicturePainter pictures(painter, palette(),
+                                       shown_.Settings().thumbnail_drawtransparent, cache_);
         pictures.Draw(frame.bitmap, thumbnail);
     }
     image.convertTo(QImage::Format_ARGB32);

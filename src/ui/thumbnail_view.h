@@ -4,8 +4,8 @@
 #include <QSlider>
 #include <QWidget>
 
-#include "ui/shown_document.h"
 #include "ui/editor.h"
+#include "ui/shown_document.h"
 
 class ThumbDrawingView;
 

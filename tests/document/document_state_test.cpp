@@ -44,22 +44,21 @@ bool IsWhole(const Animation& animation) {
 TEST(DocumentState, StaysAsItWasThroughEveryKindOfEdit) {
     DocumentFixture fixture;
     AnimationDocument& document = fixture.document;
-    const std::function<void()> edits[] = {
-        [&] { Insert(document, "one", 0); },
-        [&] { Insert(document, "two", 0); },
-        [&] { Insert(document, "three", 0); },
-        [&] { document.Select(2); },
-        [&] { document.MoveFrame(true); },
-        [&] { document.ReverseFrames(); },
-        [&] { FrameEditOf(document, 0)->x_offset = 9; },
-        [&] { PaletteEditOf(document)->Set(kPaletteGreyscale); },
-        [&] { document.RemoveFrame(); },
-        [&] { document.SetFile("/films", "movie.gif"); },
-        [&] { 
-            fixture.prefs.thumbnail_height = 2;
-            document.PublishSettings();
-        },
-        [&] { document.Reset(); }};
+    const std::function<void()> edits[] = {[&] { Insert(document, "one", 0); },
+                                           [&] { Insert(document, "two", 0); },
+                                           [&] { Insert(document, "three", 0); },
+                                           [&] { document.Select(2); },
+                                           [&] { document.MoveFrame(true); },
+                                           [&] { document.ReverseFrames(); },
+                                           [&] { FrameEditOf(document, 0)->x_offset = 9; },
+                                           [&] { PaletteEditOf(document)->Set(kPaletteGreyscale); },
+                                           [&] { document.RemoveFrame(); },
+                                           [&] { document.SetFile("/films", "movie.gif"); },
+                                           [&] {
+                                               fixture.prefs.thumbnail_height = 2;
+                                               document.PublishSettings();
+                                           },
+                                           [&] { document.Reset(); }};
     std::vector<std::pair<StatePointer, std::string>> kept;
     for (const auto& edit : edits) {
         kept.emplace_back(document.CurrentState(), TextOf(*document.CurrentState()));

@@ -14,8 +14,8 @@
 namespace kirto {
 
 // Drives the application object through the operations of one command line: commands are posted to
-// it as a window would post them, and each operation is over before the next begins. Speaks to the user on standard error; results go to
-// standard output.
+// it as a window would post them, and each operation is over before the next begins. Speaks to the
+// user on standard error; results go to standard output.
 class CliSession {
   public:
     // The roster outlives the session.
@@ -88,7 +88,8 @@ class CliSession {
     Outcome PostNumber(uint32 command, const std::string& text);
     // For numbers that "off" switches off: posts the switch, then the number if it is one.
     Outcome PostSwitchedNumber(uint32 switch_command, uint32 command, const std::string& text);
-    // A number as the field's own check lets it pass: at least 0, and at most what the field allows.
+    // A number as the field's own check lets it pass: at least 0, and at most what the field
+    // allows.
     Outcome CheckInput(const Field& field, const std::string& text, int32* number);
     Outcome CheckInput(const Field& field, const std::string& text, double* number);
     // Fails without a current frame.

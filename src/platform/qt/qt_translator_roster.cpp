@@ -12,9 +12,9 @@
 #include "platform/image_header.h"
 #include "platform/qt/file_device.h"
 #include "platform/qt/image_bitmap.h"
+#include "platform/qt/picture_image.h"
 #include "platform/qt/png_device.h"
 #include "platform/qt/safe_drawing.h"
-#include "platform/qt/picture_image.h"
 #include "platform/qt/straight_tiff.h"
 #include "platform/targa.h"
 
