@@ -81,7 +81,7 @@ class BitReader {
     uint64 Take(int count) {
         uint64 bits = 0;
         for (int i = 0; i < count; ++i, ++bit_)
-            bits |= uint64{head_.Byte(bit_ / 8) >> bit_ % 8 & 1U} << i;
+            bits |= (uint64{head_.Byte(bit_ / 8)} >> (bit_ % 8) & 1) << i;
         return bits;
     }
 
