@@ -54,6 +54,7 @@ std::vector<CompressedImage> Compress(BenchAnimation& animation) {
 
 bool Decode(const std::vector<CompressedImage>& images, const AnimationPlan& plan,
             const CanvasVisitor& visit) {
+    Work work;
     std::vector<std::unique_ptr<BBitmap>> canvases;
     for (const CompressedImage& image : images) {
         auto canvas = std::make_unique<BBitmap>(BRect::OfSize(plan.width, plan.height), B_RGB32);
@@ -64,7 +65,8 @@ bool Decode(const std::vector<CompressedImage>& images, const AnimationPlan& pla
         }
         GifPixelWriter writer(*canvas, image.area, false, image.colors);
         image.data->Seek(1, SEEK_FROM_START);  // behind the code size
-        if (!GifLzwDecoder(*image.data, image.min_code_size).Decode(writer)) return false;
+        WatchedInput input(*image.data, work);
+        if (!GifLzwDecoder(input, image.min_code_size).Decode(writer)) return false;
         canvases.push_back(std::move(canvas));
     }
     for (const auto& canvas : canvases)

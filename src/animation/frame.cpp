@@ -3,6 +3,7 @@
 #include <atomic>
 
 #include "color/shared_palette.h"
+#include "platform/picture_files.h"
 #include "platform/text.h"
 
 namespace {
@@ -24,14 +25,14 @@ Frame::Frame(std::string_view frame_name, int32 frame_width, int32 frame_height)
 
 status_t Frame::Read(const std::string& path, std::string_view frame_name,
                      BTranslatorRoster& roster, std::shared_ptr<kirto::PixelBudget> budget,
-                     Frame* result) {
+                     Frame* result, kirto::Work* work) {
     const std::shared_ptr<Palette> own_palette = kirto::SharePalette();
     if (!own_palette) return B_NO_MEMORY;
-    BFile file(path, B_READ_ONLY);
     std::shared_ptr<BBitmap> picture;
-    const status_t status = roster.Translate(file, std::move(budget), &picture);
+    const status_t status = kirto::ReadPicture(path, roster, std::move(budget), work, &picture);
     if (status < B_OK) return status;
-    own_palette->Set(static_cast<const BBitmap*>(picture.get()));
+    own_palette->Set(static_cast<const BBitmap*>(picture.get()), work);
+    if (kirto::IsStopped(work)) return B_CANCELED;
     Frame frame(frame_name, picture->Bounds().PixelWidth(), picture->Bounds().PixelHeight());
     frame.palette = own_palette;
     frame.bitmap = std::move(picture);

@@ -8,6 +8,7 @@
 #include "platform/bitmap.h"
 #include "platform/translator_roster.h"
 #include "platform/types.h"
+#include "platform/work.h"
 
 namespace kirto {
 
@@ -42,10 +43,11 @@ class Frame {
     Frame(std::string_view frame_name, int32 frame_width, int32 frame_height);
     // Makes *result of an image file, with a palette built from the picture; its pixels are counted
     // by the budget. B_NO_MEMORY when the frame itself could not be made; the roster's error when
-    // no translator reads the file, which includes pictures beyond the budget. *result stays then.
+    // no translator reads the file, which includes pictures beyond the budget; B_CANCELED when the
+    // work, if any, was stopped. *result stays then.
     static status_t Read(const std::string& path, std::string_view frame_name,
                          BTranslatorRoster& roster, std::shared_ptr<kirto::PixelBudget> budget,
-                         Frame* result);
+                         Frame* result, kirto::Work* work = nullptr);
 
     // Stores the name, cut at a whole UTF-8 character where it is too long.
     void SetName(std::string_view frame_name);

@@ -1,6 +1,7 @@
 #include "app/kirto.h"
 
 #include <new>
+#include <utility>
 
 #include "app/command_port.h"
 #include "app/document_edits.h"
@@ -10,6 +11,7 @@
 #include "effects/insert_tiles.h"
 #include "platform/alert.h"
 #include "platform/number.h"
+#include "platform/text.h"
 
 // One row of the command table: what a command does, the refresh posted after it (0: none), and
 // whether and how it changes the document.
@@ -34,13 +36,9 @@ const Kirto::Command* Kirto::CommandFor(uint32 code) {
     static constexpr auto cancel = [](Kirto& app, BMessage* message) {
         if (app.Cancel(message)) app.PostToWindow(kUpdateAll);
     };
-    static constexpr auto save = [](Kirto& app, BMessage* message) {
-        app.Save(message);
-        app.ShowSaved();
-    };
-    static constexpr auto save_again = [](Kirto& app, BMessage*) {
-        app.SaveAgain();
-        app.ShowSaved();
+    static constexpr auto quit_when_done = [](Kirto& app, BMessage*) {
+        app.work.AllowAll();
+        app.PostToWindow(kirto::kQuitWhenDone);
     };
     static constexpr auto fade = [](Kirto& app, BMessage* message) { app.Fade(message); };
     static constexpr Command kCommands[] = {
@@ -53,8 +51,9 @@ const Kirto::Command* Kirto::CommandFor(uint32 code) {
         {kirto::kInsertTiledFile,
          [](Kirto& app, BMessage* message) { app.InsertTiledFrame(message); }, kUpdateAll,
          kInsertion, "Insert Tiled"},
-        {kirto::kSaveFile, save, kNothing},
-        {kirto::kSaveAgain, save_again, kNothing},
+        {kirto::kSaveFile, [](Kirto& app, BMessage* message) { app.Save(message); }, kUpdateAll},
+        {kirto::kSaveAgain, [](Kirto& app, BMessage*) { app.SaveAgain(); }, kUpdateAll},
+        {kirto::kQuitWhenDone, quit_when_done, kNothing},
         {kirto::kResetDocument, [](Kirto& app, BMessage*) { app.StartAnew(); }, kNothing, kEdit},
         {kirto::kOfferRecovery, [](Kirto& app, BMessage*) { app.OfferRecovery(); }, kNothing},
         {kirto::kRecover, [](Kirto& app, BMessage* message) { app.Recover(message); }, kUpdateAll,
@@ -155,6 +154,7 @@ BRect Kirto::MainWindowFrame() {
 }
 
 void Kirto::MessageReceived(BMessage* message) {
+    work.Begin();
     try {
         CarryOut(message);
     } catch (const std::bad_alloc&) {
@@ -162,6 +162,7 @@ void Kirto::MessageReceived(BMessage* message) {
         kirto::WarnOutOfMemory();
         PostToWindow(kirto::kUpdateAll);
     }
+    EndWork();
 }
 
 void Kirto::CarryOut(BMessage* message) {
@@ -178,9 +179,18 @@ void Kirto::CarryOut(BMessage* message) {
 
 void Kirto::DispatchMessage(BMessage* message, BHandler* handler) {
     IEApplication::DispatchMessage(message, handler);
-    if (!kirto::CommandPort::IsCounted(*message)) return;
-    kirto::CommandPort::Uncount(*this, *message);
-    PostToWindow(kirto::kEditDone);
+    if (kirto::CommandPort::IsCounted(*message)) {
+        kirto::CommandPort::Uncount(*this, *message);
+        PostToWindow(kirto::kEditDone);
+    }
+    // After the refreshes, which write the status line too.
+    if (!last_word_.empty()) PostStatus("Status: " + std::exchange(last_word_, {}));
+}
+
+void Kirto::EndWork() {
+    const bool shown = work.Reported();
+    work.End();
+    if (shown) PostToWindow(kirto::kWorkProgress);
 }
 
 void Kirto::AboutRequested() {
@@ -242,7 +252,13 @@ void Kirto::StoreTranslatorSettings(const BMessage& message) {
 }
 
 void Kirto::InsertFrame(BMessage* message) {
-    kirto::InsertImages(*this, *message, roster_);
+    const int32 before = FrameCount();
+    if (!kirto::InsertImages(*this, *message, roster_)) SayCanceled(before);
+}
+
+// To be called where the work was stopped before it was done.
+void Kirto::SayCanceled(int32 frames_before) {
+    last_word_ = kirto::Format("canceled, %d new frame(s) kept", FrameCount() - frames_before);
 }
 
 void Kirto::InsertTiledFrame(BMessage* message) {
@@ -253,7 +269,8 @@ void Kirto::InsertTiledFrame(BMessage* message) {
     grid.column_by_column = panel->ColumnByColumn();
     entry_ref ref;
     const bool has_ref = message->FindRef("refs", &ref) == B_OK;
-    kirto::InsertTiles(*this, has_ref ? &ref : nullptr, grid, roster_);
+    const int32 before = FrameCount();
+    if (!kirto::InsertTiles(*this, has_ref ? &ref : nullptr, grid, roster_)) SayCanceled(before);
 }
 
 void Kirto::Fade(BMessage* message) {
@@ -261,11 +278,14 @@ void Kirto::Fade(BMessage* message) {
     int32 packed = 0;
     if (message->FindInt32("count", &count) != B_OK) return;
     if (message->FindInt32("color", &packed) != B_OK) return;
-    const uint32 color = static_cast<uint32>(packed);
-    kirto::Fade(*this, FadeModeOf(message->what), count,
-                {static_cast<uint8>(color >> 24), static_cast<uint8>(color >> 16),
-                 static_cast<uint8>(color >> 8), 255},
-                &fade_name_base_);
+    const uint32 packed_color = static_cast<uint32>(packed);
+    const rgb_color color = {static_cast<uint8>(packed_color >> 24),
+                             static_cast<uint8>(packed_color >> 16),
+                             static_cast<uint8>(packed_color >> 8), 255};
+    const int32 before = FrameCount();
+    if (!kirto::Fade(*this, FadeModeOf(message->what), count, color, &fade_name_base_)) {
+        SayCanceled(before);
+    }
 }
 
 kirto::FilePanel* Kirto::GetPanel(kirto::FilePanelKind kind) {

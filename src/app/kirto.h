@@ -64,7 +64,7 @@ class Kirto : public IEApplication, public AnimationDocument, public kirto::File
     // an image sequence.
     void Save(uint32 format);
     // Writes one image file per frame, named file_name with a number before its first dot. On
-    // failure tells the user and returns false.
+    // failure tells the user and returns false; also when the work is stopped.
     bool SaveSequence(uint32 translator);
     // Writes a temporary GIF and shows it in the browser.
     void Preview();
@@ -113,16 +113,19 @@ class Kirto : public IEApplication, public AnimationDocument, public kirto::File
     void SelectFrame(BMessage* message);
     void StoreSettings(const BMessage& message);
     void StoreTranslatorSettings(const BMessage& message);
+    void EndWork();
+    void SayCutShort(const kirto::Animation& animation);
+    void SayCanceled(int32 frames_before);
+    void KeepStopped(bool reset, int32 frames_before);
     bool SaveGif();
     bool MayOverwrite();
-    void ShowSaved();
     bool MayOpenDropped(const BMessage& message, const std::string& path);
     void AbandonWaiting();
     using AnimationDocument::SetFile;
     void SetFile(const std::string& directory, const std::string& name,
                  const std::optional<kirto::FileStamp>& stamp);
-    bool WriteSequenceFile(const Frame& frame, const std::string& path, uint32 translator,
-                           uint32 format);
+    status_t WriteSequenceFile(const Frame& frame, const std::string& path, uint32 translator,
+                               uint32 format);
     void RemovePreviews();
 
     kirto::Desktop& desktop_;
@@ -135,7 +138,8 @@ class Kirto : public IEApplication, public AnimationDocument, public kirto::File
     // The current file as it was when it was opened or saved.
     std::optional<kirto::FileStamp> file_stamp_;
     std::optional<BMessage> waiting_drop_;  // kOpenFile, to be carried out after a save
-    std::string cut_short_;                 // what the last GIF had no room for, until it is shown
+    bool save_stopped_ = false;             // the last save was stopped before it was done
+    std::string last_word_;                 // for the status line, once the command is done
     // The preview files that were written, as they were then, by path.
     std::map<std::string, std::optional<kirto::FileStamp>> previews_;
 };

@@ -10,6 +10,7 @@
 #include "document/command_codes.h"
 #include "platform/alert.h"
 #include "platform/debug_line.h"
+#include "platform/picture_files.h"
 #include "platform/text.h"
 
 namespace {
@@ -95,14 +96,31 @@ void Kirto::Open(BMessage* message) {
         kirto::Warn("The animation can't be opened because this file type is unsupported.");
         return;
     }
+    // What a reset leaves is where the history starts. A load that is stopped is its first edit.
+    if (reset) BeginStep();
+    const int32 before = FrameCount();
     const std::optional<kirto::FileStamp> stamp = kirto::FileStamp::Of(ref.path);
     BFile file(ref.path, B_READ_ONLY);
     const bool opened = type == kirto::AnimationType::kGif ? kirto::OpenGif(&file, position, *this)
                                                            : kirto::OpenFli(&file, position, *this);
+    if (!opened && StopRequested()) return KeepStopped(reset, before);
+    if (reset) AbandonStep();
     if (!opened) return;
     if (reset) {
         SetFile(ref.Directory(), ref.Leaf(), stamp);
     } else {
+        SetModified(true);
+    }
+}
+
+// What was read is kept without the file's name: a save must not put it in the file's place. There
+// is nothing to lose in it, as the file is still there.
+void Kirto::KeepStopped(bool reset, int32 frames_before) {
+    SayCanceled(frames_before);
+    if (reset) {
+        EndStep("Open");
+        MarkSaved();
+    } else if (FrameCount() > frames_before) {
         SetModified(true);
     }
 }
@@ -177,11 +195,16 @@ void Kirto::Save(BMessage* message) {
     std::string name;
     if (message->FindRef("directory", &directory) != B_OK) return;
     if (message->FindString("name", &name) != B_OK) return;
+    const auto before = CurrentState();
+    const auto stamp_before = file_stamp_;
     SetFile(directory.path, name, std::nullopt);
     Save(static_cast<uint32>(translator));
+    // A file that was not written is not the document's.
+    if (save_stopped_) SetFile(before->file_directory, before->file_name, stamp_before);
 }
 
 void Kirto::Save(uint32 format) {
+    save_stopped_ = false;
     UpdateGlobalPalette();
     const std::optional<BMessage> waiting = std::exchange(waiting_drop_, std::nullopt);
     if (IsGif(format)) {
@@ -219,13 +242,6 @@ bool Kirto::MayOverwrite() {
     return answer == kOverwriteButton;
 }
 
-void Kirto::ShowSaved() {
-    PostToWindow(kirto::kUpdateAll);
-    if (cut_short_.empty()) return;
-    // After the refresh, which writes the status line too.
-    PostStatus("Status: saved, but " + std::exchange(cut_short_, {}));
-}
-
 // False after telling the user what went wrong. The next save then asks for a name again.
 bool Kirto::SaveGif() {
     const auto state = CurrentState();
@@ -233,9 +249,11 @@ bool Kirto::SaveGif() {
     switch (kirto::SaveAnimatedGif(*this, path)) {
         case kirto::SaveResult::kSaved:
             file_stamp_ = kirto::FileStamp::Of(path);
-            cut_short_ = kirto::NumbersCutShort(*state->animation, prefs.global_pauseinseconds);
+            SayCutShort(*state->animation);
             return true;
         case kirto::SaveResult::kStopped:
+            save_stopped_ = true;
+            last_word_ = "saving was canceled, the file is as it was before";
             return false;
         case kirto::SaveResult::kFrameTooLarge:
             kirto::Warn(
@@ -255,6 +273,12 @@ bool Kirto::SaveGif() {
     return false;
 }
 
+// What the file had no room for.
+void Kirto::SayCutShort(const kirto::Animation& animation) {
+    const std::string cut = kirto::NumbersCutShort(animation, prefs.global_pauseinseconds);
+    if (!cut.empty()) last_word_ = "saved, but " + cut;
+}
+
 void Kirto::SetFile(const std::string& directory, const std::string& name,
                     const std::optional<kirto::FileStamp>& stamp) {
     SetFile(directory, name);
@@ -272,35 +296,44 @@ bool Kirto::SaveSequence(uint32 translator) {
         kirto::DebugLine("Kirto::SaveSequence() - Desired format is 0, this is not good\n");
     }
     const auto state = CurrentState();
+    const int32 count = state->animation->frames.Size();
     int32 index = 0;
     for (const kirto::FramePointer& frame : state->animation->frames) {
-        if (StopRequested()) return false;
-        const std::string name = kirto::SequenceFileName(state->file_name, index++);
-        if (!WriteSequenceFile(*frame, Join(state->file_directory, name), translator, format)) {
-            return false;
+        work.Report(index, count);
+        const std::string name = kirto::SequenceFileName(state->file_name, index);
+        const status_t status =
+            WriteSequenceFile(*frame, Join(state->file_directory, name), translator, format);
+        if (status == B_CANCELED) {
+            save_stopped_ = true;
+            last_word_ =
+                kirto::Format("saving was canceled, %d of %d file(s) written", index, count);
         }
+        if (status != B_OK) return false;
+        ++index;
     }
     return true;
 }
 
-bool Kirto::WriteSequenceFile(const Frame& frame, const std::string& path, uint32 translator,
-                              uint32 format) {
-    const std::unique_ptr<BFile> file = BFile::CreateReplacing(path);
+// B_CANCELED when the work was stopped; any other failure is told to the user. No file then.
+status_t Kirto::WriteSequenceFile(const Frame& frame, const std::string& path, uint32 translator,
+                                  uint32 format) {
+    const std::shared_ptr<BFile> file = BFile::CreateReplacing(path);
     if (file->InitCheck() != B_OK) {
         kirto::Warn(kirto::kFileNotCreatedText);
-        return false;
+        return B_IO_ERROR;
     }
     // Once a sequence is enough.
     if (&frame == FirstFrame().get()) file->RemoveLeftovers();
-    const BMessage& settings = translator_settings[translator];
-    if (roster_.Translate(*frame.bitmap, translator, format, settings, *file) != B_OK &&
-        file->WriteStatus() == B_OK) {
+    const status_t status = kirto::WritePicture(frame.bitmap, roster_, translator, format,
+                                                translator_settings[translator], file, work);
+    if (status == B_CANCELED) return status;
+    if (status != B_OK && file->WriteStatus() == B_OK) {
         kirto::Warn(kInvalidTranslator);
-        return false;
+        return status;
     }
     if (file->Commit() != B_OK) {
         kirto::Warn(kirto::kFileNotCreatedText);
-        return false;
+        return B_IO_ERROR;
     }
-    return true;
+    return B_OK;
 }

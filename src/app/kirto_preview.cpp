@@ -48,7 +48,10 @@ void Kirto::Preview() {
     }
     const std::string path = PreviewPath(prefs.misc_tempfilelocation);
     const kirto::SaveResult result = kirto::SavePreviewGif(*this, path);
-    if (result == kirto::SaveResult::kStopped) return;
+    if (result == kirto::SaveResult::kStopped) {
+        last_word_ = "the preview was canceled";
+        return;
+    }
     if (result != kirto::SaveResult::kSaved) {
         kirto::Warn(
             "The animation can't be previewed because a temporary file could not be created.");

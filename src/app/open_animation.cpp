@@ -79,8 +79,6 @@ void ShareOutPauses(Animation& animation, FrameRange range, bool in_seconds) {
 
 // inserted: frames that the load has added.
 void OfferSalvage(AnimationDocument& document, int32 inserted, bool out_of_memory) {
-    // The user broke it off and needs no telling.
-    if (document.StopRequested()) return;
     if (out_of_memory) WarnOutOfMemory();
     BAlert alert("", "The animation can't be opened because it was corrupted or unreadable.",
                  "Salvage", "OK");
@@ -114,7 +112,8 @@ AnimationType ClassifyContent(BFile* file) {
 
 bool OpenGif(BFile* file, int32 position, AnimationDocument& document) {
     const GifLoad loader(file, position, document);
-    if (loader.failed) {
+    const bool stopped = loader.failed && document.StopRequested();
+    if (loader.failed && !stopped) {
         OfferSalvage(document, loader.End() - position, loader.out_of_memory);
         return false;
     }
@@ -123,12 +122,13 @@ bool OpenGif(BFile* file, int32 position, AnimationDocument& document) {
         RecognisePalettes(animation, range);
         ShareOutPauses(animation, range, document.prefs.global_pauseinseconds);
     });
-    return true;
+    return !stopped;
 }
 
 bool OpenFli(BFile* file, int32 position, AnimationDocument& document) {
     const FliLoad loader(file, position, document);
-    if (loader.failed) {
+    const bool stopped = loader.failed && document.StopRequested();
+    if (loader.failed && !stopped) {
         OfferSalvage(document, loader.End() - position, loader.out_of_memory);
         return false;
     }
@@ -136,7 +136,7 @@ bool OpenFli(BFile* file, int32 position, AnimationDocument& document) {
         animation.use_loop = true;
         animation.loop_count = 0;
     });
-    return true;
+    return !stopped;
 }
 
 }  // namespace kirto

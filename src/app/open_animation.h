@@ -18,9 +18,9 @@ AnimationType ClassifyContent(BFile* file);
 
 // Decodes the file into the document from the position on. On failure tells the user if memory ran
 // out, asks whether to keep what was decoded ("Salvage", the default if the document had other
-// frames before) or not ("OK", which resets the document), and returns false either way. After a
-// GIF, palettes are recognized and the commonest pause becomes the animation's; a FLI animation
-// loops forever.
+// frames before) or not ("OK", which resets the document), and returns false either way. When the
+// document's work is stopped, keeps what was decoded and returns false. After a GIF, palettes are
+// recognized and the commonest pause becomes the animation's; a FLI animation loops forever.
 bool OpenGif(BFile* file, int32 position, AnimationDocument& document);
 bool OpenFli(BFile* file, int32 position, AnimationDocument& document);
 

@@ -34,15 +34,13 @@ std::optional<std::vector<rgb_color>> TryMakeColors(size_t count) {
     }
 }
 
-// Adds every pixel of a 32-bit picture to the value of its color. False when memory is short.
-bool CountPixels(const BBitmap& picture, kirto::ColorValues& counts) {
-    const bool big_endian = kirto::IsBigEndian(picture.ColorSpace());
-    const uint8* pixel = picture.Bits();
+// Adds so many pixels to the values of their colors. False when memory is short.
+bool CountPixels(const uint8* pixel, size_t count, bool big_endian, kirto::ColorValues& counts) {
     kirto::ColorValues::Item* item = nullptr;
-    for (size_t left = picture.BitsLength() / 4; left > 0; --left, pixel += 4) {
+    for (size_t left = count; left > 0; --left, pixel += 4) {
         const uint32 key = big_endian ? ColorKey(pixel[1], pixel[2], pixel[3])
                                       : ColorKey(pixel[2], pixel[1], pixel[0]);
-        // Neighbours are often equal: only the first of a run is looked up.
+        // Neighbors are often equal: only the first of a run is looked up.
         if (!item || item->key != key) item = counts.FindOrAdd(key);
         if (!item) return false;
         ++item->value;
@@ -50,16 +48,31 @@ bool CountPixels(const BBitmap& picture, kirto::ColorValues& counts) {
     return true;
 }
 
-// Each color of the picture with its number of pixels. Nothing on failure: out of memory, which the
-// user is told, no picture or one that is not 32-bit.
-std::optional<kirto::ColorValues> CountColors(const BBitmap* picture) {
+// Adds every pixel of a 32-bit picture. False when memory is short.
+bool CountPicture(const BBitmap& picture, kirto::ColorValues& counts, const kirto::Work* work) {
+    constexpr size_t kPixelsAtOnce = 1 << 16;
+    const bool big_endian = kirto::IsBigEndian(picture.ColorSpace());
+    const uint8* pixel = picture.Bits();
+    for (size_t left = picture.BitsLength() / 4; left > 0 && !kirto::IsStopped(work);) {
+        const size_t count = std::min(left, kPixelsAtOnce);
+        if (!CountPixels(pixel, count, big_endian, counts)) return false;
+        pixel += count * 4;
+        left -= count;
+    }
+    return true;
+}
+
+// Each color of the picture with its number of pixels. Nothing on failure: the work was stopped,
+// out of memory, which the user is told, no picture or one that is not 32-bit.
+std::optional<kirto::ColorValues> CountColors(const BBitmap* picture, const kirto::Work* work) {
     if (!picture) return std::nullopt;
     kirto::ColorValues counts;
     const bool is_32_bit = kirto::Is32Bit(picture->ColorSpace());
-    if (!counts.Ready() || (is_32_bit && !CountPixels(*picture, counts))) {
+    if (!counts.Ready() || (is_32_bit && !CountPicture(*picture, counts, work))) {
         kirto::WarnOutOfMemory();
         return std::nullopt;
     }
+    if (kirto::IsStopped(work)) return std::nullopt;
     if (!is_32_bit) {
         kirto::DebugLine("Palette::BuildHashtable() - Wrong color space given\n");
         return std::nullopt;
@@ -94,9 +107,9 @@ rgb_color ColorOfKey(uint32 key) {
 
 }  // namespace
 
-void Palette::Set(const BBitmap* picture) {
+void Palette::Set(const BBitmap* picture, const kirto::Work* work) {
     mode = kirto::kPaletteOptimal;
-    const auto optimal = MakeNearestColorPalette(picture);
+    const auto optimal = MakeNearestColorPalette(picture, work);
     if (optimal) {
         std::copy(optimal->begin(), optimal->end(), colors.begin());
     } else {
@@ -104,8 +117,9 @@ void Palette::Set(const BBitmap* picture) {
     }
 }
 
-std::optional<std::vector<rgb_color>> Palette::MakeNearestColorPalette(const BBitmap* picture) {
-    const std::optional<kirto::ColorValues> counts = CountColors(picture);
+std::optional<std::vector<rgb_color>> Palette::MakeNearestColorPalette(const BBitmap* picture,
+                                                                       const kirto::Work* work) {
+    const std::optional<kirto::ColorValues> counts = CountColors(picture, work);
     if (!counts) return std::nullopt;
     unique_colors = static_cast<int32>(counts->Items().size());
     bits = BitsFor(unique_colors);
@@ -129,24 +143,26 @@ std::optional<std::vector<rgb_color>> Palette::MakeNearestColorPalette(const BBi
 }
 
 std::unique_ptr<SFHash> Palette::BuildHashtable(const BBitmap* picture) const {
-    const std::optional<kirto::ColorValues> counts = CountColors(picture);
+    const std::optional<kirto::ColorValues> counts = CountColors(picture, nullptr);
     if (!counts) return nullptr;
     std::unique_ptr<SFHash> table = TableOf(*counts);
     if (!table) kirto::WarnOutOfMemory();
     return table;
 }
 
-int32 Palette::CountUniqueColors(const BBitmap* picture) const {
-    const std::optional<kirto::ColorValues> counts = CountColors(picture);
+int32 Palette::CountUniqueColors(const BBitmap* picture, const kirto::Work* work) const {
+    const std::optional<kirto::ColorValues> counts = CountColors(picture, work);
     return counts ? static_cast<int32>(counts->Items().size()) : 0;
 }
 
-void Palette::UpdateIfNeeded(const BBitmap* first_frame, const BBitmap* current_frame) {
+bool Palette::UpdateIfNeeded(const BBitmap* first_frame, const BBitmap* current_frame,
+                             const kirto::Work* work) {
     const int32 kind = mode;
     const BBitmap* picture = nullptr;
     if (kind == kirto::kPaletteFirstFrame) picture = first_frame;
     if (kind == kirto::kPaletteCurrentFrame) picture = current_frame;
-    if (!picture) return;
-    Set(picture);
+    if (!picture) return false;
+    Set(picture, work);
     mode = kind;
+    return true;
 }

@@ -9,6 +9,7 @@
 #include "platform/bitmap.h"
 #include "platform/file.h"
 #include "platform/types.h"
+#include "platform/work.h"
 
 namespace kirto {
 
@@ -52,7 +53,8 @@ class Palette {
     // leave them as they were.
     void Set(int32 kind);
     // Kind 6 with the picture's most frequent colors; on failure web safe.
-    void Set(const BBitmap* picture);
+    // The three that look at each pixel end early, as failures, when the work is stopped.
+    void Set(const BBitmap* picture, const kirto::Work* work = nullptr);
     // Kind 7 with the color table of a GIF or FLI file, recognized by "gif", "GIF", "fli" or "FLI"
     // anywhere in the path, in that order. On failure kind 8 and false; entries may be partly
     // overwritten.
@@ -74,16 +76,18 @@ class Palette {
     // The picture's most frequent colors in falling order, 2^bits of them (opaque black where
     // there are fewer); sets unique_colors, bits and size. Nothing on failure: out of memory (the
     // user is told) or a picture that is not 32-bit.
-    std::optional<std::vector<rgb_color>> MakeNearestColorPalette(const BBitmap* picture);
+    std::optional<std::vector<rgb_color>> MakeNearestColorPalette(
+        const BBitmap* picture, const kirto::Work* work = nullptr);
     // Each color of the picture with its number of pixels, in 65,536 buckets, for iteration; null
     // on failure, as above.
     std::unique_ptr<SFHash> BuildHashtable(const BBitmap* picture) const;
     // Distinct colors in the picture; 0 on failure.
-    int32 CountUniqueColors(const BBitmap* picture) const;
+    int32 CountUniqueColors(const BBitmap* picture, const kirto::Work* work = nullptr) const;
 
     // Recomputes kind 3 from the first frame's picture, kind 4 from the current frame's. Null
-    // pictures and other kinds change nothing.
-    void UpdateIfNeeded(const BBitmap* first_frame, const BBitmap* current_frame);
+    // pictures and other kinds change nothing; false then.
+    bool UpdateIfNeeded(const BBitmap* first_frame, const BBitmap* current_frame,
+                        const kirto::Work* work = nullptr);
 
     // Gives the palette kind 0, 1 or 2 when all 256 entries equal that built-in table; otherwise
     // the kind stays. Entries, size and bits stay.

@@ -19,7 +19,8 @@ const BBitmap* PictureOf(const kirto::FramePointer& frame) {
 AnimationDocument::AnimationDocument(Prefs& settings, BMessenger window_messenger)
     : prefs(settings),
       window(std::move(window_messenger)),
-      pixel_budget(std::make_shared<kirto::PixelBudget>()) {
+      pixel_budget(std::make_shared<kirto::PixelBudget>()),
+      work([this](uint64 piece, int64 done, int64 total) { PostProgress(piece, done, total); }) {
     kirto::DocumentState first;
     first.animation = std::make_shared<const kirto::Animation>();
     first.settings = std::make_shared<const Prefs>(prefs);
@@ -133,15 +134,15 @@ void AnimationDocument::StartHistory() {
 }
 
 bool AnimationDocument::Undo() {
-    const kirto::History::Step* step = history_.Undo();
+    const std::optional<kirto::History::Step> step = history_.Undo();
     if (step) Return(step->before, step->after);
-    return step != nullptr;
+    return step.has_value();
 }
 
 bool AnimationDocument::Redo() {
-    const kirto::History::Step* step = history_.Redo();
+    const std::optional<kirto::History::Step> step = history_.Redo();
     if (step) Return(step->after, step->before);
-    return step != nullptr;
+    return step.has_value();
 }
 
 // Makes the document what it was at the moment. It keeps its file's name, which a save may have
@@ -246,17 +247,27 @@ bool AnimationDocument::Select(int32 i) {
 }
 
 void AnimationDocument::UpdateGlobalPalette() {
-    Change([](kirto::Animation& animation) {
-        kirto::EditPalette(animation, [&animation](Palette& palette) {
-            palette.UpdateIfNeeded(PictureOf(animation.FirstFrame()),
-                                   PictureOf(animation.CurrentFrame()));
-        });
+    const auto before = Current();
+    Palette palette = *before->palette;
+    const bool updated = palette.UpdateIfNeeded(PictureOf(before->FirstFrame()),
+                                                PictureOf(before->CurrentFrame()), &work);
+    if (!updated || StopRequested()) return;
+    Change([&palette](kirto::Animation& animation) {
+        animation.palette = std::make_shared<const Palette>(palette);
     });
 }
 
 void AnimationDocument::PostStatus(const std::string& text) const {
     BMessage message(kirto::kStatusUpdate);
     message.AddString("text", text);
+    window.SendMessage(message);
+}
+
+void AnimationDocument::PostProgress(uint64 piece, int64 done, int64 total) const {
+    BMessage message(kirto::kWorkProgress);
+    message.AddInt64("piece", static_cast<int64>(piece));
+    message.AddInt64("done", done);
+    message.AddInt64("total", total);
     window.SendMessage(message);
 }
 

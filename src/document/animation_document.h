@@ -13,6 +13,7 @@
 #include "document/history.h"
 #include "platform/messenger.h"
 #include "platform/types.h"
+#include "platform/work.h"
 #include "settings/prefs.h"
 
 // The open document: the owner of the one current animation. What it owns is constant; a change is
@@ -92,7 +93,8 @@ class AnimationDocument : public DocumentLock {
     void ReverseFrames();
     // Makes frame i current; true only if the selection changed.
     bool Select(int32 i);
-    // Updates the global palette from the first or the current frame, if its kind says so.
+    // Updates the global palette from the first or the current frame, if its kind says so and the
+    // work is not stopped meanwhile.
     void UpdateGlobalPalette();
 
     // The history of edits. What happens between BeginStep and EndStep is one edit of that name. It
@@ -119,12 +121,16 @@ class AnimationDocument : public DocumentLock {
     // Posts the thumbnail-size command that the setting "thumbnail_height" asks for, if any.
     void PostThumbnailSize() const;
 
-    // Asks work in progress to end before its next frame. Thread-safe; what is done is kept.
-    void RequestStop() { stop_requested_ = true; }
-    bool StopRequested() const { return stop_requested_; }
+    // The command that is being carried out: how far it is, which the window is told by 'awrk', and
+    // whether it is to end early. What is done by then is kept.
+    kirto::Work work;
+    // Stops it and all that follow. Safe in a signal handler.
+    void RequestStop() { work.StopAll(); }
+    bool StopRequested() const { return work.StopRequested(); }
 
   private:
     void PostInserted(bool first) const;
+    void PostProgress(uint64 piece, int64 done, int64 total) const;
     kirto::Moment Now() const;
     void PublishHistory();
     void AddHistory(kirto::DocumentState& state) const;
@@ -137,7 +143,6 @@ class AnimationDocument : public DocumentLock {
         Publish(std::move(next));
     }
 
-    std::atomic<bool> stop_requested_ = false;
     Observer observer_;
     kirto::History history_;
     std::optional<kirto::Moment> before_step_;  // while a step is being made

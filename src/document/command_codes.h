@@ -28,6 +28,17 @@ inline constexpr uint32 kThumbnailPreset = FourCharCode("tvpv");     // the sett
 // Application and codecs to main window: progress. String "text": the status line.
 inline constexpr uint32 kStatusUpdate = FourCharCode("svup");
 
+// Application to main window: how far a command that takes long is. Int64 "piece", by which it is
+// stopped, or 0 when it is over; "done", "total".
+inline constexpr uint32 kWorkProgress = FourCharCode("awrk");
+
+// Status line to main window: stop that. No fields.
+inline constexpr uint32 kStopWork = FourCharCode("wwst");
+
+// Main window to application, which answers with the same: all that was asked for before has been
+// carried out or stopped, work may begin again, and the window is to close. No fields.
+inline constexpr uint32 kQuitWhenDone = FourCharCode("awqd");
+
 // File panels and desktop to application. Refs "refs"; the first only, but for kInsertFiles.
 // kOpenFile: bool "reset", int32 "position"; bool "ask": about unsaved changes, before a reset;
 // bool "panel": false for files that no panel delivered.

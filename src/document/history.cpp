@@ -3,6 +3,7 @@
 namespace kirto {
 
 void History::Record(Step step) {
+    const std::lock_guard lock(mutex_);
     steps_.resize(done_);
     if (saved_ && *saved_ > done_) saved_.reset();
     steps_.push_back(std::move(step));
@@ -10,32 +11,63 @@ void History::Record(Step step) {
 }
 
 void History::Extend(Moment after) {
+    const std::lock_guard lock(mutex_);
     if (done_ == 0) return;
     steps_[done_ - 1].after = std::move(after);
-    if (IsAtSaved()) saved_.reset();
+    if (saved_ == done_) saved_.reset();
 }
 
-const History::Step* History::Undo() {
-    return done_ > 0 ? &steps_[--done_] : nullptr;
+std::optional<History::Step> History::Undo() {
+    const std::lock_guard lock(mutex_);
+    if (done_ == 0) return std::nullopt;
+    return steps_[--done_];
 }
 
-const History::Step* History::Redo() {
-    return done_ < steps_.size() ? &steps_[done_++] : nullptr;
+std::optional<History::Step> History::Redo() {
+    const std::lock_guard lock(mutex_);
+    if (done_ == steps_.size()) return std::nullopt;
+    return steps_[done_++];
+}
+
+size_t History::UndoSteps() const {
+    const std::lock_guard lock(mutex_);
+    return done_;
 }
 
 std::string History::UndoName() const {
+    const std::lock_guard lock(mutex_);
     return done_ > 0 ? steps_[done_ - 1].name : std::string();
 }
 
 std::string History::RedoName() const {
+    const std::lock_guard lock(mutex_);
     return done_ < steps_.size() ? steps_[done_].name : std::string();
 }
 
+void History::MarkSaved() {
+    const std::lock_guard lock(mutex_);
+    saved_ = done_;
+}
+
+bool History::IsAtSaved() const {
+    const std::lock_guard lock(mutex_);
+    return saved_ == done_;
+}
+
 void History::Clear() {
-    *this = History();
+    const std::lock_guard lock(mutex_);
+    steps_.clear();
+    done_ = 0;
+    saved_ = 0;
+}
+
+void History::ForgetSaved() {
+    const std::lock_guard lock(mutex_);
+    saved_.reset();
 }
 
 bool History::DropOne() {
+    const std::lock_guard lock(mutex_);
     if (done_ > 0) {
         steps_.pop_front();
         --done_;

@@ -2,6 +2,7 @@
 
 #include <deque>
 #include <memory>
+#include <mutex>
 #include <optional>
 #include <string>
 
@@ -17,7 +18,8 @@ struct Moment {
 };
 
 // The edits of a document that can be undone and redone, each with the moments before and after it.
-// Moments share all that they have in common. A plain value, used on the document's thread.
+// Moments share all that they have in common. Thread-safe: the document's thread makes history, and
+// any thread that needs pixels may drop steps.
 class History {
   public:
     struct Step {
@@ -30,29 +32,29 @@ class History {
     void Record(Step step);
     // Adds an edit to the last step, whose "after" it replaces.
     void Extend(Moment after);
-    // Mark the next edit as undone or redone and return it; null when there is none. Valid until
-    // the history changes.
-    const Step* Undo();
-    const Step* Redo();
+    // Mark the next edit as undone or redone and return it; empty when there is none.
+    std::optional<Step> Undo();
+    std::optional<Step> Redo();
     // How many edits can be undone.
-    size_t UndoSteps() const { return done_; }
+    size_t UndoSteps() const;
     // Names of those edits; empty when there are none.
     std::string UndoName() const;
     std::string RedoName() const;
 
     // MarkSaved: the document has just been saved. IsAtSaved: it is in its saved state.
-    void MarkSaved() { saved_ = done_; }
-    bool IsAtSaved() const { return saved_ == done_; }
+    void MarkSaved();
+    bool IsAtSaved() const;
 
     // Forgets everything; the document counts as saved.
     void Clear();
     // The document has a saved state no longer, or never had one.
-    void ForgetSaved() { saved_.reset(); }
+    void ForgetSaved();
     // Forgets the oldest step, or, when none can be undone, the last that could be redone. Returns
     // false when there is nothing to forget.
     bool DropOne();
 
   private:
+    mutable std::mutex mutex_;  // guards everything below
     std::deque<Step> steps_;
     size_t done_ = 0;  // how many of them are in effect; the others are undone
     // The value of done_ at the last save; empty when that state can't be reached anymore.

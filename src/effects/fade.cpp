@@ -17,20 +17,18 @@ bool IsBlendable(const FramePointer& frame) {
     return frame && frame->bitmap && frame->bitmap->Bits() && Is32Bit(frame->bitmap->ColorSpace());
 }
 
-// Blends each row as far as both pictures reach; beyond the other one the current pixels stay.
-void BlendFrames(const BBitmap& current, const BBitmap& other, BBitmap* target, float f) {
+// Blends a row as far as both pictures reach; beyond the other one the current pixels stay.
+void BlendRow(const BBitmap& current, const BBitmap& other, BBitmap* target, int32 y, float f) {
     const color_space space = current.ColorSpace();
     const int32 width = target->Width();
-    for (int32 y = 0; y < target->Height(); ++y) {
-        const int32 common = y < other.Height() ? std::min(width, other.Width()) : 0;
-        const size_t rest = static_cast<size_t>(common) * 4;
-        if (common > 0) {
-            FadeToFrame(current.Row(y), space, other.Row(y), other.ColorSpace(), target->Row(y),
-                        common, 1, f);
-        }
-        FadeToFrame(current.Row(y) + rest, space, current.Row(y) + rest, space,
-                    target->Row(y) + rest, width - common, 1, 1.0f);
+    const int32 common = y < other.Height() ? std::min(width, other.Width()) : 0;
+    const size_t rest = static_cast<size_t>(common) * 4;
+    if (common > 0) {
+        FadeToFrame(current.Row(y), space, other.Row(y), other.ColorSpace(), target->Row(y), common,
+                    1, f);
     }
+    FadeToFrame(current.Row(y) + rest, space, current.Row(y) + rest, space, target->Row(y) + rest,
+                width - common, 1, 1.0f);
 }
 
 // What a fade is made of.
@@ -41,18 +39,20 @@ struct FadePlan {
     FramePointer other;  // the neighbour; null for fades of a colour
 };
 
-// A picture of the fade, or null when memory is short.
+// A picture of the fade, or null when memory is short. Not complete when the work was stopped.
 std::shared_ptr<const BBitmap> MakePicture(const FadePlan& plan, float f,
-                                           std::shared_ptr<PixelBudget> budget) {
+                                           std::shared_ptr<PixelBudget> budget, const Work& work) {
     const BBitmap& current = *plan.current->bitmap;
     auto picture = std::make_shared<BBitmap>(BRect::OfSize(current.Width(), current.Height()),
                                              B_RGB32, std::move(budget));
     if (picture->InitCheck() != B_OK) return nullptr;
-    if (plan.other) {
-        BlendFrames(current, *plan.other->bitmap, picture.get(), f);
-    } else {
-        FadeToRGB(current.Bits(), current.ColorSpace(), picture->Bits(), current.Width(),
-                  current.Height(), f, plan.mode == FadeMode::kToColor, plan.color);
+    for (int32 y = 0; y < picture->Height() && !work.StopRequested(); ++y) {
+        if (plan.other) {
+            BlendRow(current, *plan.other->bitmap, picture.get(), y, f);
+        } else {
+            FadeToRGB(current.Row(y), current.ColorSpace(), picture->Row(y), current.Width(), 1, f,
+                      plan.mode == FadeMode::kToColor, plan.color);
+        }
     }
     return picture;
 }
@@ -75,36 +75,44 @@ float FadeFactor(FadeMode mode, int32 i, int32 count) {
     return static_cast<float>((step + 1) / (steps + 1));
 }
 
-void Fade(AnimationDocument& document, FadeMode mode, int32 count, rgb_color color,
+bool Fade(AnimationDocument& document, FadeMode mode, int32 count, rgb_color color,
           int32* name_base) {
     const auto before = document.Current();
     FadePlan plan{mode, color, before->CurrentFrame(), nullptr};
-    if (!IsBlendable(plan.current)) return;
+    if (!IsBlendable(plan.current)) return true;
     const bool between = mode == FadeMode::kToNext || mode == FadeMode::kFromPrevious;
     const bool after = mode == FadeMode::kToColor || mode == FadeMode::kToNext;
     if (between) {
         plan.other = before->frames.At(before->selected + (after ? 1 : -1));
-        if (!IsBlendable(plan.other)) return;
+        if (!IsBlendable(plan.other)) return true;
     }
-    int32 position = before->selected + (after ? 1 : 0);
+    const int32 first = before->selected + (after ? 1 : 0);
+    int32 position = first;
     for (int32 i = 0; i < count && !document.StopRequested(); ++i) {
         Frame frame(Format("fade%04d", *name_base + i), plan.current->bitmap->Width(),
                     plan.current->bitmap->Height());
         const std::shared_ptr<Palette> palette = SharePalette();
         if (palette) {
             document.PostStatus(Format("Status: generating frame %d of %d...", i + 1, count));
-            frame.bitmap = MakePicture(plan, FadeFactor(mode, i, count), document.pixel_budget);
+            document.work.Report(i, count);
+            frame.bitmap =
+                MakePicture(plan, FadeFactor(mode, i, count), document.pixel_budget, document.work);
         }
         if (!frame.bitmap) {
             WarnOutOfMemory();
-            return;
+            return true;
         }
-        palette->Set(frame.bitmap.get());
+        palette->Set(frame.bitmap.get(), &document.work);
+        if (document.StopRequested()) break;
         frame.palette = palette;
         document.InsertFrame(position++, std::move(frame));
     }
-    document.SetModified(true);
-    *name_base += kNamesPerFade;
+    const bool complete = position - first >= count;
+    if (complete || position > first) {
+        document.SetModified(true);
+        *name_base += kNamesPerFade;
+    }
+    return complete;
 }
 
 }  // namespace kirto

@@ -22,8 +22,8 @@ float FadeFactor(FadeMode mode, int32 i, int32 count);
 // frame, the current frame's pixels are kept; pictures are aligned at the top left. Runs on the
 // application's thread. *name_base numbers the frames' names and grows by
 // 100 after a fade that ran to its end; running out of memory is reported and ends the fade, the
-// frames inserted so far stay.
-void Fade(AnimationDocument& document, FadeMode mode, int32 count, rgb_color color,
+// frames inserted so far stay. So they do when the document's work is stopped: false then.
+bool Fade(AnimationDocument& document, FadeMode mode, int32 count, rgb_color color,
           int32* name_base);
 
 }  // namespace kirto

@@ -56,22 +56,25 @@ class UnsupportedFiles {
 
 }  // namespace
 
-void InsertImages(AnimationDocument& document, const BMessage& message, BTranslatorRoster& roster) {
+bool InsertImages(AnimationDocument& document, const BMessage& message, BTranslatorRoster& roster) {
     int32 position = PositionIn(document, message);
     const int32 count = message.CountItems("refs");
     UnsupportedFiles unsupported;
-    for (int32 i = 0; i < count && !document.StopRequested(); ++i) {
+    for (int32 i = 0; i < count; ++i) {
+        if (document.StopRequested()) return false;
         document.PostStatus(Format("Status: loading frame %d of %d...", i + 1, count));
+        document.work.Report(i, count);
         entry_ref ref;
         if (message.FindRef("refs", &ref, i) != B_OK) break;
         position = std::clamp(position, 0, document.FrameCount());
         Frame frame;
-        const status_t status =
-            Frame::Read(ref.path, ref.Leaf(), roster, document.pixel_budget, &frame);
+        const status_t status = Frame::Read(ref.path, ref.Leaf(), roster, document.pixel_budget,
+                                            &frame, &document.work);
+        if (status == B_CANCELED) return false;
         if (status == B_NO_MEMORY) {
             unsupported.TellTheRest();
             WarnOutOfMemory();
-            return;
+            return true;
         }
         if (status != B_OK) {
             unsupported.Add(ref.Leaf());
@@ -81,6 +84,7 @@ void InsertImages(AnimationDocument& document, const BMessage& message, BTransla
         ++position;
     }
     unsupported.TellTheRest();
+    return true;
 }
 
 }  // namespace kirto

@@ -11,7 +11,8 @@ namespace kirto {
 // the int32 "position" says (clamped to the list; -1 and no field mean after the current frame),
 // and makes the last one current. Files that no translator reads are reported and skipped; a ref
 // without a file name ends the insertion, and so does running out of memory, which is reported.
-// Runs on the application's thread; the frames inserted so far stay.
-void InsertImages(AnimationDocument& document, const BMessage& message, BTranslatorRoster& roster);
+// Runs on the application's thread; the frames inserted so far stay. False when the document's work
+// was stopped before the last file.
+bool InsertImages(AnimationDocument& document, const BMessage& message, BTranslatorRoster& roster);
 
 }  // namespace kirto

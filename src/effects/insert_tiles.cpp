@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "platform/alert.h"
+#include "platform/picture_files.h"
 #include "platform/text.h"
 
 namespace kirto {
@@ -14,12 +15,13 @@ namespace {
 constexpr const char* kIllegalGrid =
     "This frame can't be inserted because the number of rows or columns is illegal.";
 
-// The file's picture, or null after telling the user why there is none.
+// The file's picture, or null: because the work was stopped, or after telling the user why.
 std::shared_ptr<BBitmap> ReadPicture(AnimationDocument& document, const entry_ref& ref,
                                      BTranslatorRoster& roster) {
-    BFile file(ref.path, B_READ_ONLY);
     std::shared_ptr<BBitmap> picture;
-    const status_t status = roster.Translate(file, document.pixel_budget, &picture);
+    const status_t status =
+        ReadPicture(ref.path, roster, document.pixel_budget, &document.work, &picture);
+    if (status == B_CANCELED) return nullptr;
     if (status == B_NO_MEMORY) {
         WarnOutOfMemory();
         return nullptr;
@@ -47,7 +49,7 @@ TilePlace PlaceOf(int32 tile, const TileGrid& grid) {
 
 // A frame of one tile, or none when memory is short.
 std::optional<Frame> MakeTile(const BBitmap& picture, int32 tile, const TileGrid& grid,
-                              std::shared_ptr<PixelBudget> budget) {
+                              std::shared_ptr<PixelBudget> budget, const Work& work) {
     const std::shared_ptr<Palette> palette = SharePalette();
     if (!palette) return std::nullopt;
     Frame frame(Format("tiled%04d", tile), picture.Width() / grid.columns,
@@ -57,7 +59,7 @@ std::optional<Frame> MakeTile(const BBitmap& picture, int32 tile, const TileGrid
     if (bitmap->InitCheck() != B_OK) return std::nullopt;
     const TilePlace place = PlaceOf(tile, grid);
     CopyTile(picture, place.row, place.column, bitmap.get());
-    palette->Set(static_cast<const BBitmap*>(bitmap.get()));
+    palette->Set(static_cast<const BBitmap*>(bitmap.get()), &work);
     frame.palette = palette;
     frame.bitmap = bitmap;
     return frame;
@@ -73,28 +75,31 @@ void CopyTile(const BBitmap& picture, int32 row, int32 column, BBitmap* tile) {
     }
 }
 
-void InsertTiles(AnimationDocument& document, const entry_ref* ref, const TileGrid& grid,
+bool InsertTiles(AnimationDocument& document, const entry_ref* ref, const TileGrid& grid,
                  BTranslatorRoster& roster) {
     if (grid.rows <= 0 || grid.columns <= 0) {
         Warn(kIllegalGrid);
-        return;
+        return true;
     }
-    int32 position = document.Selected() + 1;
-    if (!ref) return;
+    const int32 first = document.Selected() + 1;
+    int32 position = first;
+    if (!ref) return true;
     const std::shared_ptr<BBitmap> picture = ReadPicture(document, *ref, roster);
-    if (!picture) return;
+    if (!picture) return !document.StopRequested();
     const int64 tiles = int64{grid.rows} * grid.columns;
     if (grid.rows > picture->Height() || grid.columns > picture->Width() || tiles > INT32_MAX) {
         Warn(kIllegalGrid);
-        return;
+        return true;
     }
     const int32 count = static_cast<int32>(tiles);
     for (int32 tile = 0; tile < count && !document.StopRequested(); ++tile) {
         document.PostStatus(Format("Status: loading tile %d of %d...", tile + 1, count));
-        auto frame = MakeTile(*picture, tile, grid, document.pixel_budget);
+        document.work.Report(tile, count);
+        auto frame = MakeTile(*picture, tile, grid, document.pixel_budget, document.work);
+        if (document.StopRequested()) break;
         if (!frame) {
             WarnOutOfMemory();
-            return;
+            return true;
         }
         const int32 width = frame->width;
         const int32 height = frame->height;
@@ -107,7 +112,9 @@ void InsertTiles(AnimationDocument& document, const entry_ref* ref, const TileGr
         }
         ++position;
     }
-    document.SetModified(true);
+    const bool complete = position - first == count;
+    if (complete || position > first) document.SetModified(true);
+    return complete;
 }
 
 }  // namespace kirto

@@ -22,8 +22,9 @@ void CopyTile(const BBitmap& picture, int32 row, int32 column, BBitmap* tile);
 // and the bottom belongs to no tile) and inserts each as a frame after the current one. Grids
 // without rows or columns, or with more of them than pixels, unreadable files and running out of
 // memory are reported; in the last case the tiles inserted so far stay. A valid grid without a file
-// (null) does nothing. Runs on the application's thread.
-void InsertTiles(AnimationDocument& document, const entry_ref* ref, const TileGrid& grid,
+// (null) does nothing. Runs on the application's thread. False when the document's work was stopped
+// before the last tile; those inserted stay.
+bool InsertTiles(AnimationDocument& document, const entry_ref* ref, const TileGrid& grid,
                  BTranslatorRoster& roster);
 
 }  // namespace kirto

@@ -17,18 +17,18 @@ constexpr int64 kLargestFile = int64{1} << 56;
 
 }  // namespace
 
-FliInput::FliInput(BFile& file)
-    : file_(file), work_left_(kSlack + kWorkPerByte * std::min(file.Size(), kLargestFile)) {}
+FliInput::FliInput(BFile& file, Work& work)
+    : input_(file, work), work_left_(kSlack + kWorkPerByte * std::min(file.Size(), kLargestFile)) {}
 
 bool FliInput::Read(std::span<uint8> buffer) {
     const int64 size = static_cast<int64>(buffer.size());
-    return Spend(kReadCost + size) && file_.ReadExactly(buffer.data(), buffer.size());
+    return Spend(kReadCost + size) && input_.Read(buffer.data(), buffer.size());
 }
 
 bool FliInput::ReadBlock(int64 size, std::span<const uint8>* block) {
     *block = {};
     if (size == 0) return true;
-    if (size < 0 || size > file_.Size() - file_.Position()) return false;
+    if (size < 0 || size > input_.Size() - input_.Position()) return false;
     const size_t count = static_cast<size_t>(size);
     if (count > capacity_) {
         block_ = AllocateArray<uint8>(count);
@@ -40,12 +40,12 @@ bool FliInput::ReadBlock(int64 size, std::span<const uint8>* block) {
 }
 
 bool FliInput::Skip(int64 distance) {
-    return file_.Seek(distance, SEEK_FROM_CURRENT) >= 0;
+    return input_.Skip(distance);
 }
 
 bool FliInput::StartRecord() {
-    if (file_.Position() <= furthest_record_) return false;
-    furthest_record_ = file_.Position();
+    if (input_.Position() <= furthest_record_) return false;
+    furthest_record_ = input_.Position();
     return true;
 }
 

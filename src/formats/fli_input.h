@@ -3,8 +3,8 @@
 #include <span>
 
 #include "platform/allocation.h"
-#include "platform/file.h"
 #include "platform/types.h"
+#include "platform/watched_input.h"
 
 namespace kirto {
 
@@ -14,8 +14,8 @@ namespace kirto {
 // file that asks for much more than its size explains ends as if it were cut off.
 class FliInput {
   public:
-    // file: outlives this. Positioned by its owner.
-    explicit FliInput(BFile& file);
+    // file, work: outlive this. The file is positioned by its owner.
+    FliInput(BFile& file, Work& work);
 
     // True when the buffer was filled from the file's position.
     bool Read(std::span<uint8> buffer);
@@ -36,7 +36,7 @@ class FliInput {
     void Allow(int64 work) { work_left_ += work; }
 
   private:
-    BFile& file_;
+    WatchedInput input_;
     int64 work_left_;
     int64 furthest_record_ = -1;  // where the record furthest on starts
     AllocatedArray<uint8> block_;

@@ -55,7 +55,7 @@ bool HasPixelsToCopy(const BBitmap* bitmap) {
 }  // namespace
 
 FliLoad::FliLoad(BFile* file, int32 start, AnimationDocument& document)
-    : input_(*file), document_(document), position_(start) {
+    : input_(*file, document.work), document_(document), position_(start) {
     if (file->InitCheck() != B_OK || !ReadFliHeader()) {
         failed = true;
         return;
@@ -179,8 +179,7 @@ bool FliLoad::ChargeFrame(int64 picture_bytes) {
 bool FliLoad::CopyPreviousFrame() {
     const kirto::FramePointer previous = document_.FrameAt(position_ - 1);
     if (!previous || !HasPixelsToCopy(previous->bitmap.get())) return false;
-    std::memcpy(picture_->Bits(), previous->bitmap->Bits(),
-                std::min(picture_->BitsLength(), previous->bitmap->BitsLength()));
+    if (!kirto::CopyPixels(*previous->bitmap, *picture_, document_.work)) return false;
     if (previous->local_palette) TakeLocalPalette(*previous->palette);
     return true;
 }
@@ -239,10 +238,11 @@ bool FliLoad::SkipUnknownChunk(const Chunk& chunk) {
 bool FliLoad::FinishFrame() {
     const BBitmap* picture = picture_.get();
     if (frame_.local_palette) {
-        local_palette_->unique_colors = local_palette_->CountUniqueColors(picture);
+        local_palette_->unique_colors = local_palette_->CountUniqueColors(picture, &document_.work);
     } else {
-        local_palette_->Set(picture);
+        local_palette_->Set(picture, &document_.work);
     }
+    if (document_.StopRequested()) return false;
     frame_.palette = std::move(local_palette_);
     frame_.bitmap = std::move(picture_);
     return document_.InsertFrame(position_, std::move(frame_));
@@ -282,7 +282,7 @@ bool FliLoad::ReadFliLCChunk(int64 size) {
     ByteReader reader(data);
     FliPixelWriter writer = Writer();
     int32 y = reader.U16();
-    for (int32 lines = reader.U16(); lines > 0 && !reader.Overrun(); --lines, ++y) {
+    for (int32 lines = reader.U16(); lines > 0 && GoesOn(reader); --lines, ++y) {
         writer.MoveToRow(y);
         DrawPackets(kirto::DrawLcPacket, reader.U8(), reader, writer);
     }
@@ -295,7 +295,7 @@ bool FliLoad::ReadFliBRUNChunk(int64 size) {
     if (!input_.ReadBlock(size, &data)) return false;
     ByteReader reader(data);
     FliPixelWriter writer = Writer();
-    for (int32 rows = height_; rows > 0 && !reader.Overrun(); --rows) {
+    for (int32 rows = height_; rows > 0 && GoesOn(reader); --rows) {
         DrawPackets(kirto::DrawBrunPacket, reader.U8(), reader, writer);
     }
     return true;
@@ -305,7 +305,10 @@ bool FliLoad::ReadFliBRUNChunk(int64 size) {
 bool FliLoad::ReadFliCOPYChunk() {
     std::span<const uint8> data;
     if (!input_.ReadBlock(int64{width_} * height_, &data)) return false;
-    Writer().Copy(data);
+    FliPixelWriter writer = Writer();
+    const size_t row = static_cast<size_t>(width_);
+    for (; !data.empty() && !document_.StopRequested(); data = data.subspan(row))
+        writer.Copy(data.first(row));
     return true;
 }
 
@@ -317,7 +320,7 @@ bool FliLoad::ReadFliDELTAChunk(int64 size) {
     ByteReader reader(data);
     FliPixelWriter writer = Writer();
     int32 lines = reader.U16();
-    for (int64 y = 0; lines > 0 && !reader.Overrun();) {
+    for (int64 y = 0; lines > 0 && GoesOn(reader);) {
         const int32 word = reader.S16();
         if (word < 0) {
             y -= word;
@@ -354,8 +357,13 @@ void FliLoad::StartPicture() {
     if (!blank_) return;
     blank_ = false;
     static constexpr uint8 kOpaqueBlack[4] = {0, 0, 0, 255};
-    uint8* bits = picture_->Bits();
-    for (size_t i = 0; i < picture_->BitsLength(); i += sizeof(kOpaqueBlack)) {
-        std::memcpy(bits + i, kOpaqueBlack, sizeof(kOpaqueBlack));
+    for (int32 y = 0; y < height_ && !document_.StopRequested(); ++y) {
+        uint8* row = picture_->Row(y);
+        for (size_t i = 0; i < picture_->BytesPerRow(); i += sizeof(kOpaqueBlack))
+            std::memcpy(row + i, kOpaqueBlack, sizeof(kOpaqueBlack));
     }
+}
+
+bool FliLoad::GoesOn(const ByteReader& reader) const {
+    return !reader.Overrun() && !document_.StopRequested();
 }

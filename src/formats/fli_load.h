@@ -6,6 +6,7 @@
 #include "document/animation_document.h"
 #include "formats/fli_input.h"
 #include "formats/fli_pixel_writer.h"
+#include "platform/byte_reader.h"
 #include "platform/file.h"
 #include "platform/types.h"
 
@@ -57,6 +58,8 @@ class FliLoad {
     bool ReadFliDELTAChunk(int64 size);
     bool ReadFliMINIChunk(int64 size);
     bool ReadFliBLACKChunk();
+    // Whether there is more to draw of a chunk's data.
+    bool GoesOn(const kirto::ByteReader& reader) const;
     kirto::FliPixelWriter Writer();
     void StartPicture();
 

@@ -27,10 +27,11 @@ constexpr int32 kDisposalBackground = 2;
 constexpr rgb_color kDrawnTransparent = {255, 255, 255, 128};
 constexpr rgb_color kPlainTransparent = {128, 128, 128, 128};
 
-void FillRows(BBitmap& bitmap, int32 top, int32 bottom, int32 left, int32 right, uint32 pixel) {
+void FillRows(BBitmap& bitmap, int32 top, int32 bottom, int32 left, int32 right, uint32 pixel,
+              const kirto::Work& work) {
     bottom = std::min(bottom, bitmap.Height());
     right = std::min(right, bitmap.Width());
-    for (int32 y = std::max(top, 0); y < bottom; ++y) {
+    for (int32 y = std::max(top, 0); y < bottom && !work.StopRequested(); ++y) {
         uint8* row = bitmap.Row(y);
         for (int32 x = std::max(left, 0); x < right; ++x) {
             std::memcpy(row + static_cast<size_t>(x) * 4, &pixel, 4);
@@ -41,7 +42,7 @@ void FillRows(BBitmap& bitmap, int32 top, int32 bottom, int32 left, int32 right,
 }  // namespace
 
 GifLoad::GifLoad(BFile* file, int32 start, AnimationDocument& document)
-    : file_(file),
+    : input_(*file, document.work),
       document_(document),
       start_(start),
       next_position_(start),
@@ -53,7 +54,7 @@ GifLoad::GifLoad(BFile* file, int32 start, AnimationDocument& document)
     }
     uint8 introducer = 0;
     do {
-        if (!file_->ReadExactly(&introducer, 1) || !ReadBlock(introducer)) {
+        if (!input_.Read(&introducer, 1) || !ReadBlock(introducer)) {
             failed = true;
             return;
         }
@@ -70,7 +71,7 @@ void GifLoad::Init() {
 
 bool GifLoad::ReadGifHeader() {
     uint8 header[13];
-    if (!file_->ReadExactly(header, sizeof(header))) return false;
+    if (!input_.Read(header, sizeof(header))) return false;
     width_ = kirto::ReadLittle16(header + 6);
     height_ = kirto::ReadLittle16(header + 8);
     global_palette_ = *document_.Current()->palette;
@@ -117,10 +118,11 @@ bool GifLoad::ReadImage() {
 bool GifLoad::FinishFrame() {
     const BBitmap* picture = picture_.get();
     if (frame_.local_palette) {
-        local_palette_->unique_colors = local_palette_->CountUniqueColors(picture);
+        local_palette_->unique_colors = local_palette_->CountUniqueColors(picture, &document_.work);
     } else {
-        local_palette_->Set(picture);
+        local_palette_->Set(picture, &document_.work);
     }
+    if (document_.StopRequested()) return false;
     frame_.palette = std::move(local_palette_);
     frame_.bitmap = std::move(picture_);
     return document_.InsertFrame(next_position_, std::move(frame_));
@@ -128,7 +130,7 @@ bool GifLoad::FinishFrame() {
 
 bool GifLoad::ReadExtension() {
     uint8 label = 0;
-    if (!file_->ReadExactly(&label, 1)) return false;
+    if (!input_.Read(&label, 1)) return false;
     switch (label) {
         case kGraphicControlLabel:
             return ReadGifControlBlock();
@@ -145,13 +147,13 @@ bool GifLoad::ReadGifLoopBlock() {
     static constexpr char kIdentifier[12] = "NETSCAPE2.0";
     uint8 size = 0;
     std::array<uint8, 256> block{};
-    if (!file_->ReadExactly(&size, 1) || !file_->ReadExactly(block.data(), size)) return false;
+    if (!input_.Read(&size, 1) || !input_.Read(block.data(), size)) return false;
     if (std::memcmp(block.data(), kIdentifier, sizeof(kIdentifier)) != 0) return SkipSubBlocks();
 
     // One read takes the sub-block and the terminator after it.
     block.fill(0);
-    if (!file_->ReadExactly(&size, 1)) return false;
-    if (!file_->ReadExactly(block.data(), static_cast<size_t>(size) + 1)) return false;
+    if (!input_.Read(&size, 1)) return false;
+    if (!input_.Read(block.data(), static_cast<size_t>(size) + 1)) return false;
     // What the sub-block is too short for counts as 0; the terminator is no part of the count.
     std::fill(block.begin() + size, block.end(), uint8{0});
     document_.Change([&block](kirto::Animation& animation) {
@@ -163,7 +165,7 @@ bool GifLoad::ReadGifLoopBlock() {
 
 bool GifLoad::ReadGifControlBlock() {
     uint8 block[6];
-    if (!file_->ReadExactly(block, sizeof(block))) return false;
+    if (!input_.Read(block, sizeof(block))) return false;
     // Never cleared: a transparent index stays in force for all later images of the file.
     if ((block[1] & 1) != 0) {
         global_palette_.use_transparent = true;
@@ -187,7 +189,7 @@ bool GifLoad::ReadGifCommentBlock() {
     std::string text = "\n";
     uint8 size = 0;
     char block[256] = {};
-    while (file_->ReadExactly(&size, 1) && file_->ReadExactly(block, size)) {
+    while (input_.Read(&size, 1) && input_.Read(block, size)) {
         block[size] = 0;
         if (size == 0) {
             kirto::DebugLine("%s\n", text.c_str());
@@ -211,15 +213,15 @@ bool GifLoad::ReadGifUnknownBlock(uint8 label) {
 bool GifLoad::SkipSubBlocks() {
     uint8 size = 0;
     do {
-        if (!file_->ReadExactly(&size, 1)) return false;
-        file_->Seek(size, SEEK_FROM_CURRENT);
+        if (!input_.Read(&size, 1)) return false;
+        input_.Skip(size);
     } while (size != 0);
     return true;
 }
 
 bool GifLoad::ReadGifImageHeader() {
     uint8 header[9];
-    if (!file_->ReadExactly(header, sizeof(header))) return false;
+    if (!input_.Read(header, sizeof(header))) return false;
     frame_.x_offset = kirto::ReadLittle16(header);
     frame_.y_offset = kirto::ReadLittle16(header + 2);
     frame_.width = kirto::ReadLittle16(header + 4);
@@ -251,7 +253,7 @@ bool GifLoad::ReadColorTable(Palette* palette, int32 bits) {
     palette->size = 1 << bits;
     uint8 table[256 * 3];
     const size_t count = static_cast<size_t>(palette->size);
-    if (!file_->ReadExactly(table, count * 3)) return false;
+    if (!input_.Read(table, count * 3)) return false;
     for (size_t i = 0; i < count; ++i) {
         palette->colors[i] = {table[i * 3], table[i * 3 + 1], table[i * 3 + 2], 255};
     }
@@ -265,15 +267,14 @@ bool GifLoad::FrameDisposal() {
     if (!previous || !previous->bitmap || !kirto::IsLittleEndian(previous->bitmap->ColorSpace()))
         return false;
     if (!previous->bitmap->Bits() || !picture_->Bits()) return false;
-    std::memcpy(picture_->Bits(), previous->bitmap->Bits(),
-                std::min(picture_->BitsLength(), previous->bitmap->BitsLength()));
+    if (!kirto::CopyPixels(*previous->bitmap, *picture_, document_.work)) return false;
     if (previous_disposal_ == -1) previous_disposal_ = 0;
     if (previous_disposal_ == kDisposalBackground) {
         // A frame decoded at full size claims the whole screen as its rectangle, so this clears
         // the whole canvas, not only what the image before had drawn. Intended.
         FillRows(*picture_, previous->y_offset, previous->y_offset + previous->height,
                  previous->x_offset, previous->x_offset + previous->width,
-                 kirto::PixelOf(BackgroundColor()));
+                 kirto::PixelOf(BackgroundColor()), document_.work);
     }
     return true;
 }
@@ -282,7 +283,7 @@ bool GifLoad::FrameDisposal() {
 bool GifLoad::FillBackground() {
     if (CoversScreen() || previous_disposal_ != kDisposalBackground) return true;
     if (!picture_->Bits()) return false;
-    FillRows(*picture_, 0, height_, 0, width_, kirto::PixelOf(BackgroundColor()));
+    FillRows(*picture_, 0, height_, 0, width_, kirto::PixelOf(BackgroundColor()), document_.work);
     return true;
 }
 
@@ -308,7 +309,7 @@ bool GifLoad::ReadGifImageData() {
         area.top = frame_.y_offset;
     }
     kirto::GifPixelWriter writer(*picture_, area, interlaced_, colors);
-    kirto::GifLzwDecoder decoder(*file_, min_code_size);
+    kirto::GifLzwDecoder decoder(input_, min_code_size);
     if (!decoder.Decode(writer)) return false;
     if (full_frame_) {
         frame_.width = width_;
@@ -324,7 +325,7 @@ bool GifLoad::ReadGifImageData() {
 bool GifLoad::ReadCodeSize(int32* min_code_size) {
     const int32 expected = std::max(CurrentPalette().bits, 2);
     uint8 byte = 0;
-    file_->ReadExactly(&byte, 1);
+    input_.Read(&byte, 1);
     const int32 actual = byte == 1 ? 2 : byte;
     *min_code_size = actual;
     if (actual < expected || actual > kirto::GifLzwDecoder::kMaxMinCodeSize) {

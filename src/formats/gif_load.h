@@ -2,8 +2,8 @@
 
 #include "animation/frame.h"
 #include "document/animation_document.h"
-#include "platform/file.h"
 #include "platform/types.h"
+#include "platform/watched_input.h"
 
 // Reads a GIF file (87a or 89a) into a document, one Frame per image. The constructor does all the
 // work, on the editing thread; each frame is inserted as soon as it is decoded and stays when a
@@ -44,7 +44,7 @@ class GifLoad {
     const Palette& CurrentPalette() const;
     rgb_color BackgroundColor() const;
 
-    BFile* file_;
+    kirto::WatchedInput input_;
     AnimationDocument& document_;
     const int32 start_;
     int32 next_position_;

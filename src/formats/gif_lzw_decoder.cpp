@@ -5,8 +5,8 @@
 
 namespace kirto {
 
-GifLzwDecoder::GifLzwDecoder(BFile& file, int32 min_code_size)
-    : file_(file),
+GifLzwDecoder::GifLzwDecoder(WatchedInput& input, int32 min_code_size)
+    : input_(input),
       min_code_size_(min_code_size),
       clear_code_(1 << min_code_size),
       end_code_(clear_code_ + 1) {
@@ -100,12 +100,12 @@ int32 GifLzwDecoder::NextCode() {
     while (bit_count_ < code_size_) {
         if (block_position_ == block_size_) {
             uint8 size = 0;
-            if (!file_.ReadExactly(&size, 1)) return kReadError;
+            if (!input_.Read(&size, 1)) return kReadError;
             if (size == 0) {
                 terminator_seen_ = true;
                 return end_code_;
             }
-            if (!file_.ReadExactly(block_.data(), size)) return kReadError;
+            if (!input_.Read(block_.data(), size)) return kReadError;
             block_size_ = size;
             block_position_ = 0;
         }
@@ -122,9 +122,9 @@ int32 GifLzwDecoder::NextCode() {
 // Passes over what follows the end code. A file that ends here has still delivered the whole image.
 void GifLzwDecoder::SkipRest() {
     uint8 size = 0;
-    while (!terminator_seen_ && file_.ReadExactly(&size, 1)) {
+    while (!terminator_seen_ && input_.Read(&size, 1)) {
         terminator_seen_ = size == 0;
-        file_.Seek(size, SEEK_FROM_CURRENT);
+        input_.Skip(size);
     }
 }
 

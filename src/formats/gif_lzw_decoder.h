@@ -2,8 +2,8 @@
 
 #include <array>
 
-#include "platform/file.h"
 #include "platform/types.h"
+#include "platform/watched_input.h"
 
 namespace kirto {
 
@@ -17,12 +17,12 @@ class GifLzwDecoder {
     // Code sizes from 2 to this one can be decoded; pixel values are cut to 8 bits.
     static constexpr int32 kMaxMinCodeSize = 11;
 
-    // file: at the first sub-block. min_code_size: 2 to kMaxMinCodeSize.
-    GifLzwDecoder(BFile& file, int32 min_code_size);
+    // input: at the first sub-block. min_code_size: 2 to kMaxMinCodeSize.
+    GifLzwDecoder(WatchedInput& input, int32 min_code_size);
 
     // Hands every pixel's index to the writer. True when the data ended with the end code or a
-    // zero-length sub-block; false when the file ended before, or when a clear code is followed by
-    // the end.
+    // zero-length sub-block; false when the file ended before, when the work was stopped, or when a
+    // clear code is followed by the end.
     bool Decode(GifPixelWriter& writer);
 
   private:
@@ -46,7 +46,7 @@ class GifLzwDecoder {
     void Emit(int32 string, GifPixelWriter& writer);
     void SkipRest();
 
-    BFile& file_;
+    WatchedInput& input_;
     const int32 min_code_size_;
     const int32 clear_code_;
     const int32 end_code_;

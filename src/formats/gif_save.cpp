@@ -36,10 +36,11 @@ int32 BitWidth(uint8 value) {
 
 // The largest of the indices that pixels get whatever the number of entries in use: the transparent
 // one, and the levels of the grey ramp.
-uint8 LargestUnboundIndex(const Frame& frame, const Palette& palette, uint8 transparent) {
+uint8 LargestUnboundIndex(const Frame& frame, const Palette& palette, uint8 transparent,
+                          const kirto::Work& work) {
     const bool grey_ramp = palette.mode == kirto::kPaletteGreyscale;
     uint8 largest = 0;
-    for (int32 y = 0; y < frame.height; ++y) {
+    for (int32 y = 0; y < frame.height && !work.StopRequested(); ++y) {
         for (int32 x = 0; x < frame.width; ++x) {
             const rgb_color color = kirto::PixelColor(frame.bitmap.get(), x, y);
             if (color.alpha < 255) {
@@ -59,6 +60,7 @@ GifSave::GifSave(std::shared_ptr<BFile> file, AnimationDocument& document)
       document_(document),
       animation_(document.Current()),
       interlaced_(document.prefs.animation_gifinterlaced),
+      rows_(CountRows()),
       mapper_(LowByte(animation_->palette->transparent_index), animation_->palette->dither,
               WidestFrame()) {
     WriteGifHeader();
@@ -132,6 +134,8 @@ void GifSave::WriteGifImageData(const Frame& frame) {
     kirto::GifLzwEncoder encoder(*file_, std::max(encoding_.bits, 2));
     std::vector<uint8> indices;
     for (kirto::GifRowOrder rows(frame.height, interlaced_); !rows.Done(); rows.Next()) {
+        document_.work.Report(rows_written_++, rows_);
+        if (document_.StopRequested()) return;
         mapper_.MapRow(frame.bitmap.get(), rows.Row(), frame.width, &indices);
         for (const uint8 index : indices)
             encoder.Add(index);
@@ -152,7 +156,8 @@ GifSave::Encoding GifSave::EncodingOf(const Frame& frame) const {
     const bool grey_ramp = encoding.palette->mode == kirto::kPaletteGreyscale;
     // Most frames can't need more bits and are spared the look at their pixels.
     if (encoding.bits >= (grey_ramp ? 8 : BitWidth(transparent))) return encoding;
-    const int32 needed = BitWidth(LargestUnboundIndex(frame, *encoding.palette, transparent));
+    const int32 needed =
+        BitWidth(LargestUnboundIndex(frame, *encoding.palette, transparent, document_.work));
     if (needed > encoding.bits) {
         encoding.bits = needed;
         encoding.local_table = true;
@@ -179,6 +184,13 @@ void GifSave::WriteColorTable(const Palette& palette, int32 bits) {
         table.insert(table.end(), {color.red, color.green, color.blue});
     }
     file_->Write(table.data(), table.size());
+}
+
+int64 GifSave::CountRows() const {
+    int64 rows = 0;
+    for (const kirto::FramePointer& frame : animation_->frames)
+        rows += frame->height;
+    return rows;
 }
 
 int32 GifSave::WidestFrame() const {

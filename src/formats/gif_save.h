@@ -9,8 +9,9 @@
 #include "platform/types.h"
 
 // Writes a document's animation, as it is at the start, as an animated GIF89a. The constructor does
-// all the work. Write results are not checked here: the file remembers its first error. The methods
-// are in the order of the file; the layout is described in docs/formats/gif.md.
+// all the work; the document's work tells how far it is, and when that is stopped the file is not
+// complete. Write results are not checked here: the file remembers its first error. The methods are
+// in the order of the file; the layout is described in docs/formats/gif.md.
 class GifSave {
   public:
     // file: empty and writable; this object shares it with the caller, who commits it afterward.
@@ -33,12 +34,15 @@ class GifSave {
     };
     Encoding EncodingOf(const Frame& frame) const;
     void WriteColorTable(const Palette& palette, int32 bits);
+    int64 CountRows() const;
     int32 WidestFrame() const;
 
     std::shared_ptr<BFile> file_;
     AnimationDocument& document_;
     const std::shared_ptr<const kirto::Animation> animation_;
     const bool interlaced_;
+    const int64 rows_;  // of all frames
+    int64 rows_written_ = 0;
     kirto::PixelMapper mapper_;
     Encoding encoding_;  // of the frame being written
 };

@@ -1,18 +1,34 @@
 #include "platform/allocation.h"
 
+#include <atomic>
 #include <limits>
+#include <utility>
+
 namespace kirto {
+
+struct AllocationCounter {
+    explicit AllocationCounter(int64 call) : failing_call(call) {}
+
+    const int64 failing_call;
+    std::atomic<int64> calls = 0;
+};
 
 namespace {
 
-thread_local int64 t_failing_call = 0;  // 0: no fault installed
-thread_local int64 t_calls = 0;
+thread_local std::shared_ptr<AllocationCounter> t_fault;  // null: no fault installed
 
 }  // namespace
 
 bool AllocationShouldFail() {
-    if (t_failing_call == 0) return false;
-    return ++t_calls >= t_failing_call;
+    return t_fault && ++t_fault->calls >= t_fault->failing_call;
+}
+
+std::shared_ptr<AllocationCounter> LentAllocationFault() {
+    return t_fault;
+}
+
+void BorrowAllocationFault(std::shared_ptr<AllocationCounter> lent) {
+    t_fault = std::move(lent);
 }
 
 void* AllocateZeroed(size_t count, size_t size) {
@@ -23,16 +39,15 @@ void* AllocateZeroed(size_t count, size_t size) {
 }
 
 AllocationFault::AllocationFault(int64 failing_call) {
-    t_failing_call = failing_call;
-    t_calls = 0;
+    t_fault = std::make_shared<AllocationCounter>(failing_call);
 }
 
 AllocationFault::~AllocationFault() {
-    t_failing_call = 0;
+    t_fault = nullptr;
 }
 
 int64 AllocationFault::Calls() const {
-    return t_calls;
+    return t_fault->calls;
 }
 
 }  // namespace kirto

@@ -32,8 +32,15 @@ AllocatedArray<T> AllocateArray(size_t count) {
 // by code that allocates single objects and must report failure.
 bool AllocationShouldFail();
 
-// While alive, makes the n-th allocation (1-based) of the calling thread and all later ones fail.
-// One at a time; used by tests.
+struct AllocationCounter;
+
+// A thread that works for another one shares the fault that is installed there, if any: the one
+// lends it, the other borrows it for the rest of its life.
+std::shared_ptr<AllocationCounter> LentAllocationFault();
+void BorrowAllocationFault(std::shared_ptr<AllocationCounter> lent);
+
+// While alive, makes the n-th allocation (1-based) of the calling thread, and of those that have
+// borrowed it, and all later ones fail. One at a time; used by tests.
 class AllocationFault {
   public:
     explicit AllocationFault(int64 failing_call);

@@ -6,6 +6,7 @@
 #include "platform/pixel_budget.h"
 #include "platform/rect.h"
 #include "platform/types.h"
+#include "platform/work.h"
 
 // A picture in memory: bounds, color space and rows of bytes, zero-filled when made. Not tied to a
 // thread; whoever shares it (frames share theirs) treats the pixels as read-only.
@@ -50,6 +51,10 @@ class BBitmap {
 };
 
 namespace kirto {
+
+// Copies as many bytes as both pictures have, without regard to their rows. False when the work was
+// stopped meanwhile. Both have bits.
+bool CopyPixels(const BBitmap& source, BBitmap& target, const Work& work);
 
 // True for the four color spaces of 4 bytes a pixel.
 bool Is32Bit(color_space space);

@@ -7,9 +7,19 @@ namespace kirto {
 
 bool PixelBudget::Reserve(uint64 bytes) {
     while (!TryReserve(bytes)) {
-        if (bytes > limit_ || !reliever_ || !reliever_()) return false;
+        if (bytes > limit_ || !Relieve()) return false;
     }
     return true;
+}
+
+void PixelBudget::SetReliever(std::function<bool()> reliever) {
+    const std::lock_guard lock(reliever_mutex_);
+    reliever_ = std::move(reliever);
+}
+
+bool PixelBudget::Relieve() {
+    const std::lock_guard lock(reliever_mutex_);
+    return reliever_ && reliever_();
 }
 
 bool PixelBudget::TryReserve(uint64 bytes) {

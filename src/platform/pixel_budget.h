@@ -2,6 +2,7 @@
 
 #include <atomic>
 #include <functional>
+#include <mutex>
 
 #include "platform/types.h"
 
@@ -23,9 +24,9 @@ class PixelBudget {
     void Release(uint64 bytes);
 
     // Called by Reserve, on its thread, before it refuses what the limit has room for: frees
-    // something and returns true, or returns false. For whoever owns what is dispensable; set and
-    // called on one thread. Null: nobody.
-    void SetReliever(std::function<bool()> reliever) { reliever_ = std::move(reliever); }
+    // something and returns true, or returns false. For whoever owns what is dispensable. Null:
+    // nobody; after that the one before is called no more.
+    void SetReliever(std::function<bool()> reliever);
 
     uint64 Used() const { return used_; }
     uint64 Limit() const { return limit_; }
@@ -37,8 +38,10 @@ class PixelBudget {
 
   private:
     bool TryReserve(uint64 bytes);
+    bool Relieve();
 
-    std::function<bool()> reliever_;
+    std::mutex reliever_mutex_;
+    std::function<bool()> reliever_;  // guarded by it
     std::atomic<uint64> limit_;
     std::atomic<uint64> used_ = 0;
 };

@@ -8,6 +8,7 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QVBoxLayout>
@@ -39,7 +40,7 @@ constexpr int kMinimumHeight = 399;
 const std::vector<uint32>& RefreshCodes() {
     static const std::vector<uint32> kCodes = {
         kirto::kUpdateAll, kirto::kUpdateFrames, kirto::kUpdateFramesNoStatus,
-        kirto::kEditDone,  kirto::kStatusUpdate,
+        kirto::kEditDone,  kirto::kStatusUpdate, kirto::kWorkProgress,
     };
     return kCodes;
 }
@@ -71,6 +72,8 @@ KirtoWindow::KirtoWindow(BRect frame, const char* title, const kirto::Editor& ed
     setMenuBar(kirto::MakeMainMenu(this, [this](uint32 command) { ChooseCommand(command); }));
     MakePanels();
     ArrangePanels();
+    stop_work_ = new QShortcut(Qt::Key_Escape, this, [this] { StopWork(nullptr); });
+    stop_work_->setEnabled(false);
     LimitSize();
     Place(frame);
     ShowMode(shown_.Settings().misc_preferredmode == 1);
@@ -85,7 +88,7 @@ void KirtoWindow::MakePanels() {
     const BMessenger window = Messenger();
     global_view_ = new GlobalView(shown_, window);
     palette_view_ = new PaletteView(shown_, window);
-    status_view_ = new StatusView(shown_);
+    status_view_ = new StatusView(shown_, window);
     local_view_ = new LocalView(shown_, window);
     frame_list_view_ = new FrameListView(shown_, window);
     // Thumbnails select by way of the window, so that an edit of the frame that was current goes
@@ -326,8 +329,18 @@ void KirtoWindow::closeEvent(QCloseEvent* event) {
         Messenger().SendMessage(B_QUIT_REQUESTED);
         return;
     }
+    if (!may_close_ && IsWorking()) {
+        // Only what is left then is worth a question.
+        editor_.document.RequestStop();
+        PostToApplication(BMessage(kirto::kQuitWhenDone));
+        return;
+    }
     if (!may_close_) may_close_ = QuitRequested();
     event->setAccepted(may_close_);
+}
+
+bool KirtoWindow::IsWorking() const {
+    return editor_.document.work.Running() != 0 || editor_.document.insertions_waiting > 0;
 }
 
 void KirtoWindow::resizeEvent(QResizeEvent* event) {

@@ -19,6 +19,7 @@ class LocalView;
 class PaletteView;
 class PreferencesWindow;
 class QScrollArea;
+class QShortcut;
 class QSplitter;
 class QStackedWidget;
 class StatusView;
@@ -88,6 +89,8 @@ class KirtoWindow : public QMainWindow, public BWindow {
     kirto::TextControl* EditedField() const;
     void ShowHistory();
     bool HasUnsavedChanges();
+    // Whether the application does something that may take long, or is about to.
+    bool IsWorking() const;
     void ApplyPreset(uint32 preset);
     void SaveOrAsk();
     void ShowSavePanel();
@@ -105,6 +108,9 @@ class KirtoWindow : public QMainWindow, public BWindow {
     void Resume(BMessage* message);
     void AbandonPending(BMessage* message);
     void ShowStatus(BMessage* message);
+    void ShowWork(BMessage* message);
+    void StopWork(BMessage* message);
+    void CloseWhenDone(BMessage* message);
     void New(BMessage* message);
     void Open(BMessage* message);
     void Save(BMessage* message);
@@ -139,6 +145,8 @@ class KirtoWindow : public QMainWindow, public BWindow {
     kirto::ShownDocument shown_;
     uint32 pending_command_ = 0;
     bool may_close_ = false;
+    uint64 shown_work_ = 0;  // the piece that the status line shows; 0 for none
+    QShortcut* stop_work_ = nullptr;
 
     GlobalView* global_view_ = nullptr;
     PaletteView* palette_view_ = nullptr;

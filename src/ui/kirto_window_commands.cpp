@@ -1,6 +1,7 @@
 // What the main window does on each command.
 #include <QGuiApplication>
 #include <QScreen>
+#include <QShortcut>
 
 #include "document/command_codes.h"
 #include "platform/alert.h"
@@ -31,6 +32,9 @@ const KirtoWindow::Command* KirtoWindow::CommandFor(uint32 code) {
         {kirto::kResume, &KirtoWindow::Resume},
         {kirto::kAbandonPending, &KirtoWindow::AbandonPending},
         {kirto::kStatusUpdate, &KirtoWindow::ShowStatus},
+        {kirto::kWorkProgress, &KirtoWindow::ShowWork},
+        {kirto::kStopWork, &KirtoWindow::StopWork},
+        {kirto::kQuitWhenDone, &KirtoWindow::CloseWhenDone},
         {kirto::kMenuNew, &KirtoWindow::New},
         {kirto::kMenuOpen, &KirtoWindow::Open},
         {kirto::kMenuSave, &KirtoWindow::Save},
@@ -152,6 +156,30 @@ void KirtoWindow::AbandonPending(BMessage*) {
 void KirtoWindow::ShowStatus(BMessage* message) {
     std::string text;
     if (message->FindString("text", &text) == B_OK) status_view_->UpdateDisplay(text.c_str());
+}
+
+void KirtoWindow::ShowWork(BMessage* message) {
+    int64 piece = 0;
+    int64 done = 0;
+    int64 total = 0;
+    message->FindInt64("piece", &piece);
+    message->FindInt64("done", &done);
+    message->FindInt64("total", &total);
+    shown_work_ = static_cast<uint64>(piece);
+    stop_work_->setEnabled(shown_work_ != 0);
+    if (shown_work_ != 0) {
+        status_view_->ShowWork(done, total);
+    } else {
+        status_view_->HideWork();
+    }
+}
+
+void KirtoWindow::StopWork(BMessage*) {
+    editor_.document.work.Stop(shown_work_);
+}
+
+void KirtoWindow::CloseWhenDone(BMessage*) {
+    close();
 }
 
 void KirtoWindow::New(BMessage*) {

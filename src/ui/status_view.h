@@ -2,27 +2,33 @@
 
 #include <QLabel>
 #include <QProgressBar>
+#include <QPushButton>
 #include <QWidget>
 
+#include "platform/messenger.h"
 #include "ui/shown_document.h"
 
-// The line at the window's bottom: how many frames there are, or the work in progress, with a
-// progress bar if the text tells how far it is. GUI thread.
+// The line at the window's bottom: how many frames there are or what is being done, and, for work
+// that takes long, a bar that says how far it is and a button that stops it. GUI thread.
 class StatusView : public QWidget {
   public:
-    // shown outlives the view.
-    explicit StatusView(const kirto::ShownDocument& shown, QWidget* parent = nullptr);
+    // shown outlives the view. The window receives kStopWork from the button.
+    StatusView(const kirto::ShownDocument& shown, const BMessenger& window,
+               QWidget* parent = nullptr);
 
     // Shows the text as it is; null: the document's state.
     void UpdateDisplay(const char* text);
     void UpdateDisplay() { UpdateDisplay(nullptr); }
     void ResetDisplay();
 
+    // Show work of which so much is done, and that there is none. total: 0 where it is not known.
+    void ShowWork(int64 done, int64 total);
+    void HideWork();
+
     QLabel* status;
     QProgressBar* progress;
+    QPushButton* cancel;
 
   private:
-    void ShowProgress(const QString& text);
-
     const kirto::ShownDocument& shown_;
 };

@@ -248,7 +248,8 @@ TEST_F(KirtoOpen, AskedToStopKeepsWhatIsDoneAndAsksNothing) {
     Start();
     app_->RequestStop();
 
-    EXPECT_EQ(Do(Files(kOpenFile, {"anim.gif"})), "svup(Status: loading frame 1...) tvff auda");
+    EXPECT_EQ(Do(Files(kOpenFile, {"anim.gif"})),
+              "tvff auda svup(Status: canceled, 0 new frame(s) kept)");
 
     EXPECT_EQ(TakeLines(), Lines{});
     EXPECT_EQ(app_->CurrentState()->file_name, "untitled");

@@ -185,7 +185,7 @@ TEST_F(KirtoSave, KeepsTheOldFileWhenTheNewOneCantBeWritten) {
     EXPECT_TRUE(app_->Modified());
 }
 
-TEST_F(KirtoSave, AskedToStopKeepsTheOldFileAndTheNameAndSaysNothing) {
+TEST_F(KirtoSave, AskedToStopKeepsTheOldFileAndTheOldNameAndAsksNothing) {
     Write("out.gif", {'o', 'l', 'd'});
     Start();
     Append({"one"});
@@ -197,7 +197,7 @@ TEST_F(KirtoSave, AskedToStopKeepsTheOldFileAndTheNameAndSaysNothing) {
     EXPECT_EQ(transcript.find("arsm"), std::string::npos);
     EXPECT_EQ(TakeLines(), Lines{kAbandoned});
     EXPECT_EQ(ReadBytes(File("out.gif")), (std::vector<uint8>{'o', 'l', 'd'}));
-    EXPECT_EQ(app_->CurrentState()->file_name, "out.gif");
+    EXPECT_EQ(app_->CurrentState()->file_name, "untitled");
     EXPECT_TRUE(app_->Modified());
 }
 

@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 
 #include "formats/gif_load_fixture.h"
+#include "support/port_watcher.h"
 
 namespace kirto::test {
 namespace {
@@ -376,8 +377,10 @@ TEST_F(GifLoadBlocks, TheStatusLineIsToldEachFrameBeforeItIsRead) {
               "svup(Status: loading frame 3...)");
 }
 
-TEST_F(GifLoadBlocks, ARequestToStopEndsTheLoadBeforeTheNextImage) {
-    document.RequestStop();
+TEST_F(GifLoadBlocks, ARequestToStopEndsTheLoadWithinAnImage) {
+    // The image's status text is the first message.
+    document.window =
+        BMessenger(std::make_shared<PortWatcher>([this](uint32) { document.RequestStop(); }));
 
     EXPECT_FALSE(Load(FourColorGif(1, 1).Loop(3).Add(ImageOf(1, 1, {1})).Trailer()));
 

@@ -34,7 +34,9 @@ Result DecodeBlocks(const std::vector<uint8>& blocks, int32 min_code_size, int32
         colors.pixels[i] = i + 1;
     GifPixelWriter writer(*picture, {0, 0, room, 1}, false, colors);
     const auto file = BFile::OnMemory(blocks);
-    GifLzwDecoder decoder(*file, min_code_size);
+    Work work;
+    WatchedInput input(*file, work);
+    GifLzwDecoder decoder(input, min_code_size);
 
     Result result;
     result.success = decoder.Decode(writer);

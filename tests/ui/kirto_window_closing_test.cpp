@@ -305,11 +305,11 @@ TEST_F(KirtoWindowClosing, CountsFramesOnTheirWayIntoAnEmptyAnimationAsChanges) 
                               uint32{B_REFS_RECEIVED}}) {
         commands.SendMessage(code);
 
-        Do(B_QUIT_REQUESTED, kCancel);
+        Do(kMenuNew, kCancel);
 
         CarryOutEdits();
     }
-    DoUnasked(B_QUIT_REQUESTED);
+    DoUnasked(kMenuNew);
 }
 
 TEST_F(KirtoWindowClosing, CountsNoEditOnItsWayToAnEmptyAnimationAsAChange) {
@@ -357,6 +357,32 @@ TEST_F(KirtoWindowClosing, RemembersHowItWasDivided) {
     Open();
 
     EXPECT_EQ(Find<QSplitter>("").sizes(), sizes);
+}
+
+TEST_F(KirtoWindowClosing, DuringWorkStopsItAndClosesOnceTheApplicationHasAnswered) {
+    OpenModified();
+    document.work.Begin();
+
+    DoUnasked(B_QUIT_REQUESTED);
+
+    EXPECT_TRUE(document.work.StopRequested());
+    EXPECT_EQ(Posted(), "awqd");
+    EXPECT_TRUE(window->isVisible());
+
+    document.work.End();
+    Do(kQuitWhenDone, kDiscard);
+    EXPECT_EQ(Posted(), "asts _QRQ");
+    EXPECT_FALSE(window->isVisible());
+}
+
+TEST_F(KirtoWindowClosing, StopsAnInsertionThatHasNotBegunYet) {
+    Open();
+    document.insertions_waiting = 1;
+
+    DoUnasked(B_QUIT_REQUESTED);
+
+    EXPECT_TRUE(document.StopRequested());
+    EXPECT_EQ(Posted(), "awqd");
 }
 
 }  // namespace

@@ -176,7 +176,7 @@ TEST_F(KirtoWindowTest, ShowsFramesAloneOnAuns) {
     EXPECT_EQ(StatusText(), "Status: 0 frame(s), unmodified");
 }
 
-TEST_F(KirtoWindowTest, ShowsAStatusTextAndHowFarSomethingIs) {
+TEST_F(KirtoWindowTest, ShowsAStatusText) {
     Open();
     BMessage status(kStatusUpdate);
     status.AddString("text", "Status: saving frame 5 of 20...");
@@ -184,7 +184,6 @@ TEST_F(KirtoWindowTest, ShowsAStatusTextAndHowFarSomethingIs) {
     Do(status);
 
     EXPECT_EQ(StatusText(), "Status: saving frame 5 of 20...");
-    EXPECT_TRUE(Find<QProgressBar>("Progress").isVisible());
     Do(kStatusUpdate);
     EXPECT_EQ(StatusText(), "Status: saving frame 5 of 20...") << "A message without a text.";
 }

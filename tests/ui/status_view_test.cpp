@@ -13,7 +13,7 @@ class StatusViewTest : public ViewFixture {
             AppendFrame(document, PictureOf(1, 1, {0xFF000001}), "frame");
     }
 
-    StatusView line{shown};
+    StatusView line{shown, window};
 };
 
 TEST_F(StatusViewTest, BeginsWithAnUnmodifiedAnimationOfNoFrames) {
@@ -42,40 +42,45 @@ TEST_F(StatusViewTest, ShowsATextAsItIs) {
 
     EXPECT_EQ(line.status->text(), "Status: loading frame 5...");
     EXPECT_TRUE(line.progress->isHidden());
+    EXPECT_TRUE(line.cancel->isHidden());
 }
 
-TEST_F(StatusViewTest, ShowsHowFarSomethingIsWhereTheTextSaysSo) {
-    line.UpdateDisplay("Status: saving frame 5 of 20...");
+TEST_F(StatusViewTest, ShowsHowFarWorkIsAndAButtonThatStopsIt) {
+    line.ShowWork(5, 20);
 
-    EXPECT_EQ(line.status->text(), "Status: saving frame 5 of 20...");
     EXPECT_FALSE(line.progress->isHidden());
-    EXPECT_EQ(line.progress->value(), 5);
-    EXPECT_EQ(line.progress->maximum(), 20);
+    EXPECT_EQ(line.progress->value() * 20, 5 * line.progress->maximum());
+    EXPECT_FALSE(line.cancel->isHidden());
+    EXPECT_EQ(line.cancel->text(), "Cancel");
+    EXPECT_EQ(CommandOf(*line.cancel), "wwst");
 
-    line.UpdateDisplay("Status: saving frame 6 of 20...");
-    EXPECT_EQ(line.progress->value(), 6);
+    line.ShowWork(20, 20);
+    EXPECT_EQ(line.progress->value(), line.progress->maximum());
 }
 
-TEST_F(StatusViewTest, StartsTheBarAnewForAShorterTask) {
-    line.UpdateDisplay("Status: saving frame 20 of 20...");
-    line.UpdateDisplay("Status: saving frame 1 of 3...");
+TEST_F(StatusViewTest, CountsFurtherThanTheBarDoes) {
+    line.ShowWork(int64{3} << 40, int64{4} << 40);
+    EXPECT_EQ(line.progress->value() * 4, 3 * line.progress->maximum());
 
-    EXPECT_EQ(line.progress->value(), 1);
-    EXPECT_EQ(line.progress->maximum(), 3);
+    line.ShowWork(50, 20);
+    EXPECT_EQ(line.progress->value(), line.progress->maximum());
 }
 
-TEST_F(StatusViewTest, HidesTheBarWhenTheTaskIsDone) {
-    line.UpdateDisplay("Status: saving frame 5 of 20...");
-    line.UpdateDisplay();
+TEST_F(StatusViewTest, ShowsABusyBarWhereNobodyKnowsHowMuchThereIs) {
+    line.ShowWork(0, 0);
+    EXPECT_EQ(line.progress->maximum(), 0);
+}
+
+TEST_F(StatusViewTest, HidesTheBarWhenTheWorkIsDone) {
+    line.ShowWork(5, 20);
+    line.HideWork();
     EXPECT_TRUE(line.progress->isHidden());
+    EXPECT_TRUE(line.cancel->isHidden());
 
-    line.UpdateDisplay("Status: saving frame 5 of 20...");
+    line.ShowWork(5, 20);
     line.ResetDisplay();
     EXPECT_TRUE(line.progress->isHidden());
-
-    line.UpdateDisplay("Status: saving frame 5 of 20...");
-    line.UpdateDisplay("Status: loading frame 1...");
-    EXPECT_TRUE(line.progress->isHidden());
+    EXPECT_TRUE(line.cancel->isHidden());
 }
 
 TEST_F(StatusViewTest, ResetsToNoFrames) {
@@ -96,7 +101,7 @@ TEST_F(StatusViewTest, KeepsItsHeightWhenTheBarComesAndItsWidthWithLongTexts) {
 
     line.UpdateDisplay(text.c_str());
     EXPECT_EQ(line.minimumSizeHint().width(), width);
-    line.UpdateDisplay("Status: saving frame 5 of 20...");
+    line.ShowWork(5, 20);
     EXPECT_EQ(line.sizeHint().expandedTo(line.minimumSize()).height(), height);
 }
 

@@ -11,6 +11,7 @@
 
 #include "main/cli/cli_arguments.h"
 #include "main/cli/cli_session.h"
+#include "platform/abandonable.h"
 #include "platform/qt/qt_translator_roster.h"
 
 namespace {
@@ -56,9 +57,7 @@ class ImageSupport {
     std::unique_ptr<QGuiApplication> application_;
 };
 
-int RunSession(kirto::CliArguments arguments) {
-    const ImageSupport image_support(UsesImages(arguments));
-    kirto::QtTranslatorRoster roster;
+int RunSession(kirto::CliArguments arguments, kirto::QtTranslatorRoster& roster) {
     kirto::CliSession session(std::move(arguments), roster);
     g_session = &session;
     struct sigaction action = {};
@@ -86,7 +85,9 @@ int main(int argc, char** argv) {
     std::signal(SIGXFSZ, SIG_IGN);
     kirto::CliArguments arguments;
     if (const auto status = kirto::ParseArguments(argc, argv, &arguments)) return *status;
-    const int status = RunSession(std::move(arguments));
+    const ImageSupport image_support(UsesImages(arguments));
+    kirto::QtTranslatorRoster roster;
+    const int status = kirto::ExitStatus(RunSession(std::move(arguments), roster));
     if (std::fflush(stdout) == 0 && !std::ferror(stdout)) return status;
     std::fputs("kirto-cli: standard output can't be written.\n", stderr);
     return kirto::kExitFailed;

@@ -21,6 +21,7 @@
 #include "main/editor/printed_alerts.h"
 #include "main/editor/screenshot.h"
 #include "main/editor/termination_signals.h"
+#include "platform/abandonable.h"
 #include "platform/number.h"
 #include "platform/qt/qt_translator_roster.h"
 #include "ui/editor_style.h"
@@ -48,8 +49,7 @@ std::chrono::milliseconds RecoveryDelay() {
 }
 
 // Runs until the application's loop has ended; the loop ends when the main window has agreed.
-int RunEditor(const kirto::EditorArguments& arguments) {
-    kirto::QtTranslatorRoster roster;
+int RunEditor(const kirto::EditorArguments& arguments, kirto::QtTranslatorRoster& roster) {
     kirto::QtDesktop desktop(roster);
     // A picture is taken where nobody answers an alert.
     std::optional<kirto::PrintedAlerts> printed;
@@ -84,6 +84,7 @@ int RunEditor(const kirto::EditorArguments& arguments) {
     if (recovery && !done) recovery->WriteNow();
     termination.reset();
     desktop.CloseWindows();
+    application.RequestStop();
     application.Quit();
     loop.join();
     application.SetObserver(nullptr);
@@ -117,5 +118,6 @@ int main(int argc, char** argv) {
     // The main window's closing is a request; the application decides.
     QApplication::setQuitOnLastWindowClosed(false);
     if (const auto status = kirto::ParseArguments(argc, argv, &arguments)) return *status;
-    return RunEditor(arguments);
+    kirto::QtTranslatorRoster roster;
+    return kirto::ExitStatus(RunEditor(arguments, roster));
 }
