@@ -2,9 +2,13 @@
 //   kirto-pictures FOLDER ANIMATION [dark] [large]
 // dark: in dark colours; large: with a font of twice the size.
 // Runs offscreen unless told otherwise; the toolkit's QT_SCALE_FACTOR gives sharper pictures.
+#include <QAbstractButton>
 #include <QApplication>
 #include <QDialog>
 #include <QElapsedTimer>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
 #include <QPixmap>
 #include <QStyleFactory>
 #include <QTabWidget>
@@ -14,6 +18,7 @@
 #include <thread>
 #include <vector>
 
+#include "app/crash_recovery.h"
 #include "app/kirto.h"
 #include "document/command_codes.h"
 #include "framework/resource_file_path.h"
@@ -25,6 +30,7 @@ namespace {
 constexpr int kDeadline = 20000;  // milliseconds
 constexpr int kSettle = 150;      // milliseconds
 constexpr int32 kCurrentFrame = 3;
+constexpr int kEditMenu = 1;
 constexpr int32 kThumbnailHeight = 96;
 
 void SettleFor(int milliseconds) {
@@ -85,6 +91,9 @@ class Pictures {
         GrabDialog(kirto::kMenuInsertTiled, "Insert Tiled Frame", "insert-tiled");
         GrabDialog(kirto::kMenuSaveAs, "Save Animation", "save");
         GrabPreferences();
+        GrabWork();
+        GrabEditMenu();
+        GrabRecoveryOffer();
     }
 
     int Failures() const { return failures_; }
@@ -141,6 +150,49 @@ class Pictures {
             Grab(*window, "preferences-" + tabs->tabText(i).toLower().toStdString());
         }
         window->close();
+    }
+
+    // The status line as it is while an animation is being loaded.
+    void GrabWork() {
+        BMessage status(kirto::kStatusUpdate);
+        status.AddString("text", "Status: loading frame 7...");
+        Main()->Messenger().SendMessage(status);
+        BMessage progress(kirto::kWorkProgress);
+        progress.AddInt64("piece", 1);
+        progress.AddInt64("done", 5);
+        progress.AddInt64("total", 8);
+        Main()->Messenger().SendMessage(progress);
+        SettleFor(kSettle);
+        Grab(*Main(), "progress");
+        Send(kirto::kWorkProgress);
+        SettleFor(kSettle);
+    }
+
+    // The menu with an edit to undo and one to redo.
+    void GrabEditMenu() {
+        for (const uint32 command : {kirto::kReverseFrames, kirto::kRemoveFrame, kirto::kUndo})
+            application_.PostMessage(command);
+        SettleFor(kSettle);
+        auto* menu = Main()->menuBar()->actions().at(kEditMenu)->menu();
+        menu->popup(Main()->mapToGlobal(QPoint(kSettle, kSettle)));
+        SettleFor(kSettle);
+        Grab(*menu, "edit-menu");
+        menu->close();
+    }
+
+    // The question about a document that another editor has left.
+    void GrabRecoveryOffer() {
+        const std::string left = kirto::RecoveryStore::DefaultFolder();
+        kirto::RecoveryStore(left).Write(*application_.CurrentState());
+        kirto::CrashRecovery recovery(left, kirto::RecoveryWriter::kDelay);
+        application_.UseRecovery(recovery);
+        application_.PostMessage(kirto::kOfferRecovery);
+        WaitUntil([] { return QApplication::activeModalWidget() != nullptr; });
+        if (auto* question = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            Grab(*question, "recovery-offer");
+            question->buttons().front()->click();
+        }
+        WaitUntil([] { return QApplication::activeModalWidget() == nullptr; });
     }
 
     const std::string folder_;

@@ -25,8 +25,7 @@ class CliSession {
     // Runs to the end or to the first operation that fails; the program's exit status.
     int Run();
 
-    // Ends the operation in hand before its next frame, and the run with it. Safe in a signal
-    // handler.
+    // Ends the operation in hand, and the run with it. Safe in a signal handler.
     void RequestStop();
 
   private:

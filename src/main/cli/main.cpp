@@ -18,7 +18,7 @@ namespace {
 
 std::atomic<kirto::CliSession*> g_session = nullptr;
 
-// The first Ctrl-C ends the work between two frames; a second one ends the program.
+// The first Ctrl-C ends the work in hand; a second one ends the program.
 void StopOnInterrupt(int) {
     if (kirto::CliSession* session = g_session) session->RequestStop();
 }
