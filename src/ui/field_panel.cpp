@@ -61,6 +61,11 @@ QComboBox* FieldPanel::MakePaletteMenu(const std::vector<MenuChoice>& kinds, con
     return palette_menu_;
 }
 
+bool FieldPanel::ShowsFrame() const {
+    return std::any_of(fields_.begin(), fields_.end(),
+                       [](const Row& row) { return row.field->IsOfFrame(); });
+}
+
 void FieldPanel::ResetDisplay() {
     Show(NewAnimation(shown_.Settings()), true);
 }

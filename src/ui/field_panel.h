@@ -20,6 +20,8 @@ class FieldPanel : public QGroupBox {
     // edit.
     bool PostEdit(uint32 command, const BMessenger& application);
 
+    // True when the panel is about the current frame.
+    bool ShowsFrame() const;
     // Shows the document's state; a number that the user is typing is left alone.
     void UpdateDisplay() { Show(shown_.Current(), false); }
     // Shows what the settings give a new animation.

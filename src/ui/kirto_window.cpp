@@ -208,7 +208,7 @@ void KirtoWindow::ShowParts(uint32 parts) {
         setWindowTitle("Kirto - " + QString::fromStdString(shown_.State().file_name));
     }
     for (kirto::FieldPanel* panel : panels_) {
-        if (parts & (panel == local_view_ ? kLocal : kPanels)) panel->UpdateDisplay();
+        if (parts & (panel->ShowsFrame() ? kLocal : kPanels)) panel->UpdateDisplay();
     }
     if (parts & kFrames) {
         thumbnail_view_->UpdateDisplay();
