@@ -46,6 +46,22 @@ bool Find(const BMessage& command, bool* value) {
 }
 
 template <typename Value>
+Value ValueOf(const Animation& animation, Value Animation::*member) {
+    return animation.*member;
+}
+
+template <typename Value>
+Value ValueOf(const Animation& animation, Value Palette::*member) {
+    return *animation.palette.*member;
+}
+
+template <typename Value>
+Value ValueOf(const Animation& animation, Value Frame::*member) {
+    const FramePointer frame = animation.CurrentFrame();
+    return frame ? *frame.*member : Value{};
+}
+
+template <typename Value>
 bool SetMember(Animation& animation, Value Animation::*member, const Value& value) {
     animation.*member = value;
     return true;
@@ -77,8 +93,18 @@ bool Field::IsReal() const {
            std::holds_alternative<double Frame::*>(member);
 }
 
+bool Field::IsOfFrame() const {
+    return std::holds_alternative<int32 Frame::*>(member) ||
+           std::holds_alternative<bool Frame::*>(member) ||
+           std::holds_alternative<double Frame::*>(member);
+}
+
 int32 Field::Largest(const Animation& animation) const {
     return bound == Bound::kPaletteIndex ? (1 << animation.palette->bits) - 1 : -1;
+}
+
+Field::Value Field::In(const Animation& animation) const {
+    return std::visit([&](auto place) -> Value { return ValueOf(animation, place); }, member);
 }
 
 bool Field::Set(Animation& animation, const BMessage& command) const {

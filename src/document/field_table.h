@@ -16,6 +16,7 @@ struct Field {
     using Member =
         std::variant<int32 Animation::*, bool Animation::*, double Animation::*, int32 Palette::*,
                      bool Palette::*, int32 Frame::*, bool Frame::*, double Frame::*>;
+    using Value = std::variant<int32, bool, double>;
     enum class Bound { kNone, kFromZero, kPaletteIndex };
 
     uint32 code;       // the command that sets it, with a "value" of the member's type
@@ -24,9 +25,12 @@ struct Field {
     Member member;
     Bound bound;  // of numbers: at least 0, or an index of the global palette
 
-    bool IsReal() const;  // holds a double
+    bool IsReal() const;     // holds a double
+    bool IsOfFrame() const;  // a member of the current frame
     // The largest number allowed, or -1 where there is none.
     int32 Largest(const Animation& animation) const;
+    // 0 or false when there is no current frame for it.
+    Value In(const Animation& animation) const;
     // Sets the field to the value in the command. Changes nothing and returns false when the
     // command has no value, or when there is no current frame for it.
     bool Set(Animation& animation, const BMessage& command) const;

@@ -67,12 +67,21 @@ QComboBox* MakePopUpMenu(const char* name, const std::vector<MenuChoice>& choice
     return menu;
 }
 
+bool HasChoice(const QComboBox& menu, uint32 command) {
+    return menu.findData(command, kCommandRole) >= 0;
+}
+
 void MarkChoice(QComboBox& menu, int32 value) {
     menu.setCurrentIndex(menu.findData(value, kValueRole));
 }
 
 void MarkPalette(QComboBox& menu, int32 mode) {
     MarkChoice(menu, mode == kPaletteAwaitingFile ? kPaletteFromFile : mode);
+}
+
+void SwitchBy(const QCheckBox& box, QWidget& control) {
+    control.setEnabled(box.isChecked());
+    QObject::connect(&box, &QCheckBox::toggled, &control, &QWidget::setEnabled);
 }
 
 void ShowText(QLabel& label, const QString& text) {

@@ -33,11 +33,16 @@ QPushButton* MakeButton(const char* name, const char* label, uint32 command,
 // Choosing an item sends its command, also when it was chosen already.
 QComboBox* MakePopUpMenu(const char* name, const std::vector<MenuChoice>& choices,
                          const BMessenger& target, QWidget* parent);
+// True when one of the items sends the command.
+bool HasChoice(const QComboBox& menu, uint32 command);
 // Marks the item that stands for the value; none when no item does.
 void MarkChoice(QComboBox& menu, int32 value);
 // Marks the item of the palette's kind, in a menu of PaletteModes. To the user a palette from a
 // file and one whose file is being chosen are the same.
 void MarkPalette(QComboBox& menu, int32 mode);
+
+// From now on the control can be used while the box is ticked.
+void SwitchBy(const QCheckBox& box, QWidget& control);
 
 // Puts the text in, when it differs.
 void ShowText(QLabel& label, const QString& text);

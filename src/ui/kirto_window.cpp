@@ -86,18 +86,22 @@ KirtoWindow::~KirtoWindow() {
 
 void KirtoWindow::MakePanels() {
     const BMessenger window = Messenger();
+<<<<<<< HEAD
     global_view_ = new GlobalView(shown_, window);
     palette_view_ = new PaletteView(shown_, window);
     status_view_ = new StatusView(shown_, window);
+=======
+>>>>>>> c5b2fa5
     local_view_ = new LocalView(shown_, window);
+    panels_ = {new GlobalView(shown_, window), new PaletteView(shown_, window), local_view_};
+    status_view_ = new StatusView(shown_);
     frame_list_view_ = new FrameListView(shown_, window);
     // Thumbnails select by way of the window, so that an edit of the frame that was current goes
     // before them.
     kirto::Editor editor = editor_;
     editor.application = window;
     thumbnail_view_ = new ThumbnailView(shown_, editor, window);
-    for (QWidget* panel :
-         std::initializer_list<QWidget*>{global_view_, palette_view_, local_view_}) {
+    for (const QWidget* panel : panels_) {
         for (const QLineEdit* field : panel->findChildren<QLineEdit*>())
             connect(field, &QLineEdit::textEdited, this, [this] { ShowHistory(); });
     }
@@ -108,9 +112,8 @@ void KirtoWindow::MakePanels() {
 void KirtoWindow::ArrangePanels() {
     auto* column = new QWidget;
     auto* column_layout = new QVBoxLayout(column);
-    column_layout->addWidget(global_view_);
-    column_layout->addWidget(palette_view_);
-    column_layout->addWidget(local_view_);
+    for (QWidget* panel : panels_)
+        column_layout->addWidget(panel);
     column_layout->addStretch();
 
     panel_area_ = new QScrollArea;
@@ -191,9 +194,8 @@ BRect KirtoWindow::ScreenPlace() const {
 void KirtoWindow::ResetDisplay() {
     shown_.Reset();
     setWindowTitle("Kirto - untitled");
-    global_view_->ResetDisplay();
-    palette_view_->ResetDisplay();
-    local_view_->ResetDisplay();
+    for (kirto::FieldPanel* panel : panels_)
+        panel->ResetDisplay();
     thumbnail_view_->ResetDisplay();
     frame_list_view_->ResetDisplay();
     status_view_->ResetDisplay();
@@ -214,11 +216,9 @@ void KirtoWindow::ShowParts(uint32 parts) {
     if (parts & kTitle) {
         setWindowTitle("Kirto - " + QString::fromStdString(shown_.State().file_name));
     }
-    if (parts & kPanels) {
-        global_view_->UpdateDisplay();
-        palette_view_->UpdateDisplay();
+    for (kirto::FieldPanel* panel : panels_) {
+        if (parts & (panel->ShowsFrame() ? kLocal : kPanels)) panel->UpdateDisplay();
     }
-    if (parts & kLocal) local_view_->UpdateDisplay();
     if (parts & kFrames) {
         thumbnail_view_->UpdateDisplay();
         frame_list_view_->UpdateDisplay();

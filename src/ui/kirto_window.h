@@ -2,6 +2,7 @@
 
 #include <QMainWindow>
 #include <QPointer>
+#include <vector>
 
 #include "platform/qt/gui_port.h"
 #include "platform/rect.h"
@@ -10,13 +11,12 @@
 #include "ui/shown_document.h"
 
 namespace kirto {
+class FieldPanel;
 class TextControl;
-}
+}  // namespace kirto
 
 class FrameListView;
-class GlobalView;
 class LocalView;
-class PaletteView;
 class PreferencesWindow;
 class QScrollArea;
 class QShortcut;
@@ -25,8 +25,8 @@ class QStackedWidget;
 class StatusView;
 class ThumbnailView;
 
-// The main window: menus and panels around the frames. It turns choices and edits into commands for
-// the application, after checking what was typed, and shows the document again when the application
+// The main window: menus and panels around the frames. It turns choices into commands for the
+// application, lets the panels do so with edits, and shows the document again when the application
 // says that it changed. What it shows is the document's state at one moment, which never changes.
 // GUI thread.
 class KirtoWindow : public QMainWindow, public BWindow {
@@ -35,7 +35,7 @@ class KirtoWindow : public QMainWindow, public BWindow {
     KirtoWindow(BRect frame, const char* title, const kirto::Editor& editor);
     ~KirtoWindow() override;
 
-    // Handles one command; what its sender's control holds is read here.
+    // Handles one command; what its sender's control holds is read now.
     void MessageReceived(BMessage* message) override;
     // Offers to save unsaved changes. Returns true when the window may close; then saves the
     // settings and asks the application to quit.
@@ -98,8 +98,8 @@ class KirtoWindow : public QMainWindow, public BWindow {
     void ShowOpenPanel(const char* title);
     void ShowMode(bool frame_list);
     void PostToApplication(const BMessage& message);
-    template <typename Value>
-    void PostValue(uint32 code, Value value);
+    // True when a panel posted the edit that the command of its control stands for.
+    bool PostEdit(uint32 command);
 
     // The commands' handlers.
     void UpdateAll(BMessage* message);
@@ -124,17 +124,7 @@ class KirtoWindow : public QMainWindow, public BWindow {
     void InsertTiled(BMessage* message);
     void FadeEffects(BMessage* message);
     void Forward(BMessage* message);
-    void GlobalNumber(BMessage* message);
-    void GlobalPauseLength(BMessage* message);
-    void GlobalSwitch(BMessage* message);
-    void PaletteKind(BMessage* message);
     void PaletteFromFile(BMessage* message);
-    void PaletteIndex(BMessage* message);
-    void PaletteSwitch(BMessage* message);
-    void FrameOffset(BMessage* message);
-    void FramePauseLength(BMessage* message);
-    void FrameSwitch(BMessage* message);
-    void FramePaletteFromFile(BMessage* message);
     void ChooseMode(BMessage* message);
     void SlideThumbnails(BMessage* message);
     void PresetThumbnails(BMessage* message);
@@ -148,10 +138,9 @@ class KirtoWindow : public QMainWindow, public BWindow {
     uint64 shown_work_ = 0;  // the piece that the status line shows; 0 for none
     QShortcut* stop_work_ = nullptr;
 
-    GlobalView* global_view_ = nullptr;
-    PaletteView* palette_view_ = nullptr;
+    std::vector<kirto::FieldPanel*> panels_;  // in their order from above
+    LocalView* local_view_ = nullptr;         // one of them
     StatusView* status_view_ = nullptr;
-    LocalView* local_view_ = nullptr;
     FrameListView* frame_list_view_ = nullptr;
     ThumbnailView* thumbnail_view_ = nullptr;
     QStackedWidget* frame_area_ = nullptr;

@@ -2,18 +2,16 @@
 #include <QGuiApplication>
 #include <QScreen>
 #include <QShortcut>
+#include <algorithm>
 
 #include "document/command_codes.h"
 #include "platform/alert.h"
-#include "ui/check_input.h"
 #include "ui/fade_window.h"
+#include "ui/field_panel.h"
 #include "ui/frame_list.h"
 #include "ui/frame_list_view.h"
-#include "ui/global_view.h"
 #include "ui/kirto_window.h"
-#include "ui/local_view.h"
 #include "ui/main_menu.h"
-#include "ui/palette_view.h"
 #include "ui/status_view.h"
 #include "ui/thumbnail_view.h"
 
@@ -54,32 +52,8 @@ const KirtoWindow::Command* KirtoWindow::CommandFor(uint32 code) {
         {kirto::kUndo, &KirtoWindow::Forward},
         {kirto::kRedo, &KirtoWindow::Forward},
         {B_SIMPLE_DATA, &KirtoWindow::Forward},
-        {kirto::kFrameSystem, &KirtoWindow::Forward},
-        {kirto::kFrameGreyscale, &KirtoWindow::Forward},
-        {kirto::kFrameOptimal, &KirtoWindow::Forward},
-        {kirto::kFrameWebSafe, &KirtoWindow::Forward},
-        {kirto::kSetWidth, &KirtoWindow::GlobalNumber},
-        {kirto::kSetHeight, &KirtoWindow::GlobalNumber},
-        {kirto::kSetLoopCount, &KirtoWindow::GlobalNumber},
-        {kirto::kSetPauseLength, &KirtoWindow::GlobalPauseLength},
-        {kirto::kUsePause, &KirtoWindow::GlobalSwitch},
-        {kirto::kUseLoop, &KirtoWindow::GlobalSwitch},
-        {kirto::kPaletteToWebSafe, &KirtoWindow::PaletteKind},
-        {kirto::kPaletteToSystem, &KirtoWindow::PaletteKind},
-        {kirto::kPaletteToGreyscale, &KirtoWindow::PaletteKind},
-        {kirto::kPaletteToFirstFrame, &KirtoWindow::PaletteKind},
-        {kirto::kPaletteToCurrentFrame, &KirtoWindow::PaletteKind},
         {kirto::kPaletteToFile, &KirtoWindow::PaletteFromFile},
-        {kirto::kSetBackgroundIndex, &KirtoWindow::PaletteIndex},
-        {kirto::kSetTransparentIndex, &KirtoWindow::PaletteIndex},
-        {kirto::kUseTransparent, &KirtoWindow::PaletteSwitch},
-        {kirto::kSetDither, &KirtoWindow::PaletteSwitch},
-        {kirto::kFrameSetXOffset, &KirtoWindow::FrameOffset},
-        {kirto::kFrameSetYOffset, &KirtoWindow::FrameOffset},
-        {kirto::kFrameSetPauseLength, &KirtoWindow::FramePauseLength},
-        {kirto::kFrameUsePause, &KirtoWindow::FrameSwitch},
-        {kirto::kFrameUsePalette, &KirtoWindow::FrameSwitch},
-        {kirto::kFramePaletteToFile, &KirtoWindow::FramePaletteFromFile},
+        {kirto::kFramePaletteToFile, &KirtoWindow::PaletteFromFile},
         {kirto::kThumbnailMode, &KirtoWindow::ChooseMode},
         {kirto::kFrameListMode, &KirtoWindow::ChooseMode},
         {kirto::kThumbnailSlider, &KirtoWindow::SlideThumbnails},
@@ -100,22 +74,16 @@ const KirtoWindow::Command* KirtoWindow::CommandFor(uint32 code) {
 void KirtoWindow::MessageReceived(BMessage* message) {
     if (const Command* command = CommandFor(message->what)) {
         (this->*command->handle)(message);
-    } else {
+    } else if (!PostEdit(message->what)) {
         BWindow::MessageReceived(message);
     }
 }
 
-template <typename Value>
-void KirtoWindow::PostValue(uint32 code, Value value) {
-    BMessage edit(code);
-    if constexpr (std::is_same_v<Value, bool>) {
-        edit.AddBool("value", value);
-    } else if constexpr (std::is_same_v<Value, double>) {
-        edit.AddDouble("value", value);
-    } else {
-        edit.AddInt32("value", value);
-    }
-    PostToApplication(edit);
+// In the panel that has its control.
+bool KirtoWindow::PostEdit(uint32 command) {
+    return std::any_of(panels_.begin(), panels_.end(), [=, this](kirto::FieldPanel* panel) {
+        return panel->PostEdit(command, editor_.application);
+    });
 }
 
 void KirtoWindow::UpdateAll(BMessage*) {
@@ -274,88 +242,8 @@ void KirtoWindow::Forward(BMessage* message) {
     PostToApplication(*message);
 }
 
-void KirtoWindow::GlobalNumber(BMessage* message) {
-    kirto::TextControl* field = message->what == kirto::kSetWidth    ? global_view_->width
-                                : message->what == kirto::kSetHeight ? global_view_->height
-                                                                     : global_view_->loop_count;
-    PostValue(message->what, kirto::CheckInput(*field, 0, kirto::kNoUpperBound,
-                                               field->objectName().toStdString()));
-}
-
-void KirtoWindow::GlobalPauseLength(BMessage* message) {
-    kirto::TextControl& field = *global_view_->pause_length;
-    PostValue(message->what, kirto::CheckInput(field, 0.0, kirto::kNoUpperBoundReal,
-                                               field.objectName().toStdString()));
-}
-
-void KirtoWindow::GlobalSwitch(BMessage* message) {
-    const bool pause = message->what == kirto::kUsePause;
-    const bool on = (pause ? global_view_->pause : global_view_->loop)->isChecked();
-    (pause ? global_view_->pause_length : global_view_->loop_count)->setEnabled(on);
-    PostValue(message->what, on);
-}
-
-void KirtoWindow::PaletteKind(BMessage* message) {
-    palette_view_->AllowDither(message->what != kirto::kPaletteToGreyscale);
-    PostToApplication(*message);
-}
-
 void KirtoWindow::PaletteFromFile(BMessage* message) {
-    palette_view_->AllowDither(true);
-    PostToApplication(*message);
-    ShowOpenPanel("Open Paletted File");
-}
-
-void KirtoWindow::PaletteIndex(BMessage* message) {
-    const bool background = message->what == kirto::kSetBackgroundIndex;
-    kirto::TextControl& field =
-        *(background ? palette_view_->background_index : palette_view_->transparent_index);
-    const int32 last_index = (1 << shown_.Current().palette->bits) - 1;
-    PostValue(message->what,
-              kirto::CheckInput(field, 0, last_index, field.objectName().toStdString()));
-}
-
-void KirtoWindow::PaletteSwitch(BMessage* message) {
-    if (message->what == kirto::kSetDither) {
-        PostValue(message->what, palette_view_->dither->isChecked());
-        return;
-    }
-    const bool on = palette_view_->transparent->isChecked();
-    palette_view_->transparent_index->setEnabled(on);
-    PostValue(message->what, on);
-}
-
-void KirtoWindow::FrameOffset(BMessage* message) {
-    const bool x = message->what == kirto::kFrameSetXOffset;
-    kirto::TextControl& field = *(x ? local_view_->x_offset : local_view_->y_offset);
-    const int32 offset =
-        kirto::CheckInput(field, 0, kirto::kNoUpperBound, field.objectName().toStdString());
-    if (shown_.CurrentFrame()) PostValue(message->what, offset);
-}
-
-void KirtoWindow::FramePauseLength(BMessage* message) {
-    kirto::TextControl& field = *local_view_->pause_length;
-    const double length =
-        kirto::CheckInput(field, 0.0, kirto::kNoUpperBoundReal, field.objectName().toStdString());
-    if (shown_.CurrentFrame()) PostValue(message->what, length);
-}
-
-void KirtoWindow::FrameSwitch(BMessage* message) {
-    if (!shown_.CurrentFrame()) return;
-    const bool pause = message->what == kirto::kFrameUsePause;
-    const bool on = (pause ? local_view_->pause : local_view_->palette)->isChecked();
-    if (pause) {
-        local_view_->pause_length->setEnabled(on);
-    } else {
-        local_view_->palette_menu->setEnabled(on);
-    }
-    PostValue(message->what, on);
-}
-
-void KirtoWindow::FramePaletteFromFile(BMessage* message) {
-    if (!shown_.CurrentFrame()) return;
-    PostToApplication(*message);
-    ShowOpenPanel("Open Paletted File");
+    if (PostEdit(message->what)) ShowOpenPanel("Open Paletted File");
 }
 
 void KirtoWindow::ChooseMode(BMessage* message) {

@@ -1,22 +1,15 @@
 #pragma once
 
-#include <QGroupBox>
+#include "ui/field_panel.h"
 
-#include "ui/controls.h"
-#include "ui/shown_document.h"
-
-// The panel of the current frame, and the switch between the two ways of showing frames. GUI
-// thread.
-class LocalView : public QGroupBox {
+// The panel of the current frame, and the switch between the two ways of showing frames. Without a
+// frame its controls are disabled. GUI thread.
+class LocalView : public kirto::FieldPanel {
   public:
     // shown outlives the panel.
     LocalView(const kirto::ShownDocument& shown, const BMessenger& window,
               QWidget* parent = nullptr);
 
-    // Shows the current frame; without one, as ResetDisplay.
-    void UpdateDisplay();
-    // Shows that there is no frame, and disables the frame's controls.
-    void ResetDisplay();
     void ShowMode(bool frame_list);
 
     QLabel* frame_name;
@@ -32,10 +25,10 @@ class LocalView : public QGroupBox {
     QRadioButton* frame_list_mode;
 
   private:
-    void MakeControls(const BMessenger& window);
-    void DescribeControls();
-    void ShowFrame(const Frame& frame);
-    void EnableFrameControls(bool enable);
-
-    const kirto::ShownDocument& shown_;
+    void AddLabels();
+    void AddFields();
+    void AddModes();
+    // Without a current frame also ends edits.
+    void Show(const kirto::Animation& animation, bool end_edits) override;
+    bool ChooseKind(uint32 command) override;
 };

@@ -1,20 +1,14 @@
 #pragma once
 
-#include <QGroupBox>
-
-#include "ui/controls.h"
-#include "ui/shown_document.h"
+#include "ui/field_panel.h"
 
 // The panel of the global palette and its special indices. GUI thread.
-class PaletteView : public QGroupBox {
+class PaletteView : public kirto::FieldPanel {
   public:
     // shown outlives the panel.
     PaletteView(const kirto::ShownDocument& shown, const BMessenger& window,
                 QWidget* parent = nullptr);
 
-    void UpdateDisplay();
-    // Shows the settings' default palette choices.
-    void ResetDisplay();
     // Greys are not dithered: their box is off and can't be ticked; other kinds leave it as it is.
     void AllowDither(bool allow);
 
@@ -25,5 +19,6 @@ class PaletteView : public QGroupBox {
     kirto::TextControl* transparent_index;
 
   private:
-    const kirto::ShownDocument& shown_;
+    void Show(const kirto::Animation& animation, bool end_edits) override;
+    bool ChooseKind(uint32 command) override;
 };

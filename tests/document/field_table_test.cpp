@@ -49,10 +49,9 @@ const std::vector<Row>& Rows() {
     return rows;
 }
 
-bool OfCurrentFrame(const Field& field) {
-    return std::holds_alternative<int32 Frame::*>(field.member) ||
-           std::holds_alternative<bool Frame::*>(field.member) ||
-           std::holds_alternative<double Frame::*>(field.member);
+// What the field holds, whatever its type.
+double NumberIn(const Field& field, const Animation& animation) {
+    return std::visit([](auto value) { return double(value); }, field.In(animation));
 }
 
 // Of two frames, the second one current.
@@ -142,7 +141,7 @@ TEST(FieldTable, WithoutACurrentFrameItsFieldsStayUnset) {
     int32 of_frames = 0;
     for (const Row& row : Rows()) {
         Animation animation;
-        const bool of_frame = OfCurrentFrame(*FieldOf(row.code));
+        const bool of_frame = FieldOf(row.code)->IsOfFrame();
 
         EXPECT_EQ(FieldOf(row.code)->Set(animation, CommandOf(row.code, 1)), !of_frame) << row.name;
 
@@ -150,6 +149,24 @@ TEST(FieldTable, WithoutACurrentFrameItsFieldsStayUnset) {
         of_frames += of_frame ? 1 : 0;
     }
     EXPECT_EQ(of_frames, 5);
+}
+
+TEST(FieldTable, HoldsWhatTheMemberThatEachRowNamesDoes) {
+    for (const Row& row : Rows()) {
+        Animation animation = TwoFrames();
+        FieldOf(row.code)->Set(animation, CommandOf(row.code, 1));
+
+        for (const Row& any : Rows())
+            EXPECT_EQ(NumberIn(*FieldOf(any.code), animation), any.value(animation)) << any.name;
+    }
+}
+
+TEST(FieldTable, HoldsNothingOfAFrameWithoutACurrentOne) {
+    for (const Row& row : Rows()) {
+        const Field& field = *FieldOf(row.code);
+        if (!field.IsOfFrame()) continue;
+        EXPECT_EQ(NumberIn(field, Animation()), 0) << row.name;
+    }
 }
 
 TEST(FieldTable, LeavesTheAnimationThatOthersHold) {

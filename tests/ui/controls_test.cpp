@@ -112,6 +112,26 @@ TEST_F(Controls, MenusMarkTheItemOfAValueAndNoneWithoutOne) {
     EXPECT_EQ(port->Transcript(), "");
 }
 
+TEST_F(Controls, MenusKnowTheCommandsOfTheirItems) {
+    const QComboBox& menu = *MakeMenu();
+
+    EXPECT_TRUE(HasChoice(menu, kFirst));
+    EXPECT_TRUE(HasChoice(menu, kSecond));
+    EXPECT_FALSE(HasChoice(menu, FourCharCode("thrd")));
+}
+
+TEST_F(Controls, CanBeUsedWhileTheBoxThatSwitchesThemIsTicked) {
+    QCheckBox* box = MakeCheckBox("Box", "Box", kFirst, target, &parent);
+    TextControl* field = MakeField("Field", kSecond, target, &parent);
+
+    SwitchBy(*box, *field);
+    EXPECT_FALSE(field->isEnabled());
+    box->setChecked(true);
+    EXPECT_TRUE(field->isEnabled());
+    box->click();
+    EXPECT_FALSE(field->isEnabled());
+}
+
 TEST_F(Controls, PaletteMenusMarkAFileThatIsAwaitedLikeOneThatIsThere) {
     QComboBox* menu = MakePopUpMenu(
         "Menu", {{"web safe", kFirst, kPaletteWebSafe}, {"from a file", kSecond, kPaletteFromFile}},
