@@ -4,10 +4,10 @@
 #include <cstdlib>
 #include <cstring>
 
-#include "formats/gif_load.h"
-#include "formats/gif_save.h"
-#include "formats/pixel_mapper.h"
-#include "platform/text.h"
+#include "base/text.h"
+#include "formats/gif/gif_load.h"
+#include "formats/gif/gif_save.h"
+#include "formats/gif/pixel_mapper.h"
 
 namespace kirto::bench {
 

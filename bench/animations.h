@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
+#include "base/types.h"
 #include "document/animation_document.h"
 #include "painters.h"
-#include "platform/types.h"
 #include "settings/prefs.h"
 
 namespace kirto::bench {

@@ -6,7 +6,7 @@
 #include <functional>
 
 #include "animations.h"
-#include "platform/types.h"
+#include "base/types.h"
 
 namespace kirto::bench {
 

@@ -1,7 +1,7 @@
 #include "canvas_digest.h"
 
 #include "color/hash_item.h"
-#include "formats/gif_load.h"
+#include "formats/gif/gif_load.h"
 
 namespace kirto::bench {
 

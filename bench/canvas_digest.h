@@ -3,8 +3,8 @@
 #include <vector>
 
 #include "animations.h"
-#include "platform/file.h"
-#include "platform/types.h"
+#include "base/types.h"
+#include "kit/file.h"
 
 namespace kirto::bench {
 

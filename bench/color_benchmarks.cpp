@@ -1,7 +1,7 @@
 // Colours: counting those of each picture, an optimal palette for the first one, and the nearest of
 // that palette's entries for each of its pixels.
 #include "benchmarks.h"
-#include "formats/pixel_mapper.h"
+#include "formats/gif/pixel_mapper.h"
 
 namespace kirto::bench {
 

@@ -4,8 +4,8 @@
 #include <iterator>
 #include <ostream>
 
+#include "base/text.h"
 #include "benchmarks.h"
-#include "platform/text.h"
 
 namespace kirto::bench {
 

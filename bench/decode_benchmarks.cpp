@@ -7,9 +7,9 @@
 
 #include "benchmarks.h"
 #include "canvas_digest.h"
-#include "formats/gif_lzw_decoder.h"
-#include "formats/gif_lzw_encoder.h"
-#include "formats/gif_pixel_writer.h"
+#include "formats/gif/gif_lzw_decoder.h"
+#include "formats/gif/gif_lzw_encoder.h"
+#include "formats/gif/gif_pixel_writer.h"
 #include "peers.h"
 
 namespace kirto::bench {

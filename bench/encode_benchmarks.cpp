@@ -5,7 +5,7 @@
 
 #include "benchmarks.h"
 #include "canvas_digest.h"
-#include "formats/gif_lzw_encoder.h"
+#include "formats/gif/gif_lzw_encoder.h"
 #include "peers.h"
 
 namespace kirto::bench {

@@ -5,9 +5,9 @@
 #include <gif_lib.h>
 #include <memory>
 
-#include "formats/gif_pixel_writer.h"
+#include "formats/gif/gif_pixel_writer.h"
+#include "kit/bitmap.h"
 #include "peers.h"
-#include "platform/bitmap.h"
 
 namespace kirto::bench {
 

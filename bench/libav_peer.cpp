@@ -9,7 +9,7 @@ extern "C" {
 #include <cstring>
 #include <memory>
 
-#include "formats/gif_pixel_writer.h"
+#include "formats/gif/gif_pixel_writer.h"
 #include "peers.h"
 
 namespace kirto::bench {

@@ -1,8 +1,8 @@
 // kirto_bench: measures decoding, encoding and colour mapping on computed animations, next to other
 // codecs where those were found at build time. Takes the options of Google Benchmark.
+#include "base/debug_line.h"
 #include "benchmarks.h"
 #include "comparison_reporter.h"
-#include "platform/debug_line.h"
 
 int main(int argc, char** argv) {
     benchmark::Initialize(&argc, argv);

@@ -2,7 +2,7 @@
 // animation by whole-number arithmetic alone: the same colours on every machine.
 #pragma once
 
-#include "platform/types.h"
+#include "base/types.h"
 
 namespace kirto::bench {
 

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "animations.h"
-#include "platform/types.h"
+#include "base/types.h"
 
 namespace kirto::bench {
 

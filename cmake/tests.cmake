@@ -127,10 +127,10 @@ function(kirto_collect_folders target result)
             endif()
         endif()
     endforeach()
-    # Sources of other folders.
+    # Sources of the rooms in the folder, and of other folders.
     get_target_property(sources ${target} SOURCES)
     foreach(source ${sources})
-        if(source MATCHES "^\\.\\./")
+        if(source MATCHES "/")
             get_filename_component(source ${folder}/${source} ABSOLUTE)
             get_filename_component(source ${source} DIRECTORY)
             list(APPEND folders ${source})

@@ -1,8 +1,8 @@
 // Arbitrary bytes as an FLI or FLC: into an empty document, then once more behind what came of it.
 #include <cstdlib>
 
-#include "formats/fli_load.h"
-#include "platform/debug_line.h"
+#include "base/debug_line.h"
+#include "formats/fli/fli_load.h"
 
 namespace {
 

@@ -2,8 +2,8 @@
 // screen; even, every image at its own.
 #include <cstdlib>
 
-#include "formats/gif_load.h"
-#include "platform/debug_line.h"
+#include "base/debug_line.h"
+#include "formats/gif/gif_load.h"
 
 namespace {
 

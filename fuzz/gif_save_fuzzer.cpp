@@ -2,8 +2,8 @@
 // where no dithering comes between, pixel for pixel.
 #include <cstdlib>
 
-#include "formats/gif_load.h"
-#include "platform/debug_line.h"
+#include "base/debug_line.h"
+#include "formats/gif/gif_load.h"
 #include "support/meant_picture.h"
 
 using namespace kirto::test;

@@ -1,7 +1,7 @@
 // Arbitrary bytes as an image file whose header is read.
 #include <cstdlib>
 
-#include "platform/image_header.h"
+#include "kit/image_header.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     const auto file = BFile::OnMemory({data, data + size});

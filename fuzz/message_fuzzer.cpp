@@ -1,7 +1,7 @@
 // A message from hostile bytes: refused, or sound enough to be flattened and read again unchanged.
 #include <cstdlib>
 
-#include "platform/message.h"
+#include "kit/message.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8* data, size_t size) {
     BMessage message(1);

@@ -4,11 +4,11 @@
 #include <cstdlib>
 #include <vector>
 
-#include "formats/recovery_block_writer.h"
-#include "formats/recovery_file_reader.h"
-#include "formats/recovery_file_writer.h"
-#include "platform/byte_reader.h"
-#include "platform/byte_writer.h"
+#include "base/byte_reader.h"
+#include "base/byte_writer.h"
+#include "formats/recovery/recovery_block_writer.h"
+#include "formats/recovery/recovery_file_reader.h"
+#include "formats/recovery/recovery_file_writer.h"
 #include "support/same_animation.h"
 
 namespace {

@@ -5,10 +5,10 @@
 #include <utility>
 #include <vector>
 
-#include "platform/byte_order.h"
-#include "platform/resources.h"
-#include "platform/resources_layout.h"
-#include "platform/resources_writer.h"
+#include "base/byte_order.h"
+#include "resources/resources.h"
+#include "resources/resources_layout.h"
+#include "resources/resources_writer.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <utility>
 
-#include "platform/attribute_file.h"
+#include "kit/attribute_file.h"
 #include "settings/prefs.h"
 
 namespace {

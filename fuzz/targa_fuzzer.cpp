@@ -2,7 +2,7 @@
 #include <algorithm>
 #include <cstdlib>
 
-#include "platform/targa.h"
+#include "kit/targa.h"
 
 namespace {
 

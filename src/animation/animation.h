@@ -3,9 +3,9 @@
 #include <memory>
 
 #include "animation/frame_sequence.h"
+#include "base/types.h"
 #include "color/palette.h"
 #include "color/shared_palette.h"
-#include "platform/types.h"
 
 namespace kirto {
 

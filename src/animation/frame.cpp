@@ -2,9 +2,9 @@
 
 #include <atomic>
 
+#include "base/text.h"
 #include "color/shared_palette.h"
-#include "platform/picture_files.h"
-#include "platform/text.h"
+#include "kit/picture_files.h"
 
 namespace {
 

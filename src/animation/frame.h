@@ -4,11 +4,11 @@
 #include <string>
 #include <string_view>
 
+#include "base/types.h"
+#include "base/work.h"
 #include "color/palette.h"
-#include "platform/bitmap.h"
-#include "platform/translator_roster.h"
-#include "platform/types.h"
-#include "platform/work.h"
+#include "kit/bitmap.h"
+#include "kit/translator_roster.h"
 
 namespace kirto {
 

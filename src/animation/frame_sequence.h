@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "animation/frame.h"
-#include "platform/types.h"
+#include "base/types.h"
 
 namespace kirto {
 

@@ -3,7 +3,7 @@
 #include <memory>
 
 #include "document/animation_document.h"
-#include "platform/message_port.h"
+#include "kit/message_port.h"
 
 namespace kirto {
 

@@ -4,9 +4,9 @@
 #include <string>
 
 #include "app/file_panel.h"
-#include "platform/alert.h"
-#include "platform/messenger.h"
-#include "platform/rect.h"
+#include "kit/alert.h"
+#include "kit/messenger.h"
+#include "kit/rect.h"
 
 class Kirto;
 

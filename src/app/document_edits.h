@@ -2,7 +2,7 @@
 #pragma once
 
 #include "document/animation_document.h"
-#include "platform/message.h"
+#include "kit/message.h"
 
 namespace kirto {
 

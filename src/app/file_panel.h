@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "platform/types.h"
+#include "base/types.h"
 
 namespace kirto {
 

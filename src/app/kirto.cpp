@@ -5,13 +5,13 @@
 
 #include "app/command_port.h"
 #include "app/document_edits.h"
+#include "base/number.h"
+#include "base/text.h"
 #include "document/command_codes.h"
 #include "effects/fade.h"
 #include "effects/insert_images.h"
 #include "effects/insert_tiles.h"
-#include "platform/alert.h"
-#include "platform/number.h"
-#include "platform/text.h"
+#include "kit/alert.h"
 
 // One row of the command table: what a command does, the refresh posted after it (0: none), and
 // whether and how it changes the document.

@@ -9,10 +9,10 @@
 
 #include "app/desktop.h"
 #include "app/file_panel.h"
+#include "base/file_stamp.h"
 #include "document/animation_document.h"
-#include "framework/ie_application.h"
-#include "platform/file_stamp.h"
-#include "platform/translator_roster.h"
+#include "kit/translator_roster.h"
+#include "resources/ie_application.h"
 
 namespace kirto {
 class CrashRecovery;

@@ -7,11 +7,11 @@
 #include "app/kirto.h"
 #include "app/open_animation.h"
 #include "app/save_animation.h"
+#include "base/debug_line.h"
+#include "base/text.h"
 #include "document/command_codes.h"
-#include "platform/alert.h"
-#include "platform/debug_line.h"
-#include "platform/picture_files.h"
-#include "platform/text.h"
+#include "kit/alert.h"
+#include "kit/picture_files.h"
 
 namespace {
 

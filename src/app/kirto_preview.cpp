@@ -5,8 +5,8 @@
 
 #include "app/kirto.h"
 #include "app/save_animation.h"
-#include "platform/alert.h"
-#include "platform/directories.h"
+#include "base/directories.h"
+#include "kit/alert.h"
 
 namespace {
 

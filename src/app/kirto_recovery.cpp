@@ -1,8 +1,8 @@
 // Taking over documents that an editor has left that did not come to its end.
-#include "app/crash_recovery.h"
 #include "app/kirto.h"
+#include "app/recovery/crash_recovery.h"
 #include "document/command_codes.h"
-#include "platform/alert.h"
+#include "kit/alert.h"
 
 namespace {
 

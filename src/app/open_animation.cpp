@@ -2,11 +2,11 @@
 
 #include <array>
 
+#include "base/text.h"
 #include "color/sf_hash.h"
-#include "formats/fli_load.h"
-#include "formats/gif_load.h"
-#include "platform/alert.h"
-#include "platform/text.h"
+#include "formats/fli/fli_load.h"
+#include "formats/gif/gif_load.h"
+#include "kit/alert.h"
 
 namespace kirto {
 

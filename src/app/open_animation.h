@@ -4,7 +4,7 @@
 #include <string>
 
 #include "document/animation_document.h"
-#include "platform/file.h"
+#include "kit/file.h"
 
 namespace kirto {
 

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <memory>
 
-#include "formats/gif_save.h"
-#include "platform/file.h"
-#include "platform/text.h"
+#include "base/text.h"
+#include "formats/gif/gif_save.h"
+#include "kit/file.h"
 
 namespace kirto {
 

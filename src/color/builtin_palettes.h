@@ -3,7 +3,7 @@
 
 #include <array>
 
-#include "platform/types.h"
+#include "base/types.h"
 
 namespace kirto {
 

@@ -2,8 +2,8 @@
 
 #include <span>
 
-#include "platform/allocation.h"
-#include "platform/types.h"
+#include "base/allocation.h"
+#include "base/types.h"
 
 namespace kirto {
 

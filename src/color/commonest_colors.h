@@ -1,8 +1,8 @@
 #pragma once
 
+#include "base/allocation.h"
+#include "base/types.h"
 #include "color/color_values.h"
-#include "platform/allocation.h"
-#include "platform/types.h"
 
 namespace kirto {
 

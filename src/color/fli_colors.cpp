@@ -1,6 +1,6 @@
 #include "color/fli_colors.h"
 
-#include "platform/byte_reader.h"
+#include "base/byte_reader.h"
 
 namespace kirto {
 

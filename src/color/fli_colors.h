@@ -3,8 +3,8 @@
 
 #include <span>
 
+#include "base/types.h"
 #include "color/builtin_palettes.h"
-#include "platform/types.h"
 
 namespace kirto {
 

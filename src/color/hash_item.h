@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/types.h"
+#include "base/types.h"
 
 // An entry of an SFHash chain. The table that it was added to owns it.
 struct HashItem {

@@ -3,12 +3,12 @@
 #include <array>
 #include <new>
 
+#include "base/allocation.h"
+#include "base/debug_line.h"
 #include "color/color_values.h"
 #include "color/commonest_colors.h"
 #include "color/palette.h"
-#include "platform/alert.h"
-#include "platform/allocation.h"
-#include "platform/debug_line.h"
+#include "kit/alert.h"
 
 using kirto::ColorKey;
 

@@ -4,12 +4,12 @@
 #include <optional>
 #include <vector>
 
+#include "base/types.h"
+#include "base/work.h"
 #include "color/builtin_palettes.h"
 #include "color/sf_hash.h"
-#include "platform/bitmap.h"
-#include "platform/file.h"
-#include "platform/types.h"
-#include "platform/work.h"
+#include "kit/bitmap.h"
+#include "kit/file.h"
 
 namespace kirto {
 

@@ -4,9 +4,9 @@
 #include <span>
 #include <string_view>
 
+#include "base/byte_order.h"
 #include "color/fli_colors.h"
 #include "color/palette.h"
-#include "platform/byte_order.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "base/allocation.h"
+#include "base/types.h"
 #include "color/hash_item.h"
-#include "platform/allocation.h"
-#include "platform/types.h"
 
 // A chained hash table of fixed size from 32-bit keys to items that it owns. The bucket of a key is
 // key mod bucket_count; it never grows and never removes single items. Iteration is in bucket

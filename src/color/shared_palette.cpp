@@ -2,7 +2,7 @@
 
 #include <new>
 
-#include "platform/allocation.h"
+#include "base/allocation.h"
 
 namespace kirto {
 

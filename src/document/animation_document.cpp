@@ -2,11 +2,11 @@
 
 #include <algorithm>
 
+#include "base/text.h"
 #include "document/command_codes.h"
 #include "document/document_scope.h"
 #include "document/new_animation.h"
-#include "platform/alert.h"
-#include "platform/text.h"
+#include "kit/alert.h"
 
 namespace {
 

@@ -8,12 +8,12 @@
 #include <string>
 
 #include "animation/animation.h"
+#include "base/types.h"
+#include "base/work.h"
 #include "document/document_lock.h"
 #include "document/document_state.h"
 #include "document/history.h"
-#include "platform/messenger.h"
-#include "platform/types.h"
-#include "platform/work.h"
+#include "kit/messenger.h"
 #include "settings/prefs.h"
 
 // The open document: the owner of the one current animation. What it owns is constant; a change is

@@ -2,7 +2,7 @@
 // each with its sender, its meaning and its fields. A test keeps them distinct.
 #pragma once
 
-#include "platform/types.h"
+#include "base/types.h"
 
 namespace kirto {
 

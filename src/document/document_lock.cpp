@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "platform/debug_line.h"
+#include "base/debug_line.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/semaphore.h"
-#include "platform/types.h"
+#include "base/types.h"
+#include "kit/semaphore.h"
 
 // The reader/writer lock of the document, made of one semaphore and a count. Readers never exclude
 // each other and are excluded by a writer; a writer waits until no reader is inside, looking every

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "animation/animation.h"
-#include "platform/types.h"
+#include "base/types.h"
 #include "settings/prefs.h"
 
 namespace kirto {

@@ -6,8 +6,8 @@
 #include <variant>
 
 #include "animation/animation.h"
-#include "platform/message.h"
-#include "platform/types.h"
+#include "base/types.h"
+#include "kit/message.h"
 
 namespace kirto {
 

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <memory>
 
+#include "base/text.h"
 #include "effects/fade_kernels.h"
-#include "platform/alert.h"
-#include "platform/text.h"
+#include "kit/alert.h"
 
 namespace kirto {
 

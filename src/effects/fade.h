@@ -1,8 +1,8 @@
 // Generating runs of frames that blend the current frame with a color or with a neighbor.
 #pragma once
 
+#include "base/types.h"
 #include "document/animation_document.h"
-#include "platform/types.h"
 
 namespace kirto {
 

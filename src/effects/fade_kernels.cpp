@@ -1,6 +1,6 @@
 #include "effects/fade_kernels.h"
 
-#include "platform/bitmap.h"
+#include "kit/bitmap.h"
 
 namespace kirto {
 

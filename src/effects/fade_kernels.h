@@ -4,7 +4,7 @@
 // green, blue. Results are truncated toward zero.
 #pragma once
 
-#include "platform/types.h"
+#include "base/types.h"
 
 namespace kirto {
 

@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "animation/frame.h"
-#include "platform/alert.h"
-#include "platform/text.h"
+#include "base/text.h"
+#include "kit/alert.h"
 
 namespace kirto {
 

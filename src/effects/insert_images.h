@@ -2,8 +2,8 @@
 #pragma once
 
 #include "document/animation_document.h"
-#include "platform/message.h"
-#include "platform/translator_roster.h"
+#include "kit/message.h"
+#include "kit/translator_roster.h"
 
 namespace kirto {
 

@@ -4,9 +4,9 @@
 #include <memory>
 #include <optional>
 
-#include "platform/alert.h"
-#include "platform/picture_files.h"
-#include "platform/text.h"
+#include "base/text.h"
+#include "kit/alert.h"
+#include "kit/picture_files.h"
 
 namespace kirto {
 

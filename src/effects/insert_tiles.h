@@ -2,9 +2,9 @@
 #pragma once
 
 #include "document/animation_document.h"
-#include "platform/bitmap.h"
-#include "platform/entry_ref.h"
-#include "platform/translator_roster.h"
+#include "kit/bitmap.h"
+#include "kit/entry_ref.h"
+#include "kit/translator_roster.h"
 
 namespace kirto {
 

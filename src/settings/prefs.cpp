@@ -10,11 +10,11 @@
 #include <utility>
 #include <variant>
 
-#include "platform/attribute_file.h"
-#include "platform/debug_line.h"
-#include "platform/directories.h"
-#include "platform/number.h"
-#include "platform/text.h"
+#include "base/debug_line.h"
+#include "base/directories.h"
+#include "base/number.h"
+#include "base/text.h"
+#include "kit/attribute_file.h"
 
 namespace {
 

@@ -2,10 +2,10 @@
 
 #include <string>
 
-#include "platform/message.h"
-#include "platform/node.h"
-#include "platform/rect.h"
-#include "platform/types.h"
+#include "base/types.h"
+#include "kit/message.h"
+#include "kit/node.h"
+#include "kit/rect.h"
 
 // Every user setting of the program, as public fields, kept as typed attributes named like the
 // fields. The program's settings are one object, made at start, that belongs to the application

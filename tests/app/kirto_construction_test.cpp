@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "app/kirto_fixture.h"
-#include "platform/resources_writer.h"
+#include "resources/resources_writer.h"
 
 namespace kirto::test {
 

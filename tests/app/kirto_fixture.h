@@ -8,7 +8,7 @@
 
 #include "app/kirto.h"
 #include "document/command_codes.h"
-#include "platform/idle_barrier.h"
+#include "kit/idle_barrier.h"
 #include "support/environment.h"
 #include "support/fake_desktop.h"
 #include "support/fake_roster.h"

@@ -1,8 +1,8 @@
 #include <filesystem>
 #include <gtest/gtest.h>
 
-#include "app/crash_recovery.h"
 #include "app/kirto_fixture.h"
+#include "app/recovery/crash_recovery.h"
 #include "support/same_animation.h"
 
 namespace kirto::test {

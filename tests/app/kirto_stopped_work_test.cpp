@@ -3,7 +3,7 @@
 #include <mutex>
 
 #include "app/kirto_fixture.h"
-#include "platform/abandonable.h"
+#include "base/abandonable.h"
 #include "support/fli_builder.h"
 #include "support/port_watcher.h"
 

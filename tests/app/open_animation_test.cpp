@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/text.h"
+#include "base/text.h"
 #include "support/fli_builder.h"
 #include "support/gif_builder.h"
 #include "support/test_support.h"

@@ -1,8 +1,8 @@
 #include <filesystem>
 #include <gtest/gtest.h>
 
+#include "base/md5.h"
 #include "cli/cli_run.h"
-#include "platform/md5.h"
 
 namespace kirto::test {
 

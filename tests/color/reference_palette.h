@@ -6,9 +6,9 @@
 #include <map>
 #include <vector>
 
+#include "base/types.h"
 #include "color/builtin_palettes.h"
-#include "platform/bitmap.h"
-#include "platform/types.h"
+#include "kit/bitmap.h"
 
 namespace kirto::test {
 

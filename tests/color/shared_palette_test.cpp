@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/allocation.h"
+#include "base/allocation.h"
 
 namespace kirto::test {
 

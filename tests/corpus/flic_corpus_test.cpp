@@ -5,10 +5,10 @@
 #include <string>
 #include <vector>
 
+#include "base/md5.h"
 #include "corpus/corpus.h"
-#include "formats/fli_load.h"
-#include "formats/reference_flic.h"
-#include "platform/md5.h"
+#include "formats/fli/fli_load.h"
+#include "formats/fli/reference_flic.h"
 #include "support/test_support.h"
 
 namespace kirto::test {

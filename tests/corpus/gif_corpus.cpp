@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "formats/gif_load.h"
-#include "platform/md5.h"
+#include "base/md5.h"
+#include "formats/gif/gif_load.h"
 
 namespace kirto::test {
 

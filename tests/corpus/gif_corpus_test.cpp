@@ -7,9 +7,9 @@
 #include <map>
 #include <set>
 
+#include "base/md5.h"
 #include "corpus/corpus.h"
-#include "formats/reference_gif_decoder.h"
-#include "platform/md5.h"
+#include "formats/gif/reference_gif_decoder.h"
 
 namespace kirto::test {
 namespace {

@@ -1,8 +1,8 @@
 #include <filesystem>
 #include <gtest/gtest.h>
 
+#include "base/byte_order.h"
 #include "cli/cli_run.h"
-#include "platform/byte_order.h"
 
 namespace kirto::test {
 

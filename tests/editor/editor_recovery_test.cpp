@@ -6,11 +6,11 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "app/crash_recovery.h"
 #include "app/kirto.h"
+#include "app/recovery/crash_recovery.h"
 #include "cli/cli_run.h"
 #include "document/command_codes.h"
-#include "platform/idle_barrier.h"
+#include "kit/idle_barrier.h"
 #include "support/environment.h"
 #include "support/fake_desktop.h"
 #include "support/fake_roster.h"

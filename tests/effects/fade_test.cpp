@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 #include <limits>
 
-#include "platform/text.h"
+#include "base/text.h"
 #include "support/test_support.h"
 
 namespace kirto::test {

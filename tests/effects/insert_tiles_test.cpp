@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 #include <limits>
 
-#include "platform/text.h"
+#include "base/text.h"
 #include "support/fake_roster.h"
 #include "support/random_document.h"
 #include "support/test_support.h"

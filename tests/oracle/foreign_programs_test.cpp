@@ -6,8 +6,8 @@
 #include <string>
 #include <sys/wait.h>
 
+#include "base/text.h"
 #include "oracle/giflib_reader.h"
-#include "platform/text.h"
 #include "support/meant_picture.h"
 
 namespace kirto::test {

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "app/open_animation.h"
-#include "formats/gif_save.h"
+#include "formats/gif/gif_save.h"
 #include "support/meant_picture.h"
 
 namespace kirto::test {

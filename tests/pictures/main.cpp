@@ -18,12 +18,12 @@
 #include <thread>
 #include <vector>
 
-#include "app/crash_recovery.h"
 #include "app/kirto.h"
+#include "app/recovery/crash_recovery.h"
 #include "document/command_codes.h"
-#include "framework/resource_file_path.h"
-#include "platform/qt/qt_translator_roster.h"
-#include "ui/qt_desktop.h"
+#include "kit/qt/qt_translator_roster.h"
+#include "resources/resource_file_path.h"
+#include "ui/shell/qt_desktop.h"
 
 namespace {
 

@@ -3,9 +3,9 @@
 #include <gtest/gtest.h>
 #include <regex>
 
+#include "kit/message.h"
 #include "main/rsrc/text_icon.h"
-#include "platform/message.h"
-#include "platform/resources.h"
+#include "resources/resources.h"
 #include "support/test_support.h"
 
 namespace kirto::test {

@@ -5,9 +5,9 @@
 #include <gtest/gtest.h>
 #include <sys/wait.h>
 
+#include "kit/message.h"
 #include "main/rsrc/text_icon.h"
-#include "platform/message.h"
-#include "platform/resources.h"
+#include "resources/resources.h"
 #include "support/source_folder.h"
 #include "support/test_support.h"
 

@@ -7,7 +7,7 @@
 #include <gtest/gtest.h>
 #include <map>
 
-#include "platform/attribute_file.h"
+#include "kit/attribute_file.h"
 #include "support/environment.h"
 #include "support/test_support.h"
 

@@ -2,8 +2,8 @@
 
 #include <utility>
 
-#include "platform/entry_ref.h"
-#include "platform/text.h"
+#include "base/text.h"
+#include "kit/entry_ref.h"
 
 namespace kirto::test {
 

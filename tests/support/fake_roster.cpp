@@ -1,6 +1,6 @@
 #include "support/fake_roster.h"
 
-#include "platform/byte_order.h"
+#include "base/byte_order.h"
 
 namespace kirto::test {
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/translator_roster.h"
+#include "kit/translator_roster.h"
 
 namespace kirto::test {
 

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "formats/gif_save.h"
-#include "formats/pixel_mapper.h"
+#include "formats/gif/gif_save.h"
+#include "formats/gif/pixel_mapper.h"
 
 namespace kirto::test {
 

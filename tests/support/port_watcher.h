@@ -2,7 +2,7 @@
 
 #include <functional>
 
-#include "platform/message_port.h"
+#include "kit/message_port.h"
 
 namespace kirto::test {
 

@@ -6,12 +6,12 @@
 #include <string>
 #include <vector>
 
+#include "base/byte_order.h"
+#include "base/debug_line.h"
 #include "document/animation_document.h"
-#include "platform/alert.h"
-#include "platform/bitmap.h"
-#include "platform/byte_order.h"
-#include "platform/debug_line.h"
-#include "platform/message_port.h"
+#include "kit/alert.h"
+#include "kit/bitmap.h"
+#include "kit/message_port.h"
 #include "support/document_edits.h"
 
 namespace kirto::test {

@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "framework/window_layout.h"
-#include "platform/resources_writer.h"
+#include "resources/resources_writer.h"
+#include "resources/window_layout.h"
 
 namespace kirto::test {
 

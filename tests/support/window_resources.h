@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "framework/ie_resource_handler.h"
-#include "platform/message.h"
+#include "kit/message.h"
+#include "resources/ie_resource_handler.h"
 #include "support/test_support.h"
 
 namespace kirto::test {

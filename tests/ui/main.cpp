@@ -3,7 +3,7 @@
 #include <cstdlib>
 #include <gtest/gtest.h>
 
-#include "platform/qt/qt_translator_roster.h"
+#include "kit/qt/qt_translator_roster.h"
 #include "support/test_support.h"
 
 int main(int argc, char** argv) {

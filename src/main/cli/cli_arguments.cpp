@@ -4,7 +4,7 @@
 #include <map>
 #include <unistd.h>
 
-#include "platform/terminal_text.h"
+#include "base/terminal_text.h"
 
 namespace kirto {
 

@@ -2,7 +2,7 @@
 
 #include <map>
 
-#include "platform/alert.h"
+#include "kit/alert.h"
 
 namespace kirto {
 

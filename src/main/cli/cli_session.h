@@ -5,10 +5,10 @@
 
 #include "app/kirto.h"
 #include "document/field_table.h"
+#include "kit/idle_barrier.h"
+#include "kit/translator_roster.h"
 #include "main/cli/cli_arguments.h"
 #include "main/cli/headless_desktop.h"
-#include "platform/idle_barrier.h"
-#include "platform/translator_roster.h"
 #include "settings/prefs.h"
 
 namespace kirto {

@@ -3,11 +3,11 @@
 #include <cstdio>
 #include <unistd.h>
 
+#include "base/number.h"
+#include "base/text.h"
 #include "document/command_codes.h"
 #include "main/cli/cli_session.h"
 #include "main/cli/document_info.h"
-#include "platform/number.h"
-#include "platform/text.h"
 
 namespace kirto {
 

@@ -5,11 +5,11 @@
 #include <filesystem>
 
 #include "app/save_animation.h"
+#include "base/number.h"
+#include "base/text.h"
 #include "document/command_codes.h"
+#include "kit/entry_ref.h"
 #include "main/cli/cli_session.h"
-#include "platform/entry_ref.h"
-#include "platform/number.h"
-#include "platform/text.h"
 
 namespace kirto {
 

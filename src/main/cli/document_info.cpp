@@ -2,9 +2,9 @@
 
 #include <nlohmann/json.hpp>
 
-#include "platform/md5.h"
-#include "platform/terminal_text.h"
-#include "platform/text.h"
+#include "base/md5.h"
+#include "base/terminal_text.h"
+#include "base/text.h"
 
 namespace kirto {
 

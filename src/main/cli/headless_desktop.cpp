@@ -4,10 +4,10 @@
 #include <unistd.h>
 
 #include "app/open_animation.h"
+#include "base/terminal_text.h"
+#include "kit/entry_ref.h"
+#include "kit/file.h"
 #include "main/cli/viewer.h"
-#include "platform/entry_ref.h"
-#include "platform/file.h"
-#include "platform/terminal_text.h"
 
 namespace kirto {
 

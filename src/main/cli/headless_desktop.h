@@ -5,9 +5,9 @@
 #include <string>
 
 #include "app/desktop.h"
+#include "base/debug_line.h"
+#include "base/line_output.h"
 #include "main/cli/progress_line.h"
-#include "platform/debug_line.h"
-#include "platform/line_output.h"
 
 namespace kirto {
 

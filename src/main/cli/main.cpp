@@ -9,10 +9,10 @@
 #include <new>
 #include <set>
 
+#include "base/abandonable.h"
+#include "kit/qt/qt_translator_roster.h"
 #include "main/cli/cli_arguments.h"
 #include "main/cli/cli_session.h"
-#include "platform/abandonable.h"
-#include "platform/qt/qt_translator_roster.h"
 
 namespace {
 

@@ -3,8 +3,8 @@
 #include <cstdio>
 #include <unistd.h>
 
+#include "base/terminal_text.h"
 #include "document/command_codes.h"
-#include "platform/terminal_text.h"
 
 namespace kirto {
 

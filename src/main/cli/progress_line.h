@@ -3,7 +3,7 @@
 #include <atomic>
 #include <string>
 
-#include "platform/message_port.h"
+#include "kit/message_port.h"
 
 namespace kirto {
 

@@ -5,7 +5,7 @@
 #include <sys/wait.h>
 #include <vector>
 
-#include "platform/browser_variable.h"
+#include "desktop/browser_variable.h"
 
 namespace kirto {
 

@@ -13,19 +13,19 @@
 #include <optional>
 #include <thread>
 
-#include "app/crash_recovery.h"
 #include "app/kirto.h"
+#include "app/recovery/crash_recovery.h"
+#include "base/abandonable.h"
+#include "base/number.h"
 #include "document/command_codes.h"
-#include "framework/resource_file_path.h"
+#include "kit/qt/qt_translator_roster.h"
 #include "main/editor/editor_arguments.h"
 #include "main/editor/printed_alerts.h"
 #include "main/editor/screenshot.h"
 #include "main/editor/termination_signals.h"
-#include "platform/abandonable.h"
-#include "platform/number.h"
-#include "platform/qt/qt_translator_roster.h"
-#include "ui/editor_style.h"
-#include "ui/qt_desktop.h"
+#include "resources/resource_file_path.h"
+#include "ui/shell/editor_style.h"
+#include "ui/shell/qt_desktop.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 
 #include <atomic>
 
-#include "platform/alert.h"
+#include "kit/alert.h"
 
 namespace kirto {
 

@@ -5,7 +5,7 @@
 #include <cstdio>
 
 #include "app/kirto.h"
-#include "ui/kirto_window.h"
+#include "ui/shell/kirto_window.h"
 
 namespace kirto {
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "platform/handler.h"
+#include "kit/handler.h"
 
 class Kirto;
 class KirtoWindow;

@@ -2,8 +2,8 @@
 #include <cstdio>
 #include <memory>
 
+#include "kit/file.h"
 #include "main/rsrc/resource_compiler.h"
-#include "platform/file.h"
 
 namespace {
 

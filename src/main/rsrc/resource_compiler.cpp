@@ -3,13 +3,13 @@
 #include <limits>
 #include <utility>
 
-#include "framework/window_layout.h"
+#include "base/byte_order.h"
+#include "base/text.h"
+#include "kit/file.h"
+#include "kit/message.h"
 #include "main/rsrc/text_icon.h"
-#include "platform/byte_order.h"
-#include "platform/file.h"
-#include "platform/message.h"
-#include "platform/resources.h"
-#include "platform/text.h"
+#include "resources/resources.h"
+#include "resources/window_layout.h"
 
 namespace kirto {
 

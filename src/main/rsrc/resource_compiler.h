@@ -6,8 +6,8 @@
 #include <toml++/toml.h>
 #include <vector>
 
-#include "platform/resources_writer.h"
-#include "platform/types.h"
+#include "base/types.h"
+#include "resources/resources_writer.h"
 
 namespace kirto {
 

@@ -3,8 +3,8 @@
 #include <array>
 #include <charconv>
 
+#include "base/text.h"
 #include "color/palette.h"
-#include "platform/text.h"
 
 namespace kirto {
 

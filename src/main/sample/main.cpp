@@ -6,10 +6,10 @@
 #include <string>
 
 #include "app/save_animation.h"
+#include "base/text.h"
 #include "document/animation_document.h"
+#include "kit/targa.h"
 #include "main/sample/sample_pictures.h"
-#include "platform/targa.h"
-#include "platform/text.h"
 
 namespace {
 

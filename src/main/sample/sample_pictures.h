@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "platform/types.h"
+#include "base/types.h"
 
 namespace kirto {
 

@@ -1,0 +1,80 @@
+#include "kit/bitmap.h"
+
+#include <algorithm>
+#include <cstring>
+#include <utility>
+
+namespace {
+
+// Bytes a row; rows of the narrower spaces are padded to whole 32-bit words.
+size_t RowBytes(color_space space, int32 width) {
+    const size_t pixels = static_cast<size_t>(width);
+    const auto padded = [](size_t bytes) { return (bytes + 3) / 4 * 4; };
+    switch (space) {
+        case B_RGB32:
+        case B_RGBA32:
+        case B_RGB32_BIG:
+        case B_RGBA32_BIG:
+            return pixels * 4;
+        case B_RGB24:
+            return padded(pixels * 3);
+        case B_RGB16:
+            return padded(pixels * 2);
+        case B_CMAP8:
+        case B_GRAY8:
+            return padded(pixels);
+        case B_GRAY1:
+            return padded((pixels + 7) / 8);
+        case B_NO_COLOR_SPACE:
+            break;
+    }
+    return 0;
+}
+
+}  // namespace
+
+BBitmap::BBitmap(BRect bounds, color_space space, std::shared_ptr<kirto::PixelBudget> budget)
+    : bounds_(bounds), space_(space), budget_(std::move(budget)) {
+    if (!bounds.IsValid()) return;
+    width_ = bounds.PixelWidth();
+    height_ = bounds.PixelHeight();
+    bytes_per_row_ = RowBytes(space, width_);
+    if (bytes_per_row_ == 0 || bytes_per_row_ > INT32_MAX || height_ == 0) return;
+    // Both factors are below 2^31.
+    const size_t bytes = bytes_per_row_ * static_cast<size_t>(height_);
+    if (budget_ && !budget_->Reserve(bytes + kirto::PixelBudget::kFrameCost)) return;
+    bits_ = kirto::AllocateArray<uint8>(bytes);
+    if (bits_) {
+        bytes_ = bytes;
+    } else if (budget_) {
+        budget_->Release(bytes + kirto::PixelBudget::kFrameCost);
+    }
+}
+
+BBitmap::~BBitmap() {
+    if (budget_ && bits_) budget_->Release(bytes_ + kirto::PixelBudget::kFrameCost);
+}
+
+namespace kirto {
+
+bool CopyPixels(const BBitmap& source, BBitmap& target, const Work& work) {
+    constexpr size_t kBytesAtOnce = size_t{1} << 22;
+    const size_t length = std::min(source.BitsLength(), target.BitsLength());
+    for (size_t i = 0; i < length && !work.StopRequested(); i += kBytesAtOnce)
+        std::memcpy(target.Bits() + i, source.Bits() + i, std::min(kBytesAtOnce, length - i));
+    return !work.StopRequested();
+}
+
+bool Is32Bit(color_space space) {
+    return IsLittleEndian(space) || IsBigEndian(space);
+}
+
+bool IsLittleEndian(color_space space) {
+    return space == B_RGB32 || space == B_RGBA32;
+}
+
+bool IsBigEndian(color_space space) {
+    return space == B_RGB32_BIG || space == B_RGBA32_BIG;
+}
+
+}  // namespace kirto

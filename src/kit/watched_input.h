@@ -1,0 +1,27 @@
+#pragma once
+
+#include "base/work.h"
+#include "kit/file.h"
+
+namespace kirto {
+
+// A file that is read as a piece of work: each read tells how far it is in the file, and when the
+// work is stopped the file ends there. Neither is owned.
+class WatchedInput {
+  public:
+    WatchedInput(BFile& file, Work& work) : file_(file), work_(work) {}
+
+    // True when exactly size bytes were read.
+    bool Read(void* buffer, size_t size);
+    // Moves by the distance; false before the file's start. Past its end is allowed.
+    bool Skip(int64 distance) { return file_.Seek(distance, SEEK_FROM_CURRENT) >= 0; }
+    int64 Position() const { return file_.Position(); }
+    int64 Size() const { return file_.Size(); }
+    bool Stopped() const { return work_.StopRequested(); }
+
+  private:
+    BFile& file_;
+    Work& work_;
+};
+
+}  // namespace kirto

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "app/file_panel.h"
+#include "document/animation_document.h"
+#include "kit/messenger.h"
+#include "kit/translator_roster.h"
+
+class IEResourceHandler;
+
+namespace kirto {
+
+// What windows work on: the document they show, and the target of their commands (through a
+// CommandPort, so that changes count at once). Everything outlives every window. The document is
+// read only through ShownDocument::Take.
+struct Editor {
+    AnimationDocument& document;
+    BMessenger application;
+    FilePanelSource& panels;
+    BTranslatorRoster& roster;
+    IEResourceHandler* resources;  // null if no window is built from resources
+};
+
+}  // namespace kirto

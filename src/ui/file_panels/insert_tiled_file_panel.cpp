@@ -1,0 +1,93 @@
+#include "ui/file_panels/insert_tiled_file_panel.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QRegularExpressionValidator>
+
+#include "document/command_codes.h"
+#include "ui/file_panels/image_filter.h"
+
+namespace {
+
+constexpr int kMaxDigits = 5;
+
+QLabel* MakeLabelFor(QWidget* field, const char* text, QWidget* parent) {
+    auto* label = new QLabel(QString::fromUtf8(text), parent);
+    label->setBuddy(field);
+    field->setAccessibleName(label->text());
+    return label;
+}
+
+QRadioButton* MakeOrder(const char* name, const char* label, QWidget* parent) {
+    auto* button = new QRadioButton(QString::fromUtf8(label), parent);
+    button->setObjectName(QString::fromUtf8(name));
+    return button;
+}
+
+}  // namespace
+
+InsertTiledFilePanel::InsertTiledFilePanel(BMessenger target, const BTranslatorRoster& roster,
+                                           QPointer<QWidget> parent)
+    : OpenFilePanel({"Insert Tiled Frame", kirto::kInsertTiledFile, "Insert", false,
+                     [&roster] { return std::make_unique<ImageFilter>(roster); }},
+                    std::move(target), std::move(parent)) {}
+
+std::string InsertTiledFilePanel::RowsText() const {
+    const std::lock_guard lock(mutex_);
+    return rows_;
+}
+
+std::string InsertTiledFilePanel::ColumnsText() const {
+    const std::lock_guard lock(mutex_);
+    return columns_;
+}
+
+bool InsertTiledFilePanel::ColumnByColumn() const {
+    const std::lock_guard lock(mutex_);
+    return column_by_column_;
+}
+
+QLineEdit* InsertTiledFilePanel::MakeNumberField(const char* name, std::string* text,
+                                                 QWidget* parent) {
+    static const QRegularExpression kDigits("[0-9]*");
+    auto* field = new QLineEdit(QString::fromStdString(*text), parent);
+    field->setObjectName(QString::fromUtf8(name));
+    field->setMaxLength(kMaxDigits);
+    field->setValidator(new QRegularExpressionValidator(kDigits, field));
+    field->setAlignment(Qt::AlignRight);
+    field->setFixedWidth(field->fontMetrics().horizontalAdvance("0") * (kMaxDigits + 3));
+    QObject::connect(field, &QLineEdit::textChanged, [this, text](const QString& changed) {
+        const std::lock_guard lock(mutex_);
+        *text = changed.toStdString();
+    });
+    return field;
+}
+
+void InsertTiledFilePanel::Prepare(kirto::FileDialog& dialog) {
+    OpenFilePanel::Prepare(dialog);
+    auto* controls = new QWidget(&dialog);
+    QLineEdit* rows = MakeNumberField("Rows", &rows_, controls);
+    rows->setToolTip("Number of rows of tiles in the image");
+    QLineEdit* columns = MakeNumberField("Columns", &columns_, controls);
+    columns->setToolTip("Number of columns of tiles in the image");
+    QRadioButton* by_row = MakeOrder("RowByRow", "Row by row", controls);
+    QRadioButton* by_column = MakeOrder("ColumnByColumn", "Column by column", controls);
+    (column_by_column_ ? by_column : by_row)->setChecked(true);
+    QObject::connect(by_column, &QRadioButton::toggled, [this](bool on) {
+        const std::lock_guard lock(mutex_);
+        column_by_column_ = on;
+    });
+
+    auto* layout = new QGridLayout(controls);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(MakeLabelFor(rows, "Rows:", controls), 0, 0);
+    layout->addWidget(rows, 0, 1);
+    layout->addWidget(by_row, 0, 2);
+    layout->addWidget(MakeLabelFor(columns, "Columns:", controls), 1, 0);
+    layout->addWidget(columns, 1, 1);
+    layout->addWidget(by_column, 1, 2);
+    layout->setColumnStretch(2, 1);
+    dialog.AddRow(controls);
+}

@@ -1,0 +1,11 @@
+#include "ui/file_panels/kirto_filter.h"
+
+#include "app/open_animation.h"
+
+bool KirtoFilter::Filter(const entry_ref& ref, const TypeSource& type) const {
+    using kirto::AnimationType;
+    if (kirto::ClassifyAnimation(ref.Leaf(), {}) != AnimationType::kNone) return true;
+    const std::string entry_type = type();
+    return kirto::LeadsToFiles(entry_type) || entry_type == "image/x-gif" ||
+           kirto::ClassifyAnimation({}, entry_type) != AnimationType::kNone;
+}

@@ -1,0 +1,27 @@
+#include "ui/file_panels/open_file_panel.h"
+
+#include <QFile>
+
+namespace kirto {
+
+OpenFilePanel::OpenFilePanel(OpenPanelSetup setup, BMessenger target, QPointer<QWidget> parent)
+    : FileDialogPanel(setup.title, std::move(target), std::move(parent)),
+      setup_(std::move(setup)) {}
+
+void OpenFilePanel::Prepare(FileDialog& dialog) {
+    dialog.setAcceptMode(QFileDialog::AcceptOpen);
+    dialog.setFileMode(setup_.several_files ? QFileDialog::ExistingFiles
+                                            : QFileDialog::ExistingFile);
+    dialog.SetFilter(setup_.make_filter());
+    if (setup_.button.empty()) return;
+    dialog.setLabelText(QFileDialog::Accept, QString::fromStdString(setup_.button));
+}
+
+BMessage OpenFilePanel::CommandFor(const QStringList& files) const {
+    BMessage command(setup_.command);
+    for (const QString& file : files)
+        command.AddRef("refs", entry_ref(QFile::encodeName(file).toStdString()));
+    return command;
+}
+
+}  // namespace kirto

@@ -1,0 +1,123 @@
+#include "ui/panels/field_panel.h"
+
+#include <QAbstractItemView>
+#include <algorithm>
+
+#include "document/new_animation.h"
+#include "ui/controls/check_input.h"
+
+namespace kirto {
+
+namespace {
+
+QString Text(const Field::Value& value) {
+    const auto* real = std::get_if<double>(&value);
+    return real ? QString::number(*real, 'f', 2) : QString::number(std::get<int32>(value));
+}
+
+}  // namespace
+
+FieldPanel::FieldPanel(const char* name, const QString& title, const ShownDocument& shown,
+                       const BMessenger& window, QWidget* parent)
+    : QGroupBox(title, parent), shown_(shown), window_(window), rows_(new PanelLayout(this)) {
+    setObjectName(name);
+}
+
+TextControl* FieldPanel::MakeNumber(uint32 command, const char* tip, QCheckBox* box) {
+    const Field* field = FieldOf(command);
+    TextControl* number = MakeField(field->name, command, window_, this);
+    number->SetText("0");
+    number->setToolTip(tip);
+    if (box) SwitchBy(*box, *number);
+    fields_.push_back({field, number, nullptr, box != nullptr});
+    return number;
+}
+
+TextControl* FieldPanel::AddNumber(uint32 command, const char* tip, const char* label,
+                                   QCheckBox* box) {
+    TextControl* number = MakeNumber(command, tip, box);
+    rows_->AddField(label ? QString(label) : number->objectName() + ":", number);
+    return number;
+}
+
+TextControl* FieldPanel::AddNumber(uint32 command, const char* tip, QCheckBox* box) {
+    TextControl* number = MakeNumber(command, tip, box);
+    rows_->AddField(box, number);
+    return number;
+}
+
+QCheckBox* FieldPanel::MakeSwitch(uint32 command, const char* tip, const char* label) {
+    const Field* field = FieldOf(command);
+    QCheckBox* box = MakeCheckBox(field->name, label ? label : field->name, command, window_, this);
+    box->setToolTip(tip);
+    fields_.push_back({field, nullptr, box, false});
+    return box;
+}
+
+QComboBox* FieldPanel::MakePaletteMenu(const std::vector<MenuChoice>& kinds, const char* tip) {
+    palette_menu_ = MakePopUpMenu("PaletteMenuField", kinds, window_, this);
+    palette_menu_->view()->setObjectName("WhichPalette");
+    palette_menu_->setToolTip(tip);
+    return palette_menu_;
+}
+
+bool FieldPanel::ShowsFrame() const {
+    return std::any_of(fields_.begin(), fields_.end(),
+                       [](const Row& row) { return row.field->IsOfFrame(); });
+}
+
+void FieldPanel::ResetDisplay() {
+    Show(NewAnimation(shown_.Settings()), true);
+}
+
+void FieldPanel::Show(const Animation& animation, bool end_edits) {
+    const bool has_frame = animation.CurrentFrame() != nullptr;
+    for (const Row& row : fields_) {
+        const Field::Value value = row.field->In(animation);
+        if (row.box) {
+            row.box->setChecked(std::get<bool>(value));
+        } else if (end_edits) {
+            row.number->SetText(Text(value));
+        } else {
+            row.number->ShowText(Text(value));
+        }
+        QWidget* control = row.box ? static_cast<QWidget*>(row.box) : row.number;
+        if (row.field->IsOfFrame() && !row.is_switched) control->setEnabled(has_frame);
+    }
+}
+
+bool FieldPanel::ChooseKind(uint32) {
+    return true;
+}
+
+BMessage FieldPanel::Checked(const Row& row) const {
+    const Field& field = *row.field;
+    BMessage edit(field.code);
+    if (row.box) {
+        edit.AddBool("value", row.box->isChecked());
+    } else if (field.IsReal()) {
+        edit.AddDouble("value", CheckInput(*row.number, 0.0, kNoUpperBoundReal, field.name));
+    } else {
+        const int32 largest = field.Largest(shown_.Current());
+        edit.AddInt32("value", CheckInput(*row.number, 0, largest, field.name));
+    }
+    return edit;
+}
+
+bool FieldPanel::PostEdit(uint32 command, const BMessenger& application) {
+    if (palette_menu_ && HasChoice(*palette_menu_, command)) {
+        if (!ChooseKind(command)) return false;
+        application.SendMessage(command);
+        return true;
+    }
+    const auto row = std::find_if(fields_.begin(), fields_.end(),
+                                  [=](const Row& each) { return each.field->code == command; });
+    if (row == fields_.end()) return false;
+    // What was typed is corrected in any case.
+    const BMessage edit = Checked(*row);
+    if (row->field->IsOfFrame() && !shown_.CurrentFrame()) return false;
+    application.SendMessage(edit);
+    return true;
+}
+
+}  // namespace kirto

@@ -1,0 +1,281 @@
+// What the main window does on each command.
+#include <QGuiApplication>
+#include <QScreen>
+#include <QShortcut>
+#include <algorithm>
+
+#include "document/command_codes.h"
+#include "kit/alert.h"
+#include "ui/dialogs/fade_window.h"
+#include "ui/panels/field_panel.h"
+#include "ui/panels/status_view.h"
+#include "ui/shell/kirto_window.h"
+#include "ui/shell/main_menu.h"
+#include "ui/thumbnails/frame_list.h"
+#include "ui/thumbnails/frame_list_view.h"
+#include "ui/thumbnails/thumbnail_view.h"
+
+// One row of the command table.
+struct KirtoWindow::Command {
+    uint32 code;
+    Handler handle;
+};
+
+const KirtoWindow::Command* KirtoWindow::CommandFor(uint32 code) {
+    static constexpr Command kCommands[] = {
+        {kirto::kUpdateAll, &KirtoWindow::UpdateAll},
+        {kirto::kUpdateFrames, &KirtoWindow::UpdateFrames},
+        {kirto::kUpdateFramesNoStatus, &KirtoWindow::UpdateFramesNoStatus},
+        {kirto::kEditDone, &KirtoWindow::UpdateAll},
+        {kirto::kResume, &KirtoWindow::Resume},
+        {kirto::kAbandonPending, &KirtoWindow::AbandonPending},
+        {kirto::kStatusUpdate, &KirtoWindow::ShowStatus},
+        {kirto::kWorkProgress, &KirtoWindow::ShowWork},
+        {kirto::kStopWork, &KirtoWindow::StopWork},
+        {kirto::kQuitWhenDone, &KirtoWindow::CloseWhenDone},
+        {kirto::kMenuNew, &KirtoWindow::New},
+        {kirto::kMenuOpen, &KirtoWindow::Open},
+        {kirto::kMenuSave, &KirtoWindow::Save},
+        {kirto::kMenuSaveAs, &KirtoWindow::SaveAs},
+        {B_ABOUT_REQUESTED, &KirtoWindow::About},
+        {B_QUIT_REQUESTED, &KirtoWindow::RequestQuit},
+        {kirto::kPreview, &KirtoWindow::Preview},
+        {kirto::kToggleMode, &KirtoWindow::ToggleMode},
+        {kirto::kMenuPreferences, &KirtoWindow::OpenPreferences},
+        {kirto::kMenuInsert, &KirtoWindow::Insert},
+        {kirto::kMenuInsertTiled, &KirtoWindow::InsertTiled},
+        {kirto::kMenuFadeEffects, &KirtoWindow::FadeEffects},
+        {kirto::kRemoveFrame, &KirtoWindow::Forward},
+        {kirto::kMoveFrameUp, &KirtoWindow::Forward},
+        {kirto::kMoveFrameDown, &KirtoWindow::Forward},
+        {kirto::kReverseFrames, &KirtoWindow::Forward},
+        {kirto::kUndo, &KirtoWindow::Forward},
+        {kirto::kRedo, &KirtoWindow::Forward},
+        {B_SIMPLE_DATA, &KirtoWindow::Forward},
+        {kirto::kPaletteToFile, &KirtoWindow::PaletteFromFile},
+        {kirto::kFramePaletteToFile, &KirtoWindow::PaletteFromFile},
+        {kirto::kThumbnailMode, &KirtoWindow::ChooseMode},
+        {kirto::kFrameListMode, &KirtoWindow::ChooseMode},
+        {kirto::kThumbnailSlider, &KirtoWindow::SlideThumbnails},
+        {kirto::kThumbnailFirstHalf, &KirtoWindow::PresetThumbnails},
+        {kirto::kThumbnailCurrentHalf, &KirtoWindow::PresetThumbnails},
+        {kirto::kThumbnailFirstFull, &KirtoWindow::PresetThumbnails},
+        {kirto::kThumbnailCurrentFull, &KirtoWindow::PresetThumbnails},
+        {kirto::kThumbnailPreset, &KirtoWindow::PresetThumbnails},
+        {kirto::kFrameListSelection, &KirtoWindow::SelectInList},
+        {kirto::kSelectFrame, &KirtoWindow::Forward},
+    };
+    for (const Command& command : kCommands) {
+        if (command.code == code) return &command;
+    }
+    return nullptr;
+}
+
+void KirtoWindow::MessageReceived(BMessage* message) {
+    if (const Command* command = CommandFor(message->what)) {
+        (this->*command->handle)(message);
+    } else if (!PostEdit(message->what)) {
+        BWindow::MessageReceived(message);
+    }
+}
+
+// In the panel that has its control.
+bool KirtoWindow::PostEdit(uint32 command) {
+    return std::any_of(panels_.begin(), panels_.end(), [=, this](kirto::FieldPanel* panel) {
+        return panel->PostEdit(command, editor_.application);
+    });
+}
+
+void KirtoWindow::UpdateAll(BMessage*) {
+    Refresh(kEverything);
+}
+
+void KirtoWindow::UpdateFrames(BMessage*) {
+    Refresh(kLocal | kFrames | kStatus);
+}
+
+void KirtoWindow::UpdateFramesNoStatus(BMessage*) {
+    Refresh(kLocal | kFrames);
+}
+
+void KirtoWindow::Resume(BMessage*) {
+    const uint32 command = std::exchange(pending_command_, 0);
+    // A save that failed, and edits made during it, leave changes that the command would lose.
+    if (HasUnsavedChanges()) return;
+    switch (command) {
+        case kirto::kMenuNew:
+            StartNew();
+            break;
+        case kirto::kMenuOpen:
+            ShowOpenPanel("Open Animation");
+            break;
+        case B_QUIT_REQUESTED:
+            close();
+            break;
+        default:
+            break;
+    }
+}
+
+void KirtoWindow::AbandonPending(BMessage*) {
+    pending_command_ = 0;
+}
+
+void KirtoWindow::ShowStatus(BMessage* message) {
+    std::string text;
+    if (message->FindString("text", &text) == B_OK) status_view_->UpdateDisplay(text.c_str());
+}
+
+void KirtoWindow::ShowWork(BMessage* message) {
+    int64 piece = 0;
+    int64 done = 0;
+    int64 total = 0;
+    message->FindInt64("piece", &piece);
+    message->FindInt64("done", &done);
+    message->FindInt64("total", &total);
+    shown_work_ = static_cast<uint64>(piece);
+    stop_work_->setEnabled(shown_work_ != 0);
+    if (shown_work_ != 0) {
+        status_view_->ShowWork(done, total);
+    } else {
+        status_view_->HideWork();
+    }
+}
+
+void KirtoWindow::StopWork(BMessage*) {
+    editor_.document.work.Stop(shown_work_);
+}
+
+void KirtoWindow::CloseWhenDone(BMessage*) {
+    close();
+}
+
+void KirtoWindow::New(BMessage*) {
+    if (LoseChanges(kirto::kMenuNew)) StartNew();
+}
+
+void KirtoWindow::StartNew() {
+    PostToApplication(BMessage(kirto::kResetDocument));
+    ResetDisplay();
+}
+
+void KirtoWindow::Open(BMessage*) {
+    if (LoseChanges(kirto::kMenuOpen)) ShowOpenPanel("Open Animation");
+}
+
+void KirtoWindow::ShowOpenPanel(const char* title) {
+    kirto::FilePanel* panel = editor_.panels.GetPanel(kirto::FilePanelKind::kOpen);
+    panel->SetTitle(title);
+    panel->Show();
+}
+
+void KirtoWindow::Save(BMessage*) {
+    if (HasUnsavedChanges()) SaveOrAsk();
+}
+
+void KirtoWindow::SaveOrAsk() {
+    if (shown_.State().file_name == "untitled") {
+        ShowSavePanel();
+    } else {
+        PostToApplication(BMessage(kirto::kSaveAgain));
+    }
+}
+
+void KirtoWindow::SaveAs(BMessage*) {
+    if (!shown_.Frames().Empty()) ShowSavePanel();
+}
+
+void KirtoWindow::ShowSavePanel() {
+    kirto::FilePanel* panel = editor_.panels.GetPanel(kirto::FilePanelKind::kSave);
+    const std::string& directory = shown_.State().file_directory;
+    if (!directory.empty()) panel->SetDirectory(directory);
+    panel->SetSaveText("");
+    panel->Show();
+}
+
+void KirtoWindow::About(BMessage*) {
+    BAlert alert("",
+                 "Kirto v1.4\n"
+                 "An editor for frame animations, by Morvik\n"
+                 "https://kirto.example.org\n\n"
+                 "Please send in bug reports and feature requests.\n\n"
+                 "Thanks to all who shared their code for GIF files, and for a long conversation "
+                 "about dithering.",
+                 "OK", {}, {}, B_INFO_ALERT);
+    alert.Go();
+}
+
+void KirtoWindow::RequestQuit(BMessage*) {
+    close();
+}
+
+void KirtoWindow::Preview(BMessage* message) {
+    if (shown_.FirstFrame()) PostToApplication(*message);
+}
+
+void KirtoWindow::ToggleMode(BMessage*) {
+    ShowMode(!ShowsFrameList());
+}
+
+void KirtoWindow::OpenPreferences(BMessage*) {
+    ShowPreferences();
+}
+
+void KirtoWindow::Insert(BMessage*) {
+    editor_.panels.GetPanel(kirto::FilePanelKind::kInsert)->Show();
+}
+
+void KirtoWindow::InsertTiled(BMessage*) {
+    editor_.panels.GetPanel(kirto::FilePanelKind::kInsertTiled)->Show();
+}
+
+void KirtoWindow::FadeEffects(BMessage*) {
+    if (!shown_.CurrentFrame()) return;
+    auto* window = new FadeWindow(editor_.application, this);
+    QRect place = window->frameGeometry();
+    place.moveCenter(QGuiApplication::primaryScreen()->geometry().center());
+    window->move(place.topLeft());
+    window->show();
+}
+
+void KirtoWindow::Forward(BMessage* message) {
+    PostToApplication(*message);
+}
+
+void KirtoWindow::PaletteFromFile(BMessage* message) {
+    if (PostEdit(message->what)) ShowOpenPanel("Open Paletted File");
+}
+
+void KirtoWindow::ChooseMode(BMessage* message) {
+    const bool frame_list = message->what == kirto::kFrameListMode;
+    if (frame_list != ShowsFrameList()) ShowMode(frame_list);
+}
+
+void KirtoWindow::SlideThumbnails(BMessage*) {
+    thumbnail_view_->SetHeight(thumbnail_view_->SliderValue());
+    thumbnail_view_->UpdateDisplay();
+}
+
+void KirtoWindow::PresetThumbnails(BMessage* message) {
+    // The command may be ahead of the frames that the window knows.
+    Refresh(kFrames);
+    ApplyPreset(message->what);
+}
+
+void KirtoWindow::ApplyPreset(uint32 preset) {
+    if (preset == kirto::kThumbnailPreset) {
+        SetThumbnailHeight(shown_.Settings().thumbnail_heightvalue);
+        return;
+    }
+    const bool first = preset == kirto::kThumbnailFirstHalf || preset == kirto::kThumbnailFirstFull;
+    const bool half =
+        preset == kirto::kThumbnailFirstHalf || preset == kirto::kThumbnailCurrentHalf;
+    const kirto::FramePointer frame = first ? shown_.FirstFrame() : shown_.CurrentFrame();
+    if (frame) SetThumbnailHeight(half ? frame->height / 2 : frame->height);
+}
+
+void KirtoWindow::SelectInList(BMessage*) {
+    BMessage select(kirto::kSelectFrame);
+    select.AddInt32("number", frame_list_view_->List()->CurrentSelection());
+    PostToApplication(select);
+}

@@ -1,0 +1,27 @@
+// The main window's menu bar.
+#pragma once
+
+#include <QMenuBar>
+#include <functional>
+#include <string>
+
+#include "base/types.h"
+
+namespace kirto {
+
+// Called with the command of the item that the user chose.
+using MenuCommand = std::function<void(uint32 command)>;
+
+// The whole menu bar, named "MenuBar". GUI thread; the parent owns it.
+QMenuBar* MakeMainMenu(QWidget* parent, const MenuCommand& choose);
+
+// Names the edits in "Undo" and "Redo"; disables the item if the name is empty.
+void ShowHistory(QMenuBar& menu_bar, const std::string& undo_name, const std::string& redo_name);
+
+// Enables "Undo" for an edit that is not in the history yet.
+void EnableUndo(QMenuBar& menu_bar);
+
+// Enables the items that need a frame, or disables them.
+void EnableFrameItems(QMenuBar& menu_bar, bool enable);
+
+}  // namespace kirto

@@ -1,0 +1,56 @@
+#include "ui/shell/qt_desktop.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <cmath>
+
+#include "app/kirto.h"
+#include "desktop/qt/browser.h"
+#include "desktop/qt/mime_types.h"
+#include "document/command_codes.h"
+#include "ui/file_panels/qt_file_panel.h"
+
+namespace kirto {
+
+BMessenger QtDesktop::OpenMainWindow(Kirto& application, const BRect& frame,
+                                     const std::string& title) {
+    const Editor editor{application, application.Commands(), application, roster_,
+                        application.Resources()};
+    window_ = std::make_unique<KirtoWindow>(frame, title.c_str(), editor);
+    window_messenger_ = window_->Messenger();
+    alerts_.SetParentWindow(window_.get());
+    window_->show();
+    return window_messenger_;
+}
+
+void QtDesktop::CloseWindows() {
+    window_.reset();
+    InstallAlertPresenter(nullptr);
+}
+
+void QtDesktop::AbandonPendingCommand() {
+    window_messenger_.SendMessage(kAbandonPending);
+}
+
+BRect QtDesktop::ScreenFrame() {
+    const QRect screen = QGuiApplication::primaryScreen()->geometry();
+    BRect frame = BRect::OfSize(screen.width(), screen.height());
+    frame.OffsetTo(static_cast<float>(screen.left()), static_cast<float>(screen.top()));
+    return frame;
+}
+
+std::unique_ptr<FilePanel> QtDesktop::MakeFilePanel(FilePanelKind kind, BMessenger target) {
+    return MakeQtFilePanel(kind, std::move(target), roster_, window_.get(),
+                           [this] { window_->ShowPreferences("Animation"); });
+}
+
+std::string QtDesktop::MimeTypeOf(const std::string& path) {
+    return kirto::MimeTypeOf(path);
+}
+
+void QtDesktop::OpenInBrowser(const std::string& path) {
+    if (kirto::OpenInBrowser(path)) return;
+    Warn("The preview was written, but no program to show it was found.");
+}
+
+}  // namespace kirto

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "app/desktop.h"
+#include "kit/translator_roster.h"
+#include "ui/dialogs/qt_alerts.h"
+#include "ui/shell/kirto_window.h"
+
+namespace kirto {
+
+// The desktop of the editor: windows, dialogs and the user's other programs. Made on the GUI
+// thread; the application is constructed there as well and asks from its own thread later.
+class QtDesktop : public Desktop {
+  public:
+    // The roster outlives the desktop.
+    explicit QtDesktop(BTranslatorRoster& roster) : roster_(roster) {}
+
+    int32 Present(const BAlert& alert) override { return alerts_.Present(alert); }
+    BMessenger OpenMainWindow(Kirto& application, const BRect& frame,
+                              const std::string& title) override;
+    void AbandonPendingCommand() override;
+    BRect ScreenFrame() override;
+    std::unique_ptr<FilePanel> MakeFilePanel(FilePanelKind kind, BMessenger target) override;
+    std::string MimeTypeOf(const std::string& path) override;
+    void OpenInBrowser(const std::string& path) override;
+
+    // Null before the application has asked for it. GUI thread.
+    KirtoWindow* MainWindow() { return window_.get(); }
+    // Ends the windows, before the application that they show. From then on alerts are answered
+    // with their last button.
+    void CloseWindows();
+
+  private:
+    BTranslatorRoster& roster_;
+    QtAlerts alerts_;
+    std::unique_ptr<KirtoWindow> window_;
+    BMessenger window_messenger_;
+};
+
+}  // namespace kirto

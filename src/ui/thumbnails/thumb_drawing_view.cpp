@@ -1,0 +1,165 @@
+#include "ui/thumbnails/thumb_drawing_view.h"
+
+#include <QHelpEvent>
+#include <QPaintEvent>
+#include <QPainterPath>
+#include <QToolTip>
+
+#include "base/text.h"
+
+namespace {
+
+BPoint PointOf(const QPoint& point) {
+    return {static_cast<float>(point.x()), static_cast<float>(point.y())};
+}
+
+}  // namespace
+
+ThumbDrawingView::ThumbDrawingView(const kirto::ShownDocument& shown, const kirto::Editor& editor,
+                                   BMessenger window, kirto::ThumbScrollView* scroll_view)
+    : QWidget(scroll_view->viewport()),
+      shown_(shown),
+      editor_(editor),
+      window_(std::move(window)),
+      scroll_view_(*scroll_view),
+      start_drag_([this](std::unique_ptr<kirto::FrameDrag> drag, const QImage& image, BPoint grab) {
+          kirto::RunFrameDrag(this, std::move(drag), image, grab);
+      }) {
+    setObjectName("ThumbDrawingView");
+    setAccessibleName("Thumbnails");
+    setFocusPolicy(Qt::StrongFocus);
+    setAcceptDrops(true);
+    setBackgroundRole(QPalette::Base);
+    setAutoFillBackground(true);
+    drag_timer_.setSingleShot(true);
+    connect(&drag_timer_, &QTimer::timeout, this, [this] { MessageReceived(&drag_message_); });
+    MakeMenu();
+    scroll_view->SetContent(this);
+    UpdateDisplay();
+}
+
+const kirto::ThumbnailLayout& ThumbDrawingView::Layout() {
+    layout_.Update(shown_.Frames(), thumbnail_height_, static_cast<float>(width() - 1));
+    return layout_;
+}
+
+void ThumbDrawingView::ResetDisplay() {
+    scroll_view_.SetContentHeight(Layout().ContentHeight());
+    Describe();
+    update();
+}
+
+void ThumbDrawingView::UpdateDisplay() {
+    ResetDisplay();
+    KeepCurrentInSight();
+}
+
+void ThumbDrawingView::SetThumbnailHeight(int32 height) {
+    if (height == thumbnail_height_) return;
+    thumbnail_height_ = height;
+    ResetDisplay();
+}
+
+void ThumbDrawingView::KeepCurrentInSight() {
+    if (shown_.Selected() == kept_in_sight_) return;
+    kept_in_sight_ = shown_.Selected();
+    if (!shown_.CurrentFrame()) return;
+    constexpr int32 kMargin = 5;
+    const BRect current = Layout().At(shown_.Selected());
+    const int32 view_top = scroll_view_.Top();
+    const int32 view_height = scroll_view_.ViewHeight();
+    const auto top = static_cast<int32>(current.top);
+    const auto bottom = static_cast<int32>(current.bottom);
+    if (top < view_top) {
+        scroll_view_.ScrollTo(top - kMargin);
+    } else if (bottom > view_top + view_height) {
+        scroll_view_.ScrollTo(bottom + kMargin - view_height);
+    }
+}
+
+// For those who can't see which thumbnail has the line around it.
+void ThumbDrawingView::Describe() {
+    const kirto::FramePointer frame = shown_.CurrentFrame();
+    const std::string text =
+        frame ? kirto::Format("frame #%04d %s, %d x %d, %d frame(s)", shown_.Selected(),
+                              frame->name.c_str(), frame->width, frame->height, shown_.FrameCount())
+              : "no frames";
+    const QString description = QString::fromStdString(text);
+    if (accessibleDescription() != description) setAccessibleDescription(description);
+}
+
+bool ThumbDrawingView::event(QEvent* event) {
+    if (event->type() != QEvent::ToolTip) return QWidget::event(event);
+    ShowToolTip(*static_cast<QHelpEvent*>(event));
+    return true;
+}
+
+void ThumbDrawingView::ShowToolTip(const QHelpEvent& event) {
+    const int32 index = Layout().HitTest(PointOf(event.pos()));
+    if (index < 0) {
+        QToolTip::hideText();
+        return;
+    }
+    const Frame& frame = *shown_.Frames().At(index);
+    const std::string text = kirto::Format("frame #%04d    %s\n%d x %d", index, frame.name.c_str(),
+                                           frame.width, frame.height);
+    // Escaped, as a name may look like markup.
+    QToolTip::showText(
+        event.globalPos(),
+        "<div style='white-space: pre'>" + QString::fromStdString(text).toHtmlEscaped() + "</div>",
+        this);
+}
+
+void ThumbDrawingView::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    scroll_view_.SetContentHeight(Layout().ContentHeight());
+}
+
+// What happened to a hidden view's size and selection is made up for.
+void ThumbDrawingView::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    kept_in_sight_ = -1;
+    UpdateDisplay();
+}
+
+void ThumbDrawingView::paintEvent(QPaintEvent* event) {
+    QPainter painter(this);
+    DrawThumbnails(painter, event->rect());
+    if (shown_.Frames().Empty()) DrawInvitation(painter);
+    if (drop_position_ < 0) return;
+    const QRectF bar = kirto::OnPixels(Layout().DropBar(drop_position_), devicePixelRatioF());
+    painter.fillRect(bar, palette().highlight());
+}
+
+void ThumbDrawingView::DrawThumbnails(QPainter& painter, const QRect& area) {
+    const kirto::ThumbnailLayout& layout = Layout();
+    kirto::PicturePainter pictures(painter, palette(), shown_.Settings().thumbnail_drawtransparent,
+                                   cache_);
+    const auto [first, last] =
+        layout.Between(static_cast<float>(area.top()), static_cast<float>(area.bottom()));
+    for (int32 i = first; i < last; ++i) {
+        pictures.Draw(shown_.Frames().At(i)->bitmap, layout.At(i));
+        if (i == shown_.Selected() && drop_position_ < 0) DrawOutline(painter, i);
+    }
+    if (pictures.WasCoarse()) update();
+}
+
+// An empty grid tells how to fill it.
+void ThumbDrawingView::DrawInvitation(QPainter& painter) {
+    painter.setPen(palette().color(QPalette::PlaceholderText));
+    painter.drawText(
+        rect(), Qt::AlignCenter | Qt::TextWordWrap,
+        "Drop images or an animation here,\nor choose Insert...\nfrom the Frame menu.");
+}
+
+void ThumbDrawingView::DrawOutline(QPainter& painter, int32 index) {
+    constexpr int kPenSize = 2;
+    BRect outline = layout_.OutlineAt(index);
+    outline.right += kPenSize - 1;
+    outline.bottom += kPenSize - 1;
+    const QRectF outside = kirto::OnPixels(outline, devicePixelRatioF());
+    QPainterPath line;
+    line.addRect(outside);
+    line.addRect(outside.adjusted(kPenSize, kPenSize, -kPenSize, -kPenSize));
+    painter.fillPath(line, palette().highlight());
+}

@@ -1,0 +1,107 @@
+#pragma once
+
+#include <QMenu>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <QWidget>
+#include <functional>
+#include <memory>
+
+#include "kit/message.h"
+#include "ui/controls/editor.h"
+#include "ui/controls/shown_document.h"
+#include "ui/thumbnails/frame_drag.h"
+#include "ui/thumbnails/picture_painter.h"
+#include "ui/thumbnails/thumb_scroll_view.h"
+#include "ui/thumbnails/thumbnail_cache.h"
+#include "ui/thumbnails/thumbnail_layout.h"
+
+class QHelpEvent;
+
+// The grid of thumbnails. Frames can be selected and dragged out as files, and have a context menu;
+// dropped files are sent to the window with the position of the drop. GUI thread.
+class ThumbDrawingView : public QWidget {
+  public:
+    using DragStarter = std::function<void(std::unique_ptr<kirto::FrameDrag> drag,
+                                           const QImage& image, BPoint grab)>;
+
+    // Becomes the content of the scroll view, which owns it. shown outlives the view.
+    ThumbDrawingView(const kirto::ShownDocument& shown, const kirto::Editor& editor,
+                     BMessenger window, kirto::ThumbScrollView* scroll_view);
+
+    // Lays out and paints what is shown now, with the current frame in sight if it is another one.
+    void UpdateDisplay();
+    // The same without looking for the current frame.
+    void ResetDisplay();
+
+    // Pixels, 1 or more.
+    void SetThumbnailHeight(int32 height);
+    int32 ThumbnailHeight() const { return thumbnail_height_; }
+    // Scrolls to the current frame, if it is not the one that was kept in sight last.
+    void KeepCurrentInSight();
+
+    // Handles kThumbnailDrag, B_COPY_TARGET and B_SIMPLE_DATA.
+    void MessageReceived(BMessage* message);
+    // Drags the current frame out. grab: the pointer's place in its thumbnail.
+    void DragToTracker(BPoint grab);
+    // Writes the current frame as a Targa file: ref "directory", string "name". Returns false when
+    // it was not written; a failure shows an alert, except during a drag.
+    bool SaveToTracker(BMessage* message);
+
+    // The current layout of the thumbnails.
+    const kirto::ThumbnailLayout& Layout();
+    // The frame before which files would be dropped; -1 while no files are dragged over the view.
+    int32 DropPosition() const { return drop_position_; }
+    // Carries out drags; the desktop's drag and drop unless a test sets it.
+    void SetDragStarter(DragStarter starter) { start_drag_ = std::move(starter); }
+
+  protected:
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
+    void dragLeaveEvent(QDragLeaveEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+  private:
+    void MakeMenu();
+    void Describe();
+    void ShowToolTip(const QHelpEvent& event);
+    void DrawThumbnails(QPainter& painter, const QRect& area);
+    void DrawInvitation(QPainter& painter);
+    void DrawOutline(QPainter& painter, int32 index);
+    void SelectFrame(int32 number);
+    void MoveDropPosition(int32 position);
+    void StartDragTimer(BPoint grab);
+    QImage DragImage(const Frame& frame);
+    std::string NewDragFolder();
+    void ReportFailedSave();
+
+    const kirto::ShownDocument& shown_;
+    const kirto::Editor editor_;
+    const BMessenger window_;
+    kirto::ThumbScrollView& scroll_view_;
+    int32 thumbnail_height_ = 100;
+    kirto::ThumbnailLayout layout_;
+    kirto::ThumbnailCache cache_;
+    int32 drop_position_ = -1;
+    int32 kept_in_sight_ = -1;  // the frame that KeepCurrentInSight looked for last
+    QMenu menu_;                // what can be done with a frame
+
+    bool drag_pending_ = false;  // a thumbnail is held, and its drag has not begun
+    int32 held_ = -1;            // the thumbnail that the button went down on last
+    BMessage drag_message_;      // what the timer sends
+    QTimer drag_timer_;
+    DragStarter start_drag_;
+    bool dragging_ = false;
+    bool save_failed_ = false;  // while dragging
+    // The dragged files. Targets may read them long after the drag.
+    std::unique_ptr<QTemporaryDir> drag_folder_;
+    int32 drag_count_ = 0;
+};

@@ -1,0 +1,98 @@
+#include "ui/thumbnails/thumbnail_view.h"
+
+#include <QAbstractItemView>
+#include <QHBoxLayout>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+
+#include "document/command_codes.h"
+#include "ui/controls/controls.h"
+#include "ui/controls/folding_row.h"
+#include "ui/thumbnails/thumb_drawing_view.h"
+
+namespace {
+
+constexpr int32 kFirstHeight = 100;
+
+QString HeightText(int32 pixels) {
+    return QString("Thumbnail height: %1").arg(pixels);
+}
+
+}  // namespace
+
+ThumbnailView::ThumbnailView(const kirto::ShownDocument& shown, const kirto::Editor& editor,
+                             const BMessenger& window, QWidget* parent)
+    : QWidget(parent), shown_(shown) {
+    setObjectName("ThumbnailView");
+    auto* scroll_view = new kirto::ThumbScrollView(this);
+    drawing_view_ = new ThumbDrawingView(shown, editor, window, scroll_view);
+    setFocusProxy(drawing_view_);
+    MakeControls(window);
+    UpdateDisplay();
+}
+
+void ThumbnailView::MakeControls(const BMessenger& window) {
+    height_label_ = kirto::MakeLabel("FrameHeight", "", this);
+    height_label_->setText(HeightText(kFirstHeight));
+    slider_ = new QSlider(Qt::Horizontal, this);
+    slider_->setObjectName("Slider");
+    slider_->setAccessibleName("Thumbnail height");
+    slider_->setToolTip("Height of the thumbnails in pixels");
+    slider_->setRange(shown_.Settings().thumbnail_minheight, shown_.Settings().thumbnail_maxheight);
+    slider_->setValue(kFirstHeight);
+    slider_->setPageStep(20);
+    connect(slider_, &QSlider::valueChanged, this,
+            [window] { window.SendMessage(kirto::kThumbnailSlider); });
+    QLabel* menu_label = kirto::MakeLabel("HeightLabel", "Use frame:", this);
+    QComboBox* menu =
+        kirto::MakePopUpMenu("HeightField",
+                             {{"first half sized", kirto::kThumbnailFirstHalf, 0},
+                              {"current half sized", kirto::kThumbnailCurrentHalf, 1},
+                              {"first full sized", kirto::kThumbnailFirstFull, 2},
+                              {"current full sized", kirto::kThumbnailCurrentFull, 3}},
+                             window, this);
+    menu->view()->setObjectName("HeightMenu");
+    menu->setAccessibleName("Use frame:");
+    menu->setToolTip("Set the thumbnail height from a frame");
+    menu_label->setBuddy(menu);
+
+    auto* height = new QHBoxLayout;
+    height->addWidget(height_label_);
+    height->addWidget(slider_, 1);
+    slider_->setMinimumWidth(slider_->sizeHint().width());
+    auto* preset = new QHBoxLayout;
+    preset->addWidget(menu_label);
+    preset->addWidget(menu, 1);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(drawing_view_->parentWidget()->parentWidget(), 1);
+    layout->addWidget(new kirto::FoldingRow(height, preset, this));
+    // The slider keeps its place while the number beside it grows.
+    const QString widest = HeightText(8888);
+    height_label_->setMinimumWidth(height_label_->fontMetrics().horizontalAdvance(widest));
+    setTabOrder(drawing_view_, slider_);
+    setTabOrder(slider_, menu);
+}
+
+void ThumbnailView::UpdateDisplay() {
+    const Prefs& prefs = shown_.Settings();
+    {
+        const QSignalBlocker blocker(slider_);
+        slider_->setRange(prefs.thumbnail_minheight, prefs.thumbnail_maxheight);
+    }
+    // The new range may have moved the slider.
+    if (SliderValue() != drawing_view_->ThumbnailHeight()) SetHeight(SliderValue());
+    drawing_view_->UpdateDisplay();
+}
+
+void ThumbnailView::ResetDisplay() {
+    drawing_view_->ResetDisplay();
+}
+
+void ThumbnailView::SetHeight(int32 pixels) {
+    kirto::ShowText(*height_label_, HeightText(pixels));
+    {
+        const QSignalBlocker blocker(slider_);
+        slider_->setValue(pixels);
+    }
+    drawing_view_->SetThumbnailHeight(SliderValue());
+}

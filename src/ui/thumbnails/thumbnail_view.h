@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QLabel>
+#include <QSlider>
+#include <QWidget>
+
+#include "ui/controls/editor.h"
+#include "ui/controls/shown_document.h"
+
+class ThumbDrawingView;
+
+// The frame area in thumbnail mode: the grid, and how high its thumbnails are. GUI thread.
+class ThumbnailView : public QWidget {
+  public:
+    // shown outlives the view.
+    ThumbnailView(const kirto::ShownDocument& shown, const kirto::Editor& editor,
+                  const BMessenger& window, QWidget* parent = nullptr);
+
+    // Shows what is shown now, with the current frame in sight if it is another one; the slider
+    // takes its range from the settings.
+    void UpdateDisplay();
+    void ResetDisplay();
+
+    // Shows thumbnails of that height, in pixels, as far as the slider's range allows. Sends
+    // nothing.
+    void SetHeight(int32 pixels);
+    // Pixels.
+    int32 SliderValue() const { return slider_->value(); }
+
+    ThumbDrawingView* DrawingView() const { return drawing_view_; }
+
+  private:
+    void MakeControls(const BMessenger& window);
+
+    const kirto::ShownDocument& shown_;
+    ThumbDrawingView* drawing_view_;
+    QLabel* height_label_;
+    QSlider* slider_;
+};

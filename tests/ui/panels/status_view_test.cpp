@@ -1,0 +1,110 @@
+#include "ui/panels/status_view.h"
+
+#include "ui/panels/view_fixture.h"
+
+namespace kirto::test {
+
+namespace {
+
+class StatusViewTest : public ViewFixture {
+  protected:
+    void AddFrames(int32 count) {
+        for (int32 i = 0; i < count; ++i)
+            AppendFrame(document, PictureOf(1, 1, {0xFF000001}), "frame");
+    }
+
+    StatusView line{shown, window};
+};
+
+TEST_F(StatusViewTest, BeginsWithAnUnmodifiedAnimationOfNoFrames) {
+    EXPECT_EQ(line.objectName(), "StatusView");
+    EXPECT_EQ(line.status->objectName(), "Status");
+    EXPECT_EQ(line.status->text(), "Status: 0 frame(s), unmodified");
+    EXPECT_TRUE(line.progress->isHidden());
+}
+
+TEST_F(StatusViewTest, CountsTheFramesAndSaysWhetherTheyAreModified) {
+    AddFrames(3);
+    document.SetModified(true);
+    Take();
+
+    line.UpdateDisplay();
+    EXPECT_EQ(line.status->text(), "Status: 3 frame(s), modified");
+
+    document.SetModified(false);
+    Take();
+    line.UpdateDisplay(nullptr);
+    EXPECT_EQ(line.status->text(), "Status: 3 frame(s), unmodified");
+}
+
+TEST_F(StatusViewTest, ShowsATextAsItIs) {
+    line.UpdateDisplay("Status: loading frame 5...");
+
+    EXPECT_EQ(line.status->text(), "Status: loading frame 5...");
+    EXPECT_TRUE(line.progress->isHidden());
+    EXPECT_TRUE(line.cancel->isHidden());
+}
+
+TEST_F(StatusViewTest, ShowsHowFarWorkIsAndAButtonThatStopsIt) {
+    line.ShowWork(5, 20);
+
+    EXPECT_FALSE(line.progress->isHidden());
+    EXPECT_EQ(line.progress->value() * 20, 5 * line.progress->maximum());
+    EXPECT_FALSE(line.cancel->isHidden());
+    EXPECT_EQ(line.cancel->text(), "Cancel");
+    EXPECT_EQ(CommandOf(*line.cancel), "wwst");
+
+    line.ShowWork(20, 20);
+    EXPECT_EQ(line.progress->value(), line.progress->maximum());
+}
+
+TEST_F(StatusViewTest, CountsFurtherThanTheBarDoes) {
+    line.ShowWork(int64{3} << 40, int64{4} << 40);
+    EXPECT_EQ(line.progress->value() * 4, 3 * line.progress->maximum());
+
+    line.ShowWork(50, 20);
+    EXPECT_EQ(line.progress->value(), line.progress->maximum());
+}
+
+TEST_F(StatusViewTest, ShowsABusyBarWhereNobodyKnowsHowMuchThereIs) {
+    line.ShowWork(0, 0);
+    EXPECT_EQ(line.progress->maximum(), 0);
+}
+
+TEST_F(StatusViewTest, HidesTheBarWhenTheWorkIsDone) {
+    line.ShowWork(5, 20);
+    line.HideWork();
+    EXPECT_TRUE(line.progress->isHidden());
+    EXPECT_TRUE(line.cancel->isHidden());
+
+    line.ShowWork(5, 20);
+    line.ResetDisplay();
+    EXPECT_TRUE(line.progress->isHidden());
+    EXPECT_TRUE(line.cancel->isHidden());
+}
+
+TEST_F(StatusViewTest, ResetsToNoFrames) {
+    AddFrames(1);
+    document.SetModified(true);
+    Take();
+    line.UpdateDisplay();
+
+    line.ResetDisplay();
+
+    EXPECT_EQ(line.status->text(), "Status: 0 frame(s), unmodified");
+}
+
+TEST_F(StatusViewTest, KeepsItsHeightWhenTheBarComesAndItsWidthWithLongTexts) {
+    const int height = line.sizeHint().expandedTo(line.minimumSize()).height();
+    const int width = line.minimumSizeHint().width();
+    const std::string text(1000, 'w');
+
+    line.UpdateDisplay(text.c_str());
+    EXPECT_EQ(line.minimumSizeHint().width(), width);
+    line.ShowWork(5, 20);
+    EXPECT_EQ(line.sizeHint().expandedTo(line.minimumSize()).height(), height);
+}
+
+}  // namespace
+
+}  // namespace kirto::test

@@ -1,0 +1,65 @@
+#include "ui/shell/editor_style.h"
+
+#include <QImage>
+#include <QPainter>
+#include <QStyleOptionButton>
+#include <cmath>
+#include <gtest/gtest.h>
+
+namespace kirto::test {
+
+namespace {
+
+const QPalette kDark(QColor(49, 54, 59), QColor(42, 46, 50));
+const QPalette kLight(QColor(239, 239, 239), QColor(239, 239, 239));
+
+// An unchecked box or radio button of 16 x 16 pixels on the window's color.
+QImage Drawn(const QStyle& style, QStyle::PrimitiveElement element, const QPalette& colors) {
+    QStyleOptionButton option;
+    option.rect = QRect(0, 0, 16, 16);
+    option.palette = colors;
+    option.state = QStyle::State_Enabled | QStyle::State_Off;
+    QImage image(16, 16, QImage::Format_RGB32);
+    image.fill(colors.color(QPalette::Window));
+    QPainter painter(&image);
+    style.drawPrimitive(element, &option, &painter);
+    return image;
+}
+
+double Luminance(QColor color) {
+    const auto linear = [](double part) {
+        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
+           0.0722 * linear(color.blueF());
+}
+
+double Contrast(QColor first, QColor second) {
+    const double one = Luminance(first) + 0.05;
+    const double two = Luminance(second) + 0.05;
+    return std::max(one, two) / std::min(one, two);
+}
+
+TEST(EditorStyle, OutlinesUncheckedBoxesAndRadioButtonsInDarkColors) {
+    const EditorStyle style("fusion");
+    // What can be told apart at a glance.
+    constexpr double kVisible = 3;
+    for (const auto element : {QStyle::PE_IndicatorCheckBox, QStyle::PE_IndicatorRadioButton}) {
+        const QImage image = Drawn(style, element, kDark);
+        for (const QPoint edge : {QPoint(8, 0), QPoint(0, 8), QPoint(8, 15), QPoint(15, 8)}) {
+            EXPECT_GE(Contrast(image.pixelColor(edge), kDark.color(QPalette::Window)), kVisible)
+                << element << ' ' << edge.x() << ' ' << edge.y();
+        }
+    }
+}
+
+TEST(EditorStyle, DrawsBoxesAsTheDesktopDoesInLightColors) {
+    const EditorStyle style("fusion");
+    for (const auto element : {QStyle::PE_IndicatorCheckBox, QStyle::PE_IndicatorRadioButton}) {
+        EXPECT_EQ(Drawn(style, element, kLight), Drawn(*style.baseStyle(), element, kLight));
+    }
+}
+
+}  // namespace
+
+}  // namespace kirto::test

@@ -1,0 +1,166 @@
+#include "ui/shell/main_menu.h"
+
+#include <QAction>
+#include <QMainWindow>
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+#include "document/command_codes.h"
+#include "support/test_support.h"
+
+namespace kirto::test {
+
+namespace {
+
+using Lines = std::vector<std::string>;
+
+class MainMenu : public ::testing::Test {
+  protected:
+    // Each item as "label|shortcut|command", a separator as "-".
+    Lines ItemsOf(const QMenu& menu) {
+        Lines lines;
+        for (QAction* action : menu.actions()) {
+            if (action->isSeparator()) {
+                lines.emplace_back("-");
+                continue;
+            }
+            chosen.clear();
+            action->trigger();
+            lines.push_back(action->text().remove('&').toStdString() + "|" +
+                            action->shortcut().toString().toStdString() + "|" + chosen);
+        }
+        return lines;
+    }
+    QMenu& MenuAt(int index) { return *bar->actions().at(index)->menu(); }
+
+    QMainWindow window;
+    std::string chosen;
+    QMenuBar* bar = MakeMainMenu(&window, [this](uint32 code) { chosen += CodeText(code); });
+};
+
+TEST_F(MainMenu, HasFourMenusWithEditBetweenFileAndView) {
+    Lines titles;
+    for (const QAction* action : bar->actions())
+        titles.push_back(action->text().remove('&').toStdString());
+
+    EXPECT_EQ(bar->objectName(), "MenuBar");
+    EXPECT_EQ(titles, (Lines{"File", "Edit", "View", "Frame"}));
+}
+
+TEST_F(MainMenu, HasTheItemsOfTheFileMenu) {
+    EnableFrameItems(*bar, true);
+
+    EXPECT_EQ(ItemsOf(MenuAt(0)),
+              (Lines{"New|Ctrl+N|awfn", "Open...|Ctrl+O|awfo", "-", "Save|Ctrl+S|awfs",
+                     "Save As...|Ctrl+A|awfa", "-", "About...||_ABR", "-", "Quit|Ctrl+Q|_QRQ"}));
+}
+
+TEST_F(MainMenu, HasTheItemsOfTheEditMenu) {
+    ShowHistory(*bar, "Remove Frame", "Reverse Frames");
+
+    EXPECT_EQ(ItemsOf(MenuAt(1)), (Lines{"Undo Remove Frame|Ctrl+Z|" + CodeText(kUndo),
+                                         "Redo Reverse Frames|Ctrl+Shift+Z|" + CodeText(kRedo)}));
+}
+
+TEST_F(MainMenu, RedoesWithTheKeysOfEitherHabit) {
+    const QAction* redo = MenuAt(1).actions().at(1);
+
+    EXPECT_EQ(redo->shortcuts(),
+              (QList<QKeySequence>{QKeySequence("Ctrl+Shift+Z"), QKeySequence("Ctrl+Y")}));
+}
+
+TEST_F(MainMenu, NamesTheEditsThatCanBeUndoneAndRedoneAndDisablesWhatHasNone) {
+    const QAction* undo = MenuAt(1).actions().at(0);
+    const QAction* redo = MenuAt(1).actions().at(1);
+    const auto expect = [&](const QString& undo_text, const QString& redo_text) {
+        EXPECT_EQ(undo->text(), "&" + undo_text);
+        EXPECT_EQ(redo->text(), "&" + redo_text);
+        EXPECT_EQ(undo->isEnabled(), undo_text != "Undo");
+        EXPECT_EQ(redo->isEnabled(), redo_text != "Redo");
+    };
+
+    expect("Undo", "Redo");
+    ShowHistory(*bar, "Remove Frame", "");
+    expect("Undo Remove Frame", "Redo");
+    ShowHistory(*bar, "", "Remove Frame");
+    expect("Undo", "Redo Remove Frame");
+    ShowHistory(*bar, "", "");
+    expect("Undo", "Redo");
+}
+
+TEST_F(MainMenu, EnablesUndoForAnEditThatTheHistoryDoesNotHaveYet) {
+    const QAction* undo = MenuAt(1).actions().at(0);
+
+    EnableUndo(*bar);
+    EXPECT_TRUE(undo->isEnabled());
+    EXPECT_EQ(undo->text(), "&Undo");
+
+    ShowHistory(*bar, "", "");
+    EXPECT_FALSE(undo->isEnabled());
+}
+
+TEST_F(MainMenu, HasTheItemsOfTheViewMenu) {
+    EnableFrameItems(*bar, true);
+
+    EXPECT_EQ(ItemsOf(MenuAt(2)), (Lines{"Preview|Ctrl+P|awvp", "Toggle Mode|Ctrl+M|awvm", "-",
+                                         "Preferences...||awvr"}));
+}
+
+TEST_F(MainMenu, HasTheItemsOfTheFrameMenu) {
+    EnableFrameItems(*bar, true);
+
+    EXPECT_EQ(ItemsOf(MenuAt(3)),
+              (Lines{"Insert...|Ctrl+I|awfi", "Insert Tiled...|Ctrl+T|awit", "Remove|Ctrl+R|awfr",
+                     "-", "Move Up|Ctrl+U|awfu", "Move Down|Ctrl+D|awfd", "Reverse All||awfv", "-",
+                     "Fade Effects...|Ctrl+F|awfe"}));
+}
+
+TEST_F(MainMenu, GivesEachItemOfAMenuAKeyOfItsOwn) {
+    for (const QAction* menu_action : bar->actions()) {
+        QString keys;
+        for (const QAction* action : menu_action->menu()->actions()) {
+            if (action->isSeparator()) continue;
+            const auto at = action->text().indexOf('&');
+            ASSERT_GE(at, 0) << action->text().toStdString();
+            const QChar key = action->text().at(at + 1).toUpper();
+            EXPECT_FALSE(keys.contains(key)) << action->text().toStdString();
+            keys += key;
+        }
+    }
+}
+
+TEST_F(MainMenu, KeepsItsItemsInTheirMenusOnEveryDesktop) {
+    for (const QAction* menu_action : bar->actions()) {
+        for (const QAction* action : menu_action->menu()->actions()) {
+            if (action->isSeparator()) continue;
+            EXPECT_EQ(action->menuRole(), QAction::NoRole) << action->text().toStdString();
+        }
+    }
+}
+
+TEST_F(MainMenu, DisablesWhatNeedsAFrameWithoutOne) {
+    const auto enabled = [&] {
+        Lines labels;
+        for (const QAction* menu_action : bar->actions()) {
+            for (const QAction* action : menu_action->menu()->actions()) {
+                if (!action->isSeparator() && action->isEnabled())
+                    labels.push_back(action->text().remove('&').toStdString());
+            }
+        }
+        return labels;
+    };
+    const Lines without_frames = {
+        "New",         "Open...",        "Save",      "About...",       "Quit",
+        "Toggle Mode", "Preferences...", "Insert...", "Insert Tiled..."};
+
+    EXPECT_EQ(enabled(), without_frames);
+    EnableFrameItems(*bar, true);
+    EXPECT_EQ(enabled().size(), 16u);
+    EnableFrameItems(*bar, false);
+    EXPECT_EQ(enabled(), without_frames);
+}
+
+}  // namespace
+
+}  // namespace kirto::test
