@@ -54,7 +54,7 @@ std::vector<CompressedImage> Compress(BenchAnimation& animation) {
 
 bool Decode(const std::vector<CompressedImage>& images, const AnimationPlan& plan,
             const CanvasVisitor& visit) {
-    Work work;
+    kirto::Work unstopped;
     std::vector<std::unique_ptr<BBitmap>> canvases;
     for (const CompressedImage& image : images) {
         auto canvas = std::make_unique<BBitmap>(BRect::OfSize(plan.width, plan.height), B_RGB32);
@@ -65,8 +65,11 @@ bool Decode(const std::vector<CompressedImage>& images, const AnimationPlan& pla
         }
         GifPixelWriter writer(*canvas, image.area, false, image.colors);
         image.data->Seek(1, SEEK_FROM_START);  // behind the code size
-        WatchedInput input(*image.data, work);
-        if (!GifLzwDecoder(input, image.min_code_size).Decode(writer)) return false;
+        WatchedInput input(*image.data, unstopped);
+        GifImageData data;
+        data.Read(input, static_cast<uint64>(image.data->Size()));
+        GifLzwDecoder decoder(data, image.min_code_size);
+        if (!decoder.Decode(writer, unstopped, image.data->Size())) return false;
         canvases.push_back(std::move(canvas));
     }
     for (const auto& canvas : canvases)

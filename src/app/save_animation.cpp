@@ -43,9 +43,10 @@ std::string NumbersCutShort(const Animation& animation, bool in_seconds) {
         text = Format("loop count %d was saved as %d", animation.loop_count,
                       animation.loop_count & kLargestNumber);
     }
-    const auto pauses = std::count_if(
-        animation.frames.begin(), animation.frames.end(),
-        [&](const auto& frame) { return !Fits(GifSave::DelayOf(animation, *frame, in_seconds)); });
+    const auto pauses =
+        std::count_if(animation.frames.begin(), animation.frames.end(), [&](const auto& frame) {
+            return !Fits(GifFrameEncoder::DelayOf(animation, *frame, in_seconds));
+        });
     if (pauses == 0) return text;
     return text + (text.empty() ? "" : ", ") +
            Format("%d pause(s) above 655.35 seconds were saved shorter", static_cast<int>(pauses));

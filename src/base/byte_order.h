@@ -5,6 +5,10 @@
 
 namespace kirto {
 
+inline uint8 LowByte(int32 value) {
+    return static_cast<uint8>(value);
+}
+
 inline uint16 ReadLittle16(const uint8* bytes) {
     return static_cast<uint16>(bytes[0] | bytes[1] << 8);
 }

@@ -3,12 +3,14 @@
 #include "animation/frame.h"
 #include "base/types.h"
 #include "document/animation_document.h"
+#include "formats/gif/gif_composer.h"
+#include "formats/gif/gif_parser.h"
+#include "kit/file.h"
 #include "kit/watched_input.h"
 
-// Reads a GIF file (87a or 89a) into a document, one Frame per image. The constructor does all the
-// work, on the editing thread; each frame is inserted as soon as it is decoded and stays when a
-// later one fails. The methods are in the order of the file; the layout is described in
-// docs/formats/gif.md.
+// Reads a GIF file into a document, one Frame per image: parses it, composes the images and commits
+// what comes of it. The constructor does all the work, on the editing thread; each frame is
+// inserted as soon as it is complete and stays when a later one fails.
 class GifLoad {
   public:
     bool failed = false;         // decoding ended before the trailer
@@ -22,44 +24,23 @@ class GifLoad {
 
   private:
     void Init();
-    bool ReadGifHeader();
-    bool ReadBlock(uint8 introducer);
+    bool ReadScreen();
+    // False when the load ends here.
+    bool ReadBlock();
     bool ReadImage();
-    bool ReadExtension();
-    bool ReadGifLoopBlock();
-    bool ReadGifControlBlock();
-    bool ReadGifCommentBlock();
-    bool ReadGifUnknownBlock(uint8 label);
-    bool ReadGifImageHeader();
-    bool FrameDisposal();
-    bool FillBackground();
-    bool ReadGifImageData();
-    bool ReadCodeSize(int32* min_code_size);
-    bool ReadColorTable(Palette* palette, int32 bits);
-    bool SkipSubBlocks();
     bool StartFrame();
     bool FinishFrame();
-    bool IsFirst() const { return next_position_ == start_; }
-    bool CoversScreen() const;
-    const Palette& CurrentPalette() const;
-    rgb_color BackgroundColor() const;
+    void TakeControl(const kirto::GifControl& control);
+    void CommitPalette();
 
-    kirto::WatchedInput input_;
     AnimationDocument& document_;
-    const int32 start_;
+    kirto::WatchedInput input_;
+    kirto::GifParser parser_;
+    kirto::GifComposer composer_;
     int32 next_position_;
-    const bool full_frame_;
-    bool interlaced_ = false;
-    int32 current_disposal_ = -1;  // -1: no control block seen yet
-    int32 previous_disposal_ = -1;
-    // What the file says of the whole animation, as far as it is read. Each block that changes it
-    // puts it into the document.
-    int32 width_ = 0;
-    int32 height_ = 0;
-    Palette global_palette_;
-    // The frame being read, not yet inserted; its own palette, in force where the frame is marked
-    // local; and its pixels.
+    kirto::GifImage image_;
+    // The frame being read, not yet inserted, and its own palette, in force where the frame is
+    // marked local.
     Frame frame_;
     std::shared_ptr<Palette> local_palette_;
-    std::shared_ptr<BBitmap> picture_;
 };

@@ -5,8 +5,8 @@
 
 namespace kirto {
 
-GifLzwDecoder::GifLzwDecoder(WatchedInput& input, int32 min_code_size)
-    : input_(input),
+GifLzwDecoder::GifLzwDecoder(const GifImageData& data, int32 min_code_size)
+    : data_(data),
       min_code_size_(min_code_size),
       clear_code_(1 << min_code_size),
       end_code_(clear_code_ + 1) {
@@ -26,9 +26,14 @@ void GifLzwDecoder::ResetTable() {
     next_free_ = clear_code_ + 2;
 }
 
-bool GifLzwDecoder::Decode(GifPixelWriter& writer) {
+bool GifLzwDecoder::Decode(GifPixelWriter& writer, Work& work, int64 file_size) {
     int32 previous = kNoString;
-    for (;;) {
+    for (int32 codes_left = 0;; --codes_left) {
+        if (codes_left == 0) {
+            work.Report(data_.position + static_cast<int64>(position_), file_size);
+            if (work.StopRequested()) return false;
+            codes_left = kCodesAtOnce;
+        }
         int32 code = NextCode();
         if (code == kReadError) return false;
         if (code == end_code_) break;
@@ -53,7 +58,6 @@ bool GifLzwDecoder::Decode(GifPixelWriter& writer) {
         }
         Emit(previous, writer);
     }
-    SkipRest();
     return true;
 }
 
@@ -97,35 +101,18 @@ void GifLzwDecoder::Emit(int32 string, GifPixelWriter& writer) {
 }
 
 int32 GifLzwDecoder::NextCode() {
-    while (bit_count_ < code_size_) {
-        if (block_position_ == block_size_) {
-            uint8 size = 0;
-            if (!input_.Read(&size, 1)) return kReadError;
-            if (size == 0) {
-                terminator_seen_ = true;
-                return end_code_;
-            }
-            if (!input_.Read(block_.data(), size)) return kReadError;
-            block_size_ = size;
-            block_position_ = 0;
-        }
-        bit_buffer_ |= static_cast<uint32>(block_[static_cast<size_t>(block_position_++)])
-                       << bit_count_;
-        bit_count_ += 8;
-    }
-    const int32 code = static_cast<int32>(bit_buffer_ & ((1u << code_size_) - 1));
+    if (bit_count_ < code_size_) Refill();
+    if (bit_count_ < code_size_) return data_.complete ? end_code_ : kReadError;
+    const int32 code = static_cast<int32>(bit_buffer_ & ((uint64{1} << code_size_) - 1));
     bit_buffer_ >>= code_size_;
     bit_count_ -= code_size_;
     return code;
 }
 
-// Passes over what follows the end code. A file that ends here has still delivered the whole image.
-void GifLzwDecoder::SkipRest() {
-    uint8 size = 0;
-    while (!terminator_seen_ && input_.Read(&size, 1)) {
-        terminator_seen_ = size == 0;
-        input_.Skip(size);
-    }
+// As many whole bytes as fit.
+void GifLzwDecoder::Refill() {
+    for (; bit_count_ <= 56 && position_ < data_.bytes.size(); bit_count_ += 8)
+        bit_buffer_ |= static_cast<uint64>(data_.bytes[position_++]) << bit_count_;
 }
 
 }  // namespace kirto

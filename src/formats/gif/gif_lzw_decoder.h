@@ -3,32 +3,34 @@
 #include <array>
 
 #include "base/types.h"
-#include "kit/watched_input.h"
+#include "base/work.h"
+#include "formats/gif/gif_image_data.h"
 
 namespace kirto {
 
 class GifPixelWriter;
 
-// Decodes the LZW data of one GIF image, from its first data sub-block to its terminator. Codes are
-// taken least significant bit first. A stream that never clears its table goes on with the full
-// table of 4096 codes.
+// Decodes the LZW data of one GIF image. Codes are taken least significant bit first. A stream that
+// never clears its table goes on with the full table of 4096 codes.
 class GifLzwDecoder {
   public:
     // Code sizes from 2 to this one can be decoded; pixel values are cut to 8 bits.
     static constexpr int32 kMaxMinCodeSize = 11;
 
-    // input: at the first sub-block. min_code_size: 2 to kMaxMinCodeSize.
-    GifLzwDecoder(WatchedInput& input, int32 min_code_size);
+    // data: outlives this. min_code_size: 2 to kMaxMinCodeSize.
+    GifLzwDecoder(const GifImageData& data, int32 min_code_size);
 
-    // Hands every pixel's index to the writer. True when the data ended with the end code or a
-    // zero-length sub-block; false when the file ended before, when the work was stopped, or when a
-    // clear code is followed by the end.
-    bool Decode(GifPixelWriter& writer);
+    // Hands every pixel's index to the writer. True when the data ended with the end code or was
+    // complete; false when it was not, when the work was stopped, or when a clear code is followed
+    // by the end. The work is told how far this is in a file of that size.
+    bool Decode(GifPixelWriter& writer, Work& work, int64 file_size);
 
   private:
     static constexpr int32 kMaxCodes = 4096;
     static constexpr int32 kReadError = -1;
     static constexpr int32 kNoString = -1;
+    // Codes between two looks at the work: well below a millisecond.
+    static constexpr int32 kCodesAtOnce = 256;
 
     // The string of a code: the string of prefix, followed by the byte suffix.
     struct String {
@@ -39,14 +41,14 @@ class GifLzwDecoder {
     };
 
     void ResetTable();
+    void Refill();
     int32 NextCode();
     int32 FirstCodeAfterClear();
     static int32 StartString(int32 code);
     void AddString(int32 prefix, uint8 suffix);
     void Emit(int32 string, GifPixelWriter& writer);
-    void SkipRest();
 
-    WatchedInput& input_;
+    const GifImageData& data_;
     const int32 min_code_size_;
     const int32 clear_code_;
     const int32 end_code_;
@@ -59,12 +61,9 @@ class GifLzwDecoder {
     std::array<String, kMaxCodes + 256> strings_;
     std::array<uint8, kMaxCodes + 1> expanded_;
 
+    uint64 bit_buffer_ = 0;
     int32 bit_count_ = 0;
-    uint32 bit_buffer_ = 0;
-    std::array<uint8, 255> block_;
-    int32 block_size_ = 0;
-    int32 block_position_ = 0;
-    bool terminator_seen_ = false;
+    size_t position_ = 0;  // of the first byte that is not in the buffer
 };
 
 }  // namespace kirto

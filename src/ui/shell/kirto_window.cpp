@@ -86,15 +86,9 @@ KirtoWindow::~KirtoWindow() {
 
 void KirtoWindow::MakePanels() {
     const BMessenger window = Messenger();
-<<<<<<< HEAD
-    global_view_ = new GlobalView(shown_, window);
-    palette_view_ = new PaletteView(shown_, window);
-    status_view_ = new StatusView(shown_, window);
-=======
->>>>>>> c5b2fa5
     local_view_ = new LocalView(shown_, window);
     panels_ = {new GlobalView(shown_, window), new PaletteView(shown_, window), local_view_};
-    status_view_ = new StatusView(shown_);
+    status_view_ = new StatusView(shown_, window);
     frame_list_view_ = new FrameListView(shown_, window);
     // Thumbnails select by way of the window, so that an edit of the frame that was current goes
     // before them.

@@ -36,10 +36,12 @@ Result DecodeBlocks(const std::vector<uint8>& blocks, int32 min_code_size, int32
     const auto file = BFile::OnMemory(blocks);
     Work work;
     WatchedInput input(*file, work);
-    GifLzwDecoder decoder(input, min_code_size);
+    GifImageData data;
+    data.Read(input, blocks.size());
+    GifLzwDecoder decoder(data, min_code_size);
 
     Result result;
-    result.success = decoder.Decode(writer);
+    result.success = decoder.Decode(writer, work, file->Size());
     result.left = file->Size() - file->Position();
     result.debug = debug.Text();
     for (const uint32 pixel : PixelsOf(*picture)) {

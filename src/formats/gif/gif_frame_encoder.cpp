@@ -1,0 +1,150 @@
+#include "formats/gif/gif_frame_encoder.h"
+
+#include <algorithm>
+#include <bit>
+#include <cmath>
+#include <vector>
+
+#include "base/byte_order.h"
+#include "formats/gif/gif_lzw_encoder.h"
+#include "formats/gif/gif_row_order.h"
+
+namespace kirto {
+
+namespace {
+
+// The integer part of a delay in hundredths. A value a hair below a whole number counts as that
+// number, so that 0.29 seconds stays 29 through any number of saves.
+int64 WholeHundredths(double hundredths) {
+    constexpr double kTolerance = 1e-6;
+    constexpr double kLimit = 9e18;
+    if (std::isnan(hundredths)) return 0;
+    const double nearest = std::ceil(hundredths);
+    const double whole = nearest - hundredths < kTolerance ? nearest : std::trunc(hundredths);
+    return static_cast<int64>(std::clamp(whole, -kLimit, kLimit));
+}
+
+int32 BitWidth(uint8 value) {
+    return static_cast<int32>(std::bit_width(value));
+}
+
+// The largest of the indices that pixels get whatever the number of entries in use: the transparent
+// one, and the levels of the grey ramp.
+uint8 LargestUnboundIndex(const Frame& frame, const Palette& palette, uint8 transparent,
+                          const Work& work) {
+    const bool grey_ramp = palette.mode == kPaletteGreyscale;
+    uint8 largest = 0;
+    for (int32 y = 0; y < frame.height && !work.StopRequested(); ++y) {
+        for (int32 x = 0; x < frame.width; ++x) {
+            const rgb_color color = PixelColor(frame.bitmap.get(), x, y);
+            if (color.alpha < 255) {
+                largest = std::max(largest, transparent);
+            } else if (grey_ramp) {
+                largest = std::max(largest, palette.IndexForColor(color));
+            }
+        }
+    }
+    return largest;
+}
+
+int32 WidestFrame(const Animation& animation) {
+    int32 widest = 0;
+    for (const FramePointer& frame : animation.frames)
+        widest = std::max(widest, frame->width);
+    return widest;
+}
+
+}  // namespace
+
+GifFrameEncoder::GifFrameEncoder(const Animation& animation, const GifSaveOptions& options)
+    : animation_(animation),
+      options_(options),
+      mapper_(LowByte(animation.palette->transparent_index), animation.palette->dither,
+              WidestFrame(animation)) {}
+
+void GifFrameEncoder::Encode(const Frame& frame, BFile& file, Work& work, int64 rows_done,
+                             int64 rows) {
+    const Encoding encoding = EncodingOf(frame, work);
+    WriteGifControlBlock(frame, file);
+    WriteGifImageHeader(frame, encoding, file);
+    mapper_.StartPicture(*encoding.palette, options_.interlaced);
+    GifLzwEncoder encoder(file, std::max(encoding.bits, 2));
+    std::vector<uint8> indices;
+    for (GifRowOrder order(frame.height, options_.interlaced); !order.Done(); order.Next()) {
+        work.Report(rows_done++, rows);
+        if (work.StopRequested()) return;
+        mapper_.MapRow(frame.bitmap.get(), order.Row(), frame.width, &indices);
+        for (const uint8 index : indices)
+            encoder.Add(index);
+    }
+    encoder.Finish();
+}
+
+void GifFrameEncoder::WriteGifControlBlock(const Frame& frame, BFile& file) const {
+    const Palette& global = *animation_.palette;
+    uint8 block[8] = {0x21, 0xF9, 4};
+    block[3] = LowByte(options_.disposal << 2);
+    WriteLittle16(block + 4, DelayOf(animation_, frame, options_.pause_in_seconds));
+    if (global.use_transparent) {
+        block[3] |= 1;
+        block[6] = LowByte(global.transparent_index);
+    }
+    file.Write(block, sizeof(block));
+}
+
+void GifFrameEncoder::WriteGifImageHeader(const Frame& frame, const Encoding& encoding,
+                                          BFile& file) const {
+    uint8 header[10] = {','};
+    WriteLittle16(header + 1, frame.x_offset);
+    WriteLittle16(header + 3, frame.y_offset);
+    WriteLittle16(header + 5, frame.width);
+    WriteLittle16(header + 7, frame.height);
+    if (encoding.local_table) header[9] = LowByte((encoding.bits - 1) | 0x80);
+    if (options_.interlaced) header[9] |= 0x40;
+    file.Write(header, sizeof(header));
+    if (encoding.local_table) WriteColorTable(*encoding.palette, encoding.bits, file);
+}
+
+// The transparent index is the global palette's even in frames with a narrower palette of their
+// own, and a palette may be recognised as the grey ramp though fewer entries were read. A frame
+// that uses an index past its palette is written wider, with a table of its own.
+GifFrameEncoder::Encoding GifFrameEncoder::EncodingOf(const Frame& frame, const Work& work) const {
+    const Palette& global = *animation_.palette;
+    Encoding encoding;
+    encoding.local_table = frame.local_palette;
+    encoding.palette = frame.local_palette ? frame.palette.get() : &global;
+    encoding.bits = encoding.palette->bits;
+    const uint8 transparent = LowByte(global.transparent_index);
+    const bool grey_ramp = encoding.palette->mode == kPaletteGreyscale;
+    // Most frames can't need more bits and are spared the look at their pixels.
+    if (encoding.bits >= (grey_ramp ? 8 : BitWidth(transparent))) return encoding;
+    const int32 needed = BitWidth(LargestUnboundIndex(frame, *encoding.palette, transparent, work));
+    if (needed > encoding.bits) {
+        encoding.bits = needed;
+        encoding.local_table = true;
+    }
+    return encoding;
+}
+
+int64 GifFrameEncoder::DelayOf(const Animation& animation, const Frame& frame, bool in_seconds) {
+    double pause = 0;
+    if (frame.use_pause) {
+        pause = frame.pause_length;
+    } else if (animation.use_pause) {
+        pause = animation.pause_length;
+    }
+    return WholeHundredths(in_seconds ? pause * 100 : pause);
+}
+
+void GifFrameEncoder::WriteColorTable(const Palette& palette, int32 bits, BFile& file) {
+    const size_t count = size_t{1} << bits;
+    std::vector<uint8> table;
+    table.reserve(count * 3);
+    for (size_t i = 0; i < count; ++i) {
+        const rgb_color color = palette.colors[i];
+        table.insert(table.end(), {color.red, color.green, color.blue});
+    }
+    file.Write(table.data(), table.size());
+}
+
+}  // namespace kirto

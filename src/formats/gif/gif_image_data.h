@@ -1,0 +1,21 @@
+#pragma once
+
+#include <vector>
+
+#include "base/types.h"
+#include "kit/watched_input.h"
+
+namespace kirto {
+
+// The codes of a GIF image as they stand in the file.
+struct GifImageData {
+    std::vector<uint8> bytes;  // of all data sub-blocks, joined
+    bool complete = false;     // false: the file ended before the last one
+    bool too_large = false;    // there are more bytes than allowed, and not all were read
+    int64 position = 0;        // in the file
+
+    // Reads them from the first sub-block to the terminator. largest: bytes allowed.
+    void Read(WatchedInput& input, uint64 largest);
+};
+
+}  // namespace kirto
