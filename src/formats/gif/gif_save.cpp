@@ -59,7 +59,7 @@ void GifSave::WriteGifHeader() {
         file_->Write(loop, sizeof(loop));
     }
     if (options_.comment) {
-        const uint8 start[3] = {0x21, 0xFE, kirto::sizeof(kComment) - 1};
+        const uint8 start[3] = {0x21, 0xFE, kirto::LowByte(sizeof(kComment) - 1)};
         file_->Write(start, sizeof(start));
         // The text's own terminating zero ends the chain of sub-blocks.
         file_->Write(kComment, sizeof(kComment));
