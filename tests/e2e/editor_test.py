@@ -4,6 +4,7 @@ The editor is seen from outside only: by its windows, by what it tells screen re
 files. A case runs in a process of its own, see run_case.py.
 """
 
+import difflib
 import json
 import os
 import pathlib
@@ -89,12 +90,36 @@ class Editor:
 
     def field(self, name, root=None):
         """What a text field holds."""
-        text = self.node("text", name, root)
-        return accessibility.Atspi.Text.get_text(
-            text, 0, accessibility.Atspi.Text.get_character_count(text))
+        return accessibility.text(self.node("text", name, root))
 
     def wait_for_field(self, name, value, root=None):
         wait_until(lambda: self.field(name, root) == value, f"{value!r} in the field {name!r}")
+
+    def seen(self):
+        """All that the main window shows, line by line, but for the menus, the status line and what
+        has the keyboard. It tells two states of a document apart."""
+        return [accessibility.content(node) for _, node in accessibility.visible_nodes(self.main_window())
+                if not node.get_name().startswith("Status: ")]
+
+    def wait_for_seen(self, lines, what):
+        """Waits until the main window shows what was seen earlier."""
+        try:
+            wait_until(lambda: self.seen() == lines, what)
+        except AssertionError as error:
+            changes = difflib.unified_diff(lines, self.seen(), "expected", "shown", lineterm="", n=0)
+            raise AssertionError("\n".join([str(error), *changes])) from None
+
+    def history(self):
+        """The names of the edits that the menu offers to undo and to redo; empty ones for none."""
+        names = []
+        for item in accessibility.menu_items(self.main_window(), "Edit"):
+            offered = accessibility.has(item, accessibility.Atspi.StateType.ENABLED)
+            names.append(item.get_name().partition(" ")[2] if offered else "")
+        return tuple(names)
+
+    def wait_for_history(self, undo, redo):
+        wait_until(lambda: self.history() == (undo, redo),
+                   f"the menu to offer to undo {undo!r} and to redo {redo!r}")
 
     # What there is to do
 
@@ -134,14 +159,14 @@ class Editor:
         self.session.type(value)
         self.session.key("Tab")
 
-    def name_file(self, title, path):
-        """Names a file in a file dialog by its path, and confirms."""
+    def name_file(self, title, *paths):
+        """Names files in a file dialog by their paths, and confirms."""
         self.session.wait_until_active(f"^{title}$")
         name = self.node("text", "File name:", self.window(title))
         wait_until(lambda: accessibility.has(name, accessibility.Atspi.StateType.FOCUSED),
                    "the file dialog to take a name")
         self.session.key("ctrl+a")
-        self.session.type(str(path))
+        self.session.type(" ".join(f'"{path}"' for path in paths) if paths[1:] else str(*paths))
         self.session.key("Return")
         self.session.wait_for_no_window(f"^{title}$")
 

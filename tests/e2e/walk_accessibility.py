@@ -77,6 +77,30 @@ def describe(node):
     return f"{node.get_role_name()} {node.get_name()!r} {marks}".rstrip()
 
 
+def text(node):
+    """What a text field holds."""
+    return Atspi.Text.get_text(node, 0, Atspi.Text.get_character_count(node))
+
+
+def content(node):
+    """What a node shows, in a line: role, name, text, and whether it is marked or can't be used."""
+    marks = "".join(mark for mark, state in (
+        ("+", Atspi.StateType.CHECKED), (">", Atspi.StateType.SELECTED),
+        ("e", Atspi.StateType.ENABLED)) if has(node, state))
+    role = node.get_role_name()
+    return f"{role} {node.get_name()!r} {text(node) if role == 'text' else ''} {marks}"
+
+
+def menu_items(window, menu):
+    """The items of a menu of the window's menu bar, whether it is open or not."""
+    bar = next(child for child in children(window) if child.get_role_name() == "menu bar")
+    entry = next(child for child in children(bar) if child.get_name() == menu)
+    items = children(children(entry)[0])
+    for item in items:
+        item.clear_cache()
+    return items
+
+
 def tree(root):
     return "\n".join("  " * depth + describe(node) for depth, node in visible_nodes(root))
 
