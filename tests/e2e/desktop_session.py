@@ -228,13 +228,14 @@ class DesktopSession:
     def _make_environment(self):
         home = self.folder / "home"
         runtime = self.folder / "runtime"
-        for folder in (home, runtime, home / "config", home / "data", home / "cache"):
+        for folder in (home, runtime, home / "config", home / "data", home / "cache",
+                       home / "state"):
             folder.mkdir(mode=0o700)
         kept = ("PATH", "LD_LIBRARY_PATH", "ASAN_OPTIONS", "UBSAN_OPTIONS")
         self.environment = {name: os.environ[name] for name in kept if name in os.environ}
         self.environment.update(
             HOME=str(home), XDG_CONFIG_HOME=str(home / "config"), XDG_DATA_HOME=str(home / "data"),
-            XDG_CACHE_HOME=str(home / "cache"), XDG_RUNTIME_DIR=str(runtime), TMPDIR=str(self.folder),
+            XDG_CACHE_HOME=str(home / "cache"), XDG_STATE_HOME=str(home / "state"), XDG_RUNTIME_DIR=str(runtime), TMPDIR=str(self.folder),
             LANG="C.UTF-8", XDG_SESSION_TYPE="x11", QT_QPA_PLATFORM="xcb",
             QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1")
 

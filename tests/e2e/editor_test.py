@@ -98,8 +98,8 @@ class Editor:
     def seen(self):
         """All that the main window shows, line by line, but for the menus, the status line and what
         has the keyboard. It tells two states of a document apart."""
-        return [accessibility.content(node) for _, node in accessibility.visible_nodes(self.main_window())
-                if not node.get_name().startswith("Status: ")]
+        return [line for line in accessibility.contents(self.main_window())
+                if not line.startswith("label 'Status: ")]
 
     def wait_for_seen(self, lines, what):
         """Waits until the main window shows what was seen earlier."""

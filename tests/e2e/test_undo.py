@@ -1,8 +1,8 @@
 import desktop_session
 from editor_test import EditorTest, WHITE
 
-# The states of the session that is undone: the animation as opened, and after each edit.
-INSERTED, SAVED = 1, 6
+# After so many edits of the session the document is saved.
+SAVED = 6
 
 
 class Step:
@@ -23,6 +23,7 @@ class Undo(EditorTest):
         self.editor.choose("View", "Toggle Mode")
         self.editor.node("list item", "frame #0002    frame0002")
         self.steps = []
+        self.shown = self.settled()
         self.make_session()
 
     # The session
@@ -39,12 +40,13 @@ class Undo(EditorTest):
 
     def edit(self, name, frames, make):
         """Makes an edit that the menu is to call by that name, and that leaves so many frames."""
-        before = self.settled()
+        before = self.shown
         make()
         self.editor.wait_for_history(name, "")
         self.editor.wait_for_status(frames, modified=True)
-        self.steps.append(Step(name, before, self.settled(), frames))
-        self.assertNotEqual(before, self.steps[-1].after, f"nothing to be seen of {name}")
+        self.shown = self.settled()
+        self.steps.append(Step(name, before, self.shown, frames))
+        self.assertNotEqual(before, self.shown, f"nothing to be seen of {name!r}")
 
     def make_session(self):
         editor, press = self.editor, self.session.key
@@ -59,6 +61,7 @@ class Undo(EditorTest):
         self.edit("Change Pause Length", 5, lambda: editor.enter("Pause length", "45"))
         editor.click("list item", "frame #0003    frame0001")
         editor.wait_for_label("frame0001")
+        self.shown = self.settled()
         self.edit("Change X Offset", 5, lambda: editor.enter("X offset:", "7"))
         self.edit("Remove Frame", 4, lambda: press("ctrl+r"))
         assert len(self.steps) == SAVED
@@ -98,11 +101,9 @@ class Undo(EditorTest):
             redo(step.name)
             self.check(state, step.after, step.frames, f"what was after {step.name!r}")
 
-    def test_goes_back_and_forth_by_keyboard(self):
+    def test_goes_back_and_forth_by_keyboard_and_by_menu(self):
         self.undo_all(lambda name: self.session.key("ctrl+z"))
         self.redo_all(lambda name: self.session.key("ctrl+shift+z"))
-
-    def test_goes_back_and_forth_by_menu(self):
         self.undo_all(lambda name: self.editor.choose("Edit", f"Undo {name}"))
         self.redo_all(lambda name: self.editor.choose("Edit", f"Redo {name}"))
 
@@ -123,13 +124,14 @@ class Undo(EditorTest):
         self.assertEqual(again.read_bytes(), end.read_bytes())
         self.assertEqual((self.info(start)["frames"], self.frames(start)),
                          (self.original[0]["frames"], self.original[1]))
+        self.drop_what_was_undone()
 
-    def test_an_edit_after_an_undo_leaves_nothing_to_redo(self):
-        self.session.key(*["ctrl+z"] * (len(self.steps) - INSERTED))
-        self.editor.wait_for_history("Insert", "Change Width")
+    def drop_what_was_undone(self):
+        """A new edit leaves nothing to make again, and the saved state out of reach."""
+        self.session.key(*["ctrl+z"] * (len(self.steps) - 1))
+        self.editor.wait_for_history(self.steps[0].name, self.steps[1].name)
         self.editor.choose("Frame", "Move Down")
         self.editor.wait_for_history("Move Frame Down", "")
-        # The saved state can't be reached any more.
         self.session.key("ctrl+z", "ctrl+z")
-        self.editor.wait_for_history("", "Insert")
+        self.editor.wait_for_history("", self.steps[0].name)
         self.editor.wait_for_status(3, modified=True)

@@ -82,13 +82,21 @@ def text(node):
     return Atspi.Text.get_text(node, 0, Atspi.Text.get_character_count(node))
 
 
-def content(node):
-    """What a node shows, in a line: role, name, text, and whether it is marked or can't be used."""
-    marks = "".join(mark for mark, state in (
-        ("+", Atspi.StateType.CHECKED), (">", Atspi.StateType.SELECTED),
-        ("e", Atspi.StateType.ENABLED)) if has(node, state))
-    role = node.get_role_name()
-    return f"{role} {node.get_name()!r} {text(node) if role == 'text' else ''} {marks}"
+def contents(root):
+    """What is shown below a node, a line each: role, name, text, and whether it is marked or can't be
+    used."""
+    lines = []
+    for _, node in visible_nodes(root):
+        try:
+            marks = "".join(mark for mark, state in (
+                ("+", Atspi.StateType.CHECKED), (">", Atspi.StateType.SELECTED),
+                ("e", Atspi.StateType.ENABLED)) if has(node, state))
+            role = node.get_role_name()
+            held = text(node) if role == "text" else ""
+            lines.append(f"{role} {node.get_name()!r} {held} {marks}")
+        except GLib.Error:
+            continue  # went away while it was looked at
+    return lines
 
 
 def menu_items(window, menu):
