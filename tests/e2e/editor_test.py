@@ -31,15 +31,16 @@ WIDTH, HEIGHT = 80, 60
 
 
 class Editor:
-    """The running editor. Mouse and keyboard do what a user's would."""
+    """The running editor. Mouse and keyboard do what a user's would. With `asks` it begins with a
+    question, which waits for its answer then."""
 
-    def __init__(self, session, program, *files):
+    def __init__(self, session, program, *files, asks=False):
         self.session = session
         self.process = session.start(program, *files)
         window = session.wait_for_window("^Kirto - ")
         session.place_window(window, *WINDOW)
-        session.wait_until_active("^Kirto - ")
-        self.root = accessibility.application("kirto")
+        session.wait_until_active("^Kirto$" if asks else "^Kirto - ")
+        self.root = accessibility.application("kirto", pid=self.process.pid)
         wait_until(lambda: self.main_window() and self._stands_where_it_should(window),
                    "the editor's window to be in place")
 
@@ -250,8 +251,8 @@ class EditorTest(unittest.TestCase):
 
     # Programs
 
-    def start_editor(self, *files):
-        self.editor = Editor(self.session, self.programs / "kirto", *files)
+    def start_editor(self, *files, asks=False):
+        self.editor = Editor(self.session, self.programs / "kirto", *files, asks=asks)
         return self.editor
 
     def start_peer(self, mode, *arguments):

@@ -6,6 +6,7 @@
 """
 
 import argparse
+import contextlib
 import sys
 import time
 
@@ -18,16 +19,17 @@ ANSWER_MILLISECONDS = 5000
 POLL = 0.05
 
 
-def application(name, deadline=60.0):
-    """The running program of that name, once it is known to the desktop."""
+def application(name, deadline=60.0, pid=None):
+    """The running program of that name, or of that process, once it is known to the desktop."""
     Atspi.set_timeout(ANSWER_MILLISECONDS, 10 * ANSWER_MILLISECONDS)
     end = time.monotonic() + deadline
     while time.monotonic() < end:
         desktop = Atspi.get_desktop(0)
         desktop.clear_cache()
         for child in children(desktop):
-            if child.get_name() == name:
-                return child
+            with contextlib.suppress(GLib.Error):  # an earlier one that has just gone
+                if child.get_name() == name and pid in (None, child.get_process_id()):
+                    return child
         time.sleep(POLL)
     raise AssertionError(f"no program {name} is accessible on this desktop")
 
@@ -83,7 +85,7 @@ def text(node):
 
 
 def contents(root):
-    """What is shown below a node, a line each: role, name, text, and whether it is marked or can't be
+    """What is shown below a node, a line each: role, name, text, and whether it is marked or can be
     used."""
     lines = []
     for _, node in visible_nodes(root):
