@@ -44,7 +44,8 @@ def wait_until(condition, what, deadline=DEADLINE):
         time.sleep(POLL)
 
 
-def _end_with_parent():
+def end_with_parent():
+    """What a child process calls first, so that it ends with this one."""
     _libc.prctl(_PR_SET_PDEATHSIG, signal.SIGKILL)
 
 
@@ -68,7 +69,7 @@ class Program:
         with open(log, "wb") as output:
             self.process = subprocess.Popen(
                 command, env=environment, stdin=subprocess.DEVNULL, stdout=output,
-                stderr=subprocess.STDOUT, preexec_fn=_end_with_parent)
+                stderr=subprocess.STDOUT, preexec_fn=end_with_parent)
 
     @property
     def pid(self):
@@ -255,7 +256,7 @@ class DesktopSession:
         log = open(self.folder / f"{command[0]}.log", "wb")
         process = subprocess.Popen(
             [*command, *descriptor_option(writing)], env=self.environment, pass_fds=(writing,),
-            stdin=subprocess.DEVNULL, stdout=log, stderr=log, preexec_fn=_end_with_parent)
+            stdin=subprocess.DEVNULL, stdout=log, stderr=log, preexec_fn=end_with_parent)
         os.close(writing)
         line = b""
         with os.fdopen(reading, "rb", buffering=0) as stream, log:
