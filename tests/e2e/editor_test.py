@@ -107,7 +107,7 @@ class Editor:
         try:
             wait_until(lambda: self.seen() == lines, what)
         except AssertionError as error:
-            changes = difflib.unified_diff(lines, self.seen(), "expected", "shown", lineterm="", n=0)
+            changes = difflib.unified_diff(lines, self.seen(), "expected", "shown", lineterm="")
             raise AssertionError("\n".join([str(error), *changes])) from None
 
     def history(self):

@@ -79,7 +79,8 @@ class Player:
     def start_keys(self, keys):
         return subprocess.Popen(
             ["xdotool", "key", "--delay", str(self.choices.randrange(1, 20)), *keys],
-            env=self.editor.session.environment, stdin=subprocess.DEVNULL, preexec_fn=end_with_parent)
+            env=self.editor.session.environment, stdin=subprocess.DEVNULL,
+            preexec_fn=end_with_parent)
 
     def look(self, end):
         """Looks at the pause until it is the newest one, or the time has come. What is typed next
@@ -98,8 +99,8 @@ class Player:
             self.seen.append((last, self.pause))
 
     def oldest_to_expect(self):
-        """The pause that was there so long before the kill that its copy was complete. A machine that
-        lets everybody wait gets more time."""
+        """The pause that was there so long before the kill that its copy was complete. A machine
+        that lets everybody wait gets more time."""
         grace = 0.25 + 4 * self.longest + PATIENCE * DELAY / 1000
         return max((pause for seen, pause in self.seen if seen < self.killed - grace), default=0)
 
@@ -130,8 +131,8 @@ class Crashes(EditorTest):
         return path.read_bytes()
 
     def play(self, editor, state):
-        """Goes on with the session and kills the editor in the middle of it. Returns the states that
-        it may have been in, and the oldest pause that must not be lost."""
+        """Goes on with the session and kills the editor in the middle of it. Returns the states
+        that it may have been in, and the oldest pause that must not be lost."""
         player = Player(editor, state, self.used_pause, self.choices, self.folder)
         player.play_and_kill(self.choices.uniform(0.02, 1.0))
         self.used_pause = player.pause
