@@ -9,7 +9,6 @@ import json
 import os
 import pathlib
 import subprocess
-import time
 import unittest
 
 import desktop_session
@@ -145,13 +144,21 @@ class Editor:
         """Brings the keyboard to a control by the Tab key, as somebody without a mouse would."""
         control = self.node(role, name, root)
         for _ in range(100):
-            if accessibility.has(control, accessibility.Atspi.StateType.FOCUSED):
+            holder = wait_until(self._keyboard_holder, "something to have the keyboard")
+            if holder == control:
                 return
             self.session.key("Tab")
-            # What has the keyboard is told to others a moment later.
-            time.sleep(desktop_session.POLL)
-            control.clear_cache()
+            wait_until(lambda: self._keyboard_holder() not in (None, holder),
+                       f"the keyboard to leave {accessibility.describe(holder)}")
         raise AssertionError(f"the Tab key does not lead to the {role} {name!r}")
+
+    def _keyboard_holder(self):
+        """The control that has the keyboard; none in the moment in which it changes."""
+        for _, node in accessibility.visible_nodes(self.root):
+            focused = accessibility.has(node, accessibility.Atspi.StateType.FOCUSED)
+            if focused and accessibility.takes_keyboard(node):
+                return node
+        return None
 
     def enter(self, name, value, root=None):
         """Replaces what a text field holds, and leaves it."""
