@@ -83,8 +83,7 @@ class Player:
             preexec_fn=end_with_parent)
 
     def look(self, end):
-        """Looks at the pause until it is the newest one, or the time has come. What is typed next
-        must not meet what is shown late."""
+        """Looks at the pause until it is the newest one, or the time has come."""
         last, shown = time.monotonic(), ""
         while last < end and shown != f"{self.pause}.00":
             shown = accessibility.text(self.field)
