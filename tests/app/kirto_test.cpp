@@ -179,6 +179,22 @@ TEST_F(KirtoCommands, ArstResetsAndPostsNothing) {
     EXPECT_EQ(app_->FrameCount(), 0);
 }
 
+TEST_F(KirtoCommands, ArstNeverOffersToUndoAnEditOfTheAnimationBefore) {
+    Start();
+    Append({"one", "two"});
+    Do(kRemoveFrame);
+    EXPECT_EQ(app_->CurrentState()->undo_name, "Remove Frame");
+    Lines offered;
+    app_->SetObserver([&](const auto& state) {
+        if (state->animation->frames.Empty()) offered.push_back(state->undo_name);
+    });
+
+    Do(kResetDocument);
+
+    app_->SetObserver(nullptr);
+    EXPECT_EQ(offered, Lines{""});
+}
+
 TEST_F(KirtoCommands, ArstReportsAnUnreadablePaletteFile) {
     Start();
     prefs_.palette_mapping = kPaletteFromFile;

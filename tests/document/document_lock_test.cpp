@@ -9,6 +9,7 @@
 
 #include "document/document_checks.h"
 #include "document/document_scope.h"
+#include "support/sleeping_thread.h"
 #include "support/test_support.h"
 
 namespace kirto::test {
@@ -20,11 +21,12 @@ void ReadElsewhere(DocumentLock& lock) {
     std::thread([&lock] { const ReaderScope reader(lock); }).join();
 }
 
-// A thread that enters as the writer, and tells when it is inside.
+// A thread that enters as the writer, and tells when it was inside.
 class WaitingWriter {
   public:
     explicit WaitingWriter(DocumentLock& lock)
         : thread_([this, &lock] {
+              number_ = ThreadNumber();
               started_.count_down();
               lock.WriterEnter();
               entered_ = true;
@@ -34,13 +36,18 @@ class WaitingWriter {
     }
     ~WaitingWriter() { Join(); }
 
-    bool Entered() const { return entered_; }
+    // Asked once the thread can't go on by itself.
+    bool Entered() const {
+        WaitUntilAsleep(number_);
+        return entered_;
+    }
     void Join() {
         if (thread_.joinable()) thread_.join();
     }
 
   private:
     std::latch started_{1};
+    pid_t number_ = 0;
     std::atomic<bool> entered_ = false;
     std::thread thread_;
 };
@@ -111,7 +118,6 @@ TEST(WriterScope, LetsNewReadersInWhileItWaitsForTheOldOnes) {
     WaitingWriter writer(lock);
 
     for (int32 i = 0; i < 20; ++i) {
-        snooze(500);
         ReadElsewhere(lock);
         EXPECT_FALSE(writer.Entered());
     }
@@ -165,6 +171,7 @@ TEST(DocumentLock, LetsAWaitingWriterGoWhenTheSemaphoreIsDeleted) {
     DocumentLock lock;
     lock.ReaderEnter();
     WaitingWriter writer(lock);
+    EXPECT_FALSE(writer.Entered());
 
     delete_sem(lock.frame_sem);
     writer.Join();

@@ -9,6 +9,7 @@
 
 #include "document/document_checks.h"
 #include "document/document_scope.h"
+#include "support/sleeping_thread.h"
 #include "support/test_support.h"
 
 namespace kirto::test {
@@ -37,6 +38,36 @@ bool IsWhole(const Animation& animation) {
     }
     return animation.frames.Empty() ? animation.selected == -1
                                     : animation.CurrentFrame() != nullptr;
+}
+
+Animation Wider(const AnimationDocument& document) {
+    Animation wider = *document.Current();
+    ++wider.width;
+    return wider;
+}
+
+// All ways in which the document publishes a state. A step with a change of its own has begun.
+std::vector<std::pair<const char*, void (*)(AnimationDocument&)>> KindsOfChange() {
+    using Document = AnimationDocument;
+    return {
+        {"commit", [](Document& document) { document.Commit(Wider(document)); }},
+        {"commit modified", [](Document& document) { document.CommitModified(Wider(document)); }},
+        {"modified", [](Document& document) { document.SetModified(false); }},
+        {"file", [](Document& document) { document.SetFile("/films", "movie.gif"); }},
+        {"restore",
+         [](Document& document) { document.Restore(Wider(document), "/films", "movie.gif"); }},
+        {"settings", [](Document& document) { document.PublishSettings(); }},
+        {"end of a step", [](Document& document) { document.EndStep("Widen again"); }},
+        {"undo", [](Document& document) { document.Undo(); }},
+        {"new history", [](Document& document) { document.StartHistory(); }},
+        {"saved", [](Document& document) { document.MarkSaved(); }},
+        {"reset", [](Document& document) { document.Reset(); }},
+        {"insertion", [](Document& document) { Insert(document, "three", 0); }},
+        {"removal", [](Document& document) { document.RemoveFrame(); }},
+        {"move", [](Document& document) { document.MoveFrame(false); }},
+        {"reversal", [](Document& document) { document.ReverseFrames(); }},
+        {"selection", [](Document& document) { document.Select(1); }},
+    };
 }
 
 }  // namespace
@@ -146,28 +177,38 @@ TEST(DocumentState, IsReadWhileAWriterIsInside) {
     EXPECT_EQ(fixture.document.CurrentFrame()->name, "one");
 }
 
-TEST(DocumentState, ChangesOnlyAfterTheReadersInsideHaveLeft) {
-    DocumentFixture fixture;
-    AnimationDocument& document = fixture.document;
-    document.ReaderEnter();
-    std::latch started(1);
-    std::atomic<bool> published = false;
-    std::thread editor([&] {
-        started.count_down();
-        document.SetModified(true);
-        published = true;
-    });
-    started.wait();
+TEST(DocumentState, ChangesInNoWayBeforeTheReadersInsideHaveLeft) {
+    for (const auto& [name, change] : KindsOfChange()) {
+        SCOPED_TRACE(name);
+        DocumentFixture fixture;
+        AnimationDocument& document = fixture.document;
+        Insert(document, "one", 0);
+        Insert(document, "two", 0);
+        document.BeginStep();
+        document.CommitModified(Wider(document));
+        document.EndStep("Widen");
+        document.BeginStep();
+        document.CommitModified(Wider(document));
+        const StatePointer before = document.CurrentState();
+        document.ReaderEnter();
+        std::latch started(1);
+        pid_t number = 0;
+        std::atomic<bool> changed = false;
+        std::thread editor([&, &change = change] {
+            number = ThreadNumber();
+            started.count_down();
+            change(document);
+            changed = true;
+        });
+        started.wait();
+        WaitUntilAsleep(number);
 
-    for (int32 i = 0; i < 20; ++i) {
-        snooze(500);
-        EXPECT_FALSE(document.Modified());
-        EXPECT_FALSE(published);
+        EXPECT_EQ(document.CurrentState(), before);
+        EXPECT_FALSE(changed);
+        document.ReaderExit();
+        editor.join();
+        EXPECT_NE(document.CurrentState(), before);
     }
-    document.ReaderExit();
-    editor.join();
-
-    EXPECT_TRUE(document.Modified());
 }
 
 TEST(DocumentState, IsWholeForReadersWhileTheDocumentIsEdited) {

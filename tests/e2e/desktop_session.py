@@ -44,7 +44,8 @@ def wait_until(condition, what, deadline=DEADLINE):
         time.sleep(POLL)
 
 
-def _end_with_parent():
+def end_with_parent():
+    """What a child process calls first, so that it ends with this one."""
     _libc.prctl(_PR_SET_PDEATHSIG, signal.SIGKILL)
 
 
@@ -68,7 +69,7 @@ class Program:
         with open(log, "wb") as output:
             self.process = subprocess.Popen(
                 command, env=environment, stdin=subprocess.DEVNULL, stdout=output,
-                stderr=subprocess.STDOUT, preexec_fn=_end_with_parent)
+                stderr=subprocess.STDOUT, preexec_fn=end_with_parent)
 
     @property
     def pid(self):
@@ -106,8 +107,12 @@ class Program:
         try:
             self.process.wait(10)
         except subprocess.TimeoutExpired:
-            self.process.kill()
-            self.process.wait()
+            self.kill()
+
+    def kill(self):
+        """Ends the program at once; it learns nothing of it."""
+        self.process.kill()
+        self.process.wait()
 
 
 class DesktopSession:
@@ -125,7 +130,7 @@ class DesktopSession:
             # Whoever loses its parent becomes a child of this process, and is found at the end.
             _libc.prctl(_PR_SET_CHILD_SUBREAPER, 1)
             self._make_environment()
-            self._start_server()
+            self.environment["DISPLAY"], _ = self.start_server()
             self._start_bus()
             self._start_window_manager()
         except BaseException:
@@ -228,13 +233,15 @@ class DesktopSession:
     def _make_environment(self):
         home = self.folder / "home"
         runtime = self.folder / "runtime"
-        for folder in (home, runtime, home / "config", home / "data", home / "cache"):
+        for folder in (home, runtime, home / "config", home / "data", home / "cache",
+                       home / "state"):
             folder.mkdir(mode=0o700)
         kept = ("PATH", "LD_LIBRARY_PATH", "ASAN_OPTIONS", "UBSAN_OPTIONS")
         self.environment = {name: os.environ[name] for name in kept if name in os.environ}
         self.environment.update(
             HOME=str(home), XDG_CONFIG_HOME=str(home / "config"), XDG_DATA_HOME=str(home / "data"),
-            XDG_CACHE_HOME=str(home / "cache"), XDG_RUNTIME_DIR=str(runtime), TMPDIR=str(self.folder),
+            XDG_CACHE_HOME=str(home / "cache"), XDG_STATE_HOME=str(home / "state"),
+            XDG_RUNTIME_DIR=str(runtime), TMPDIR=str(self.folder),
             LANG="C.UTF-8", XDG_SESSION_TYPE="x11", QT_QPA_PLATFORM="xcb",
             QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1")
 
@@ -243,12 +250,13 @@ class DesktopSession:
         return pathlib.Path(self.environment["HOME"])
 
     def _first_line(self, command, descriptor_option):
-        """Starts a program that writes one line to a descriptor when it is ready; the line."""
+        """Starts a program that writes one line to a descriptor when it is ready; the line and the
+        program."""
         reading, writing = os.pipe()
         log = open(self.folder / f"{command[0]}.log", "wb")
         process = subprocess.Popen(
             [*command, *descriptor_option(writing)], env=self.environment, pass_fds=(writing,),
-            stdin=subprocess.DEVNULL, stdout=log, stderr=log, preexec_fn=_end_with_parent)
+            stdin=subprocess.DEVNULL, stdout=log, stderr=log, preexec_fn=end_with_parent)
         os.close(writing)
         line = b""
         with os.fdopen(reading, "rb", buffering=0) as stream, log:
@@ -258,16 +266,17 @@ class DesktopSession:
                 if not piece:
                     raise AssertionError(f"{command[0]} did not start; status {process.poll()}")
                 line += piece
-        return line.decode().strip()
+        return line.decode().strip(), process
 
-    def _start_server(self):
-        display = self._first_line(
+    def start_server(self):
+        """Starts an X server; its display and its process."""
+        number, process = self._first_line(
             ["Xvfb", "-screen", "0", self._size, "-nolisten", "tcp", "-noreset"],
             lambda descriptor: ["-displayfd", str(descriptor)])
-        self.environment["DISPLAY"] = f":{display}"
+        return f":{number}", process
 
     def _start_bus(self):
-        self.environment["DBUS_SESSION_BUS_ADDRESS"] = self._first_line(
+        self.environment["DBUS_SESSION_BUS_ADDRESS"], _ = self._first_line(
             ["dbus-daemon", "--session", "--nofork", "--nopidfile"],
             lambda descriptor: [f"--print-address={descriptor}"])
 

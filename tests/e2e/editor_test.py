@@ -4,11 +4,11 @@ The editor is seen from outside only: by its windows, by what it tells screen re
 files. A case runs in a process of its own, see run_case.py.
 """
 
+import difflib
 import json
 import os
 import pathlib
 import subprocess
-import time
 import unittest
 
 import desktop_session
@@ -30,15 +30,16 @@ WIDTH, HEIGHT = 80, 60
 
 
 class Editor:
-    """The running editor. Mouse and keyboard do what a user's would."""
+    """The running editor. Mouse and keyboard do what a user's would. With `asks` it begins with a
+    question, which waits for its answer then."""
 
-    def __init__(self, session, program, *files):
+    def __init__(self, session, program, *files, asks=False):
         self.session = session
         self.process = session.start(program, *files)
         window = session.wait_for_window("^Kirto - ")
         session.place_window(window, *WINDOW)
-        session.wait_until_active("^Kirto - ")
-        self.root = accessibility.application("kirto")
+        session.wait_until_active("^Kirto$" if asks else "^Kirto - ")
+        self.root = accessibility.application("kirto", pid=self.process.pid)
         wait_until(lambda: self.main_window() and self._stands_where_it_should(window),
                    "the editor's window to be in place")
 
@@ -89,12 +90,36 @@ class Editor:
 
     def field(self, name, root=None):
         """What a text field holds."""
-        text = self.node("text", name, root)
-        return accessibility.Atspi.Text.get_text(
-            text, 0, accessibility.Atspi.Text.get_character_count(text))
+        return accessibility.text(self.node("text", name, root))
 
     def wait_for_field(self, name, value, root=None):
         wait_until(lambda: self.field(name, root) == value, f"{value!r} in the field {name!r}")
+
+    def seen(self):
+        """All that the main window shows, line by line, but for the menus, the status line and what
+        has the keyboard. It tells two states of a document apart."""
+        return [line for line in accessibility.contents(self.main_window())
+                if not line.startswith("label 'Status: ")]
+
+    def wait_for_seen(self, lines, what):
+        """Waits until the main window shows what was seen earlier."""
+        try:
+            wait_until(lambda: self.seen() == lines, what)
+        except AssertionError as error:
+            changes = difflib.unified_diff(lines, self.seen(), "expected", "shown", lineterm="")
+            raise AssertionError("\n".join([str(error), *changes])) from None
+
+    def history(self):
+        """The names of the edits that the menu offers to undo and to redo; empty ones for none."""
+        names = []
+        for item in accessibility.menu_items(self.main_window(), "Edit"):
+            offered = accessibility.has(item, accessibility.Atspi.StateType.ENABLED)
+            names.append(item.get_name().partition(" ")[2] if offered else "")
+        return tuple(names)
+
+    def wait_for_history(self, undo, redo):
+        wait_until(lambda: self.history() == (undo, redo),
+                   f"the menu to offer to undo {undo!r} and to redo {redo!r}")
 
     # What there is to do
 
@@ -119,13 +144,21 @@ class Editor:
         """Brings the keyboard to a control by the Tab key, as somebody without a mouse would."""
         control = self.node(role, name, root)
         for _ in range(100):
-            if accessibility.has(control, accessibility.Atspi.StateType.FOCUSED):
+            holder = wait_until(self._keyboard_holder, "something to have the keyboard")
+            if holder == control:
                 return
             self.session.key("Tab")
-            # What has the keyboard is told to others a moment later.
-            time.sleep(desktop_session.POLL)
-            control.clear_cache()
+            wait_until(lambda: self._keyboard_holder() not in (None, holder),
+                       f"the keyboard to leave {accessibility.describe(holder)}")
         raise AssertionError(f"the Tab key does not lead to the {role} {name!r}")
+
+    def _keyboard_holder(self):
+        """The control that has the keyboard; none in the moment in which it changes."""
+        for _, node in accessibility.visible_nodes(self.root):
+            focused = accessibility.has(node, accessibility.Atspi.StateType.FOCUSED)
+            if focused and accessibility.takes_keyboard(node):
+                return node
+        return None
 
     def enter(self, name, value, root=None):
         """Replaces what a text field holds, and leaves it."""
@@ -134,14 +167,14 @@ class Editor:
         self.session.type(value)
         self.session.key("Tab")
 
-    def name_file(self, title, path):
-        """Names a file in a file dialog by its path, and confirms."""
+    def name_file(self, title, *paths):
+        """Names files in a file dialog by their paths, and confirms."""
         self.session.wait_until_active(f"^{title}$")
         name = self.node("text", "File name:", self.window(title))
         wait_until(lambda: accessibility.has(name, accessibility.Atspi.StateType.FOCUSED),
                    "the file dialog to take a name")
         self.session.key("ctrl+a")
-        self.session.type(str(path))
+        self.session.type(" ".join(f'"{path}"' for path in paths) if paths[1:] else str(*paths))
         self.session.key("Return")
         self.session.wait_for_no_window(f"^{title}$")
 
@@ -225,8 +258,8 @@ class EditorTest(unittest.TestCase):
 
     # Programs
 
-    def start_editor(self, *files):
-        self.editor = Editor(self.session, self.programs / "kirto", *files)
+    def start_editor(self, *files, asks=False):
+        self.editor = Editor(self.session, self.programs / "kirto", *files, asks=asks)
         return self.editor
 
     def start_peer(self, mode, *arguments):

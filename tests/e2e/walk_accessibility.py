@@ -6,6 +6,7 @@
 """
 
 import argparse
+import contextlib
 import sys
 import time
 
@@ -18,16 +19,17 @@ ANSWER_MILLISECONDS = 5000
 POLL = 0.05
 
 
-def application(name, deadline=60.0):
-    """The running program of that name, once it is known to the desktop."""
+def application(name, deadline=60.0, pid=None):
+    """The running program of that name, or of that process, once it is known to the desktop."""
     Atspi.set_timeout(ANSWER_MILLISECONDS, 10 * ANSWER_MILLISECONDS)
     end = time.monotonic() + deadline
     while time.monotonic() < end:
         desktop = Atspi.get_desktop(0)
         desktop.clear_cache()
         for child in children(desktop):
-            if child.get_name() == name:
-                return child
+            with contextlib.suppress(GLib.Error):  # an earlier one that has just gone
+                if child.get_name() == name and pid in (None, child.get_process_id()):
+                    return child
         time.sleep(POLL)
     raise AssertionError(f"no program {name} is accessible on this desktop")
 
@@ -75,6 +77,38 @@ def describe(node):
         ("*", Atspi.StateType.FOCUSED), ("+", Atspi.StateType.CHECKED),
         ("!", Atspi.StateType.FOCUSABLE)) if has(node, state))
     return f"{node.get_role_name()} {node.get_name()!r} {marks}".rstrip()
+
+
+def text(node):
+    """What a text field holds."""
+    return Atspi.Text.get_text(node, 0, Atspi.Text.get_character_count(node))
+
+
+def contents(root):
+    """What is shown below a node, a line each: role, name, text, and whether it is marked or can be
+    used."""
+    lines = []
+    for _, node in visible_nodes(root):
+        try:
+            marks = "".join(mark for mark, state in (
+                ("+", Atspi.StateType.CHECKED), (">", Atspi.StateType.SELECTED),
+                ("e", Atspi.StateType.ENABLED)) if has(node, state))
+            role = node.get_role_name()
+            held = text(node) if role == "text" else ""
+            lines.append(f"{role} {node.get_name()!r} {held} {marks}")
+        except GLib.Error:
+            continue  # went away while it was looked at
+    return lines
+
+
+def menu_items(window, menu):
+    """The items of a menu of the window's menu bar, whether it is open or not."""
+    bar = next(child for child in children(window) if child.get_role_name() == "menu bar")
+    entry = next(child for child in children(bar) if child.get_name() == menu)
+    items = children(children(entry)[0])
+    for item in items:
+        item.clear_cache()
+    return items
 
 
 def tree(root):

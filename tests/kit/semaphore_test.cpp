@@ -2,11 +2,13 @@
 
 #include <atomic>
 #include <gtest/gtest.h>
+#include <latch>
 #include <limits>
 #include <thread>
 #include <vector>
 
 #include "base/allocation.h"
+#include "support/sleeping_thread.h"
 
 namespace kirto::test {
 
@@ -78,22 +80,25 @@ TEST(Semaphore, AReleaseLetsAWaiterGo) {
 
 TEST(Semaphore, DeletingItWakesAllWaiters) {
     const sem_id id = create_sem(0, "doomed");
-    std::atomic<int> started = 0;
+    constexpr int kWaiters = 4;
+    std::latch started(kWaiters);
+    pid_t numbers[kWaiters] = {};
     std::atomic<int> refused = 0;
     std::vector<std::thread> waiters;
-    for (int i = 0; i < 4; ++i) {
+    for (pid_t& number : numbers) {
         waiters.emplace_back([&] {
-            ++started;
+            number = ThreadNumber();
+            started.count_down();
             if (acquire_sem(id) == B_BAD_SEM_ID) ++refused;
         });
     }
-    while (started < 4)
-        snooze(1000);
-    snooze(10000);  // most of them wait by now; the result is the same for those that do not
+    started.wait();
+    for (const pid_t number : numbers)
+        WaitUntilAsleep(number);
     EXPECT_EQ(delete_sem(id), B_OK);
     for (std::thread& waiter : waiters)
         waiter.join();
-    EXPECT_EQ(refused, 4);
+    EXPECT_EQ(refused, kWaiters);
 }
 
 TEST(Semaphore, OfCountOneExcludes) {

@@ -2,6 +2,7 @@
 #include <QSplitter>
 
 #include "support/environment.h"
+#include "support/port_watcher.h"
 #include "ui/dialogs/fade_window.h"
 #include "ui/shell/kirto_window_fixture.h"
 
@@ -192,6 +193,24 @@ TEST_F(KirtoWindowClosing, AFinishedSaveCarriesNewOut) {
     EXPECT_EQ(Posted(), "arst");
     EXPECT_EQ(window->windowTitle(), "Kirto - untitled");
     EXPECT_EQ(window->PendingCommand(), 0u);
+}
+
+TEST_F(KirtoWindowClosing, AFinishedSaveAsksForTheNewDocumentBeforeItShowsOne) {
+    Lines shown;
+    const auto watcher = std::make_shared<PortWatcher>([&](uint32 code) {
+        if (code == kResetDocument) shown.push_back(window->windowTitle().toStdString());
+    });
+    commands = BMessenger(std::make_shared<CommandPort>(document, watcher));
+    OpenModified();
+    KirtoWindowFixture::Do(kUpdateAll);
+    Do(kMenuNew, kSave);
+    document.SetModified(false);
+    document.changes_waiting = 0;
+
+    DoUnasked(kResume);
+
+    EXPECT_EQ(shown, Lines{"Kirto - some.gif"});
+    EXPECT_EQ(window->windowTitle(), "Kirto - untitled");
 }
 
 TEST_F(KirtoWindowClosing, AFinishedSaveCarriesOpenOut) {
