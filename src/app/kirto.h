@@ -117,6 +117,8 @@ class Kirto : public IEApplication, public AnimationDocument, public kirto::File
     void SayCutShort(const kirto::Animation& animation);
     void SayCanceled(int32 frames_before);
     void KeepStopped(bool reset, int32 frames_before);
+    // Of the current file; empty before a save or an open.
+    std::string FilePath() const;
     bool SaveGif();
     bool MayOverwrite();
     bool MayOpenDropped(const BMessage& message, const std::string& path);

@@ -225,9 +225,14 @@ void Kirto::SaveAgain() {
     if (!IsGif(format) || MayOverwrite()) Save(format);
 }
 
+std::string Kirto::FilePath() const {
+    const auto state = CurrentState();
+    return Join(state->file_directory, state->file_name);
+}
+
 bool Kirto::MayOverwrite() {
     const auto state = CurrentState();
-    const auto stamp = kirto::FileStamp::Of(Join(state->file_directory, state->file_name));
+    const auto stamp = kirto::FileStamp::Of(FilePath());
     if (!stamp || stamp == file_stamp_) return true;
     BAlert alert("",
                  "Another program has changed the file \"" + state->file_name +
@@ -245,7 +250,7 @@ bool Kirto::MayOverwrite() {
 // False after telling the user what went wrong. The next save then asks for a name again.
 bool Kirto::SaveGif() {
     const auto state = CurrentState();
-    const std::string path = Join(state->file_directory, state->file_name);
+    const std::string path = FilePath();
     switch (kirto::SaveAnimatedGif(*this, path)) {
         case kirto::SaveResult::kSaved:
             file_stamp_ = kirto::FileStamp::Of(path);

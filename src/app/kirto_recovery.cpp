@@ -42,9 +42,11 @@ void Kirto::Recover(BMessage* message) {
     if (!outcome.document) return kirto::Warn(FailureText(outcome.status));
     const kirto::RecoveryHead& head = outcome.document->head;
     ForgetOutputFormat();
-    // Nobody knows what has become of its file since, so a save asks.
-    file_stamp_.reset();
     Restore(std::move(outcome.document->animation), head.file_directory, head.file_name);
+    // A file that is older than the copy is the one that the document was opened or saved as; of
+    // any other one a save asks.
+    file_stamp_ = kirto::FileStamp::Of(FilePath());
+    if (file_stamp_ && file_stamp_->seconds >= head.written) file_stamp_.reset();
     PostThumbnailSize();
     recovery_->Finish(path);
 }

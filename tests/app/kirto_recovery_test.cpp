@@ -22,11 +22,11 @@ class KirtoRecovery : public KirtoFixture {
     ~KirtoRecovery() override { app_.reset(); }
 
     // A document of two frames, as an editor wrote it that was killed afterward.
-    void LeaveDocument(const std::string& name) {
+    void LeaveDocument(const std::string& name, const std::string& directory = "/pictures") {
         DocumentFixture left;
         AppendFrame(left.document, PictureOf(2, 1, {0xFF102030, 0xFF405060}), "one");
         AppendFrame(left.document, PictureOf(1, 1, {0xFF708090}), "two");
-        left.document.SetFile("/pictures", name);
+        left.document.SetFile(directory, name);
         left.document.SetModified(true);
         left_ = left.document.CurrentState();
         RecoveryStore store(Folder(), ++start_);
@@ -88,6 +88,34 @@ TEST_F(KirtoRecovery, RestoresTheDocumentAsModifiedUnderItsNameAndWithoutEdits) 
     EXPECT_EQ(state->file_name, "walk.gif");
     EXPECT_TRUE(state->modified);
     EXPECT_EQ(state->undo_steps, 0);
+}
+
+TEST_F(KirtoRecovery, SavesARecoveredDocumentToItsFileUnaskedWhereThatIsOlderThanTheCopy) {
+    Write("walk.gif", {'o', 'l', 'd'});
+    fs::last_write_time(File("walk.gif"), fs::file_time_type::clock::now() - std::chrono::hours(1));
+    LeaveDocument("walk.gif", folder_.Path());
+    StartWithRecovery();
+    Do(kOfferRecovery);
+    TakeLines();
+
+    Do(kSaveAgain);
+
+    EXPECT_EQ(TakeLines(), Lines{"panel save made"});
+    EXPECT_EQ(ReadBytes(File("walk.gif")).at(0), 'G');
+}
+
+TEST_F(KirtoRecovery, AsksBeforeARecoveredDocumentReplacesAFileThatIsNewerThanTheCopy) {
+    LeaveDocument("walk.gif", folder_.Path());
+    Write("walk.gif", {'n', 'e', 'w'});
+    fs::last_write_time(File("walk.gif"), fs::file_time_type::clock::now() + std::chrono::hours(1));
+    StartWithRecovery();
+    Do(kOfferRecovery);
+    TakeLines();
+
+    Do(kSaveAgain);
+
+    EXPECT_EQ(TakeLines().size(), 3u);
+    EXPECT_EQ(ReadBytes(File("walk.gif")).at(0), 'n');
 }
 
 TEST_F(KirtoRecovery, ARecoveredDocumentIsModifiedAlsoAfterItsEditsWereUndone) {

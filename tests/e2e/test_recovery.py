@@ -79,11 +79,13 @@ class Recovery(EditorTest):
         self.assertEqual(self.copies(), [])
 
     def test_recovers_when_the_x_server_was_killed(self):
-        self.delay(20)
         display, server = self.session.start_server()
         editor = self.session.start(self.programs / "kirto", self.picture(RED), self.picture(BLUE),
                                     environment={**self.session.environment, "DISPLAY": display})
-        self.wait_for_copy()
+        root = accessibility.application("kirto", pid=editor.pid)
+        wait_until(lambda: [node for _, node in accessibility.visible_nodes(root)
+                            if node.get_name() == "Status: 2 frame(s), modified"], "the two frames")
+        self.assertEqual(self.copies(), [])
         server.kill()
         server.wait()
         self.assertNotEqual(editor.wait_for_end(), 0)

@@ -1,6 +1,7 @@
 #include "main/editor/termination_signals.h"
 
 #include <cerrno>
+#include <cstdlib>
 #include <fcntl.h>
 #include <unistd.h>
 
@@ -10,6 +11,13 @@ namespace {
 
 // The handler writes the signal's number into this pipe, which the GUI thread watches.
 int pipe_ends[2] = {-1, -1};
+
+// What is to be done if the program ends now; null outside an object's life.
+const std::function<void()>* action_at_exit = nullptr;
+
+extern "C" void ActAtExit() {
+    if (action_at_exit) (*action_at_exit)();
+}
 
 extern "C" void TellGuiThread(int signal) {
     const int kept = errno;
@@ -22,6 +30,9 @@ extern "C" void TellGuiThread(int signal) {
 }  // namespace
 
 TerminationSignals::TerminationSignals(std::function<void()> action) : action_(std::move(action)) {
+    action_at_exit = &action_;
+    static const int kRegistered = std::atexit(ActAtExit);
+    static_cast<void>(kRegistered);
     if (pipe2(pipe_ends, O_CLOEXEC | O_NONBLOCK) != 0) return;
     notifier_ = std::make_unique<QSocketNotifier>(pipe_ends[0], QSocketNotifier::Read);
     QObject::connect(notifier_.get(), &QSocketNotifier::activated, [this] { Handle(); });
@@ -35,6 +46,7 @@ TerminationSignals::TerminationSignals(std::function<void()> action) : action_(s
 }
 
 TerminationSignals::~TerminationSignals() {
+    action_at_exit = nullptr;
     if (!notifier_) return;
     for (size_t i = 0; i < kSignals.size(); ++i)
         sigaction(kSignals[i], &previous_[i], nullptr);

@@ -10,7 +10,8 @@ namespace kirto {
 
 // Lets the program end by SIGTERM, SIGHUP or SIGINT as it would without this, but only after an
 // action on the GUI thread, which may do what no signal handler may. Signals that the program was
-// started to ignore stay ignored. At most one object at a time, on the GUI thread.
+// started to ignore stay ignored. The toolkit ends the program itself when the display is gone; the
+// action comes first there, too. At most one object at a time, on the GUI thread.
 class TerminationSignals {
   public:
     explicit TerminationSignals(std::function<void()> action);
