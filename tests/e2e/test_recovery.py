@@ -1,6 +1,7 @@
 import re
 import signal
 
+import walk_accessibility as accessibility
 from desktop_session import wait_until
 from editor_test import BLUE, EditorTest, GREEN, RED
 
