@@ -38,6 +38,8 @@ const Kirto::Command* Kirto::CommandFor(uint32 code) {
     };
     static constexpr auto quit_when_done = [](Kirto& app, BMessage*) {
         app.work.AllowAll();
+        // The window closes only where no work is running, and this is none.
+        app.work.End();
         app.PostToWindow(kirto::kQuitWhenDone);
     };
     static constexpr auto fade = [](Kirto& app, BMessage* message) { app.Fade(message); };
