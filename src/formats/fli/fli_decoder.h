@@ -1,0 +1,107 @@
+#pragma once
+
+#include <memory>
+
+#include "animation/frame.h"
+#include "base/byte_reader.h"
+#include "base/types.h"
+#include "base/work.h"
+#include "formats/fli/fli_input.h"
+#include "formats/fli/fli_pixel_writer.h"
+#include "kit/file.h"
+
+namespace kirto {
+
+// What a FLI or FLC file says of the whole animation.
+struct FliHeader {
+    int32 frame_count = 0;  // records that may be read
+    int32 width = 0;        // of all pictures
+    int32 height = 0;
+    double seconds = 0;  // that each frame is shown
+};
+
+// Decodes a FLI or FLC animation record by record: bytes in, frames out, each at full size. The
+// methods are in the order of the file; the layout is described in docs/formats/fli.md.
+class FliDecoder {
+  public:
+    enum class Record {
+        kFrame,
+        kLonger,   // the frame before is shown once more as long
+        kSkipped,  // nothing to show
+        kBroken
+    };
+    // Where in an animation a record's frame is to stand.
+    struct Place {
+        FramePointer previous;        // the frame before it; may be null
+        bool defines_global = false;  // it is the first one: its colors are the animation's
+    };
+
+    // file: at its start, outlives this. global: the animation's palette so far. The budget counts
+    // the frames' pixels; the work may be stopped within a record.
+    FliDecoder(BFile& file, const Palette& global, std::shared_ptr<PixelBudget> budget, Work& work);
+
+    // False when this is no such file.
+    bool ReadFliHeader(FliHeader* header);
+    // The record of this index: complete, with a palette of its own, where there is a frame.
+    Record ReadRecord(int32 index, const Place& place, Frame* frame);
+    // As it is after the records read so far.
+    const Palette& GlobalPalette() const { return global_; }
+    // Whether the last record broke off for lack of memory; the file may be intact.
+    bool OutOfMemory() const { return out_of_memory_; }
+
+  private:
+    // size: of the chunk in the file, its header included; may be anything.
+    struct Chunk {
+        int32 size = 0;
+        uint16 type = 0;
+        int64 DataSize() const;
+    };
+
+    bool ReadFliFrameHeader();
+    bool ReadFLCNewFrame();
+    bool ReadFliFrameData(int32 index);
+    bool StartFrame(int32 index);
+    bool ChargeFrame(int64 picture_bytes);
+    bool CopyPreviousFrame();
+    void TakeLocalPalette(const Palette& source);
+    bool ReadChunkHeader(Chunk* chunk);
+    bool ReadChunk();
+    bool SkipUnknownChunk(const Chunk& chunk);
+    bool FinishFrame();
+
+    // The chunk readers. size: bytes of the chunk's data, as its header says. False when the file
+    // holds fewer or a seek or an allocation fails.
+    bool ReadFliCOLORChunk(int64 size, bool full8bit);
+    bool TakePreviousPalette();
+    bool ReadFliLCChunk(int64 size);
+    bool ReadFliBRUNChunk(int64 size);
+    bool ReadFliCOPYChunk();
+    bool ReadFliDELTAChunk(int64 size);
+    bool ReadFliMINIChunk(int64 size);
+    bool ReadFliBLACKChunk();
+    // Whether there is more to draw of a chunk's data.
+    bool GoesOn(const ByteReader& reader) const;
+    FliPixelWriter Writer();
+    void StartPicture();
+
+    FliInput input_;
+    const std::shared_ptr<PixelBudget> budget_;
+    Work& work_;
+    Palette global_;
+    const Place* place_ = nullptr;  // of the current record
+    bool out_of_memory_ = false;
+    int64 bytes_left_ = 0;        // of the current record, as far as its chunks are read
+    int32 chunk_count_ = 0;       // of the current record
+    bool led_back_ = false;       // the current record does not lie after all others
+    bool skipped_block_ = false;  // the current record is of type 0x00A1
+    bool blank_ = false;          // the current picture is still to be filled with black
+    int32 width_ = 0;             // of all pictures
+    int32 height_ = 0;
+    // The frame being read; its own palette, in force where the frame is marked local; and its
+    // pixels.
+    Frame frame_;
+    std::shared_ptr<Palette> local_palette_;
+    std::shared_ptr<BBitmap> picture_;
+};
+
+}  // namespace kirto
