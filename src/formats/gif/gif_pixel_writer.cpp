@@ -3,7 +3,71 @@
 #include <algorithm>
 #include <cstring>
 
+#include "base/byte_order.h"
+
 namespace kirto {
+
+namespace {
+
+// Indices that are looked at together.
+constexpr size_t kGroup = 8;
+
+uint64 GroupAt(const uint8* indices) {
+    uint64 group = 0;
+    std::memcpy(&group, indices, sizeof(group));
+    return group;
+}
+
+uint64 GroupOf(uint8 index) {
+    return index * uint64{0x0101010101010101};
+}
+
+// Whether any of the group's indices is that one.
+bool Contains(uint64 group, uint8 index) {
+    // Where the index is, the difference is a zero byte, and only from a zero byte does taking 1
+    // set a highest bit that was clear; or behind one, where the 1 is lent on.
+    const uint64 difference = group ^ GroupOf(index);
+    return ((difference - GroupOf(0x01)) & ~difference & GroupOf(0x80)) != 0;
+}
+
+void PutPixel(uint32 pixel, uint8* target) {
+    std::memcpy(target, &pixel, sizeof(pixel));
+}
+
+void PutGroup(const uint8* indices, const uint32* pixels, uint8* target) {
+    const std::array<uint32, kGroup> group = {
+        pixels[indices[0]], pixels[indices[1]], pixels[indices[2]], pixels[indices[3]],
+        pixels[indices[4]], pixels[indices[5]], pixels[indices[6]], pixels[indices[7]]};
+    std::memcpy(target, group.data(), sizeof(group));
+}
+
+// Puts the pixels of so many indices into a row.
+void PutPixels(const uint8* indices, size_t count, const uint32* pixels, uint8* target) {
+    size_t i = 0;
+    for (; i + kGroup <= count; i += kGroup)
+        PutGroup(indices + i, pixels, target + i * 4);
+    for (; i < count; ++i)
+        PutPixel(pixels[indices[i]], target + i * 4);
+}
+
+// The same, but leaves the pixels of one index as they are.
+void PutPixelsExcept(uint8 skipped, const uint8* indices, size_t count, const uint32* pixels,
+                     uint8* target) {
+    size_t i = 0;
+    while (i < count) {
+        const bool whole = count - i >= kGroup;
+        const size_t step = whole ? kGroup : count - i;
+        if (whole && !Contains(GroupAt(indices + i), skipped)) {
+            PutGroup(indices + i, pixels, target + i * 4);
+        } else if (!whole || GroupAt(indices + i) != GroupOf(skipped)) {
+            for (size_t k = i; k < i + step; ++k)
+                if (indices[k] != skipped) PutPixel(pixels[indices[k]], target + k * 4);
+        }
+        i += step;
+    }
+}
+
+}  // namespace
 
 uint32 PixelOf(rgb_color color) {
     const uint8 bytes[4] = {color.blue, color.green, color.red, color.alpha};
@@ -46,12 +110,13 @@ void GifPixelWriter::WriteRun(const uint8* indices, int32 count) {
     const int32 x = area_.left + column_;
     const int32 y = area_.top + rows_.Row();
     if (x >= bitmap_.Width() || y >= bitmap_.Height()) return;
-    const int32 visible = std::min(count, bitmap_.Width() - x);
+    const size_t visible = static_cast<size_t>(std::min(count, bitmap_.Width() - x));
     uint8* target = bitmap_.Row(y) + static_cast<size_t>(x) * 4;
-    for (int32 i = 0; i < visible; ++i) {
-        if (indices[i] != colors_.skipped_index) {
-            std::memcpy(target + static_cast<size_t>(i) * 4, &colors_.pixels[indices[i]], 4);
-        }
+    if (colors_.skipped_index < 0) {
+        PutPixels(indices, visible, colors_.pixels.data(), target);
+    } else {
+        PutPixelsExcept(LowByte(colors_.skipped_index), indices, visible, colors_.pixels.data(),
+                        target);
     }
 }
 

@@ -299,6 +299,24 @@ TEST_P(GifLzwDecoderAndReference, AgreeOnStreamsThatFillTheTable) {
     Compare(GifBuilder::SubBlocks(GifBuilder::PackCodes(GetParam(), codes)));
 }
 
+TEST_P(GifLzwDecoderAndReference, AgreeOnLongStrings) {
+    // Mostly the next free code, which makes the strings longer and longer; now and then another.
+    for (const uint32 length : {10U, 100U, 900U}) {
+        const int32 clear = 1 << GetParam();
+        std::vector<int32> codes;
+        for (int round = 0; round < 2; ++round) {
+            codes.insert(codes.end(), {clear, static_cast<int32>(Random(4))});
+            for (int32 next = clear + 2; next < std::min(clear + 1000, 4096); ++next) {
+                const bool grow = Random(length) > 0;
+                const int32 known = clear + 2 + static_cast<int32>(Random(1000)) % (next - clear);
+                codes.push_back(grow ? next : std::min(known, next));
+            }
+        }
+        codes.push_back(clear + 1);
+        Compare(GifBuilder::SubBlocks(GifBuilder::PackCodes(GetParam(), codes)));
+    }
+}
+
 TEST_P(GifLzwDecoderAndReference, AgreeOnRandomBytes) {
     for (int round = 0; round < 100; ++round) {
         std::vector<uint8> data(Random(700));

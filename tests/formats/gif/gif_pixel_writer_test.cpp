@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <random>
 
 #include "support/test_support.h"
 
@@ -111,6 +112,61 @@ TEST(GifPixelWriter, LeavesPixelsOfTheSkippedIndex) {
     writer.Write(indices, 6);
 
     EXPECT_THAT(PixelsOf(*canvas), ElementsAre(1, 99, 3, 99, 99, 6));
+}
+
+// The picture after the indices were written into the area one by one.
+std::vector<uint32> PlainlyWritten(std::vector<uint32> pixels, int32 width, GifImageArea area,
+                                   bool interlaced, const GifPixelColors& colors,
+                                   const std::vector<uint8>& indices) {
+    const int32 height = static_cast<int32>(pixels.size()) / width;
+    GifRowOrder rows(area.height, interlaced);
+    int32 column = 0;
+    for (const uint8 index : indices) {
+        if (rows.Done()) break;
+        const int32 x = area.left + column;
+        const int32 y = area.top + rows.Row();
+        if (x < width && y < height && index != colors.skipped_index) {
+            pixels[static_cast<size_t>(y * width + x)] = colors.pixels[index];
+        }
+        column = (column + 1) % area.width;
+        if (column == 0) rows.Next();
+    }
+    return pixels;
+}
+
+TEST(GifPixelWriter, EqualsWritingOneByOneHoweverTheIndicesArrive) {
+    std::mt19937 engine(11);
+    const auto random = [&engine](uint32 least, uint32 most) {
+        return static_cast<int32>(least + engine() % (most - least + 1));
+    };
+    for (int32 round = 0; round < 3000; ++round) {
+        const int32 width = random(1, 60);
+        const int32 height = random(1, 12);
+        const GifImageArea area{random(0, 9), random(0, 3), random(1, 70), random(1, 14)};
+        const bool interlaced = random(0, 1) == 1;
+        GifPixelColors colors = IndexColors();
+        if (random(0, 2) > 0) colors.skipped_index = random(0, 1) == 0 ? 255 : 0;
+        // Runs, so that there are groups with the skipped index alone, without it, and mixed.
+        std::vector<uint8> indices;
+        const int32 count = area.width * random(0, static_cast<uint32>(area.height + 1));
+        const uint32 longest_run = static_cast<uint32>(random(1, 30));
+        while (indices.size() < static_cast<size_t>(count))
+            indices.insert(indices.end(), static_cast<size_t>(random(1, longest_run)),
+                           static_cast<uint8>(random(0, 3) - 2));
+        const std::vector<uint32> before(static_cast<size_t>(width * height), 0x12345678);
+
+        const auto canvas = PictureOf(width, height, before);
+        GifPixelWriter writer(*canvas, area, interlaced, colors);
+        for (size_t done = 0; done < indices.size();) {
+            const size_t step = std::min(indices.size() - done, static_cast<size_t>(random(0, 99)));
+            writer.Write(indices.data() + done, step);
+            done += step;
+        }
+
+        ASSERT_EQ(PixelsOf(*canvas),
+                  PlainlyWritten(before, width, area, interlaced, colors, indices))
+            << "round " << round;
+    }
 }
 
 TEST(PixelOf, LiesInMemoryAsBlueGreenRedAlpha) {
