@@ -7,17 +7,7 @@ namespace kirto {
 CommonestColors::CommonestColors(size_t size)
     : size_(size), candidates_(AllocateArray<Candidate>(2 * size)) {}
 
-bool CommonestColors::ComesBefore(const Candidate& a, const Candidate& b) {
-    if (a.count != b.count) return a.count > b.count;
-    const uint32 green_and_blue_a = a.key & 0xFFFF;
-    const uint32 green_and_blue_b = b.key & 0xFFFF;
-    if (green_and_blue_a != green_and_blue_b) return green_and_blue_a < green_and_blue_b;
-    return a.place < b.place;
-}
-
-void CommonestColors::Add(const ColorValues::Item& color) {
-    const Candidate candidate{color.key, color.value, added_++};
-    if (thinned_ && !ComesBefore(candidate, last_)) return;
+void CommonestColors::Keep(const Candidate& candidate) {
     candidates_[count_++] = candidate;
     if (count_ == 2 * size_) Thin();
 }

@@ -4,6 +4,7 @@
 #include <new>
 
 #include "base/allocation.h"
+#include "base/byte_order.h"
 #include "base/debug_line.h"
 #include "color/color_values.h"
 #include "color/commonest_colors.h"
@@ -35,15 +36,25 @@ std::optional<std::vector<rgb_color>> TryMakeColors(size_t count) {
 }
 
 // Adds so many pixels to the values of their colors. False when memory is short.
-bool CountPixels(const uint8* pixel, size_t count, bool big_endian, kirto::ColorValues& counts) {
-    kirto::ColorValues::Item* item = nullptr;
-    for (size_t left = count; left > 0; --left, pixel += 4) {
-        const uint32 key = big_endian ? ColorKey(pixel[1], pixel[2], pixel[3])
-                                      : ColorKey(pixel[2], pixel[1], pixel[0]);
+template <bool kBigEndian>
+bool CountPixels(const uint8* pixels, size_t count, kirto::ColorValues& counts) {
+    constexpr size_t kAhead = 16;  // pixels that the processor may fetch slots for
+    const auto key_at = [pixels](size_t i) {
+        const uint8* pixel = pixels + i * 4;
+        return kBigEndian ? ColorKey(pixel[1], pixel[2], pixel[3])
+                          : kirto::ReadLittle32(pixel) & 0xFFFFFF;
+    };
+    for (size_t i = 0; i < count;) {
+        const uint32 key = key_at(i);
+        if (i + kAhead < count) counts.Prefetch(key_at(i + kAhead));
         // Neighbors are often equal: only the first of a run is looked up.
-        if (!item || item->key != key) item = counts.FindOrAdd(key);
+        size_t end = i + 1;
+        while (end < count && key_at(end) == key)
+            ++end;
+        kirto::ColorValues::Item* item = counts.FindOrAdd(key);
         if (!item) return false;
-        ++item->value;
+        item->value += static_cast<uint32>(end - i);
+        i = end;
     }
     return true;
 }
@@ -51,11 +62,12 @@ bool CountPixels(const uint8* pixel, size_t count, bool big_endian, kirto::Color
 // Adds every pixel of a 32-bit picture. False when memory is short.
 bool CountPicture(const BBitmap& picture, kirto::ColorValues& counts, const kirto::Work* work) {
     constexpr size_t kPixelsAtOnce = 1 << 16;
-    const bool big_endian = kirto::IsBigEndian(picture.ColorSpace());
+    const auto count_pixels =
+        kirto::IsBigEndian(picture.ColorSpace()) ? CountPixels<true> : CountPixels<false>;
     const uint8* pixel = picture.Bits();
     for (size_t left = picture.BitsLength() / 4; left > 0 && !kirto::IsStopped(work);) {
         const size_t count = std::min(left, kPixelsAtOnce);
-        if (!CountPixels(pixel, count, big_endian, counts)) return false;
+        if (!count_pixels(pixel, count, counts)) return false;
         pixel += count * 4;
         left -= count;
     }

@@ -1,6 +1,7 @@
 #include "color/color_values.h"
 
 #include <gtest/gtest.h>
+#include <random>
 #include <vector>
 
 namespace kirto::test {
@@ -61,6 +62,27 @@ TEST(ColorValues, KeepTheOrderInWhichColorsCameAtEverySize) {
         ASSERT_TRUE(AddAll(values, keys));
 
         ExpectAll(values, keys);
+    }
+}
+
+TEST(ColorValues, CountLikeATableOfAllColors) {
+    std::mt19937 random(31);
+    // Few colors, many, and so many that each has a slot of its own.
+    for (const uint32 mask : {0x030303U, 0x3F3F3FU, 0xFFFFFFU}) {
+        std::vector<uint32> counts(size_t{1} << 24);
+        std::vector<uint32> order;
+        ColorValues values;
+        for (int i = 0; i < 2500000; ++i) {
+            const uint32 key = static_cast<uint32>(random()) & mask;
+            if (counts[key]++ == 0) order.push_back(key);
+            values.Prefetch(key);
+            ++values.FindOrAdd(key)->value;
+        }
+        ASSERT_EQ(values.Items().size(), order.size());
+        for (size_t i = 0; i < order.size(); ++i) {
+            const ColorValues::Item& item = values.Items()[i];
+            if (item.key != order[i] || item.value != counts[order[i]]) FAIL() << "color " << i;
+        }
     }
 }
 

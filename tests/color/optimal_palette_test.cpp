@@ -171,6 +171,25 @@ TEST(OptimalPalette, IsTheSameInAllFour32BitSpaces) {
     }
 }
 
+TEST(OptimalPalette, EqualsSortingInAllFour32BitSpacesWhateverTheAlpha) {
+    std::mt19937 random(23);
+    for (const color_space space : {B_RGB32, B_RGBA32, B_RGB32_BIG, B_RGBA32_BIG}) {
+        std::vector<uint32> argb;
+        // Runs of one color in which only the alpha differs.
+        while (argb.size() < 60000) {
+            const uint32 color = static_cast<uint32>(random()) & 0x001F3F1FU;
+            for (size_t left = random() % 4; left > 0; --left)
+                argb.push_back(color | static_cast<uint32>(random()) << 24);
+        }
+        Palette palette;
+
+        const auto colors = palette.MakeNearestColorPalette(Row(argb, space).get());
+
+        ASSERT_TRUE(colors);
+        EXPECT_EQ(*colors, ReferenceOptimal(*Row(argb))) << "space " << space;
+    }
+}
+
 TEST(OptimalPalette, EqualsSortingOnRandomPictures) {
     std::mt19937 random(21);
     for (const uint32 mask : {0x00FFFFFFU, 0x00C0C0C0U, 0x00FF0000U, 0x00FF0101U, 0x00070707U}) {

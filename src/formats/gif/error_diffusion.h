@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 
 #include "base/allocation.h"
@@ -27,11 +28,33 @@ class ErrorDiffusion {
     void ClearRows();
 
     // The color less the carried error, within 0..255.
-    Components Correct(const Components& color) const;
+    Components Correct(const Components& color) const {
+        Components corrected{};
+        for (size_t i = 0; i < 3; ++i)
+            corrected[i] = std::clamp(color[i] - carried_[i], 0, 255);
+        return corrected;
+    }
     // Spreads the error of pixel x: its palette color against its corrected color.
-    void Diffuse(int32 x, const Components& chosen, const Components& corrected);
+    void Diffuse(int32 x, const Components& chosen, const Components& corrected) {
+        const size_t column = static_cast<size_t>(x) + 1;
+        for (size_t i = 0; i < 3; ++i) {
+            const uint32 error = static_cast<uint32>(chosen[i] - corrected[i]);
+            uint32* row = &rows_[i][column];
+            const int32 carried = static_cast<int32>(error * kSevenSixteenths + row[1]);
+            carried_[i] = static_cast<int16>(carried >> kFractionBits);
+            row[-1] += error * kThreeSixteenths;
+            row[0] += error * kFiveSixteenths;
+            row[1] = error * kOneSixteenth;
+        }
+    }
 
   private:
+    static constexpr int32 kFractionBits = 15;
+    static constexpr uint32 kSevenSixteenths = 14336;
+    static constexpr uint32 kThreeSixteenths = 6144;
+    static constexpr uint32 kFiveSixteenths = 10240;
+    static constexpr uint32 kOneSixteenth = 2048;
+
     std::array<int16, 3> carried_{};
     const size_t entries_;  // of each row
     // Per component, the errors for the next row, fixed point; entry 0 is column -1. The two

@@ -4,15 +4,16 @@
 #include <vector>
 
 #include "base/types.h"
-#include "color/color_values.h"
+#include "color/nearest_color.h"
 #include "color/palette.h"
 #include "formats/gif/error_diffusion.h"
+#include "formats/gif/index_memo.h"
 #include "kit/bitmap.h"
 
 namespace kirto {
 
-// Reduces the rows of 32-bit pictures to palette indices, with a cache of the colors already looked
-// up in a picture and, on request, error diffusion.
+// Reduces the rows of 32-bit pictures to palette indices, with a memo of colors already looked up
+// in a picture and, on request, error diffusion.
 class PixelMapper {
   public:
     // transparent_index: what pixels with alpha below 255 become. dither: spread errors, in
@@ -29,15 +30,20 @@ class PixelMapper {
     void MapRow(const BBitmap* bitmap, int32 y, int32 width, std::vector<uint8>* indices);
 
   private:
-    uint8 MapPixel(rgb_color color, int32 x);
-    uint8 CachedIndex(uint8 red, uint8 green, uint8 blue);
+    // The row's pixels that lie in the bitmap.
+    template <bool kBigEndian>
+    void MapPixels(const uint8* row, int32 count, uint8* indices);
+    template <bool kBigEndian>
+    void DiffusePixels(const uint8* row, int32 width, int32 count, uint8* indices);
+    uint8 MapColor(rgb_color color);
 
     const uint8 transparent_index_;
     const bool dither_;
     const Palette* palette_ = nullptr;
     bool diffusing_ = false;
     bool unconnected_rows_ = false;
-    ColorValues cache_;  // of the current picture: index plus 1; 0 is not looked up yet
+    NearestColor nearest_;  // in the current picture's palette
+    IndexMemo memo_;        // of the current picture
     ErrorDiffusion diffusion_;
 };
 

@@ -175,7 +175,7 @@ TEST(PixelMapper, WithoutMemoryForTheCacheItMapsTheSame) {
     const auto picture = PictureOf(3, 1, {0xFF123456, 0xFFABCDEF, 0xFF123456});
     PixelMapper plenty(kTransparent, false, 3);
     const Indices expected = Picture(plenty, palette, *picture);
-    // The cache's two blocks and the three rows, and none for the colours themselves.
+    // The memo's two blocks and the three rows, and none for the colours themselves.
     for (int32 call = 1; call <= 7; ++call) {
         const AllocationFault fault(call);
         PixelMapper mapper(kTransparent, false, 3);
