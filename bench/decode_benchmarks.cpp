@@ -44,8 +44,7 @@ std::vector<CompressedImage> Compress(BenchAnimation& animation) {
                                BFile::OnMemory()};
         result.colors.skipped_index = animation.TransparentIndex();
         GifLzwEncoder encoder(*result.data, result.min_code_size);
-        for (const uint8 index : image.indices)
-            encoder.Add(index);
+        encoder.Add(image.indices);
         encoder.Finish();
         compressed.push_back(std::move(result));
     }

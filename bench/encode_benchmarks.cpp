@@ -16,8 +16,9 @@ int64 Encode(BenchAnimation& animation) {
     const auto file = BFile::OnMemory();
     for (const IndexedImage& image : animation.Images()) {
         GifLzwEncoder encoder(*file, std::max(image.palette->bits, 2));
-        for (const uint8 index : image.indices)
-            encoder.Add(index);
+        const size_t width = static_cast<size_t>(image.width);
+        for (size_t row = 0; row < image.indices.size(); row += width)
+            encoder.Add({image.indices.data() + row, width});
         encoder.Finish();
     }
     return animation.ImagePixels();

@@ -74,8 +74,7 @@ void GifFrameEncoder::Encode(const Frame& frame, BFile& file, Work& work, int64 
         work.Report(rows_done++, rows);
         if (work.StopRequested()) return;
         mapper_.MapRow(frame.bitmap.get(), order.Row(), frame.width, &indices);
-        for (const uint8 index : indices)
-            encoder.Add(index);
+        encoder.Add(indices);
     }
     encoder.Finish();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <span>
 
 #include "base/types.h"
 #include "kit/file.h"
@@ -9,52 +10,70 @@ namespace kirto {
 
 // Compresses the palette indices of one image into GIF image data: the code size byte, data
 // sub-blocks of at most 255 bytes and the terminator. The string table is cleared when the codes
-// would pass 12 bits.
+// would pass 12 bits. Write results are not checked here: the file remembers its first error.
 class GifLzwEncoder {
   public:
-    // min_code_size: 2 to 8; every index is below 2^min_code_size. Writes the code size byte and
-    // the first clear code.
+    // min_code_size: 2 to 8; every index is below 2^min_code_size. The file outlives this.
     GifLzwEncoder(BFile& file, int32 min_code_size);
 
-    void Add(uint8 index);
+    // Takes the image's next indices, best a row at once.
+    void Add(std::span<const uint8> indices);
     // Writes what is pending and the terminator; nothing may be added after it.
     void Finish();
 
   private:
-    static constexpr int32 kTableSize = 9973;  // prime
-    static constexpr int32 kProbeStep = 2039;
-    static constexpr uint16 kEmptySlot = 65535;
-    static constexpr int32 kMaxCodeSize = 12;
-    static constexpr int32 kNoPrefix = -1;
+    static constexpr uint32 kMaxCodeSize = 12;
+    static constexpr uint32 kNoPrefix = ~uint32{0};
+    static constexpr uint32 kHashBits = 14;
+    static constexpr size_t kBlockSize = 255;
+    // Sub-blocks that are written at once.
+    static constexpr size_t kBlocks = 64;
 
-    void ResetHashtable();
-    void AddToHashtable(int32 prefix, uint8 suffix);
-    int32 CheckHashtable(int32 prefix, uint8 suffix) const;
-    void OutputCode(int32 code, int32 size);
-    void FlushCodes(int32 size);
-    void AppendByte();
-    void WriteBlock();
-    static int32 Slot(int32 prefix, uint8 suffix);
-    static int32 NextSlot(int32 slot) { return (slot + kProbeStep) % kTableSize; }
+    static constexpr uint32 kRunStep = 32;
+    // Strings shorter than this on average, once there are a few, are short.
+    static constexpr size_t kLongStrings = 8;
+    static constexpr size_t kFewStrings = 64;
+
+    // The strings in the table that consist of one index alone.
+    struct Run {
+        uint16 longest;  // length; the table has all shorter ones
+        uint16 code;     // of the longest
+        // Of those whose lengths are multiples of kRunStep; what is beyond the longest is old.
+        std::array<uint16, (1U << kMaxCodeSize) / kRunStep> codes;
+    };
+
+    const uint8* StartString(const uint8* next, const uint8* end);
+    const uint8* ExtendRun(const uint8* next, const uint8* end);
+    void AddRun(uint32 code);
+    static uint32 Slot(uint32 string);
+    const uint8* ExtendPrefix(const uint8* next, const uint8* end, size_t* free_slot);
+    void ResetTable();
+    void OutputCode(uint32 code, uint32 size);
+    void FlushCodes(uint32 size);
+    void WriteBlocks();
 
     BFile& file_;
-    const int32 min_code_size_;
-    const int32 clear_code_;
-    const int32 end_code_;
-    int32 next_free_;
-    int32 code_size_;
-    int32 largest_code_;
-    int32 prefix_ = kNoPrefix;
+    const uint32 min_code_size_;
+    const uint32 clear_code_;
+    uint32 next_free_;
+    uint32 code_size_;
+    // The longest string in the table that the indices since the last written code are.
+    uint32 prefix_ = kNoPrefix;
+    uint32 run_length_ = 0;  // of the prefix while it is a run and may go on; else 0
+    uint8 run_index_ = 0;
+    bool follows_runs_ = true;  // false until the table is cleared: runs_ lacks new strings
+    size_t taken_ = 0;          // indices since the table was cleared
 
-    // A string is its prefix's code and a suffix byte; slots hold codes, strings are kept by code.
-    std::array<uint16, kTableSize> slots_;
-    std::array<uint16, kTableSize> prefixes_;
-    std::array<uint8, kTableSize> suffixes_;
+    // Hash table of the strings. A slot is a string's prefix code (12 bits), its last index (8) and
+    // its own code (12). No string begins with the clear code, so that marks an empty slot.
+    const uint32 empty_slot_;
+    std::array<uint32, size_t{1} << kHashBits> slots_;
+    std::array<Run, 256> runs_;
 
-    uint32 bit_buffer_ = 0;
-    int32 bit_count_ = 0;
-    std::array<uint8, 256> block_;  // size byte and data
-    int32 pending_ = 0;             // data bytes in the block
+    uint64 bit_buffer_ = 0;  // bits that are not in data_ yet
+    uint32 bit_count_ = 0;
+    std::array<uint8, kBlocks * kBlockSize + 8> data_;  // of sub-blocks, joined
+    size_t data_size_ = 0;
 };
 
 }  // namespace kirto

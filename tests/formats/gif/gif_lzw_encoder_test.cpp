@@ -1,9 +1,11 @@
 #include "formats/gif/gif_lzw_encoder.h"
 
+#include <algorithm>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <random>
 #include <set>
+#include <span>
 
 #include "formats/gif/gif_parts.h"
 #include "formats/gif/reference_gif_encoder.h"
@@ -14,11 +16,13 @@ namespace {
 
 using Bytes = std::vector<uint8>;
 
-Bytes Encode(int32 min_code_size, const Bytes& indices) {
+// The image data, when the encoder is given so many indices at once.
+Bytes Encode(int32 min_code_size, const Bytes& indices, size_t at_once = 100) {
     const auto file = BFile::OnMemory();
     GifLzwEncoder encoder(*file, min_code_size);
-    for (const uint8 index : indices)
-        encoder.Add(index);
+    const std::span<const uint8> all(indices);
+    for (size_t done = 0; done < all.size(); done += at_once)
+        encoder.Add(all.subspan(done, std::min(at_once, all.size() - done)));
     encoder.Finish();
     return file->Memory();
 }
@@ -120,21 +124,45 @@ TEST(GifLzwEncoder, CutsTheDataIntoBlocksOf255BytesAtEveryLength) {
 
 TEST(GifLzwEncoder, EqualsThePlainEncoderOnRunsAndNoise) {
     std::mt19937 engine(7);
-    for (int32 round = 0; round < 28; ++round) {
+    for (int32 round = 0; round < 70; ++round) {
         const int32 size = 2 + round % 7;
-        const size_t longest_run = 1 + engine() % 40;
+        const size_t longest_run = 1 + engine() % (round % 2 == 0 ? 40 : 900);
         Bytes indices;
         while (indices.size() < 12000)
             indices.insert(indices.end(), 1 + engine() % longest_run,
                            static_cast<uint8>(engine() % (1U << size)));
-        ASSERT_EQ(Encode(size, indices), ReferenceImageData(indices, size)) << "round " << round;
+        const size_t at_once = 1 + engine() % 700;
+        ASSERT_EQ(Encode(size, indices, at_once), ReferenceImageData(indices, size))
+            << "round " << round << ", " << at_once << " at once";
     }
 }
 
 TEST(GifLzwEncoder, EqualsThePlainEncoderOnOneLongRun) {
     // Strings of more than 255 equal pixels, and of all lengths up to thousands.
     const Bytes indices(300000, 5);
-    EXPECT_EQ(Encode(3, indices), ReferenceImageData(indices, 3));
+    const Bytes reference = ReferenceImageData(indices, 3);
+    for (const size_t at_once : {size_t{7}, size_t{640}, indices.size()})
+        EXPECT_EQ(Encode(3, indices, at_once), reference) << at_once << " at once";
+}
+
+TEST(GifLzwEncoder, EqualsThePlainEncoderOnGradientsAndShapes) {
+    std::mt19937 engine(8);
+    for (int32 size = 2; size <= 8; ++size) {
+        for (const int32 width : {3, 61, 400}) {
+            const int32 noise = 1 + static_cast<int32>(engine() % 4);
+            Bytes indices;
+            for (int32 i = 0; i < width * 150; ++i) {
+                const int32 x = i % width;
+                const int32 y = i / width;
+                const bool shape = y / 9 % 2 == 0 && (x * 7 + y / 9) % 90 > 20;
+                const int32 shade = (x + 2 * y) / 5 + static_cast<int32>(engine()) % noise;
+                indices.push_back(static_cast<uint8>((shape ? 1 : shade) & ((1 << size) - 1)));
+            }
+            ASSERT_EQ(Encode(size, indices, static_cast<size_t>(width)),
+                      ReferenceImageData(indices, size))
+                << size << " bits, width " << width;
+        }
+    }
 }
 
 }  // namespace
