@@ -156,6 +156,10 @@ class DesktopSession:
             raise AssertionError(f"{command} failed: {done.stdout}{done.stderr}")
         return done.stdout
 
+    def processes(self):
+        """The ids of what was started and still runs, and of what programs that have ended left."""
+        return set(_children_of(os.getpid()))
+
     # Windows
 
     def windows(self, title):

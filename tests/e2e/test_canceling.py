@@ -18,6 +18,8 @@ LATEST = 0.8
 QUESTION = "Do you want to save your changes?"
 PICTURES = tuple(f"{letter}.png" for letter in "abcdefghijkl")
 DRAWING_FRAMES = 30
+# What the status line says once there is a new frame.
+FIRST_DONE = r"(?:loading|generating) (?:frame|tile) (?:[2-9]|\d\d+)\b.*"
 
 
 class Canceling(EditorTest):
@@ -56,7 +58,7 @@ class Canceling(EditorTest):
         self.session.key("ctrl+i")
         self.editor.name_file("Insert Frames", *PICTURES)
 
-    def write_pictures(self, side=1500):
+    def write_pictures(self, side=1000):
         first = self.folder / PICTURES[0]
         long_work.write_noise(first, side)
         long_work.link(first, PICTURES[1:])
@@ -82,7 +84,7 @@ class Canceling(EditorTest):
         self.editor.click("push button", "OK", dialog)
 
     def start_editor_to_fade(self):
-        self.write_pictures(side=1000)
+        self.write_pictures(side=700)
         editor = self.start_editor(*PICTURES[:2])
         editor.wait_for_status(2, modified=True)
         self.frames_before = 2
@@ -170,6 +172,7 @@ class Canceling(EditorTest):
     def close_and_end(self, asks):
         """Closes the window in the middle of the work. The editor ends, and leaves nothing."""
         self.wait_for_random_moment()
+        processes = self.session.processes()
         begin = time.monotonic()
         self.session.key("alt+F4")
         if asks:
@@ -180,6 +183,7 @@ class Canceling(EditorTest):
         self.assertEqual(self.editor.wait_for_end(), 0)
         self.longest = max(self.longest, time.monotonic() - begin)
         self.assertEqual(self.session.windows("Kirto"), [])
+        self.assertEqual(self.session.processes(), processes - {self.editor.process.pid})
 
     # What is left of it
 
@@ -188,6 +192,8 @@ class Canceling(EditorTest):
         kept = []
         for number in range(ROUNDS):
             start()
+            if number == 0:
+                self.wait_for_status(FIRST_DONE)
             self.cancel()
             kept.append(self.wait_for_kept())
             self.editor.wait_for_title("Kirto - untitled")
@@ -202,7 +208,7 @@ class Canceling(EditorTest):
                 self.session.key("ctrl+z")
                 self.wait_for_frames(0, modified_before)
         print(f"kept: {kept}")
-        self.assertGreater(max(kept), 0)
+        self.assertGreater(kept[0], 0)
         if kept[-1] > 0:
             self.check_frames(self.frames_before + kept[-1])
 
@@ -279,14 +285,14 @@ class Canceling(EditorTest):
         self.write_pictures()
         self.start_editor()
         self.start_insert()
-        self.wait_for_status(r"loading frame 2 of \d+\.\.\.")
+        self.wait_for_status(FIRST_DONE)
         self.close_and_end(asks=True)
 
     def test_closing_ends_an_insertion_of_tiles_and_asks(self):
         self.write_sheet()
         self.start_editor()
         self.start_insert_tiled()
-        self.wait_for_status(r"loading tile [2-9] of \d+\.\.\.")
+        self.wait_for_status(FIRST_DONE)
         self.close_and_end(asks=True)
 
     def test_closing_ends_a_fade_and_asks(self):

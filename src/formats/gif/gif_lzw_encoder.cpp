@@ -105,8 +105,7 @@ void GifLzwEncoder::AddRun(uint32 code) {
 
 // Makes the prefix longer as long as the table has it. Returns where that ends, with the free slot
 // for the string that the table has not.
-inline const uint8* GifLzwEncoder::ExtendPrefix(const uint8* next, const uint8* end,
-                                                size_t* free_slot) {
+const uint8* GifLzwEncoder::ExtendPrefix(const uint8* next, const uint8* end, size_t* free_slot) {
     uint32 prefix = prefix_;
     for (; next != end; ++next) {
         const uint32 string = prefix << 8 | *next;
@@ -133,7 +132,7 @@ inline uint32 GifLzwEncoder::Slot(uint32 string) {
 void GifLzwEncoder::ResetTable() {
     slots_.fill(empty_slot_);
     follows_runs_ = true;
-    for (uint16 index = 0; index < clear_code_; ++index) {
+    for (uint16 index = 0; index < runs_.size(); ++index) {
         runs_[index].longest = 1;
         runs_[index].code = index;
     }
@@ -142,7 +141,7 @@ void GifLzwEncoder::ResetTable() {
 }
 
 // Packs codes least significant bit first.
-inline void GifLzwEncoder::OutputCode(uint32 code, uint32 size) {
+void GifLzwEncoder::OutputCode(uint32 code, uint32 size) {
     bit_buffer_ |= uint64{code} << bit_count_;
     bit_count_ += size;
     if (bit_count_ < 32) return;

@@ -31,7 +31,7 @@ class GifLzwEncoder {
 
     static constexpr uint32 kRunStep = 32;
     // Strings shorter than this on average, once there are a few, are short.
-    static constexpr size_t kLongStrings = 8;
+    static constexpr size_t kLongStrings = 4;
     static constexpr size_t kFewStrings = 64;
 
     // The strings in the table that consist of one index alone.
