@@ -19,8 +19,8 @@ class FilePanel {
     // The save panel's chosen output: a translator's id, or 0 for animated GIF. A cancelled choice
     // does not count.
     virtual uint32 OutputFormat() const { return 0; }
-    // Resets the output to animated GIF. Thread-safe.
-    virtual void ForgetOutputFormat() {}
+    // Makes that the output, whatever was chosen. Thread-safe.
+    virtual void UseOutputFormat(uint32) {}
     // The insert-tiled panel's fields as they stand, and its order.
     virtual std::string RowsText() const { return {}; }
     virtual std::string ColumnsText() const { return {}; }

@@ -219,15 +219,16 @@ bool Kirto::Cancel(BMessage* message) {
 }
 
 void Kirto::StartAnew() {
-    ForgetOutputFormat();
+    UseOutputFormat(0);
     StartHistory();
     Reset();
 }
 
-void Kirto::ForgetOutputFormat() {
+void Kirto::UseOutputFormat(uint32 format) {
+    output_format_ = format;
     const std::lock_guard lock(panels_mutex_);
     const auto panel = panels_.find(kirto::FilePanelKind::kSave);
-    if (panel != panels_.end()) panel->second->ForgetOutputFormat();
+    if (panel != panels_.end()) panel->second->UseOutputFormat(format);
 }
 
 void Kirto::SelectFrame(BMessage* message) {

@@ -107,7 +107,8 @@ class Kirto : public IEApplication, public AnimationDocument, public kirto::File
     BRect MainWindowFrame();
     // Empties the document; the next one is saved as animated GIF until told otherwise.
     void StartAnew();
-    void ForgetOutputFormat();
+    // Makes that the document's format, and the save panel's choice.
+    void UseOutputFormat(uint32 format);
     bool LoadAwaitedPalette(const std::string& path);
     bool EditAwaitedPalette(const std::function<void(Palette&)>& edit);
     void SelectFrame(BMessage* message);
@@ -140,8 +141,9 @@ class Kirto : public IEApplication, public AnimationDocument, public kirto::File
     // The current file as it was when it was opened or saved.
     std::optional<kirto::FileStamp> file_stamp_;
     std::optional<BMessage> waiting_drop_;  // kOpenFile, to be carried out after a save
-    bool save_stopped_ = false;             // the last save was stopped before it was done
-    std::string last_word_;                 // for the status line, once the command is done
+    uint32 output_format_ = 0;   // of the document's file: a translator, or 0 for animated GIF
+    bool save_stopped_ = false;  // the last save was stopped before it was done
+    std::string last_word_;      // for the status line, once the command is done
     // The preview files that were written, as they were then, by path.
     std::map<std::string, std::optional<kirto::FileStamp>> previews_;
 };

@@ -200,7 +200,13 @@ void Kirto::Save(BMessage* message) {
     SetFile(directory.path, name, std::nullopt);
     Save(static_cast<uint32>(translator));
     // A file that was not written is not the document's.
-    if (save_stopped_) SetFile(before->file_directory, before->file_name, stamp_before);
+    if (save_stopped_) {
+        SetFile(before->file_directory, before->file_name, stamp_before);
+        UseOutputFormat(output_format_);
+    } else {
+        output_format_ =
+            IsGif(static_cast<uint32>(translator)) ? 0 : static_cast<uint32>(translator);
+    }
 }
 
 void Kirto::Save(uint32 format) {

@@ -41,7 +41,7 @@ void Kirto::Recover(BMessage* message) {
     kirto::RecoveryStore::Outcome outcome = recovery_->Read(path, pixel_budget);
     if (!outcome.document) return kirto::Warn(FailureText(outcome.status));
     const kirto::RecoveryHead& head = outcome.document->head;
-    ForgetOutputFormat();
+    UseOutputFormat(0);
     Restore(std::move(outcome.document->animation), head.file_directory, head.file_name);
     // A file that is older than the copy is the one that the document was opened or saved as; of
     // any other one a save asks.

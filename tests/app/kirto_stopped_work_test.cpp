@@ -244,6 +244,23 @@ TEST_F(KirtoStoppedWork, ASaveToTheCurrentFileThatIsStoppedCanBeMadeAgainUnasked
     EXPECT_EQ(TakeLines(), Lines{});
 }
 
+TEST_F(KirtoStoppedWork, TheFormatOfASaveThatIsStoppedIsNotTheDocuments) {
+    Start();
+    Append({"one", "two"});
+    Do(SaveTo(folder_.Path(), "out.gif"));
+    // What the panel's menu shows when it is closed.
+    desktop_.fields.output_format = FakeRoster::kRaw;
+    app_->GetSaveFilePanel();
+    app_->RequestStop();
+    Do(SaveTo(folder_.Path(), "movie.raw", FakeRoster::kRaw));
+    app_->work.AllowAll();
+
+    EXPECT_EQ(desktop_.fields.output_format, 0u);
+    EXPECT_EQ(app_->CurrentState()->file_name, "out.gif");
+    Do(kSaveAgain);
+    EXPECT_EQ(FolderContent(), Lines{"out.gif"});
+}
+
 TEST_F(KirtoStoppedWork, ThePreviewIsNotShown) {
     Start();
     Append({"one"});

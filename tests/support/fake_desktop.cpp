@@ -17,7 +17,7 @@ class FakePanel : public FilePanel {
     ~FakePanel() override { desktop_.AddLine(Format("panel %s deleted", KindName(kind_))); }
 
     uint32 OutputFormat() const override { return desktop_.fields.output_format; }
-    void ForgetOutputFormat() override { desktop_.fields.output_format = 0; }
+    void UseOutputFormat(uint32 format) override { desktop_.fields.output_format = format; }
     std::string RowsText() const override { return desktop_.fields.rows; }
     std::string ColumnsText() const override { return desktop_.fields.columns; }
     bool ColumnByColumn() const override { return desktop_.fields.column_by_column; }

@@ -55,14 +55,14 @@ void SaveFilePanel::Prepare(kirto::FileDialog& dialog) {
 }
 
 void SaveFilePanel::Show() {
-    // The format may have been forgotten on another thread.
+    // The format may have been changed on another thread.
     if (Dialog() && !Dialog()->isVisible()) MarkOutputFormat();
     FileDialogPanel::Show();
 }
 
-void SaveFilePanel::ForgetOutputFormat() {
-    saved_format_ = 0;
-    output_format_ = 0;
+void SaveFilePanel::UseOutputFormat(uint32 format) {
+    saved_format_ = format;
+    output_format_ = format;
 }
 
 void SaveFilePanel::Closed(bool chosen) {

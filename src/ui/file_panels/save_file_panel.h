@@ -28,7 +28,7 @@ class SaveFilePanel : public kirto::FileDialogPanel, public BHandler {
 
     // The last choice in the format menu, unless the panel was cancelled after it.
     uint32 OutputFormat() const override { return output_format_; }
-    void ForgetOutputFormat() override;
+    void UseOutputFormat(uint32 format) override;
     void Show() override;
 
     void MessageReceived(BMessage* message) override;

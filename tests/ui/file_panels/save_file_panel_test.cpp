@@ -197,7 +197,7 @@ TEST_F(SaveFilePanelTest, ForgetsTheFormatOfTheDocumentThatIsGone) {
     ChooseFormat("PNG image sequence");
     Choose("movie.png");
 
-    std::thread([&] { panel->ForgetOutputFormat(); }).join();
+    std::thread([&] { panel->UseOutputFormat(0); }).join();
 
     EXPECT_EQ(panel->OutputFormat(), 0u);
     panel->Show();
