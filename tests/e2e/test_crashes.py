@@ -17,9 +17,6 @@ FIRST_PAUSE = 10
 # Milliseconds from a change to its copy, and how many times as long a user who goes on may wait.
 DELAY, PATIENCE = 30, 6
 
-CHANGED_BY_OTHERS = ('Another program has changed the file "session.gif" since it was opened or '
-                     "saved. Do you want to overwrite it?")
-
 
 @dataclasses.dataclass(frozen=True)
 class State:
@@ -147,12 +144,14 @@ class Crashes(EditorTest):
             editor.wait_for_status(len(PICTURES), modified=False)
             editor.wait_for_label("frame0000")
             return editor, False
+        # Nobody has written to the file since the copy was made: saving asks nothing.
+        an_hour_ago = time.time() - 3600
+        os.utime(self.path, (an_hour_ago, an_hour_ago))
         editor = self.start_editor(asks=True)
         editor.click("push button", "Recover", editor.window("Kirto"))
         editor.wait_for_status(len(PICTURES), modified=True)
         self.session.wait_until_active("^Kirto - ")
         self.session.key("ctrl+s")
-        editor.answer(CHANGED_BY_OTHERS, "Overwrite")
         editor.wait_for_status(len(PICTURES), modified=False)
         self.session.wait_until_active("^Kirto - ")
         return editor, True
