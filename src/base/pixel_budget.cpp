@@ -31,6 +31,12 @@ bool PixelBudget::TryReserve(uint64 bytes) {
     return true;
 }
 
+uint64 PixelBudget::Left() const {
+    const uint64 limit = limit_;
+    const uint64 used = used_;
+    return limit > used ? limit - used : 0;
+}
+
 void PixelBudget::Release(uint64 bytes) {
     used_ -= bytes;
 }

@@ -16,6 +16,8 @@ class PixelBudget {
     // What a frame takes beside its pixels: its record, its palette and its name. Without it, a
     // million frames of one pixel would seem to take next to nothing.
     static constexpr uint64 kFrameCost = 2048;
+    // Bytes that decoding may take for a while beside what is left.
+    static constexpr uint64 kWorkingRoom = uint64{64} << 20;
 
     explicit PixelBudget(uint64 limit = DefaultLimit()) : limit_(limit) {}
 
@@ -30,6 +32,8 @@ class PixelBudget {
 
     uint64 Used() const { return used_; }
     uint64 Limit() const { return limit_; }
+    // Bytes that the limit still has room for.
+    uint64 Left() const;
     // Applies to later reservations only.
     void SetLimit(uint64 limit) { limit_ = limit; }
 

@@ -42,8 +42,10 @@ class Work {
     bool StopRequested() const { return stop_all_ || stopped_ == running_; }
     // The number of the piece that is being worked on; 0 between two of them.
     uint64 Running() const { return running_; }
-    // Stops that piece if it still runs.
-    void Stop(uint64 piece) { stopped_ = piece; }
+    // Stops that piece if it still runs; 0 stops nothing.
+    void Stop(uint64 piece) {
+        if (piece != 0) stopped_ = piece;
+    }
     // Stops this piece and all later ones. Safe in a signal handler.
     void StopAll() { stop_all_ = true; }
 

@@ -17,7 +17,6 @@ class WatchedInput {
     bool Skip(int64 distance) { return file_.Seek(distance, SEEK_FROM_CURRENT) >= 0; }
     int64 Position() const { return file_.Position(); }
     int64 Size() const { return file_.Size(); }
-    bool Stopped() const { return work_.StopRequested(); }
 
   private:
     BFile& file_;

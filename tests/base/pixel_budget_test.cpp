@@ -15,6 +15,15 @@ TEST(PixelBudget, ReservesUpToItsLimitExactly) {
     EXPECT_EQ(budget.Used(), 100u);
 }
 
+TEST(PixelBudget, TellsWhatIsLeftAndNothingWhereTheLimitWasLoweredBelowWhatIsUsed) {
+    PixelBudget budget(100);
+    EXPECT_EQ(budget.Left(), 100u);
+    EXPECT_TRUE(budget.Reserve(60));
+    EXPECT_EQ(budget.Left(), 40u);
+    budget.SetLimit(50);
+    EXPECT_EQ(budget.Left(), 0u);
+}
+
 TEST(PixelBudget, ARefusedReservationChangesNothing) {
     PixelBudget budget(100);
     EXPECT_FALSE(budget.Reserve(101));

@@ -62,6 +62,7 @@ TEST(Work, NothingRunsBetweenTwoPieces) {
     EXPECT_EQ(work.Running(), 0u);
 
     work.Stop(0);
+    EXPECT_FALSE(work.StopRequested());
     work.Begin();
     EXPECT_FALSE(work.StopRequested());
 }

@@ -95,13 +95,12 @@ class Canceling(EditorTest):
     def start_preview(self):
         self.session.key("ctrl+p")
 
-    def start_sequence(self, name="sequence", chosen=False):
+    def start_sequence(self, name):
         self.session.key("ctrl+a")
         self.session.wait_until_active("^Save Animation$")
         dialog = self.editor.window("Save Animation")
-        if not chosen:
-            self.editor.choose_item("Animated GIF", "XPM image sequence", dialog)
-            self.editor.click("text", "File name:", dialog)
+        self.editor.choose_item("Animated GIF", "XPM image sequence", dialog)
+        self.editor.click("text", "File name:", dialog)
         self.editor.name_file("Save Animation", name)
 
     def start_editor_to_write(self, modified):
@@ -259,7 +258,7 @@ class Canceling(EditorTest):
                 self.editor.wait_for_title("Kirto - drawing.gif")
                 check()
         for number in range(ROUNDS):
-            self.start_sequence(f"{number}-", chosen=number > 0)
+            self.start_sequence(f"{number}-")
             self.cancel()
             written, count = self.wait_for_status(
                 r"saving was canceled, (\d+) of (\d+) file\(s\) written").groups()

@@ -1,28 +1,14 @@
 #include "formats/gif/gif_load.h"
 
-#include <algorithm>
-
 #include "base/debug_line.h"
 #include "base/text.h"
 
-namespace {
-
 using Block = kirto::GifParser::Block;
-
-// What an image's codes may take while they are read, besides what is left for pixels.
-constexpr uint64 kWorkingRoom = uint64{64} << 20;
-
-uint64 RoomFor(const kirto::PixelBudget& budget) {
-    const uint64 used = std::min(budget.Used(), budget.Limit());
-    return budget.Limit() - used + kWorkingRoom;
-}
-
-}  // namespace
 
 GifLoad::GifLoad(BFile* file, int32 start, AnimationDocument& document)
     : document_(document),
       input_(*file, document.work),
-      parser_(input_, RoomFor(*document.pixel_budget)),
+      parser_(input_, document.pixel_budget->Left() + kirto::PixelBudget::kWorkingRoom),
       composer_(
           {document.prefs.animation_gifloadfullframe, document.prefs.thumbnail_drawtransparent},
           *document.Current()->palette, document.pixel_budget, document.work),

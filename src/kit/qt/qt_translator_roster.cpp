@@ -37,9 +37,7 @@ bool MayBeTarga(const ImageHeader& header) {
 
 // Bytes that the budget still allows.
 uint64 BytesLeft(const PixelBudget* budget) {
-    const uint64 limit = budget ? budget->Limit() : PixelBudget::DefaultLimit();
-    const uint64 used = budget ? budget->Used() : 0;
-    return limit > used ? limit - used : 0;
+    return budget ? budget->Left() : PixelBudget::DefaultLimit();
 }
 
 // Qt's own limit, in its whole mebibytes, for pictures that tell their size only while they are
@@ -49,13 +47,10 @@ int AllocationLimit(const PixelBudget* budget) {
     return static_cast<int>(std::min<uint64>((BytesLeft(budget) >> 19) + 1, 1 << 20));
 }
 
-// What decoding may take beyond the budget for a while.
-constexpr uint64 kWorkingRoom = uint64{64} << 20;
-
 bool FitsBudget(const ImageHeader& header, const PixelBudget* budget) {
     const uint64 left = BytesLeft(budget);
     return header.Pixels() <= left / 4 &&
-           4 * header.Pixels() + header.working_bytes <= left + kWorkingRoom;
+           4 * header.Pixels() + header.working_bytes <= left + PixelBudget::kWorkingRoom;
 }
 
 // Whether the picture as Qt decodes it finds room beside the bitmap that is made of it.
@@ -66,7 +61,8 @@ bool FitsTwice(const QImageReader& reader, const ImageHeader& header, const Pixe
     const uint64 bits = known ? QImage::toPixelFormat(format).bitsPerPixel() : 32;
     const bool turned = reader.transformation() != QImageIOHandler::TransformationNone;
     const uint64 bytes = (turned ? 2 : 1) * (header.Pixels() * bits / 8);
-    return 4 * header.Pixels() + header.working_bytes + bytes <= BytesLeft(budget) + kWorkingRoom;
+    return 4 * header.Pixels() + header.working_bytes + bytes <=
+           BytesLeft(budget) + PixelBudget::kWorkingRoom;
 }
 
 // The format's decoder alone sees the file.

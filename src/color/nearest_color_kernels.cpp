@@ -1,7 +1,7 @@
+#include "color/nearest_color_kernels.h"
+
 #include <algorithm>
 #include <cstdlib>
-
-#include "color/nearest_color_kernels.h"
 
 namespace kirto {
 
