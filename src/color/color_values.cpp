@@ -9,6 +9,7 @@ namespace {
 
 constexpr size_t kFirstCapacity = 512;
 constexpr size_t kGrowth = 4;
+constexpr size_t kItemsAtOnce = 1 << 16;  // between two looks at the work
 // Tables with more slots than this take more memory than one with a slot for each color, in which
 // no two colors meet. Up to here the tag leaves enough of a slot for the position of its item.
 constexpr int32 kMostHashedBits = 22;
@@ -28,8 +29,8 @@ int32 SlotBitsFor(size_t capacity, int32 key_bits) {
 
 }  // namespace
 
-ColorValues::ColorValues()
-    : items_(AllocateArray<Item>(kFirstCapacity)), capacity_(kFirstCapacity) {
+ColorValues::ColorValues(const Work* work)
+    : work_(work), items_(AllocateArray<Item>(kFirstCapacity)), capacity_(kFirstCapacity) {
     GrowSlots(SlotBitsFor(capacity_, kKeyBits));
 }
 
@@ -86,6 +87,10 @@ bool ColorValues::GrowSlots(int32 bits) {
     factor_ = hashed ? kScatter : 1;
     tag_mask_ = hashed ? kTag : 0;
     for (size_t i = 0; i < count_; ++i) {
+        if (i % kItemsAtOnce == 0 && IsStopped(work_)) {
+            slots_ = nullptr;
+            return false;
+        }
         const uint32 key = items_[i].key;
         *SlotFor(key) = static_cast<uint32>(i + 1) | TagOf(key);
     }

@@ -4,6 +4,7 @@
 
 #include "base/allocation.h"
 #include "base/types.h"
+#include "base/work.h"
 
 namespace kirto {
 
@@ -20,13 +21,13 @@ class ColorValues {
         uint32 value = 0;
     };
 
-    // No color is known yet.
-    ColorValues();
+    // No color is known yet. Where the work, if any, is stopped, so is the growing of the table.
+    explicit ColorValues(const Work* work = nullptr);
 
-    // False when memory is too short to keep anything.
+    // False when memory is too short to keep anything, or the work was stopped.
     bool Ready() const { return slots_ && items_; }
     // The color's item, which stays where it is until the next color is added; null when the color
-    // is new and memory is short.
+    // is new and memory is short or the work was stopped.
     Item* FindOrAdd(uint32 key) {
         if (!slots_) return nullptr;
         const uint32 slot = slots_[HomeSlot(key)];
@@ -65,6 +66,7 @@ class ColorValues {
     bool GrowItems();
     bool GrowSlots(int32 bits);
 
+    const Work* work_;
     AllocatedArray<Item> items_;
     AllocatedArray<uint32> slots_;  // an item's position in items_ plus 1, and its tag; 0 is empty
     size_t count_ = 0;

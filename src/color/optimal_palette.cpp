@@ -35,7 +35,8 @@ std::optional<std::vector<rgb_color>> TryMakeColors(size_t count) {
     }
 }
 
-// Adds so many pixels to the values of their colors. False when memory is short.
+// Adds so many pixels to the values of their colors. False when memory is short or the work was
+// stopped.
 template <bool kBigEndian>
 bool CountPixels(const uint8* pixels, size_t count, kirto::ColorValues& counts) {
     constexpr size_t kAhead = 16;  // pixels that the processor may fetch slots for
@@ -59,7 +60,7 @@ bool CountPixels(const uint8* pixels, size_t count, kirto::ColorValues& counts) 
     return true;
 }
 
-// Adds every pixel of a 32-bit picture. False when memory is short.
+// Adds every pixel of a 32-bit picture. False when memory is short or the work was stopped.
 bool CountPicture(const BBitmap& picture, kirto::ColorValues& counts, const kirto::Work* work) {
     constexpr size_t kPixelsAtOnce = 1 << 16;
     const auto count_pixels =
@@ -78,13 +79,14 @@ bool CountPicture(const BBitmap& picture, kirto::ColorValues& counts, const kirt
 // out of memory, which the user is told, no picture or one that is not 32-bit.
 std::optional<kirto::ColorValues> CountColors(const BBitmap* picture, const kirto::Work* work) {
     if (!picture) return std::nullopt;
-    kirto::ColorValues counts;
+    kirto::ColorValues counts(work);
     const bool is_32_bit = kirto::Is32Bit(picture->ColorSpace());
-    if (!counts.Ready() || (is_32_bit && !CountPicture(*picture, counts, work))) {
+    const bool counted = counts.Ready() && (!is_32_bit || CountPicture(*picture, counts, work));
+    if (kirto::IsStopped(work)) return std::nullopt;
+    if (!counted) {
         kirto::WarnOutOfMemory();
         return std::nullopt;
     }
-    if (kirto::IsStopped(work)) return std::nullopt;
     if (!is_32_bit) {
         kirto::DebugLine("Palette::BuildHashtable() - Wrong color space given\n");
         return std::nullopt;

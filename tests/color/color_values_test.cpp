@@ -129,4 +129,19 @@ TEST(ColorValues, KeepWhatTheyHaveWhenMemoryGetsShort) {
     }
 }
 
+TEST(ColorValues, DoNotGrowOnceTheWorkIsStopped) {
+    Work work;
+    work.Begin();
+    ColorValues values(&work);
+    std::vector<uint32> keys;
+    for (uint32 i = 0; i < 512; ++i)
+        keys.push_back(Scattered(i));
+    ASSERT_TRUE(AddAll(values, keys));
+    work.Stop(work.Running());
+
+    EXPECT_EQ(values.FindOrAdd(Scattered(512)), nullptr);
+    EXPECT_FALSE(values.Ready());
+    EXPECT_EQ(values.FindOrAdd(Scattered(0)), nullptr);
+}
+
 }  // namespace kirto::test
