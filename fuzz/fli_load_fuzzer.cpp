@@ -14,7 +14,7 @@ void Check(const AnimationDocument& document, int32 end) {
     for (const kirto::FramePointer& frame : document.Current()->frames) {
         ++visited;
         if (!frame->palette || !frame->bitmap) std::abort();
-        if (!frame->bitmap->Bits() || frame->bitmap->Width() != frame->width) std::abort();
+        if (!frame->bitmap->HasRows() || frame->bitmap->Width() != frame->width) std::abort();
     }
     if (visited != document.FrameCount()) std::abort();
     if (document.pixel_budget->Used() > kPixelBytes) std::abort();

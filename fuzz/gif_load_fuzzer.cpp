@@ -14,7 +14,7 @@ void Check(bool holds) {
 }
 
 void CheckFrame(const Frame& frame, const AnimationDocument& document) {
-    Check(frame.bitmap && frame.bitmap->InitCheck() == B_OK && frame.palette);
+    Check(frame.bitmap && frame.bitmap->HasRows() && frame.palette);
     Check(frame.bitmap->Width() == frame.width && frame.bitmap->Height() == frame.height);
     Check(frame.width <= document.Current()->width && frame.height <= document.Current()->height);
     Check(frame.palette->bits >= 1 && frame.palette->bits <= 8);

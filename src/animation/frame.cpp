@@ -29,13 +29,13 @@ status_t Frame::Read(const std::string& path, std::string_view frame_name,
     const std::shared_ptr<Palette> own_palette = kirto::SharePalette();
     if (!own_palette) return B_NO_MEMORY;
     std::shared_ptr<BBitmap> picture;
-    const status_t status = kirto::ReadPicture(path, roster, std::move(budget), work, &picture);
+    const status_t status = kirto::ReadPicture(path, roster, budget, work, &picture);
     if (status < B_OK) return status;
-    own_palette->Set(static_cast<const BBitmap*>(picture.get()), work);
-    if (kirto::IsStopped(work)) return B_CANCELED;
     Frame frame(frame_name, picture->Bounds().PixelWidth(), picture->Bounds().PixelHeight());
+    frame.bitmap = kirto::Picture::Of(std::move(picture), std::move(budget));
+    own_palette->Set(frame.bitmap.get(), work);
+    if (kirto::IsStopped(work)) return B_CANCELED;
     frame.palette = own_palette;
-    frame.bitmap = std::move(picture);
     *result = std::move(frame);
     return B_OK;
 }

@@ -7,8 +7,8 @@
 #include "base/types.h"
 #include "base/work.h"
 #include "color/palette.h"
-#include "kit/bitmap.h"
 #include "kit/translator_roster.h"
+#include "picture/picture.h"
 
 namespace kirto {
 
@@ -25,13 +25,12 @@ class Frame {
     static constexpr size_t kMaxNameBytes = 255;
 
     kirto::FrameId id;  // the same through all edits of the frame, and in its copies
-    // The pixels, over (0, 0, width - 1, height - 1) unless a creator says otherwise.
-    std::shared_ptr<const BBitmap> bitmap;
-    std::string name;            // at most kMaxNameBytes bytes
-    int32 height = 0;            // pixels
-    int32 width = 0;             // pixels
-    int32 x_offset = 0;          // left edge on the canvas, pixels
-    int32 y_offset = 0;          // top edge on the canvas, pixels
+    std::shared_ptr<const kirto::Picture> bitmap;  // the pixels; null until there are any
+    std::string name;                              // at most kMaxNameBytes bytes
+    int32 height = 0;                              // pixels
+    int32 width = 0;                               // pixels
+    int32 x_offset = 0;                            // left edge on the canvas, pixels
+    int32 y_offset = 0;                            // top edge on the canvas, pixels
     double pause_length = 0.0;   // hundredths of a second, or seconds ("global_pauseinseconds")
     bool local_palette = false;  // written with its own color table
     bool use_pause = false;      // pause_length overrides the animation's

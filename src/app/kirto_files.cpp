@@ -333,9 +333,14 @@ status_t Kirto::WriteSequenceFile(const Frame& frame, const std::string& path, u
         kirto::Warn(kirto::kFileNotCreatedText);
         return B_IO_ERROR;
     }
+    const std::shared_ptr<const BBitmap> picture = frame.bitmap->ToBitmap();
+    if (picture->InitCheck() != B_OK) {
+        kirto::WarnOutOfMemory();
+        return B_NO_MEMORY;
+    }
     // Once a sequence is enough.
     if (&frame == FirstFrame().get()) file->RemoveLeftovers();
-    const status_t status = kirto::WritePicture(frame.bitmap, roster_, translator, format,
+    const status_t status = kirto::WritePicture(picture, roster_, translator, format,
                                                 translator_settings[translator], file, work);
     if (status == B_CANCELED) return status;
     if (status != B_OK && file->WriteStatus() == B_OK) {

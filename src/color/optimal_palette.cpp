@@ -1,7 +1,9 @@
 // The part of Palette that counts the colours of a picture and keeps the most frequent ones.
 #include <algorithm>
 #include <array>
+#include <cstring>
 #include <new>
+#include <span>
 
 #include "base/allocation.h"
 #include "base/byte_order.h"
@@ -60,24 +62,42 @@ bool CountPixels(const uint8* pixels, size_t count, kirto::ColorValues& counts) 
     return true;
 }
 
+// Adds pixels that are counted already.
+bool AddCounts(std::span<const kirto::PixelCount> pixels, bool big_endian,
+               kirto::ColorValues& counts) {
+    for (const kirto::PixelCount& each : pixels) {
+        uint8 bytes[4];
+        std::memcpy(bytes, &each.pixel, sizeof(bytes));
+        const uint32 key = big_endian ? ColorKey(bytes[1], bytes[2], bytes[3])
+                                      : ColorKey(bytes[2], bytes[1], bytes[0]);
+        kirto::ColorValues::Item* item = counts.FindOrAdd(key);
+        if (!item) return false;
+        item->value += each.count;
+    }
+    return true;
+}
+
 // Adds every pixel of a 32-bit picture. False when memory is short or the work was stopped.
-bool CountPicture(const BBitmap& picture, kirto::ColorValues& counts, const kirto::Work* work) {
-    constexpr size_t kPixelsAtOnce = 1 << 16;
-    const auto count_pixels =
-        kirto::IsBigEndian(picture.ColorSpace()) ? CountPixels<true> : CountPixels<false>;
-    const uint8* pixel = picture.Bits();
-    for (size_t left = picture.BitsLength() / 4; left > 0 && !kirto::IsStopped(work);) {
-        const size_t count = std::min(left, kPixelsAtOnce);
-        if (!count_pixels(pixel, count, counts)) return false;
-        pixel += count * 4;
-        left -= count;
+bool CountPicture(const kirto::Picture& picture, kirto::ColorValues& counts,
+                  const kirto::Work* work) {
+    const bool big_endian = kirto::IsBigEndian(picture.ColorSpace());
+    const auto count_pixels = big_endian ? CountPixels<true> : CountPixels<false>;
+    const size_t width = static_cast<size_t>(picture.Width());
+    for (const std::shared_ptr<const kirto::Strip>& strip : picture.AllStrips()) {
+        if (kirto::IsStopped(work)) return false;
+        const size_t size = width * static_cast<size_t>(strip->Rows());
+        if (strip->Pixels() ? !count_pixels(strip->Pixels(), size, counts)
+                            : !AddCounts(strip->Counts(), big_endian, counts)) {
+            return false;
+        }
     }
     return true;
 }
 
 // Each color of the picture with its number of pixels. Nothing on failure: the work was stopped,
 // out of memory, which the user is told, no picture or one that is not 32-bit.
-std::optional<kirto::ColorValues> CountColors(const BBitmap* picture, const kirto::Work* work) {
+std::optional<kirto::ColorValues> CountColors(const kirto::Picture* picture,
+                                              const kirto::Work* work) {
     if (!picture) return std::nullopt;
     kirto::ColorValues counts(work);
     const bool is_32_bit = kirto::Is32Bit(picture->ColorSpace());
@@ -121,7 +141,7 @@ rgb_color ColorOfKey(uint32 key) {
 
 }  // namespace
 
-void Palette::Set(const BBitmap* picture, const kirto::Work* work) {
+void Palette::Set(const kirto::Picture* picture, const kirto::Work* work) {
     mode = kirto::kPaletteOptimal;
     const auto optimal = MakeNearestColorPalette(picture, work);
     if (optimal) {
@@ -131,8 +151,8 @@ void Palette::Set(const BBitmap* picture, const kirto::Work* work) {
     }
 }
 
-std::optional<std::vector<rgb_color>> Palette::MakeNearestColorPalette(const BBitmap* picture,
-                                                                       const kirto::Work* work) {
+std::optional<std::vector<rgb_color>> Palette::MakeNearestColorPalette(
+    const kirto::Picture* picture, const kirto::Work* work) {
     const std::optional<kirto::ColorValues> counts = CountColors(picture, work);
     if (!counts) return std::nullopt;
     unique_colors = static_cast<int32>(counts->Items().size());
@@ -156,7 +176,7 @@ std::optional<std::vector<rgb_color>> Palette::MakeNearestColorPalette(const BBi
     return result;
 }
 
-std::unique_ptr<SFHash> Palette::BuildHashtable(const BBitmap* picture) const {
+std::unique_ptr<SFHash> Palette::BuildHashtable(const kirto::Picture* picture) const {
     const std::optional<kirto::ColorValues> counts = CountColors(picture, nullptr);
     if (!counts) return nullptr;
     std::unique_ptr<SFHash> table = TableOf(*counts);
@@ -164,15 +184,15 @@ std::unique_ptr<SFHash> Palette::BuildHashtable(const BBitmap* picture) const {
     return table;
 }
 
-int32 Palette::CountUniqueColors(const BBitmap* picture, const kirto::Work* work) const {
+int32 Palette::CountUniqueColors(const kirto::Picture* picture, const kirto::Work* work) const {
     const std::optional<kirto::ColorValues> counts = CountColors(picture, work);
     return counts ? static_cast<int32>(counts->Items().size()) : 0;
 }
 
-bool Palette::UpdateIfNeeded(const BBitmap* first_frame, const BBitmap* current_frame,
+bool Palette::UpdateIfNeeded(const kirto::Picture* first_frame, const kirto::Picture* current_frame,
                              const kirto::Work* work) {
     const int32 kind = mode;
-    const BBitmap* picture = nullptr;
+    const kirto::Picture* picture = nullptr;
     if (kind == kirto::kPaletteFirstFrame) picture = first_frame;
     if (kind == kirto::kPaletteCurrentFrame) picture = current_frame;
     if (!picture) return false;

@@ -8,8 +8,8 @@
 #include "base/work.h"
 #include "color/builtin_palettes.h"
 #include "color/sf_hash.h"
-#include "kit/bitmap.h"
 #include "kit/file.h"
+#include "picture/picture.h"
 
 namespace kirto {
 
@@ -47,14 +47,14 @@ class Palette {
     Palette() : Palette(kirto::kPaletteWebSafe) {}
     explicit Palette(int32 kind) { Set(kind); }
     // Optimal for the picture, or web safe when it can't be built.
-    explicit Palette(const BBitmap* picture) { Set(picture); }
+    explicit Palette(const kirto::Picture* picture) { Set(picture); }
 
     // Stores the kind and bits = 8. Kinds 0, 1 and 2 also fill the entries and the size; the others
     // leave them as they were.
     void Set(int32 kind);
     // Kind 6 with the picture's most frequent colors; on failure web safe.
     // The three that look at each pixel end early, as failures, when the work is stopped.
-    void Set(const BBitmap* picture, const kirto::Work* work = nullptr);
+    void Set(const kirto::Picture* picture, const kirto::Work* work = nullptr);
     // Kind 7 with the color table of a GIF or FLI file, recognized by "gif", "GIF", "fli" or "FLI"
     // anywhere in the path, in that order. On failure kind 8 and false; entries may be partly
     // overwritten.
@@ -77,16 +77,16 @@ class Palette {
     // there are fewer); sets unique_colors, bits and size. Nothing on failure: out of memory (the
     // user is told) or a picture that is not 32-bit.
     std::optional<std::vector<rgb_color>> MakeNearestColorPalette(
-        const BBitmap* picture, const kirto::Work* work = nullptr);
+        const kirto::Picture* picture, const kirto::Work* work = nullptr);
     // Each color of the picture with its number of pixels, in 65,536 buckets, for iteration; null
     // on failure, as above.
-    std::unique_ptr<SFHash> BuildHashtable(const BBitmap* picture) const;
+    std::unique_ptr<SFHash> BuildHashtable(const kirto::Picture* picture) const;
     // Distinct colors in the picture; 0 on failure.
-    int32 CountUniqueColors(const BBitmap* picture, const kirto::Work* work = nullptr) const;
+    int32 CountUniqueColors(const kirto::Picture* picture, const kirto::Work* work = nullptr) const;
 
     // Recomputes kind 3 from the first frame's picture, kind 4 from the current frame's. Null
     // pictures and other kinds change nothing; false then.
-    bool UpdateIfNeeded(const BBitmap* first_frame, const BBitmap* current_frame,
+    bool UpdateIfNeeded(const kirto::Picture* first_frame, const kirto::Picture* current_frame,
                         const kirto::Work* work = nullptr);
 
     // Gives the palette kind 0, 1 or 2 when all 256 entries equal that built-in table; otherwise

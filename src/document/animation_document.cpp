@@ -10,7 +10,7 @@
 
 namespace {
 
-const BBitmap* PictureOf(const kirto::FramePointer& frame) {
+const kirto::Picture* PictureOf(const kirto::FramePointer& frame) {
     return frame ? frame->bitmap.get() : nullptr;
 }
 

@@ -2,10 +2,12 @@
 
 #include <algorithm>
 #include <memory>
+#include <vector>
 
 #include "base/text.h"
 #include "effects/fade_kernels.h"
 #include "kit/alert.h"
+#include "picture/picture_builder.h"
 
 namespace kirto {
 
@@ -14,21 +16,7 @@ namespace {
 constexpr int32 kNamesPerFade = 100;
 
 bool IsBlendable(const FramePointer& frame) {
-    return frame && frame->bitmap && frame->bitmap->Bits() && Is32Bit(frame->bitmap->ColorSpace());
-}
-
-// Blends a row as far as both pictures reach; beyond the other one the current pixels stay.
-void BlendRow(const BBitmap& current, const BBitmap& other, BBitmap* target, int32 y, float f) {
-    const color_space space = current.ColorSpace();
-    const int32 width = target->Width();
-    const int32 common = y < other.Height() ? std::min(width, other.Width()) : 0;
-    const size_t rest = static_cast<size_t>(common) * 4;
-    if (common > 0) {
-        FadeToFrame(current.Row(y), space, other.Row(y), other.ColorSpace(), target->Row(y), common,
-                    1, f);
-    }
-    FadeToFrame(current.Row(y) + rest, space, current.Row(y) + rest, space, target->Row(y) + rest,
-                width - common, 1, 1.0f);
+    return frame && frame->bitmap && frame->bitmap->HasRows();
 }
 
 // What a fade is made of.
@@ -39,22 +27,65 @@ struct FadePlan {
     FramePointer other;  // the neighbour; null for fades of a colour
 };
 
-// A picture of the fade, or null when memory is short. Not complete when the work was stopped.
-std::shared_ptr<const BBitmap> MakePicture(const FadePlan& plan, float f,
-                                           std::shared_ptr<PixelBudget> budget, const Work& work) {
-    const BBitmap& current = *plan.current->bitmap;
-    auto picture = std::make_shared<BBitmap>(BRect::OfSize(current.Width(), current.Height()),
-                                             B_RGB32, std::move(budget));
-    if (picture->InitCheck() != B_OK) return nullptr;
-    for (int32 y = 0; y < picture->Height() && !work.StopRequested(); ++y) {
-        if (plan.other) {
-            BlendRow(current, *plan.other->bitmap, picture.get(), y, f);
+// Blends the rows of a plan's pictures.
+class RowBlender {
+  public:
+    RowBlender(const FadePlan& plan, float f)
+        : plan_(plan),
+          f_(f),
+          current_(*plan.current->bitmap),
+          row_(Bytes(current_)),
+          other_row_(plan.other ? Bytes(*plan.other->bitmap) : 0),
+          target_(Bytes(current_)) {}
+
+    // Row y in the order blue, green, red, alpha; there until the next one is asked for.
+    const uint8* Row(int32 y) {
+        current_.ReadRow(y, row_.data());
+        if (plan_.other) {
+            BlendWithOther(y);
         } else {
-            FadeToRGB(current.Row(y), current.ColorSpace(), picture->Row(y), current.Width(), 1, f,
-                      plan.mode == FadeMode::kToColor, plan.color);
+            FadeToRGB(row_.data(), current_.ColorSpace(), target_.data(), current_.Width(), 1, f_,
+                      plan_.mode == FadeMode::kToColor, plan_.color);
         }
+        return target_.data();
     }
-    return picture;
+
+  private:
+    static size_t Bytes(const Picture& picture) { return static_cast<size_t>(picture.Width()) * 4; }
+
+    // As far as both pictures reach; beyond the other one the current pixels stay.
+    void BlendWithOther(int32 y) {
+        const Picture& other = *plan_.other->bitmap;
+        const color_space space = current_.ColorSpace();
+        const int32 common = y < other.Height() ? std::min(current_.Width(), other.Width()) : 0;
+        const size_t rest = static_cast<size_t>(common) * 4;
+        if (common > 0) {
+            other.ReadRow(y, other_row_.data());
+            FadeToFrame(row_.data(), space, other_row_.data(), other.ColorSpace(), target_.data(),
+                        common, 1, f_);
+        }
+        FadeToFrame(row_.data() + rest, space, row_.data() + rest, space, target_.data() + rest,
+                    current_.Width() - common, 1, 1.0f);
+    }
+
+    const FadePlan& plan_;
+    const float f_;
+    const Picture& current_;
+    std::vector<uint8> row_;
+    std::vector<uint8> other_row_;
+    std::vector<uint8> target_;
+};
+
+// A picture of the fade, or null when memory is short or the work was stopped.
+std::shared_ptr<const Picture> MakePicture(const FadePlan& plan, float f,
+                                           std::shared_ptr<PixelBudget> budget, const Work& work) {
+    const Picture& current = *plan.current->bitmap;
+    RowBlender blender(plan, f);
+    PictureBuilder builder(current.Width(), current.Height(), B_RGB32, std::move(budget));
+    for (int32 y = 0; y < current.Height(); ++y) {
+        if (work.StopRequested() || !builder.AddRow(blender.Row(y))) return nullptr;
+    }
+    return builder.Take();
 }
 
 }  // namespace
@@ -98,6 +129,7 @@ bool Fade(AnimationDocument& document, FadeMode mode, int32 count, rgb_color col
             frame.bitmap =
                 MakePicture(plan, FadeFactor(mode, i, count), document.pixel_budget, document.work);
         }
+        if (document.StopRequested()) break;
         if (!frame.bitmap) {
             WarnOutOfMemory();
             return true;

@@ -1,12 +1,12 @@
 #include "effects/insert_tiles.h"
 
-#include <cstring>
 #include <memory>
 #include <optional>
 
 #include "base/text.h"
 #include "kit/alert.h"
 #include "kit/picture_files.h"
+#include "picture/picture_builder.h"
 
 namespace kirto {
 
@@ -47,6 +47,18 @@ TilePlace PlaceOf(int32 tile, const TileGrid& grid) {
     return {tile / grid.columns, tile % grid.columns};
 }
 
+// A rectangle of the picture from that row and column on, or null when memory is short.
+std::shared_ptr<const Picture> CopyTile(const BBitmap& picture, const TilePlace& corner,
+                                        int32 width, int32 height,
+                                        std::shared_ptr<PixelBudget> budget) {
+    PictureBuilder builder(width, height, picture.ColorSpace(), std::move(budget));
+    const size_t offset = static_cast<size_t>(corner.column) * 4;
+    for (int32 y = 0; y < height; ++y) {
+        if (!builder.AddRow(picture.Row(corner.row + y) + offset)) return nullptr;
+    }
+    return builder.Take();
+}
+
 // A frame of one tile, or none when memory is short.
 std::optional<Frame> MakeTile(const BBitmap& picture, int32 tile, const TileGrid& grid,
                               std::shared_ptr<PixelBudget> budget, const Work& work) {
@@ -54,26 +66,16 @@ std::optional<Frame> MakeTile(const BBitmap& picture, int32 tile, const TileGrid
     if (!palette) return std::nullopt;
     Frame frame(Format("tiled%04d", tile), picture.Width() / grid.columns,
                 picture.Height() / grid.rows);
-    const auto bitmap = std::make_shared<BBitmap>(BRect::OfSize(frame.width, frame.height),
-                                                  picture.ColorSpace(), std::move(budget));
-    if (bitmap->InitCheck() != B_OK) return std::nullopt;
     const TilePlace place = PlaceOf(tile, grid);
-    CopyTile(picture, place.row, place.column, bitmap.get());
-    palette->Set(static_cast<const BBitmap*>(bitmap.get()), &work);
+    frame.bitmap = CopyTile(picture, {place.row * frame.height, place.column * frame.width},
+                            frame.width, frame.height, std::move(budget));
+    if (!frame.bitmap) return std::nullopt;
+    palette->Set(frame.bitmap.get(), &work);
     frame.palette = palette;
-    frame.bitmap = bitmap;
     return frame;
 }
 
 }  // namespace
-
-void CopyTile(const BBitmap& picture, int32 row, int32 column, BBitmap* tile) {
-    const size_t offset = static_cast<size_t>(column) * tile->BytesPerRow();
-    for (int32 y = 0; y < tile->Height(); ++y) {
-        std::memcpy(tile->Row(y), picture.Row(row * tile->Height() + y) + offset,
-                    tile->BytesPerRow());
-    }
-}
 
 bool InsertTiles(AnimationDocument& document, const entry_ref* ref, const TileGrid& grid,
                  BTranslatorRoster& roster) {

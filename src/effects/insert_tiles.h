@@ -2,7 +2,6 @@
 #pragma once
 
 #include "document/animation_document.h"
-#include "kit/bitmap.h"
 #include "kit/entry_ref.h"
 #include "kit/translator_roster.h"
 
@@ -13,10 +12,6 @@ struct TileGrid {
     int32 columns = 0;
     bool column_by_column = false;  // order of the tiles; else row by row
 };
-
-// Copies the tile at (row, column) of a grid of the tile's size out of the picture, pixels
-// unchanged. Both are 32-bit in the same color space and the tile lies within the picture.
-void CopyTile(const BBitmap& picture, int32 row, int32 column, BBitmap* tile);
 
 // Cuts the file's picture into rows x columns tiles of equal size (what is left over at the right
 // and the bottom belongs to no tile) and inserts each as a frame after the current one. Grids

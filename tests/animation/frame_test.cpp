@@ -95,7 +95,7 @@ TEST(Frame, FromAnImageFileHoldsThePictureAsItWasDelivered) {
     const Frame frame = file.Load("picture.png");
 
     EXPECT_EQ(file.status, B_OK);
-    EXPECT_EQ(frame.bitmap, file.roster.picture);
+    EXPECT_EQ(PixelsOf(*frame.bitmap), PixelsOf(*file.roster.picture));
     EXPECT_EQ(frame.bitmap->ColorSpace(), B_RGBA32_BIG);
     EXPECT_EQ(frame.name, "picture.png");
     EXPECT_EQ(frame.width, 2);
@@ -212,8 +212,8 @@ TEST(Frame, IsWebSafeWhenThereIsNoMemoryToCountItsColours) {
 
 TEST(Frame, LeavesItsPictureToWhoeverStillShowsIt) {
     auto frame = std::make_unique<Frame>("frame", 1, 1);
-    frame->bitmap = PictureOf(1, 1, {kBlue});
-    const std::shared_ptr<const BBitmap> shown = frame->bitmap;
+    frame->bitmap = FramePictureOf(1, 1, {kBlue});
+    const std::shared_ptr<const Picture> shown = frame->bitmap;
 
     frame.reset();
 
@@ -235,7 +235,7 @@ TEST(Frame, EqualsACopyUntilAnyOfItsFieldsChanges) {
     const Frame frame("frame", 1, 1);
     const std::function<void(Frame&)> edits[] = {
         [](Frame& f) { f.id = Frame().id; },
-        [](Frame& f) { f.bitmap = PictureOf(1, 1, {0}); },
+        [](Frame& f) { f.bitmap = FramePictureOf(1, 1, {0}); },
         [](Frame& f) { f.name = "other"; },
         [](Frame& f) { f.height = 2; },
         [](Frame& f) { f.width = 2; },

@@ -134,7 +134,7 @@ TEST_F(KirtoConstruction, DeletesItsPanelsAndFramesAtTheEnd) {
     app_->GetInsertFilePanel();
     app_->GetInsertTiledFilePanel();
     Append({"one", "two"});
-    const std::weak_ptr<const BBitmap> picture = app_->FirstFrame()->bitmap;
+    const std::weak_ptr<const Picture> picture = app_->FirstFrame()->bitmap;
     TakeLines();
 
     app_.reset();

@@ -89,7 +89,7 @@ TEST_F(KirtoSaveSequence, NumbersTheFilesBeforeTheEnding) {
     EXPECT_EQ(ReadBytes(File("movie0002.tiff")), RawPicture(*app_->FrameAt(2)->bitmap));
     EXPECT_FALSE(app_->Modified());
     EXPECT_EQ(app_->CurrentState()->file_name, "movie.tiff");
-    EXPECT_TRUE(app_->FrameAt(2)->bitmap->Bits());
+    EXPECT_TRUE(app_->FrameAt(2)->bitmap->HasRows());
 }
 
 TEST_F(KirtoSaveSequence, SplitsTheNameAtItsFirstDot) {

@@ -335,7 +335,7 @@ TEST(OpenGif, ProposesToSalvageWhereOtherFramesWouldBeLost) {
 TEST(OpenGif, NamesLackOfMemoryBeforeItAsks) {
     DocumentFixture fixture;
     const AlertRecorder alerts({kOk, kSalvage});
-    fixture.document.pixel_budget->SetLimit(PixelBudget::kFrameCost + 8);
+    fixture.document.pixel_budget->SetLimit(2 * PixelBudget::kFrameCost - 1);
 
     EXPECT_FALSE(OpenGifBytes(GifWithPauses({10, 10}), fixture.document));
 
@@ -381,7 +381,7 @@ TEST(OpenFli, LoopsForEver) {
 TEST(OpenFli, NamesLackOfMemoryBeforeItAsks) {
     DocumentFixture fixture;
     const AlertRecorder alerts({kOk, kSalvage});
-    fixture.document.pixel_budget->SetLimit(PixelBudget::kFrameCost + 8);
+    fixture.document.pixel_budget->SetLimit(3 * PixelBudget::kFrameCost - 1);  // the canvas as well
     FliBuilder fli(2, 1);
     fli.Record().Color256({{0, {0x000000, 0xFF0000}}}).Copy({0, 1});
     fli.Record().Copy({1, 0});

@@ -34,10 +34,10 @@ uint64 SumOf(const Palette& palette) {
 }
 
 uint64 SumOf(const Frame& frame) {
-    const uint8* bits = frame.bitmap->Bits();
+    const std::vector<uint32> pixels = PixelsOf(*frame.bitmap);
     return frame.name.size() + static_cast<uint64>(frame.width + frame.x_offset) +
-           static_cast<uint64>(frame.pause_length) + (frame.use_pause ? 1 : 0) + bits[0] +
-           bits[frame.bitmap->BitsLength() - 1] + SumOf(*frame.palette);
+           static_cast<uint64>(frame.pause_length) + (frame.use_pause ? 1 : 0) + pixels.front() +
+           pixels.back() + SumOf(*frame.palette);
 }
 
 // Reads all that a window shows, and checks the list on the way. The sum keeps the reads from being

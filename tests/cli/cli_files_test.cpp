@@ -401,24 +401,26 @@ TEST(KirtoCli, FailsOnATinyFileThatAsksForAHugePicture) {
 
 TEST(KirtoCli, StopsAtItsMemoryLimit) {
     const CliHome home;
-    GifBuilder gif(400, 300, {0x000000, 0xFFFFFF});
-    for (int32 i = 0; i < 3; ++i) {
+    GifBuilder gif(500, 500, {0x000000, 0xFFFFFF});
+    for (size_t i = 0; i < 5; ++i) {
         GifBuilder::Image image;
-        image.indices = {1};
+        image.width = image.height = 500;
+        for (size_t pixel = 0; pixel < 500 * 500; ++pixel)
+            image.indices.push_back(static_cast<uint8>((pixel + i) % 2));
         image.min_code_size = 2;
         gif.Add(image);
     }
     home.Write("large.gif", gif.Trailer());
 
-    // A frame of 400 x 300 pixels takes 480,000 bytes.
+    // A frame of 500 x 500 pixels of two colors takes 250,000 bytes.
     ExpectFailed(
         home, {"--memory-limit", "1", "--open", "large.gif"},
         std::string("large.gif: ") + kOutOfMemoryHint + "\nkirto-cli: large.gif: " + kDamaged);
     const RunResult salvaged =
         home.Run({"--open", "large.gif", "--info-json", "--memory-limit", "1", "--salvage"});
     EXPECT_EQ(salvaged.status, 0);
-    EXPECT_EQ(Json::parse(salvaged.out)["frame_count"], 2);
-    EXPECT_EQ(home.Info({"--memory-limit", "2", "--open", "large.gif"})["frame_count"], 3);
+    EXPECT_EQ(Json::parse(salvaged.out)["frame_count"], 4);
+    EXPECT_EQ(home.Info({"--memory-limit", "2", "--open", "large.gif"})["frame_count"], 5);
 }
 
 TEST(KirtoCli, CountsFramesOfOnePixelForMoreThanThatPixel) {

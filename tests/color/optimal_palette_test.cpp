@@ -14,12 +14,12 @@ constexpr const char* kOutOfMemoryAlert = "WARNING [] Out of memory. | OK";
 constexpr const char* kWrongSpaceLine = "Palette::BuildHashtable() - Wrong color space given\n";
 
 // A picture of one row with these pixels, as 0xAARRGGBB.
-std::shared_ptr<BBitmap> Row(const std::vector<uint32>& argb, color_space space = B_RGB32) {
-    return PictureOf(static_cast<int32>(argb.size()), 1, argb, space);
+std::shared_ptr<const Picture> Row(const std::vector<uint32>& argb, color_space space = B_RGB32) {
+    return FramePictureOf(static_cast<int32>(argb.size()), 1, argb, space);
 }
 
 // A row of so many different colours, each once, in the order of the colour table.
-std::shared_ptr<BBitmap> DistinctColors(uint32 count) {
+std::shared_ptr<const Picture> DistinctColors(uint32 count) {
     std::vector<uint32> argb;
     for (uint32 i = 0; i < count; ++i)
         argb.push_back(0xFF000000U | (i + 1));
@@ -27,12 +27,12 @@ std::shared_ptr<BBitmap> DistinctColors(uint32 count) {
 }
 
 // Three colours: 4, 2 and 1 pixels.
-std::shared_ptr<BBitmap> ThreeColors() {
+std::shared_ptr<const Picture> ThreeColors() {
     return Row(
         {0xFF0000FF, 0xFF00FF00, 0xFF00FF00, 0xFFFF0000, 0xFFFF0000, 0xFFFF0000, 0xFFFF0000});
 }
 
-std::vector<rgb_color> OptimalColors(const BBitmap& picture) {
+std::vector<rgb_color> OptimalColors(const Picture& picture) {
     Palette palette;
     return palette.MakeNearestColorPalette(&picture).value_or(std::vector<rgb_color>{});
 }
@@ -70,7 +70,7 @@ void ExpectPlainPalette(const std::vector<uint32>& argb) {
 }  // namespace
 
 TEST(OptimalPalette, OfOneColourIsThatColourAndBlack) {
-    const auto picture = PictureOf(3, 2, std::vector<uint32>(6, 0xFF102030));
+    const auto picture = FramePictureOf(3, 2, std::vector<uint32>(6, 0xFF102030));
 
     const Palette palette(picture.get());
 
@@ -198,7 +198,7 @@ TEST(OptimalPalette, EqualsSortingOnRandomPictures) {
             argb.insert(argb.end(), 1 + random() % 3, static_cast<uint32>(random()) & mask);
         }
         argb.resize(64 * 64);
-        const auto picture = PictureOf(64, 64, argb);
+        const auto picture = FramePictureOf(64, 64, argb);
         Palette palette;
 
         const auto colors = palette.MakeNearestColorPalette(picture.get());
@@ -266,7 +266,7 @@ TEST(BuildHashtable, CountsEachColourInTheOrderOfItsBuckets) {
     std::vector<uint32> argb(50 * 20);
     for (uint32& pixel : argb)
         pixel = static_cast<uint32>(random()) & 0x00070303U;
-    const auto picture = PictureOf(50, 20, argb);
+    const auto picture = FramePictureOf(50, 20, argb);
 
     const auto table = Palette().BuildHashtable(picture.get());
 
@@ -292,11 +292,11 @@ TEST(BuildHashtable, CountsRunsAndReturningColours) {
 
 TEST(BuildHashtable, RefusesOtherColourSpacesWithALine) {
     for (const color_space space : {B_RGB24, B_RGB16, B_CMAP8, B_GRAY8, B_GRAY1}) {
-        const BBitmap picture(BRect::OfSize(4, 4), space);
+        const auto picture = Picture::Of(std::make_shared<BBitmap>(BRect::OfSize(4, 4), space));
         const DebugRecorder lines;
         const AlertRecorder alerts;
 
-        EXPECT_FALSE(Palette().BuildHashtable(&picture));
+        EXPECT_FALSE(Palette().BuildHashtable(picture.get()));
 
         EXPECT_EQ(lines.Text(), kWrongSpaceLine);
         EXPECT_TRUE(alerts.Lines().empty());
@@ -304,12 +304,12 @@ TEST(BuildHashtable, RefusesOtherColourSpacesWithALine) {
 }
 
 TEST(BuildHashtable, AllocatesBeforeItLooksAtTheColourSpace) {
-    const BBitmap picture(BRect::OfSize(4, 4), B_RGB24);
+    const auto picture = Picture::Of(std::make_shared<BBitmap>(BRect::OfSize(4, 4), B_RGB24));
     const DebugRecorder lines;
     const AlertRecorder alerts;
     const AllocationFault fault(2);
 
-    EXPECT_FALSE(Palette().BuildHashtable(&picture));
+    EXPECT_FALSE(Palette().BuildHashtable(picture.get()));
 
     EXPECT_EQ(lines.Text(), "");
     EXPECT_EQ(alerts.Lines(), std::vector<std::string>{kOutOfMemoryAlert});
@@ -368,11 +368,11 @@ TEST(OptimalPalette, FallsBackToWebSafeWhenMemoryIsShort) {
 }
 
 TEST(OptimalPalette, FallsBackToWebSafeForOtherColourSpaces) {
-    const BBitmap picture(BRect::OfSize(4, 4), B_RGB24);
+    const auto picture = Picture::Of(std::make_shared<BBitmap>(BRect::OfSize(4, 4), B_RGB24));
     const DebugRecorder lines;
     const AlertRecorder alerts;
 
-    const Palette palette(&picture);
+    const Palette palette(picture.get());
 
     ExpectWebSafe(palette);
     EXPECT_EQ(lines.Text(), kWrongSpaceLine);
@@ -382,7 +382,7 @@ TEST(OptimalPalette, FallsBackToWebSafeForOtherColourSpaces) {
 TEST(OptimalPalette, FallsBackToWebSafeWithoutAPicture) {
     const DebugRecorder lines;
     const AlertRecorder alerts;
-    const BBitmap* none = nullptr;
+    const Picture* none = nullptr;
 
     ExpectWebSafe(Palette(none));
 
@@ -391,10 +391,10 @@ TEST(OptimalPalette, FallsBackToWebSafeWithoutAPicture) {
 }
 
 TEST(OptimalPalette, OfAPictureWithoutBitsIsTwiceBlack) {
-    const BBitmap picture(BRect(), B_RGB32);
-    ASSERT_NE(picture.InitCheck(), B_OK);
+    const auto picture = Picture::Of(std::make_shared<BBitmap>(BRect(), B_RGB32));
+    ASSERT_NE(picture->ToBitmap()->InitCheck(), B_OK);
 
-    const Palette palette(&picture);
+    const Palette palette(picture.get());
 
     EXPECT_EQ(palette.mode, kPaletteOptimal);
     EXPECT_EQ(palette.unique_colors, 0);
@@ -412,12 +412,12 @@ TEST(CountUniqueColors, CountsDistinctColours) {
 TEST(CountUniqueColors, IsZeroWhereTheTableCantBeBuilt) {
     const DebugRecorder lines;
     const AlertRecorder alerts;
-    const BBitmap grey(BRect::OfSize(4, 4), B_GRAY8);
-    const BBitmap empty(BRect(), B_RGB32);
+    const auto grey = Picture::Of(std::make_shared<BBitmap>(BRect::OfSize(4, 4), B_GRAY8));
+    const auto empty = Picture::Of(std::make_shared<BBitmap>(BRect(), B_RGB32));
     const auto picture = ThreeColors();
 
-    EXPECT_EQ(Palette().CountUniqueColors(&grey), 0);
-    EXPECT_EQ(Palette().CountUniqueColors(&empty), 0);
+    EXPECT_EQ(Palette().CountUniqueColors(grey.get()), 0);
+    EXPECT_EQ(Palette().CountUniqueColors(empty.get()), 0);
     EXPECT_EQ(Palette().CountUniqueColors(nullptr), 0);
     const AllocationFault fault(2);
     EXPECT_EQ(Palette().CountUniqueColors(picture.get()), 0);

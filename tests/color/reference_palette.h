@@ -8,7 +8,7 @@
 
 #include "base/types.h"
 #include "color/builtin_palettes.h"
-#include "kit/bitmap.h"
+#include "picture/picture.h"
 
 namespace kirto::test {
 
@@ -22,10 +22,11 @@ struct CountedColor {
 
 // The distinct colours of a B_RGB32 picture by rising green and blue, those that differ only in red
 // by their first pixel.
-inline std::vector<CountedColor> ReferenceColors(const BBitmap& picture) {
+inline std::vector<CountedColor> ReferenceColors(const Picture& picture) {
     std::map<uint32, CountedColor> by_key;
-    for (size_t i = 0; i < picture.BitsLength() / 4; ++i) {
-        const uint8* pixel = picture.Bits() + i * 4;
+    const auto bitmap = picture.ToBitmap();
+    for (size_t i = 0; i < bitmap->BitsLength() / 4; ++i) {
+        const uint8* pixel = bitmap->Bits() + i * 4;
         const uint32 key = pixel[2] * 65536U + pixel[1] * 256U + pixel[0];
         CountedColor& color = by_key.try_emplace(key, CountedColor{key, 0, i}).first->second;
         ++color.count;
@@ -41,7 +42,7 @@ inline std::vector<CountedColor> ReferenceColors(const BBitmap& picture) {
 }
 
 // The optimal palette of a B_RGB32 picture: a power of two of its commonest colours, then black.
-inline std::vector<rgb_color> ReferenceOptimal(const BBitmap& picture) {
+inline std::vector<rgb_color> ReferenceOptimal(const Picture& picture) {
     std::vector<CountedColor> colors = ReferenceColors(picture);
     std::stable_sort(
         colors.begin(), colors.end(),

@@ -54,7 +54,7 @@ void ExpectSoundList(const AnimationDocument& document) {
     int32 visited = 0;
     for (const FramePointer& frame : document.Current()->frames) {
         ASSERT_EQ(frame, document.FrameAt(visited++));
-        EXPECT_EQ(frame->bitmap->InitCheck(), B_OK);
+        EXPECT_TRUE(frame->bitmap->HasRows());
         EXPECT_EQ(frame->bitmap->Width(), frame->width);
         EXPECT_EQ(frame->bitmap->Height(), frame->height);
     }

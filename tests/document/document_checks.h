@@ -10,7 +10,7 @@ namespace kirto::test {
 // A frame of one black pixel.
 inline Frame MakeFrame(const std::string& name) {
     Frame frame(name, 1, 1);
-    frame.bitmap = PictureOf(1, 1, {0xFF000000});
+    frame.bitmap = FramePictureOf(1, 1, {0xFF000000});
     return frame;
 }
 

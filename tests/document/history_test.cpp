@@ -155,15 +155,18 @@ TEST_F(HistoryTest, ANewHistoryForgetsAllEditsAndTheOneBeingMade) {
 }
 
 TEST_F(HistoryTest, TheOldestStepsMakeRoomWhenPixelMemoryIsShort) {
-    constexpr int32 kSide = 16;
+    constexpr int32 kSide = 32;
     constexpr uint64 kPicture = kSide * kSide * 4;
     const auto append = [this](const char* name) {
         Step(name, [this, name] {
             auto picture = std::make_shared<BBitmap>(BRect::OfSize(kSide, kSide), B_RGB32,
                                                      document.pixel_budget);
             ASSERT_EQ(picture->InitCheck(), B_OK);
+            // So many colors that the bitmap is kept.
+            for (uint32 i = 0; i < kSide * kSide; ++i)
+                std::memcpy(picture->Bits() + i * 4, &i, 4);
             Frame frame(name, kSide, kSide);
-            frame.bitmap = std::move(picture);
+            frame.bitmap = Picture::Of(std::move(picture));
             document.InsertFrameAsCurrent(0, std::move(frame));
         });
     };

@@ -295,7 +295,7 @@ TEST(Fade, DoesNothingWithPicturesThatAreNot32Bit) {
     for (const int32 odd_one : {1, 2}) {
         ThreeShades fixture;
         FrameEditOf(fixture.document, odd_one)->bitmap =
-            std::make_shared<BBitmap>(BRect::OfSize(1, 1), B_CMAP8);
+            Picture::Of(std::make_shared<BBitmap>(BRect::OfSize(1, 1), B_CMAP8));
 
         fixture.Run(FadeMode::kToNext, 3);
 
@@ -331,15 +331,18 @@ TEST(Fade, StopsWithOutOfMemoryAndKeepsTheFramesInsertedSoFar) {
 
 TEST(Fade, ReportsMemoryOnlyAfterTheStatusOfAFrameThatCouldBeMade) {
     const auto transcript_with_fault = [](int64 failing) {
-        ThreeShades fixture;
+        DocumentFixture fixture;
+        AppendFrame(fixture.document, PictureOf(2, 1, {0xFF0A0A0A, 0xFF141414}), "frame");
+        fixture.port->TakeTranscript();
         AlertRecorder alerts;
+        int32 name_base = 0;
         const AllocationFault fault(failing);
-        fixture.Run(FadeMode::kToColor, 1);
+        Fade(fixture.document, FadeMode::kToColor, 2, {0, 0, 0, 255}, &name_base);
         EXPECT_EQ(alerts.Lines(), std::vector<std::string>{"WARNING [] Out of memory. | OK"});
         return fixture.port->Transcript();
     };
     EXPECT_EQ(transcript_with_fault(1), "");
-    EXPECT_EQ(transcript_with_fault(2), "svup(Status: generating frame 1 of 1...)");
+    EXPECT_EQ(transcript_with_fault(2), "svup(Status: generating frame 1 of 2...)");
 }
 
 TEST(Fade, StopsWhereTheDocumentsPixelMemoryEnds) {

@@ -103,7 +103,8 @@ TEST(InsertTiles, LeavesOutThePixelsThatMakeNoWholeTile) {
     for (const FramePointer& frame : fixture.document.Current()->frames) {
         EXPECT_EQ(frame->width, 25);
         EXPECT_EQ(frame->height, 16);
-        EXPECT_EQ(frame->bitmap->Bounds(), BRect(0, 0, 24, 15));
+        EXPECT_EQ(frame->bitmap->Width(), 25);
+        EXPECT_EQ(frame->bitmap->Height(), 16);
     }
     EXPECT_EQ(fixture.Corners().back(), 32u * 100 + 75);
 }
@@ -274,13 +275,13 @@ TEST(InsertTiles, AgreesWithAPlainCutInEveryColourSpace) {
             for (int32 inner = 0; inner < inner_count; ++inner) {
                 const int32 left = (grid.column_by_column ? outer : inner) * tile_width;
                 const int32 top = (grid.column_by_column ? inner : outer) * tile_height;
-                const BBitmap& tile = *fixture.document.FrameAt(k++)->bitmap;
-                ASSERT_EQ(tile.ColorSpace(), space);
-                ASSERT_EQ(tile.Width(), tile_width);
-                ASSERT_EQ(tile.Height(), tile_height);
+                const auto tile = fixture.document.FrameAt(k++)->bitmap->ToBitmap();
+                ASSERT_EQ(tile->ColorSpace(), space);
+                ASSERT_EQ(tile->Width(), tile_width);
+                ASSERT_EQ(tile->Height(), tile_height);
                 for (int32 y = 0; y < tile_height; ++y) {
                     for (int32 x = 0; x < tile_width; ++x) {
-                        ASSERT_EQ(PixelBytes(tile, x, y), PixelBytes(*picture, left + x, top + y));
+                        ASSERT_EQ(PixelBytes(*tile, x, y), PixelBytes(*picture, left + x, top + y));
                     }
                 }
             }

@@ -32,6 +32,10 @@ std::vector<uint8> RawPicture(const BBitmap& picture) {
     return bytes;
 }
 
+std::vector<uint8> RawPicture(const Picture& picture) {
+    return RawPicture(*picture.ToBitmap());
+}
+
 status_t FakeRoster::Translate(BFile& source, std::shared_ptr<PixelBudget> budget,
                                std::shared_ptr<BBitmap>* result) {
     result->reset();

@@ -5,12 +5,14 @@
 #include <vector>
 
 #include "kit/translator_roster.h"
+#include "picture/picture.h"
 
 namespace kirto::test {
 
 // The bytes of a file that FakeRoster reads as this picture, in any colour space, and that it
 // writes for it.
 std::vector<uint8> RawPicture(const BBitmap& picture);
+std::vector<uint8> RawPicture(const Picture& picture);
 
 // Knows two translators. One reads and writes raw pictures; the other can only read, so that it has
 // no file format to write. Tests write the public fields while nobody else uses the roster.

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "formats/gif/gif_save.h"
-#include "formats/gif/pixel_mapper.h"
+#include "support/test_support.h"
 
 namespace kirto::test {
 

@@ -103,10 +103,10 @@ void ChoosePicture(ChoiceSource& choices, const DocumentStyle& style, const Pale
         argb.push_back(pixels.Next());
     const color_space space = ChooseColorSpace(choices, style);
     if (Is32Bit(space)) {
-        frame->bitmap = PictureOf(frame->width, frame->height, argb, space);
+        frame->bitmap = FramePictureOf(frame->width, frame->height, argb, space);
     } else {
-        frame->bitmap =
-            std::make_shared<BBitmap>(BRect::OfSize(frame->width, frame->height), space);
+        frame->bitmap = Picture::Of(
+            std::make_shared<BBitmap>(BRect::OfSize(frame->width, frame->height), space));
     }
 }
 

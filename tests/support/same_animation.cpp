@@ -5,10 +5,12 @@
 
 namespace kirto::test {
 
-bool SamePicture(const BBitmap& a, const BBitmap& b) {
-    return a.Bounds() == b.Bounds() && a.ColorSpace() == b.ColorSpace() &&
-           a.BitsLength() == b.BitsLength() &&
-           std::equal(a.Bits(), a.Bits() + a.BitsLength(), b.Bits());
+bool SamePicture(const Picture& a, const Picture& b) {
+    if (a.Width() != b.Width() || a.Height() != b.Height() || a.ColorSpace() != b.ColorSpace())
+        return false;
+    const auto one = a.ToBitmap();
+    const auto other = b.ToBitmap();
+    return std::equal(one->Bits(), one->Bits() + one->BitsLength(), other->Bits());
 }
 
 namespace {

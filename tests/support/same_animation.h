@@ -7,8 +7,8 @@
 
 namespace kirto::test {
 
-// The same bounds, colour space and bytes.
-bool SamePicture(const BBitmap& a, const BBitmap& b);
+// The same size, color space and bytes.
+bool SamePicture(const Picture& a, const Picture& b);
 
 // Everything but the ids of the frames. A failure says what differs.
 testing::AssertionResult SameAnimation(const Animation& a, const Animation& b);

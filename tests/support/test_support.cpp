@@ -105,6 +105,11 @@ std::shared_ptr<BBitmap> PictureOf(int32 width, int32 height, const std::vector<
     return bitmap;
 }
 
+std::shared_ptr<const Picture> FramePictureOf(int32 width, int32 height,
+                                              const std::vector<uint32>& argb, color_space space) {
+    return Picture::Of(PictureOf(width, height, argb, space));
+}
+
 std::vector<uint32> PixelsOf(const BBitmap& bitmap) {
     std::vector<uint32> pixels;
     for (size_t i = 0; i + 4 <= bitmap.BitsLength(); i += 4) {
@@ -113,11 +118,32 @@ std::vector<uint32> PixelsOf(const BBitmap& bitmap) {
     return pixels;
 }
 
+std::vector<uint32> PixelsOf(const Picture& picture) {
+    std::vector<uint32> pixels;
+    std::vector<uint8> row(static_cast<size_t>(picture.Width()) * 4);
+    for (int32 y = 0; picture.HasRows() && y < picture.Height(); ++y) {
+        picture.ReadRow(y, row.data());
+        for (size_t i = 0; i < row.size(); i += 4)
+            pixels.push_back(ReadLittle32(row.data() + i));
+    }
+    return pixels;
+}
+
+rgb_color PixelColor(const Picture* picture, int32 x, int32 y) {
+    if (!picture || !picture->HasRows() || x >= picture->Width() || y >= picture->Height())
+        return {};
+    std::vector<uint8> row(static_cast<size_t>(picture->Width()) * 4);
+    picture->ReadRow(y, row.data());
+    const uint8* pixel = row.data() + static_cast<size_t>(x) * 4;
+    if (IsBigEndian(picture->ColorSpace())) return {pixel[1], pixel[2], pixel[3], pixel[0]};
+    return {pixel[2], pixel[1], pixel[0], pixel[3]};
+}
+
 FrameHandle AppendFrame(AnimationDocument& document, std::shared_ptr<BBitmap> bitmap,
                         const std::string& name) {
     Frame frame(name, bitmap->Width(), bitmap->Height());
-    frame.palette = SharePalette(Palette(static_cast<const BBitmap*>(bitmap.get())));
-    frame.bitmap = std::move(bitmap);
+    frame.bitmap = Picture::Of(std::move(bitmap));
+    frame.palette = SharePalette(Palette(frame.bitmap.get()));
     const FrameId id = frame.id;
     document.InsertFrame(document.FrameCount(), std::move(frame));
     return {document, id};

@@ -12,6 +12,7 @@
 #include "kit/alert.h"
 #include "kit/bitmap.h"
 #include "kit/message_port.h"
+#include "picture/picture.h"
 #include "support/document_edits.h"
 
 namespace kirto::test {
@@ -74,8 +75,15 @@ struct DocumentFixture {
 // A 32-bit picture of width x height pixels whose rows are given as 0xAARRGGBB values, row by row.
 std::shared_ptr<BBitmap> PictureOf(int32 width, int32 height, const std::vector<uint32>& argb,
                                    color_space space = B_RGB32);
+// The same as frames have it.
+std::shared_ptr<const Picture> FramePictureOf(int32 width, int32 height,
+                                              const std::vector<uint32>& argb,
+                                              color_space space = B_RGB32);
 // The pixels of a B_RGB32 or B_RGBA32 picture as 0xAARRGGBB values.
 std::vector<uint32> PixelsOf(const BBitmap& bitmap);
+std::vector<uint32> PixelsOf(const Picture& picture);
+// The picture's pixel as a color; black with alpha 0 outside the picture and where it has no rows.
+rgb_color PixelColor(const Picture* picture, int32 x, int32 y);
 
 // Appends a frame with the picture, an optimal palette for it and the given name.
 FrameHandle AppendFrame(AnimationDocument& document, std::shared_ptr<BBitmap> bitmap,

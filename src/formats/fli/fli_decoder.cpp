@@ -12,6 +12,7 @@
 #include "color/shared_palette.h"
 #include "formats/fli/fli_packets.h"
 #include "formats/fli/fli_pixel_writer.h"
+#include "picture/picture_builder.h"
 
 namespace kirto {
 
@@ -48,9 +49,8 @@ void MarkReadFromFile(Palette* palette) {
 }
 
 // Whether a picture's pixels have the byte order of the decoder's own.
-bool HasPixelsToCopy(const BBitmap* bitmap) {
-    return bitmap && bitmap->Bits() && Is32Bit(bitmap->ColorSpace()) &&
-           !IsBigEndian(bitmap->ColorSpace());
+bool HasPixelsToCopy(const Picture* picture) {
+    return picture && picture->HasRows() && !IsBigEndian(picture->ColorSpace());
 }
 
 }  // namespace
@@ -133,13 +133,16 @@ bool FliDecoder::StartFrame(int32 index) {
     frame_ = Frame(Format("frame%04d", index), width_, height_);
     local_palette_ = SharePalette();
     const BRect bounds = BRect::OfSize(width_, height_);
-    if (local_palette_) picture_ = std::make_shared<BBitmap>(bounds, B_RGB32, budget_);
-    if (!local_palette_ || picture_->InitCheck() != B_OK) {
+    if (local_palette_ && !canvas_) {
+        canvas_ = std::make_unique<BBitmap>(bounds, B_RGB32, budget_);
+        changed_rows_.assign(static_cast<size_t>(canvas_->Height()), true);
+    }
+    if (!local_palette_ || canvas_->InitCheck() != B_OK) {
         // No memory of any size makes a picture of no pixels.
         out_of_memory_ = !local_palette_ || bounds.IsValid();
         return false;
     }
-    return ChargeFrame(static_cast<int64>(picture_->BitsLength()));
+    return ChargeFrame(static_cast<int64>(canvas_->BitsLength()));
 }
 
 // A picture brings its own work with it. Where the file leads back it does not: the same few bytes
@@ -154,7 +157,12 @@ bool FliDecoder::ChargeFrame(int64 picture_bytes) {
 bool FliDecoder::CopyPreviousFrame() {
     const FramePointer& previous = place_->previous;
     if (!previous || !HasPixelsToCopy(previous->bitmap.get())) return false;
-    if (!CopyPixels(*previous->bitmap, *picture_, work_)) return false;
+    // Mostly they are on the canvas already.
+    if (previous->bitmap != last_picture_) {
+        changed_rows_.assign(changed_rows_.size(), true);
+        std::fill_n(canvas_->Bits(), canvas_->BitsLength(), 0);
+        if (!CopyPixels(*previous->bitmap, *canvas_, work_)) return false;
+    }
     if (previous->local_palette) TakeLocalPalette(*previous->palette);
     return true;
 }
@@ -211,15 +219,42 @@ bool FliDecoder::SkipUnknownChunk(const Chunk& chunk) {
 
 // Gives the frame its palette and its pixels.
 bool FliDecoder::FinishFrame() {
-    const BBitmap* picture = picture_.get();
+    frame_.bitmap = MakePicture();
+    if (!frame_.bitmap) {
+        out_of_memory_ = !work_.StopRequested();
+        return false;
+    }
     if (frame_.local_palette) {
-        local_palette_->unique_colors = local_palette_->CountUniqueColors(picture, &work_);
+        local_palette_->unique_colors =
+            local_palette_->CountUniqueColors(frame_.bitmap.get(), &work_);
     } else {
-        local_palette_->Set(picture, &work_);
+        local_palette_->Set(frame_.bitmap.get(), &work_);
     }
     frame_.palette = std::move(local_palette_);
-    frame_.bitmap = std::move(picture_);
+    last_picture_ = frame_.bitmap;
+    changed_rows_.assign(changed_rows_.size(), false);
     return !work_.StopRequested();
+}
+
+// The canvas as a picture, which takes the strips without a changed row from the last one. Null
+// when memory is short or the work was stopped.
+std::shared_ptr<const Picture> FliDecoder::MakePicture() const {
+    PictureBuilder builder(width_, height_, B_RGB32, budget_, last_picture_);
+    const int32 step = Strip::RowsFor(width_);
+    for (int32 y = 0; y < height_ && !work_.StopRequested();) {
+        const int32 end = std::min(y + step, height_);
+        const auto changed =
+            std::find(changed_rows_.begin() + y, changed_rows_.begin() + end, true);
+        if (last_picture_ && changed == changed_rows_.begin() + end) {
+            if (!builder.AddStrip(last_picture_->AllStrips()[static_cast<size_t>(y / step)]))
+                return nullptr;
+            y = end;
+        }
+        for (; y < end; ++y) {
+            if (!builder.AddRow(canvas_->Row(y))) return nullptr;
+        }
+    }
+    return work_.StopRequested() ? nullptr : builder.Take();
 }
 
 // The document's first frame defines the global palette, any other frame one of its own. Pixels
@@ -308,7 +343,7 @@ bool FliDecoder::ReadFliMINIChunk(int64 size) {
 }
 
 bool FliDecoder::ReadFliBLACKChunk() {
-    if (!input_.Spend(static_cast<int64>(picture_->BitsLength()))) return false;
+    if (!input_.Spend(static_cast<int64>(canvas_->BitsLength()))) return false;
     blank_ = true;
     StartPicture();
     return true;
@@ -317,7 +352,8 @@ bool FliDecoder::ReadFliBLACKChunk() {
 // For drawing into the current picture.
 FliPixelWriter FliDecoder::Writer() {
     StartPicture();
-    return FliPixelWriter(*picture_, frame_.local_palette ? *local_palette_ : global_);
+    return FliPixelWriter(*canvas_, frame_.local_palette ? *local_palette_ : global_,
+                          changed_rows_);
 }
 
 // The file's first picture starts black, but only once there is something to draw into it: until
@@ -325,10 +361,11 @@ FliPixelWriter FliDecoder::Writer() {
 void FliDecoder::StartPicture() {
     if (!blank_) return;
     blank_ = false;
+    changed_rows_.assign(changed_rows_.size(), true);
     static constexpr uint8 kOpaqueBlack[4] = {0, 0, 0, 255};
     for (int32 y = 0; y < height_ && !work_.StopRequested(); ++y) {
-        uint8* row = picture_->Row(y);
-        for (size_t i = 0; i < picture_->BytesPerRow(); i += sizeof(kOpaqueBlack))
+        uint8* row = canvas_->Row(y);
+        for (size_t i = 0; i < canvas_->BytesPerRow(); i += sizeof(kOpaqueBlack))
             std::memcpy(row + i, kOpaqueBlack, sizeof(kOpaqueBlack));
     }
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <vector>
 
 #include "animation/frame.h"
 #include "base/byte_reader.h"
@@ -68,6 +69,7 @@ class FliDecoder {
     bool ReadChunk();
     bool SkipUnknownChunk(const Chunk& chunk);
     bool FinishFrame();
+    std::shared_ptr<const Picture> MakePicture() const;
 
     // The chunk readers. size: bytes of the chunk's data, as its header says. False when the file
     // holds fewer or a seek or an allocation fails.
@@ -97,11 +99,14 @@ class FliDecoder {
     bool blank_ = false;          // the current picture is still to be filled with black
     int32 width_ = 0;             // of all pictures
     int32 height_ = 0;
-    // The frame being read; its own palette, in force where the frame is marked local; and its
-    // pixels.
+    // The frame being read, and its own palette, in force where the frame is marked local.
     Frame frame_;
     std::shared_ptr<Palette> local_palette_;
-    std::shared_ptr<BBitmap> picture_;
+    // Where all pictures are drawn, one over the other, with the rows that the current one differs
+    // in from the last that was made.
+    std::unique_ptr<BBitmap> canvas_;
+    std::vector<bool> changed_rows_;
+    std::shared_ptr<const Picture> last_picture_;
 };
 
 }  // namespace kirto

@@ -1,10 +1,11 @@
 #include "formats/gif/gif_composer.h"
 
 #include <algorithm>
-#include <cstring>
 #include <utility>
 
 #include "base/debug_line.h"
+#include "color/pixel_table.h"
+#include "formats/gif/gif_index_writer.h"
 #include "formats/gif/gif_lzw_decoder.h"
 
 namespace kirto {
@@ -28,7 +29,11 @@ void TakeColors(const GifColorTable& table, Palette* palette) {
 
 GifComposer::GifComposer(const Options& options, const Palette& global,
                          std::shared_ptr<PixelBudget> budget, Work& work)
-    : options_(options), budget_(std::move(budget)), work_(work), global_(global) {}
+    : options_(options),
+      budget_(std::move(budget)),
+      work_(work),
+      global_(global),
+      painter_(budget_) {}
 
 void GifComposer::SetScreen(const GifScreen& screen) {
     width_ = screen.width;
@@ -62,74 +67,92 @@ status_t GifComposer::Compose(const GifImage& image, int64 file_size, Frame* fra
     if (frame->local_palette) TakeColors(image.table, palette);
     if (!image.table.complete) return B_BAD_DATA;
     const Palette& current = frame->local_palette ? *palette : global_;
-    const status_t status = MakePicture(image, current);
-    if (status != B_OK) return status;
-    if (image.data.too_large) return B_NO_MEMORY;
-    if (!ReadGifImageData(image, current, file_size)) return B_BAD_DATA;
-    frame->width = options_.full_frame ? width_ : image.width;
-    frame->height = options_.full_frame ? height_ : image.height;
+    const int32 width = options_.full_frame ? width_ : image.width;
+    const int32 height = options_.full_frame ? height_ : image.height;
+    // No memory of any size makes a picture of no pixels.
+    if (width == 0 || height == 0) return B_BAD_DATA;
+    // Pictures are given to others as bitmaps, however little memory they take here.
+    if (uint64{4} * static_cast<uint64>(width) * static_cast<uint64>(height) > budget_->Limit())
+        return B_NO_MEMORY;
+    if (image.data.too_large || !ReserveIndices(image)) return B_NO_MEMORY;
+    IndexImage indices;
+    if (!ReadGifImageData(image, current, file_size, &indices)) return B_BAD_DATA;
+    std::shared_ptr<const Picture> picture = Below(image, current);
+    picture = painter_.Paint(picture, indices);
+    if (!picture) return B_NO_MEMORY;
+    frame->width = width;
+    frame->height = height;
     frame->x_offset = options_.full_frame ? 0 : image.left;
     frame->y_offset = options_.full_frame ? 0 : image.top;
-    previous_ = picture_;
-    frame->bitmap = std::move(picture_);
+    previous_ = picture;
+    frame->bitmap = std::move(picture);
     return work_.StopRequested() ? B_CANCELED : B_OK;
 }
 
-// As it is before the image is drawn.
-status_t GifComposer::MakePicture(const GifImage& image, const Palette& current) {
-    const BRect bounds = options_.full_frame ? BRect::OfSize(width_, height_)
-                                             : BRect::OfSize(image.width, image.height);
-    picture_ = std::make_shared<BBitmap>(bounds, B_RGB32, budget_);
-    if (picture_->InitCheck() != B_OK) {
-        // No memory of any size makes a picture of no pixels.
-        return bounds.IsValid() ? B_NO_MEMORY : B_BAD_DATA;
-    }
-    if (!options_.full_frame || CoversScreen(image)) return B_OK;
-    if (previous_) return FrameDisposal(current) ? B_OK : B_CANCELED;
-    if (previous_disposal_ == kDisposalBackground) FillScreen(current);
-    return B_OK;
+// What the image is drawn over.
+std::shared_ptr<const Picture> GifComposer::Below(const GifImage& image, const Palette& current) {
+    if (!options_.full_frame) return Solid(0, image.width, image.height);
+    if (CoversScreen(image)) return Solid(0, width_, height_);
+    if (previous_) return FrameDisposal(current);
+    const bool background = previous_disposal_ == kDisposalBackground;
+    const uint32 pixel = PixelOf(current.ColorForIndex(global_.background_index));
+    return Solid(background ? pixel : 0, width_, height_);
 }
 
-// Starts a full-size frame from the picture before it, as that picture's disposal says.
-bool GifComposer::FrameDisposal(const Palette& current) {
-    if (!CopyPixels(*previous_, *picture_, work_)) return false;
+// What the picture before leaves, as its disposal says.
+std::shared_ptr<const Picture> GifComposer::FrameDisposal(const Palette& current) {
     if (previous_disposal_ == -1) previous_disposal_ = 0;
     // A frame decoded at full size claims the whole screen as its rectangle, so this clears the
     // whole canvas, not only what the image before had drawn. Intended.
-    if (previous_disposal_ == kDisposalBackground) FillScreen(current);
+    if (previous_disposal_ != kDisposalBackground) return previous_;
+    return Solid(PixelOf(current.ColorForIndex(global_.background_index)), width_, height_);
+}
+
+std::shared_ptr<const Picture> GifComposer::Solid(uint32 pixel, int32 width, int32 height) {
+    // It lasts until it is painted over.
+    return Picture::Solid(pixel, width, height, B_RGB32, nullptr);
+}
+
+// Makes room for the image's indices. False when memory is short.
+bool GifComposer::ReserveIndices(const GifImage& image) {
+    const size_t size = static_cast<size_t>(image.width) * static_cast<size_t>(image.height);
+    if (size <= room_) return true;
+    if (size > budget_->Left() + PixelBudget::kWorkingRoom) return false;
+    indices_ = AllocateArray<uint8>(size);
+    room_ = indices_ ? size : 0;
+    return room_ > 0;
+}
+
+bool GifComposer::ReadGifImageData(const GifImage& image, const Palette& current, int64 file_size,
+                                   IndexImage* indices) {
+    int32 min_code_size = 0;
+    if (!CheckCodeSize(image.min_code_size, current, &min_code_size)) return false;
+    GifIndexWriter writer(indices_.get(), image.width, image.height, image.interlaced);
+    if (!GifLzwDecoder(image.data, min_code_size).Decode(writer, work_, file_size)) return false;
+    row_lengths_ = writer.RowLengths();
+    indices->indices = {indices_.get(), room_};
+    indices->left = options_.full_frame ? image.left : 0;
+    indices->top = options_.full_frame ? image.top : 0;
+    indices->width = image.width;
+    indices->height = image.height;
+    indices->row_lengths = row_lengths_;
+    SetColors(current, indices);
     return true;
 }
 
-void GifComposer::FillScreen(const Palette& current) {
-    const uint32 pixel = PixelOf(current.ColorForIndex(global_.background_index));
-    for (int32 y = 0; y < height_ && !work_.StopRequested(); ++y) {
-        uint8* row = picture_->Row(y);
-        for (size_t x = 0; x < static_cast<size_t>(width_); ++x)
-            std::memcpy(row + x * 4, &pixel, 4);
-    }
-}
-
-bool GifComposer::ReadGifImageData(const GifImage& image, const Palette& current, int64 file_size) {
-    int32 min_code_size = 0;
-    if (!CheckCodeSize(image.min_code_size, current, &min_code_size)) return false;
-    GifPixelColors colors = PixelColorsOf(current);
+void GifComposer::SetColors(const Palette& current, IndexImage* indices) {
+    PixelTable table = PixelTableOf(current.colors);
     const int32 transparent = global_.transparent_index;
     if (global_.use_transparent && transparent >= 0 && transparent < 256) {
         if (options_.full_frame) {
-            colors.skipped_index = transparent;
+            indices->skipped = transparent;
         } else {
-            colors.pixels[static_cast<size_t>(transparent)] =
+            table.pixels[static_cast<size_t>(transparent)] =
                 PixelOf(options_.draw_transparent ? kDrawnTransparent : kPlainTransparent);
         }
     }
-    GifImageArea area{0, 0, image.width, image.height};
-    if (options_.full_frame) {
-        area.left = image.left;
-        area.top = image.top;
-    }
-    GifPixelWriter writer(*picture_, area, image.interlaced, colors);
-    GifLzwDecoder decoder(image.data, min_code_size);
-    return decoder.Decode(writer, work_, file_size);
+    if (!table_ || *table_ != table) table_ = std::make_shared<const PixelTable>(table);
+    indices->table = table_;
 }
 
 // A code size above the palette's depth is allowed, one below it is not: deliberately lopsided. A

@@ -3,11 +3,13 @@
 #include <memory>
 
 #include "animation/frame.h"
+#include "base/allocation.h"
 #include "base/pixel_budget.h"
 #include "base/work.h"
 #include "color/palette.h"
 #include "formats/gif/gif_parser.h"
-#include "formats/gif/gif_pixel_writer.h"
+#include "picture/index_painter.h"
+#include "picture/picture.h"
 
 namespace kirto {
 
@@ -38,11 +40,14 @@ class GifComposer {
     status_t Compose(const GifImage& image, int64 file_size, Frame* frame, Palette* palette);
 
   private:
-    status_t MakePicture(const GifImage& image, const Palette& current);
-    bool FrameDisposal(const Palette& current);
-    bool ReadGifImageData(const GifImage& image, const Palette& current, int64 file_size);
+    std::shared_ptr<const Picture> Below(const GifImage& image, const Palette& current);
+    std::shared_ptr<const Picture> FrameDisposal(const Palette& current);
+    static std::shared_ptr<const Picture> Solid(uint32 pixel, int32 width, int32 height);
+    bool ReserveIndices(const GifImage& image);
+    bool ReadGifImageData(const GifImage& image, const Palette& current, int64 file_size,
+                          IndexImage* indices);
+    void SetColors(const Palette& current, IndexImage* indices);
     bool CheckCodeSize(uint8 size, const Palette& current, int32* min_code_size) const;
-    void FillScreen(const Palette& current);
     bool CoversScreen(const GifImage& image) const;
 
     const Options options_;
@@ -53,8 +58,12 @@ class GifComposer {
     int32 height_ = 0;
     int32 current_disposal_ = -1;  // -1: no control block seen yet
     int32 previous_disposal_ = -1;
-    std::shared_ptr<const BBitmap> previous_;  // the picture before; null for the first
-    std::shared_ptr<BBitmap> picture_;         // the one being made
+    std::shared_ptr<const Picture> previous_;  // the picture before; null for the first
+    IndexPainter painter_;
+    AllocatedArray<uint8> indices_;  // of the last image, one a pixel
+    size_t room_ = 0;                // there is for indices
+    std::vector<int32> row_lengths_;
+    SharedPixelTable table_;  // of the last image
 };
 
 }  // namespace kirto

@@ -34,9 +34,10 @@ uint8 LargestUnboundIndex(const Frame& frame, const Palette& palette, uint8 tran
                           const Work& work) {
     const bool grey_ramp = palette.mode == kPaletteGreyscale;
     uint8 largest = 0;
+    std::vector<rgb_color> row;
     for (int32 y = 0; y < frame.height && !work.StopRequested(); ++y) {
-        for (int32 x = 0; x < frame.width; ++x) {
-            const rgb_color color = PixelColor(frame.bitmap.get(), x, y);
+        ReadColors(frame.bitmap.get(), y, frame.width, &row);
+        for (const rgb_color color : row) {
             if (color.alpha < 255) {
                 largest = std::max(largest, transparent);
             } else if (grey_ramp) {

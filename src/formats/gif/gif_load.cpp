@@ -100,7 +100,7 @@ bool GifLoad::StartFrame() {
 
 // Gives the frame its palette, and the document the frame.
 bool GifLoad::FinishFrame() {
-    const BBitmap* picture = frame_.bitmap.get();
+    const kirto::Picture* picture = frame_.bitmap.get();
     if (frame_.local_palette) {
         local_palette_->unique_colors = local_palette_->CountUniqueColors(picture, &document_.work);
     } else {

@@ -6,7 +6,7 @@
 
 #include "base/byte_order.h"
 #include "base/debug_line.h"
-#include "formats/gif/gif_pixel_writer.h"
+#include "formats/gif/gif_index_writer.h"
 
 namespace kirto {
 
@@ -86,7 +86,7 @@ void GifLzwDecoder::ResetTable() {
     previous_ = kNoString;
 }
 
-bool GifLzwDecoder::Decode(GifPixelWriter& writer, Work& work, int64 file_size) {
+bool GifLzwDecoder::Decode(GifIndexWriter& writer, Work& work, int64 file_size) {
     bool cleared = false;  // nothing but clear codes since the last string
     for (int32 codes_left = 0;;) {
         if (codes_left == 0) {
@@ -159,7 +159,7 @@ int32 GifLzwDecoder::TakeStrings(int32 most, bool wanted) {
     return most - left;
 }
 
-void GifLzwDecoder::Deliver(GifPixelWriter& writer) {
+void GifLzwDecoder::Deliver(GifIndexWriter& writer) {
     writer.Write(collected_.data(), collected_size_);
     collected_size_ = 0;
 }

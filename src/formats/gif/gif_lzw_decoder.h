@@ -8,7 +8,7 @@
 
 namespace kirto {
 
-class GifPixelWriter;
+class GifIndexWriter;
 
 // Decodes the LZW data of one GIF image. Codes are taken least significant bit first. A stream that
 // never clears its table goes on with the full table of 4096 codes.
@@ -25,7 +25,7 @@ class GifLzwDecoder {
     // Hands every pixel's index to the writer. True when the data ended with the end code or was
     // complete; false when it was not, when the work was stopped, or when a clear code is followed
     // by the end. The work is told how far this is in a file of that size.
-    bool Decode(GifPixelWriter& writer, Work& work, int64 file_size);
+    bool Decode(GifIndexWriter& writer, Work& work, int64 file_size);
 
   private:
     static constexpr uint32 kMaxCodes = 4096;
@@ -67,7 +67,7 @@ class GifLzwDecoder {
     void ResetTable();
     int32 TakeStrings(int32 most, bool wanted);
     void TakeFirstString(uint32 code);
-    void Deliver(GifPixelWriter& writer);
+    void Deliver(GifIndexWriter& writer);
 
     const GifImageData& data_;
     std::array<uint8, 8> short_data_{};  // zeros behind data of fewer bytes

@@ -13,19 +13,23 @@ rgb_color ColorOf(const uint8* pixel) {
     return {pixel[2], pixel[1], pixel[0], pixel[3]};
 }
 
-// So many of the row's first width pixels lie in the bitmap.
-int32 PixelsInside(const BBitmap* bitmap, int32 y, int32 width) {
-    if (!bitmap || !Is32Bit(bitmap->ColorSpace()) || y >= bitmap->Height()) return 0;
-    return std::min(width, bitmap->Width());
+// So many of the row's first width pixels lie in the picture.
+int32 PixelsInside(const Picture* picture, int32 y, int32 width) {
+    if (!picture || !picture->HasRows() || y >= picture->Height()) return 0;
+    return std::min(width, picture->Width());
 }
 
 }  // namespace
 
-rgb_color PixelColor(const BBitmap* bitmap, int32 x, int32 y) {
-    if (!bitmap || !Is32Bit(bitmap->ColorSpace())) return {};
-    if (x >= bitmap->Width() || y >= bitmap->Height()) return {};
-    const uint8* pixel = bitmap->Row(y) + static_cast<size_t>(x) * 4;
-    return IsBigEndian(bitmap->ColorSpace()) ? ColorOf<true>(pixel) : ColorOf<false>(pixel);
+void ReadColors(const Picture* picture, int32 y, int32 width, std::vector<rgb_color>* colors) {
+    colors->assign(static_cast<size_t>(width), rgb_color{0, 0, 0, 0});
+    const int32 inside = PixelsInside(picture, y, width);
+    if (inside == 0) return;
+    std::vector<uint8> row(static_cast<size_t>(inside) * 4);
+    picture->Row(y).Expand(inside, row.data());
+    const auto color_of = IsBigEndian(picture->ColorSpace()) ? ColorOf<true> : ColorOf<false>;
+    for (size_t x = 0; x < static_cast<size_t>(inside); ++x)
+        (*colors)[x] = color_of(row.data() + x * 4);
 }
 
 PixelMapper::PixelMapper(uint8 transparent_index, bool dither, int32 max_width)
@@ -37,22 +41,59 @@ void PixelMapper::StartPicture(const Palette& palette, bool unconnected_rows) {
     unconnected_rows_ = unconnected_rows;
     nearest_.SetTable(palette.colors, palette.size);
     if (!diffusing_) memo_.Clear();
+    table_ = nullptr;
     if (diffusing_) diffusion_.StartPicture();
 }
 
-void PixelMapper::MapRow(const BBitmap* bitmap, int32 y, int32 width, std::vector<uint8>* indices) {
+void PixelMapper::MapRow(const Picture* picture, int32 y, int32 width,
+                         std::vector<uint8>* indices) {
     indices->resize(static_cast<size_t>(width));
-    const int32 inside = PixelsInside(bitmap, y, width);
-    const uint8* row = inside > 0 ? bitmap->Row(y) : nullptr;
-    const bool big_endian = bitmap && IsBigEndian(bitmap->ColorSpace());
-    if (diffusing_) {
-        big_endian ? DiffusePixels<true>(row, width, inside, indices->data())
-                   : DiffusePixels<false>(row, width, inside, indices->data());
+    const int32 inside = PixelsInside(picture, y, width);
+    const bool big_endian = picture && IsBigEndian(picture->ColorSpace());
+    const PixelRow row = inside > 0 ? picture->Row(y) : PixelRow();
+    if (inside > 0 && !diffusing_ && !row.pixels) {
+        MapIndices(row, big_endian, inside, indices->data());
     } else {
-        big_endian ? MapPixels<true>(row, inside, indices->data())
-                   : MapPixels<false>(row, inside, indices->data());
+        const uint8* pixels = row.pixels;
+        if (inside > 0 && !pixels) {
+            row_.resize(static_cast<size_t>(inside) * 4);
+            row.Expand(inside, row_.data());
+            pixels = row_.data();
+        }
+        if (diffusing_) {
+            big_endian ? DiffusePixels<true>(pixels, width, inside, indices->data())
+                       : DiffusePixels<false>(pixels, width, inside, indices->data());
+        } else {
+            big_endian ? MapPixels<true>(pixels, inside, indices->data())
+                       : MapPixels<false>(pixels, inside, indices->data());
+        }
     }
     std::fill(indices->begin() + inside, indices->end(), transparent_index_);
+}
+
+// Each entry of a table is mapped once, not each pixel.
+void PixelMapper::MapIndices(const PixelRow& row, bool big_endian, int32 count, uint8* indices) {
+    if (!row.indices) {
+        std::fill_n(indices, count, MapPixel(row.solid, big_endian));
+        return;
+    }
+    if (*row.table != table_ || table_big_endian_ != big_endian) {
+        table_ = *row.table;
+        table_big_endian_ = big_endian;
+        table_indices_.fill(kUnknown);
+    }
+    for (int32 x = 0; x < count; ++x) {
+        uint16& mapped = table_indices_[row.indices[x]];
+        if (mapped == kUnknown) mapped = MapPixel(table_->pixels[row.indices[x]], big_endian);
+        indices[x] = static_cast<uint8>(mapped);
+    }
+}
+
+uint8 PixelMapper::MapPixel(uint32 pixel, bool big_endian) {
+    uint8 bytes[4];
+    std::memcpy(bytes, &pixel, sizeof(bytes));
+    const rgb_color color = big_endian ? ColorOf<true>(bytes) : ColorOf<false>(bytes);
+    return color.alpha < 255 ? transparent_index_ : MapColor(color);
 }
 
 template <bool kBigEndian>

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <memory>
 #include <vector>
 
@@ -8,7 +9,7 @@
 #include "color/palette.h"
 #include "formats/gif/error_diffusion.h"
 #include "formats/gif/index_memo.h"
-#include "kit/bitmap.h"
+#include "picture/picture.h"
 
 namespace kirto {
 
@@ -25,12 +26,14 @@ class PixelMapper {
     // so no error passes from row to row.
     void StartPicture(const Palette& palette, bool unconnected_rows);
 
-    // Maps row y of the bitmap, width pixels wide. Pixels outside the bitmap, and all pixels of a
-    // bitmap that is null or not 32-bit, count as transparent.
-    void MapRow(const BBitmap* bitmap, int32 y, int32 width, std::vector<uint8>* indices);
+    // Maps row y of the picture, width pixels wide. Pixels outside the picture, and all pixels of
+    // one that is null or without rows, count as transparent.
+    void MapRow(const Picture* picture, int32 y, int32 width, std::vector<uint8>* indices);
 
   private:
-    // The row's pixels that lie in the bitmap.
+    void MapIndices(const PixelRow& row, bool big_endian, int32 count, uint8* indices);
+    uint8 MapPixel(uint32 pixel, bool big_endian);
+    // The row's pixels that lie in the picture.
     template <bool kBigEndian>
     void MapPixels(const uint8* row, int32 count, uint8* indices);
     template <bool kBigEndian>
@@ -45,10 +48,17 @@ class PixelMapper {
     NearestColor nearest_;  // in the current picture's palette
     IndexMemo memo_;        // of the current picture
     ErrorDiffusion diffusion_;
+    std::vector<uint8> row_;  // the current row's pixels where they have to be made
+
+    // What the entries of the last row's table become; kUnknown where no pixel asked yet.
+    static constexpr uint16 kUnknown = 0xFFFF;
+    SharedPixelTable table_;
+    bool table_big_endian_ = false;
+    std::array<uint16, 256> table_indices_;
 };
 
-// The picture's pixel as a color; black with alpha 0 outside the bitmap and in other color spaces
-// than the 32-bit ones.
-rgb_color PixelColor(const BBitmap* bitmap, int32 x, int32 y);
+// Row y of the picture as colors, width of them; black with alpha 0 outside the picture and where
+// it has no rows.
+void ReadColors(const Picture* picture, int32 y, int32 width, std::vector<rgb_color>* colors);
 
 }  // namespace kirto

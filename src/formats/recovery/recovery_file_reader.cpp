@@ -184,7 +184,7 @@ bool RecoveryFileReader::ReadPicture() {
     if (picture->InitCheck() != B_OK) return OutOfMemory();
     if (blocks_.Left() != picture->BitsLength()) return Refuse("a picture has another size");
     if (!blocks_.Read({picture->Bits(), picture->BitsLength()}) || !blocks_.Close()) return false;
-    pictures_.push_back(picture);
+    pictures_.push_back(Picture::Of(picture, budget_));
     return true;
 }
 

@@ -49,7 +49,7 @@ class RecoveryFileReader {
     RecoveryDocument document_;
     // By their numbers, in the order of the file.
     std::vector<std::shared_ptr<const Palette>> palettes_;
-    std::vector<std::shared_ptr<const BBitmap>> pictures_;
+    std::vector<std::shared_ptr<const Picture>> pictures_;
 };
 
 }  // namespace kirto

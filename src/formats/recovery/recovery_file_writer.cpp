@@ -91,14 +91,16 @@ bool RecoveryFileWriter::WritePalette(const Palette& palette) {
     return WriteBlock(kRecoveryPalette, fields);
 }
 
-bool RecoveryFileWriter::WritePicture(const BBitmap& picture) {
+bool RecoveryFileWriter::WritePicture(const Picture& picture) {
     if (!pictures_.emplace(&picture, static_cast<uint32>(pictures_.size())).second) return true;
-    const BRect bounds = picture.Bounds();
+    const std::shared_ptr<const BBitmap> bitmap = picture.ToBitmap();
+    if (bitmap->InitCheck() != B_OK) return Fail(B_NO_MEMORY);
+    const BRect bounds = bitmap->Bounds();
     ByteWriter fields;
     for (const float edge : {bounds.left, bounds.top, bounds.right, bounds.bottom})
         fields.F32(edge);
     fields.S32(picture.ColorSpace());
-    return WriteBlock(kRecoveryPicture, fields, {picture.Bits(), picture.BitsLength()});
+    return WriteBlock(kRecoveryPicture, fields, {bitmap->Bits(), bitmap->BitsLength()});
 }
 
 bool RecoveryFileWriter::WriteFrame(const Frame& frame) {

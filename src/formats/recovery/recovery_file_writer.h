@@ -31,7 +31,7 @@ class RecoveryFileWriter {
     bool WriteMagic();
     bool WriteHead(const DocumentState& state, int64 written);
     bool WritePalette(const Palette& palette);
-    bool WritePicture(const BBitmap& picture);
+    bool WritePicture(const Picture& picture);
     bool WriteFrame(const Frame& frame);
     bool WriteBlock(uint32 kind, const ByteWriter& fields, std::span<const uint8> pixels = {});
     bool Fail(status_t status);
@@ -40,7 +40,7 @@ class RecoveryFileWriter {
     RecoveryBlockWriter blocks_;
     // The numbers of what is written, in the order of the file.
     std::unordered_map<const Palette*, uint32> palettes_;
-    std::unordered_map<const BBitmap*, uint32> pictures_;
+    std::unordered_map<const Picture*, uint32> pictures_;
     status_t status_ = B_OK;
 };
 

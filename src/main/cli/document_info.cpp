@@ -55,6 +55,16 @@ Json PaletteJson(const Palette& palette) {
             {"colors", colors}};
 }
 
+std::string PictureDigest(const Picture& picture) {
+    std::vector<uint8> row(static_cast<size_t>(picture.Width()) * 4);
+    Md5 digest;
+    for (int32 y = 0; picture.HasRows() && y < picture.Height(); ++y) {
+        picture.ReadRow(y, row.data());
+        digest.Add(row.data(), row.size());
+    }
+    return digest.Finish();
+}
+
 Json FrameJson(const Frame& frame, int32 index) {
     return {{"index", index},
             {"name", frame.name},
@@ -66,7 +76,7 @@ Json FrameJson(const Frame& frame, int32 index) {
             {"use_pause", frame.use_pause},
             {"local_palette", frame.local_palette},
             {"palette", PaletteJson(*frame.palette)},
-            {"md5", Md5Hex(frame.bitmap->Bits(), frame.bitmap->BitsLength())}};
+            {"md5", PictureDigest(*frame.bitmap)}};
 }
 
 }  // namespace

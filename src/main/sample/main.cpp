@@ -30,9 +30,9 @@ bool MakeFrame(const SamplePicture& picture, int32 index, const AnimationDocumen
         target[i + 3] = source[i + 3];
     }
     *frame = Frame(kirto::Format("ball%04d", index), picture.width, picture.height);
-    frame->palette = kirto::SharePalette(Palette(static_cast<const BBitmap*>(bitmap.get())));
+    frame->bitmap = kirto::Picture::Of(bitmap, document.pixel_budget);
+    frame->palette = kirto::SharePalette(Palette(frame->bitmap.get()));
     frame->local_palette = true;
-    frame->bitmap = bitmap;
     return frame->palette != nullptr;
 }
 

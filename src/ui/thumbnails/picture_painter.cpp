@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "kit/qt/picture_image.h"
+#include "ui/thumbnails/image_of.h"
 
 namespace kirto {
 
@@ -57,7 +57,7 @@ PicturePainter::PicturePainter(QPainter& painter, const QPalette& palette, bool 
     since_start_.start();
 }
 
-void PicturePainter::Draw(const std::shared_ptr<const BBitmap>& picture, const BRect& rectangle) {
+void PicturePainter::Draw(const std::shared_ptr<const Picture>& picture, const BRect& rectangle) {
     const QRectF target = OnPixels(rectangle, device_pixel_ratio_);
     const QSize size = (target.size() * device_pixel_ratio_).toSize();
     if (int64{size.width()} * size.height() > kMostPixelsKept) {
@@ -84,9 +84,9 @@ void PicturePainter::DrawBackdrop(const QRectF& target) {
     painter_.fillRect(target, backdrop_);
 }
 
-void PicturePainter::DrawUnscaled(const std::shared_ptr<const BBitmap>& picture,
+void PicturePainter::DrawUnscaled(const std::shared_ptr<const Picture>& picture,
                                   const QRectF& target, bool smooth) {
-    const QImage image = ImageOfPicture(picture);
+    const QImage image = ImageOf(picture);
     if (image.isNull() || image.hasAlphaChannel()) DrawBackdrop(target);
     painter_.setRenderHint(QPainter::SmoothPixmapTransform, smooth);
     painter_.drawImage(target, image);

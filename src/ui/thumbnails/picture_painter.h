@@ -24,8 +24,8 @@ class PicturePainter {
     PicturePainter(QPainter& painter, const QPalette& palette, bool draw_transparent,
                    ThumbnailCache& cache);
 
-    // Only the backdrop if the picture is not 32-bit.
-    void Draw(const std::shared_ptr<const BBitmap>& picture, const BRect& rectangle);
+    // Only the backdrop if the picture has no rows.
+    void Draw(const std::shared_ptr<const Picture>& picture, const BRect& rectangle);
 
     // True when a picture was painted coarsely: paint again, later.
     bool WasCoarse() const { return was_coarse_; }
@@ -33,7 +33,7 @@ class PicturePainter {
   private:
     void DrawBackdrop(const QRectF& target);
     // For pictures so large on the device that they are not kept.
-    void DrawUnscaled(const std::shared_ptr<const BBitmap>& picture, const QRectF& target,
+    void DrawUnscaled(const std::shared_ptr<const Picture>& picture, const QRectF& target,
                       bool smooth);
 
     QPainter& painter_;

@@ -194,7 +194,7 @@ bool ThumbDrawingView::SaveToTracker(BMessage* message) {
     if (message->FindString("name", &name) != B_OK) return false;
     const kirto::FramePointer frame = shown_.CurrentFrame();
     if (!frame) return false;
-    const std::shared_ptr<const BBitmap> picture = frame->bitmap;
+    const std::shared_ptr<const BBitmap> picture = frame->bitmap->ToBitmap();
     const std::string path = directory.path + "/" + name;
     if (kirto::WriteTargaFile(*picture, path, editor_.roster)) return true;
     ReportFailedSave();

@@ -1,20 +1,20 @@
 #include "ui/thumbnails/thumbnail_cache.h"
 
-#include "kit/qt/picture_image.h"
+#include "ui/thumbnails/image_of.h"
 
 namespace kirto {
 
 ThumbnailCache::ThumbnailCache(int64 max_bytes) : entries_(static_cast<qsizetype>(max_bytes)) {}
 
-QImage ThumbnailCache::Find(const std::shared_ptr<const BBitmap>& picture, QSize size) const {
+QImage ThumbnailCache::Find(const std::shared_ptr<const Picture>& picture, QSize size) const {
     const Entry* entry = entries_.object({picture.get(), size});
     return entry && entry->picture.lock() == picture ? entry->image : QImage();
 }
 
-QImage ThumbnailCache::Scaled(const std::shared_ptr<const BBitmap>& picture, QSize size) {
+QImage ThumbnailCache::Scaled(const std::shared_ptr<const Picture>& picture, QSize size) {
     QImage image = Find(picture, size);
     if (!image.isNull()) return image;
-    const QImage source = ImageOfPicture(picture);
+    const QImage source = ImageOf(picture);
     // What is scaled is first made premultiplied, so that the colours below transparent pixels do
     // not bleed into their neighbours.
     image = source.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);

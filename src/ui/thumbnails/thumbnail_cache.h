@@ -6,7 +6,7 @@
 #include <memory>
 
 #include "base/types.h"
-#include "kit/bitmap.h"
+#include "picture/picture.h"
 
 namespace kirto {
 
@@ -19,14 +19,14 @@ class ThumbnailCache {
     explicit ThumbnailCache(int64 max_bytes = kMaxBytes);
 
     // The picture at size, in pixels of the device, if it is here; else null.
-    QImage Find(const std::shared_ptr<const BBitmap>& picture, QSize size) const;
-    // The same, scaled smoothly if need be. Null if the picture is not 32-bit, and when memory is
+    QImage Find(const std::shared_ptr<const Picture>& picture, QSize size) const;
+    // The same, scaled smoothly if need be. Null if the picture has no rows, and when memory is
     // short.
-    QImage Scaled(const std::shared_ptr<const BBitmap>& picture, QSize size);
+    QImage Scaled(const std::shared_ptr<const Picture>& picture, QSize size);
 
   private:
     struct Key {
-        const BBitmap* picture;
+        const Picture* picture;
         QSize size;
 
         friend bool operator==(const Key&, const Key&) = default;
@@ -35,7 +35,7 @@ class ThumbnailCache {
         }
     };
     struct Entry {
-        std::weak_ptr<const BBitmap> picture;  // another picture may later have its address
+        std::weak_ptr<const Picture> picture;  // another picture may later have its address
         QImage image;
     };
 

@@ -35,7 +35,7 @@ int64 Seconds() {
 DocumentState StateNamed(const std::string& name) {
     Animation animation;
     Frame frame("frame", 2, 1);
-    frame.bitmap = PictureOf(2, 1, {0xff102030, 0xff405060});
+    frame.bitmap = FramePictureOf(2, 1, {0xff102030, 0xff405060});
     InsertFrame(animation, 0, std::make_shared<const Frame>(std::move(frame)));
     DocumentState state;
     state.animation = std::make_shared<const Animation>(std::move(animation));

@@ -370,10 +370,12 @@ TEST_F(FliLoadTest, AFrameBeforeWithoutUsablePixelsFails) {
     AppendFrame(document_, PictureOf(1, 1, {kRed}, B_RGB32_BIG), "big endian");
     EXPECT_TRUE(LoadFile(fli, 1).failed);
 
-    FrameEditOf(document_, 0)->bitmap = std::make_shared<BBitmap>(BRect::OfSize(1, 1), B_GRAY8);
+    FrameEditOf(document_, 0)->bitmap =
+        Picture::Of(std::make_shared<BBitmap>(BRect::OfSize(1, 1), B_GRAY8));
     EXPECT_TRUE(LoadFile(fli, 1).failed);
 
-    FrameEditOf(document_, 0)->bitmap = std::make_shared<BBitmap>(BRect::OfSize(0, 0), B_RGB32);
+    FrameEditOf(document_, 0)->bitmap =
+        Picture::Of(std::make_shared<BBitmap>(BRect::OfSize(0, 0), B_RGB32));
     EXPECT_TRUE(LoadFile(fli, 1).failed);
 
     FrameEditOf(document_, 0)->bitmap = nullptr;
@@ -411,7 +413,7 @@ TEST_F(FliLoadTest, APictureOfNoPixelsFails) {
 }
 
 TEST_F(FliLoadTest, APictureAboveTheDocumentsCeilingFails) {
-    document_.pixel_budget->SetLimit(50 + 2 * PixelBudget::kFrameCost);
+    document_.pixel_budget->SetLimit(50 + 3 * PixelBudget::kFrameCost);  // the canvas as well
     FliBuilder fli(3, 2);
     fli.Record().Black().Record().Black().Record().Black();
 

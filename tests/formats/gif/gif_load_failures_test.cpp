@@ -29,8 +29,8 @@ GifBuilder TwoFrames() {
     return FirstHalf().Control(1, 20).Bytes({0x21, 0x01, 1, 0xAA, 0}).Add(SecondImage()).Trailer();
 }
 
-// What the pixels of an image of 4 x 4 take.
-constexpr uint64 kFrameBytes = 4 * 4 * 4 + PixelBudget::kFrameCost;
+// What an image of 4 x 4 pixels of one color takes.
+constexpr uint64 kFrameBytes = PixelBudget::kFrameCost;
 
 GifBuilder FourByFour(int32 count) {
     GifBuilder gif = FourColorGif(4, 4);

@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 #include <random>
 
-#include "formats/gif/gif_pixel_writer.h"
+#include "formats/gif/gif_index_writer.h"
 #include "formats/gif/reference_gif_decoder.h"
 #include "support/gif_builder.h"
 #include "support/test_support.h"
@@ -27,12 +27,8 @@ struct Result {
 // Decodes data sub-blocks into a picture of one row with room for so many pixels.
 Result DecodeBlocks(const std::vector<uint8>& blocks, int32 min_code_size, int32 room = 1000) {
     const DebugRecorder debug;
-    const auto picture = PictureOf(room, 1, {});
-    GifPixelColors colors;
-    // No index gives the pixel 0, so that pixels that were not delivered can be told.
-    for (uint32 i = 0; i < 256; ++i)
-        colors.pixels[i] = i + 1;
-    GifPixelWriter writer(*picture, {0, 0, room, 1}, false, colors);
+    std::vector<uint8> row(static_cast<size_t>(room));
+    GifIndexWriter writer(row.data(), room, 1, false);
     const auto file = BFile::OnMemory(blocks);
     Work work;
     WatchedInput input(*file, work);
@@ -44,10 +40,8 @@ Result DecodeBlocks(const std::vector<uint8>& blocks, int32 min_code_size, int32
     result.success = decoder.Decode(writer, work, file->Size());
     result.left = file->Size() - file->Position();
     result.debug = debug.Text();
-    for (const uint32 pixel : PixelsOf(*picture)) {
-        if (pixel == 0) break;
-        result.indices.push_back(static_cast<int32>(pixel) - 1);
-    }
+    const std::vector<int32> lengths = writer.RowLengths();
+    result.indices.assign(row.begin(), row.begin() + (lengths.empty() ? room : lengths[0]));
     return result;
 }
 

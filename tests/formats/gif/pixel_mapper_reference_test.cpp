@@ -58,7 +58,7 @@ class PlainMapper {
           green_(width),
           blue_(width) {}
 
-    Indices Row(const BBitmap& bitmap, int32 y) {
+    Indices Row(const kirto::Picture& bitmap, int32 y) {
         Indices indices;
         for (PlainErrors* errors : {&red_, &green_, &blue_})
             errors->StartRow();
@@ -120,7 +120,7 @@ Palette RandomPalette(std::mt19937& random, int32 size, uint32 mask) {
 
 // A picture by the mapper and by the plain one. Rows are wider than the bitmap by so much.
 void ExpectPlain(PixelMapper& mapper, const Palette& palette, bool dither, bool unconnected_rows,
-                 const BBitmap& bitmap, int32 beyond) {
+                 const kirto::Picture& bitmap, int32 beyond) {
     PlainMapper plain(palette, dither, unconnected_rows, kWidth + beyond);
     mapper.StartPicture(palette, unconnected_rows);
     for (int32 y = 0; y <= kHeight; ++y) {
@@ -137,7 +137,8 @@ void ExpectPlainPictures(bool dither) {
         for (const color_space space : {B_RGB32, B_RGBA32, B_RGB32_BIG, B_RGBA32_BIG}) {
             const uint32 mask = random() % 2 == 0 ? 0xFFFFFF : 0xC0E0C0;
             const Palette palette = RandomPalette(random, size, mask);
-            const auto picture = PictureOf(kWidth, kHeight, RandomPixels(random, 0xFFFFFF), space);
+            const auto picture =
+                FramePictureOf(kWidth, kHeight, RandomPixels(random, 0xFFFFFF), space);
             const bool unconnected_rows = random() % 2 == 0;
             ExpectPlain(mapper, palette, dither, unconnected_rows, *picture,
                         static_cast<int32>(random() % 3));
@@ -162,7 +163,7 @@ TEST(PixelMapper, EqualsThePlainOneWithBuiltInPalettes) {
         for (const int32 kind : {kPaletteWebSafe, kPaletteSystem, kPaletteGreyscale}) {
             const Palette palette(kind);
             for (const uint32 mask : {0xFFFFFFU, 0x0F0F0FU}) {
-                const auto picture = PictureOf(kWidth, kHeight, RandomPixels(random, mask));
+                const auto picture = FramePictureOf(kWidth, kHeight, RandomPixels(random, mask));
                 ExpectPlain(mapper, palette, dither, false, *picture, 0);
             }
         }

@@ -23,14 +23,14 @@ Palette BlackAndWhite() {
     return palette;
 }
 
-Indices Row(PixelMapper& mapper, const BBitmap& bitmap, int32 y = 0) {
+Indices Row(PixelMapper& mapper, const kirto::Picture& bitmap, int32 y = 0) {
     Indices indices;
     mapper.MapRow(&bitmap, y, bitmap.Width(), &indices);
     return indices;
 }
 
 // The rows of one picture, from the top.
-Indices Picture(PixelMapper& mapper, const Palette& palette, const BBitmap& bitmap,
+Indices Picture(PixelMapper& mapper, const Palette& palette, const kirto::Picture& bitmap,
                 bool unconnected_rows = false) {
     mapper.StartPicture(palette, unconnected_rows);
     Indices all;
@@ -42,31 +42,39 @@ Indices Picture(PixelMapper& mapper, const Palette& palette, const BBitmap& bitm
 }
 
 // Every pixel of the same grey.
-std::shared_ptr<BBitmap> Grey(int32 width, int32 height, uint32 level) {
+std::shared_ptr<const kirto::Picture> Grey(int32 width, int32 height, uint32 level) {
     const size_t count = static_cast<size_t>(width) * static_cast<size_t>(height);
-    return PictureOf(width, height, std::vector<uint32>(count, 0xFF000000 | level * 0x010101));
+    return FramePictureOf(width, height, std::vector<uint32>(count, 0xFF000000 | level * 0x010101));
 }
 
-TEST(PixelColor, ReadsTheFourColourSpacesOf32Bits) {
+// Row y of the picture, two pixels wide.
+std::vector<rgb_color> TwoColors(const kirto::Picture* picture, int32 y) {
+    std::vector<rgb_color> colors;
+    ReadColors(picture, y, 2, &colors);
+    return colors;
+}
+
+TEST(ReadColors, ReadsTheFourColorSpacesOf32Bits) {
     for (const color_space space : {B_RGB32, B_RGBA32, B_RGB32_BIG, B_RGBA32_BIG}) {
-        const auto picture = PictureOf(2, 2, {0, 0, 0, 0x80112233}, space);
-        EXPECT_EQ(PixelColor(picture.get(), 1, 1), (rgb_color{0x11, 0x22, 0x33, 0x80}));
+        const auto picture = FramePictureOf(2, 2, {0, 0, 0, 0x80112233}, space);
+        EXPECT_EQ(TwoColors(picture.get(), 1)[1], (rgb_color{0x11, 0x22, 0x33, 0x80}));
     }
 }
 
-TEST(PixelColor, IsTransparentBlackElsewhere) {
-    const BBitmap narrow(BRect::OfSize(4, 4), B_CMAP8);
-    const auto picture = PictureOf(1, 1, {0xFFFFFFFF});
-    EXPECT_EQ(PixelColor(&narrow, 1, 1), rgb_color{});
-    EXPECT_EQ(PixelColor(nullptr, 0, 0), rgb_color{});
-    EXPECT_EQ(PixelColor(picture.get(), 1, 0), rgb_color{});
-    EXPECT_EQ(PixelColor(picture.get(), 0, 1), rgb_color{});
+TEST(ReadColors, GivesTransparentBlackElsewhere) {
+    const std::vector<rgb_color> nothing(2);
+    const auto narrow = kirto::Picture::Of(std::make_shared<BBitmap>(BRect::OfSize(4, 4), B_CMAP8));
+    const auto picture = FramePictureOf(1, 1, {0xFFFFFFFF});
+    EXPECT_EQ(TwoColors(narrow.get(), 1), nothing);
+    EXPECT_EQ(TwoColors(nullptr, 0), nothing);
+    EXPECT_EQ(TwoColors(picture.get(), 0)[1], rgb_color{});
+    EXPECT_EQ(TwoColors(picture.get(), 1), nothing);
 }
 
 TEST(PixelMapper, MapsColoursToTheNearestEntry) {
     const Palette palette = BlackAndWhite();
     PixelMapper mapper(kTransparent, false, 4);
-    const auto picture = PictureOf(4, 1, {0xFF000000, 0xFF7F7F7F, 0xFF808080, 0xFFFFFFFF});
+    const auto picture = FramePictureOf(4, 1, {0xFF000000, 0xFF7F7F7F, 0xFF808080, 0xFFFFFFFF});
     EXPECT_EQ(Picture(mapper, palette, *picture), (Indices{0, 0, 1, 1}));
 }
 
@@ -75,7 +83,7 @@ TEST(PixelMapper, AnyAlphaBelow255IsTheTransparentIndex) {
     for (const bool dither : {false, true}) {
         PixelMapper mapper(kTransparent, dither, 1);
         for (uint32 alpha = 0; alpha < 256; ++alpha) {
-            const auto picture = PictureOf(1, 1, {alpha << 24 | 0xFFFFFF});
+            const auto picture = FramePictureOf(1, 1, {alpha << 24 | 0xFFFFFF});
             const uint8 expected = alpha < 255 ? kTransparent : 1;
             EXPECT_EQ(Picture(mapper, palette, *picture), Indices{expected}) << "alpha " << alpha;
         }
@@ -86,14 +94,15 @@ TEST(PixelMapper, PixelsThatAreNotThereAreTransparent) {
     const Palette palette = BlackAndWhite();
     PixelMapper mapper(kTransparent, false, 3);
     mapper.StartPicture(palette, false);
-    const auto picture = PictureOf(2, 1, {0xFFFFFFFF, 0xFFFFFFFF});
+    const auto picture = FramePictureOf(2, 1, {0xFFFFFFFF, 0xFFFFFFFF});
     Indices indices;
     mapper.MapRow(picture.get(), 0, 3, &indices);
     EXPECT_EQ(indices, (Indices{1, 1, kTransparent}));
     mapper.MapRow(nullptr, 0, 3, &indices);
     EXPECT_EQ(indices, (Indices{kTransparent, kTransparent, kTransparent}));
-    EXPECT_EQ(Row(mapper, BBitmap(BRect::OfSize(2, 1), B_RGB24)),
-              (Indices{kTransparent, kTransparent}));
+    EXPECT_EQ(
+        Row(mapper, *kirto::Picture::Of(std::make_shared<BBitmap>(BRect::OfSize(2, 1), B_RGB24))),
+        (Indices{kTransparent, kTransparent}));
 }
 
 TEST(PixelMapper, ForgetsThePaletteBeforeWithEachPicture) {
@@ -122,7 +131,7 @@ TEST(PixelMapper, DitheringStartsEachRowWithNothingCarried) {
 TEST(PixelMapper, DitheringPassesTransparentPixelsOver) {
     const Palette palette = BlackAndWhite();
     PixelMapper mapper(kTransparent, true, 3);
-    const auto picture = PictureOf(3, 1, {0xFF646464, 0xFEFFFFFF, 0xFF646464});
+    const auto picture = FramePictureOf(3, 1, {0xFF646464, 0xFEFFFFFF, 0xFF646464});
     EXPECT_EQ(Picture(mapper, palette, *picture), (Indices{0, kTransparent, 1}));
 }
 
@@ -130,7 +139,7 @@ TEST(PixelMapper, DitheringHandsErrorsDownToTheNextRow) {
     // The upper right pixel's 127 are lost as black; 5/16 of them make the one below it white.
     const Palette palette = BlackAndWhite();
     PixelMapper mapper(kTransparent, true, 2);
-    const auto picture = PictureOf(2, 2, {0xFF000000, 0xFF7F7F7F, 0xFF000000, 0xFF606060});
+    const auto picture = FramePictureOf(2, 2, {0xFF000000, 0xFF7F7F7F, 0xFF000000, 0xFF606060});
     EXPECT_EQ(Picture(mapper, palette, *picture), (Indices{0, 0, 0, 1}));
 }
 
@@ -138,20 +147,20 @@ TEST(PixelMapper, RowsThatAreNoNeighboursGetNothingButTheLastPixelsOwnError) {
     // Cleared at the row's last pixel, before that pixel's own error is stored.
     const Palette palette = BlackAndWhite();
     PixelMapper mapper(kTransparent, true, 3);
-    const auto inner =
-        PictureOf(3, 2, {0xFF000000, 0xFF7F7F7F, 0xFF000000, 0xFF000000, 0xFF606060, 0xFF000000});
+    const auto inner = FramePictureOf(
+        3, 2, {0xFF000000, 0xFF7F7F7F, 0xFF000000, 0xFF000000, 0xFF606060, 0xFF000000});
     EXPECT_EQ(Picture(mapper, palette, *inner, false), (Indices{0, 0, 0, 0, 1, 0}));
     EXPECT_EQ(Picture(mapper, palette, *inner, true), (Indices{0, 0, 0, 0, 0, 0}));
-    const auto last =
-        PictureOf(3, 2, {0xFF000000, 0xFF000000, 0xFF7F7F7F, 0xFF000000, 0xFF000000, 0xFF606060});
+    const auto last = FramePictureOf(
+        3, 2, {0xFF000000, 0xFF000000, 0xFF7F7F7F, 0xFF000000, 0xFF000000, 0xFF606060});
     EXPECT_EQ(Picture(mapper, palette, *last, true), (Indices{0, 0, 0, 0, 0, 1}));
 }
 
 TEST(PixelMapper, ATransparentLastPixelClearsTheRowsAllTheSame) {
     const Palette palette = BlackAndWhite();
     PixelMapper mapper(kTransparent, true, 3);
-    const auto picture =
-        PictureOf(3, 2, {0xFF000000, 0xFF7F7F7F, 0x00000000, 0xFF000000, 0xFF606060, 0xFF000000});
+    const auto picture = FramePictureOf(
+        3, 2, {0xFF000000, 0xFF7F7F7F, 0x00000000, 0xFF000000, 0xFF606060, 0xFF000000});
     EXPECT_EQ(Picture(mapper, palette, *picture, true), (Indices{0, 0, kTransparent, 0, 0, 0}));
 }
 
@@ -166,13 +175,13 @@ TEST(PixelMapper, EachPictureStartsWithoutErrors) {
 TEST(PixelMapper, TheGreyRampIsNeverDithered) {
     const Palette grey(kPaletteGreyscale);
     PixelMapper mapper(kTransparent, true, 4);
-    const auto picture = PictureOf(4, 1, {0xFF0000FF, 0xFF0000FF, 0xFF0000FF, 0xFF0000FF});
+    const auto picture = FramePictureOf(4, 1, {0xFF0000FF, 0xFF0000FF, 0xFF0000FF, 0xFF0000FF});
     EXPECT_EQ(Picture(mapper, grey, *picture), (Indices{63, 63, 63, 63}));
 }
 
 TEST(PixelMapper, WithoutMemoryForTheCacheItMapsTheSame) {
     Palette palette(kPaletteWebSafe);
-    const auto picture = PictureOf(3, 1, {0xFF123456, 0xFFABCDEF, 0xFF123456});
+    const auto picture = FramePictureOf(3, 1, {0xFF123456, 0xFFABCDEF, 0xFF123456});
     PixelMapper plenty(kTransparent, false, 3);
     const Indices expected = Picture(plenty, palette, *picture);
     // The memo's two blocks and the three rows, and none for the colours themselves.
@@ -187,7 +196,7 @@ TEST(PixelMapper, AsksForMemoryAFewTimesWhateverTheNumberOfColours) {
     std::vector<uint32> argb;
     for (uint32 i = 0; i < 10000; ++i)
         argb.push_back(0xFF000000U | i * 1000);
-    const auto picture = PictureOf(10000, 1, argb);
+    const auto picture = FramePictureOf(10000, 1, argb);
     const Palette palette(kPaletteGreyscale);
     const AllocationFault fault(1000);
     PixelMapper mapper(kTransparent, false, 10000);

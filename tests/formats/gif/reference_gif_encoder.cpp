@@ -222,7 +222,8 @@ std::vector<uint8> ReferenceIndices(const AnimationDocument& document, const Fra
     const bool has_pixels = Is32Bit(frame.bitmap->ColorSpace());
     const size_t width = static_cast<size_t>(frame.width);
     std::vector<ComponentErrors> errors(3, ComponentErrors(frame.width));
-    Traversal traversal(*frame.bitmap, interlaced);
+    const auto bitmap = frame.bitmap->ToBitmap();
+    Traversal traversal(*bitmap, interlaced);
     Bytes indices;
     for (size_t i = 0; i < width * static_cast<size_t>(frame.height); ++i) {
         Pixel pixel;

@@ -45,10 +45,14 @@ ReadBack Read(const std::vector<uint8>& bytes, std::shared_ptr<PixelBudget> budg
     return {std::move(document), reader.Status(), reader.Reason()};
 }
 
-Frame FrameWith(std::shared_ptr<const BBitmap> picture) {
+Frame FrameWith(std::shared_ptr<const Picture> picture) {
     Frame frame("frame", picture->Width(), picture->Height());
     frame.bitmap = std::move(picture);
     return frame;
+}
+
+Frame FrameWith(std::shared_ptr<const BBitmap> bitmap) {
+    return FrameWith(Picture::Of(std::move(bitmap)));
 }
 
 void Append(Animation& animation, Frame frame) {
@@ -177,12 +181,13 @@ TEST(RecoveryFile, GivesTheFramesNewIds) {
 TEST(RecoveryFile, SharedPicturesAndPalettesAreWrittenOnceAndSharedAgain) {
     const auto noise = Noise(64, 64);
     const auto palette = SharePalette(Palette(kPaletteGreyscale));
+    const auto picture = Picture::Of(noise);
     Animation animation;
-    Append(animation, FrameWith(noise));
+    Append(animation, FrameWith(picture));
     const size_t size_of_one = Written(StateOf(animation)).size();
     ASSERT_GT(size_of_one, noise->BitsLength() * 9 / 10);
     for (int i = 0; i < 9; ++i) {
-        Frame frame = FrameWith(noise);
+        Frame frame = FrameWith(picture);
         frame.palette = palette;
         Append(animation, std::move(frame));
     }
@@ -247,10 +252,10 @@ TEST(RecoveryFile, IsRefusedOrReadRightWhateverBitIsFlipped) {
 
 TEST(RecoveryFile, IsRefusedWhereTheBudgetDoesNotSuffice) {
     Animation animation;
-    Append(animation, FrameWith(Noise(10, 10)));
-    Append(animation, FrameWith(Noise(10, 10)));
+    Append(animation, FrameWith(Noise(20, 20)));
+    Append(animation, FrameWith(Noise(20, 20)));
     const std::vector<uint8> bytes = Written(StateOf(animation));
-    const uint64 needed = 2 * (400 + PixelBudget::kFrameCost);
+    const uint64 needed = 2 * (1600 + PixelBudget::kFrameCost);
     const auto budget = std::make_shared<PixelBudget>(needed - 1);
 
     const ReadBack read = Read(bytes, budget);
@@ -283,9 +288,11 @@ TEST(RecoveryFile, ReadingReportsEachFailedAllocation) {
         const AllocationFault fault(failing);
         const ReadBack read = Read(bytes, budget);
         done = fault.Calls() < failing;
-        EXPECT_EQ(read.document.has_value(), done) << failing;
-        EXPECT_EQ(read.status, done ? B_OK : B_NO_MEMORY) << failing;
-        EXPECT_EQ(budget->Used() > 0, done) << failing;
+        // A picture that finds no memory to be packed in stays as it is.
+        const bool complete = read.document.has_value();
+        EXPECT_TRUE(complete || !done) << failing;
+        EXPECT_EQ(read.status, complete ? B_OK : B_NO_MEMORY) << failing;
+        EXPECT_EQ(budget->Used() > 0, complete) << failing;
     }
     EXPECT_GT(failing, 5);  // the unpacker, its buffer, two palettes, a picture
 }
@@ -329,7 +336,7 @@ TEST(RecoveryFile, DocumentsThatNobodyWouldReadAreNotWritten) {
     EXPECT_EQ(status(changed([](Frame&) {})), B_OK);
     EXPECT_EQ(status(changed([](Frame& frame) { frame.bitmap.reset(); })), B_BAD_VALUE);
     EXPECT_EQ(status(changed([](Frame& frame) {
-                  frame.bitmap = std::make_shared<const BBitmap>(BRect(), B_RGB32);
+                  frame.bitmap = Picture::Of(std::make_shared<const BBitmap>(BRect(), B_RGB32));
               })),
               B_BAD_VALUE);
     EXPECT_EQ(status(changed([](Frame& frame) { frame.width = 3; })), B_BAD_VALUE);

@@ -11,7 +11,7 @@ FramePointer FrameOf(int32 width, int32 height, uint32 argb, const std::string& 
     const std::vector<uint32> pixels(static_cast<size_t>(width) * static_cast<size_t>(height),
                                      argb);
     auto frame = std::make_shared<Frame>(name, width, height);
-    frame->bitmap = PictureOf(width, height, pixels, space);
+    frame->bitmap = FramePictureOf(width, height, pixels, space);
     return frame;
 }
 

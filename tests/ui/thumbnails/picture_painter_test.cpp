@@ -17,7 +17,7 @@ QPalette BlackOnWhite() {
 }
 
 // A canvas of 24 x 24 units in green, with a picture painted over the rectangle.
-QImage Painted(const std::shared_ptr<const BBitmap>& picture, const BRect& rectangle,
+QImage Painted(const std::shared_ptr<const Picture>& picture, const BRect& rectangle,
                bool draw_transparent = true, qreal ratio = 1) {
     QImage canvas(QSize(24, 24) * ratio, QImage::Format_RGB32);
     canvas.setDevicePixelRatio(ratio);
@@ -29,7 +29,7 @@ QImage Painted(const std::shared_ptr<const BBitmap>& picture, const BRect& recta
 }
 
 TEST(PicturePainter, CoversExactlyThePixelsOfTheRectangle) {
-    const auto picture = PictureOf(1, 1, {kRed});
+    const auto picture = FramePictureOf(1, 1, {kRed});
     const QImage canvas = Painted(picture, BRect(4, 5, 13, 8));
     for (int y = 0; y < 24; ++y) {
         for (int x = 0; x < 24; ++x) {
@@ -46,7 +46,7 @@ TEST(PicturePainter, PutsEdgesOnWholePixelsOfTheDevice) {
 }
 
 TEST(PicturePainter, ScalesToThePixelsOfTheDevice) {
-    const auto picture = PictureOf(2, 1, {kRed, 0xFF0000FF});
+    const auto picture = FramePictureOf(2, 1, {kRed, 0xFF0000FF});
     const QImage canvas = Painted(picture, BRect(0, 0, 0, 0), true, 2);
     EXPECT_EQ(canvas.pixel(0, 0), kRed);
     EXPECT_EQ(canvas.pixel(1, 0), 0xFF0000FFu);
@@ -54,7 +54,7 @@ TEST(PicturePainter, ScalesToThePixelsOfTheDevice) {
 
 TEST(PicturePainter, ShowsACheckerboardThroughTransparentPixels) {
     for (const color_space space : {B_RGB32, B_RGBA32}) {
-        const auto picture = PictureOf(24, 24, std::vector<uint32>(24 * 24, 0), space);
+        const auto picture = FramePictureOf(24, 24, std::vector<uint32>(24 * 24, 0), space);
         const QImage canvas = Painted(picture, BRect(0, 0, 23, 23));
         EXPECT_NE(canvas.pixel(1, 1), canvas.pixel(7, 1));
         EXPECT_EQ(canvas.pixel(1, 1), canvas.pixel(7, 7));
@@ -63,7 +63,7 @@ TEST(PicturePainter, ShowsACheckerboardThroughTransparentPixels) {
 }
 
 TEST(PicturePainter, ShowsPlainGreyThroughTransparentPixelsWhenAskedTo) {
-    const auto picture = PictureOf(24, 24, std::vector<uint32>(24 * 24, 0));
+    const auto picture = FramePictureOf(24, 24, std::vector<uint32>(24 * 24, 0));
     const QImage canvas = Painted(picture, BRect(0, 0, 23, 23), false);
     const QRgb grey = canvas.pixel(0, 0);
     EXPECT_EQ(qRed(grey), qGreen(grey));
@@ -73,7 +73,7 @@ TEST(PicturePainter, ShowsPlainGreyThroughTransparentPixelsWhenAskedTo) {
 }
 
 TEST(PicturePainter, MixesHalfTransparentPixelsWithWhatIsBehind) {
-    const auto picture = PictureOf(4, 4, std::vector<uint32>(16, 0x80FF0000));
+    const auto picture = FramePictureOf(4, 4, std::vector<uint32>(16, 0x80FF0000));
     const QRgb mixed = Painted(picture, BRect(0, 0, 3, 3)).pixel(1, 1);
     EXPECT_GT(qRed(mixed), 220);
     EXPECT_GT(qGreen(mixed), 80);
@@ -81,14 +81,14 @@ TEST(PicturePainter, MixesHalfTransparentPixelsWithWhatIsBehind) {
 }
 
 TEST(PicturePainter, ShowsOnlyWhatIsBehindWhereThereIsNo32BitPicture) {
-    const auto picture = std::make_shared<BBitmap>(BRect(0, 0, 3, 3), B_CMAP8);
+    const auto picture = Picture::Of(std::make_shared<BBitmap>(BRect(0, 0, 3, 3), B_CMAP8));
     const QImage canvas = Painted(picture, BRect(0, 0, 11, 11));
     EXPECT_NE(canvas.pixel(1, 1), canvas.pixel(7, 1));
     EXPECT_EQ(canvas.pixel(13, 1), 0xFF00FF00u);
 }
 
 TEST(PicturePainter, PaintsThumbnailsOfAnyWidthWithoutKeepingHugeOnes) {
-    const auto picture = PictureOf(4000, 1, std::vector<uint32>(4000, kRed));
+    const auto picture = FramePictureOf(4000, 1, std::vector<uint32>(4000, kRed));
     QImage canvas(24, 24, QImage::Format_RGB32);
     canvas.fill(Qt::green);
     ThumbnailCache cache;
@@ -108,9 +108,9 @@ TEST(PicturePainter, PaintsCoarselyWhenScalingHasHadItsTimeAndSaysSo) {
     ThumbnailCache cache;
     QPainter painter(&canvas);
     PicturePainter pictures(painter, BlackOnWhite(), true, cache);
-    std::shared_ptr<BBitmap> picture;
+    std::shared_ptr<const Picture> picture;
     for (int i = 0; i < 2000 && !pictures.WasCoarse(); ++i) {
-        picture = PictureOf(512, 512, std::vector<uint32>(512 * 512, kRed));
+        picture = FramePictureOf(512, 512, std::vector<uint32>(512 * 512, kRed));
         canvas.fill(Qt::green);
         pictures.Draw(picture, BRect(0, 0, 9, 9));
         ASSERT_EQ(canvas.pixel(5, 5), kRed);

@@ -109,7 +109,7 @@ TEST(ThumbDrawingViewDrag, StartsForAll32BitPicturesAndNoOthers) {
     for (const color_space space : {B_RGB32, B_RGBA32, B_RGB32_BIG, B_RGBA32_BIG, B_CMAP8, B_RGB24,
                                     B_RGB16, B_GRAY8, B_GRAY1}) {
         const auto frame = std::make_shared<Frame>("frame", 10, 10);
-        frame->bitmap = std::make_shared<BBitmap>(BRect(0, 0, 9, 9), space);
+        frame->bitmap = Picture::Of(std::make_shared<BBitmap>(BRect(0, 0, 9, 9), space));
         ThumbnailFixture fixture({frame});
         BegunDrag begun;
         fixture.Grid().SetDragStarter(begun.Starter());

@@ -11,8 +11,8 @@ constexpr uint32 kRed = 0xFFFF0000;
 
 TEST(ThumbnailCache, ScalesOnceAndTellsPicturesAndSizesApart) {
     ThumbnailCache cache;
-    const auto red = PictureOf(2, 2, std::vector<uint32>(4, kRed));
-    const auto blue = PictureOf(2, 2, std::vector<uint32>(4, 0xFF0000FF));
+    const auto red = FramePictureOf(2, 2, std::vector<uint32>(4, kRed));
+    const auto blue = FramePictureOf(2, 2, std::vector<uint32>(4, 0xFF0000FF));
     EXPECT_TRUE(cache.Find(red, {4, 4}).isNull());
     const QImage scaled = cache.Scaled(red, {4, 4});
     EXPECT_EQ(scaled.size(), QSize(4, 4));
@@ -23,8 +23,8 @@ TEST(ThumbnailCache, ScalesOnceAndTellsPicturesAndSizesApart) {
 
 TEST(ThumbnailCache, ForgetsTheOldestWhenItIsFull) {
     ThumbnailCache cache(100);
-    const auto first = PictureOf(4, 4, std::vector<uint32>(16, kRed));
-    const auto second = PictureOf(4, 4, std::vector<uint32>(16, kRed));
+    const auto first = FramePictureOf(4, 4, std::vector<uint32>(16, kRed));
+    const auto second = FramePictureOf(4, 4, std::vector<uint32>(16, kRed));
     cache.Scaled(first, {4, 4});
     cache.Scaled(second, {4, 4});
     EXPECT_TRUE(cache.Find(first, {4, 4}).isNull());
@@ -36,8 +36,8 @@ TEST(ThumbnailCache, ForgetsTheOldestWhenItIsFull) {
 TEST(ThumbnailCache, KeepsNoPictureAlive) {
     for (const uint32 color : {kRed, 0x80FF0000u}) {
         ThumbnailCache cache;
-        auto picture = PictureOf(4, 4, std::vector<uint32>(16, color));
-        const std::weak_ptr<BBitmap> life = picture;
+        auto picture = FramePictureOf(4, 4, std::vector<uint32>(16, color));
+        const std::weak_ptr<const Picture> life = picture;
         cache.Scaled(picture, {4, 4});
         cache.Scaled(picture, {2, 2});
         picture.reset();
@@ -47,7 +47,7 @@ TEST(ThumbnailCache, KeepsNoPictureAlive) {
 
 TEST(ThumbnailCache, KeepsColoursBelowTransparentPixelsOutOfTheirNeighbours) {
     ThumbnailCache cache;
-    const auto picture = PictureOf(2, 1, {kRed, 0x0000FF00}, B_RGBA32);
+    const auto picture = FramePictureOf(2, 1, {kRed, 0x0000FF00}, B_RGBA32);
     const QImage scaled = cache.Scaled(picture, {1, 1});
     EXPECT_GT(qAlpha(scaled.pixel(0, 0)), 100);
     EXPECT_EQ(qGreen(scaled.pixel(0, 0)), 0);

@@ -1,0 +1,227 @@
+#include "picture/index_painter.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace kirto {
+
+namespace {
+
+// Indices that are looked at together.
+constexpr size_t kGroup = 8;
+
+uint64 GroupAt(const uint8* indices) {
+    uint64 group = 0;
+    std::memcpy(&group, indices, sizeof(group));
+    return group;
+}
+
+uint64 GroupOf(uint8 index) {
+    return index * uint64{0x0101010101010101};
+}
+
+// Whether any of the group's indices is that one.
+bool Contains(uint64 group, uint8 index) {
+    // Where the index is, the difference is a zero byte, and only from a zero byte does taking 1
+    // set a highest bit that was clear; or behind one, where the 1 is lent on.
+    const uint64 difference = group ^ GroupOf(index);
+    return ((difference - GroupOf(0x01)) & ~difference & GroupOf(0x80)) != 0;
+}
+
+// Copies indices but for those that are the skipped one.
+void CopyExcept(uint8 skipped, const uint8* indices, size_t count, uint8* target) {
+    for (size_t i = 0; i < count;) {
+        const bool whole = count - i >= kGroup;
+        const size_t step = whole ? kGroup : count - i;
+        if (whole && !Contains(GroupAt(indices + i), skipped)) {
+            std::memcpy(target + i, indices + i, kGroup);
+        } else if (!whole || GroupAt(indices + i) != GroupOf(skipped)) {
+            for (size_t k = i; k < i + step; ++k)
+                if (indices[k] != skipped) target[k] = indices[k];
+        }
+        i += step;
+    }
+}
+
+// What the image has of one row of the picture.
+struct RowPart {
+    const uint8* indices;
+    size_t left;
+    size_t count;
+};
+
+RowPart PartOf(const IndexImage& image, int32 y, int32 picture_width) {
+    const int32 row = y - image.top;
+    const int32 there =
+        image.row_lengths.empty() ? image.width : image.row_lengths[static_cast<size_t>(row)];
+    const int32 count = std::clamp(picture_width - image.left, 0, there);
+    const size_t skipped = static_cast<size_t>(row) * static_cast<size_t>(image.width);
+    return {image.indices.data() + skipped, static_cast<size_t>(image.left),
+            static_cast<size_t>(count)};
+}
+
+// Whether nothing of the rows below shows through.
+bool Covers(const IndexImage& image, int32 first, int32 end, int32 picture_width) {
+    if (image.skipped >= 0) return false;
+    for (int32 y = first; y < end; ++y) {
+        const RowPart part = PartOf(image, y, picture_width);
+        if (part.left > 0 || part.count < static_cast<size_t>(picture_width)) return false;
+    }
+    return true;
+}
+
+int32 IndexOf(uint32 pixel, const PixelTable& table) {
+    const auto place = std::find(table.pixels.begin(), table.pixels.end(), pixel);
+    return place == table.pixels.end() ? -1 : static_cast<int32>(place - table.pixels.begin());
+}
+
+// Whether the image's indices mean in that table what they mean in its own.
+bool Agree(const SharedPixelTable& table, const IndexImage& image) {
+    if (table == image.table) return true;
+    for (size_t i = 0; i < table->pixels.size(); ++i) {
+        const bool same = table->pixels[i] == image.table->pixels[i];
+        if (!same && static_cast<int32>(i) != image.skipped) return false;
+    }
+    return true;
+}
+
+}  // namespace
+
+std::shared_ptr<const Picture> IndexPainter::Paint(const std::shared_ptr<const Picture>& base,
+                                                   const IndexImage& image) {
+    const int32 width = base->Width();
+    const int32 height = base->Height();
+    PictureBuilder builder(width, height, base->ColorSpace(), budget_);
+    const bool empty = image.width == 0 || image.height == 0;
+    if (empty || image.left >= width || image.top >= height)
+        return AddRows(*base, {0, height}, builder) ? builder.Take() : nullptr;
+    const int32 bottom = std::min(image.top + image.height, height);
+    if (!AddRows(*base, {0, image.top}, builder)) return nullptr;
+    // What is painted is cut anew, so that strips do not become ever smaller.
+    const int32 step = Strip::RowsFor(width);
+    for (Band band{image.top, 0}; band.first < bottom; band.first = band.end) {
+        band.end = std::min((band.first / step + 1) * step, bottom);
+        if (!AddBand(*base, image, band, builder)) return nullptr;
+    }
+    if (!AddRows(*base, {bottom, height}, builder)) return nullptr;
+    return builder.Take();
+}
+
+// Adds rows of the base as they are.
+bool IndexPainter::AddRows(const Picture& base, const Band& rows, PictureBuilder& builder) {
+    for (size_t i = base.StripAt(rows.first); i < base.AllStrips().size(); ++i) {
+        const std::shared_ptr<const Strip>& strip = base.AllStrips()[i];
+        const int32 first = base.FirstRows()[i];
+        const int32 begin = std::max(rows.first, first);
+        const int32 end = std::min(rows.end, first + strip->Rows());
+        if (begin >= end) break;
+        const bool whole = end - begin == strip->Rows();
+        if (!builder.AddStrip(whole ? strip : strip->Slice(begin - first, end - begin)))
+            return false;
+    }
+    return true;
+}
+
+bool IndexPainter::AddBand(const Picture& base, const IndexImage& image, const Band& band,
+                           PictureBuilder& builder) {
+    const SharedPixelTable table = TableFor(base, image, band);
+    if (!table) return AddPixels(base, image, band, builder);
+    PaintIndices(base, image, band, *table);
+    std::shared_ptr<const Strip> strip = MakeStrip(base, band, table);
+    return strip && builder.AddStrip(std::move(strip));
+}
+
+// A table in which both the image and what shows through of the rows below can be told, or null.
+SharedPixelTable IndexPainter::TableFor(const Picture& base, const IndexImage& image,
+                                        const Band& band) {
+    if (Covers(image, band.first, band.end, base.Width())) return image.table;
+    SharedPixelTable table;
+    for (int32 y = band.first; y < band.end; ++y) {
+        const PixelRow row = base.Row(y);
+        if (row.pixels) return nullptr;
+        if (!row.indices || *row.table == table) continue;
+        if (table || !Agree(*row.table, image)) return nullptr;
+        table = *row.table;
+    }
+    for (int32 y = band.first; y < band.end; ++y) {
+        const PixelRow row = base.Row(y);
+        if (row.indices) continue;
+        if (!table) table = WithPixel(image, row.solid);
+        if (!table || IndexOf(row.solid, *table) < 0) return nullptr;
+    }
+    return table;
+}
+
+// The image's table, or one that has the pixel in the place of the index that is skipped; null
+// where there is none.
+SharedPixelTable IndexPainter::WithPixel(const IndexImage& image, uint32 pixel) {
+    if (IndexOf(pixel, *image.table) >= 0) return image.table;
+    if (image.skipped < 0) return nullptr;
+    PixelTable table = *image.table;
+    table.pixels[static_cast<size_t>(image.skipped)] = pixel;
+    if (!extended_ || *extended_ != table) extended_ = std::make_shared<const PixelTable>(table);
+    return extended_;
+}
+
+// Leaves in work_ the band's indices into the table.
+void IndexPainter::PaintIndices(const Picture& base, const IndexImage& image, const Band& band,
+                                const PixelTable& table) {
+    const size_t width = static_cast<size_t>(base.Width());
+    work_.resize(width * static_cast<size_t>(band.end - band.first));
+    uint8* target = work_.data();
+    const bool covered = Covers(image, band.first, band.end, base.Width());
+    for (int32 y = band.first; y < band.end; ++y, target += width) {
+        const RowPart part = PartOf(image, y, base.Width());
+        if (!covered) {
+            const PixelRow below = base.Row(y);
+            if (below.indices) {
+                std::memcpy(target, below.indices, width);
+            } else {
+                std::memset(target, IndexOf(below.solid, table), width);
+            }
+        }
+        if (image.skipped < 0) {
+            std::memcpy(target + part.left, part.indices, part.count);
+        } else {
+            CopyExcept(static_cast<uint8>(image.skipped), part.indices, part.count,
+                       target + part.left);
+        }
+    }
+}
+
+// What is in work_; the base's own strip where it is the same. Null when memory is short.
+std::shared_ptr<const Strip> IndexPainter::MakeStrip(const Picture& base, const Band& band,
+                                                     const SharedPixelTable& table) const {
+    const int32 rows = band.end - band.first;
+    if (std::memcmp(work_.data(), work_.data() + 1, work_.size() - 1) == 0)
+        return Strip::Solid(table->pixels[work_[0]], base.Width(), rows);
+    const size_t place = base.StripAt(band.first);
+    const std::shared_ptr<const Strip>& below = base.AllStrips()[place];
+    if (base.FirstRows()[place] == band.first && below->Rows() == rows && below->Table() == table &&
+        std::memcmp(below->Indices(), work_.data(), work_.size()) == 0) {
+        return below;
+    }
+    const std::shared_ptr<PixelStorage> storage = PixelStorage::Make(work_.size(), budget_);
+    if (!storage) return nullptr;
+    std::memcpy(storage->Bytes(), work_.data(), work_.size());
+    return Strip::Indexed(storage, table, base.Width(), rows);
+}
+
+// The band where there is no such table: pixel by pixel.
+bool IndexPainter::AddPixels(const Picture& base, const IndexImage& image, const Band& band,
+                             PictureBuilder& builder) {
+    work_.resize(static_cast<size_t>(base.Width()) * 4);
+    for (int32 y = band.first; y < band.end; ++y) {
+        base.ReadRow(y, work_.data());
+        const RowPart part = PartOf(image, y, base.Width());
+        for (size_t i = 0; i < part.count; ++i) {
+            if (part.indices[i] == image.skipped) continue;
+            std::memcpy(work_.data() + (part.left + i) * 4, &image.table->pixels[part.indices[i]],
+                        4);
+        }
+        if (!builder.AddRow(work_.data())) return false;
+    }
+    return builder.EndStrip();
+}
+
+}  // namespace kirto

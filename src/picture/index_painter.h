@@ -1,0 +1,64 @@
+#pragma once
+
+#include <memory>
+#include <span>
+#include <utility>
+#include <vector>
+
+#include "base/types.h"
+#include "picture/picture.h"
+#include "picture/picture_builder.h"
+
+namespace kirto {
+
+// A rectangle of indices in memory, that is painted over a picture. What lies outside the picture
+// is dropped.
+struct IndexImage {
+    std::span<const uint8> indices;  // row by row, width of each
+    int32 left = 0;                  // on the picture, 0 or more, as top
+    int32 top = 0;
+    int32 width = 0;
+    int32 height = 0;
+    SharedPixelTable table;
+    int32 skipped = -1;  // pixels of this index stay as they are; -1: none
+    // So many of each row's pixels are there, from the left; empty: all of them.
+    std::span<const int32> row_lengths;
+};
+
+// Makes pictures by painting images of indices over others. What an image does not touch is shared
+// with the picture below. Used by one thread.
+class IndexPainter {
+  public:
+    // The budget, if any, counts the pictures' pixels.
+    explicit IndexPainter(std::shared_ptr<PixelBudget> budget) : budget_(std::move(budget)) {}
+
+    // A new picture, the image over the base, which has rows; null when memory is short.
+    std::shared_ptr<const Picture> Paint(const std::shared_ptr<const Picture>& base,
+                                         const IndexImage& image);
+
+  private:
+    // The rows from first on, up to end.
+    struct Band {
+        int32 first = 0;
+        int32 end = 0;
+    };
+
+    static bool AddRows(const Picture& base, const Band& rows, PictureBuilder& builder);
+    bool AddBand(const Picture& base, const IndexImage& image, const Band& band,
+                 PictureBuilder& builder);
+    SharedPixelTable TableFor(const Picture& base, const IndexImage& image, const Band& band);
+    SharedPixelTable WithPixel(const IndexImage& image, uint32 pixel);
+    void PaintIndices(const Picture& base, const IndexImage& image, const Band& band,
+                      const PixelTable& table);
+    std::shared_ptr<const Strip> MakeStrip(const Picture& base, const Band& band,
+                                           const SharedPixelTable& table) const;
+    bool AddPixels(const Picture& base, const IndexImage& image, const Band& band,
+                   PictureBuilder& builder);
+
+    const std::shared_ptr<PixelBudget> budget_;
+    // The last image's table with a pixel of the base in the place of the index that is skipped.
+    SharedPixelTable extended_;
+    std::vector<uint8> work_;  // a band's indices or a row's pixels
+};
+
+}  // namespace kirto

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <memory>
+
+#include "base/allocation.h"
+#include "base/pixel_budget.h"
+#include "base/types.h"
+
+namespace kirto {
+
+// Bytes of pixels in memory, counted by a budget as long as they exist. Filled by whoever made
+// them, constant once they are shared.
+class PixelStorage {
+  public:
+    // Null when the budget, if any, refuses so many bytes or memory is short.
+    static std::shared_ptr<PixelStorage> Make(size_t bytes, std::shared_ptr<PixelBudget> budget);
+    ~PixelStorage();
+    PixelStorage(const PixelStorage&) = delete;
+    PixelStorage& operator=(const PixelStorage&) = delete;
+
+    uint8* Bytes() { return bytes_.get(); }
+    const uint8* Bytes() const { return bytes_.get(); }
+
+  private:
+    PixelStorage(AllocatedArray<uint8> bytes, size_t size, std::shared_ptr<PixelBudget> budget);
+
+    const AllocatedArray<uint8> bytes_;
+    const size_t size_;
+    const std::shared_ptr<PixelBudget> budget_;
+};
+
+}  // namespace kirto

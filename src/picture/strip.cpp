@@ -1,0 +1,97 @@
+#include "picture/strip.h"
+
+#include <algorithm>
+#include <cstring>
+#include <utility>
+
+#include "picture/index_counts.h"
+
+namespace kirto {
+
+namespace {
+
+constexpr int32 kPixelsOfAStrip = 1 << 16;
+
+}  // namespace
+
+void PixelRow::Expand(int32 count, uint8* target) const {
+    const size_t size = static_cast<size_t>(count);
+    if (pixels) {
+        std::memcpy(target, pixels, size * 4);
+    } else if (indices) {
+        const uint32* const colors = (*table)->pixels.data();
+        for (size_t x = 0; x < size; ++x)
+            std::memcpy(target + x * 4, &colors[indices[x]], 4);
+    } else {
+        for (size_t x = 0; x < size; ++x)
+            std::memcpy(target + x * 4, &solid, 4);
+    }
+}
+
+int32 Strip::RowsFor(int32 width) {
+    return std::clamp(kPixelsOfAStrip / std::max(width, 1), 1, kMaxRows);
+}
+
+std::shared_ptr<const Strip> Strip::Solid(uint32 pixel, int32 width, int32 rows) {
+    const std::shared_ptr<Strip> strip(new Strip(width, rows));
+    strip->solid_ = pixel;
+    return strip;
+}
+
+std::shared_ptr<const Strip> Strip::Indexed(std::shared_ptr<const PixelStorage> storage,
+                                            SharedPixelTable table, int32 width, int32 rows) {
+    const std::shared_ptr<Strip> strip(new Strip(width, rows));
+    strip->indices_ = storage->Bytes();
+    strip->owner_ = std::move(storage);
+    strip->table_ = std::move(table);
+    return strip;
+}
+
+std::shared_ptr<const Strip> Strip::Direct(std::shared_ptr<const void> owner, const uint8* pixels,
+                                           int32 width, int32 rows) {
+    const std::shared_ptr<Strip> strip(new Strip(width, rows));
+    strip->owner_ = std::move(owner);
+    strip->pixels_ = pixels;
+    return strip;
+}
+
+std::shared_ptr<const Strip> Strip::Slice(int32 first, int32 rows) const {
+    const size_t skipped = static_cast<size_t>(first) * static_cast<size_t>(width_);
+    const std::shared_ptr<Strip> strip(new Strip(width_, rows));
+    strip->owner_ = owner_;
+    strip->pixels_ = pixels_ ? pixels_ + skipped * 4 : nullptr;
+    strip->indices_ = indices_ ? indices_ + skipped : nullptr;
+    strip->table_ = table_;
+    strip->solid_ = solid_;
+    return strip;
+}
+
+PixelRow Strip::Row(int32 y) const {
+    const size_t skipped = static_cast<size_t>(y) * static_cast<size_t>(width_);
+    PixelRow row;
+    row.pixels = pixels_ ? pixels_ + skipped * 4 : nullptr;
+    row.indices = indices_ ? indices_ + skipped : nullptr;
+    row.table = indices_ ? &table_ : nullptr;
+    row.solid = solid_;
+    return row;
+}
+
+std::span<const PixelCount> Strip::Counts() const {
+    std::call_once(counted_, [this] {
+        const uint32 count = static_cast<uint32>(width_) * static_cast<uint32>(rows_);
+        counts_ = indices_ ? CountIndices() : std::vector<PixelCount>{{solid_, count}};
+    });
+    return counts_;
+}
+
+std::vector<PixelCount> Strip::CountIndices() const {
+    IndexCounts counts;
+    counts.Add({indices_, static_cast<size_t>(width_) * static_cast<size_t>(rows_)});
+    std::vector<PixelCount> result;
+    result.reserve(counts.InOrder().size());
+    for (const uint8 index : counts.InOrder())
+        result.push_back({table_->pixels[index], counts.Of(index)});
+    return result;
+}
+
+}  // namespace kirto

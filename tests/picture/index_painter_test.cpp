@@ -1,0 +1,175 @@
+#include "picture/index_painter.h"
+
+#include <gtest/gtest.h>
+#include <random>
+
+#include "base/allocation.h"
+#include "random_picture.h"
+
+namespace kirto::test {
+
+namespace {
+
+int32 Below(int32 limit, std::mt19937& random) {
+    return std::uniform_int_distribution<int32>(0, limit - 1)(random);
+}
+
+// An image of indices with what it needs.
+struct OwnedImage {
+    std::vector<uint8> indices;
+    std::vector<int32> row_lengths;
+    IndexImage image;
+};
+
+SharedPixelTable RandomTable(std::mt19937& random) {
+    auto table = std::make_shared<PixelTable>();
+    for (uint32& pixel : table->pixels)
+        pixel = static_cast<uint32>(random());
+    return table;
+}
+
+OwnedImage RandomImage(int32 width, int32 height, SharedPixelTable table, std::mt19937& random) {
+    OwnedImage owned;
+    IndexImage& image = owned.image;
+    const bool whole = Below(3, random) == 0;
+    image.width = whole ? width : 1 + Below(width + 5, random);
+    image.height = whole ? height : 1 + Below(height + 5, random);
+    image.left = whole ? 0 : Below(width + 2, random);
+    image.top = whole ? 0 : Below(height + 2, random);
+    const int32 different = 1 << Below(9, random);
+    owned.indices.resize(static_cast<size_t>(image.width) * static_cast<size_t>(image.height));
+    for (uint8& index : owned.indices)
+        index = static_cast<uint8>(Below(different, random));
+    image.table = std::move(table);
+    if (Below(2, random) == 0) image.skipped = Below(different, random);
+    if (Below(4, random) == 0) {
+        owned.row_lengths.resize(static_cast<size_t>(image.height));
+        for (int32& length : owned.row_lengths)
+            length = Below(image.width + 1, random);
+    }
+    image.indices = owned.indices;
+    image.row_lengths = owned.row_lengths;
+    return owned;
+}
+
+// Pixel by pixel.
+void PaintPlainly(PlainPicture& target, const IndexImage& image) {
+    for (int32 row = 0; row < image.height; ++row) {
+        const int32 length =
+            image.row_lengths.empty() ? image.width : image.row_lengths[static_cast<size_t>(row)];
+        for (int32 column = 0; column < length; ++column) {
+            const size_t place = static_cast<size_t>(row) * static_cast<size_t>(image.width) +
+                                 static_cast<size_t>(column);
+            const int32 x = image.left + column;
+            const int32 y = image.top + row;
+            const uint8 index = image.indices[place];
+            if (x >= target.width || y >= target.height || index == image.skipped) continue;
+            target.At(x, y) = image.table->pixels[index];
+        }
+    }
+}
+
+IndexImage OnePixel(const SharedPixelTable& table, const uint8& index, int32 left, int32 top) {
+    IndexImage image;
+    image.indices = {&index, 1};
+    image.left = left;
+    image.top = top;
+    image.width = image.height = 1;
+    image.table = table;
+    return image;
+}
+
+}  // namespace
+
+TEST(IndexPainter, PaintsWhatAPainterOfSinglePixelsPaints) {
+    std::mt19937 random(11);
+    for (int32 round = 0; round < 60; ++round) {
+        const int32 width = 1 + Below(200, random);
+        const int32 height = 1 + Below(200, random);
+        PlainPicture plain = RandomPicture(width, height, 1 << Below(11, random), random);
+        std::shared_ptr<const Picture> picture = Built(plain);
+        IndexPainter painter(nullptr);
+        SharedPixelTable table = RandomTable(random);
+        for (int32 image = 0; image < 12; ++image) {
+            if (Below(4, random) == 0) table = RandomTable(random);
+            const OwnedImage owned = RandomImage(width, height, table, random);
+            PaintPlainly(plain, owned.image);
+            picture = painter.Paint(picture, owned.image);
+            ASSERT_TRUE(picture);
+            ASSERT_EQ(PlainOf(*picture).pixels, plain.pixels) << round << ", image " << image;
+        }
+    }
+}
+
+TEST(IndexPainter, PaintsOverOneColorWithTheSkippedIndexInItsPlace) {
+    std::mt19937 random(12);
+    PlainPicture plain{50, 50, std::vector<uint32>(2500, 0x00000000)};
+    OwnedImage owned = RandomImage(50, 50, RandomTable(random), random);
+    owned.image.left = owned.image.top = 3;
+    owned.image.skipped = owned.indices[0];
+    IndexPainter painter(nullptr);
+    const auto base = Picture::Solid(0, 50, 50, B_RGB32, nullptr);
+    const auto picture = painter.Paint(base, owned.image);
+    PaintPlainly(plain, owned.image);
+
+    EXPECT_EQ(PlainOf(*picture).pixels, plain.pixels);
+    EXPECT_TRUE(picture->Row(20).pixels == nullptr);
+}
+
+TEST(IndexPainter, SharesWhatTheImageDoesNotTouch) {
+    std::mt19937 random(13);
+    const auto base = Built(RandomPicture(100, 256, 30, random));
+    const uint8 index = 1;
+    IndexPainter painter(nullptr);
+    const auto picture = painter.Paint(base, OnePixel(RandomTable(random), index, 50, 70));
+
+    const auto& strips = picture->AllStrips();
+    ASSERT_EQ(strips.size(), 6U);
+    EXPECT_EQ(strips[0], base->AllStrips()[0]);
+    EXPECT_EQ(strips[1]->Rows(), 6);
+    EXPECT_EQ(strips[2]->Rows(), 1);
+    EXPECT_EQ(strips[4], base->AllStrips()[2]);
+    EXPECT_EQ(strips[5], base->AllStrips()[3]);
+}
+
+TEST(IndexPainter, ManySmallImagesOnAHugePictureTakeLittleMemory) {
+    const auto budget = std::make_shared<PixelBudget>(16 << 20);
+    const uint8 index = 1;
+    auto table = std::make_shared<PixelTable>();
+    table->pixels[1] = 0xFFFFFFFF;
+    IndexPainter painter(budget);
+    std::vector<std::shared_ptr<const Picture>> pictures = {
+        Picture::Solid(0, 20000, 20000, B_RGB32, budget)};
+    for (int32 image = 0; image < 100; ++image) {
+        pictures.push_back(
+            painter.Paint(pictures.back(), OnePixel(table, index, image * 7, image * 190)));
+        ASSERT_TRUE(pictures.back());
+    }
+    EXPECT_LT(budget->Used(), uint64{4} << 20);
+}
+
+TEST(IndexPainter, SharesAllWhereNothingIsPaintedButCountsThePicture) {
+    std::mt19937 random(14);
+    const auto base = Built(RandomPicture(10, 10, 30, random));
+    const uint8 index = 1;
+    const auto budget = std::make_shared<PixelBudget>();
+    IndexPainter painter(budget);
+    std::vector<std::shared_ptr<const Picture>> pictures;
+    for (const auto& [left, top] : {std::pair{10, 0}, {0, 10}}) {
+        pictures.push_back(painter.Paint(base, OnePixel(RandomTable(random), index, left, top)));
+        EXPECT_EQ(pictures.back()->AllStrips(), base->AllStrips());
+    }
+    EXPECT_EQ(budget->Used(), 2 * PixelBudget::kFrameCost);
+}
+
+TEST(IndexPainter, GivesNothingWithoutMemory) {
+    std::mt19937 random(15);
+    const auto base = Built(RandomPicture(10, 10, 30, random));
+    const uint8 index = 1;
+    IndexPainter painter(nullptr);
+    const AllocationFault fault(1);
+
+    EXPECT_EQ(painter.Paint(base, OnePixel(RandomTable(random), index, 5, 5)), nullptr);
+}
+
+}  // namespace kirto::test
