@@ -3,8 +3,10 @@
 #include <cstring>
 #include <memory>
 #include <optional>
+#include <utility>
 
 #include "base/text.h"
+#include "effects/make_pictures.h"
 #include "kit/alert.h"
 #include "kit/picture_files.h"
 
@@ -47,22 +49,83 @@ TilePlace PlaceOf(int32 tile, const TileGrid& grid) {
     return {tile / grid.columns, tile % grid.columns};
 }
 
-// A frame of one tile, or none when memory is short.
-std::optional<Frame> MakeTile(const BBitmap& picture, int32 tile, const TileGrid& grid,
-                              std::shared_ptr<PixelBudget> budget, const Work& work) {
-    const std::shared_ptr<Palette> palette = SharePalette();
-    if (!palette) return std::nullopt;
-    Frame frame(Format("tiled%04d", tile), picture.Width() / grid.columns,
-                picture.Height() / grid.rows);
-    const auto bitmap = std::make_shared<BBitmap>(BRect::OfSize(frame.width, frame.height),
-                                                  picture.ColorSpace(), std::move(budget));
-    if (bitmap->InitCheck() != B_OK) return std::nullopt;
+// One tile, or null when memory is short.
+std::shared_ptr<const BBitmap> CutTile(const BBitmap& picture, int32 tile, const TileGrid& grid,
+                                       std::shared_ptr<PixelBudget> budget) {
+    const BRect bounds =
+        BRect::OfSize(picture.Width() / grid.columns, picture.Height() / grid.rows);
+    auto bitmap = std::make_shared<BBitmap>(bounds, picture.ColorSpace(), std::move(budget));
+    if (bitmap->InitCheck() != B_OK) return nullptr;
     const TilePlace place = PlaceOf(tile, grid);
     CopyTile(picture, place.row, place.column, bitmap.get());
-    palette->Set(static_cast<const BBitmap*>(bitmap.get()), &work);
-    frame.palette = palette;
-    frame.bitmap = bitmap;
-    return frame;
+    return bitmap;
+}
+
+// Makes the frames of a picture's tiles and inserts them.
+class TileRun {
+  public:
+    TileRun(AnimationDocument& document, const BBitmap& picture, const TileGrid& grid)
+        : document_(document), picture_(picture), grid_(grid), count_(grid.rows * grid.columns) {}
+
+    // Returns how many frames were inserted, from the position on.
+    int32 InsertAt(int32 position);
+    bool OutOfMemory() const { return out_of_memory_; }
+
+  private:
+    bool Begin(int32 tile);
+    bool Insert(int32 tile, std::optional<MadePicture> made);
+
+    AnimationDocument& document_;
+    const BBitmap& picture_;
+    const TileGrid grid_;
+    const int32 count_;
+    int32 position_ = 0;  // of the next frame
+    bool out_of_memory_ = false;
+    std::shared_ptr<Palette> palette_;  // of the tile whose turn it is
+};
+
+int32 TileRun::InsertAt(int32 position) {
+    position_ = position;
+    PictureSteps steps;
+    steps.begin = [this](int32 tile) { return Begin(tile); };
+    steps.make = [this](int32 tile) {
+        return CutTile(picture_, tile, grid_, document_.pixel_budget);
+    };
+    steps.take = [this](int32 tile, std::optional<MadePicture> made) {
+        return Insert(tile, std::move(made));
+    };
+    return MakePictures(count_, steps, document_.work);
+}
+
+bool TileRun::Begin(int32 tile) {
+    if (document_.StopRequested()) return false;
+    document_.PostStatus(Format("Status: loading tile %d of %d...", tile + 1, count_));
+    document_.work.Report(tile, count_);
+    palette_ = SharePalette();
+    out_of_memory_ = !palette_ && !document_.StopRequested();
+    return palette_ != nullptr;
+}
+
+bool TileRun::Insert(int32 tile, std::optional<MadePicture> made) {
+    if (made) Palette::TellOfFailure(made->palette_status);
+    if (document_.StopRequested()) return false;
+    out_of_memory_ = !made;
+    if (out_of_memory_) return false;
+    const int32 width = made->bitmap->Width();
+    const int32 height = made->bitmap->Height();
+    Frame frame(Format("tiled%04d", tile), width, height);
+    *palette_ = made->palette;
+    frame.palette = std::move(palette_);
+    frame.bitmap = std::move(made->bitmap);
+    document_.InsertFrame(position_, std::move(frame));
+    if (position_ == 0 && document_.prefs.global_setdimensions) {
+        document_.Change([width, height](Animation& animation) {
+            animation.width = width;
+            animation.height = height;
+        });
+    }
+    ++position_;
+    return true;
 }
 
 }  // namespace
@@ -81,8 +144,6 @@ bool InsertTiles(AnimationDocument& document, const entry_ref* ref, const TileGr
         Warn(kIllegalGrid);
         return true;
     }
-    const int32 first = document.Selected() + 1;
-    int32 position = first;
     if (!ref) return true;
     const std::shared_ptr<BBitmap> picture = ReadPicture(document, *ref, roster);
     if (!picture) return !document.StopRequested();
@@ -91,29 +152,14 @@ bool InsertTiles(AnimationDocument& document, const entry_ref* ref, const TileGr
         Warn(kIllegalGrid);
         return true;
     }
-    const int32 count = static_cast<int32>(tiles);
-    for (int32 tile = 0; tile < count && !document.StopRequested(); ++tile) {
-        document.PostStatus(Format("Status: loading tile %d of %d...", tile + 1, count));
-        document.work.Report(tile, count);
-        auto frame = MakeTile(*picture, tile, grid, document.pixel_budget, document.work);
-        if (document.StopRequested()) break;
-        if (!frame) {
-            WarnOutOfMemory();
-            return true;
-        }
-        const int32 width = frame->width;
-        const int32 height = frame->height;
-        document.InsertFrame(position, std::move(*frame));
-        if (position == 0 && document.prefs.global_setdimensions) {
-            document.Change([width, height](Animation& animation) {
-                animation.width = width;
-                animation.height = height;
-            });
-        }
-        ++position;
+    TileRun run(document, *picture, grid);
+    const int32 inserted = run.InsertAt(document.Selected() + 1);
+    if (run.OutOfMemory()) {
+        WarnOutOfMemory();
+        return true;
     }
-    const bool complete = position - first == count;
-    if (complete || position > first) document.SetModified(true);
+    const bool complete = inserted == tiles;
+    if (complete || inserted > 0) document.SetModified(true);
     return complete;
 }
 
