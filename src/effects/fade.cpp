@@ -108,10 +108,10 @@ bool FadeRun::Begin(int32 i) {
 }
 
 bool FadeRun::Insert(int32 i, std::optional<MadePicture> made) {
+    if (made) Palette::TellOfFailure(made->palette_status);
+    if (document_.StopRequested()) return false;
     out_of_memory_ = !made;
     if (out_of_memory_) return false;
-    Palette::TellOfFailure(made->palette_status);
-    if (document_.StopRequested()) return false;
     const BBitmap& current = *plan_.current->bitmap;
     Frame frame(Format("fade%04d", name_base_ + i), current.Width(), current.Height());
     *palette_ = made->palette;
