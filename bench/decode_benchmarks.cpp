@@ -38,14 +38,16 @@ struct CompressedImage {
 std::vector<CompressedImage> Compress(BenchAnimation& animation) {
     std::vector<CompressedImage> compressed;
     for (const IndexedImage& image : animation.Images()) {
-        CompressedImage result{{image.left, image.top, image.width, image.height},
-                               PixelColorsOf(*image.palette),
-                               std::max(image.palette->bits, 2),
-                               BFile::OnMemory()};
-        result.colors.skipped_index = animation.TransparentIndex();
-        GifLzwEncoder encoder(*result.data, result.min_code_size);
+        const int32 min_code_size = std::max(image.palette->bits, 2);
+        ByteWriter data;
+        GifLzwEncoder encoder(data, min_code_size);
         encoder.Add(image.indices);
         encoder.Finish();
+        CompressedImage result{{image.left, image.top, image.width, image.height},
+                               PixelColorsOf(*image.palette),
+                               min_code_size,
+                               BFile::OnMemory(data.Written())};
+        result.colors.skipped_index = animation.TransparentIndex();
         compressed.push_back(std::move(result));
     }
     return compressed;

@@ -13,9 +13,9 @@ namespace kirto::bench {
 namespace {
 
 int64 Encode(BenchAnimation& animation) {
-    const auto file = BFile::OnMemory();
+    ByteWriter output;
     for (const IndexedImage& image : animation.Images()) {
-        GifLzwEncoder encoder(*file, std::max(image.palette->bits, 2));
+        GifLzwEncoder encoder(output, std::max(image.palette->bits, 2));
         const size_t width = static_cast<size_t>(image.width);
         for (size_t row = 0; row < image.indices.size(); row += width)
             encoder.Add({image.indices.data() + row, width});

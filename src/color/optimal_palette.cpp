@@ -94,23 +94,23 @@ bool CountPicture(const kirto::Picture& picture, kirto::ColorValues& counts,
     return true;
 }
 
-// Each color of the picture with its number of pixels. Nothing on failure: the work was stopped,
-// out of memory, which the user is told, no picture or one that is not 32-bit.
+// Each color of the picture with its number of pixels. Nothing on failure: B_CANCELED when the work
+// was stopped, B_NO_MEMORY, B_BAD_VALUE without a picture, B_BAD_TYPE for one that is not 32-bit.
 std::optional<kirto::ColorValues> CountColors(const kirto::Picture* picture,
-                                              const kirto::Work* work) {
+                                              const kirto::Work* work, status_t* status) {
+    *status = B_BAD_VALUE;
     if (!picture) return std::nullopt;
     kirto::ColorValues counts(work);
     const bool is_32_bit = kirto::Is32Bit(picture->ColorSpace());
     const bool counted = counts.Ready() && (!is_32_bit || CountPicture(*picture, counts, work));
-    if (kirto::IsStopped(work)) return std::nullopt;
-    if (!counted) {
-        kirto::WarnOutOfMemory();
-        return std::nullopt;
+    if (kirto::IsStopped(work)) {
+        *status = B_CANCELED;
+    } else if (!counted) {
+        *status = B_NO_MEMORY;
+    } else {
+        *status = is_32_bit ? B_OK : B_BAD_TYPE;
     }
-    if (!is_32_bit) {
-        kirto::DebugLine("Palette::BuildHashtable() - Wrong color space given\n");
-        return std::nullopt;
-    }
+    if (*status != B_OK) return std::nullopt;
     return counts;
 }
 
@@ -142,42 +142,62 @@ rgb_color ColorOfKey(uint32 key) {
 }  // namespace
 
 void Palette::Set(const kirto::Picture* picture, const kirto::Work* work) {
+    TellOfFailure(SetOptimal(picture, work));
+}
+
+status_t Palette::SetOptimal(const kirto::Picture* picture, const kirto::Work* work) {
     mode = kirto::kPaletteOptimal;
-    const auto optimal = MakeNearestColorPalette(picture, work);
+    std::optional<std::vector<rgb_color>> optimal;
+    const status_t status = FindNearestColors(picture, work, &optimal);
     if (optimal) {
         std::copy(optimal->begin(), optimal->end(), colors.begin());
     } else {
         Set(kirto::kPaletteWebSafe);
     }
+    return status;
+}
+
+void Palette::TellOfFailure(status_t status) {
+    if (status == B_NO_MEMORY) kirto::WarnOutOfMemory();
+    if (status == B_BAD_TYPE) {
+        kirto::DebugLine("Palette::BuildHashtable() - Wrong color space given\n");
+    }
 }
 
 std::optional<std::vector<rgb_color>> Palette::MakeNearestColorPalette(
     const kirto::Picture* picture, const kirto::Work* work) {
-    const std::optional<kirto::ColorValues> counts = CountColors(picture, work);
-    if (!counts) return std::nullopt;
+    std::optional<std::vector<rgb_color>> result;
+    TellOfFailure(FindNearestColors(picture, work, &result));
+    return result;
+}
+
+status_t Palette::FindNearestColors(const kirto::Picture* picture, const kirto::Work* work,
+                                    std::optional<std::vector<rgb_color>>* result) {
+    status_t status = B_OK;
+    const std::optional<kirto::ColorValues> counts = CountColors(picture, work, &status);
+    if (!counts) return status;
     unique_colors = static_cast<int32>(counts->Items().size());
     bits = BitsFor(unique_colors);
     size = 1 << bits;
 
     const size_t count = static_cast<size_t>(size);
     kirto::CommonestColors commonest(count);
-    auto result = TryMakeColors(count);
-    if (!commonest.Ready() || !result) {
-        kirto::WarnOutOfMemory();
-        return std::nullopt;
-    }
+    auto found = TryMakeColors(count);
+    if (!commonest.Ready() || !found) return B_NO_MEMORY;
     for (const kirto::ColorValues::Item& color : counts->Items())
         commonest.Add(color);
     std::array<uint32, 256> keys;
     const size_t used = commonest.Keys(keys.data());
-    const auto rest =
-        std::transform(keys.begin(), keys.begin() + used, result->begin(), ColorOfKey);
-    std::fill(rest, result->end(), ColorOfKey(0));
-    return result;
+    const auto rest = std::transform(keys.begin(), keys.begin() + used, found->begin(), ColorOfKey);
+    std::fill(rest, found->end(), ColorOfKey(0));
+    *result = std::move(found);
+    return B_OK;
 }
 
 std::unique_ptr<SFHash> Palette::BuildHashtable(const kirto::Picture* picture) const {
-    const std::optional<kirto::ColorValues> counts = CountColors(picture, nullptr);
+    status_t status = B_OK;
+    const std::optional<kirto::ColorValues> counts = CountColors(picture, nullptr, &status);
+    TellOfFailure(status);
     if (!counts) return nullptr;
     std::unique_ptr<SFHash> table = TableOf(*counts);
     if (!table) kirto::WarnOutOfMemory();
@@ -185,7 +205,9 @@ std::unique_ptr<SFHash> Palette::BuildHashtable(const kirto::Picture* picture) c
 }
 
 int32 Palette::CountUniqueColors(const kirto::Picture* picture, const kirto::Work* work) const {
-    const std::optional<kirto::ColorValues> counts = CountColors(picture, work);
+    status_t status = B_OK;
+    const std::optional<kirto::ColorValues> counts = CountColors(picture, work, &status);
+    TellOfFailure(status);
     return counts ? static_cast<int32>(counts->Items().size()) : 0;
 }
 

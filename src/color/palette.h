@@ -55,6 +55,12 @@ class Palette {
     // Kind 6 with the picture's most frequent colors; on failure web safe.
     // The three that look at each pixel end early, as failures, when the work is stopped.
     void Set(const kirto::Picture* picture, const kirto::Work* work = nullptr);
+    // The same without a word, for a thread that must not say anything: B_OK, or the reason of the
+    // failure for TellOfFailure.
+    status_t SetOptimal(const kirto::Picture* picture, const kirto::Work* work = nullptr);
+    // Says what Set says: that memory ran out (B_NO_MEMORY) or that the picture is not 32-bit
+    // (B_BAD_TYPE). The rest needs no word.
+    static void TellOfFailure(status_t status);
     // Kind 7 with the color table of a GIF or FLI file, recognized by "gif", "GIF", "fli" or "FLI"
     // anywhere in the path, in that order. On failure kind 8 and false; entries may be partly
     // overwritten.
@@ -96,6 +102,8 @@ class Palette {
     bool operator==(const Palette&) const = default;
 
   private:
+    status_t FindNearestColors(const kirto::Picture* picture, const kirto::Work* work,
+                               std::optional<std::vector<rgb_color>>* result);
     // Greys are never dithered: clears the flag.
     void SetKind(int32 kind);
     bool ReadTriples(BFile* file, int32 count);

@@ -2,10 +2,13 @@
 
 #include <algorithm>
 #include <memory>
+#include <optional>
+#include <utility>
 #include <vector>
 
 #include "base/text.h"
 #include "effects/fade_kernels.h"
+#include "effects/make_pictures.h"
 #include "kit/alert.h"
 #include "picture/picture_builder.h"
 
@@ -88,6 +91,67 @@ std::shared_ptr<const Picture> MakePicture(const FadePlan& plan, float f,
     return builder.Take();
 }
 
+// Makes the frames of a fade and inserts them.
+class FadeRun {
+  public:
+    FadeRun(AnimationDocument& document, FadePlan plan, int32 count, int32 name_base)
+        : document_(document), plan_(std::move(plan)), count_(count), name_base_(name_base) {}
+
+    // Returns how many frames were inserted, from the position on.
+    int32 InsertAt(int32 position);
+    bool OutOfMemory() const { return out_of_memory_; }
+
+  private:
+    bool Begin(int32 i);
+    bool Insert(int32 i, std::optional<MadePicture> made);
+
+    AnimationDocument& document_;
+    const FadePlan plan_;
+    const int32 count_;
+    const int32 name_base_;
+    int32 position_ = 0;  // of the next frame
+    bool out_of_memory_ = false;
+    std::shared_ptr<Palette> palette_;  // of the frame whose turn it is
+};
+
+int32 FadeRun::InsertAt(int32 position) {
+    position_ = position;
+    PictureSteps steps;
+    steps.begin = [this](int32 i) { return Begin(i); };
+    steps.make = [this](int32 i) {
+        const float f = FadeFactor(plan_.mode, i, count_);
+        return MakePicture(plan_, f, document_.pixel_budget, document_.work);
+    };
+    steps.take = [this](int32 i, std::optional<MadePicture> made) {
+        return Insert(i, std::move(made));
+    };
+    return MakePictures(count_, steps, document_.work);
+}
+
+bool FadeRun::Begin(int32 i) {
+    if (document_.StopRequested()) return false;
+    palette_ = SharePalette();
+    out_of_memory_ = !palette_;
+    if (out_of_memory_) return false;
+    document_.PostStatus(Format("Status: generating frame %d of %d...", i + 1, count_));
+    document_.work.Report(i, count_);
+    return true;
+}
+
+bool FadeRun::Insert(int32 i, std::optional<MadePicture> made) {
+    if (made) Palette::TellOfFailure(made->palette_status);
+    if (document_.StopRequested()) return false;
+    out_of_memory_ = !made;
+    if (out_of_memory_) return false;
+    const Picture& current = *plan_.current->bitmap;
+    Frame frame(Format("fade%04d", name_base_ + i), current.Width(), current.Height());
+    *palette_ = made->palette;
+    frame.palette = std::move(palette_);
+    frame.bitmap = std::move(made->bitmap);
+    document_.InsertFrame(position_++, std::move(frame));
+    return true;
+}
+
 }  // namespace
 
 float FadeFactor(FadeMode mode, int32 i, int32 count) {
@@ -118,29 +182,14 @@ bool Fade(AnimationDocument& document, FadeMode mode, int32 count, rgb_color col
         if (!IsBlendable(plan.other)) return true;
     }
     const int32 first = before->selected + (after ? 1 : 0);
-    int32 position = first;
-    for (int32 i = 0; i < count && !document.StopRequested(); ++i) {
-        Frame frame(Format("fade%04d", *name_base + i), plan.current->bitmap->Width(),
-                    plan.current->bitmap->Height());
-        const std::shared_ptr<Palette> palette = SharePalette();
-        if (palette) {
-            document.PostStatus(Format("Status: generating frame %d of %d...", i + 1, count));
-            document.work.Report(i, count);
-            frame.bitmap =
-                MakePicture(plan, FadeFactor(mode, i, count), document.pixel_budget, document.work);
-        }
-        if (document.StopRequested()) break;
-        if (!frame.bitmap) {
-            WarnOutOfMemory();
-            return true;
-        }
-        palette->Set(frame.bitmap.get(), &document.work);
-        if (document.StopRequested()) break;
-        frame.palette = palette;
-        document.InsertFrame(position++, std::move(frame));
+    FadeRun run(document, plan, count, *name_base);
+    const int32 inserted = run.InsertAt(first);
+    if (run.OutOfMemory()) {
+        WarnOutOfMemory();
+        return true;
     }
-    const bool complete = position - first >= count;
-    if (complete || position > first) {
+    const bool complete = inserted >= count;
+    if (complete || inserted > 0) {
         document.SetModified(true);
         *name_base += kNamesPerFade;
     }

@@ -2,8 +2,10 @@
 
 #include <memory>
 #include <optional>
+#include <utility>
 
 #include "base/text.h"
+#include "effects/make_pictures.h"
 #include "kit/alert.h"
 #include "kit/picture_files.h"
 #include "picture/picture_builder.h"
@@ -59,20 +61,81 @@ std::shared_ptr<const Picture> CopyTile(const BBitmap& picture, const TilePlace&
     return builder.Take();
 }
 
-// A frame of one tile, or none when memory is short.
-std::optional<Frame> MakeTile(const BBitmap& picture, int32 tile, const TileGrid& grid,
-                              std::shared_ptr<PixelBudget> budget, const Work& work) {
-    const std::shared_ptr<Palette> palette = SharePalette();
-    if (!palette) return std::nullopt;
-    Frame frame(Format("tiled%04d", tile), picture.Width() / grid.columns,
-                picture.Height() / grid.rows);
+// One tile, or null when memory is short.
+std::shared_ptr<const Picture> CutTile(const BBitmap& picture, int32 tile, const TileGrid& grid,
+                                       std::shared_ptr<PixelBudget> budget) {
+    const int32 width = picture.Width() / grid.columns;
+    const int32 height = picture.Height() / grid.rows;
     const TilePlace place = PlaceOf(tile, grid);
-    frame.bitmap = CopyTile(picture, {place.row * frame.height, place.column * frame.width},
-                            frame.width, frame.height, std::move(budget));
-    if (!frame.bitmap) return std::nullopt;
-    palette->Set(frame.bitmap.get(), &work);
-    frame.palette = palette;
-    return frame;
+    return CopyTile(picture, {place.row * height, place.column * width}, width, height,
+                    std::move(budget));
+}
+
+// Makes the frames of a picture's tiles and inserts them.
+class TileRun {
+  public:
+    TileRun(AnimationDocument& document, const BBitmap& picture, const TileGrid& grid)
+        : document_(document), picture_(picture), grid_(grid), count_(grid.rows * grid.columns) {}
+
+    // Returns how many frames were inserted, from the position on.
+    int32 InsertAt(int32 position);
+    bool OutOfMemory() const { return out_of_memory_; }
+
+  private:
+    bool Begin(int32 tile);
+    bool Insert(int32 tile, std::optional<MadePicture> made);
+
+    AnimationDocument& document_;
+    const BBitmap& picture_;
+    const TileGrid grid_;
+    const int32 count_;
+    int32 position_ = 0;  // of the next frame
+    bool out_of_memory_ = false;
+    std::shared_ptr<Palette> palette_;  // of the tile whose turn it is
+};
+
+int32 TileRun::InsertAt(int32 position) {
+    position_ = position;
+    PictureSteps steps;
+    steps.begin = [this](int32 tile) { return Begin(tile); };
+    steps.make = [this](int32 tile) {
+        return CutTile(picture_, tile, grid_, document_.pixel_budget);
+    };
+    steps.take = [this](int32 tile, std::optional<MadePicture> made) {
+        return Insert(tile, std::move(made));
+    };
+    return MakePictures(count_, steps, document_.work);
+}
+
+bool TileRun::Begin(int32 tile) {
+    if (document_.StopRequested()) return false;
+    document_.PostStatus(Format("Status: loading tile %d of %d...", tile + 1, count_));
+    document_.work.Report(tile, count_);
+    palette_ = SharePalette();
+    out_of_memory_ = !palette_ && !document_.StopRequested();
+    return palette_ != nullptr;
+}
+
+bool TileRun::Insert(int32 tile, std::optional<MadePicture> made) {
+    if (made) Palette::TellOfFailure(made->palette_status);
+    if (document_.StopRequested()) return false;
+    out_of_memory_ = !made;
+    if (out_of_memory_) return false;
+    const int32 width = made->bitmap->Width();
+    const int32 height = made->bitmap->Height();
+    Frame frame(Format("tiled%04d", tile), width, height);
+    *palette_ = made->palette;
+    frame.palette = std::move(palette_);
+    frame.bitmap = std::move(made->bitmap);
+    document_.InsertFrame(position_, std::move(frame));
+    if (position_ == 0 && document_.prefs.global_setdimensions) {
+        document_.Change([width, height](Animation& animation) {
+            animation.width = width;
+            animation.height = height;
+        });
+    }
+    ++position_;
+    return true;
 }
 
 }  // namespace
@@ -83,8 +146,6 @@ bool InsertTiles(AnimationDocument& document, const entry_ref* ref, const TileGr
         Warn(kIllegalGrid);
         return true;
     }
-    const int32 first = document.Selected() + 1;
-    int32 position = first;
     if (!ref) return true;
     const std::shared_ptr<BBitmap> picture = ReadPicture(document, *ref, roster);
     if (!picture) return !document.StopRequested();
@@ -93,29 +154,14 @@ bool InsertTiles(AnimationDocument& document, const entry_ref* ref, const TileGr
         Warn(kIllegalGrid);
         return true;
     }
-    const int32 count = static_cast<int32>(tiles);
-    for (int32 tile = 0; tile < count && !document.StopRequested(); ++tile) {
-        document.PostStatus(Format("Status: loading tile %d of %d...", tile + 1, count));
-        document.work.Report(tile, count);
-        auto frame = MakeTile(*picture, tile, grid, document.pixel_budget, document.work);
-        if (document.StopRequested()) break;
-        if (!frame) {
-            WarnOutOfMemory();
-            return true;
-        }
-        const int32 width = frame->width;
-        const int32 height = frame->height;
-        document.InsertFrame(position, std::move(*frame));
-        if (position == 0 && document.prefs.global_setdimensions) {
-            document.Change([width, height](Animation& animation) {
-                animation.width = width;
-                animation.height = height;
-            });
-        }
-        ++position;
+    TileRun run(document, *picture, grid);
+    const int32 inserted = run.InsertAt(document.Selected() + 1);
+    if (run.OutOfMemory()) {
+        WarnOutOfMemory();
+        return true;
     }
-    const bool complete = position - first == count;
-    if (complete || position > first) document.SetModified(true);
+    const bool complete = inserted == tiles;
+    if (complete || inserted > 0) document.SetModified(true);
     return complete;
 }
 

@@ -294,4 +294,26 @@ TEST(KirtoCli, FailsToChangeAFrameWhereThereIsNone) {
     }
 }
 
+TEST(KirtoCli, WritesAndSaysTheSameWithAnyNumberOfThreads) {
+    CliHome home;
+    home.Write("three.gif", ThreeFrameGif());
+    const auto save = [&home](const Arguments& first) {
+        Arguments arguments = first;
+        arguments.insert(arguments.end(),
+                         {"--open", "three.gif", "--fade", "to-next:30", "--save", "new.gif"});
+        const RunResult result = home.RunOnTerminal(arguments);
+        EXPECT_EQ(result.status, 0);
+        return std::pair(result.err, ReadBytes(home.File("new.gif")));
+    };
+    const auto alone = save({"--threads", "1"});
+    EXPECT_NE(alone.first.find("writing frame 33 of 33"), std::string::npos) << alone.first;
+
+    for (const char* number : {"2", "3", "64"})
+        EXPECT_EQ(save({"--threads", number}), alone) << number;
+    for (const char* number : {"1", "3", "1000", "some"}) {
+        home.SetEnvironment("KIRTO_THREADS", number);
+        EXPECT_EQ(save({}), alone) << number;
+    }
+}
+
 }  // namespace kirto::test

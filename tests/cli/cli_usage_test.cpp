@@ -57,6 +57,7 @@ TEST(KirtoCli, NamesEveryOptionInItsHelp) {
                              "--info-json",
                              "--quiet",
                              "--memory-limit MIB",
+                             "--threads N",
                              "--help",
                              "--version",
                              "Exit status: 0 success, 1 failure, 2 wrong usage."}) {
@@ -86,6 +87,14 @@ TEST(KirtoCli, RefusesMemoryLimitsThatAreNone) {
 
     for (const char* limit : {"0", "-1", "x", "", "1073741825", "99999999999999999999"}) {
         ExpectUsageError(home.Run({"--memory-limit", limit, "--info"}), "--memory-limit");
+    }
+}
+
+TEST(KirtoCli, RefusesNumbersOfThreadsThatAreNone) {
+    const CliHome home;
+
+    for (const char* number : {"0", "-1", "65", "x", "2x", "", "99999999999999999999"}) {
+        ExpectUsageError(home.Run({"--threads", number, "--info"}), "--threads");
     }
 }
 

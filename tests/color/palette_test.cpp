@@ -3,7 +3,9 @@
 #include <gtest/gtest.h>
 #include <random>
 
+#include "base/allocation.h"
 #include "color/reference_palette.h"
+#include "support/test_support.h"
 
 namespace kirto::test {
 
@@ -27,6 +29,18 @@ Palette PaletteOf(const std::vector<rgb_color>& colors) {
     std::copy(colors.begin(), colors.end(), palette.colors.begin());
     palette.size = static_cast<int32>(colors.size());
     return palette;
+}
+
+// What becomes of a web-safe palette, as a status, without an alert or a debug line.
+status_t SetSilently(const Picture* picture, const Work* work = nullptr) {
+    const DebugRecorder debug;
+    const AlertRecorder alerts;
+    Palette palette;
+    const status_t status = palette.SetOptimal(picture, work);
+    EXPECT_EQ(palette.mode, status == B_OK ? kPaletteOptimal : kPaletteWebSafe);
+    EXPECT_EQ(debug.Text(), "");
+    EXPECT_EQ(alerts.Lines(), std::vector<std::string>{});
+    return status;
 }
 
 }  // namespace
@@ -306,6 +320,34 @@ TEST(Palette, IsNotDitheredOnceItIsRecognisedAsGreyscale) {
 
         EXPECT_EQ(palette.dither, palette.mode != kPaletteGreyscale) << palette.mode;
     }
+}
+
+TEST(Palette, LeavesItToOthersToTellWhyItCouldNotBeMadeForAPicture) {
+    const auto picture = FramePictureOf(2, 1, {0xFF010203, 0xFF040506});
+    const auto indices = Picture::Of(std::make_shared<BBitmap>(BRect::OfSize(2, 1), B_CMAP8));
+    Work stopped;
+    stopped.StopAll();
+
+    EXPECT_EQ(SetSilently(picture.get()), B_OK);
+    EXPECT_EQ(SetSilently(nullptr), B_BAD_VALUE);
+    EXPECT_EQ(SetSilently(indices.get()), B_BAD_TYPE);
+    EXPECT_EQ(SetSilently(picture.get(), &stopped), B_CANCELED);
+    const AllocationFault fault(1);
+    EXPECT_EQ(SetSilently(picture.get()), B_NO_MEMORY);
+}
+
+TEST(Palette, TellsOfMemoryAndOfOddPicturesOnly) {
+    const DebugRecorder debug;
+    const AlertRecorder alerts;
+    for (const status_t status : {B_OK, B_BAD_VALUE, B_CANCELED})
+        Palette::TellOfFailure(status);
+    EXPECT_EQ(debug.Text(), "");
+    EXPECT_EQ(alerts.Lines(), std::vector<std::string>{});
+
+    Palette::TellOfFailure(B_NO_MEMORY);
+    Palette::TellOfFailure(B_BAD_TYPE);
+    EXPECT_EQ(debug.Text(), "Palette::BuildHashtable() - Wrong color space given\n");
+    EXPECT_EQ(alerts.Lines(), std::vector<std::string>{"WARNING [] Out of memory. | OK"});
 }
 
 }  // namespace kirto::test

@@ -31,11 +31,11 @@ int32 BitWidth(uint8 value) {
 // The largest of the indices that pixels get whatever the number of entries in use: the transparent
 // one, and the levels of the grey ramp.
 uint8 LargestUnboundIndex(const Frame& frame, const Palette& palette, uint8 transparent,
-                          const Work& work) {
+                          const SharedProgress& progress) {
     const bool grey_ramp = palette.mode == kPaletteGreyscale;
     uint8 largest = 0;
     std::vector<rgb_color> row;
-    for (int32 y = 0; y < frame.height && !work.StopRequested(); ++y) {
+    for (int32 y = 0; y < frame.height && !progress.StopRequested(); ++y) {
         ReadColors(frame.bitmap.get(), y, frame.width, &row);
         for (const rgb_color color : row) {
             if (color.alpha < 255) {
@@ -63,24 +63,25 @@ GifFrameEncoder::GifFrameEncoder(const Animation& animation, const GifSaveOption
       mapper_(LowByte(animation.palette->transparent_index), animation.palette->dither,
               WidestFrame(animation)) {}
 
-void GifFrameEncoder::Encode(const Frame& frame, BFile& file, Work& work, int64 rows_done,
-                             int64 rows) {
-    const Encoding encoding = EncodingOf(frame, work);
-    WriteGifControlBlock(frame, file);
-    WriteGifImageHeader(frame, encoding, file);
+ByteWriter GifFrameEncoder::Encode(const Frame& frame, SharedProgress& progress) {
+    ByteWriter bytes;
+    const Encoding encoding = EncodingOf(frame, progress);
+    AddControlBlock(frame, bytes);
+    AddImageHeader(frame, encoding, bytes);
     mapper_.StartPicture(*encoding.palette, options_.interlaced);
-    GifLzwEncoder encoder(file, std::max(encoding.bits, 2));
+    GifLzwEncoder encoder(bytes, std::max(encoding.bits, 2));
     std::vector<uint8> indices;
     for (GifRowOrder order(frame.height, options_.interlaced); !order.Done(); order.Next()) {
-        work.Report(rows_done++, rows);
-        if (work.StopRequested()) return;
+        if (progress.StopRequested()) return bytes;
         mapper_.MapRow(frame.bitmap.get(), order.Row(), frame.width, &indices);
         encoder.Add(indices);
+        progress.Add(1);
     }
     encoder.Finish();
+    return bytes;
 }
 
-void GifFrameEncoder::WriteGifControlBlock(const Frame& frame, BFile& file) const {
+void GifFrameEncoder::AddControlBlock(const Frame& frame, ByteWriter& bytes) const {
     const Palette& global = *animation_.palette;
     uint8 block[8] = {0x21, 0xF9, 4};
     block[3] = LowByte(options_.disposal << 2);
@@ -89,11 +90,11 @@ void GifFrameEncoder::WriteGifControlBlock(const Frame& frame, BFile& file) cons
         block[3] |= 1;
         block[6] = LowByte(global.transparent_index);
     }
-    file.Write(block, sizeof(block));
+    bytes.Bytes(block);
 }
 
-void GifFrameEncoder::WriteGifImageHeader(const Frame& frame, const Encoding& encoding,
-                                          BFile& file) const {
+void GifFrameEncoder::AddImageHeader(const Frame& frame, const Encoding& encoding,
+                                     ByteWriter& bytes) const {
     uint8 header[10] = {','};
     WriteLittle16(header + 1, frame.x_offset);
     WriteLittle16(header + 3, frame.y_offset);
@@ -101,14 +102,15 @@ void GifFrameEncoder::WriteGifImageHeader(const Frame& frame, const Encoding& en
     WriteLittle16(header + 7, frame.height);
     if (encoding.local_table) header[9] = LowByte((encoding.bits - 1) | 0x80);
     if (options_.interlaced) header[9] |= 0x40;
-    file.Write(header, sizeof(header));
-    if (encoding.local_table) WriteColorTable(*encoding.palette, encoding.bits, file);
+    bytes.Bytes(header);
+    if (encoding.local_table) AddColorTable(*encoding.palette, encoding.bits, bytes);
 }
 
 // The transparent index is the global palette's even in frames with a narrower palette of their
 // own, and a palette may be recognised as the grey ramp though fewer entries were read. A frame
 // that uses an index past its palette is written wider, with a table of its own.
-GifFrameEncoder::Encoding GifFrameEncoder::EncodingOf(const Frame& frame, const Work& work) const {
+GifFrameEncoder::Encoding GifFrameEncoder::EncodingOf(const Frame& frame,
+                                                      const SharedProgress& progress) const {
     const Palette& global = *animation_.palette;
     Encoding encoding;
     encoding.local_table = frame.local_palette;
@@ -118,7 +120,8 @@ GifFrameEncoder::Encoding GifFrameEncoder::EncodingOf(const Frame& frame, const 
     const bool grey_ramp = encoding.palette->mode == kPaletteGreyscale;
     // Most frames can't need more bits and are spared the look at their pixels.
     if (encoding.bits >= (grey_ramp ? 8 : BitWidth(transparent))) return encoding;
-    const int32 needed = BitWidth(LargestUnboundIndex(frame, *encoding.palette, transparent, work));
+    const int32 needed =
+        BitWidth(LargestUnboundIndex(frame, *encoding.palette, transparent, progress));
     if (needed > encoding.bits) {
         encoding.bits = needed;
         encoding.local_table = true;
@@ -136,15 +139,14 @@ int64 GifFrameEncoder::DelayOf(const Animation& animation, const Frame& frame, b
     return WholeHundredths(in_seconds ? pause * 100 : pause);
 }
 
-void GifFrameEncoder::WriteColorTable(const Palette& palette, int32 bits, BFile& file) {
+void GifFrameEncoder::AddColorTable(const Palette& palette, int32 bits, ByteWriter& bytes) {
     const size_t count = size_t{1} << bits;
-    std::vector<uint8> table;
-    table.reserve(count * 3);
     for (size_t i = 0; i < count; ++i) {
         const rgb_color color = palette.colors[i];
-        table.insert(table.end(), {color.red, color.green, color.blue});
+        bytes.U8(color.red);
+        bytes.U8(color.green);
+        bytes.U8(color.blue);
     }
-    file.Write(table.data(), table.size());
 }
 
 }  // namespace kirto

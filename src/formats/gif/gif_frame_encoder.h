@@ -1,10 +1,10 @@
 #pragma once
 
 #include "animation/animation.h"
+#include "base/byte_writer.h"
+#include "base/shared_progress.h"
 #include "base/types.h"
-#include "base/work.h"
 #include "formats/gif/pixel_mapper.h"
-#include "kit/file.h"
 
 namespace kirto {
 
@@ -16,20 +16,22 @@ struct GifSaveOptions {
     int32 disposal = 0;             // of each frame, 0 to 3
 };
 
-// Encodes the frames of an animation, each by itself. The layout is described in
-// docs/formats/gif.md.
+// Encodes the frames of an animation, each by itself: the bytes of a frame are the same whichever
+// were encoded before it. Used by one thread at a time. Throws std::bad_alloc when memory is short.
+// The layout is described in docs/formats/gif.md.
 class GifFrameEncoder {
   public:
     // The animation outlives this.
     GifFrameEncoder(const Animation& animation, const GifSaveOptions& options);
+    // False when it lacks memory, without which its frames may not be dithered.
+    bool HasMemory() const { return mapper_.HasMemory(); }
 
-    // Writes the frame's control block and image. Write results are not checked here: the file
-    // remembers its first error. The work is told rows_done and the rows after them, of rows; when
-    // it is stopped, what is written is not complete.
-    void Encode(const Frame& frame, BFile& file, Work& work, int64 rows_done, int64 rows);
+    // The frame's control block and image. The progress counts its rows; when the work is stopped,
+    // the bytes are not complete.
+    ByteWriter Encode(const Frame& frame, SharedProgress& progress);
 
-    // Writes 1 << bits colors.
-    static void WriteColorTable(const Palette& palette, int32 bits, BFile& file);
+    // Appends 1 << bits colors.
+    static void AddColorTable(const Palette& palette, int32 bits, ByteWriter& bytes);
     // How long a frame is shown, in hundredths of a second. A file keeps the low 16 bits.
     static int64 DelayOf(const Animation& animation, const Frame& frame, bool in_seconds);
 
@@ -40,9 +42,9 @@ class GifFrameEncoder {
         int32 bits = 0;                    // of the color table and of the codes
         bool local_table = false;
     };
-    Encoding EncodingOf(const Frame& frame, const Work& work) const;
-    void WriteGifControlBlock(const Frame& frame, BFile& file) const;
-    void WriteGifImageHeader(const Frame& frame, const Encoding& encoding, BFile& file) const;
+    Encoding EncodingOf(const Frame& frame, const SharedProgress& progress) const;
+    void AddControlBlock(const Frame& frame, ByteWriter& bytes) const;
+    void AddImageHeader(const Frame& frame, const Encoding& encoding, ByteWriter& bytes) const;
 
     const Animation& animation_;
     const GifSaveOptions options_;

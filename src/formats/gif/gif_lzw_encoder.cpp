@@ -22,16 +22,15 @@ const uint8* EndOfRun(const uint8* next, const uint8* end, uint8 index) {
 
 }  // namespace
 
-GifLzwEncoder::GifLzwEncoder(BFile& file, int32 min_code_size)
-    : file_(file),
+GifLzwEncoder::GifLzwEncoder(ByteWriter& output, int32 min_code_size)
+    : output_(output),
       min_code_size_(static_cast<uint32>(min_code_size)),
       clear_code_(uint32{1} << min_code_size),
       next_free_(clear_code_ + 2),
       code_size_(min_code_size_ + 1),
       empty_slot_(clear_code_ << 20) {
     ResetTable();
-    const uint8 size_byte = static_cast<uint8>(min_code_size);
-    file_.Write(&size_byte, 1);
+    output_.U8(static_cast<uint8>(min_code_size));
     OutputCode(clear_code_, code_size_);
 }
 
@@ -162,16 +161,12 @@ void GifLzwEncoder::FlushCodes(uint32 size) {
 }
 
 void GifLzwEncoder::WriteBlocks() {
-    std::array<uint8, kBlocks*(kBlockSize + 1)> blocks;
-    size_t size = 0;
     const size_t now = std::min(data_size_, kBlocks * kBlockSize);
     for (size_t start = 0; start < now; start += kBlockSize) {
         const size_t block = std::min(now - start, kBlockSize);
-        blocks[size] = static_cast<uint8>(block);
-        std::memcpy(blocks.data() + size + 1, data_.data() + start, block);
-        size += block + 1;
+        output_.U8(static_cast<uint8>(block));
+        output_.Bytes({data_.data() + start, block});
     }
-    file_.Write(blocks.data(), size);
     data_size_ -= now;
     std::memmove(data_.data(), data_.data() + now, data_size_);
 }
@@ -180,8 +175,7 @@ void GifLzwEncoder::Finish() {
     if (prefix_ != kNoPrefix) OutputCode(prefix_, code_size_);
     OutputCode(clear_code_ + 1, code_size_);
     FlushCodes(code_size_);
-    const uint8 terminator = 0;
-    file_.Write(&terminator, 1);
+    output_.U8(0);  // the terminator
 }
 
 }  // namespace kirto

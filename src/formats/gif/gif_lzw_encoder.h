@@ -3,18 +3,18 @@
 #include <array>
 #include <span>
 
+#include "base/byte_writer.h"
 #include "base/types.h"
-#include "kit/file.h"
 
 namespace kirto {
 
 // Compresses the palette indices of one image into GIF image data: the code size byte, data
 // sub-blocks of at most 255 bytes and the terminator. The string table is cleared when the codes
-// would pass 12 bits. Write results are not checked here: the file remembers its first error.
+// would pass 12 bits. Throws std::bad_alloc when memory is short.
 class GifLzwEncoder {
   public:
-    // min_code_size: 2 to 8; every index is below 2^min_code_size. The file outlives this.
-    GifLzwEncoder(BFile& file, int32 min_code_size);
+    // min_code_size: 2 to 8; every index is below 2^min_code_size. The output outlives this.
+    GifLzwEncoder(ByteWriter& output, int32 min_code_size);
 
     // Takes the image's next indices, best a row at once.
     void Add(std::span<const uint8> indices);
@@ -26,7 +26,7 @@ class GifLzwEncoder {
     static constexpr uint32 kNoPrefix = ~uint32{0};
     static constexpr uint32 kHashBits = 14;
     static constexpr size_t kBlockSize = 255;
-    // Sub-blocks that are written at once.
+    // Sub-blocks that are put out at once.
     static constexpr size_t kBlocks = 64;
 
     static constexpr uint32 kRunStep = 32;
@@ -52,12 +52,12 @@ class GifLzwEncoder {
     void FlushCodes(uint32 size);
     void WriteBlocks();
 
-    BFile& file_;
+    ByteWriter& output_;
     const uint32 min_code_size_;
     const uint32 clear_code_;
     uint32 next_free_;
     uint32 code_size_;
-    // The longest string in the table that the indices since the last written code are.
+    // The longest string in the table that the indices since the last code are.
     uint32 prefix_ = kNoPrefix;
     uint32 run_length_ = 0;  // of the prefix while it is a run and may go on; else 0
     uint8 run_index_ = 0;

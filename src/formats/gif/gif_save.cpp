@@ -1,6 +1,11 @@
 #include "formats/gif/gif_save.h"
 
+#include <algorithm>
+#include <optional>
+#include <vector>
+
 #include "base/byte_order.h"
+#include "base/run_in_order.h"
 #include "base/text.h"
 
 namespace {
@@ -22,24 +27,57 @@ int64 CountRows(const kirto::FrameSequence& frames) {
     return rows;
 }
 
+// What an encoder keeps from frame to frame is one thread's. Where memory is too short for so many,
+// fewer threads do: all frames are to be written as the first encoder writes them.
+std::vector<kirto::GifFrameEncoder> MakeEncoders(const kirto::Animation& animation,
+                                                 const kirto::GifSaveOptions& options,
+                                                 size_t count) {
+    std::vector<kirto::GifFrameEncoder> encoders;
+    encoders.emplace_back(animation, options);
+    while (encoders.size() < count && encoders.back().HasMemory())
+        encoders.emplace_back(animation, options);
+    if (encoders.size() > 1 && !encoders.back().HasMemory()) encoders.pop_back();
+    return encoders;
+}
+
 }  // namespace
 
 GifSave::GifSave(std::shared_ptr<BFile> file, AnimationDocument& document)
     : file_(std::move(file)), animation_(document.Current()), options_(OptionsOf(document.prefs)) {
     WriteGifHeader();
-    kirto::GifFrameEncoder encoder(*animation_, options_);
-    const int32 count = animation_->frames.Size();
-    const int64 rows = CountRows(animation_->frames);
-    int64 rows_done = 0;
-    int32 number = 0;
-    for (const kirto::FramePointer& frame : animation_->frames) {
-        document.PostStatus(kirto::Format("Status: writing frame %d of %d...", ++number, count));
-        if (document.StopRequested()) break;
-        encoder.Encode(*frame, *file_, document.work, rows_done, rows);
-        rows_done += frame->height;
-    }
+    WriteFrames(document);
     file_->Write(";", 1);
     file_->SetMimeType("image/gif");
+}
+
+void GifSave::WriteFrames(AnimationDocument& document) {
+    const kirto::FrameSequence& frames = animation_->frames;
+    const int32 count = frames.Size();
+    const int32 threads = std::clamp(count, 1, kirto::ThreadCount());
+    auto encoders = MakeEncoders(*animation_, options_, static_cast<size_t>(threads));
+    kirto::SharedProgress progress(document.work, CountRows(frames));
+    auto frame = frames.begin();
+    int32 number = 0;
+    kirto::OrderedSteps<kirto::FramePointer, kirto::ByteWriter> steps;
+    steps.next = [&] { return frame != frames.end() ? std::optional(*frame++) : std::nullopt; };
+    steps.begin = [&](const kirto::FramePointer&) {
+        document.PostStatus(kirto::Format("Status: writing frame %d of %d...", ++number, count));
+        progress.Tell();
+        return !document.StopRequested();
+    };
+    steps.work = [&](const kirto::FramePointer& piece, int32 worker) {
+        return encoders[static_cast<size_t>(worker)].Encode(*piece, progress);
+    };
+    steps.waiting = [&] { progress.Tell(); };
+    steps.take = [&](const kirto::FramePointer&, std::optional<kirto::ByteWriter> bytes) {
+        if (bytes) Write(*bytes);
+        return bytes.has_value();
+    };
+    kirto::RunInOrder(steps, static_cast<int32>(encoders.size()));
+}
+
+void GifSave::Write(const kirto::ByteWriter& bytes) {
+    file_->Write(bytes.Written().data(), bytes.Written().size());
 }
 
 void GifSave::WriteGifHeader() {
@@ -50,18 +88,20 @@ void GifSave::WriteGifHeader() {
     // A global table, of the highest colour resolution, unsorted.
     header[10] = kirto::LowByte((palette.bits - 1) | 0xF0);
     header[11] = kirto::LowByte(palette.background_index);
-    file_->Write(header, sizeof(header));
-    kirto::GifFrameEncoder::WriteColorTable(palette, palette.bits, *file_);
+    kirto::ByteWriter bytes;
+    bytes.Bytes(header);
+    kirto::GifFrameEncoder::AddColorTable(palette, palette.bits, bytes);
     if (animation_->use_loop) {
         uint8 loop[19] = {0x21, 0xFF, 0x0B, 'N', 'E', 'T', 'S', 'C', 'A', 'P',
                           'E',  '2',  '.',  '0', 3,   1,   0,   0,   0};
         kirto::WriteLittle16(loop + 16, animation_->loop_count);
-        file_->Write(loop, sizeof(loop));
+        bytes.Bytes(loop);
     }
     if (options_.comment) {
         const uint8 start[3] = {0x21, 0xFE, kirto::LowByte(sizeof(kComment) - 1)};
-        file_->Write(start, sizeof(start));
-        // The text's own terminating zero ends the chain of sub-blocks.
-        file_->Write(kComment, sizeof(kComment));
+        bytes.Bytes(start);
+        bytes.Text(kComment);
+        bytes.U8(0);  // ends the chain of sub-blocks
     }
+    Write(bytes);
 }

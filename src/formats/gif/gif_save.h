@@ -8,8 +8,9 @@
 
 // Writes a document's animation, as it is at the start, as an animated GIF89a. The constructor does
 // all the work; the document's work tells how far it is, and when that is stopped the file is not
-// complete. Write results are not checked here: the file remembers its first error. The layout is
-// described in docs/formats/gif.md.
+// complete. Several threads encode the frames; the bytes do not depend on their number. Write
+// results are not checked here: the file remembers its first error. The layout is described in
+// docs/formats/gif.md.
 class GifSave {
   public:
     // file: empty and writable; this object shares it with the caller, who commits it afterward.
@@ -17,6 +18,8 @@ class GifSave {
 
   private:
     void WriteGifHeader();
+    void WriteFrames(AnimationDocument& document);
+    void Write(const kirto::ByteWriter& bytes);
 
     const std::shared_ptr<BFile> file_;
     const std::shared_ptr<const kirto::Animation> animation_;

@@ -21,6 +21,9 @@ class PixelMapper {
     // pictures at most max_width pixels wide; without memory for the errors it is left out.
     PixelMapper(uint8 transparent_index, bool dither, int32 max_width);
 
+    // False when memory was short, so that dithering is left out or colors are looked up again.
+    bool HasMemory() const { return memo_.Ready() && (!dither_ || diffusion_.Ready()); }
+
     // Before each picture: the palette to map to, which outlives the picture. The grey ramp is
     // never dithered. unconnected_rows: rows do not follow their upper neighbor (interlaced order),
     // so no error passes from row to row.

@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include "base/terminal_text.h"
+#include "base/thread_count.h"
 
 namespace kirto {
 
@@ -110,6 +111,9 @@ std::optional<int> ParseArguments(int argc, const char* const* argv, CliArgument
         app.add_option("--memory-limit", mebibytes, "Limit the memory of the frames")
             ->type_name("MIB")
             ->check(CLI::Range(uint64{1}, uint64{1} << 30));
+    app.add_option("--threads", arguments->threads, "Work with so many threads at a time")
+        ->type_name("N")
+        ->check(CLI::Range(1, kMostThreads));
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {

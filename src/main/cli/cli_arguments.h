@@ -26,6 +26,7 @@ struct CliArguments {
     bool salvage = false;
     bool quiet = false;
     std::optional<uint64> memory_limit;  // bytes
+    std::optional<int32> threads;        // 1 to kMostThreads
     std::string format;                  // of image sequences; empty: by their extension
 };
 

@@ -2,6 +2,7 @@
 
 #include <map>
 
+#include "base/thread_count.h"
 #include "kit/alert.h"
 
 namespace kirto {
@@ -42,6 +43,7 @@ void CliSession::StartApplication() {
     // A settings file that can't be used is worth a line, but ends nothing.
     desktop_.TakeFailure();
     if (arguments_.memory_limit) app_->pixel_budget->SetLimit(*arguments_.memory_limit);
+    if (arguments_.threads) SetThreadCount(*arguments_.threads);
     app_->AddHandler(&barrier_);
     app_->Run();
     running_ = app_.get();

@@ -18,13 +18,13 @@ using Bytes = std::vector<uint8>;
 
 // The image data, when the encoder is given so many indices at once.
 Bytes Encode(int32 min_code_size, const Bytes& indices, size_t at_once = 100) {
-    const auto file = BFile::OnMemory();
-    GifLzwEncoder encoder(*file, min_code_size);
+    ByteWriter output;
+    GifLzwEncoder encoder(output, min_code_size);
     const std::span<const uint8> all(indices);
     for (size_t done = 0; done < all.size(); done += at_once)
         encoder.Add(all.subspan(done, std::min(at_once, all.size() - done)));
     encoder.Finish();
-    return file->Memory();
+    return output.Written();
 }
 
 Bytes Noise(size_t count, int32 min_code_size, uint32 seed = 1) {
