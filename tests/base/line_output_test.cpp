@@ -23,9 +23,16 @@ class Terminal {
         std::fclose(stream);
         close(terminal_);
     }
+    // All that was written; it may arrive in pieces.
     std::string Text() {
+        constexpr char kEnd = '\x7f';
+        std::fputc(kEnd, stream);
         std::fflush(stream);
-        return Read();
+        std::string text;
+        while (!text.ends_with(kEnd))
+            text += Read();
+        text.pop_back();
+        return text;
     }
     std::string Read() const {
         std::array<char, 4096> buffer;
