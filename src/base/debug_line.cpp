@@ -24,13 +24,29 @@ Output& TheOutput() {
     return output;
 }
 
+thread_local std::string* captured = nullptr;
+
 }  // namespace
+
+DebugLineCapture::DebugLineCapture() : before_(std::exchange(captured, &text_)) {}
+
+DebugLineCapture::~DebugLineCapture() {
+    captured = before_;
+}
+
+std::string DebugLineCapture::Take() {
+    return std::exchange(text_, {});
+}
 
 void DebugLine(const char* format, ...) {
     va_list arguments;
     va_start(arguments, format);
     const std::string text = FormatV(format, arguments);
     va_end(arguments);
+    if (captured) {
+        *captured += text;
+        return;
+    }
     Output& output = TheOutput();
     const std::lock_guard lock(output.mutex);
     if (output.sink) {

@@ -5,8 +5,6 @@
 
 #include "base/debug_line.h"
 #include "color/pixel_table.h"
-#include "formats/gif/gif_index_writer.h"
-#include "formats/gif/gif_lzw_decoder.h"
 
 namespace kirto {
 
@@ -57,8 +55,8 @@ void GifComposer::SetControl(const GifControl& control) {
     if (previous_disposal_ == -1) previous_disposal_ = current_disposal_;
 }
 
-status_t GifComposer::Compose(const GifImage& image, int64 file_size, Frame* frame,
-                              Palette* palette) {
+status_t GifComposer::Compose(const GifImage& image, GifIndices* ahead, int64 file_size,
+                              Frame* frame, Palette* palette) {
     if (image.width > width_ || image.height > height_) {
         DebugLine("GifLoad::ReadGifImageHeader() - Local dimensions exceed global dimensions\n");
         return B_BAD_DATA;
@@ -74,9 +72,9 @@ status_t GifComposer::Compose(const GifImage& image, int64 file_size, Frame* fra
     // Pictures are given to others as bitmaps, however little memory they take here.
     if (uint64{4} * static_cast<uint64>(width) * static_cast<uint64>(height) > budget_->Limit())
         return B_NO_MEMORY;
-    if (image.data.too_large || !ReserveIndices(image)) return B_NO_MEMORY;
+    if (image.data.too_large || (!ahead && !ReserveIndices(image))) return B_NO_MEMORY;
     IndexImage indices;
-    if (!ReadGifImageData(image, current, file_size, &indices)) return B_BAD_DATA;
+    if (!ReadGifImageData(image, current, ahead, file_size, &indices)) return B_BAD_DATA;
     std::shared_ptr<const Picture> picture = Below(image, current);
     picture = painter_.Paint(picture, indices);
     if (!picture) return B_NO_MEMORY;
@@ -115,27 +113,24 @@ std::shared_ptr<const Picture> GifComposer::Solid(uint32 pixel, int32 width, int
 
 // Makes room for the image's indices. False when memory is short.
 bool GifComposer::ReserveIndices(const GifImage& image) {
-    const size_t size = static_cast<size_t>(image.width) * static_cast<size_t>(image.height);
-    if (size <= room_) return true;
-    if (size > budget_->Left() + PixelBudget::kWorkingRoom) return false;
-    indices_ = AllocateArray<uint8>(size);
-    room_ = indices_ ? size : 0;
-    return room_ > 0;
+    const uint64 size = static_cast<uint64>(image.width) * static_cast<uint64>(image.height);
+    return size <= budget_->Left() + PixelBudget::kWorkingRoom && indices_.Reserve(image);
 }
 
-bool GifComposer::ReadGifImageData(const GifImage& image, const Palette& current, int64 file_size,
-                                   IndexImage* indices) {
-    int32 min_code_size = 0;
-    if (!CheckCodeSize(image.min_code_size, current, &min_code_size)) return false;
-    GifIndexWriter writer(indices_.get(), image.width, image.height, image.interlaced);
-    if (!GifLzwDecoder(image.data, min_code_size).Decode(writer, work_, file_size)) return false;
-    row_lengths_ = writer.RowLengths();
-    indices->indices = {indices_.get(), room_};
+bool GifComposer::ReadGifImageData(const GifImage& image, const Palette& current, GifIndices* ahead,
+                                   int64 file_size, IndexImage* indices) {
+    const std::optional<int32> min_code_size = CheckCodeSize(image.min_code_size, current);
+    if (!min_code_size) return false;
+    GifIndices& decoded = ahead ? *ahead : indices_;
+    if (!ahead) decoded.Decode(image, *min_code_size, work_, file_size);
+    if (!decoded.lines.empty()) DebugLine("%s", decoded.lines.c_str());
+    if (!decoded.complete) return false;
+    indices->indices = {decoded.indices.get(), decoded.room};
     indices->left = options_.full_frame ? image.left : 0;
     indices->top = options_.full_frame ? image.top : 0;
     indices->width = image.width;
     indices->height = image.height;
-    indices->row_lengths = row_lengths_;
+    indices->row_lengths = decoded.row_lengths;
     SetColors(current, indices);
     return true;
 }
@@ -155,24 +150,19 @@ void GifComposer::SetColors(const Palette& current, IndexImage* indices) {
     indices->table = table_;
 }
 
-// A code size above the palette's depth is allowed, one below it is not: deliberately lopsided. A
-// size of 1 always counts as 2.
-bool GifComposer::CheckCodeSize(uint8 size, const Palette& current, int32* min_code_size) const {
+std::optional<int32> GifComposer::CheckCodeSize(uint8 size, const Palette& current) {
+    const std::optional<int32> actual = GifCodeSizeOf(size, current.bits);
     const int32 expected = std::max(current.bits, 2);
-    const int32 actual = size == 1 ? 2 : size;
-    *min_code_size = actual;
-    if (actual < expected || actual > GifLzwDecoder::kMaxMinCodeSize) {
+    if (!actual) {
         DebugLine("GifLoad::ReadGifImageData() - Code_size should be %d, but was in fact %d\n",
                   expected, size);
-        return false;
-    }
-    if (actual > expected) {
+    } else if (*actual > expected) {
         DebugLine(
             "GifLoad::ReadGifImageData() - Code_size should be %d, but was in fact %d, allowing "
             "it\n",
             expected, size);
     }
-    return true;
+    return actual;
 }
 
 bool GifComposer::CoversScreen(const GifImage& image) const {

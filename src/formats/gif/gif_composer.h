@@ -3,10 +3,10 @@
 #include <memory>
 
 #include "animation/frame.h"
-#include "base/allocation.h"
 #include "base/pixel_budget.h"
 #include "base/work.h"
 #include "color/palette.h"
+#include "formats/gif/gif_indices.h"
 #include "formats/gif/gif_parser.h"
 #include "picture/index_painter.h"
 #include "picture/picture.h"
@@ -36,18 +36,20 @@ class GifComposer {
 
     // Gives the frame, which holds its name, and its palette, not yet its own, what the image says
     // of them, and its pixels. B_BAD_DATA for an image that is damaged or larger than the screen,
-    // B_NO_MEMORY, or B_CANCELED. file_size: what the work is told the image's place in.
-    status_t Compose(const GifImage& image, int64 file_size, Frame* frame, Palette* palette);
+    // B_NO_MEMORY, or B_CANCELED. ahead: the image if it was decoded already, else null. file_size:
+    // what the work is told the image's place in.
+    status_t Compose(const GifImage& image, GifIndices* ahead, int64 file_size, Frame* frame,
+                     Palette* palette);
 
   private:
     std::shared_ptr<const Picture> Below(const GifImage& image, const Palette& current);
     std::shared_ptr<const Picture> FrameDisposal(const Palette& current);
     static std::shared_ptr<const Picture> Solid(uint32 pixel, int32 width, int32 height);
     bool ReserveIndices(const GifImage& image);
-    bool ReadGifImageData(const GifImage& image, const Palette& current, int64 file_size,
-                          IndexImage* indices);
+    bool ReadGifImageData(const GifImage& image, const Palette& current, GifIndices* ahead,
+                          int64 file_size, IndexImage* indices);
     void SetColors(const Palette& current, IndexImage* indices);
-    bool CheckCodeSize(uint8 size, const Palette& current, int32* min_code_size) const;
+    static std::optional<int32> CheckCodeSize(uint8 size, const Palette& current);
     bool CoversScreen(const GifImage& image) const;
 
     const Options options_;
@@ -60,9 +62,7 @@ class GifComposer {
     int32 previous_disposal_ = -1;
     std::shared_ptr<const Picture> previous_;  // the picture before; null for the first
     IndexPainter painter_;
-    AllocatedArray<uint8> indices_;  // of the last image, one a pixel
-    size_t room_ = 0;                // there is for indices
-    std::vector<int32> row_lengths_;
+    GifIndices indices_;      // of the last image that was decoded here
     SharedPixelTable table_;  // of the last image
 };
 

@@ -1,9 +1,17 @@
 #include "formats/gif/gif_load.h"
 
 #include "base/debug_line.h"
+#include "base/run_in_order.h"
 #include "base/text.h"
 
-using Block = kirto::GifParser::Block;
+using End = kirto::GifPiece::End;
+
+namespace {
+
+// Larger images are decoded when it is their turn, one at a time.
+constexpr uint64 kMostAhead = uint64{16} << 20;
+
+}  // namespace
 
 GifLoad::GifLoad(BFile* file, int32 start, AnimationDocument& document)
     : document_(document),
@@ -15,8 +23,7 @@ GifLoad::GifLoad(BFile* file, int32 start, AnimationDocument& document)
       next_position_(start) {
     Init();
     failed = !ReadScreen() || !StartFrame();
-    while (!failed && ReadBlock()) {
-    }
+    if (!failed) ReadFrames();
 }
 
 void GifLoad::Init() {
@@ -28,42 +35,69 @@ void GifLoad::Init() {
 }
 
 bool GifLoad::ReadScreen() {
-    kirto::GifScreen screen;
-    if (!parser_.ReadGifHeader(&screen)) return false;
-    composer_.SetScreen(screen);
-    document_.Change([&screen](kirto::Animation& animation) {
-        animation.width = screen.width;
-        animation.height = screen.height;
+    if (!parser_.ReadGifHeader(&screen_)) return false;
+    composer_.SetScreen(screen_);
+    document_.Change([this](kirto::Animation& animation) {
+        animation.width = screen_.width;
+        animation.height = screen_.height;
     });
     CommitPalette();
-    return screen.table.complete;
+    return screen_.table.complete;
 }
 
-bool GifLoad::ReadBlock() {
-    kirto::GifControl control;
-    int32 loop_count = 0;
-    switch (parser_.ReadBlock(&control, &loop_count)) {
-        case Block::kControl:
-            TakeControl(control);
-            return true;
-        case Block::kLoop:
-            document_.Change([loop_count](kirto::Animation& animation) {
-                animation.use_loop = true;
-                animation.loop_count = loop_count;
-            });
-            return true;
-        case Block::kImageStart:
-            failed = !ReadImage();
-            return !failed;
-        case Block::kOther:
-            return true;
-        case Block::kTrailer:
-            return false;
-        case Block::kBroken:
-            break;
+void GifLoad::ReadFrames() {
+    kirto::GifReader reader(parser_);
+    kirto::OrderedSteps<kirto::GifPiece, kirto::GifIndices> steps;
+    steps.next = [&reader] { return reader.Next(); };
+    steps.begin = [this](const kirto::GifPiece& piece) { return BeginPiece(piece); };
+    steps.work = [this](const kirto::GifPiece& piece, int32) { return DecodeAhead(piece); };
+    steps.waiting = [this] { document_.work.ReportAgain(); };
+    steps.take = [this](const kirto::GifPiece& piece, std::optional<kirto::GifIndices> ahead) {
+        return TakePiece(piece, ahead && ahead->room > 0 ? &*ahead : nullptr);
+    };
+    kirto::RunInOrder(steps);
+}
+
+// On any thread. Without room where the image is not to be decoded yet, or not at all.
+std::optional<kirto::GifIndices> GifLoad::DecodeAhead(const kirto::GifPiece& piece) const {
+    kirto::GifIndices indices;
+    const kirto::GifImage& image = piece.image;
+    const uint64 size = static_cast<uint64>(image.width) * static_cast<uint64>(image.height);
+    if (piece.end != End::kImage || size == 0 || size > kMostAhead) return indices;
+    if (image.width > screen_.width || image.height > screen_.height) return indices;
+    if (image.data.too_large || !image.table.complete) return indices;
+    const int32 global_bits = screen_.table.bits > 0 ? screen_.table.bits : 8;
+    const auto code_size = kirto::GifCodeSizeOf(
+        image.min_code_size, image.table.bits > 0 ? image.table.bits : global_bits);
+    if (!code_size) return indices;
+    if (!indices.Reserve(image)) return std::nullopt;
+    indices.Decode(image, *code_size, document_.work, 0);
+    return indices;
+}
+
+bool GifLoad::BeginPiece(const kirto::GifPiece& piece) {
+    for (const kirto::GifPiece::Block& block : piece.blocks) {
+        if (!block.lines.empty()) kirto::DebugLine("%s", block.lines.c_str());
+        if (block.control) TakeControl(*block.control);
+        if (block.loop_count) TakeLoop(*block.loop_count);
     }
-    failed = true;
-    return false;
+    if (piece.end == End::kImage || piece.end == End::kBrokenImage)
+        document_.PostStatus(kirto::Format("Status: loading frame %d...", next_position_ + 1));
+    return true;
+}
+
+bool GifLoad::TakePiece(const kirto::GifPiece& piece, kirto::GifIndices* ahead) {
+    if (piece.end == End::kTrailer) return false;
+    if (piece.end == End::kMore) return true;
+    failed = piece.end != End::kImage || !TakeImage(piece.image, ahead);
+    return !failed;
+}
+
+void GifLoad::TakeLoop(int32 loop_count) {
+    document_.Change([loop_count](kirto::Animation& animation) {
+        animation.use_loop = true;
+        animation.loop_count = loop_count;
+    });
 }
 
 void GifLoad::TakeControl(const kirto::GifControl& control) {
@@ -79,10 +113,9 @@ void GifLoad::CommitPalette() {
     });
 }
 
-bool GifLoad::ReadImage() {
-    document_.PostStatus(kirto::Format("Status: loading frame %d...", next_position_ + 1));
-    if (!parser_.ReadImage(&image_)) return false;
-    const status_t status = composer_.Compose(image_, input_.Size(), &frame_, local_palette_.get());
+bool GifLoad::TakeImage(const kirto::GifImage& image, kirto::GifIndices* ahead) {
+    const status_t status =
+        composer_.Compose(image, ahead, input_.Size(), &frame_, local_palette_.get());
     out_of_memory = status == B_NO_MEMORY;
     if (status != B_OK || !FinishFrame()) return false;
     ++next_position_;

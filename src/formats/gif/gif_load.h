@@ -1,16 +1,21 @@
 #pragma once
 
+#include <optional>
+
 #include "animation/frame.h"
 #include "base/types.h"
 #include "document/animation_document.h"
 #include "formats/gif/gif_composer.h"
+#include "formats/gif/gif_indices.h"
 #include "formats/gif/gif_parser.h"
+#include "formats/gif/gif_reader.h"
 #include "kit/file.h"
 #include "kit/watched_input.h"
 
-// Reads a GIF file into a document, one Frame per image: parses it, composes the images and commits
-// what comes of it. The constructor does all the work, on the editing thread; each frame is
-// inserted as soon as it is complete and stays when a later one fails.
+// Reads a GIF file into a document, one Frame per image: parses it, decodes the images on several
+// threads, composes them and commits what comes of it. The constructor does all the work, but for
+// the decoding on the editing thread; each frame is inserted as soon as it is complete and stays
+// when a later one fails.
 class GifLoad {
   public:
     bool failed = false;         // decoding ended before the trailer
@@ -25,12 +30,16 @@ class GifLoad {
   private:
     void Init();
     bool ReadScreen();
+    void ReadFrames();
+    std::optional<kirto::GifIndices> DecodeAhead(const kirto::GifPiece& piece) const;
+    bool BeginPiece(const kirto::GifPiece& piece);
     // False when the load ends here.
-    bool ReadBlock();
-    bool ReadImage();
+    bool TakePiece(const kirto::GifPiece& piece, kirto::GifIndices* ahead);
+    bool TakeImage(const kirto::GifImage& image, kirto::GifIndices* ahead);
     bool StartFrame();
     bool FinishFrame();
     void TakeControl(const kirto::GifControl& control);
+    void TakeLoop(int32 loop_count);
     void CommitPalette();
 
     AnimationDocument& document_;
@@ -38,7 +47,7 @@ class GifLoad {
     kirto::GifParser parser_;
     kirto::GifComposer composer_;
     int32 next_position_;
-    kirto::GifImage image_;
+    kirto::GifScreen screen_;
     // The frame being read, not yet inserted, and its own palette, in force where the frame is
     // marked local.
     Frame frame_;

@@ -90,7 +90,9 @@ bool GifLzwDecoder::Decode(GifIndexWriter& writer, Work& work, int64 file_size) 
     bool cleared = false;  // nothing but clear codes since the last string
     for (int32 codes_left = 0;;) {
         if (codes_left == 0) {
-            work.Report(data_.position + static_cast<int64>(codes_.bit / 8), file_size);
+            if (file_size > 0) {
+                work.Report(data_.position + static_cast<int64>(codes_.bit / 8), file_size);
+            }
             if (work.StopRequested()) return false;
             codes_left = kCodesAtOnce;
         }

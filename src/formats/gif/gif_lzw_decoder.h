@@ -24,7 +24,7 @@ class GifLzwDecoder {
 
     // Hands every pixel's index to the writer. True when the data ended with the end code or was
     // complete; false when it was not, when the work was stopped, or when a clear code is followed
-    // by the end. The work is told how far this is in a file of that size.
+    // by the end. The work is told how far this is in a file of that size; nothing with 0.
     bool Decode(GifIndexWriter& writer, Work& work, int64 file_size);
 
   private:

@@ -1,23 +1,44 @@
 #include "ui/thumbnails/image_of.h"
 
 #include <algorithm>
+#include <cstring>
+#include <vector>
 
 #include "kit/qt/picture_image.h"
 
 namespace kirto {
 
-QImage ImageOf(const std::shared_ptr<const Picture>& picture) {
+namespace {
+
+constexpr int64 kMostPixels = int64{16} << 20;
+
+// Of so many rows and columns one is taken.
+int32 StepFor(const Picture& picture, QSize shown) {
+    if (int64{picture.Width()} * picture.Height() <= kMostPixels) return 1;
+    const int32 across = picture.Width() / std::max(2 * shown.width(), 1);
+    const int32 down = picture.Height() / std::max(2 * shown.height(), 1);
+    return std::max(std::min(across, down), 1);
+}
+
+}  // namespace
+
+QImage ImageOf(const std::shared_ptr<const Picture>& picture, QSize shown) {
     if (!picture || !picture->HasRows()) return {};
     if (picture->KeptBitmap()) return ImageOfPicture(picture->KeptBitmap());
-    QImage image(picture->Width(), picture->Height(),
+    const int32 step = StepFor(*picture, shown);
+    QImage image((picture->Width() + step - 1) / step, (picture->Height() + step - 1) / step,
                  picture->IsOpaque() ? QImage::Format_RGB32 : QImage::Format_ARGB32);
     if (image.isNull()) return image;
     const bool turned = IsBigEndian(picture->ColorSpace());
-    for (int32 y = 0; y < picture->Height(); ++y) {
+    std::vector<uint8> row(static_cast<size_t>(picture->Width()) * 4);
+    for (int32 y = 0; y < image.height(); ++y) {
+        picture->ReadRow(y * step, row.data());
         uchar* target = image.scanLine(y);
-        picture->ReadRow(y, target);
-        for (int32 x = 0; turned && x < picture->Width(); ++x, target += 4)
-            std::reverse(target, target + 4);
+        for (int32 x = 0; x < image.width(); ++x, target += 4) {
+            std::memcpy(target, row.data() + static_cast<size_t>(x) * static_cast<size_t>(step) * 4,
+                        4);
+            if (turned) std::reverse(target, target + 4);
+        }
     }
     return image;
 }

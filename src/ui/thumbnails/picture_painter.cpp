@@ -86,7 +86,8 @@ void PicturePainter::DrawBackdrop(const QRectF& target) {
 
 void PicturePainter::DrawUnscaled(const std::shared_ptr<const Picture>& picture,
                                   const QRectF& target, bool smooth) {
-    const QImage image = ImageOf(picture);
+    const QSize size = (target.size() * device_pixel_ratio_).toSize();
+    const QImage image = ImageOf(picture, size);
     if (image.isNull() || image.hasAlphaChannel()) DrawBackdrop(target);
     painter_.setRenderHint(QPainter::SmoothPixmapTransform, smooth);
     painter_.drawImage(target, image);

@@ -14,7 +14,7 @@ QImage ThumbnailCache::Find(const std::shared_ptr<const Picture>& picture, QSize
 QImage ThumbnailCache::Scaled(const std::shared_ptr<const Picture>& picture, QSize size) {
     QImage image = Find(picture, size);
     if (!image.isNull()) return image;
-    const QImage source = ImageOf(picture);
+    const QImage source = ImageOf(picture, size);
     // What is scaled is first made premultiplied, so that the colours below transparent pixels do
     // not bleed into their neighbours.
     image = source.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
