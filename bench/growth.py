@@ -47,7 +47,8 @@ def all_series(files):
         Series("save a photo of so many pixels a side", "pixel",
                tuple(Point(side, side * side,
                            files.job("save-picture", str(side),
-                                     repeat=max(REPEATED_SIDE ** 2 // side ** 2, 1)), rounds)
+                                     repeat=max(REPEATED_SIDE ** 2 // side ** 2, 1)),
+                     rounds if side <= REPEATED_SIDE else 1)
                      for side in sides)),
     ]
 

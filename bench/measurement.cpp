@@ -53,6 +53,7 @@ void Measurement::Print() const {
                 static_cast<long long>(frames_));
     if (digest_)
         std::printf(", \"digest\": \"%016llx\"", static_cast<unsigned long long>(*digest_));
+    if (error_) std::printf(", \"error\": %.6f", *error_);
     std::puts("}");
 }
 

@@ -22,6 +22,8 @@ class Measurement {
 
     bool WantsDigest() const { return wants_digest_; }
     void SetDigest(uint64 digest) { digest_ = digest; }
+    // How far what came of it is from what it stands for.
+    void SetError(double error) { error_ = error; }
     // How many frames came of it.
     void SetFrames(int64 frames) { frames_ = frames; }
 
@@ -37,6 +39,7 @@ class Measurement {
     int64 peak_ = 0;
     int64 frames_ = 0;
     std::optional<uint64> digest_;
+    std::optional<double> error_;
 };
 
 }  // namespace kirto::bench

@@ -26,10 +26,11 @@ def mark(text, missed):
 class Line:
     """A row with its results by the number of cores, or with what went wrong."""
 
-    def __init__(self, row, results=None, error=None):
+    def __init__(self, row, results=None, error=None, note=None):
         self.row = row
         self.results = results or {}
         self.error = error
+        self.note = note
 
     def value(self, cores):
         """What is held against the goal."""
@@ -82,6 +83,8 @@ def table(lines):
     for line in lines:
         if line.error:
             text += f"\nNot timed: {line.row.name}: {line.error}\n"
+        if line.note:
+            text += f"\n{line.note}\n"
     return text
 
 

@@ -45,17 +45,16 @@ def make_files(files):
 def measure(row, track, files):
     """Compares what comes of a row, then times it on one core and on two."""
     entrants = [entrant for entrant in (row.ours, row.peer) if entrant]
-    rounds = row.rounds or (3 if files.quick else 7)
+    rounds = row.rounds or files.rounds
     results = {}
     try:
-        if row.check:
-            row.check(track)
+        note = row.check(track) if row.check else None
         for cores in row.cores:
             timed = track.contest(entrants, cores, rounds)
             results[cores] = (timed[0], timed[1] if row.peer else None)
     except Failed as failure:
         return report.Line(row, error=str(failure))
-    return report.Line(row, results)
+    return report.Line(row, results, note=note)
 
 
 def measure_rows(rows, track, files):
@@ -93,7 +92,7 @@ def main():
     start = time.monotonic()
     build = chosen.build.resolve()
     files = Files(build, build / "bench-files", chosen.quick)
-    described = machine.describe(build)
+    described = machine.describe(build) + [f"Rounds: {files.rounds}" + ", smaller files" * files.quick]
     make_files(files)
     track = Track(files.work)
     rows = [row for row in all_rows(files) if not chosen.only or re.search(chosen.only, row.name)]

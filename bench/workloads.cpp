@@ -11,12 +11,12 @@ namespace {
 constexpr uint8 kTransparent = 255;
 
 constexpr Workload kWorkloads[] = {
-    {"photo", 640, 480, 100, 20, PaintPhoto, Reduction::kDithered},
-    {"noise", 1920, 1080, 24, 4, PaintNoise},
+    {"photo", 640, 480, 100, 15, PaintPhoto, Reduction::kDithered},
+    {"noise", 1920, 1080, 24, 3, PaintNoise},
     {"flat", 1920, 1080, 120, 12, PaintFlat},
-    {"sprites", 128, 128, 3000, 600, PaintSprites},
-    {"screen", 800, 600, 60, 20, PaintScreen},
-    {"changes", 800, 600, 60, 20, PaintScreen, Reduction::kDifferences},
+    {"sprites", 128, 128, 3000, 400, PaintSprites},
+    {"screen", 800, 600, 60, 15, PaintScreen},
+    {"changes", 800, 600, 60, 15, PaintScreen, Reduction::kDifferences},
     {"scene", 640, 480, 200, 40, PaintScene, Reduction::kExact, true},
     // For growth, for inserting into a long list, and for the editor.
     {"frames10", 32, 32, 10, 10, PaintSprites},
