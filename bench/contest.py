@@ -1,7 +1,8 @@
 """Programs that are timed in turns.
 
-On one core a program's processor time counts, of all its threads together; on two cores the clock on the
-wall. Whole processes are timed from outside; the jobs of kirto_bench_jobs tell the figures of what counts.
+On one core a program's processor time counts, of all its threads together; on two cores the clock
+on the wall. Whole processes are timed from outside; the jobs of kirto_bench_jobs tell themselves what
+the part of them that counts has taken.
 """
 
 import json

@@ -1,4 +1,4 @@
-"""The editor on an X server of its own: how soon it shows what, beside bare windows of the same toolkit."""
+"""The editor on an X server of its own: how soon it shows what, beside bare windows."""
 
 import contextlib
 import os
@@ -18,10 +18,11 @@ SETTLING, IDLE = 3, 10  # seconds
 
 @contextlib.contextmanager
 def x_server():
-    """The name of a display of 800 x 600 pixels: small enough for any window to cover its middle."""
+    """The name of a display of 800 x 600 pixels: any window covers its middle."""
     reading, writing = os.pipe()
     server = subprocess.Popen(
-        ["Xvfb", "-displayfd", str(writing), "-screen", "0", "800x600x24", "-nolisten", "tcp", "-noreset"],
+        ["Xvfb", "-displayfd", str(writing), "-screen", "0", "800x600x24", "-nolisten", "tcp",
+         "-noreset"],
         pass_fds=(writing,), stderr=subprocess.DEVNULL)
     os.close(writing)
     try:
@@ -36,8 +37,9 @@ def desktop_of(display, home):
     """The user's desktop and settings have no say."""
     hidden = ("XDG_CURRENT_DESKTOP", "QT_QPA_PLATFORMTHEME", "QT_STYLE_OVERRIDE", "WAYLAND_DISPLAY")
     variables = {name: value for name, value in os.environ.items() if name not in hidden}
-    return {**variables, "DISPLAY": display, "HOME": home, "XDG_CONFIG_HOME": home, "XDG_RUNTIME_DIR": home,
-            "QT_QPA_PLATFORM": "xcb", "LC_ALL": "C.UTF-8", "DBUS_SESSION_BUS_ADDRESS": "disabled:"}
+    return {**variables, "DISPLAY": display, "HOME": home, "XDG_CONFIG_HOME": home,
+            "XDG_RUNTIME_DIR": home, "QT_QPA_PLATFORM": "xcb", "LC_ALL": "C.UTF-8",
+            "DBUS_SESSION_BUS_ADDRESS": "disabled:"}
 
 
 class Editor:
@@ -50,8 +52,8 @@ class Editor:
 
     def times(self, *command):
         """Milliseconds to the first painted window, and for each notch of the wheel."""
-        result = subprocess.run([self.program("kirto_time_to_window"), *command], env=self.environment,
-                                stdout=subprocess.PIPE, text=True)
+        result = subprocess.run([self.program("kirto_time_to_window"), *command],
+                                env=self.environment, stdout=subprocess.PIPE, text=True)
         if result.returncode != 0:
             raise Failed(f"{command} showed nothing")
         return [float(line) for line in result.stdout.split()]
@@ -65,7 +67,8 @@ class Editor:
 
     def idle(self):
         """Milliseconds of processor time while nobody touches the editor."""
-        editor = subprocess.Popen([self.program("kirto")], env=self.environment, stderr=subprocess.DEVNULL)
+        editor = subprocess.Popen([self.program("kirto")], env=self.environment,
+                                  stderr=subprocess.DEVNULL)
         try:
             time.sleep(SETTLING)
             before = self.ticks(editor.pid)
@@ -90,7 +93,8 @@ def table(bare, word, editor, many, notches):
             f"| an empty window is painted | {bare:.1f} | |\n"
             f"| a window with one word is painted | {word:.1f} | |\n"
             f"| the editor is painted | {editor:.1f} ({editor / word:.2f} x the word) | |\n"
-            f"| 14. the editor with 3,000 frames is painted | {mark(many, FIRST_PAINT)} | <= {FIRST_PAINT} |\n"
+            "| 14. the editor with 3,000 frames is painted "
+            f"| {mark(many, FIRST_PAINT)} | <= {FIRST_PAINT} |\n"
             f"| 14. a notch of the wheel in 3,000 frames, 95th percentile of {len(notches)} "
             f"| {mark(worst, SCROLLING)} | <= {SCROLLING} |\n"
             f"| the same, median | {statistics.median(notches):.1f} | |\n")
@@ -103,9 +107,11 @@ def measure(files):
         editor = Editor(files, desktop_of(display, home))
         window, kirto = editor.program("kirto_bare_window"), editor.program("kirto")
         many = (kirto, files.path("frames3000.gif"))
-        medians = editor.contest([(window,), (window, "Kirto"), (kirto,), many], 3 if files.quick else 11)
+        medians = editor.contest([(window,), (window, "Kirto"), (kirto,), many],
+                                 3 if files.quick else 11)
         notches = editor.times("--scroll", str(STEPS), *many)[1:]
         text = table(*medians, notches)
         if not files.quick:
-            text += f"\nLeft alone for {IDLE} seconds, the editor takes {editor.idle():.0f} ms of processor time.\n"
+            text += (f"\nLeft alone for {IDLE} seconds, the editor takes {editor.idle():.0f} ms of "
+                     "processor time.\n")
         return text

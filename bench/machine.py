@@ -18,8 +18,8 @@ def first_match(path, pattern, default="unknown"):
 
 def output_of(*command):
     try:
-        result = subprocess.run(command, check=True, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL,
-                                text=True)
+        result = subprocess.run(command, check=True, stdout=subprocess.PIPE,
+                                stderr=subprocess.DEVNULL, text=True)
     except (OSError, subprocess.CalledProcessError):
         return ""
     return result.stdout.strip()

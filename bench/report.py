@@ -3,7 +3,8 @@
 BEGIN = "<!-- ./dev bench writes from here on; changes are lost -->"
 END = "<!-- ./dev bench writes to here -->"
 
-HEADER = ("| | peer | ours, one core | peer | ratio | goal | ours, two cores | peer | ratio | goal |\n"
+HEADER = ("| | peer | ours, one core | peer | ratio | goal "
+          "| ours, two cores | peer | ratio | goal |\n"
           "|---|---|---|---|---|---|---|---|---|---|\n")
 
 
@@ -64,7 +65,8 @@ class Line:
             return [mark(seconds(value), missed), "", "", goal]
         if self.row.kind == "memory":
             return [mark(f"{value:.3f}", missed), "", "", goal]
-        return [seconds(ours.time(cores)), seconds(peer.time(cores)), mark(f"{value:.2f}", missed), goal]
+        return [seconds(ours.time(cores)), seconds(peer.time(cores)), mark(f"{value:.2f}", missed),
+                goal]
 
     def markdown(self):
         peer = self.row.peer.name if self.row.peer else ""
@@ -88,14 +90,11 @@ def table(lines):
     return text
 
 
-def size_text(size):
-    return f"{size:,}"
-
-
 def growth(measured):
     text = "Processor time of one core; the last column is the last cost by the third last.\n\n"
     for series, points in measured:
-        text += f"| {series.name} |" + "".join(f" {size_text(size)} |" for size, _ in points) + " |\n"
+        sizes = "".join(f" {size:,} |" for size, _ in points)
+        text += f"| {series.name} |{sizes} |\n"
         text += "|---" * (len(points) + 2) + "|\n"
         text += f"| ns a {series.unit} |" + "".join(f" {cost:.4g} |" for _, cost in points)
         text += f" {points[-1][1] / points[-3][1]:.2f} |\n\n"

@@ -3,8 +3,8 @@
 
 usage: bench/run.py BUILD_FOLDER [--quick] [--only PATTERN]
 
---quick takes two minutes: smaller files, three rounds; the document stays as it is. --only measures the rows
-whose names have the pattern, a regular expression, and prints them.
+--quick takes two minutes: smaller files, three rounds; the document stays as it is. --only measures
+the rows whose names have the pattern, a regular expression, and prints them.
 """
 
 import argparse
@@ -37,7 +37,8 @@ def make_files(files):
     command = [str(files.build / "kirto_bench_files"), str(files.work)]
     subprocess.run(command + (["--quick"] if files.quick else []), check=True)
     photos = [f"photo{i}" for i in range(4 if files.quick else 10)]
-    for name, extension in [(photo, kind) for photo in photos for kind in ("jpg", "png")] + [("large", "jpg")]:
+    pictures = [(photo, kind) for photo in photos for kind in ("jpg", "png")] + [("large", "jpg")]
+    for name, extension in pictures:
         subprocess.run([files.magick, files.path(f"{name}.ppm"), "-quality", "90",
                         files.path(f"{name}.{extension}")], check=True)
 
@@ -92,7 +93,8 @@ def main():
     start = time.monotonic()
     build = chosen.build.resolve()
     files = Files(build, build / "bench-files", chosen.quick)
-    described = machine.describe(build) + [f"Rounds: {files.rounds}" + ", smaller files" * files.quick]
+    described = machine.describe(build)
+    described.append(f"Rounds: {files.rounds}" + (", smaller files" if files.quick else ""))
     make_files(files)
     track = Track(files.work)
     rows = [row for row in all_rows(files) if not chosen.only or re.search(chosen.only, row.name)]
