@@ -168,6 +168,7 @@ bool ReadWithGiflib(const std::vector<uint8>& gif, IndexedAnimation* result) {
         const GifImageDesc& place = file->Image;
         IndexedImage image{place.Left, place.Top, place.Width, place.Height, transparent, {}};
         row.resize(static_cast<size_t>(place.Width));
+        if (result) image.indices.reserve(row.size() * static_cast<size_t>(place.Height));
         for (int32 y = 0; y < place.Height; ++y) {
             if (DGifGetLine(file.get(), row.data(), place.Width) != GIF_OK) return false;
             if (result) image.indices.insert(image.indices.end(), row.begin(), row.end());

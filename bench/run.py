@@ -12,6 +12,7 @@ import re
 import subprocess
 import sys
 import time
+from concurrent.futures import ThreadPoolExecutor
 from pathlib import Path
 
 # The source tree stays as it is.
@@ -31,16 +32,25 @@ def say(text):
     print(f"--> {text}", flush=True)
 
 
+def make_pictures(files):
+    """The photographs as other programs store them."""
+    photos = [f"photo{i}" for i in range(4 if files.quick else 10)]
+    names = [f"{photo}.{kind}" for photo in photos for kind in ("jpg", "png")] + ["large.jpg"]
+
+    def convert(name):
+        source = files.path(f"{name.partition('.')[0]}.ppm")
+        subprocess.run([files.magick, source, "-quality", "90", files.path(name)], check=True)
+
+    with ThreadPoolExecutor(2) as pool:
+        list(pool.map(convert, names))
+
+
 def make_files(files):
     say("writing the files")
     files.work.mkdir(parents=True, exist_ok=True)
     command = [str(files.build / "kirto_bench_files"), str(files.work)]
     subprocess.run(command + (["--quick"] if files.quick else []), check=True)
-    photos = [f"photo{i}" for i in range(4 if files.quick else 10)]
-    pictures = [(photo, kind) for photo in photos for kind in ("jpg", "png")] + [("large", "jpg")]
-    for name, extension in pictures:
-        subprocess.run([files.magick, files.path(f"{name}.ppm"), "-quality", "90",
-                        files.path(f"{name}.{extension}")], check=True)
+    make_pictures(files)
 
 
 def measure(row, track, files):

@@ -14,6 +14,7 @@ constexpr Workload kWorkloads[] = {
     {"photo", 640, 480, 100, 15, PaintPhoto, Reduction::kDithered},
     {"noise", 1920, 1080, 24, 3, PaintNoise},
     {"flat", 1920, 1080, 120, 12, PaintFlat},
+    {"flat-part", 1920, 1080, 40, 12, PaintFlat},
     {"sprites", 128, 128, 3000, 400, PaintSprites},
     {"screen", 800, 600, 60, 15, PaintScreen},
     {"changes", 800, 600, 60, 15, PaintScreen, Reduction::kDifferences},
