@@ -15,7 +15,7 @@ std::shared_ptr<BBitmap> NewBitmap(int32 width, int32 height) {
 
 Frame FrameOf(std::shared_ptr<const BBitmap> bitmap) {
     Frame frame("frame", bitmap->Width(), bitmap->Height());
-    frame.bitmap = std::move(bitmap);
+    frame.bitmap = Picture::Of(std::move(bitmap));
     return frame;
 }
 
@@ -44,12 +44,12 @@ Frame FrameOfPixels(const uint8* pixels, int32 width, int32 height) {
     return FrameOf(std::move(bitmap));
 }
 
-const BBitmap* PictureOf(const Frame& frame) {
+const Picture* PictureOf(const Frame& frame) {
     return frame.bitmap.get();
 }
 
-const uint8* PixelRow(const Frame& frame, int32 y) {
-    return frame.bitmap->Row(y);
+void ReadPixels(const Frame& frame, int32 y, uint8* target) {
+    frame.bitmap->ReadRow(y, target);
 }
 
 }  // namespace kirto::bench

@@ -17,9 +17,9 @@ Frame PaintedFrame(Painter painter, int32 width, int32 height, int32 step);
 Frame FrameOfPixels(const uint8* pixels, int32 width, int32 height);
 
 // The picture of a frame as palettes take it; null where the frame has none.
-const BBitmap* PictureOf(const Frame& frame);
+const Picture* PictureOf(const Frame& frame);
 
-// Row y of a frame's picture, width x 4 bytes in the order above. Valid until the next call.
-const uint8* PixelRow(const Frame& frame, int32 y);
+// Reads row y of a frame's picture: width x 4 bytes in the order above.
+void ReadPixels(const Frame& frame, int32 y, uint8* target);
 
 }  // namespace kirto::bench

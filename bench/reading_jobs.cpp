@@ -15,8 +15,11 @@ namespace {
 uint64 DigestOf(const AnimationDocument& document) {
     CanvasDigest digest;
     for (const FramePointer& frame : document.Current()->frames) {
-        for (int32 y = 0; y < frame->height; ++y)
-            digest.AddRow(PixelRow(*frame, y), frame->width);
+        std::vector<uint8> row(static_cast<size_t>(frame->width) * 4);
+        for (int32 y = 0; y < frame->height; ++y) {
+            ReadPixels(*frame, y, row.data());
+            digest.AddRow(row.data(), frame->width);
+        }
     }
     return digest.Value();
 }

@@ -9,9 +9,9 @@
 #include "color/palette.h"
 #include "effects/fade_kernels.h"
 #include "formats/gif/gif_image_data.h"
+#include "formats/gif/gif_index_writer.h"
 #include "formats/gif/gif_lzw_decoder.h"
 #include "formats/gif/gif_lzw_encoder.h"
-#include "formats/gif/gif_pixel_writer.h"
 #include "formats/gif/pixel_mapper.h"
 #include "pixels.h"
 #include "workloads.h"
@@ -77,25 +77,29 @@ void CountLzw() {
     Count("lzw_encode_photo", [&] { Encode(photo); });
 
     const GifImageData data = DataOf(Encode(photo));
-    const GifPixelColors colors = PixelColorsOf(Palette());
-    BBitmap bitmap(BRect::OfSize(kWidth, kHeight), B_RGB32);
-    GifPixelWriter writer(bitmap, {0, 0, kWidth, kHeight}, false, colors);
+    std::vector<uint8> decoded(photo.size());
+    GifIndexWriter writer(decoded.data(), kWidth, kHeight, false);
     Work work;
     GifLzwDecoder decoder(data, 8);
     Count("lzw_decode", [&] { decoder.Decode(writer, work, 0); });
+}
+
+std::vector<uint8> FirstRow(const Frame& frame) {
+    std::vector<uint8> row(size_t{kWidth} * 4);
+    ReadPixels(frame, 0, row.data());
+    return row;
 }
 
 void CountColors(const Frame& photo) {
     const Palette palette(PictureOf(photo));
     Count("color_count", [&] { palette.CountUniqueColors(PictureOf(photo)); });
 
+    const std::vector<uint8> row = FirstRow(photo);
     NearestColor nearest;
     nearest.SetTable(palette.colors, palette.size);
     Count("nearest", [&] {
-        for (int32 x = 0; x < kWidth; ++x) {
-            const uint8* pixel = PixelRow(photo, 0) + static_cast<size_t>(x) * 4;
-            nearest.IndexOf(pixel[2], pixel[1], pixel[0]);
-        }
+        for (size_t i = 0; i < row.size(); i += 4)
+            nearest.IndexOf(row[i + 2], row[i + 1], row[i]);
     });
 
     PixelMapper mapper(0, true, kWidth);
@@ -108,11 +112,11 @@ void CountColors(const Frame& photo) {
 }
 
 void CountFade(const Frame& photo) {
-    const uint8* first = PixelRow(photo, 0);
-    const std::vector<uint8> second(size_t{kWidth} * 4, 100);
-    std::vector<uint8> target(second.size());
+    const std::vector<uint8> first = FirstRow(photo);
+    const std::vector<uint8> second(first.size(), 100);
+    std::vector<uint8> target(first.size());
     Count("fade", [&] {
-        FadeToFrame(first, B_RGB32, second.data(), B_RGB32, target.data(), kWidth, 1, 0.25F);
+        FadeToFrame(first.data(), B_RGB32, second.data(), B_RGB32, target.data(), kWidth, 1, 0.25F);
     });
 }
 
