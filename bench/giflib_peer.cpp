@@ -3,10 +3,7 @@
 #include <algorithm>
 #include <cstring>
 #include <gif_lib.h>
-#include <memory>
 
-#include "formats/gif/gif_pixel_writer.h"
-#include "kit/bitmap.h"
 #include "peers.h"
 
 namespace kirto::bench {
@@ -27,59 +24,19 @@ int ReadSource(GifFileType* gif, GifByteType* buffer, int size) {
     return static_cast<int>(count);
 }
 
-int AppendBytes(GifFileType* gif, const GifByteType* bytes, int size) {
-    auto* target = static_cast<std::vector<uint8>*>(gif->UserData);
-    target->insert(target->end(), bytes, bytes + size);
-    return size;
-}
-
 struct CloseDecoder {
     void operator()(GifFileType* gif) const { DGifCloseFile(gif, nullptr); }
 };
 struct CloseEncoder {
     void operator()(GifFileType* gif) const { EGifCloseFile(gif, nullptr); }
 };
+struct FreeMap {
+    void operator()(ColorMapObject* map) const { GifFreeMapObject(map); }
+};
+using Decoder = std::unique_ptr<GifFileType, CloseDecoder>;
 
-GifPixelColors ColorsOf(const ColorMapObject& map, int32 transparent) {
-    GifPixelColors colors;
-    for (size_t i = 0; i < static_cast<size_t>(map.ColorCount); ++i) {
-        const GifColorType& color = map.Colors[i];
-        colors.pixels[i] = PixelOf({color.Red, color.Green, color.Blue, 255});
-    }
-    colors.skipped_index = transparent;
-    return colors;
-}
-
-void PaintRow(const std::vector<uint8>& indices, const GifPixelColors& colors, uint8* target) {
-    for (const uint8 index : indices) {
-        if (index != colors.skipped_index) std::memcpy(target, &colors.pixels[index], 4);
-        target += 4;
-    }
-}
-
-// Reads an image onto a canvas that shows the picture before it. No canvas: it failed.
-std::unique_ptr<BBitmap> ReadImage(GifFileType* gif, const BBitmap* before, int32 transparent) {
-    if (DGifGetImageDesc(gif) != GIF_OK || gif->Image.Interlace) return nullptr;
-    const GifImageDesc& image = gif->Image;
-    if (image.Left + image.Width > gif->SWidth || image.Top + image.Height > gif->SHeight) {
-        return nullptr;
-    }
-    const ColorMapObject* map = image.ColorMap ? image.ColorMap : gif->SColorMap;
-    auto canvas = std::make_unique<BBitmap>(BRect::OfSize(gif->SWidth, gif->SHeight), B_RGB32);
-    if (!map || canvas->InitCheck() != B_OK) return nullptr;
-    const bool covers = image.Width == gif->SWidth && image.Height == gif->SHeight;
-    if (before && !covers) std::memcpy(canvas->Bits(), before->Bits(), canvas->BitsLength());
-
-    const GifPixelColors colors = ColorsOf(*map, transparent);
-    std::vector<uint8> indices(static_cast<size_t>(image.Width));
-    for (int32 y = 0; y < image.Height; ++y) {
-        if (DGifGetLine(gif, indices.data(), image.Width) != GIF_OK) return nullptr;
-        PaintRow(indices, colors, canvas->Row(image.Top + y) + static_cast<size_t>(image.Left) * 4);
-    }
-    return canvas;
-}
-
-bool ReadExtension(GifFileType* gif, int32* transparent) {
+// Reads an extension; *transparent becomes the transparent index of a control block.
+bool ReadExtension(GifFileType* gif, int* transparent) {
     int label = 0;
     GifByteType* block = nullptr;
     if (DGifGetExtension(gif, &label, &block) != GIF_OK) return false;
@@ -94,27 +51,72 @@ bool ReadExtension(GifFileType* gif, int32* transparent) {
     return true;
 }
 
-struct FreeMap {
-    void operator()(ColorMapObject* map) const { GifFreeMapObject(map); }
-};
-using ColorMap = std::unique_ptr<ColorMapObject, FreeMap>;
-
-ColorMap MapOf(const Palette& palette) {
-    ColorMap map(GifMakeMapObject(1 << palette.bits, nullptr));
-    for (size_t i = 0; map && i < static_cast<size_t>(map->ColorCount); ++i) {
-        const rgb_color& color = palette.colors[i];
-        map->Colors[i] = {color.red, color.green, color.blue};
+// Reads to the next image's rows. False at the end of the file and on failure, which *failed tells
+// apart.
+bool NextImage(GifFileType* gif, int* transparent, bool* failed) {
+    *failed = true;
+    GifRecordType record = UNDEFINED_RECORD_TYPE;
+    while (record != IMAGE_DESC_RECORD_TYPE) {
+        if (DGifGetRecordType(gif, &record) != GIF_OK) return false;
+        if (record == EXTENSION_RECORD_TYPE && !ReadExtension(gif, transparent)) return false;
+        if (record == TERMINATE_RECORD_TYPE) {
+            *failed = false;
+            return false;
+        }
     }
-    return map;
+    if (DGifGetImageDesc(gif) != GIF_OK) return false;
+    const GifImageDesc& image = gif->Image;
+    const bool fits = image.Left + image.Width <= gif->SWidth &&
+                      image.Top + image.Height <= gif->SHeight && !image.Interlace;
+    *failed = !fits;
+    return fits;
 }
 
-bool WriteImage(GifFileType* gif, const IndexedImage& image, int32 transparent) {
-    const GraphicsControlBlock control{DISPOSAL_UNSPECIFIED, false, 5, transparent};
+std::array<uint32, 256> PixelsOf(const ColorMapObject& map) {
+    std::array<uint32, 256> pixels{};
+    for (size_t i = 0; i < static_cast<size_t>(map.ColorCount); ++i) {
+        const uint8 pixel[4] = {map.Colors[i].Blue, map.Colors[i].Green, map.Colors[i].Red, 255};
+        std::memcpy(&pixels[i], pixel, sizeof(pixel));
+    }
+    return pixels;
+}
+
+// Paints the image on a canvas that shows the picture before it.
+bool PaintImage(GifFileType* gif, int transparent, Canvases* result) {
+    const GifImageDesc& image = gif->Image;
+    const ColorMapObject* map = image.ColorMap ? image.ColorMap : gif->SColorMap;
+    if (!map) return false;
+    const bool covers = image.Width == gif->SWidth && image.Height == gif->SHeight;
+    uint8* canvas = result->Add(!covers || transparent != NO_TRANSPARENT_COLOR);
+    const std::array<uint32, 256> pixels = PixelsOf(*map);
+    std::vector<uint8> indices(static_cast<size_t>(image.Width));
+    for (int32 y = image.Top; y < image.Top + image.Height; ++y) {
+        if (DGifGetLine(gif, indices.data(), image.Width) != GIF_OK) return false;
+        uint8* pixel = canvas + static_cast<size_t>(y) * result->BytesPerRow() +
+                       static_cast<size_t>(image.Left) * 4;
+        for (const uint8 index : indices) {
+            if (index != transparent) std::memcpy(pixel, &pixels[index], 4);
+            pixel += 4;
+        }
+    }
+    return true;
+}
+
+void TakeScreen(const GifFileType& gif, IndexedAnimation* result) {
+    result->width = gif.SWidth;
+    result->height = gif.SHeight;
+    for (int i = 0; gif.SColorMap && i < gif.SColorMap->ColorCount; ++i) {
+        const GifColorType& color = gif.SColorMap->Colors[i];
+        result->colors[static_cast<size_t>(i)] = {color.Red, color.Green, color.Blue, 255};
+    }
+}
+
+bool WriteImage(GifFileType* gif, const IndexedImage& image) {
+    const GraphicsControlBlock control{DISPOSAL_UNSPECIFIED, false, 5, image.transparent_index};
     GifByteType block[4];
     const int size = static_cast<int>(EGifGCBToExtension(&control, block));
     if (EGifPutExtension(gif, GRAPHICS_EXT_FUNC_CODE, size, block) != GIF_OK) return false;
-    const ColorMap map = image.local_palette ? MapOf(*image.palette) : nullptr;
-    if (EGifPutImageDesc(gif, image.left, image.top, image.width, image.height, false, map.get()) !=
+    if (EGifPutImageDesc(gif, image.left, image.top, image.width, image.height, false, nullptr) !=
         GIF_OK) {
         return false;
     }
@@ -129,43 +131,70 @@ bool WriteImage(GifFileType* gif, const IndexedImage& image, int32 transparent) 
 
 }  // namespace
 
-bool DecodeWithGiflib(const std::vector<uint8>& gif, const CanvasVisitor& visit) {
-    Source source{gif};
-    const std::unique_ptr<GifFileType, CloseDecoder> file(DGifOpen(&source, ReadSource, nullptr));
-    if (!file) return false;
-    std::vector<std::unique_ptr<BBitmap>> canvases;
-    int32 transparent = NO_TRANSPARENT_COLOR;
-    GifRecordType record = UNDEFINED_RECORD_TYPE;
-    while (record != TERMINATE_RECORD_TYPE) {
-        if (DGifGetRecordType(file.get(), &record) != GIF_OK) return false;
-        if (record == EXTENSION_RECORD_TYPE && !ReadExtension(file.get(), &transparent)) {
-            return false;
-        }
-        if (record != IMAGE_DESC_RECORD_TYPE) continue;
-        const BBitmap* before = canvases.empty() ? nullptr : canvases.back().get();
-        canvases.push_back(ReadImage(file.get(), before, transparent));
-        if (!canvases.back()) return false;
+uint8* Canvases::Add(bool shows_last) {
+    canvases.emplace_back(new uint8[Bytes()]);
+    uint8* canvas = canvases.back().get();
+    if (shows_last && canvases.size() > 1) {
+        std::memcpy(canvas, canvases[canvases.size() - 2].get(), Bytes());
+    } else if (shows_last) {
+        std::memset(canvas, 0, Bytes());
     }
-    for (const auto& canvas : canvases)
-        visit(canvas->Bits(), canvas->BytesPerRow());
-    return true;
+    return canvas;
 }
 
-std::vector<uint8> EncodeWithGiflib(BenchAnimation& animation) {
-    std::vector<uint8> bytes;
-    std::unique_ptr<GifFileType, CloseEncoder> file(EGifOpen(&bytes, AppendBytes, nullptr));
-    if (!file) return {};
+std::optional<Canvases> DecodeWithGiflib(const std::vector<uint8>& gif) {
+    Source source{gif};
+    const Decoder file(DGifOpen(&source, ReadSource, nullptr));
+    if (!file) return std::nullopt;
+    Canvases result{file->SWidth, file->SHeight, {}};
+    bool failed = false;
+    int transparent = NO_TRANSPARENT_COLOR;
+    while (NextImage(file.get(), &transparent, &failed)) {
+        if (!PaintImage(file.get(), transparent, &result)) return std::nullopt;
+    }
+    if (failed) return std::nullopt;
+    return result;
+}
+
+bool ReadWithGiflib(const std::vector<uint8>& gif, IndexedAnimation* result) {
+    Source source{gif};
+    const Decoder file(DGifOpen(&source, ReadSource, nullptr));
+    if (!file) return false;
+    if (result) TakeScreen(*file, result);
+    bool failed = false;
+    int transparent = NO_TRANSPARENT_COLOR;
+    std::vector<uint8> row;
+    while (NextImage(file.get(), &transparent, &failed)) {
+        const GifImageDesc& place = file->Image;
+        IndexedImage image{place.Left, place.Top, place.Width, place.Height, transparent, {}};
+        row.resize(static_cast<size_t>(place.Width));
+        if (result) image.indices.reserve(row.size() * static_cast<size_t>(place.Height));
+        for (int32 y = 0; y < place.Height; ++y) {
+            if (DGifGetLine(file.get(), row.data(), place.Width) != GIF_OK) return false;
+            if (result) image.indices.insert(image.indices.end(), row.begin(), row.end());
+        }
+        if (result) result->images.push_back(std::move(image));
+    }
+    return !failed;
+}
+
+bool WriteWithGiflib(const IndexedAnimation& animation, const std::string& path) {
+    std::unique_ptr<GifFileType, CloseEncoder> file(EGifOpenFileName(path.c_str(), false, nullptr));
+    const std::unique_ptr<ColorMapObject, FreeMap> map(GifMakeMapObject(256, nullptr));
+    if (!file || !map) return false;
+    for (size_t i = 0; i < animation.colors.size(); ++i) {
+        const rgb_color& color = animation.colors[i];
+        map->Colors[i] = {color.red, color.green, color.blue};
+    }
     EGifSetGifVersion(file.get(), true);
-    const AnimationPlan& plan = animation.Plan();
-    const ColorMap map = MapOf(*animation.Document().Current()->palette);
-    if (EGifPutScreenDesc(file.get(), plan.width, plan.height, 8, 0, map.get()) != GIF_OK) {
-        return {};
+    if (EGifPutScreenDesc(file.get(), animation.width, animation.height, 8, 0, map.get()) !=
+        GIF_OK) {
+        return false;
     }
-    for (const IndexedImage& image : animation.Images()) {
-        if (!WriteImage(file.get(), image, animation.TransparentIndex())) return {};
+    for (const IndexedImage& image : animation.images) {
+        if (!WriteImage(file.get(), image)) return false;
     }
-    file.reset();
-    return bytes;
+    return EGifCloseFile(file.release(), nullptr) == GIF_OK;
 }
 
 }  // namespace kirto::bench

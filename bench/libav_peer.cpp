@@ -1,15 +1,13 @@
-// The GIF codecs of ffmpeg's libraries, in this process.
+// The FLC decoder of ffmpeg's libraries.
 extern "C" {
 #include <libavcodec/avcodec.h>
 #include <libavformat/avformat.h>
-#include <libavutil/opt.h>
 }
 
 #include <algorithm>
 #include <cstring>
 #include <memory>
 
-#include "formats/gif/gif_pixel_writer.h"
 #include "peers.h"
 
 namespace kirto::bench {
@@ -78,12 +76,13 @@ FormatPointer OpenFormat(AVIOContext* input) {
     if (!format) return nullptr;
     format->pb = input;
     // A failure frees the context.
-    if (avformat_open_input(&format, "", av_find_input_format("gif"), nullptr) != 0) return nullptr;
+    if (avformat_open_input(&format, "", av_find_input_format("flic"), nullptr) != 0)
+        return nullptr;
     return FormatPointer(format);
 }
 
 CodecPointer OpenDecoder(const AVFormatContext& format) {
-    const AVCodec* codec = avcodec_find_decoder(AV_CODEC_ID_GIF);
+    const AVCodec* codec = avcodec_find_decoder(AV_CODEC_ID_FLIC);
     if (!codec || format.nb_streams != 1) return nullptr;
     CodecPointer context(avcodec_alloc_context3(codec));
     if (!context) return nullptr;
@@ -94,100 +93,47 @@ CodecPointer OpenDecoder(const AVFormatContext& format) {
     return context;
 }
 
+// Expands palette indices, as the decoder gives them, to a canvas.
+void Paint(const AVFrame& frame, Canvases* result) {
+    uint8* pixel = result->Add(false);
+    const auto* pixels = reinterpret_cast<const uint32_t*>(frame.data[1]);
+    for (int32 y = 0; y < result->height; ++y) {
+        const uint8* row = frame.data[0] + ptrdiff_t{y} * frame.linesize[0];
+        for (int32 x = 0; x < result->width; ++x, pixel += 4)
+            std::memcpy(pixel, &pixels[row[x]], 4);
+    }
+}
+
 // Takes every frame that the decoder has ready. False on failure.
-bool TakeFrames(AVCodecContext* decoder, std::vector<FramePointer>* frames) {
+bool TakeFrames(AVCodecContext* decoder, Canvases* result) {
+    const FramePointer frame(av_frame_alloc());
     for (;;) {
-        FramePointer frame(av_frame_alloc());
         if (!frame) return false;
-        const int result = avcodec_receive_frame(decoder, frame.get());
-        if (result == AVERROR(EAGAIN) || result == AVERROR_EOF) return true;
-        if (result < 0 || frame->format != AV_PIX_FMT_BGRA) return false;
-        frames->push_back(std::move(frame));
-    }
-}
-
-CodecPointer OpenEncoder(const AnimationPlan& plan) {
-    const AVCodec* codec = avcodec_find_encoder(AV_CODEC_ID_GIF);
-    if (!codec) return nullptr;
-    CodecPointer context(avcodec_alloc_context3(codec));
-    if (!context) return nullptr;
-    context->width = plan.width;
-    context->height = plan.height;
-    context->pix_fmt = AV_PIX_FMT_PAL8;
-    context->time_base = {1, 20};
-    // Whole frames, as they are handed in.
-    av_opt_set(context->priv_data, "gifflags", "-offsetting-transdiff", 0);
-    if (avcodec_open2(context.get(), codec, nullptr) < 0) return nullptr;
-    return context;
-}
-
-// The image as a frame of palette indices, numbered. Null on failure.
-FramePointer FrameOf(const IndexedImage& image, int64 number) {
-    FramePointer frame(av_frame_alloc());
-    if (!frame) return nullptr;
-    frame->format = AV_PIX_FMT_PAL8;
-    frame->width = image.width;
-    frame->height = image.height;
-    frame->pts = number;
-    if (av_frame_get_buffer(frame.get(), 0) < 0) return nullptr;
-    for (int32 y = 0; y < image.height; ++y) {
-        const size_t width = static_cast<size_t>(image.width);
-        std::memcpy(frame->data[0] + ptrdiff_t{y} * frame->linesize[0],
-                    image.indices.data() + static_cast<size_t>(y) * width, width);
-    }
-    const GifPixelColors colors = PixelColorsOf(*image.palette);
-    std::memcpy(frame->data[1], colors.pixels.data(), sizeof(colors.pixels));
-    return frame;
-}
-
-// Appends every packet that the encoder has ready. False on failure.
-bool TakePackets(AVCodecContext* encoder, std::vector<uint8>* bytes) {
-    const PacketPointer packet(av_packet_alloc());
-    if (!packet) return false;
-    for (;;) {
-        const int result = avcodec_receive_packet(encoder, packet.get());
-        if (result == AVERROR(EAGAIN) || result == AVERROR_EOF) return true;
-        if (result < 0) return false;
-        bytes->insert(bytes->end(), packet->data, packet->data + packet->size);
-        av_packet_unref(packet.get());
+        const int status = avcodec_receive_frame(decoder, frame.get());
+        if (status == AVERROR(EAGAIN) || status == AVERROR_EOF) return true;
+        if (status < 0 || frame->format != AV_PIX_FMT_PAL8) return false;
+        Paint(*frame, result);
     }
 }
 
 }  // namespace
 
-bool DecodeWithLibavcodec(const std::vector<uint8>& gif, const CanvasVisitor& visit) {
-    Source source{gif};
+std::optional<Canvases> DecodeWithLibavcodec(const std::vector<uint8>& flc) {
+    Source source{flc};
     const InputPointer input = OpenSource(&source);
     const FormatPointer format = input ? OpenFormat(input.get()) : nullptr;
     const CodecPointer decoder = format ? OpenDecoder(*format) : nullptr;
     const PacketPointer packet(av_packet_alloc());
-    if (!decoder || !packet) return false;
-    std::vector<FramePointer> frames;
+    if (!decoder || !packet) return std::nullopt;
+    Canvases result{decoder->width, decoder->height, {}};
     while (av_read_frame(format.get(), packet.get()) >= 0) {
         const bool sent = avcodec_send_packet(decoder.get(), packet.get()) >= 0;
         av_packet_unref(packet.get());
-        if (!sent || !TakeFrames(decoder.get(), &frames)) return false;
+        if (!sent || !TakeFrames(decoder.get(), &result)) return std::nullopt;
     }
-    if (avcodec_send_packet(decoder.get(), nullptr) < 0) return false;
-    if (!TakeFrames(decoder.get(), &frames)) return false;
-    for (const FramePointer& frame : frames)
-        visit(frame->data[0], static_cast<size_t>(frame->linesize[0]));
-    return true;
-}
-
-std::vector<uint8> EncodeWithLibavcodec(BenchAnimation& animation) {
-    const CodecPointer encoder = OpenEncoder(animation.Plan());
-    if (!encoder) return {};
-    std::vector<uint8> bytes;
-    int64 number = 0;
-    for (const IndexedImage& image : animation.Images()) {
-        const FramePointer frame = FrameOf(image, number++);
-        if (!frame || avcodec_send_frame(encoder.get(), frame.get()) < 0) return {};
-        if (!TakePackets(encoder.get(), &bytes)) return {};
-    }
-    if (avcodec_send_frame(encoder.get(), nullptr) < 0) return {};
-    if (!TakePackets(encoder.get(), &bytes)) return {};
-    return bytes;
+    if (avcodec_send_packet(decoder.get(), nullptr) < 0) return std::nullopt;
+    if (!TakeFrames(decoder.get(), &result)) return std::nullopt;
+    return result;
 }
 
 }  // namespace kirto::bench

@@ -6,7 +6,7 @@ namespace kirto::bench {
 
 namespace {
 
-// Scatters a number: neighbours get unrelated results.
+// Scatters a number: neighbors get unrelated results.
 uint32 Scatter(uint32 value) {
     value ^= value >> 16;
     value *= 0x7FEB352DU;
@@ -66,7 +66,7 @@ int32 Noise(int32 x, int32 y, int32 shift, uint32 seed) {
     return Between(above, below, down);
 }
 
-// A line of text on white: letters of noise with soft edges, in one of five colours.
+// A line of text on white: letters of noise with soft edges, in one of five colors.
 rgb_color PaintText(int32 x, int32 y, int32 line) {
     constexpr int32 kLetterWidth = 8;
     constexpr rgb_color kInks[5] = {{32, 32, 32, 255},
@@ -107,12 +107,6 @@ rgb_color PaintDialog(int32 x, int32 y, int32 step) {
 
 }  // namespace
 
-rgb_color PaintBall(int32 x, int32 y, int32 step) {
-    const int32 light = LightOnBall(x - 6 - step, y - 22 + Bounce(step, 10), 6);
-    if (light >= 0) return Color(60 + light * 13, 30 + light * 9, 20 + light * 4);
-    return y >= 28 ? Color(70, 60, 90) : Color(170, 190, 220);
-}
-
 rgb_color PaintSprites(int32 x, int32 y, int32 step) {
     for (int32 ball = 0; ball < 3; ++ball) {
         const int32 center_x = 20 + Bounce(step * (ball + 1) + ball * 40, 88);
@@ -145,6 +139,44 @@ rgb_color PaintPhoto(int32 x, int32 y, int32 step) {
     const int32 grain = static_cast<int32>(Scatter(u, v, 5 + static_cast<uint32>(step)) % 9) - 4;
     return Color(light * (160 + warmth) / 256 + grain, light * 220 / 256 + 20 + grain,
                  light * (415 - warmth) / 256 + grain);
+}
+
+rgb_color PaintNoise(int32 x, int32 y, int32 step) {
+    const uint32 shade = Scatter(Scatter(x, y, static_cast<uint32>(step)) % 256 + 1);
+    return Color(static_cast<int32>(shade & 255), static_cast<int32>(shade >> 8 & 255),
+                 static_cast<int32>(shade >> 16 & 255));
+}
+
+rgb_color PaintFlat(int32 x, int32 y, int32 step) {
+    constexpr int32 kTiles = 6;
+    for (int32 tile = 0; tile < kTiles; ++tile) {
+        const int32 left = Bounce(step * (3 + tile) * 2 + tile * 211, 1200);
+        const int32 top = Bounce(step * (8 - tile) + tile * 97, 600);
+        if (!Inside(x, y, left, top, left + 500 - tile * 50, top + 340 - tile * 30)) continue;
+        return Color(40 + tile * 36, 220 - tile * 30, tile % 2 == 0 ? 60 : 200);
+    }
+    return y < 700 ? Color(150, 190, 235) : Color(90, 130, 80);
+}
+
+rgb_color PaintScene(int32 x, int32 y, int32 step) {
+    for (int32 ball = 0; ball < 3; ++ball) {
+        const int32 center_x = 80 + Bounce(step * (2 + ball) + ball * 150, 480);
+        const int32 center_y = 100 + Bounce(step * (4 - ball) + ball * 90, 280);
+        const int32 light = LightOnBall(x - center_x, y - center_y, 40 + ball * 15);
+        if (light < 0) continue;
+        return Color(ball == 0 ? 60 + light * 13 : 30 + light * 4,
+                     ball == 1 ? 60 + light * 13 : 30 + light * 4,
+                     ball == 2 ? 60 + light * 13 : 30 + light * 4);
+    }
+    const int32 haze = y / 8 + static_cast<int32>(Scatter(x, y, 31) % 2);
+    return Color(40 + haze, 60 + haze, 120 + haze);
+}
+
+rgb_color PaintColors(int32 x, int32 y, int32 count) {
+    const uint32 number = static_cast<uint32>(y * kColorsWidth + x) % static_cast<uint32>(count);
+    const uint32 color = number * 0x9E3779B1U;  // odd: no two numbers share their low 24 bits
+    return Color(static_cast<int32>(color & 255), static_cast<int32>(color >> 8 & 255),
+                 static_cast<int32>(color >> 16 & 255));
 }
 
 }  // namespace kirto::bench

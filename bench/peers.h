@@ -1,34 +1,39 @@
-// Other people's codecs that the benchmarks compare with, where they were found at build time.
+// Other people's codecs that the benchmarks compare with, in this process.
 #pragma once
 
-#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
 #include <vector>
 
-#include "animations.h"
 #include "base/types.h"
+#include "indexed_animation.h"
 
 namespace kirto::bench {
 
-// Called with each canvas in order: rows of 4 x width bytes, blue, green, red and one more.
-using CanvasVisitor = std::function<void(const uint8* first_row, size_t bytes_per_row)>;
+// What a decoder makes of a file: a canvas of its own for each frame, as a document keeps them, of
+// width x height x 4 bytes: blue, green, red and one more.
+struct Canvases {
+    int32 width = 0;
+    int32 height = 0;
+    std::vector<std::unique_ptr<uint8[]>> canvases;
 
-struct Peer {
-    const char* name;
-    // Decodes every frame of a GIF to a 32-bit canvas of its own, as a document keeps them, and
-    // then shows them to the visitor. False when the file can't be decoded.
-    bool (*decode)(const std::vector<uint8>& gif, const CanvasVisitor& visit);
-    // Encodes the animation's images and returns their bytes; nothing when it can't.
-    std::vector<uint8> (*encode)(BenchAnimation& animation);
-    bool writes_files;      // what encode returns is a GIF file, not only its images
-    bool takes_any_images;  // encodes images smaller than the canvas
+    // A canvas that shows what the one before shows; the first is zero.
+    uint8* Add(bool shows_last);
+    size_t BytesPerRow() const { return static_cast<size_t>(width) * 4; }
+    size_t Bytes() const { return BytesPerRow() * static_cast<size_t>(height); }
 };
 
-std::vector<Peer> Peers();
+// Nothing when the file can't be decoded. libavcodec takes FLC files.
+std::optional<Canvases> DecodeWithGiflib(const std::vector<uint8>& gif);
+std::optional<Canvases> DecodeWithLibavcodec(const std::vector<uint8>& flc);
 
-bool DecodeWithGiflib(const std::vector<uint8>& gif, const CanvasVisitor& visit);
-std::vector<uint8> EncodeWithGiflib(BenchAnimation& animation);
+// giflib's decoding and no more. Images are appended to *result, if any; without it a row is
+// forgotten as soon as the next one is read. False when the file can't be decoded.
+bool ReadWithGiflib(const std::vector<uint8>& gif, IndexedAnimation* result);
 
-bool DecodeWithLibavcodec(const std::vector<uint8>& gif, const CanvasVisitor& visit);
-std::vector<uint8> EncodeWithLibavcodec(BenchAnimation& animation);
+// False when the animation can't be encoded. cgif takes whole frames only.
+bool WriteWithGiflib(const IndexedAnimation& animation, const std::string& path);
+bool EncodeWithCgif(IndexedAnimation& animation, std::vector<uint8>* gif);
 
 }  // namespace kirto::bench
