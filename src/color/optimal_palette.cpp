@@ -1,4 +1,4 @@
-// The part of Palette that counts the colours of a picture and keeps the most frequent ones.
+// The part of Palette that counts the colors of a picture and keeps the most frequent ones.
 #include <algorithm>
 #include <array>
 #include <cstring>
@@ -17,7 +17,7 @@ using kirto::ColorKey;
 
 namespace {
 
-// One bucket for each pair of green and blue; colours that differ only in red share one.
+// One bucket for each pair of green and blue; colors that differ only in red share one.
 constexpr int32 kColorBuckets = 65536;
 
 // A single object from the heap, or null.
@@ -126,7 +126,7 @@ std::unique_ptr<SFHash> TableOf(const kirto::ColorValues& counts) {
     return table;
 }
 
-// The smallest index width that holds so many colours, 8 at most.
+// The smallest index width that holds so many colors, 8 at most.
 int32 BitsFor(int32 color_count) {
     int32 bits = 1;
     while (bits < 8 && (1 << bits) < color_count)

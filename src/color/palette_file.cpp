@@ -1,4 +1,4 @@
-// The part of Palette that reads colour tables out of GIF and FLI files.
+// The part of Palette that reads color tables out of GIF and FLI files.
 #include <algorithm>
 #include <array>
 #include <span>
@@ -21,7 +21,7 @@ constexpr size_t kFliFrameHeaderSize = 16;
 constexpr size_t kFliChunkCountOffset = 6;
 constexpr size_t kFliChunkHeaderSize = 6;
 constexpr uint16 kFliColor64 = 11;
-// More than a colour chunk can use: every packet fills at least one entry, so after at most 256
+// More than a color chunk can use: every packet fills at least one entry, so after at most 256
 // packets and 511 triples the index has passed the last entry.
 constexpr size_t kFliColorBytes = 2 + 256 * 2 + 511 * 3;
 
@@ -40,7 +40,7 @@ bool ReadFirstImagePacked(BFile& file, uint8* packed) {
     return file.ReadExactly(packed, 1);
 }
 
-// Reads a colour chunk of so many bytes and carries it out; false if the file has fewer.
+// Reads a color chunk of so many bytes and carries it out; false if the file has fewer.
 bool ReadFliColorChunk(BFile& file, int32 size, kirto::ColorTable& colors) {
     if (size < 0 || size > file.Size() - file.Position()) return false;
     std::array<uint8, kFliColorBytes> bytes{};

@@ -27,7 +27,7 @@ struct FadePlan {
     FadeMode mode;
     rgb_color color;
     FramePointer current;
-    FramePointer other;  // the neighbour; null for fades of a colour
+    FramePointer other;  // the neighbor; null for fades of a color
 };
 
 // Blends the rows of a plan's pictures.

@@ -10,12 +10,12 @@ namespace kirto {
 
 namespace {
 
-constexpr int32 kBehindCurrent = -1;
+constexpr int32 kAfterCurrent = -1;
 
 int32 PositionIn(const AnimationDocument& document, const BMessage& message) {
-    int32 position = kBehindCurrent;
+    int32 position = kAfterCurrent;
     message.FindInt32("position", &position);
-    return position == kBehindCurrent ? document.Selected() + 1 : position;
+    return position == kAfterCurrent ? document.Selected() + 1 : position;
 }
 
 // Tells the user of files that are no images: of the first ones each by itself, of all others

@@ -15,7 +15,7 @@
 //   global_width = 320                                     LONG, or LLNG when 32 bits are too few
 //   misc_windowdimensions = [100.0, 80.0, 649.0, 479.0]    RECT
 //   odd = { type = "LONG", bytes = "4001" }                any other type or size
-//   palette_filename = "/home/ann/colours.gif"             CSTR
+//   palette_filename = "/home/ann/colors.gif"             CSTR
 //
 // Every attribute is kept exactly: what the short forms can't carry (an unusual type or size, a
 // string that is no UTF-8, a truth value above 1) stands as its bytes, in memory order, as

@@ -73,7 +73,7 @@ std::string NumberText(T value) {
 }
 
 // Digits that read back to the same float by way of a double, as the file's reader goes. For a few
-// floats the shortest digits would be rounded twice, to a neighbour; those are written in full.
+// floats the shortest digits would be rounded twice, to a neighbor; those are written in full.
 std::string EdgeText(float edge) {
     const std::string text = NumberText(edge);
     double wide = 0;

@@ -353,11 +353,11 @@ std::vector<uint8> BMessage::Flatten() const {
 
 status_t BMessage::Unflatten(const uint8* bytes, size_t size) {
     const bool sound = IsMessage({bytes, size}, 0);
-    *this = sound ? FromSound({bytes, size}) : BMessage();
+    *this = sound ? FromCheckedBytes({bytes, size}) : BMessage();
     return sound ? B_OK : B_BAD_DATA;
 }
 
-BMessage BMessage::FromSound(std::span<const uint8> bytes) {
+BMessage BMessage::FromCheckedBytes(std::span<const uint8> bytes) {
     BMessage message;
     kirto::ByteReader reader(bytes);
     reader.Bytes(kMagic.size());

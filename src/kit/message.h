@@ -92,7 +92,7 @@ class BMessage {
     status_t Append(std::string_view name, type_code type, std::string_view value);
     status_t Replace(std::string_view name, type_code type, int32 index, std::string_view value);
     // Of bytes that have been checked.
-    static BMessage FromSound(std::span<const uint8> bytes);
+    static BMessage FromCheckedBytes(std::span<const uint8> bytes);
 
     std::vector<Field> fields_;
 };

@@ -31,6 +31,11 @@ void IndexCounts::AddBlock(std::span<const uint8> block) {
     for (; end - next >= 8; next += 8) {
         uint64 group = 0;
         std::memcpy(&group, next, sizeof(group));
+        // A run is counted at once.
+        if (group == *next * uint64{0x0101010101010101}) {
+            lanes[0][*next] = static_cast<uint16>(lanes[0][*next] + 8);
+            continue;
+        }
         for (size_t i = 0; i < 8; ++i)
             ++lanes[i % kLanes][group >> 8 * i & 0xFF];
     }

@@ -52,6 +52,7 @@ struct RowPart {
 
 RowPart PartOf(const IndexImage& image, int32 y, int32 picture_width) {
     const int32 row = y - image.top;
+    if (row < 0 || row >= image.height) return {image.indices.data(), 0, 0};
     const int32 there =
         image.row_lengths.empty() ? image.width : image.row_lengths[static_cast<size_t>(row)];
     const int32 count = std::clamp(picture_width - image.left, 0, there);
@@ -95,16 +96,27 @@ std::shared_ptr<const Picture> IndexPainter::Paint(const std::shared_ptr<const P
     const bool empty = image.width == 0 || image.height == 0;
     if (empty || image.left >= width || image.top >= height)
         return AddRows(*base, {0, height}, builder) ? builder.Take() : nullptr;
-    const int32 bottom = std::min(image.top + image.height, height);
-    if (!AddRows(*base, {0, image.top}, builder)) return nullptr;
+    const Band touched = TouchedRows(*base, image);
+    if (!AddRows(*base, {0, touched.first}, builder)) return nullptr;
     // What is painted is cut anew, so that strips do not become ever smaller.
     const int32 step = Strip::RowsFor(width);
-    for (Band band{image.top, 0}; band.first < bottom; band.first = band.end) {
-        band.end = std::min((band.first / step + 1) * step, bottom);
+    for (Band band{touched.first, 0}; band.first < touched.end; band.first = band.end) {
+        band.end = std::min((band.first / step + 1) * step, touched.end);
         if (!AddBand(*base, image, band, builder)) return nullptr;
     }
-    if (!AddRows(*base, {bottom, height}, builder)) return nullptr;
+    if (!AddRows(*base, {touched.end, height}, builder)) return nullptr;
     return builder.Take();
+}
+
+// The rows that get new strips: those of the image, and where the base has become a list of very
+// many strips, all that would be in one strip with them.
+IndexPainter::Band IndexPainter::TouchedRows(const Picture& base, const IndexImage& image) {
+    constexpr size_t kPieces = 4;
+    const int32 step = Strip::RowsFor(base.Width());
+    const size_t whole = static_cast<size_t>((base.Height() + step - 1) / step);
+    const int32 end = std::min(image.top + image.height, base.Height());
+    if (base.AllStrips().size() <= kPieces * whole) return {image.top, end};
+    return {image.top / step * step, std::min((end + step - 1) / step * step, base.Height())};
 }
 
 // Adds rows of the base as they are.

@@ -43,6 +43,7 @@ class IndexPainter {
         int32 end = 0;
     };
 
+    static Band TouchedRows(const Picture& base, const IndexImage& image);
     static bool AddRows(const Picture& base, const Band& rows, PictureBuilder& builder);
     bool AddBand(const Picture& base, const IndexImage& image, const Band& band,
                  PictureBuilder& builder);

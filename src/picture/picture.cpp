@@ -71,7 +71,7 @@ std::shared_ptr<const Picture> Picture::Of(Strips strips, int32 width, color_spa
         height += strip->Rows();
     const std::shared_ptr<Picture> picture(new Picture(width, height, space));
     picture->SetStrips(std::move(strips));
-    if (budget && !budget->Reserve(PixelBudget::kFrameCost)) return nullptr;
+    if (budget && !budget->Reserve(picture->Cost())) return nullptr;
     picture->budget_ = std::move(budget);
     return picture;
 }
@@ -89,7 +89,14 @@ std::shared_ptr<const Picture> Picture::Solid(uint32 pixel, int32 width, int32 h
 }
 
 Picture::~Picture() {
-    if (budget_) budget_->Release(PixelBudget::kFrameCost);
+    if (budget_) budget_->Release(Cost());
+}
+
+// What the picture takes beside the pixels of its strips.
+uint64 Picture::Cost() const {
+    constexpr size_t kFew = 32;  // of a strip's entry in the lists, a frame's cost has room for
+    constexpr uint64 kEntry = 24;
+    return PixelBudget::kFrameCost + (std::max(strips_.size(), kFew) - kFew) * kEntry;
 }
 
 void Picture::SetStrips(Strips strips) {

@@ -65,6 +65,7 @@ class Picture {
     Picture(int32 width, int32 height, color_space space)
         : width_(width), height_(height), space_(space) {}
     void SetStrips(Strips strips);
+    uint64 Cost() const;
 
     const int32 width_;
     const int32 height_;
@@ -72,7 +73,7 @@ class Picture {
     Strips strips_;
     std::vector<int32> first_rows_;
     std::shared_ptr<const BBitmap> bitmap_;
-    std::shared_ptr<PixelBudget> budget_;  // holds kFrameCost of it; null where a bitmap does
+    std::shared_ptr<PixelBudget> budget_;  // holds Cost() of it; null where a bitmap does
 };
 
 // Copies as many bytes as both have, without regard to their rows. False when the work was stopped

@@ -148,6 +148,24 @@ TEST(IndexPainter, ManySmallImagesOnAHugePictureTakeLittleMemory) {
     EXPECT_LT(budget->Used(), uint64{4} << 20);
 }
 
+TEST(IndexPainter, ManyImagesOfOneRowDoNotMakeAStripOfEachRow) {
+    const auto budget = std::make_shared<PixelBudget>();
+    auto table = std::make_shared<PixelTable>();
+    for (uint32 i = 0; i < 256; ++i)
+        table->pixels[i] = 0xFF000000 | i;
+    IndexPainter painter(budget);
+    PlainPicture plain{3, 6000, std::vector<uint32>(18000, 0)};
+    auto picture = Picture::Solid(0, 3, 6000, B_RGB32, budget);
+    for (int32 row = 0; row < 6000; row += 2) {
+        const uint8 index = static_cast<uint8>(row / 2 * 7);
+        const IndexImage image = OnePixel(table, index, 1, row);
+        picture = painter.Paint(picture, image);
+        PaintPlainly(plain, image);
+        ASSERT_LE(picture->AllStrips().size(), 4U * 94 + 3);
+    }
+    EXPECT_EQ(PlainOf(*picture).pixels, plain.pixels);
+}
+
 TEST(IndexPainter, SharesAllWhereNothingIsPaintedButCountsThePicture) {
     std::mt19937 random(14);
     const auto base = Built(RandomPicture(10, 10, 30, random));

@@ -66,8 +66,8 @@ TEST(Picture, OfNoBitmapIsNone) {
     EXPECT_EQ(Picture::Of(std::shared_ptr<const BBitmap>()), nullptr);
 }
 
-TEST(Picture, OfOneColorTakesNoMemoryForItsPixels) {
-    const auto budget = std::make_shared<PixelBudget>(PixelBudget::kFrameCost);
+TEST(Picture, OfOneColorTakesMemoryForItsListOfStripsOnly) {
+    const auto budget = std::make_shared<PixelBudget>(PixelBudget::kFrameCost + 8000);
     const auto picture = Picture::Solid(0xFF102030, 20000, 20000, B_RGB32, budget);
 
     ASSERT_TRUE(picture);

@@ -258,7 +258,7 @@ std::shared_ptr<const Picture> FliDecoder::MakePicture() const {
 }
 
 // The document's first frame defines the global palette, any other frame one of its own. Pixels
-// already drawn keep their colours either way.
+// already drawn keep their colors either way.
 bool FliDecoder::ReadFliCOLORChunk(int64 size, bool full8bit) {
     std::span<const uint8> data;
     if (!input_.ReadBlock(size, &data)) return false;

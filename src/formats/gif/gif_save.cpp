@@ -85,7 +85,7 @@ void GifSave::WriteGifHeader() {
     uint8 header[13] = {'G', 'I', 'F', '8', '9', 'a'};
     kirto::WriteLittle16(header + 6, animation_->width);
     kirto::WriteLittle16(header + 8, animation_->height);
-    // A global table, of the highest colour resolution, unsorted.
+    // A global table, of the highest color resolution, unsorted.
     header[10] = kirto::LowByte((palette.bits - 1) | 0xF0);
     header[11] = kirto::LowByte(palette.background_index);
     kirto::ByteWriter bytes;

@@ -9,7 +9,7 @@ namespace {
 
 using SharedPicture = std::shared_ptr<const BBitmap>;
 
-// In every 32-bit colour space: the decoders leave alpha 0 where no image paints.
+// In every 32-bit color space: the decoders leave alpha 0 where no image paints.
 bool HasTransparency(const BBitmap& picture) {
     const size_t alpha = IsBigEndian(picture.ColorSpace()) ? 0 : 3;
     for (size_t i = alpha; i < picture.BitsLength(); i += 4) {
@@ -22,7 +22,7 @@ void Release(void* kept) {
     delete static_cast<SharedPicture*>(kept);
 }
 
-QImage CopyTurned(const BBitmap& picture, QImage::Format format) {
+QImage CopyWithBytesReversed(const BBitmap& picture, QImage::Format format) {
     QImage image(picture.Width(), picture.Height(), format);
     if (image.isNull()) return image;
     for (int32 y = 0; y < picture.Height(); ++y) {
@@ -40,7 +40,7 @@ QImage ImageOfPicture(const BBitmap& picture) {
     if (picture.InitCheck() != B_OK || !Is32Bit(picture.ColorSpace())) return {};
     const QImage::Format format =
         HasTransparency(picture) ? QImage::Format_ARGB32 : QImage::Format_RGB32;
-    if (IsBigEndian(picture.ColorSpace())) return CopyTurned(picture, format);
+    if (IsBigEndian(picture.ColorSpace())) return CopyWithBytesReversed(picture, format);
     return QImage(picture.Bits(), picture.Width(), picture.Height(),
                   static_cast<qsizetype>(picture.BytesPerRow()), format);
 }

@@ -22,7 +22,7 @@ std::vector<std::string_view> QuotedLines(std::string_view text) {
     return lines;
 }
 
-// "WIDTH HEIGHT COLOURS 1" of a square picture: the number of colours.
+// "WIDTH HEIGHT COLORS 1" of a square picture: the number of colors.
 std::optional<size_t> ColorCountOf(std::string_view line, int32 side) {
     const std::string start = Format("%d %d ", side, side);
     if (!line.starts_with(start) || !line.ends_with(" 1")) return std::nullopt;

@@ -28,7 +28,7 @@ BRect FrameOf(const BMessage& archive) {
 }
 
 // What the user reads on a control. No character of it stands for a key.
-QString Literal(QString label) {
+QString WithoutShortcut(QString label) {
     return label.replace('&', "&&");
 }
 
@@ -84,7 +84,7 @@ QWidget* ViewFactory::MakePlainView(const BMessage& archive, QWidget& parent) {
 }
 
 QWidget* ViewFactory::MakeBox(const BMessage& archive, QWidget& parent) {
-    auto* box = new QGroupBox(Literal(TextOf(archive, kArchiveLabel)), &parent);
+    auto* box = new QGroupBox(WithoutShortcut(TextOf(archive, kArchiveLabel)), &parent);
     MakeChildren(archive, *box);
     return box;
 }
@@ -100,7 +100,7 @@ QWidget* ViewFactory::MakeTabView(const BMessage& archive, QWidget& parent) {
         archive.FindMessage(kArchiveTabs, &tab, i);
         QWidget* const shown = MakeView(page, *tabs).view;
         const QString label = TextOf(tab, kArchiveLabel);
-        tabs->addTab(shown, Literal(label.isEmpty() ? shown->objectName() : label));
+        tabs->addTab(shown, WithoutShortcut(label.isEmpty() ? shown->objectName() : label));
     }
     // The view that the shown tab's view lies in is part of the widget already.
     if (archive.FindMessage(kArchiveViews, &container) == B_OK) {
@@ -125,7 +125,7 @@ QWidget* ViewFactory::MakeTextControl(const BMessage& archive, QWidget& parent) 
 
 template <typename Button>
 QWidget* ViewFactory::MakeButton(const BMessage& archive, QWidget& parent) {
-    auto* button = new Button(Literal(TextOf(archive, kArchiveLabel)), &parent);
+    auto* button = new Button(WithoutShortcut(TextOf(archive, kArchiveLabel)), &parent);
     BMessage command;
     if (archive.FindMessage(kArchiveMessage, &command) == B_OK) {
         QObject::connect(button, &QAbstractButton::clicked, button,

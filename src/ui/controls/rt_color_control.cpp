@@ -55,7 +55,7 @@ QColor RTColorControl::Color() const {
 }
 
 void RTColorControl::SetValue(int32 value) {
-    // The preview is painted later, and then asks for the colour.
+    // The preview is painted later, and then asks for the color.
     if (auto* preview = window()->findChild<QWidget*>("Preview")) preview->update();
     value_ = static_cast<int32>(static_cast<uint32>(value) & kColorBits);
     for (const Channel& channel : channels_) {

@@ -57,7 +57,7 @@ constexpr Binding<bool> kFlags[] = {
 // A setting that counts every value it has no meaning for as the last that it has one for.
 constexpr int32 kOtherwise = 3;
 
-int32 UpTo(int32 value, int32 otherwise) {
+int32 KnownOr(int32 value, int32 otherwise) {
     return value >= 0 && value < otherwise ? value : otherwise;
 }
 
@@ -163,8 +163,8 @@ void PreferencesWindow::ShowSettings() {
     Field("misc_filelocation").SetText(QString::fromStdString(prefs_.misc_tempfilelocation));
     ShowChoice(kPauseUnit, prefs_.global_pauseinseconds ? 1 : 0);
     ShowChoice(kMapping, prefs_.palette_mapping);
-    ShowChoice(kThumbnailHeight, UpTo(prefs_.thumbnail_height, kOtherwise));
-    ShowChoice(kDisposal, UpTo(prefs_.animation_gifdisposal, kOtherwise));
+    ShowChoice(kThumbnailHeight, KnownOr(prefs_.thumbnail_height, kOtherwise));
+    ShowChoice(kDisposal, KnownOr(prefs_.animation_gifdisposal, kOtherwise));
     ShowChoice(kMode, prefs_.misc_preferredmode);
     EnableDependents();
 }

@@ -13,7 +13,7 @@ constexpr qint64 kScalingMilliseconds = 25;
 constexpr int64 kMostPixelsKept = int64{16} << 20;
 constexpr int kSquare = 6;
 
-// Between the colours of text and of what it stands on, in per cent of the text's.
+// Between the colors of text and of what it stands on, in per cent of the text's.
 QColor Blend(const QPalette& palette, int text_percent) {
     const QColor base = palette.color(QPalette::Base);
     const QColor text = palette.color(QPalette::Text);

@@ -15,8 +15,8 @@ QImage ThumbnailCache::Scaled(const std::shared_ptr<const Picture>& picture, QSi
     QImage image = Find(picture, size);
     if (!image.isNull()) return image;
     const QImage source = ImageOf(picture, size);
-    // What is scaled is first made premultiplied, so that the colours below transparent pixels do
-    // not bleed into their neighbours.
+    // What is scaled is first made premultiplied, so that the colors below transparent pixels do
+    // not bleed into their neighbors.
     image = source.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     if (image.isNull()) return image;
     // A scaled picture has pixels of its own, also in the size it had before.
