@@ -381,7 +381,7 @@ TEST(OpenFli, LoopsForEver) {
 TEST(OpenFli, NamesLackOfMemoryBeforeItAsks) {
     DocumentFixture fixture;
     const AlertRecorder alerts({kOk, kSalvage});
-    fixture.document.pixel_budget->SetLimit(3 * PixelBudget::kFrameCost - 1);  // the canvas as well
+    fixture.document.pixel_budget->SetLimit(2 * PixelBudget::kFrameCost - 1);
     FliBuilder fli(2, 1);
     fli.Record().Color256({{0, {0x000000, 0xFF0000}}}).Copy({0, 1});
     fli.Record().Copy({1, 0});

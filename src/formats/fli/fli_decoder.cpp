@@ -1,7 +1,6 @@
 #include "formats/fli/fli_decoder.h"
 
 #include <algorithm>
-#include <cstring>
 #include <utility>
 
 #include "base/byte_order.h"
@@ -9,10 +8,10 @@
 #include "base/debug_line.h"
 #include "base/text.h"
 #include "color/fli_colors.h"
+#include "color/pixel_table.h"
 #include "color/shared_palette.h"
 #include "formats/fli/fli_packets.h"
 #include "formats/fli/fli_pixel_writer.h"
-#include "picture/picture_builder.h"
 
 namespace kirto {
 
@@ -132,17 +131,20 @@ bool FliDecoder::ReadFliFrameData(int32 index) {
 bool FliDecoder::StartFrame(int32 index) {
     frame_ = Frame(Format("frame%04d", index), width_, height_);
     local_palette_ = SharePalette();
-    const BRect bounds = BRect::OfSize(width_, height_);
-    if (local_palette_ && !canvas_) {
-        canvas_ = std::make_unique<BBitmap>(bounds, B_RGB32, budget_);
-        changed_rows_.assign(static_cast<size_t>(canvas_->Height()), true);
-    }
-    if (!local_palette_ || canvas_->InitCheck() != B_OK) {
-        // No memory of any size makes a picture of no pixels.
-        out_of_memory_ = !local_palette_ || bounds.IsValid();
+    // No memory of any size makes a picture of no pixels.
+    const bool empty = width_ == 0 || height_ == 0;
+    if (local_palette_ && !canvas_ && !empty)
+        canvas_ = std::make_unique<FliCanvas>(width_, height_, budget_);
+    if (!local_palette_ || empty || !canvas_->Ready()) {
+        out_of_memory_ = !local_palette_ || !empty;
         return false;
     }
-    return ChargeFrame(static_cast<int64>(canvas_->BitsLength()));
+    return ChargeFrame(PictureWork());
+}
+
+// What is spent on a picture as a whole.
+int64 FliDecoder::PictureWork() const {
+    return int64{width_} * height_ * 4;
 }
 
 // A picture brings its own work with it. Where the file leads back it does not: the same few bytes
@@ -157,11 +159,9 @@ bool FliDecoder::ChargeFrame(int64 picture_bytes) {
 bool FliDecoder::CopyPreviousFrame() {
     const FramePointer& previous = place_->previous;
     if (!previous || !HasPixelsToCopy(previous->bitmap.get())) return false;
-    // Mostly they are on the canvas already.
-    if (previous->bitmap != last_picture_) {
-        changed_rows_.assign(changed_rows_.size(), true);
-        std::fill_n(canvas_->Bits(), canvas_->BitsLength(), 0);
-        if (!CopyPixels(*previous->bitmap, *canvas_, work_)) return false;
+    if (!canvas_->Take(previous->bitmap, work_)) {
+        out_of_memory_ = !canvas_->Ready();
+        return false;
     }
     if (previous->local_palette) TakeLocalPalette(*previous->palette);
     return true;
@@ -219,7 +219,7 @@ bool FliDecoder::SkipUnknownChunk(const Chunk& chunk) {
 
 // Gives the frame its palette and its pixels.
 bool FliDecoder::FinishFrame() {
-    frame_.bitmap = MakePicture();
+    frame_.bitmap = canvas_->MakePicture(work_);
     if (!frame_.bitmap) {
         out_of_memory_ = !work_.StopRequested();
         return false;
@@ -231,30 +231,7 @@ bool FliDecoder::FinishFrame() {
         local_palette_->Set(frame_.bitmap.get(), &work_);
     }
     frame_.palette = std::move(local_palette_);
-    last_picture_ = frame_.bitmap;
-    changed_rows_.assign(changed_rows_.size(), false);
     return !work_.StopRequested();
-}
-
-// The canvas as a picture, which takes the strips without a changed row from the last one. Null
-// when memory is short or the work was stopped.
-std::shared_ptr<const Picture> FliDecoder::MakePicture() const {
-    PictureBuilder builder(width_, height_, B_RGB32, budget_, last_picture_);
-    const int32 step = Strip::RowsFor(width_);
-    for (int32 y = 0; y < height_ && !work_.StopRequested();) {
-        const int32 end = std::min(y + step, height_);
-        const auto changed =
-            std::find(changed_rows_.begin() + y, changed_rows_.begin() + end, true);
-        if (last_picture_ && changed == changed_rows_.begin() + end) {
-            if (!builder.AddStrip(last_picture_->AllStrips()[static_cast<size_t>(y / step)]))
-                return nullptr;
-            y = end;
-        }
-        for (; y < end; ++y) {
-            if (!builder.AddRow(canvas_->Row(y))) return nullptr;
-        }
-    }
-    return work_.StopRequested() ? nullptr : builder.Take();
 }
 
 // The document's first frame defines the global palette, any other frame one of its own. Pixels
@@ -343,7 +320,7 @@ bool FliDecoder::ReadFliMINIChunk(int64 size) {
 }
 
 bool FliDecoder::ReadFliBLACKChunk() {
-    if (!input_.Spend(static_cast<int64>(canvas_->BitsLength()))) return false;
+    if (!input_.Spend(PictureWork())) return false;
     blank_ = true;
     StartPicture();
     return true;
@@ -352,8 +329,12 @@ bool FliDecoder::ReadFliBLACKChunk() {
 // For drawing into the current picture.
 FliPixelWriter FliDecoder::Writer() {
     StartPicture();
-    return FliPixelWriter(*canvas_, frame_.local_palette ? *local_palette_ : global_,
-                          changed_rows_);
+    SetTable();
+    return FliPixelWriter(*canvas_);
+}
+
+void FliDecoder::SetTable() {
+    canvas_->SetTable(PixelTableOf((frame_.local_palette ? *local_palette_ : global_).colors));
 }
 
 // The file's first picture starts black, but only once there is something to draw into it: until
@@ -361,13 +342,8 @@ FliPixelWriter FliDecoder::Writer() {
 void FliDecoder::StartPicture() {
     if (!blank_) return;
     blank_ = false;
-    changed_rows_.assign(changed_rows_.size(), true);
-    static constexpr uint8 kOpaqueBlack[4] = {0, 0, 0, 255};
-    for (int32 y = 0; y < height_ && !work_.StopRequested(); ++y) {
-        uint8* row = canvas_->Row(y);
-        for (size_t i = 0; i < canvas_->BytesPerRow(); i += sizeof(kOpaqueBlack))
-            std::memcpy(row + i, kOpaqueBlack, sizeof(kOpaqueBlack));
-    }
+    SetTable();
+    canvas_->Blacken(work_);
 }
 
 bool FliDecoder::GoesOn(const ByteReader& reader) const {

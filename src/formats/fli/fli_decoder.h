@@ -1,12 +1,12 @@
 #pragma once
 
 #include <memory>
-#include <vector>
 
 #include "animation/frame.h"
 #include "base/byte_reader.h"
 #include "base/types.h"
 #include "base/work.h"
+#include "formats/fli/fli_canvas.h"
 #include "formats/fli/fli_input.h"
 #include "formats/fli/fli_pixel_writer.h"
 #include "kit/file.h"
@@ -62,6 +62,7 @@ class FliDecoder {
     bool ReadFLCNewFrame();
     bool ReadFliFrameData(int32 index);
     bool StartFrame(int32 index);
+    int64 PictureWork() const;
     bool ChargeFrame(int64 picture_bytes);
     bool CopyPreviousFrame();
     void TakeLocalPalette(const Palette& source);
@@ -69,7 +70,6 @@ class FliDecoder {
     bool ReadChunk();
     bool SkipUnknownChunk(const Chunk& chunk);
     bool FinishFrame();
-    std::shared_ptr<const Picture> MakePicture() const;
 
     // The chunk readers. size: bytes of the chunk's data, as its header says. False when the file
     // holds fewer or a seek or an allocation fails.
@@ -84,6 +84,7 @@ class FliDecoder {
     // Whether there is more to draw of a chunk's data.
     bool GoesOn(const ByteReader& reader) const;
     FliPixelWriter Writer();
+    void SetTable();
     void StartPicture();
 
     FliInput input_;
@@ -102,11 +103,7 @@ class FliDecoder {
     // The frame being read, and its own palette, in force where the frame is marked local.
     Frame frame_;
     std::shared_ptr<Palette> local_palette_;
-    // Where all pictures are drawn, one over the other, with the rows that the current one differs
-    // in from the last that was made.
-    std::unique_ptr<BBitmap> canvas_;
-    std::vector<bool> changed_rows_;
-    std::shared_ptr<const Picture> last_picture_;
+    std::unique_ptr<FliCanvas> canvas_;  // made with the first frame
 };
 
 }  // namespace kirto

@@ -413,7 +413,7 @@ TEST_F(FliLoadTest, APictureOfNoPixelsFails) {
 }
 
 TEST_F(FliLoadTest, APictureAboveTheDocumentsCeilingFails) {
-    document_.pixel_budget->SetLimit(50 + 3 * PixelBudget::kFrameCost);  // the canvas as well
+    document_.pixel_budget->SetLimit(50 + 2 * PixelBudget::kFrameCost);
     FliBuilder fli(3, 2);
     fli.Record().Black().Record().Black().Record().Black();
 

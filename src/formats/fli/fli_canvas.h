@@ -1,0 +1,67 @@
+#pragma once
+
+#include <memory>
+#include <span>
+#include <vector>
+
+#include "base/pixel_budget.h"
+#include "base/work.h"
+#include "kit/bitmap.h"
+#include "picture/picture.h"
+#include "picture/picture_builder.h"
+
+namespace kirto {
+
+// Where the pictures of a FLI or FLC file are drawn, one over the other. It keeps palette indices
+// as long as all of them have their meaning from one table, and pixels from then on. Used by one
+// thread.
+class FliCanvas {
+  public:
+    // The budget counts the canvas and the pictures.
+    FliCanvas(int32 width, int32 height, std::shared_ptr<PixelBudget> budget);
+
+    // False when memory was short; nothing is drawn then.
+    bool Ready() const { return ready_; }
+    int32 Width() const { return width_; }
+    int64 PixelCount() const { return int64{width_} * height_; }
+
+    // Makes all pixels opaque black.
+    void Blacken(const Work& work);
+    // Takes as many pixels of the picture as fit, without regard to its rows; it has rows in the
+    // order blue, green, red, alpha. Nothing to do for the picture that was made last. False when
+    // the work was stopped or memory is short.
+    bool Take(const std::shared_ptr<const Picture>& picture, const Work& work);
+    // What indices mean from now on.
+    void SetTable(const PixelTable& table);
+
+    // Draw at a position, in pixels from the first row's start: each index once, or two in turn,
+    // count of them. All of it lies on the canvas.
+    void Put(int64 position, std::span<const uint8> indices);
+    void RepeatPair(int64 position, uint8 first, uint8 second, int64 count);
+
+    // What is on the canvas; it shares what has not changed with the picture that was made last.
+    // Null when memory is short or the work was stopped.
+    std::shared_ptr<const Picture> MakePicture(const Work& work);
+
+  private:
+    bool TurnIntoPixels();
+    void Mark(int64 position, int64 count);
+    bool IsChanged(int32 first_row, int32 end) const;
+    bool AddRows(int32 first_row, int32 end, PictureBuilder& builder) const;
+
+    const int32 width_;
+    const int32 height_;
+    const std::shared_ptr<PixelBudget> budget_;
+    std::shared_ptr<PixelStorage> indices_;  // one a pixel; null once there are pixels
+    std::unique_ptr<BBitmap> pixels_;
+    SharedPixelTable table_;
+    bool ready_ = false;
+    bool drawn_ = false;              // something is on it
+    std::vector<bool> changed_rows_;  // since the last picture was made
+    // The pixels of the row that was marked last.
+    int64 marked_start_ = 0;
+    int64 marked_end_ = 0;
+    std::shared_ptr<const Picture> last_;
+};
+
+}  // namespace kirto
