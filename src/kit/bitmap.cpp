@@ -1,7 +1,5 @@
 #include "kit/bitmap.h"
 
-#include <algorithm>
-#include <cstring>
 #include <utility>
 
 namespace {
@@ -56,14 +54,6 @@ BBitmap::~BBitmap() {
 }
 
 namespace kirto {
-
-bool CopyPixels(const BBitmap& source, BBitmap& target, const Work& work) {
-    constexpr size_t kBytesAtOnce = size_t{1} << 22;
-    const size_t length = std::min(source.BitsLength(), target.BitsLength());
-    for (size_t i = 0; i < length && !work.StopRequested(); i += kBytesAtOnce)
-        std::memcpy(target.Bits() + i, source.Bits() + i, std::min(kBytesAtOnce, length - i));
-    return !work.StopRequested();
-}
 
 bool Is32Bit(color_space space) {
     return IsLittleEndian(space) || IsBigEndian(space);

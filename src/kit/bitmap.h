@@ -52,10 +52,6 @@ class BBitmap {
 
 namespace kirto {
 
-// Copies as many bytes as both pictures have, without regard to their rows. False when the work was
-// stopped meanwhile. Both have bits.
-bool CopyPixels(const BBitmap& source, BBitmap& target, const Work& work);
-
 // True for the four color spaces of 4 bytes a pixel.
 bool Is32Bit(color_space space);
 

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "base/types.h"
+#include "base/work.h"
 #include "kit/bitmap.h"
 #include "picture/strip.h"
 
