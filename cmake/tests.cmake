@@ -8,10 +8,6 @@ target_compile_options(kirto_test_flags INTERFACE -fPIC $<$<CONFIG:Debug>:-g1>)
 if(KIRTO_SANITIZE)
     target_compile_options(kirto_test_flags INTERFACE -O0)
 endif()
-if(KIRTO_SANITIZE MATCHES "undefined")
-    # A check a pointer doubles the time to compile a test; the sources keep these checks.
-    target_compile_options(kirto_test_flags INTERFACE -fno-sanitize=null,alignment,vptr)
-endif()
 
 # The standard library and GoogleTest, for all test programs; nothing of our own, which changes.
 set(kirto_test_headers
@@ -47,10 +43,13 @@ add_custom_target(test_programs)
 add_dependencies(test_programs kirto_rsrc_file)
 
 # kirto_test_program(TARGET [TEST...]): a program whose tests `./dev test changed` runs when a folder
-# has changed that the target is made of.
+# has changed that the target is made of. Folders that sanitized builds leave out set KIRTO_UNSANITIZED.
 function(kirto_test_program target)
     add_dependencies(test_programs ${target})
     set_property(GLOBAL APPEND PROPERTY KIRTO_TEST_PROGRAMS ${target})
+    if(KIRTO_UNSANITIZED)
+        set_property(GLOBAL APPEND PROPERTY KIRTO_UNSANITIZED_PROGRAMS ${target})
+    endif()
     if(ARGN)
         set_property(TEST ${ARGN} APPEND PROPERTY LABELS ${target})
     endif()
@@ -140,8 +139,8 @@ function(kirto_collect_folders target result)
     set(${result} ${folders} PARENT_SCOPE)
 endfunction()
 
-# Writes test_programs.txt into the build folder: a line a test program, its target and the folders that
-# it is made of.
+# Writes two lists into the build folder: test_programs.txt has a line a test program, its target and the
+# folders that it is made of; unsanitized_programs.txt the targets of those that only this build has.
 function(kirto_write_test_programs)
     get_property(programs GLOBAL PROPERTY KIRTO_TEST_PROGRAMS)
     set(text "")
@@ -154,4 +153,7 @@ function(kirto_write_test_programs)
         string(APPEND text "${program} ${line}\n")
     endforeach()
     file(WRITE ${PROJECT_BINARY_DIR}/test_programs.txt "${text}")
+    get_property(unsanitized GLOBAL PROPERTY KIRTO_UNSANITIZED_PROGRAMS)
+    list(JOIN unsanitized "\n" text)
+    file(WRITE ${PROJECT_BINARY_DIR}/unsanitized_programs.txt "${text}\n")
 endfunction()

@@ -26,7 +26,7 @@ uint8 Blend(double f, uint8 a, uint8 b) {
     return static_cast<uint8>(f * a + (1 - f) * b);
 }
 
-size_t PixelCount(int32 width, int32 height) {
+size_t Area(int32 width, int32 height) {
     return static_cast<size_t>(width) * static_cast<size_t>(height);
 }
 
@@ -36,7 +36,7 @@ void FadeToRGB(const uint8* source, color_space source_space, uint8* target, int
                int32 height, float f, bool to_color, rgb_color color) {
     const bool little_endian = IsLittleEndian(source_space);
     const double source_share = to_color ? 1 - static_cast<double>(f) : static_cast<double>(f);
-    for (size_t left = PixelCount(width, height); left > 0; --left) {
+    for (size_t left = Area(width, height); left > 0; --left) {
         const Components pixel = ReadPixel(source, little_endian);
         target[0] = Blend(source_share, pixel.blue, color.blue);
         target[1] = Blend(source_share, pixel.green, color.green);
@@ -51,7 +51,7 @@ void FadeToFrame(const uint8* first, color_space first_space, const uint8* secon
                  color_space second_space, uint8* target, int32 width, int32 height, float f) {
     const bool first_little = IsLittleEndian(first_space);
     const bool second_little = IsLittleEndian(second_space);
-    for (size_t left = PixelCount(width, height); left > 0; --left) {
+    for (size_t left = Area(width, height); left > 0; --left) {
         const Components a = ReadPixel(first, first_little);
         const Components b = ReadPixel(second, second_little);
         target[0] = Blend(f, a.blue, b.blue);

@@ -119,6 +119,7 @@ status_t AttributeFile::Sync() {
     const std::string text = Print(attributes_);
     if (text.size() > kirto::kMaxFileSize) return B_BAD_VALUE;
     const std::unique_ptr<BFile> file = BFile::CreateReplacing(path_);
+    file->RemoveLeftovers();
     file->Write(text.data(), text.size());
     const status_t status = file->Commit();
     changed_ = status != B_OK;

@@ -5,7 +5,6 @@
 #include "base/allocation.h"
 #include "base/pixel_budget.h"
 #include "base/types.h"
-#include "base/work.h"
 #include "kit/rect.h"
 
 // A picture in memory: bounds, color space and rows of bytes, zero-filled when made. Not tied to a

@@ -150,7 +150,9 @@ TEST(MakePictures, GivesEachPictureThePaletteOfItsColors) {
     for (const int32 count : kThreadCounts) {
         const ScopedThreads threads(count);
         PictureSteps steps;
-        steps.make = [](int32 i) { return FramePictureOf(1, 1, {0xFF000000 | static_cast<uint32>(i)}); };
+        steps.make = [](int32 i) {
+            return FramePictureOf(1, 1, {0xFF000000 | static_cast<uint32>(i)});
+        };
         int32 taken = 0;
         steps.take = [&](int32 i, std::optional<MadePicture> made) {
             EXPECT_EQ(i, taken++);

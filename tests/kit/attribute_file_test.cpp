@@ -432,8 +432,12 @@ TEST(AttributeFile, WithoutAChangeTheSyncLeavesTheFileAlone) {
     EXPECT_EQ(TextOf(path), "width = 1 # mine\n");
 }
 
-TEST(AttributeFile, NoTemporaryFilesAreLeft) {
+TEST(AttributeFile, NoTemporaryFilesAreLeftNotEvenThoseOfAKilledSync) {
     const TemporaryFolder folder;
+    const std::string leftover = folder.File(".kirto-0123456789abcdef");
+    WriteBytes(leftover, {1, 2, 3});
+    std::filesystem::last_write_time(
+        leftover, std::filesystem::file_time_type::clock::now() - std::chrono::hours(2));
     AttributeFile file(folder.File("settings"));
     WriteInt(file, "width", 1);
     file.Sync();

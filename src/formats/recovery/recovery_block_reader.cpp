@@ -11,12 +11,6 @@
 
 namespace kirto {
 
-namespace {
-
-constexpr size_t kPackedAtATime = size_t{1} << 17;
-
-}  // namespace
-
 void RecoveryBlockReader::ContextDeleter::operator()(ZSTD_DCtx_s* context) const {
     ZSTD_freeDCtx(context);
 }
@@ -24,7 +18,7 @@ void RecoveryBlockReader::ContextDeleter::operator()(ZSTD_DCtx_s* context) const
 RecoveryBlockReader::RecoveryBlockReader(BFile& file)
     : file_(file),
       context_(AllocationShouldFail() ? nullptr : ZSTD_createDCtx()),
-      packed_(AllocateArray<uint8>(kPackedAtATime)) {
+      packed_(AllocateArray<uint8>(kRecoveryBuffer)) {
     if (!context_ || !packed_) {
         Fail(B_NO_MEMORY, "out of memory");
         return;
@@ -67,7 +61,7 @@ bool RecoveryBlockReader::Open() {
 // Takes more packed bytes out of the file where all of those here are unpacked.
 bool RecoveryBlockReader::Refill() {
     if (packed_position_ < packed_size_) return true;
-    packed_size_ = static_cast<size_t>(std::min<uint64>(stored_left_, kPackedAtATime));
+    packed_size_ = static_cast<size_t>(std::min<uint64>(stored_left_, kRecoveryBuffer));
     packed_position_ = 0;
     if (packed_size_ == 0) return Fail(B_BAD_DATA, "a block is shorter than it says");
     if (!file_.ReadExactly(packed_.get(), packed_size_)) {

@@ -11,7 +11,6 @@ namespace kirto {
 namespace {
 
 constexpr int kPackingLevel = 1;  // a document is written often and hardly ever read
-constexpr size_t kPackedAtATime = size_t{1} << 17;
 
 void WriteLittle64(uint8* bytes, uint64 value) {
     for (int i = 0; i < 8; ++i)
@@ -27,7 +26,7 @@ void RecoveryBlockWriter::ContextDeleter::operator()(ZSTD_CCtx_s* context) const
 RecoveryBlockWriter::RecoveryBlockWriter(BFile& file)
     : file_(file),
       context_(AllocationShouldFail() ? nullptr : ZSTD_createCCtx()),
-      packed_(AllocateArray<uint8>(kPackedAtATime)) {
+      packed_(AllocateArray<uint8>(kRecoveryBuffer)) {
     if (!context_) return;
     ZSTD_CCtx_setParameter(context_.get(), ZSTD_c_compressionLevel, kPackingLevel);
     ZSTD_CCtx_setParameter(context_.get(), ZSTD_c_windowLog, kRecoveryWindow);
@@ -67,7 +66,7 @@ status_t RecoveryBlockWriter::Pack(std::span<const uint8> bytes, bool last) {
     ZSTD_inBuffer input{bytes.data(), bytes.size(), 0};
     const ZSTD_EndDirective directive = last ? ZSTD_e_end : ZSTD_e_continue;
     for (bool done = false; !done;) {
-        ZSTD_outBuffer output{packed_.get(), kPackedAtATime, 0};
+        ZSTD_outBuffer output{packed_.get(), kRecoveryBuffer, 0};
         const size_t left = ZSTD_compressStream2(context_.get(), &output, &input, directive);
         if (ZSTD_isError(left)) return B_NO_MEMORY;
         file_.Write(packed_.get(), output.pos);

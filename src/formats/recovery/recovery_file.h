@@ -47,6 +47,8 @@ inline constexpr size_t kMaxRecoveryName = 255;
 inline constexpr size_t kMaxRecoveryDirectory = 65535;
 // The largest block but for pictures: room for a head with the longest directory.
 inline constexpr size_t kMaxRecoveryBlock = size_t{1} << 17;
+// Bytes of packed data that reader and writer hold at a time.
+inline constexpr size_t kRecoveryBuffer = size_t{1} << 17;
 // Bytes of a block in front of what it holds.
 inline constexpr size_t kRecoveryBlockHeader = 20;
 // Bytes of a picture's block in front of its pixels.

@@ -7,13 +7,9 @@
 
 #include "base/text.h"
 
-namespace {
-
-BPoint PointOf(const QPoint& point) {
+BPoint ThumbDrawingView::PointOf(const QPoint& point) {
     return {static_cast<float>(point.x()), static_cast<float>(point.y())};
 }
-
-}  // namespace
 
 ThumbDrawingView::ThumbDrawingView(const kirto::ShownDocument& shown, const kirto::Editor& editor,
                                    BMessenger window, kirto::ThumbScrollView* scroll_view)

@@ -70,6 +70,7 @@ class ThumbDrawingView : public QWidget {
     void dropEvent(QDropEvent* event) override;
 
   private:
+    static BPoint PointOf(const QPoint& point);
     void MakeMenu();
     void Describe();
     void ShowToolTip(const QHelpEvent& event);

@@ -18,10 +18,6 @@ constexpr int kRetryMilliseconds = 20;
 constexpr int kDragAlpha = 127;
 constexpr int kMaxDragSide = 2048;  // of the picture under the pointer, pixels
 
-BPoint PointOf(const QPoint& point) {
-    return {static_cast<float>(point.x()), static_cast<float>(point.y())};
-}
-
 bool CarriesFiles(const QDropEvent& event) {
     return event.mimeData()->hasUrls() && !kirto::BeganInKirto(*event.mimeData());
 }
