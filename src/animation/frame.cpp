@@ -1,10 +1,10 @@
 #include "animation/frame.h"
 
 #include <atomic>
+#include <utility>
 
 #include "base/text.h"
 #include "color/shared_palette.h"
-#include "kit/picture_files.h"
 
 namespace {
 
@@ -23,21 +23,10 @@ Frame::Frame(std::string_view frame_name, int32 frame_width, int32 frame_height)
     height = frame_height;
 }
 
-status_t Frame::Read(const std::string& path, std::string_view frame_name,
-                     BTranslatorRoster& roster, std::shared_ptr<kirto::PixelBudget> budget,
-                     Frame* result, kirto::Work* work) {
-    const std::shared_ptr<Palette> own_palette = kirto::SharePalette();
-    if (!own_palette) return B_NO_MEMORY;
-    std::shared_ptr<BBitmap> picture;
-    const status_t status = kirto::ReadPicture(path, roster, budget, work, &picture);
-    if (status < B_OK) return status;
-    Frame frame(frame_name, picture->Bounds().PixelWidth(), picture->Bounds().PixelHeight());
-    frame.bitmap = kirto::Picture::Of(std::move(picture), std::move(budget));
-    own_palette->Set(frame.bitmap.get(), work);
-    if (kirto::IsStopped(work)) return B_CANCELED;
-    frame.palette = own_palette;
-    *result = std::move(frame);
-    return B_OK;
+Frame::Frame(std::string_view frame_name, kirto::FrameImage image)
+    : Frame(frame_name, image.width, image.height) {
+    bitmap = std::move(image.picture);
+    palette = std::move(image.palette);
 }
 
 void Frame::SetName(std::string_view frame_name) {

@@ -4,10 +4,9 @@
 #include <string>
 #include <string_view>
 
+#include "animation/frame_image.h"
 #include "base/types.h"
-#include "base/work.h"
 #include "color/palette.h"
-#include "kit/translator_roster.h"
 #include "picture/picture.h"
 
 namespace kirto {
@@ -40,13 +39,8 @@ class Frame {
     Frame();
     // Of the given name and size, without pixels yet. Note the order.
     Frame(std::string_view frame_name, int32 frame_width, int32 frame_height);
-    // Makes *result of an image file, with a palette built from the picture; its pixels are counted
-    // by the budget. B_NO_MEMORY when the frame itself could not be made; the roster's error when
-    // no translator reads the file, which includes pictures beyond the budget; B_CANCELED when the
-    // work, if any, was stopped. *result stays then.
-    static status_t Read(const std::string& path, std::string_view frame_name,
-                         BTranslatorRoster& roster, std::shared_ptr<kirto::PixelBudget> budget,
-                         Frame* result, kirto::Work* work = nullptr);
+    // Of an image file that was read.
+    Frame(std::string_view frame_name, kirto::FrameImage image);
 
     // Stores the name, cut at a whole UTF-8 character where it is too long.
     void SetName(std::string_view frame_name);

@@ -131,7 +131,8 @@ Kirto::Kirto(Prefs& settings, kirto::Desktop& desktop, BTranslatorRoster& roster
       AnimationDocument(WarnOfTrouble(settings)),
       desktop_(desktop),
       roster_(roster),
-      commands_(std::make_shared<kirto::CommandPort>(*this, Port())) {
+      commands_(std::make_shared<kirto::CommandPort>(*this, Port())),
+      images_ahead_(roster, pixel_budget, work) {
     window = desktop_.OpenMainWindow(*this, MainWindowFrame(), "Kirto - untitled");
     PostToWindow(kirto::kUpdateAll);
 }
@@ -256,7 +257,7 @@ void Kirto::StoreTranslatorSettings(const BMessage& message) {
 
 void Kirto::InsertFrame(BMessage* message) {
     const int32 before = FrameCount();
-    if (!kirto::InsertImages(*this, *message, roster_)) SayCanceled(before);
+    if (!kirto::InsertImages(*this, *message, images_ahead_)) SayCanceled(before);
 }
 
 // To be called where the work was stopped before it was done.

@@ -11,6 +11,7 @@
 #include "app/file_panel.h"
 #include "base/file_stamp.h"
 #include "document/animation_document.h"
+#include "effects/images_ahead.h"
 #include "kit/translator_roster.h"
 #include "resources/ie_application.h"
 
@@ -127,8 +128,6 @@ class Kirto : public IEApplication, public AnimationDocument, public kirto::File
     using AnimationDocument::SetFile;
     void SetFile(const std::string& directory, const std::string& name,
                  const std::optional<kirto::FileStamp>& stamp);
-    status_t WriteSequenceFile(const Frame& frame, const std::string& path, uint32 translator,
-                               uint32 format);
     void RemovePreviews();
 
     kirto::Desktop& desktop_;
@@ -143,7 +142,8 @@ class Kirto : public IEApplication, public AnimationDocument, public kirto::File
     std::optional<BMessage> waiting_drop_;  // kOpenFile, to be carried out after a save
     uint32 output_format_ = 0;   // of the document's file: a translator, or 0 for animated GIF
     bool save_stopped_ = false;  // the last save was stopped before it was done
-    std::string last_word_;      // for the status line, once the command is done
+    kirto::ImagesAhead images_ahead_;
+    std::string last_word_;  // for the status line, once the command is done
     // The preview files that were written, as they were then, by path.
     std::map<std::string, std::optional<kirto::FileStamp>> previews_;
 };

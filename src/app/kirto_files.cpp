@@ -1,23 +1,20 @@
 // Moving whole animations between the document and files.
 #include <algorithm>
-#include <filesystem>
 #include <utility>
 
 #include "app/command_port.h"
 #include "app/kirto.h"
 #include "app/open_animation.h"
 #include "app/save_animation.h"
+#include "app/sequence_save.h"
 #include "base/debug_line.h"
 #include "base/text.h"
 #include "document/command_codes.h"
 #include "kit/alert.h"
-#include "kit/picture_files.h"
 
 namespace {
 
 constexpr uint32 kAnimatedGif = 0xFFFFFFFF;
-constexpr const char* kInvalidTranslator =
-    "The animation can't be saved because the selected translator is not valid.";
 
 constexpr int32 kOpenButton = 1;
 constexpr int32 kInsertButton = 2;
@@ -28,12 +25,6 @@ constexpr int32 kSaveAsButton = 1;
 
 bool IsGif(uint32 format) {
     return format == 0 || format == kAnimatedGif;
-}
-
-// Empty, which no file can be made at, where there is no directory: a bare name would be a file of
-// the folder that the program happens to run in.
-std::string Join(const std::string& directory, const std::string& name) {
-    return directory.empty() ? "" : (std::filesystem::path(directory) / name).string();
 }
 
 // The translator's first format that is a file format; 0 without one.
@@ -233,7 +224,7 @@ void Kirto::SaveAgain() {
 
 std::string Kirto::FilePath() const {
     const auto state = CurrentState();
-    return Join(state->file_directory, state->file_name);
+    return kirto::PathIn(state->file_directory, state->file_name);
 }
 
 bool Kirto::MayOverwrite() {
@@ -299,57 +290,20 @@ void Kirto::SetFile(const std::string& directory, const std::string& name,
 bool Kirto::SaveSequence(uint32 translator) {
     std::string translator_name;
     if (!roster_.GetTranslatorInfo(translator, &translator_name)) {
-        kirto::Warn(kInvalidTranslator);
+        kirto::Warn(kirto::kInvalidTranslatorText);
         return false;
     }
     const uint32 format = FileFormat(roster_, translator);
     if (format == 0) {
         kirto::DebugLine("Kirto::SaveSequence() - Desired format is 0, this is not good\n");
     }
-    const auto state = CurrentState();
-    const int32 count = state->animation->frames.Size();
-    int32 index = 0;
-    for (const kirto::FramePointer& frame : state->animation->frames) {
-        work.Report(index, count);
-        const std::string name = kirto::SequenceFileName(state->file_name, index);
-        const status_t status =
-            WriteSequenceFile(*frame, Join(state->file_directory, name), translator, format);
-        if (status == B_CANCELED) {
-            save_stopped_ = true;
-            last_word_ =
-                kirto::Format("saving was canceled, %d of %d file(s) written", index, count);
-        }
-        if (status != B_OK) return false;
-        ++index;
+    const int32 count = FrameCount();
+    kirto::SequenceSave save(*this, roster_, {translator, format, translator_settings[translator]});
+    const status_t status = save.Save();
+    if (status == B_CANCELED) {
+        save_stopped_ = true;
+        last_word_ =
+            kirto::Format("saving was canceled, %d of %d file(s) written", save.Written(), count);
     }
-    return true;
-}
-
-// B_CANCELED when the work was stopped; any other failure is told to the user. No file then.
-status_t Kirto::WriteSequenceFile(const Frame& frame, const std::string& path, uint32 translator,
-                                  uint32 format) {
-    const std::shared_ptr<BFile> file = BFile::CreateReplacing(path);
-    if (file->InitCheck() != B_OK) {
-        kirto::Warn(kirto::kFileNotCreatedText);
-        return B_IO_ERROR;
-    }
-    const std::shared_ptr<const BBitmap> picture = frame.bitmap->ToBitmap();
-    if (picture->InitCheck() != B_OK) {
-        kirto::WarnOutOfMemory();
-        return B_NO_MEMORY;
-    }
-    // Once a sequence is enough.
-    if (&frame == FirstFrame().get()) file->RemoveLeftovers();
-    const status_t status = kirto::WritePicture(picture, roster_, translator, format,
-                                                translator_settings[translator], file, work);
-    if (status == B_CANCELED) return status;
-    if (status != B_OK && file->WriteStatus() == B_OK) {
-        kirto::Warn(kInvalidTranslator);
-        return status;
-    }
-    if (file->Commit() != B_OK) {
-        kirto::Warn(kirto::kFileNotCreatedText);
-        return B_IO_ERROR;
-    }
-    return B_OK;
+    return status == B_OK;
 }

@@ -1,6 +1,7 @@
 #include "app/save_animation.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <memory>
 
 #include "base/text.h"
@@ -50,6 +51,10 @@ std::string NumbersCutShort(const Animation& animation, bool in_seconds) {
     if (pauses == 0) return text;
     return text + (text.empty() ? "" : ", ") +
            Format("%d pause(s) above 655.35 seconds were saved shorter", static_cast<int>(pauses));
+}
+
+std::string PathIn(const std::string& directory, const std::string& name) {
+    return directory.empty() ? "" : (std::filesystem::path(directory) / name).string();
 }
 
 std::string SequenceFileName(const std::string& file_name, int32 index) {

@@ -7,6 +7,10 @@
 
 namespace kirto {
 
+// Empty, which no file can be made at, where there is no directory: a bare name would be a file of
+// the folder that the program happens to run in.
+std::string PathIn(const std::string& directory, const std::string& name);
+
 // The name of one image file of a sequence that is saved as file_name: the number goes before the
 // first dot, "anim.png" gives "anim0007.png".
 std::string SequenceFileName(const std::string& file_name, int32 index);

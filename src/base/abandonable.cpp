@@ -59,12 +59,11 @@ void RunTask(Meeting& meeting, std::function<void()>& task) {
     all.fewer.notify_all();
 }
 
-// True when the task was done before the work was stopped.
-bool WaitFor(Meeting& meeting, Work& work) {
+// True when the task was done before it was given up.
+bool WaitFor(Meeting& meeting, const std::function<bool()>& given_up) {
     std::unique_lock lock(meeting.mutex);
     while (!meeting.over.wait_for(lock, kLook, [&] { return meeting.done; })) {
-        work.ReportAgain();
-        if (!work.StopRequested()) continue;
+        if (!given_up()) continue;
         meeting.abandoned = true;
         Abandoned& all = AllAbandoned();
         const std::lock_guard count_lock(all.mutex);
@@ -77,12 +76,20 @@ bool WaitFor(Meeting& meeting, Work& work) {
 }  // namespace
 
 bool FinishOrAbandon(Work& work, std::function<void()> task) {
+    const std::function<bool()> given_up = [&work] {
+        work.ReportAgain();
+        return work.StopRequested();
+    };
+    return FinishOrAbandon(given_up, std::move(task));
+}
+
+bool FinishOrAbandon(const std::function<bool()>& given_up, std::function<void()> task) {
     const auto meeting = std::make_shared<Meeting>();
     std::thread thread([meeting, task = std::move(task), fault = LentAllocationFault()]() mutable {
         BorrowAllocationFault(std::move(fault));
         RunTask(*meeting, task);
     });
-    if (!WaitFor(*meeting, work)) {
+    if (!WaitFor(*meeting, given_up)) {
         thread.detach();
         return false;
     }

@@ -13,6 +13,10 @@ namespace kirto {
 // WaitForAbandoned(). What it throws is thrown here.
 bool FinishOrAbandon(Work& work, std::function<void()> task);
 
+// The same where the work is not to be told that it goes on. given_up: asked every now and then, on
+// this thread, whether the task is to be abandoned.
+bool FinishOrAbandon(const std::function<bool()>& given_up, std::function<void()> task);
+
 // Waits for the tasks that were abandoned, at most that long. False when some are still at it.
 bool WaitForAbandoned(std::chrono::milliseconds longest);
 

@@ -3,11 +3,15 @@
 #include <array>
 #include <cstring>
 #include <new>
+#include <optional>
 #include <span>
+#include <utility>
+#include <vector>
 
 #include "base/allocation.h"
 #include "base/byte_order.h"
 #include "base/debug_line.h"
+#include "color/color_slices.h"
 #include "color/color_values.h"
 #include "color/commonest_colors.h"
 #include "color/palette.h"
@@ -77,32 +81,92 @@ bool AddCounts(std::span<const kirto::PixelCount> pixels, bool big_endian,
     return true;
 }
 
-// Adds every pixel of a 32-bit picture. False when memory is short or the work was stopped.
-bool CountPicture(const kirto::Picture& picture, kirto::ColorValues& counts,
-                  const kirto::Work* work) {
-    const bool big_endian = kirto::IsBigEndian(picture.ColorSpace());
-    const auto count_pixels = big_endian ? CountPixels<true> : CountPixels<false>;
-    const size_t width = static_cast<size_t>(picture.Width());
-    for (const std::shared_ptr<const kirto::Strip>& strip : picture.AllStrips()) {
-        if (kirto::IsStopped(work)) return false;
-        const size_t size = width * static_cast<size_t>(strip->Rows());
-        if (strip->Pixels() ? !count_pixels(strip->Pixels(), size, counts)
-                            : !AddCounts(strip->Counts(), big_endian, counts)) {
-            return false;
-        }
+// Where the table of the colors has become large, and so many pixels are left that sorting them is
+// less work than looking for each one's color there.
+constexpr size_t kManyColors = 1 << 14;
+constexpr size_t kManyPixels = 1 << 17;
+constexpr size_t kPixelsAtOnce = 1 << 13;  // between two looks at that
+
+// The colors of a picture with their numbers of pixels. Colors of the same green and blue are in
+// the order in which they appear.
+class ColorCounts {
+  public:
+    ColorCounts(const kirto::Picture& picture, const kirto::Work* work)
+        : picture_(picture),
+          work_(work),
+          big_endian_(kirto::IsBigEndian(picture.ColorSpace())),
+          values_(work) {}
+
+    bool Ready() const { return values_.Ready(); }
+    // Counts every pixel of a 32-bit picture. False when memory is short or the work was stopped.
+    bool Count();
+    std::span<const kirto::ColorValues::Item> Items() const {
+        return slices_ ? slices_->Items() : values_.Items();
+    }
+
+  private:
+    size_t SizeOf(const kirto::Strip& strip) const {
+        return static_cast<size_t>(picture_.Width()) * static_cast<size_t>(strip.Rows());
+    }
+    bool CountStrip(size_t place);
+    // Counts the strip's pixels from that one on, and the strips that follow, in slices. False
+    // where that is not worth it, or can't be done.
+    bool CountRest(size_t place, size_t done);
+
+    const kirto::Picture& picture_;
+    const kirto::Work* const work_;
+    const bool big_endian_;
+    kirto::ColorValues values_;
+    std::optional<kirto::ColorSlices> slices_;  // once it has counted the rest
+};
+
+bool ColorCounts::Count() {
+    for (size_t i = 0; i < picture_.AllStrips().size() && !slices_; ++i) {
+        if (kirto::IsStopped(work_) || !CountStrip(i)) return false;
     }
     return true;
 }
 
+bool ColorCounts::CountStrip(size_t place) {
+    const kirto::Strip& strip = *picture_.AllStrips()[place];
+    if (!strip.Pixels()) return AddCounts(strip.Counts(), big_endian_, values_);
+    const auto count_pixels = big_endian_ ? CountPixels<true> : CountPixels<false>;
+    const size_t size = SizeOf(strip);
+    for (size_t done = 0; done < size;) {
+        if (values_.Items().size() >= kManyColors && CountRest(place, done)) return true;
+        const size_t count = std::min(size - done, kPixelsAtOnce);
+        if (!count_pixels(strip.Pixels() + done * 4, count, values_)) return false;
+        done += count;
+    }
+    return true;
+}
+
+bool ColorCounts::CountRest(size_t place, size_t done) {
+    std::vector<kirto::ColorSlices::Pixels> rest;
+    size_t pixels = 0;
+    for (size_t i = place; i < picture_.AllStrips().size(); ++i, done = 0) {
+        const kirto::Strip& strip = *picture_.AllStrips()[i];
+        if (!strip.Pixels()) return false;
+        const size_t count = SizeOf(strip) - done;
+        rest.emplace_back(strip.Pixels() + done * 4, count * 4);
+        pixels += count;
+    }
+    if (pixels < kManyPixels) return false;
+    slices_.emplace(big_endian_, work_);
+    const bool counted = slices_->Count(values_.Items(), rest);
+    if (!counted) slices_.reset();
+    return counted;
+}
+
 // Each color of the picture with its number of pixels. Nothing on failure: B_CANCELED when the work
 // was stopped, B_NO_MEMORY, B_BAD_VALUE without a picture, B_BAD_TYPE for one that is not 32-bit.
-std::optional<kirto::ColorValues> CountColors(const kirto::Picture* picture,
-                                              const kirto::Work* work, status_t* status) {
+std::optional<ColorCounts> CountColors(const kirto::Picture* picture, const kirto::Work* work,
+                                       status_t* status) {
     *status = B_BAD_VALUE;
     if (!picture) return std::nullopt;
-    kirto::ColorValues counts(work);
+    std::optional<ColorCounts> counts(std::in_place, *picture, work);
     const bool is_32_bit = kirto::Is32Bit(picture->ColorSpace());
-    const bool counted = counts.Ready() && (!is_32_bit || CountPicture(*picture, counts, work));
+    const bool counted = counts->Ready() && (!is_32_bit || counts->Count());
     if (kirto::IsStopped(work)) {
         *status = B_CANCELED;
     } else if (!counted) {
@@ -110,12 +174,12 @@ std::optional<kirto::ColorValues> CountColors(const kirto::Picture* picture,
     } else {
         *status = is_32_bit ? B_OK : B_BAD_TYPE;
     }
-    if (*status != B_OK) return std::nullopt;
+    if (*status != B_OK) counts.reset();
     return counts;
 }
 
 // The colors as items of a hash table; null when memory is short.
-std::unique_ptr<SFHash> TableOf(const kirto::ColorValues& counts) {
+std::unique_ptr<SFHash> TableOf(const ColorCounts& counts) {
     auto table = TryMake<SFHash>(kColorBuckets);
     if (!table || table->fail) return nullptr;
     for (const kirto::ColorValues::Item& color : counts.Items()) {
@@ -174,7 +238,7 @@ std::optional<std::vector<rgb_color>> Palette::MakeNearestColorPalette(
 status_t Palette::FindNearestColors(const kirto::Picture* picture, const kirto::Work* work,
                                     std::optional<std::vector<rgb_color>>* result) {
     status_t status = B_OK;
-    const std::optional<kirto::ColorValues> counts = CountColors(picture, work, &status);
+    const std::optional<ColorCounts> counts = CountColors(picture, work, &status);
     if (!counts) return status;
     unique_colors = static_cast<int32>(counts->Items().size());
     bits = BitsFor(unique_colors);
@@ -196,7 +260,7 @@ status_t Palette::FindNearestColors(const kirto::Picture* picture, const kirto::
 
 std::unique_ptr<SFHash> Palette::BuildHashtable(const kirto::Picture* picture) const {
     status_t status = B_OK;
-    const std::optional<kirto::ColorValues> counts = CountColors(picture, nullptr, &status);
+    const std::optional<ColorCounts> counts = CountColors(picture, nullptr, &status);
     TellOfFailure(status);
     if (!counts) return nullptr;
     std::unique_ptr<SFHash> table = TableOf(*counts);
@@ -206,7 +270,7 @@ std::unique_ptr<SFHash> Palette::BuildHashtable(const kirto::Picture* picture) c
 
 int32 Palette::CountUniqueColors(const kirto::Picture* picture, const kirto::Work* work) const {
     status_t status = B_OK;
-    const std::optional<kirto::ColorValues> counts = CountColors(picture, work, &status);
+    const std::optional<ColorCounts> counts = CountColors(picture, work, &status);
     TellOfFailure(status);
     return counts ? static_cast<int32>(counts->Items().size()) : 0;
 }

@@ -1,6 +1,8 @@
 #include "effects/insert_images.h"
 
 #include <algorithm>
+#include <utility>
+#include <vector>
 
 #include "animation/frame.h"
 #include "base/text.h"
@@ -54,37 +56,78 @@ class UnsupportedFiles {
     std::vector<std::string> names_;
 };
 
+// The files of the message from that one on, up to the first reference without one, as many as are
+// worth telling.
+std::vector<std::string> FilesFrom(int32 first, const BMessage& message) {
+    const size_t most = ImagesAhead::MostFollowing() + 1;
+    std::vector<std::string> files;
+    entry_ref ref;
+    for (int32 i = first; files.size() < most && message.FindRef("refs", &ref, i) == B_OK; ++i)
+        files.push_back(ref.path);
+    for (int32 i = 0; files.size() < most && message.FindRef("following", &ref, i) == B_OK; ++i)
+        files.push_back(ref.path);
+    return files;
+}
+
+// Inserts the files of a message.
+class ImageRun {
+  public:
+    ImageRun(AnimationDocument& document, const BMessage& message, ImagesAhead& images)
+        : document_(document),
+          message_(message),
+          images_(images),
+          position_(PositionIn(document, message)),
+          count_(message.CountItems("refs")) {}
+
+    // B_CANCELED when the work was stopped, B_NO_MEMORY when memory ran out; else B_OK.
+    status_t Run();
+
+  private:
+    status_t Insert(int32 i, const entry_ref& ref);
+
+    AnimationDocument& document_;
+    const BMessage& message_;
+    ImagesAhead& images_;
+    int32 position_;
+    const int32 count_;
+    UnsupportedFiles unsupported_;
+};
+
+status_t ImageRun::Run() {
+    for (int32 i = 0; i < count_; ++i) {
+        if (document_.StopRequested()) return B_CANCELED;
+        document_.PostStatus(Format("Status: loading frame %d of %d...", i + 1, count_));
+        document_.work.Report(i, count_);
+        entry_ref ref;
+        if (message_.FindRef("refs", &ref, i) != B_OK) break;
+        const status_t status = Insert(i, ref);
+        if (status == B_CANCELED) return B_CANCELED;
+        if (status == B_NO_MEMORY) {
+            unsupported_.TellTheRest();
+            WarnOutOfMemory();
+            return B_NO_MEMORY;
+        }
+        if (status != B_OK) unsupported_.Add(ref.Leaf());
+    }
+    unsupported_.TellTheRest();
+    return B_OK;
+}
+
+status_t ImageRun::Insert(int32 i, const entry_ref& ref) {
+    position_ = std::clamp(position_, 0, document_.FrameCount());
+    FrameImage image = images_.Read(FilesFrom(i, message_));
+    if (image.picture) Palette::TellOfFailure(image.palette_status);
+    if (image.status != B_OK) return image.status;
+    document_.InsertFrameAsCurrent(position_++, Frame(ref.Leaf(), std::move(image)));
+    return B_OK;
+}
+
 }  // namespace
 
-bool InsertImages(AnimationDocument& document, const BMessage& message, BTranslatorRoster& roster) {
-    int32 position = PositionIn(document, message);
-    const int32 count = message.CountItems("refs");
-    UnsupportedFiles unsupported;
-    for (int32 i = 0; i < count; ++i) {
-        if (document.StopRequested()) return false;
-        document.PostStatus(Format("Status: loading frame %d of %d...", i + 1, count));
-        document.work.Report(i, count);
-        entry_ref ref;
-        if (message.FindRef("refs", &ref, i) != B_OK) break;
-        position = std::clamp(position, 0, document.FrameCount());
-        Frame frame;
-        const status_t status = Frame::Read(ref.path, ref.Leaf(), roster, document.pixel_budget,
-                                            &frame, &document.work);
-        if (status == B_CANCELED) return false;
-        if (status == B_NO_MEMORY) {
-            unsupported.TellTheRest();
-            WarnOutOfMemory();
-            return true;
-        }
-        if (status != B_OK) {
-            unsupported.Add(ref.Leaf());
-            continue;
-        }
-        document.InsertFrameAsCurrent(position, std::move(frame));
-        ++position;
-    }
-    unsupported.TellTheRest();
-    return true;
+bool InsertImages(AnimationDocument& document, const BMessage& message, ImagesAhead& images) {
+    const status_t status = ImageRun(document, message, images).Run();
+    if (status != B_OK) images.Forget();
+    return status != B_CANCELED;
 }
 
 }  // namespace kirto

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "document/animation_document.h"
+#include "effects/images_ahead.h"
 #include "kit/message.h"
-#include "kit/translator_roster.h"
 
 namespace kirto {
 
@@ -11,8 +11,9 @@ namespace kirto {
 // the int32 "position" says (clamped to the list; -1 and no field mean after the current frame),
 // and makes the last one current. Files that no translator reads are reported and skipped; a ref
 // without a file name ends the insertion, and so does running out of memory, which is reported.
+// "following" may name the files that the next message will ask for, which are read meanwhile.
 // Runs on the application's thread; the frames inserted so far stay. False when the document's work
-// was stopped before the last file.
-bool InsertImages(AnimationDocument& document, const BMessage& message, BTranslatorRoster& roster);
+// was stopped before the last file. images: of the document's work and budget.
+bool InsertImages(AnimationDocument& document, const BMessage& message, ImagesAhead& images);
 
 }  // namespace kirto

@@ -27,20 +27,41 @@ bool Finish(Work& work, std::function<void()> task) {
     return !work.StopRequested() && FinishOrAbandon(work, std::move(task));
 }
 
+bool FinishQuietly(const std::function<bool()>& given_up, std::function<void()> task) {
+    return !given_up() && FinishOrAbandon(given_up, std::move(task));
+}
+
+// The task is given to finish, which returns false when it was not to be finished.
+template <typename FinishTask>
+status_t ReadBy(const FinishTask& finish, const std::string& path, BTranslatorRoster& roster,
+                std::shared_ptr<PixelBudget> budget, std::shared_ptr<BBitmap>* result) {
+    const auto reading = std::make_shared<Reading>();
+    if (!finish([=, &roster] { *reading = Read(path, roster, budget); })) return B_CANCELED;
+    *result = std::move(reading->picture);
+    return reading->status;
+}
+
 }  // namespace
 
 status_t ReadPicture(const std::string& path, BTranslatorRoster& roster,
                      std::shared_ptr<PixelBudget> budget, Work* work,
                      std::shared_ptr<BBitmap>* result) {
-    const auto reading = std::make_shared<Reading>();
-    const auto read = [=, &roster] { *reading = Read(path, roster, budget); };
-    if (!work) {
-        read();
-    } else if (!Finish(*work, read)) {
-        return B_CANCELED;
-    }
-    *result = std::move(reading->picture);
-    return reading->status;
+    const auto finish = [work](const std::function<void()>& task) {
+        if (work) return Finish(*work, task);
+        task();
+        return true;
+    };
+    return ReadBy(finish, path, roster, std::move(budget), result);
+}
+
+status_t ReadPictureQuietly(const std::string& path, BTranslatorRoster& roster,
+                            std::shared_ptr<PixelBudget> budget,
+                            const std::function<bool()>& given_up,
+                            std::shared_ptr<BBitmap>* result) {
+    const auto finish = [&](const std::function<void()>& task) {
+        return FinishQuietly(given_up, task);
+    };
+    return ReadBy(finish, path, roster, std::move(budget), result);
 }
 
 status_t WritePicture(std::shared_ptr<const BBitmap> picture, BTranslatorRoster& roster,
@@ -48,6 +69,16 @@ status_t WritePicture(std::shared_ptr<const BBitmap> picture, BTranslatorRoster&
                       std::shared_ptr<BFile> file, Work& work) {
     const auto status = std::make_shared<status_t>(B_OK);
     const bool finished = Finish(work, [=, &roster] {
+        *status = roster.Translate(*picture, translator, format, settings, *file);
+    });
+    return finished ? *status : B_CANCELED;
+}
+
+status_t WritePictureQuietly(std::shared_ptr<const BBitmap> picture, BTranslatorRoster& roster,
+                             translator_id translator, uint32 format, const BMessage& settings,
+                             std::shared_ptr<BFile> file, const std::function<bool()>& given_up) {
+    const auto status = std::make_shared<status_t>(B_OK);
+    const bool finished = FinishQuietly(given_up, [=, &roster] {
         *status = roster.Translate(*picture, translator, format, settings, *file);
     });
     return finished ? *status : B_CANCELED;

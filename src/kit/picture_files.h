@@ -3,6 +3,7 @@
 // nobody hears of it.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -18,10 +19,22 @@ status_t ReadPicture(const std::string& path, BTranslatorRoster& roster,
                      std::shared_ptr<PixelBudget> budget, Work* work,
                      std::shared_ptr<BBitmap>* result);
 
+// The same for a thread that is not to tell how far the work is. given_up: asked every now and
+// then, on this thread, whether to end early with B_CANCELED.
+status_t ReadPictureQuietly(const std::string& path, BTranslatorRoster& roster,
+                            std::shared_ptr<PixelBudget> budget,
+                            const std::function<bool()>& given_up,
+                            std::shared_ptr<BBitmap>* result);
+
 // Writes the picture into the file as the roster does. B_CANCELED when the work was stopped; the
 // file is not to be used then.
 status_t WritePicture(std::shared_ptr<const BBitmap> picture, BTranslatorRoster& roster,
                       translator_id translator, uint32 format, const BMessage& settings,
                       std::shared_ptr<BFile> file, Work& work);
+
+// The same for such a thread.
+status_t WritePictureQuietly(std::shared_ptr<const BBitmap> picture, BTranslatorRoster& roster,
+                             translator_id translator, uint32 format, const BMessage& settings,
+                             std::shared_ptr<BFile> file, const std::function<bool()>& given_up);
 
 }  // namespace kirto

@@ -25,8 +25,7 @@ struct translation_format {
 };
 
 // Turns image files into pictures and pictures into image files. One roster per process, owned by
-// the program's main function. Thread-safe, except that only one thread at a time may read a
-// file.
+// the program's main function. Thread-safe.
 class BTranslatorRoster {
   public:
     virtual ~BTranslatorRoster() = default;

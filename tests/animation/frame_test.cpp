@@ -36,7 +36,7 @@ class OnePictureRoster : public BTranslatorRoster {
     BMessage DefaultSettings(translator_id) const override { return {}; }
 };
 
-// A file for the roster, and what Frame::Read makes of it.
+// A file for the roster, and what is made of it.
 struct ImageFile {
     TemporaryFolder folder;
     std::string path = folder.File("picture.png");
@@ -49,9 +49,10 @@ struct ImageFile {
     }
     // The frame of the file; a blank one, and the status, where that fails.
     Frame Load(const std::string& name = "picture.png") {
-        Frame frame;
-        status = Frame::Read(path, name, roster, budget, &frame);
-        return frame;
+        FrameImage image = ReadFrameImage(path, roster, budget, nullptr);
+        Palette::TellOfFailure(image.palette_status);
+        status = image.status;
+        return status == B_OK ? Frame(name, std::move(image)) : Frame();
     }
 
     status_t status = B_ERROR;

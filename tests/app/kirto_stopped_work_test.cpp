@@ -6,6 +6,7 @@
 #include "base/abandonable.h"
 #include "support/fli_builder.h"
 #include "support/port_watcher.h"
+#include "support/threads.h"
 
 namespace kirto::test {
 
@@ -327,6 +328,10 @@ class KirtoWorkOfOthers : public KirtoStoppedWork {
     }
 
     StuckRoster stuck_;
+
+  private:
+    // The roster counts the pictures in their order.
+    const ScopedThreads threads_{1};
 };
 
 TEST_F(KirtoWorkOfOthers, AnImageThatIsStillBeingReadIsLeftOut) {

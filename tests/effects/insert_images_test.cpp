@@ -44,7 +44,10 @@ struct InsertFixture : DocumentFixture {
         message.AddInt32("position", position);
         return message;
     }
-    void Insert(const BMessage& message) { InsertImages(document, message, roster); }
+    void Insert(const BMessage& message) {
+        ImagesAhead images(roster, document.pixel_budget, document.work);
+        InsertImages(document, message, images);
+    }
     void AppendOld(int32 count) {
         for (int32 i = 0; i < count; ++i)
             AppendFrame(document, PictureOf(1, 1, {0}), "old");

@@ -60,7 +60,10 @@ status_t FakeRoster::Translate(const BBitmap& source, translator_id translator, 
                                const BMessage& settings, BFile& destination) {
     if (write_status != B_OK) return write_status;
     if (translator != kRaw || format != kRawFormat) return B_NO_TRANSLATOR;
-    written_settings = settings;
+    {
+        const std::lock_guard lock(mutex_);
+        written_settings = settings;
+    }
     const std::vector<uint8> bytes = RawPicture(source);
     return destination.Write(bytes.data(), bytes.size()) < 0 ? B_IO_ERROR : B_OK;
 }

@@ -1,6 +1,7 @@
 // A translator roster in plain C++, for tests of what reads and writes pictures.
 #pragma once
 
+#include <mutex>
 #include <string>
 #include <vector>
 
@@ -36,6 +37,9 @@ class FakeRoster : public BTranslatorRoster {
     std::vector<translation_format> InputFormats(translator_id translator) const override;
     std::vector<translation_format> OutputFormats(translator_id translator) const override;
     BMessage DefaultSettings(translator_id) const override { return BMessage(); }
+
+  private:
+    std::mutex mutex_;  // guards what writing changes
 };
 
 }  // namespace kirto::test

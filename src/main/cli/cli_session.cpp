@@ -21,7 +21,10 @@ CliSession::~CliSession() {
 }
 
 int CliSession::Run() {
-    for (const CliOperation& operation : arguments_.operations) {
+    following_ = arguments_.operations;
+    while (!following_.empty()) {
+        const CliOperation& operation = following_.front();
+        following_ = following_.subspan(1);
         if (!app_ && operation.option != "--set") StartApplication();
         desktop_.SetSubject("");
         Outcome outcome = (this->*HandlerFor(operation.option))(operation.value);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <span>
 #include <string>
 
 #include "app/kirto.h"
@@ -100,6 +101,7 @@ class CliSession {
     Outcome Refuse(const std::string& text);
 
     const CliArguments arguments_;
+    std::span<const CliOperation> following_;  // those after the operation in hand
     BTranslatorRoster& roster_;
     HeadlessDesktop desktop_;
     AlertPresenter* previous_presenter_;

@@ -8,6 +8,7 @@
 #include "base/number.h"
 #include "base/text.h"
 #include "document/command_codes.h"
+#include "effects/images_ahead.h"
 #include "kit/entry_ref.h"
 #include "main/cli/cli_session.h"
 
@@ -27,6 +28,15 @@ std::string SplitPosition(const std::string& value, int32* position) {
     *position = -1;
     if (at == std::string::npos || !ParseNumber(value.substr(at + 1), position)) return value;
     return value.substr(0, at);
+}
+
+// The same for an image, whose own name may end so.
+std::string SplitImage(const std::string& value, int32* position) {
+    const std::string path = SplitPosition(value, position);
+    std::error_code error;
+    if (path == value || !std::filesystem::exists(value, error)) return path;
+    *position = -1;
+    return value;
 }
 
 // Takes the text after the last comma off the value; empty without a comma.
@@ -88,17 +98,16 @@ CliSession::Outcome CliSession::InsertAnimation(const std::string& value) {
 
 CliSession::Outcome CliSession::InsertImages(const std::string& value) {
     int32 position = -1;
-    std::string path = SplitPosition(value, &position);
-    // A file whose own name ends so is meant as it stands.
-    std::error_code error;
-    if (path != value && std::filesystem::exists(value, error)) {
-        path = value;
-        position = -1;
-    }
+    const std::string path = SplitImage(value, &position);
     desktop_.SetSubject(path);
     BMessage message(kInsertFiles);
     message.AddRef("refs", AbsoluteRef(path));
     message.AddInt32("position", position);
+    size_t following = 0;
+    for (const CliOperation& next : following_) {
+        if (next.option != "--insert" || following++ == ImagesAhead::MostFollowing()) break;
+        message.AddRef("following", AbsoluteRef(SplitImage(next.value, &position)));
+    }
     return Post(message);
 }
 
