@@ -82,12 +82,12 @@ void GifLzwDecoder::ExtendLong(String string, uint32 code, uint8 suffix, uint32 
     }
 }
 
-// Copies the string, which is that of the code, to the target, and up to 7 bytes behind it. Returns
-// where the string ends.
-inline uint8* GifLzwDecoder::Expand(String string, uint32 code, uint8* target) const {
-    const uint32 length = LengthOf(string);
-    if (length >= kLong) return ExpandLong(code, target);
-    StoreChunk(target, string);
+// Copies the previous string to the target, and up to 7 bytes behind it. Returns where the string
+// ends.
+inline uint8* GifLzwDecoder::Expand(const Growth& growth, uint8* target) const {
+    const uint32 length = LengthOf(growth.previous);
+    if (length >= kLong) return ExpandLong(growth.previous_code, target);
+    StoreChunk(target, growth.previous);
     return target + length;
 }
 
@@ -151,111 +151,122 @@ void GifLzwDecoder::TakeFirstString(uint32 code) {
     collected_[collected_size_++] = static_cast<uint8>(code);
 }
 
+// Takes a code: its string becomes the previous one.
+template <bool kGrows>
+inline void GifLzwDecoder::TakeString(uint32 code, Growth& growth) {
+    String string = strings_[code];
+    if (kGrows && code < growth.next_free) {
+        strings_[growth.next_free] = Extended(growth.previous, growth.previous_code,
+                                              static_cast<uint8>(string), growth.next_free);
+    } else if (kGrows) {
+        // It can only be the string that this very code completes, which begins as the one before.
+        code = growth.next_free;
+        string = Extended(growth.previous, growth.previous_code,
+                          static_cast<uint8>(growth.previous), code);
+        strings_[code] = string;
+    }
+    growth.next_free += kGrows ? 1 : 0;
+    growth.previous = string;
+    growth.previous_code = code;
+}
+
 // Collects the strings of codes until it has taken so many, the room is full, or a code comes that
 // is no string's. Returns how many codes it took. There is a previous string. wanted: false keeps
 // the table and collects nothing.
 int32 GifLzwDecoder::TakeStrings(int32 most, bool wanted) {
     int32 left = most;
-    const auto has_room = [&] { return collected_size_ <= kRoom; };
-    while (left > 0 && has_room() && codes_.HasNext()) {
-        if (wanted) left -= TakeGroups(left);
-        if (left == 0 || !has_room() || !codes_.HasNext()) break;
-        uint32 code = codes_.Next();
+    while (left > 0 && collected_size_ <= kRoom && codes_.HasNext()) {
+        const int32 taken = wanted ? TakeGroups(left) : 0;
+        left -= taken;
+        if (taken > 0) continue;
+        const uint32 code = codes_.Next();
         if (code - clear_code_ < 2) break;  // that, or the end code
         codes_.Skip();
         --left;
-        // A code that is not in the table yet can only be the string that this very code completes,
-        // and that one begins as the string before.
-        code = std::min(code, next_free_);
-        const String begins = code == next_free_ ? previous_ : strings_[code];
-        strings_[next_free_] =
-            Extended(previous_, previous_code_, static_cast<uint8>(begins), next_free_);
-        previous_ = strings_[code];
-        previous_code_ = code;
-        if (next_free_ < kMaxCodes) ++next_free_;
+        Growth growth{next_free_, previous_, previous_code_};
+        if (next_free_ < kMaxCodes) {
+            TakeString<true>(code, growth);
+        } else {
+            TakeString<false>(code, growth);
+        }
+        if (wanted) {
+            uint8* const target = collected_.data() + collected_size_;
+            collected_size_ += static_cast<size_t>(Expand(growth, target) - target);
+        }
+        next_free_ = growth.next_free;
+        previous_ = growth.previous;
+        previous_code_ = growth.previous_code;
         if (next_free_ >> codes_.size != 0 && codes_.size < kMaxCodeSize) ++codes_.size;
-        if (!wanted) continue;
-        uint8* const target = collected_.data() + collected_size_;
-        collected_size_ += static_cast<size_t>(Expand(previous_, code, target) - target);
     }
     return most - left;
 }
 
-// The same, several codes at a time, for as long as these are of one size, their strings wanted,
-// and 8 bytes of data left. Returns how many codes it took.
+// The same, several codes at a time, for as long as these are strings' and of one size, and 8 bytes
+// of data are left. Returns how many codes it took.
 int32 GifLzwDecoder::TakeGroups(int32 most) {
     switch (codes_.size) {
         case 3:
-            return TakeGroupsOf<3>(most);
+            return TakeGroupsOf<3, true>(most);
         case 4:
-            return TakeGroupsOf<4>(most);
+            return TakeGroupsOf<4, true>(most);
         case 5:
-            return TakeGroupsOf<5>(most);
+            return TakeGroupsOf<5, true>(most);
         case 6:
-            return TakeGroupsOf<6>(most);
+            return TakeGroupsOf<6, true>(most);
         case 7:
-            return TakeGroupsOf<7>(most);
+            return TakeGroupsOf<7, true>(most);
         case 8:
-            return TakeGroupsOf<8>(most);
+            return TakeGroupsOf<8, true>(most);
         case 9:
-            return TakeGroupsOf<9>(most);
+            return TakeGroupsOf<9, true>(most);
         case 10:
-            return TakeGroupsOf<10>(most);
+            return TakeGroupsOf<10, true>(most);
         case 11:
-            return TakeGroupsOf<11>(most);
+            return TakeGroupsOf<11, true>(most);
         default:
-            return TakeGroupsOf<kMaxCodeSize>(most);
+            return next_free_ < kMaxCodes ? TakeGroupsOf<kMaxCodeSize, true>(most)
+                                          : TakeGroupsOf<kMaxCodeSize, false>(most);
     }
 }
 
-// A size that is known beforehand takes no work in the loop.
-template <uint32 kSize>
+// What is known beforehand takes no work in the loop: the size of codes, and whether the table
+// grows.
+template <uint32 kSize, bool kGrows>
 int32 GifLzwDecoder::TakeGroupsOf(int32 most) {
     constexpr uint32 kMask = (uint32{1} << kSize) - 1;
+    constexpr uint32 kLastFree = kGrows ? kMask + 1 - kGroup : kMaxCodes;
     const uint32 clear_code = clear_code_;
     const uint8* const data = codes_.data;
     const size_t last_bit = codes_.bit_count < 64 ? 0 : codes_.bit_count - 56;  // of a load's first
-    const bool full = next_free_ == kMaxCodes;
-    const uint32 growth = full ? 0 : 1;
-    const uint32 last_free = full ? kMaxCodes : kMask + 1 - kGroup;
-    uint32 next_free = next_free_;
-    String previous = previous_;
-    uint32 previous_code = previous_code_;
-    size_t bit = codes_.bit;
-    uint8* target = collected_.data() + collected_size_;
     const uint8* const last_target = collected_.data() + kRoom;
+    size_t bit = codes_.bit;
+    Growth growth{next_free_, previous_, previous_code_};
+    uint8* target = collected_.data() + collected_size_;
     int32 left = most;
-    bool only_strings = true;
-    while (only_strings && left >= kGroup && next_free <= last_free && target <= last_target &&
+    while (left >= kGroup && growth.next_free <= kLastFree && target <= last_target &&
            bit < last_bit) {
-        uint64 bits = ReadLittle64(data + bit / 8) >> bit % 8;
-        for (int32 i = 0; i < kGroup; ++i) {
-            uint32 code = static_cast<uint32>(bits) & kMask;
-            only_strings = code - clear_code >= 2;
-            if (!only_strings) break;
-            bits >>= kSize;
-            bit += kSize;
-            --left;
-            String string = strings_[code];
-            if (code < next_free) {
-                strings_[next_free] =
-                    Extended(previous, previous_code, static_cast<uint8>(string), next_free);
-            } else {
-                code = next_free;
-                string = Extended(previous, previous_code, static_cast<uint8>(previous), code);
-                strings_[code] = string;
-            }
-            previous = string;
-            previous_code = code;
-            next_free += growth;
-            target = Expand(string, code, target);
-        }
+        const uint64 bits = ReadLittle64(data + bit / 8) >> bit % 8;
+        const auto code = [bits](uint32 i) {
+            return static_cast<uint32>(bits >> i * kSize) & kMask;
+        };
+        const auto is_string = [&](uint32 i) { return code(i) - clear_code >= 2; };
+        if (!(is_string(0) && is_string(1) && is_string(2) && is_string(3))) break;
+        bit += kGroup * kSize;
+        left -= kGroup;
+        const auto take = [&](uint32 i) {
+            TakeString<kGrows>(code(i), growth);
+            target = Expand(growth, target);
+        };
+        take(0);
+        take(1);
+        take(2);
+        take(3);
     }
     codes_.bit = bit;
-    next_free_ = next_free;
-    if (next_free > kMask && kSize < kMaxCodeSize) ++codes_.size;
-    previous_ = previous;
-    previous_code_ = previous_code;
+    next_free_ = growth.next_free;
+    if (next_free_ > kMask && kSize < kMaxCodeSize) ++codes_.size;
+    previous_ = growth.previous;
+    previous_code_ = growth.previous_code;
     collected_size_ = static_cast<size_t>(target - collected_.data());
     return most - left;
 }

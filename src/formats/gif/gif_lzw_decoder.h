@@ -52,6 +52,14 @@ class GifLzwDecoder {
         uint16 length;
     };
 
+    // What taking a string changes, but for the table. In a loop it is not in this object: for all
+    // the compiler knows a byte that is stored may be part of any member.
+    struct Growth {
+        uint32 next_free;
+        String previous;
+        uint32 previous_code;
+    };
+
     // The data, and where in it the next code is, in bits; the first byte's lowest is bit 0.
     struct Codes {
         // bytes: at least 8, though only count of them are data.
@@ -73,13 +81,15 @@ class GifLzwDecoder {
     static uint32 LengthOf(String string) { return static_cast<uint32>(string >> 56); }
     String Extended(String string, uint32 code, uint8 suffix, uint32 extended_code);
     void ExtendLong(String string, uint32 code, uint8 suffix, uint32 extended_code);
-    uint8* Expand(String string, uint32 code, uint8* target) const;
+    uint8* Expand(const Growth& growth, uint8* target) const;
     uint8* ExpandLong(uint32 code, uint8* target) const;
     void ResetTable();
     int32 TakeStrings(int32 most, bool wanted);
     int32 TakeGroups(int32 most);
-    template <uint32 kSize>
+    template <uint32 kSize, bool kGrows>
     int32 TakeGroupsOf(int32 most);
+    template <bool kGrows>
+    void TakeString(uint32 code, Growth& growth);
     void TakeFirstString(uint32 code);
     void Deliver(GifIndexWriter& writer);
 
@@ -93,10 +103,10 @@ class GifLzwDecoder {
     String previous_ = 0;       // that the last code stood for; none at the start of a run
     uint32 previous_code_ = 0;  // that code, where the string is long
 
-    // The codes' strings, and where they are long, what they are; at the end one that is written
-    // but never kept, for a full table. A long string is written before it is read.
-    std::array<String, kMaxCodes + 1> strings_{};
-    std::array<LongString, kMaxCodes + 1> long_strings_;
+    // The codes' strings, and where they are long, what they are. A long string is written before
+    // it is read.
+    std::array<String, kMaxCodes> strings_{};
+    std::array<LongString, kMaxCodes> long_strings_;
 
     // The indices that the writer has not got yet. Copies may run 7 bytes over a string's end.
     std::array<uint8, kRoom + kGroup * kMaxCodes + 8> collected_;
