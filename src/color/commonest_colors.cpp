@@ -14,7 +14,7 @@ void CommonestColors::Keep(const Candidate& candidate) {
 
 void CommonestColors::Thin() {
     Candidate* const first = candidates_.get();
-    std::nth_element(first, first + size_ - 1, first + count_, ComesBefore);
+    std::nth_element(first, first + size_ - 1, first + count_, ComesBefore{});
     last_ = first[size_ - 1];
     count_ = size_;
     thinned_ = true;
@@ -22,7 +22,7 @@ void CommonestColors::Thin() {
 
 size_t CommonestColors::Keys(uint32* keys) {
     Candidate* const first = candidates_.get();
-    std::sort(first, first + count_, ComesBefore);
+    std::sort(first, first + count_, ComesBefore{});
     count_ = std::min(count_, size_);
     std::transform(first, first + count_, keys, [](const Candidate& each) { return each.key; });
     return count_;

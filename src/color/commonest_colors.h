@@ -18,7 +18,7 @@ class CommonestColors {
     // picture. Only while Ready().
     void Add(const ColorValues::Item& color) {
         const Candidate candidate{color.key, color.value, added_++};
-        if (!thinned_ || ComesBefore(candidate, last_)) Keep(candidate);
+        if (!thinned_ || ComesBefore{}(candidate, last_)) Keep(candidate);
     }
     // The keys of the commonest colors in falling order; equally frequent ones by rising green and
     // blue, those that differ only in red as they came. Returns how many there are, at most size.
@@ -31,13 +31,16 @@ class CommonestColors {
         uint32 place;  // among the colors added
     };
 
-    static bool ComesBefore(const Candidate& a, const Candidate& b) {
-        if (a.count != b.count) return a.count > b.count;
-        const uint32 green_and_blue_a = a.key & 0xFFFF;
-        const uint32 green_and_blue_b = b.key & 0xFFFF;
-        if (green_and_blue_a != green_and_blue_b) return green_and_blue_a < green_and_blue_b;
-        return a.place < b.place;
-    }
+    // An object, so that sorting has its code in line.
+    struct ComesBefore {
+        bool operator()(const Candidate& a, const Candidate& b) const {
+            if (a.count != b.count) return a.count > b.count;
+            const uint32 green_and_blue_a = a.key & 0xFFFF;
+            const uint32 green_and_blue_b = b.key & 0xFFFF;
+            if (green_and_blue_a != green_and_blue_b) return green_and_blue_a < green_and_blue_b;
+            return a.place < b.place;
+        }
+    };
     void Keep(const Candidate& candidate);
     // Drops the candidates that are not among the commonest.
     void Thin();

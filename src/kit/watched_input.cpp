@@ -18,4 +18,11 @@ bool WatchedInput::Read(void* buffer, size_t size) {
     return !work_.StopRequested();
 }
 
+size_t WatchedInput::ReadUpTo(void* buffer, size_t size) {
+    if (work_.StopRequested()) return 0;
+    const int64 count = file_.Read(buffer, size);
+    work_.Report(file_.Position(), file_.Size());
+    return count > 0 && !work_.StopRequested() ? static_cast<size_t>(count) : 0;
+}
+
 }  // namespace kirto

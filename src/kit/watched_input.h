@@ -13,6 +13,8 @@ class WatchedInput {
 
     // True when exactly size bytes were read.
     bool Read(void* buffer, size_t size);
+    // Reads size bytes, or fewer where the file ends. Returns how many; 0 when the work is stopped.
+    size_t ReadUpTo(void* buffer, size_t size);
     // Moves by the distance; false before the file's start. Past its end is allowed.
     bool Skip(int64 distance) { return file_.Seek(distance, SEEK_FROM_CURRENT) >= 0; }
     int64 Position() const { return file_.Position(); }

@@ -19,11 +19,11 @@ class IndexCounts {
 
   private:
     void AddBlock(std::span<const uint8> block);
-    bool HasNew() const;
     void Append(std::span<const uint8> block);
+    bool AreKnown(const uint8* group) const;
 
     std::array<uint32, 256> counts_{};
-    std::array<bool, 256> known_{};
+    std::array<uint8, 256> known_{};  // 1: it is in the order
     std::array<uint8, 256> order_{};
     size_t order_size_ = 0;
 };

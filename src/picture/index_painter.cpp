@@ -7,40 +7,25 @@ namespace kirto {
 
 namespace {
 
-// Indices that are looked at together.
-constexpr size_t kGroup = 8;
-
-uint64 GroupAt(const uint8* indices) {
-    uint64 group = 0;
-    std::memcpy(&group, indices, sizeof(group));
-    return group;
-}
-
-uint64 GroupOf(uint8 index) {
-    return index * uint64{0x0101010101010101};
-}
-
-// Whether any of the group's indices is that one.
-bool Contains(uint64 group, uint8 index) {
-    // Where the index is, the difference is a zero byte, and only from a zero byte does taking 1
-    // set a highest bit that was clear; or behind one, where the 1 is lent on.
-    const uint64 difference = group ^ GroupOf(index);
-    return ((difference - GroupOf(0x01)) & ~difference & GroupOf(0x80)) != 0;
-}
+// Indices that are painted together.
+using Group = uint8 __attribute__((vector_size(16)));
 
 // Copies indices but for those that are the skipped one.
 void CopyExcept(uint8 skipped, const uint8* indices, size_t count, uint8* target) {
-    for (size_t i = 0; i < count;) {
-        const bool whole = count - i >= kGroup;
-        const size_t step = whole ? kGroup : count - i;
-        if (whole && !Contains(GroupAt(indices + i), skipped)) {
-            std::memcpy(target + i, indices + i, kGroup);
-        } else if (!whole || GroupAt(indices + i) != GroupOf(skipped)) {
-            for (size_t k = i; k < i + step; ++k)
-                if (indices[k] != skipped) target[k] = indices[k];
-        }
-        i += step;
+    const Group all_skipped = Group{} + skipped;
+    for (; count >= sizeof(Group); count -= sizeof(Group)) {
+        Group above;
+        Group below;
+        std::memcpy(&above, indices, sizeof(above));
+        std::memcpy(&below, target, sizeof(below));
+        const Group shows = reinterpret_cast<Group>(above == all_skipped);
+        below = (below & shows) | (above & ~shows);
+        std::memcpy(target, &below, sizeof(below));
+        indices += sizeof(Group);
+        target += sizeof(Group);
     }
+    for (size_t i = 0; i < count; ++i)
+        if (indices[i] != skipped) target[i] = indices[i];
 }
 
 // What the image has of one row of the picture.
@@ -64,16 +49,27 @@ RowPart PartOf(const IndexImage& image, int32 y, int32 picture_width) {
 // Whether nothing of the rows below shows through.
 bool Covers(const IndexImage& image, int32 first, int32 end, int32 picture_width) {
     if (image.skipped >= 0) return false;
-    for (int32 y = first; y < end; ++y) {
-        const RowPart part = PartOf(image, y, picture_width);
-        if (part.left > 0 || part.count < static_cast<size_t>(picture_width)) return false;
-    }
-    return true;
+    if (image.left > 0 || image.width < picture_width) return false;
+    if (first < image.top || end > image.top + image.height) return false;
+    if (image.row_lengths.empty()) return true;
+    const auto lengths = image.row_lengths.subspan(static_cast<size_t>(first - image.top),
+                                                   static_cast<size_t>(end - first));
+    return std::ranges::all_of(lengths,
+                               [picture_width](int32 length) { return length >= picture_width; });
 }
 
 int32 IndexOf(uint32 pixel, const PixelTable& table) {
     const auto place = std::find(table.pixels.begin(), table.pixels.end(), pixel);
     return place == table.pixels.end() ? -1 : static_cast<int32>(place - table.pixels.begin());
+}
+
+// Writes indices into the table for a row that has none of 4-byte pixels.
+void CopyBelow(const PixelRow& below, size_t width, const PixelTable& table, uint8* target) {
+    if (below.indices) {
+        std::memcpy(target, below.indices, width);
+    } else {
+        std::memset(target, IndexOf(below.solid, table), width);
+    }
 }
 
 // Whether the image's indices mean in that table what they mean in its own.
@@ -138,8 +134,8 @@ bool IndexPainter::AddBand(const Picture& base, const IndexImage& image, const B
                            PictureBuilder& builder) {
     const SharedPixelTable table = TableFor(base, image, band);
     if (!table) return AddPixels(base, image, band, builder);
-    PaintIndices(base, image, band, *table);
-    std::shared_ptr<const Strip> strip = MakeStrip(base, band, table);
+    std::shared_ptr<const Strip> strip = MakeStrip(
+        base, band, table, PaintIndices(base, image, band, *table), CountsOf(base, image, band));
     return strip && builder.AddStrip(std::move(strip));
 }
 
@@ -175,23 +171,28 @@ SharedPixelTable IndexPainter::WithPixel(const IndexImage& image, uint32 pixel) 
     return extended_;
 }
 
-// Leaves in work_ the band's indices into the table.
-void IndexPainter::PaintIndices(const Picture& base, const IndexImage& image, const Band& band,
-                                const PixelTable& table) {
+// The band's indices, counted before, or null.
+const IndexCounts* IndexPainter::CountsOf(const Picture& base, const IndexImage& image,
+                                          const Band& band) {
+    const bool whole = image.top == 0 && image.height == base.Height();
+    if (image.counts.empty() || !whole || !Covers(image, band.first, band.end, base.Width()))
+        return nullptr;
+    return &image.counts[static_cast<size_t>(band.first / Strip::RowsFor(base.Width()))];
+}
+
+// The band's indices into the table, where the image has them or in work_.
+std::span<const uint8> IndexPainter::PaintIndices(const Picture& base, const IndexImage& image,
+                                                  const Band& band, const PixelTable& table) {
     const size_t width = static_cast<size_t>(base.Width());
-    work_.resize(width * static_cast<size_t>(band.end - band.first));
-    uint8* target = work_.data();
+    const size_t size = width * static_cast<size_t>(band.end - band.first);
     const bool covered = Covers(image, band.first, band.end, base.Width());
+    if (covered && image.width == base.Width())
+        return {PartOf(image, band.first, base.Width()).indices, size};
+    work_.resize(size);
+    uint8* target = work_.data();
     for (int32 y = band.first; y < band.end; ++y, target += width) {
         const RowPart part = PartOf(image, y, base.Width());
-        if (!covered) {
-            const PixelRow below = base.Row(y);
-            if (below.indices) {
-                std::memcpy(target, below.indices, width);
-            } else {
-                std::memset(target, IndexOf(below.solid, table), width);
-            }
-        }
+        if (!covered) CopyBelow(base.Row(y), width, table, target);
         if (image.skipped < 0) {
             std::memcpy(target + part.left, part.indices, part.count);
         } else {
@@ -199,24 +200,27 @@ void IndexPainter::PaintIndices(const Picture& base, const IndexImage& image, co
                        target + part.left);
         }
     }
+    return work_;
 }
 
-// What is in work_; the base's own strip where it is the same. Null when memory is short.
+// The band of these indices; the base's own strip where it is the same. Null when memory is short.
 std::shared_ptr<const Strip> IndexPainter::MakeStrip(const Picture& base, const Band& band,
-                                                     const SharedPixelTable& table) const {
+                                                     const SharedPixelTable& table,
+                                                     std::span<const uint8> indices,
+                                                     const IndexCounts* counts) const {
     const int32 rows = band.end - band.first;
-    if (std::memcmp(work_.data(), work_.data() + 1, work_.size() - 1) == 0)
-        return Strip::Solid(table->pixels[work_[0]], base.Width(), rows);
+    if (std::memcmp(indices.data(), indices.data() + 1, indices.size() - 1) == 0)
+        return Strip::Solid(table->pixels[indices[0]], base.Width(), rows);
     const size_t place = base.StripAt(band.first);
     const std::shared_ptr<const Strip>& below = base.AllStrips()[place];
     if (base.FirstRows()[place] == band.first && below->Rows() == rows && below->Table() == table &&
-        std::memcmp(below->Indices(), work_.data(), work_.size()) == 0) {
+        std::memcmp(below->Indices(), indices.data(), indices.size()) == 0) {
         return below;
     }
-    const std::shared_ptr<PixelStorage> storage = PixelStorage::Make(work_.size(), budget_);
+    const std::shared_ptr<PixelStorage> storage = PixelStorage::Make(indices.size(), budget_);
     if (!storage) return nullptr;
-    std::memcpy(storage->Bytes(), work_.data(), work_.size());
-    return Strip::Indexed(storage, table, base.Width(), rows);
+    std::memcpy(storage->Bytes(), indices.data(), indices.size());
+    return Strip::Indexed(storage, table, base.Width(), rows, counts);
 }
 
 // The band where there is no such table: pixel by pixel.

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "base/types.h"
+#include "picture/index_counts.h"
 #include "picture/picture.h"
 #include "picture/picture_builder.h"
 
@@ -23,6 +24,9 @@ struct IndexImage {
     int32 skipped = -1;  // pixels of this index stay as they are; -1: none
     // So many of each row's pixels are there, from the left; empty: all of them.
     std::span<const int32> row_lengths;
+    // The indices of each strip's rows, counted, where the image is the whole picture; may be
+    // empty.
+    std::span<const IndexCounts> counts;
 };
 
 // Makes pictures by painting images of indices over others. What an image does not touch is shared
@@ -49,10 +53,14 @@ class IndexPainter {
                  PictureBuilder& builder);
     SharedPixelTable TableFor(const Picture& base, const IndexImage& image, const Band& band);
     SharedPixelTable WithPixel(const IndexImage& image, uint32 pixel);
-    void PaintIndices(const Picture& base, const IndexImage& image, const Band& band,
-                      const PixelTable& table);
+    static const IndexCounts* CountsOf(const Picture& base, const IndexImage& image,
+                                       const Band& band);
+    std::span<const uint8> PaintIndices(const Picture& base, const IndexImage& image,
+                                        const Band& band, const PixelTable& table);
     std::shared_ptr<const Strip> MakeStrip(const Picture& base, const Band& band,
-                                           const SharedPixelTable& table) const;
+                                           const SharedPixelTable& table,
+                                           std::span<const uint8> indices,
+                                           const IndexCounts* counts) const;
     bool AddPixels(const Picture& base, const IndexImage& image, const Band& band,
                    PictureBuilder& builder);
 

@@ -4,8 +4,6 @@
 #include <cstring>
 #include <utility>
 
-#include "picture/index_counts.h"
-
 namespace kirto {
 
 namespace {
@@ -39,11 +37,14 @@ std::shared_ptr<const Strip> Strip::Solid(uint32 pixel, int32 width, int32 rows)
 }
 
 std::shared_ptr<const Strip> Strip::Indexed(std::shared_ptr<const PixelStorage> storage,
-                                            SharedPixelTable table, int32 width, int32 rows) {
+                                            SharedPixelTable table, int32 width, int32 rows,
+                                            const IndexCounts* counts) {
     const std::shared_ptr<Strip> strip(new Strip(width, rows));
     strip->indices_ = storage->Bytes();
     strip->owner_ = std::move(storage);
     strip->table_ = std::move(table);
+    if (counts)
+        std::call_once(strip->counted_, [&] { strip->counts_ = strip->PixelCounts(*counts); });
     return strip;
 }
 
@@ -77,16 +78,22 @@ PixelRow Strip::Row(int32 y) const {
 }
 
 std::span<const PixelCount> Strip::Counts() const {
-    std::call_once(counted_, [this] {
-        const uint32 count = static_cast<uint32>(width_) * static_cast<uint32>(rows_);
-        counts_ = indices_ ? CountIndices() : std::vector<PixelCount>{{solid_, count}};
-    });
+    std::call_once(counted_, [this] { CountPixels(); });
     return counts_;
 }
 
-std::vector<PixelCount> Strip::CountIndices() const {
+void Strip::CountPixels() const {
+    const size_t size = static_cast<size_t>(width_) * static_cast<size_t>(rows_);
+    if (!indices_) {
+        counts_ = {{solid_, static_cast<uint32>(size)}};
+        return;
+    }
     IndexCounts counts;
-    counts.Add({indices_, static_cast<size_t>(width_) * static_cast<size_t>(rows_)});
+    counts.Add({indices_, size});
+    counts_ = PixelCounts(counts);
+}
+
+std::vector<PixelCount> Strip::PixelCounts(const IndexCounts& counts) const {
     std::vector<PixelCount> result;
     result.reserve(counts.InOrder().size());
     for (const uint8 index : counts.InOrder())

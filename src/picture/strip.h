@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "base/types.h"
+#include "picture/index_counts.h"
 #include "picture/pixel_storage.h"
 
 namespace kirto {
@@ -50,9 +51,11 @@ class Strip {
 
     // All pixels are the same.
     static std::shared_ptr<const Strip> Solid(uint32 pixel, int32 width, int32 rows);
-    // An index a pixel, from the storage's first byte on.
+    // An index a pixel, from the storage's first byte on. counts: of these indices, where somebody
+    // has counted them, else null.
     static std::shared_ptr<const Strip> Indexed(std::shared_ptr<const PixelStorage> storage,
-                                                SharedPixelTable table, int32 width, int32 rows);
+                                                SharedPixelTable table, int32 width, int32 rows,
+                                                const IndexCounts* counts = nullptr);
     // 4 bytes a pixel, kept alive by the owner.
     static std::shared_ptr<const Strip> Direct(std::shared_ptr<const void> owner,
                                                const uint8* pixels, int32 width, int32 rows);
@@ -73,7 +76,8 @@ class Strip {
 
   private:
     Strip(int32 width, int32 rows) : width_(width), rows_(rows) {}
-    std::vector<PixelCount> CountIndices() const;
+    void CountPixels() const;
+    std::vector<PixelCount> PixelCounts(const IndexCounts& counts) const;
 
     const int32 width_;
     const int32 rows_;

@@ -116,6 +116,33 @@ TEST(IndexPainter, PaintsOverOneColorWithTheSkippedIndexInItsPlace) {
     EXPECT_TRUE(picture->Row(20).pixels == nullptr);
 }
 
+TEST(IndexPainter, CountsOfAWholeImageBecomeThoseOfItsStrips) {
+    std::mt19937 random(16);
+    const int32 step = Strip::RowsFor(50);
+    const auto base = Picture::Solid(0, 50, step * 2 + 7, B_RGB32, nullptr);
+    OwnedImage owned;
+    while (!owned.image.row_lengths.empty() || owned.image.width != 50 || owned.image.skipped >= 0)
+        owned = RandomImage(50, step * 2 + 7, RandomTable(random), random);
+    std::vector<IndexCounts> counts(3);
+    for (size_t i = 0; i < owned.indices.size(); ++i)
+        counts[i / static_cast<size_t>(50 * step)].Add({&owned.indices[i], 1});
+    IndexPainter painter(nullptr);
+    const auto counted_later = painter.Paint(base, owned.image);
+    owned.image.counts = counts;
+    const auto counted = painter.Paint(base, owned.image);
+
+    ASSERT_EQ(counted->AllStrips().size(), 3U);
+    for (size_t i = 0; i < 3; ++i) {
+        const auto expected = counted_later->AllStrips()[i]->Counts();
+        const auto actual = counted->AllStrips()[i]->Counts();
+        ASSERT_EQ(actual.size(), expected.size());
+        for (size_t k = 0; k < actual.size(); ++k) {
+            EXPECT_EQ(actual[k].pixel, expected[k].pixel);
+            EXPECT_EQ(actual[k].count, expected[k].count);
+        }
+    }
+}
+
 TEST(IndexPainter, SharesWhatTheImageDoesNotTouch) {
     std::mt19937 random(13);
     const auto base = Built(RandomPicture(100, 256, 30, random));

@@ -131,6 +131,7 @@ bool GifComposer::ReadGifImageData(const GifImage& image, const Palette& current
     indices->width = image.width;
     indices->height = image.height;
     indices->row_lengths = decoded.row_lengths;
+    indices->counts = decoded.counts;
     SetColors(current, indices);
     return true;
 }

@@ -2,10 +2,12 @@
 
 #include <algorithm>
 #include <memory>
+#include <span>
 
 #include "base/debug_line.h"
 #include "formats/gif/gif_index_writer.h"
 #include "formats/gif/gif_lzw_decoder.h"
+#include "picture/strip.h"
 
 namespace kirto {
 
@@ -26,6 +28,21 @@ void GifIndices::Decode(const GifImage& image, int32 min_code_size, Work& work, 
     complete = decoder->Decode(writer, work, file_size);
     row_lengths = writer.RowLengths();
     lines = printed.Take();
+    counts.clear();
+}
+
+void GifIndices::Count(const GifImage& image) {
+    if (!complete || !row_lengths.empty()) return;
+    const int32 step = Strip::RowsFor(image.width);
+    counts.resize(static_cast<size_t>((image.height + step - 1) / step));
+    const size_t size = static_cast<size_t>(image.width) * static_cast<size_t>(image.height);
+    std::span<const uint8> left{indices.get(), size};
+    const size_t strip_size = static_cast<size_t>(image.width) * static_cast<size_t>(step);
+    for (IndexCounts& each : counts) {
+        const size_t part = std::min(strip_size, left.size());
+        each.Add(left.first(part));
+        left = left.subspan(part);
+    }
 }
 
 std::optional<int32> GifCodeSizeOf(uint8 size, int32 palette_bits) {

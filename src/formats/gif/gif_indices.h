@@ -8,6 +8,7 @@
 #include "base/types.h"
 #include "base/work.h"
 #include "formats/gif/gif_parser.h"
+#include "picture/index_counts.h"
 
 namespace kirto {
 
@@ -18,12 +19,16 @@ struct GifIndices {
     std::vector<int32> row_lengths;  // so many of each row are there; empty: all of them
     bool complete = false;           // false: the data is damaged, or the work was stopped
     std::string lines;               // that decoding would have printed
+    // Of the rows of each strip that a picture of the image has, where they have been counted.
+    std::vector<IndexCounts> counts;
 
     // Makes room for the image. False when memory is short.
     bool Reserve(const GifImage& image);
     // Decodes the image into the room that was made. The work is told how far this is in a file of
     // that size; nothing with 0, as it must be on other threads than the one that works.
     void Decode(const GifImage& image, int32 min_code_size, Work& work, int64 file_size);
+    // Counts the indices if the image was decoded, and has all of them.
+    void Count(const GifImage& image);
 };
 
 // The code size that image data with that first byte is read with, for a palette of so many bits;

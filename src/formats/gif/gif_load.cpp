@@ -3,15 +3,9 @@
 #include "base/debug_line.h"
 #include "base/run_in_order.h"
 #include "base/text.h"
+#include "formats/gif/gif_ahead.h"
 
 using End = kirto::GifPiece::End;
-
-namespace {
-
-// Larger images are decoded when it is their turn, one at a time.
-constexpr uint64 kMostAhead = uint64{16} << 20;
-
-}  // namespace
 
 GifLoad::GifLoad(BFile* file, int32 start, AnimationDocument& document)
     : document_(document),
@@ -47,35 +41,36 @@ bool GifLoad::ReadScreen() {
 
 void GifLoad::ReadFrames() {
     kirto::GifReader reader(parser_);
-    kirto::OrderedSteps<kirto::GifPiece, kirto::GifIndices> steps;
-    steps.next = [&reader] { return reader.Next(); };
-    steps.begin = [this](const kirto::GifPiece& piece) { return BeginPiece(piece); };
-    steps.work = [this](const kirto::GifPiece& piece, int32) { return DecodeAhead(piece); };
+    // The n-th allocation is a particular one only as long as one thread allocates.
+    const bool together = kirto::ThreadCount() > 1 && !kirto::LentAllocationFault();
+    kirto::GifAhead ahead(reader, screen_,
+                          {document_.prefs.animation_gifloadfullframe,
+                           composer_.GlobalPalette().use_transparent, together},
+                          document_.work);
+    kirto::OrderedSteps<kirto::GifAhead::Batch, kirto::GifAhead::Decoded> steps;
+    steps.next = [&ahead] { return ahead.Next(); };
+    steps.begin = [this](const kirto::GifAhead::Batch& batch) {
+        BeginPiece(batch.front());
+        return true;
+    };
+    steps.work = [&ahead](const kirto::GifAhead::Batch& batch, int32) {
+        return ahead.Decode(batch);
+    };
     steps.waiting = [this] { document_.work.ReportAgain(); };
-    steps.take = [this](const kirto::GifPiece& piece, std::optional<kirto::GifIndices> ahead) {
-        return TakePiece(piece, ahead && ahead->room > 0 ? &*ahead : nullptr);
+    steps.take = [this, &ahead](const kirto::GifAhead::Batch& batch,
+                                std::optional<kirto::GifAhead::Decoded> decoded) {
+        for (size_t i = 0; i < batch.size(); ++i) {
+            if (i > 0) BeginPiece(batch[i]);
+            const bool has_room = decoded && (*decoded)[i].room > 0;
+            if (!TakePiece(batch[i], has_room ? &(*decoded)[i] : nullptr)) return false;
+            if (decoded) ahead.TakeBack(std::move((*decoded)[i]));
+        }
+        return true;
     };
     kirto::RunInOrder(steps);
 }
 
-// On any thread. Without room where the image is not to be decoded yet, or not at all.
-std::optional<kirto::GifIndices> GifLoad::DecodeAhead(const kirto::GifPiece& piece) const {
-    kirto::GifIndices indices;
-    const kirto::GifImage& image = piece.image;
-    const uint64 size = static_cast<uint64>(image.width) * static_cast<uint64>(image.height);
-    if (piece.end != End::kImage || size == 0 || size > kMostAhead) return indices;
-    if (image.width > screen_.width || image.height > screen_.height) return indices;
-    if (image.data.too_large || !image.table.complete) return indices;
-    const int32 global_bits = screen_.table.bits > 0 ? screen_.table.bits : 8;
-    const auto code_size = kirto::GifCodeSizeOf(
-        image.min_code_size, image.table.bits > 0 ? image.table.bits : global_bits);
-    if (!code_size) return indices;
-    if (!indices.Reserve(image)) return std::nullopt;
-    indices.Decode(image, *code_size, document_.work, 0);
-    return indices;
-}
-
-bool GifLoad::BeginPiece(const kirto::GifPiece& piece) {
+void GifLoad::BeginPiece(const kirto::GifPiece& piece) {
     for (const kirto::GifPiece::Block& block : piece.blocks) {
         if (!block.lines.empty()) kirto::DebugLine("%s", block.lines.c_str());
         if (block.control) TakeControl(*block.control);
@@ -83,7 +78,6 @@ bool GifLoad::BeginPiece(const kirto::GifPiece& piece) {
     }
     if (piece.end == End::kImage || piece.end == End::kBrokenImage)
         document_.PostStatus(kirto::Format("Status: loading frame %d...", next_position_ + 1));
-    return true;
 }
 
 bool GifLoad::TakePiece(const kirto::GifPiece& piece, kirto::GifIndices* ahead) {

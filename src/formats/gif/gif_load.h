@@ -1,7 +1,5 @@
 #pragma once
 
-#include <optional>
-
 #include "animation/frame.h"
 #include "base/types.h"
 #include "document/animation_document.h"
@@ -31,8 +29,7 @@ class GifLoad {
     void Init();
     bool ReadScreen();
     void ReadFrames();
-    std::optional<kirto::GifIndices> DecodeAhead(const kirto::GifPiece& piece) const;
-    bool BeginPiece(const kirto::GifPiece& piece);
+    void BeginPiece(const kirto::GifPiece& piece);
     // False when the load ends here.
     bool TakePiece(const kirto::GifPiece& piece, kirto::GifIndices* ahead);
     bool TakeImage(const kirto::GifImage& image, kirto::GifIndices* ahead);

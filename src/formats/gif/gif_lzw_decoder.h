@@ -30,18 +30,34 @@ class GifLzwDecoder {
   private:
     static constexpr uint32 kMaxCodes = 4096;
     static constexpr uint32 kMaxCodeSize = 12;
-    static constexpr uint32 kNoString = ~uint32{0};
     // Codes between two looks at the work: well below a millisecond.
     static constexpr int32 kCodesAtOnce = 256;
-    // Indices that are collected before the writer gets them; one string may run over.
+    // Codes of any size that 8 bytes hold from any bit of the first byte on.
+    static constexpr int32 kGroup = 4;
+    // Indices that are collected before the writer gets them; the strings of a group may run over.
     static constexpr size_t kRoom = size_t{16} * 1024;
 
-    // The string of a code, kept so that it is copied from its end to its start 8 bytes at a time:
-    // the string of another code, whose length is a multiple of 8, and 1 to 8 bytes behind it.
-    struct String {
-        uint64 tail;    // these bytes as they lie in memory; what is left is zero
+    // A string as a number: its first 7 bytes, the first one lowest, and in the highest byte its
+    // length, which is kLong for all that are longer. So one load tells all of most strings. 0 is
+    // no string.
+    using String = uint64;
+    static constexpr uint32 kLong = 8;
+
+    // A string of more than 7 bytes, kept so that it is copied from its end to its start 8 bytes at
+    // a time: the string of another code, whose length is a multiple of 8, and 1 to 8 bytes behind
+    // it.
+    struct LongString {
+        uint64 tail;    // these bytes, the first one lowest; what is left is zero
         uint16 before;  // the other code; only of strings longer than 8
         uint16 length;
+    };
+
+    // What taking a string changes, but for the table. In a loop it is not in this object: for all
+    // the compiler knows a byte that is stored may be part of any member.
+    struct Growth {
+        uint32 next_free;
+        String previous;
+        uint32 previous_code;
     };
 
     // The data, and where in it the next code is, in bits; the first byte's lowest is bit 0.
@@ -61,11 +77,19 @@ class GifLzwDecoder {
     };
 
     const uint8* AtLeast8Bytes();
-    void SetByte(uint32 string, uint32 byte);
-    static String Extended(const String& start, uint32 start_code, uint8 suffix);
-    uint8* Expand(const String& string, uint8* target) const;
+    static String StringOf(uint32 byte);
+    static uint32 LengthOf(String string) { return static_cast<uint32>(string >> 56); }
+    String Extended(String string, uint32 code, uint8 suffix, uint32 extended_code);
+    void ExtendLong(String string, uint32 code, uint8 suffix, uint32 extended_code);
+    uint8* Expand(const Growth& growth, uint8* target) const;
+    uint8* ExpandLong(uint32 code, uint8* target) const;
     void ResetTable();
     int32 TakeStrings(int32 most, bool wanted);
+    int32 TakeGroups(int32 most);
+    template <uint32 kSize, bool kGrows>
+    int32 TakeGroupsOf(int32 most);
+    template <bool kGrows>
+    void TakeString(uint32 code, Growth& growth);
     void TakeFirstString(uint32 code);
     void Deliver(GifIndexWriter& writer);
 
@@ -76,17 +100,16 @@ class GifLzwDecoder {
     const uint32 end_code_;
     Codes codes_;
     uint32 next_free_ = 0;
-    uint32 previous_ = kNoString;  // the string that the last code stood for
+    String previous_ = 0;       // that the last code stood for; none at the start of a run
+    uint32 previous_code_ = 0;  // that code, where the string is long
 
-    // The codes' strings; one that is written but never kept, for a full table; and a one-byte
-    // string for each byte value: the first code of a run may not be a literal, and then its low
-    // byte counts. A string is written before it is read.
-    static constexpr uint32 kByteStrings = kMaxCodes + 1;
-    std::array<String, kByteStrings + 256> strings_;
-    std::array<uint8, kByteStrings + 256> first_;  // the strings' first bytes: asked for most
+    // The codes' strings, and where they are long, what they are. A long string is written before
+    // it is read.
+    std::array<String, kMaxCodes> strings_{};
+    std::array<LongString, kMaxCodes> long_strings_;
 
     // The indices that the writer has not got yet. Copies may run 7 bytes over a string's end.
-    std::array<uint8, kRoom + kMaxCodes + 8> collected_;
+    std::array<uint8, kRoom + kGroup * kMaxCodes + 8> collected_;
     size_t collected_size_ = 0;
 };
 

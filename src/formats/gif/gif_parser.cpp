@@ -143,7 +143,8 @@ bool GifParser::ReadImage(GifImage* image) {
     ReadColorTable(header[8], &image->table);
     image->min_code_size = 0;
     input_.Read(&image->min_code_size, 1);
-    image->data.Read(input_, max_data_);
+    data_.Read(input_, max_data_);
+    image->data = data_;
     return true;
 }
 

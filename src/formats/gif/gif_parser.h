@@ -76,6 +76,7 @@ class GifParser {
 
     WatchedInput& input_;
     const uint64 max_data_;
+    GifImageData data_;  // of the last image, kept for its room
 };
 
 }  // namespace kirto

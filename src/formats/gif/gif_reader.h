@@ -27,7 +27,8 @@ struct GifPiece {
 
     std::vector<Block> blocks;
     End end = End::kMore;
-    GifImage image;  // where there is one
+    GifImage image;       // where there is one
+    bool opaque = false;  // no index can be transparent in it
 };
 
 // Reads a GIF file ahead of the thread that shows what is in it: nothing is printed or said.

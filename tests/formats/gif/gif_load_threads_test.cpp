@@ -62,7 +62,7 @@ void ExpectTheSameOfAnyNumberOfThreads(const Bytes& bytes, bool full_frame = tru
 
 Bytes RandomFile(uint32 seed) {
     DocumentStyle style;
-    style.max_frames = 20;
+    style.max_frames = 100;  // more than are decoded in one go
     style.transparency = true;
     return MadeUpAnimation(style, seed).Save();
 }
@@ -110,6 +110,28 @@ TEST(GifLoadThreads, TheirNumberMakesNoDifferenceToAFileOfManyBlocks) {
         gif.Add(added);
     }
     ExpectTheSameOfAnyNumberOfThreads(gif.Trailer());
+}
+
+TEST(GifLoadThreads, TheirNumberMakesNoDifferenceToImagesThatCoverTheScreen) {
+    // Their indices are counted where they are decoded, unless some may be transparent.
+    std::mt19937 random(9);
+    for (const int32 transparent_from : {0, 5, 99}) {
+        GifBuilder gif(30, 150, {0x000000, 0xFFFFFF, 0x123456, 0x654321});
+        for (int32 image = 0; image < 70; ++image) {
+            gif.Control(0, 1, image >= transparent_from ? 2 : -1);
+            GifBuilder::Image added;
+            added.width = 30;
+            added.height = 150;
+            added.indices.resize(30 * 150);
+            for (auto& index : added.indices)
+                index = static_cast<uint8>(random() % 4);
+            added.interlaced = image % 3 == 0;
+            gif.Add(added);
+        }
+        const Bytes bytes = gif.Trailer();
+        for (const bool full_frame : {true, false})
+            ASSERT_NO_FATAL_FAILURE(ExpectTheSameOfAnyNumberOfThreads(bytes, full_frame));
+    }
 }
 
 TEST(GifLoadThreads, AStopKeepsTheFramesBeforeIt) {

@@ -293,6 +293,12 @@ TEST_P(GifLzwDecoderAndReference, AgreeOnStreamsThatFillTheTable) {
     Compare(GifBuilder::SubBlocks(GifBuilder::PackCodes(GetParam(), codes)));
 }
 
+TEST_P(GifLzwDecoderAndReference, AgreeOnManyCodes) {
+    std::vector<int32> codes = RandomCodes(100000, 3000);
+    codes.push_back((1 << GetParam()) + 1);
+    Compare(GifBuilder::SubBlocks(GifBuilder::PackCodes(GetParam(), codes)));
+}
+
 TEST_P(GifLzwDecoderAndReference, AgreeOnLongStrings) {
     // Mostly the next free code, which makes the strings longer and longer; now and then another.
     for (const uint32 length : {10U, 100U, 900U}) {
