@@ -39,7 +39,7 @@ class Diffusion {
 
   private:
     static ErrorDiffusion::Components Four(const Components& color) {
-        return {color[0], color[1], color[2], 0};
+        return ErrorDiffusion::Components{color[0], color[1], color[2], 0};
     }
 
     ErrorDiffusion errors_;
@@ -156,10 +156,8 @@ TEST(ErrorDiffusion, TheHeightOfThePictureMakesNoDifference) {
 
 TEST(ErrorDiffusion, WithoutMemoryItIsNotReady) {
     EXPECT_TRUE(ErrorDiffusion(10).Ready());
-    for (int32 call = 1; call <= 3; ++call) {
-        const AllocationFault fault(call);
-        EXPECT_FALSE(ErrorDiffusion(10).Ready()) << "allocation " << call;
-    }
+    const AllocationFault fault(1);
+    EXPECT_FALSE(ErrorDiffusion(10).Ready());
 }
 
 TEST(ErrorDiffusion, ANegativeWidthCountsAsNone) {
