@@ -2,7 +2,6 @@
 
 #ifdef __x86_64__
 
-#include <bit>
 #include <immintrin.h>
 
 #define KIRTO_AVX2 __attribute__((target("avx2")))
@@ -19,12 +18,18 @@ KIRTO_AVX2 inline __m256i Difference(const uint8* row, __m256i color) {
     return _mm256_or_si256(_mm256_subs_epu8(entries, color), _mm256_subs_epu8(color, entries));
 }
 
-// min(all 32 bytes), in the lowest byte: the lower bytes of pairs against the upper ones, then the
-// instruction for the least of 8 pairs.
-KIRTO_AVX2 inline __m128i LeastOf(__m256i bytes) {
+// min(all 16 numbers): the upper half against the lower one, then the instruction for the least
+// of 8.
+KIRTO_AVX2 inline uint32 LeastOf(__m256i numbers) {
     const __m128i half =
-        _mm_min_epu8(_mm256_castsi256_si128(bytes), _mm256_extracti128_si256(bytes, 1));
-    return _mm_minpos_epu16(_mm_min_epu8(half, _mm_srli_epi16(half, 8)));
+        _mm_min_epu16(_mm256_castsi256_si128(numbers), _mm256_extracti128_si256(numbers, 1));
+    return static_cast<uint32>(_mm_cvtsi128_si32(_mm_minpos_epu16(half))) & 0xFFFF;
+}
+
+// 0 to 31, each in its lane.
+KIRTO_AVX2 inline __m256i LaneNumbers() {
+    return _mm256_setr_epi8(0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19,
+                            20, 21, 22, 23, 24, 25, 26, 27, 28, 29, 30, 31);
 }
 
 }  // namespace
@@ -34,32 +39,23 @@ KIRTO_AVX2 uint8 NearestColorAvx2(const ColorColumns& columns, uint8 red, uint8 
     const __m256i greens = _mm256_set1_epi8(static_cast<char>(green));
     const __m256i blues = _mm256_set1_epi8(static_cast<char>(blue));
     const size_t count = columns.blocks * ColorColumns::kBlock;
-    __m256i distances[256 / kLanes];
-    // least[lane] = min(least[lane], distance), where distances past 255 count as 255
-    __m256i least = _mm256_set1_epi8(-1);
+    // least = min(least, distance << 8 | index), where distances past 255 count as 255: among equal
+    // ones the lowest index is the least.
+    __m256i indices = LaneNumbers();
+    __m256i least_low = _mm256_set1_epi8(-1);
+    __m256i least_high = least_low;
     for (size_t i = 0; i < count; i += kLanes) {
         const __m256i distance =
             _mm256_adds_epu8(_mm256_adds_epu8(Difference(&columns.red[i], reds),
                                               Difference(&columns.green[i], greens)),
                              Difference(&columns.blue[i], blues));
-        distances[i / kLanes] = distance;
-        least = _mm256_min_epu8(least, distance);
+        least_low = _mm256_min_epu16(least_low, _mm256_unpacklo_epi8(indices, distance));
+        least_high = _mm256_min_epu16(least_high, _mm256_unpackhi_epi8(indices, distance));
+        indices = _mm256_add_epi8(indices, _mm256_set1_epi8(kLanes));
     }
-    const __m128i minimum = LeastOf(least);
-    if (_mm_cvtsi128_si32(minimum) == 255) return NearestColorPlain(columns, red, green, blue);
-
-    // The first entry at that distance. Going backwards over all of them has no branch to guess.
-    const __m256i nearest = _mm256_broadcastb_epi8(minimum);
-    uint32 found = 0;
-    size_t first = 0;
-    for (size_t i = count; i > 0;) {
-        i -= kLanes;
-        const __m256i equal = _mm256_cmpeq_epi8(distances[i / kLanes], nearest);
-        const uint32 entries = static_cast<uint32>(_mm256_movemask_epi8(equal));
-        first = entries != 0 ? i : first;
-        found = entries != 0 ? entries : found;
-    }
-    return static_cast<uint8>(first + static_cast<size_t>(std::countr_zero(found)));
+    const uint32 least = LeastOf(_mm256_min_epu16(least_low, least_high));
+    if (least >> 8 == 255) return NearestColorPlain(columns, red, green, blue);
+    return static_cast<uint8>(least);
 }
 
 }  // namespace kirto

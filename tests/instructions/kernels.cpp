@@ -104,10 +104,9 @@ void CountColors(const Frame& photo) {
 
     PixelMapper mapper(0, true, kWidth);
     mapper.StartPicture(palette, false);
-    std::vector<uint8> indices;
     Count("dithering", [&] {
         for (int32 y = 0; y < kHeight; ++y)
-            mapper.MapRow(PictureOf(photo), y, kWidth, &indices);
+            mapper.MapRow(PictureOf(photo), y, kWidth);
     });
 }
 

@@ -1,8 +1,5 @@
 #pragma once
 
-#include <algorithm>
-#include <array>
-
 #include "base/allocation.h"
 #include "base/types.h"
 
@@ -13,54 +10,55 @@ namespace kirto {
 // algorithm for spatial grey scale", 1976.
 class ErrorDiffusion {
   public:
-    using Components = std::array<int32, 3>;  // red, green, blue
+    // Red, green, blue and a fourth that is nobody's, in any order: four at a time are what a
+    // processor takes.
+    using Components = int32 __attribute__((vector_size(16)));
+    // What a row's last pixel leaves to the next one. Nothing at a row's first pixel.
+    using Carried = Components;
+    // A row may be begun before the one above it is done, so many pixels behind it: nearer ones
+    // still wait for errors from there.
+    static constexpr int32 kLag = 3;
 
     // max_width: pixels of the widest picture.
     explicit ErrorDiffusion(int32 max_width);
     // False when memory is short; then nothing below may be called.
     bool Ready() const;
 
-    // Before each picture: forgets all errors.
-    void StartPicture();
-    // At a row's first pixel: nothing is carried over from the row before.
-    void StartRow() { carried_ = {}; }
-    // Forgets the errors meant for the next row, if that row is not a neighbor.
-    void ClearRows();
+    // Forgets the errors meant for the next row: before each picture, and if that row is not a
+    // neighbor.
+    void ClearRow();
 
     // The color less the carried error, within 0..255.
-    Components Correct(const Components& color) const {
-        Components corrected{};
-        for (size_t i = 0; i < 3; ++i)
-            corrected[i] = std::clamp(color[i] - carried_[i], 0, 255);
-        return corrected;
+    static Components Correct(Components color, Carried carried) {
+        const Components least{};
+        const Components most = least + 255;
+        const Components corrected = color - carried;
+        const Components above = corrected < least ? least : corrected;
+        return above > most ? most : above;
     }
     // Spreads the error of pixel x: its palette color against its corrected color.
-    void Diffuse(int32 x, const Components& chosen, const Components& corrected) {
-        const size_t column = static_cast<size_t>(x) + 1;
-        for (size_t i = 0; i < 3; ++i) {
-            const uint32 error = static_cast<uint32>(chosen[i] - corrected[i]);
-            uint32* row = &rows_[i][column];
-            const int32 carried = static_cast<int32>(error * kSevenSixteenths + row[1]);
-            carried_[i] = static_cast<int16>(carried >> kFractionBits);
-            row[-1] += error * kThreeSixteenths;
-            row[0] += error * kFiveSixteenths;
-            row[1] = error * kOneSixteenth;
-        }
+    void Diffuse(int32 x, Components chosen, Components corrected, Carried* carried) {
+        Errors* const row = &row_[static_cast<size_t>(x) + 1];
+        const Errors sixteenth = reinterpret_cast<Errors>(chosen - corrected)
+                                 << (kFractionBits - 4);
+        const Errors sum = (sixteenth << 3) - sixteenth + row[1];
+        // Above the fraction, 16 bits are kept.
+        *carried = reinterpret_cast<Components>(sum << (16 - kFractionBits)) >> 16;
+        row[-1] += (sixteenth << 1) + sixteenth;
+        row[0] += (sixteenth << 2) + sixteenth;
+        row[1] = sixteenth;
     }
 
   private:
     static constexpr int32 kFractionBits = 15;
-    static constexpr uint32 kSevenSixteenths = 14336;
-    static constexpr uint32 kThreeSixteenths = 6144;
-    static constexpr uint32 kFiveSixteenths = 10240;
-    static constexpr uint32 kOneSixteenth = 2048;
 
-    std::array<int16, 3> carried_{};
-    const size_t entries_;  // of each row
-    // Per component, the errors for the next row, fixed point; entry 0 is column -1. The two
-    // leftmost columns, and those beside pixels that are never diffused, add up for as long as the
-    // picture is high: the sums wrap, which signed numbers may not.
-    std::array<AllocatedArray<uint32>, 3> rows_;
+    using Errors = uint32 __attribute__((vector_size(16)));  // as Components, fixed point
+
+    const size_t entries_;  // of the row
+    // The errors for the next row; entry 0 is column -1. The two leftmost columns, and those beside
+    // pixels that are never diffused, add up for as long as the picture is high: the sums wrap,
+    // which signed numbers may not.
+    AllocatedArray<Errors> row_;
 };
 
 }  // namespace kirto

@@ -70,11 +70,9 @@ ByteWriter GifFrameEncoder::Encode(const Frame& frame, SharedProgress& progress)
     AddImageHeader(frame, encoding, bytes);
     mapper_.StartPicture(*encoding.palette, options_.interlaced);
     GifLzwEncoder encoder(bytes, std::max(encoding.bits, 2));
-    std::vector<uint8> indices;
     for (GifRowOrder order(frame.height, options_.interlaced); !order.Done(); order.Next()) {
         if (progress.StopRequested()) return bytes;
-        mapper_.MapRow(frame.bitmap.get(), order.Row(), frame.width, &indices);
-        encoder.Add(indices);
+        encoder.Add(mapper_.MapRow(frame.bitmap.get(), order.Row(), frame.width));
         progress.Add(1);
     }
     encoder.Finish();

@@ -5,12 +5,19 @@
 
 namespace kirto {
 
+using Components = ErrorDiffusion::Components;
+
 namespace {
 
 template <bool kBigEndian>
 rgb_color ColorOf(const uint8* pixel) {
     if constexpr (kBigEndian) return {pixel[1], pixel[2], pixel[3], pixel[0]};
     return {pixel[2], pixel[1], pixel[0], pixel[3]};
+}
+
+// The bytes of a pixel, in their order.
+Components ComponentsOf(const uint8* pixel) {
+    return Components{pixel[0], pixel[1], pixel[2], pixel[3]};
 }
 
 // So many of the row's first width pixels lie in the picture.
@@ -37,38 +44,38 @@ PixelMapper::PixelMapper(uint8 transparent_index, bool dither, int32 max_width)
 
 void PixelMapper::StartPicture(const Palette& palette, bool unconnected_rows) {
     palette_ = &palette;
+    const Colors colors{palette.mode, palette.size, palette.colors};
+    if (colors_ != colors) SetColors(colors);
     diffusing_ = dither_ && diffusion_.Ready() && palette.mode != kPaletteGreyscale;
     unconnected_rows_ = unconnected_rows;
-    nearest_.SetTable(palette.colors, palette.size);
-    if (!diffusing_) memo_.Clear();
-    table_ = nullptr;
-    if (diffusing_) diffusion_.StartPicture();
+    next_y_ = -1;
+    if (diffusing_) diffusion_.ClearRow();
 }
 
-void PixelMapper::MapRow(const Picture* picture, int32 y, int32 width,
-                         std::vector<uint8>* indices) {
-    indices->resize(static_cast<size_t>(width));
+void PixelMapper::SetColors(const Colors& colors) {
+    colors_ = colors;
+    nearest_.SetTable(colors.table, colors.size);
+    memo_.Clear();
+    table_ = nullptr;
+    chosen_known_ = false;
+}
+
+std::span<const uint8> PixelMapper::MapRow(const Picture* picture, int32 y, int32 width) {
     const int32 inside = PixelsInside(picture, y, width);
-    const bool big_endian = picture && IsBigEndian(picture->ColorSpace());
-    const PixelRow row = inside > 0 ? picture->Row(y) : PixelRow();
-    if (inside > 0 && !diffusing_ && !row.pixels) {
-        MapIndices(row, big_endian, inside, indices->data());
-    } else {
-        const uint8* pixels = row.pixels;
-        if (inside > 0 && !pixels) {
-            row_.resize(static_cast<size_t>(inside) * 4);
-            row.Expand(inside, row_.data());
-            pixels = row_.data();
-        }
-        if (diffusing_) {
-            big_endian ? DiffusePixels<true>(pixels, width, inside, indices->data())
-                       : DiffusePixels<false>(pixels, width, inside, indices->data());
+    if (diffusing_) return DiffuseRow(picture, y, width, inside);
+    indices_.resize(static_cast<size_t>(width));
+    if (inside > 0) {
+        const bool big_endian = IsBigEndian(picture->ColorSpace());
+        const PixelRow row = picture->Row(y);
+        if (!row.pixels) {
+            MapIndices(row, big_endian, inside, indices_.data());
         } else {
-            big_endian ? MapPixels<true>(pixels, inside, indices->data())
-                       : MapPixels<false>(pixels, inside, indices->data());
+            big_endian ? MapPixels<true>(row.pixels, inside, indices_.data())
+                       : MapPixels<false>(row.pixels, inside, indices_.data());
         }
     }
-    std::fill(indices->begin() + inside, indices->end(), transparent_index_);
+    std::fill(indices_.begin() + inside, indices_.end(), transparent_index_);
+    return indices_;
 }
 
 // Each entry of a table is mapped once, not each pixel.
@@ -77,16 +84,16 @@ void PixelMapper::MapIndices(const PixelRow& row, bool big_endian, int32 count, 
         std::fill_n(indices, count, MapPixel(row.solid, big_endian));
         return;
     }
-    if (*row.table != table_ || table_big_endian_ != big_endian) {
-        table_ = *row.table;
-        table_big_endian_ = big_endian;
-        table_indices_.fill(kUnknown);
-    }
-    for (int32 x = 0; x < count; ++x) {
-        uint16& mapped = table_indices_[row.indices[x]];
-        if (mapped == kUnknown) mapped = MapPixel(table_->pixels[row.indices[x]], big_endian);
-        indices[x] = static_cast<uint8>(mapped);
-    }
+    if (*row.table != table_ || table_big_endian_ != big_endian) MapTable(*row.table, big_endian);
+    for (int32 x = 0; x < count; ++x)
+        indices[x] = table_indices_[row.indices[x]];
+}
+
+void PixelMapper::MapTable(const SharedPixelTable& table, bool big_endian) {
+    table_ = table;
+    table_big_endian_ = big_endian;
+    for (size_t i = 0; i < table_indices_.size(); ++i)
+        table_indices_[i] = MapPixel(table->pixels[i], big_endian);
 }
 
 uint8 PixelMapper::MapPixel(uint32 pixel, bool big_endian) {
@@ -117,26 +124,89 @@ uint8 PixelMapper::MapColor(rgb_color color) {
     return memo_.IndexOf(ColorKey(color.red, color.green, color.blue), look_up);
 }
 
+// Where rows are connected, two are done at a time, the lower one a little behind: neither waits
+// for the other, which keeps the processor busy.
+std::span<const uint8> PixelMapper::DiffuseRow(const Picture* picture, int32 y, int32 width,
+                                               int32 inside) {
+    if (y == next_y_) {
+        next_y_ = -1;
+        return next_row_.indices;
+    }
+    BeginRow(picture, y, width, inside, &row_);
+    const bool big_endian = picture && IsBigEndian(picture->ColorSpace());
+    if (!chosen_known_ || chosen_big_endian_ != big_endian) OrderColors(big_endian);
+    if (!unconnected_rows_ && inside > 0 && PixelsInside(picture, y + 1, width) == inside) {
+        next_y_ = y + 1;
+        BeginRow(picture, next_y_, width, inside, &next_row_);
+        big_endian ? DiffuseTwo<true>(&row_, &next_row_, inside)
+                   : DiffuseTwo<false>(&row_, &next_row_, inside);
+    } else {
+        big_endian ? DiffuseAlone<true>(&row_, width, inside)
+                   : DiffuseAlone<false>(&row_, width, inside);
+    }
+    return row_.indices;
+}
+
+void PixelMapper::OrderColors(bool big_endian) {
+    chosen_known_ = true;
+    chosen_big_endian_ = big_endian;
+    for (size_t i = 0; i < chosen_.size(); ++i) {
+        const rgb_color color = colors_.table[i];
+        chosen_[i] = big_endian ? Components{0, color.red, color.green, color.blue}
+                                : Components{color.blue, color.green, color.red, 0};
+    }
+}
+
+void PixelMapper::BeginRow(const Picture* picture, int32 y, int32 width, int32 inside,
+                           DiffusedRow* row) {
+    row->carried = Components{};
+    row->indices.assign(static_cast<size_t>(width), transparent_index_);
+    if (inside == 0) return;
+    const PixelRow source = picture->Row(y);
+    row->pixels = source.pixels;
+    if (row->pixels) return;
+    row->made.resize(static_cast<size_t>(inside) * 4);
+    source.Expand(inside, row->made.data());
+    row->pixels = row->made.data();
+}
+
+template <bool kBigEndian>
+void PixelMapper::DiffuseAlone(DiffusedRow* row, int32 width, int32 inside) {
+    for (int32 x = 0; x < inside; ++x) {
+        // The last pixel's own error still goes into the rows, after the clearing.
+        if (unconnected_rows_ && x == width - 1) diffusion_.ClearRow();
+        DiffusePixel<kBigEndian>(row, x);
+    }
+    if (unconnected_rows_ && inside < width) diffusion_.ClearRow();
+}
+
+template <bool kBigEndian>
+void PixelMapper::DiffuseTwo(DiffusedRow* upper, DiffusedRow* lower, int32 inside) {
+    constexpr int32 kLag = ErrorDiffusion::kLag;
+    for (int32 x = 0; x < std::min(kLag, inside); ++x)
+        DiffusePixel<kBigEndian>(upper, x);
+    for (int32 x = kLag; x < inside; ++x) {
+        DiffusePixel<kBigEndian>(upper, x);
+        DiffusePixel<kBigEndian>(lower, x - kLag);
+    }
+    for (int32 x = std::max(inside - kLag, 0); x < inside; ++x)
+        DiffusePixel<kBigEndian>(lower, x);
+}
+
 // Corrected colors hardly ever repeat, so keeping them would cost more than it saves.
 template <bool kBigEndian>
-void PixelMapper::DiffusePixels(const uint8* row, int32 width, int32 count, uint8* indices) {
-    diffusion_.StartRow();
-    for (int32 x = 0; x < count; ++x) {
-        // The last pixel's own error still goes into the rows, after the clearing.
-        if (unconnected_rows_ && x == width - 1) diffusion_.ClearRows();
-        const rgb_color color = ColorOf<kBigEndian>(row + static_cast<size_t>(x) * 4);
-        indices[x] = transparent_index_;
-        if (color.alpha < 255) continue;
-        const ErrorDiffusion::Components corrected =
-            diffusion_.Correct({color.red, color.green, color.blue});
-        const uint8 index =
-            nearest_.IndexOf(static_cast<uint8>(corrected[0]), static_cast<uint8>(corrected[1]),
-                             static_cast<uint8>(corrected[2]));
-        const rgb_color chosen = palette_->colors[index];
-        diffusion_.Diffuse(x, {chosen.red, chosen.green, chosen.blue}, corrected);
-        indices[x] = index;
-    }
-    if (unconnected_rows_ && count < width) diffusion_.ClearRows();
+inline void PixelMapper::DiffusePixel(DiffusedRow* row, int32 x) {
+    constexpr size_t kAlpha = kBigEndian ? 0 : 3;
+    constexpr size_t kRed = kBigEndian ? 1 : 2;
+    constexpr size_t kBlue = kBigEndian ? 3 : 0;
+    const uint8* pixel = row->pixels + static_cast<size_t>(x) * 4;
+    if (pixel[kAlpha] < 255) return;
+    const Components corrected = ErrorDiffusion::Correct(ComponentsOf(pixel), row->carried);
+    const uint8 index = nearest_.IndexOf(static_cast<uint8>(corrected[kRed]),
+                                         static_cast<uint8>(corrected[kBigEndian ? 2 : 1]),
+                                         static_cast<uint8>(corrected[kBlue]));
+    diffusion_.Diffuse(x, chosen_[index], corrected, &row->carried);
+    row->indices[static_cast<size_t>(x)] = index;
 }
 
 }  // namespace kirto

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <memory>
+#include <span>
 #include <vector>
 
 #include "base/types.h"
@@ -13,8 +14,8 @@
 
 namespace kirto {
 
-// Reduces the rows of 32-bit pictures to palette indices, with a memo of colors already looked up
-// in a picture and, on request, error diffusion.
+// Reduces the rows of pictures to palette indices, with a memo of colors already looked up and, on
+// request, error diffusion.
 class PixelMapper {
   public:
     // transparent_index: what pixels with alpha below 255 become. dither: spread errors, in
@@ -29,35 +30,68 @@ class PixelMapper {
     // so no error passes from row to row.
     void StartPicture(const Palette& palette, bool unconnected_rows);
 
-    // Maps row y of the picture, width pixels wide. Pixels outside the picture, and all pixels of
-    // one that is null or without rows, count as transparent.
-    void MapRow(const Picture* picture, int32 y, int32 width, std::vector<uint8>* indices);
+    // Maps row y of the picture, width pixels wide; connected rows are asked for from the top down.
+    // Pixels outside the picture, and all pixels of one that is null or without rows, count as
+    // transparent. The indices are good until the next call.
+    std::span<const uint8> MapRow(const Picture* picture, int32 y, int32 width);
 
   private:
+    // A row that errors are diffused in: its pixels that lie in the picture, and what they become.
+    struct DiffusedRow {
+        std::vector<uint8> made;  // the pixels, where they have to be made
+        const uint8* pixels = nullptr;
+        std::vector<uint8> indices;
+        ErrorDiffusion::Carried carried{};
+    };
+
+    // What a color becomes depends on.
+    struct Colors {
+        int32 mode = 0;
+        int32 size = -1;
+        ColorTable table{};
+
+        bool operator==(const Colors&) const = default;
+    };
+
+    void SetColors(const Colors& colors);
     void MapIndices(const PixelRow& row, bool big_endian, int32 count, uint8* indices);
+    void MapTable(const SharedPixelTable& table, bool big_endian);
     uint8 MapPixel(uint32 pixel, bool big_endian);
-    // The row's pixels that lie in the picture.
     template <bool kBigEndian>
     void MapPixels(const uint8* row, int32 count, uint8* indices);
-    template <bool kBigEndian>
-    void DiffusePixels(const uint8* row, int32 width, int32 count, uint8* indices);
     uint8 MapColor(rgb_color color);
+    std::span<const uint8> DiffuseRow(const Picture* picture, int32 y, int32 width, int32 inside);
+    void OrderColors(bool big_endian);
+    void BeginRow(const Picture* picture, int32 y, int32 width, int32 inside, DiffusedRow* row);
+    template <bool kBigEndian>
+    void DiffuseAlone(DiffusedRow* row, int32 width, int32 inside);
+    template <bool kBigEndian>
+    void DiffuseTwo(DiffusedRow* upper, DiffusedRow* lower, int32 inside);
+    template <bool kBigEndian>
+    void DiffusePixel(DiffusedRow* row, int32 x);
 
     const uint8 transparent_index_;
     const bool dither_;
     const Palette* palette_ = nullptr;
     bool diffusing_ = false;
     bool unconnected_rows_ = false;
-    NearestColor nearest_;  // in the current picture's palette
-    IndexMemo memo_;        // of the current picture
-    ErrorDiffusion diffusion_;
-    std::vector<uint8> row_;  // the current row's pixels where they have to be made
-
-    // What the entries of the last row's table become; kUnknown where no pixel asked yet.
-    static constexpr uint16 kUnknown = 0xFFFF;
+    Colors colors_;         // of the current palette
+    NearestColor nearest_;  // among them
+    IndexMemo memo_;        // of what they were asked for
+    std::vector<uint8> indices_;
+    // What the entries of the last row's table become.
     SharedPixelTable table_;
     bool table_big_endian_ = false;
-    std::array<uint16, 256> table_indices_;
+    std::array<uint8, 256> table_indices_;
+
+    ErrorDiffusion diffusion_;
+    // The palette's colors, in the order of a pixel's bytes.
+    std::array<ErrorDiffusion::Components, 256> chosen_;
+    bool chosen_known_ = false;
+    bool chosen_big_endian_ = false;
+    DiffusedRow row_;
+    DiffusedRow next_row_;
+    int32 next_y_ = -1;  // next_row_ is that row of the picture, done already; -1: none is
 };
 
 // Row y of the picture as colors, width of them; black with alpha 0 outside the picture and where

@@ -129,10 +129,10 @@ TEST(GifSaveThreads, LackMemoryForDitheringAllOrNone) {
     ASSERT_NE(dithered, undithered);
     for (const int32 count : kThreadCounts) {
         const ScopedThreads threads(count);
-        // An encoder takes five blocks.
-        for (int32 call = 1; call <= 5 * 5 + 1; ++call) {
+        // An encoder takes three blocks.
+        for (int32 call = 1; call <= 5 * 3 + 1; ++call) {
             const AllocationFault fault(call);
-            EXPECT_EQ(save(), call <= 5 ? undithered : dithered) << "allocation " << call;
+            EXPECT_EQ(save(), call <= 3 ? undithered : dithered) << "allocation " << call;
         }
     }
 }

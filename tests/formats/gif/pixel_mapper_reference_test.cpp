@@ -124,9 +124,9 @@ void ExpectPlain(PixelMapper& mapper, const Palette& palette, bool dither, bool 
     PlainMapper plain(palette, dither, unconnected_rows, kWidth + beyond);
     mapper.StartPicture(palette, unconnected_rows);
     for (int32 y = 0; y <= kHeight; ++y) {
-        Indices indices;
-        mapper.MapRow(&bitmap, y, kWidth + beyond, &indices);
-        ASSERT_EQ(indices, plain.Row(bitmap, y)) << "row " << y << ", size " << palette.size;
+        const std::span<const uint8> indices = mapper.MapRow(&bitmap, y, kWidth + beyond);
+        ASSERT_EQ(Indices(indices.begin(), indices.end()), plain.Row(bitmap, y))
+            << "row " << y << ", size " << palette.size;
     }
 }
 
