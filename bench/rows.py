@@ -142,7 +142,8 @@ def dithering(files):
 
 
 def inserting(files, extension):
-    photos, count = (4, 4) if files.quick else (10, 100)
+    # The time of one more does not depend on how many there are, and more would take minutes.
+    photos, count = (4, 4) if files.quick else (10, 30)
     paths = [files.path(f"photo{i % photos}.{extension}") for i in range(count)]
     insert = [word for path in paths for word in ("--insert", path)]
     reads = [word for path in paths[:-1] for word in (path, "+delete")]
