@@ -1,0 +1,14 @@
+#pragma once
+
+#include "kit/translator_roster.h"
+#include "main/cli/cli_arguments.h"
+
+namespace kirto {
+
+// Makes the process ready for whatever readers and terminals do. First of all in main().
+void PrepareCliProcess();
+// Does what the command line asks for, with the roster's image formats, and returns the process's
+// exit status. Ctrl-C and SIGTERM end the work in hand; a second one ends the process.
+int RunCliProgram(CliArguments arguments, BTranslatorRoster& roster);
+
+}  // namespace kirto
