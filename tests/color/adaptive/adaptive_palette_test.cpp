@@ -79,6 +79,17 @@ TEST(AdaptivePalette, KeepsExactColorsFirstAndAsTheyAre) {
     }
 }
 
+TEST(AdaptivePalette, PutsTheOtherEntriesWhereTheExactOnesAreFar) {
+    CountedColors colors;
+    for (uint32 i = 0; i < 9; ++i) {
+        colors.push_back({0x202020 + i % 3 + i / 3 * 0x100, 50});
+        colors.push_back({0xC0C0C0 + i % 3 + i / 3 * 0x100, 1});
+    }
+
+    EXPECT_EQ(Entries(colors, 2, {ColorOfKey(0x202121)}),
+              (std::vector<rgb_color>{ColorOfKey(0x202121), ColorOfKey(0xC0C1C1)}));
+}
+
 TEST(AdaptivePalette, CountsAnExactColorThatOccursOnce) {
     const CountedColors colors = {{0x102030, 5}, {0x405060, 1}};
 
