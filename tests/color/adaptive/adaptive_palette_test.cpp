@@ -86,8 +86,8 @@ TEST(AdaptivePalette, PutsTheOtherEntriesWhereTheExactOnesAreFar) {
         colors.push_back({0xC0C0C0 + i % 3 + i / 3 * 0x100, 1});
     }
 
-    EXPECT_EQ(Entries(colors, 2, {ColorOfKey(0x202121)}),
-              (std::vector<rgb_color>{ColorOfKey(0x202121), ColorOfKey(0xC0C1C1)}));
+    EXPECT_EQ(Entries(colors, 2, {ColorOfKey(0x262626)}),
+              (std::vector<rgb_color>{ColorOfKey(0x262626), ColorOfKey(0xC0C1C1)}));
 }
 
 TEST(AdaptivePalette, CountsAnExactColorThatOccursOnce) {
