@@ -79,9 +79,8 @@ bool ColorClusters::CutAll(ColorCenters* centers, size_t count) {
     std::iota(members_.get(), members_.get() + points_.size(), 0U);
     clusters_[0] = {0, points_.size(), {}};
     clusters_[0].axis = AxisOf(clusters_[0]);
-    if (centers->fixed == count) return true;
     size_t made = 1;
-    while (made < count - centers->fixed) {
+    while (made < count) {
         if (IsStopped(work_)) return false;
         Cluster* const widest = std::max_element(
             clusters_.begin(), clusters_.begin() + made,
@@ -89,12 +88,25 @@ bool ColorClusters::CutAll(ColorCenters* centers, size_t count) {
         if (!Cut(widest, &clusters_[made])) break;
         ++made;
     }
-    for (const Cluster& cluster : std::span(clusters_).first(made)) {
+    const std::span<Cluster> clusters(clusters_.data(), made);
+    if (centers->fixed != 0) SortByNeed(clusters, *centers);
+    for (const Cluster& cluster : clusters.first(std::min(made, count - centers->fixed))) {
         for (const uint32 member : MembersOf(cluster))
             k_means_.Place(member, centers->count);
         centers->colors[centers->count++] = cluster.axis.Mean();
     }
     return true;
+}
+
+void ColorClusters::SortByNeed(std::span<Cluster> clusters, const ColorCenters& centers) {
+    const std::span<const ColorComponents> fixed(centers.colors.data(), centers.fixed);
+    const auto need = [&](const Cluster& cluster) {
+        int32 least = std::numeric_limits<int32>::max();
+        for (const ColorComponents& color : fixed)
+            least = std::min(least, ColorDistance(color, cluster.axis.Mean()));
+        return cluster.axis.Pixels() * least;
+    };
+    std::ranges::stable_sort(clusters, std::greater(), need);
 }
 
 void ColorClusters::TakeNearest(size_t count) {

@@ -50,8 +50,11 @@ class ColorClusters {
     // Cuts the cluster; false when all of it lies in one place.
     bool Cut(Cluster* cluster, Cluster* rest) const;
 
-    // Cuts all points into so many clusters, whose means become centers.
+    // Cuts all points into so many clusters. The means of those that fixed centers serve worst
+    // become centers.
     bool CutAll(ColorCenters* centers, size_t count);
+    // Those first that would cost most if fixed centers were all there is.
+    static void SortByNeed(std::span<Cluster> clusters, const ColorCenters& centers);
     // Fills the clusters with what the last round of k-means put into them.
     void TakeNearest(size_t count);
     // Of each center that may move, the cheapest merger, by rising cost.
