@@ -9,7 +9,7 @@ namespace kirto {
 namespace {
 
 // A round that lowers the error by less than this part is the last.
-constexpr double kLeastGain = 1.0 / 1024;
+constexpr double kLeastImprovement = 1.0 / 1024;
 constexpr size_t kPointsAtOnce = 1 << 14;  // between two looks at the work
 
 }  // namespace
@@ -29,7 +29,7 @@ bool KMeans::Settle(ColorCenters* centers, int max_rounds) {
     for (int round = 0; round < max_rounds; ++round) {
         if (!Assign(*centers)) return false;
         MoveToMeans(centers);
-        if (last_error - error_ <= last_error * kLeastGain) break;
+        if (last_error - error_ <= last_error * kLeastImprovement) break;
         last_error = error_;
     }
     return true;
