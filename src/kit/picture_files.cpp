@@ -41,6 +41,17 @@ status_t ReadBy(const FinishTask& finish, const std::string& path, BTranslatorRo
     return reading->status;
 }
 
+template <typename FinishTask>
+status_t WriteBy(const FinishTask& finish, const std::shared_ptr<const BBitmap>& picture,
+                 BTranslatorRoster& roster, translator_id translator, uint32 format,
+                 const BMessage& settings, const std::shared_ptr<BFile>& file) {
+    const auto status = std::make_shared<status_t>(B_OK);
+    const auto write = [=, &roster] {
+        *status = roster.Translate(*picture, translator, format, settings, *file);
+    };
+    return finish(write) ? *status : B_CANCELED;
+}
+
 }  // namespace
 
 status_t ReadPicture(const std::string& path, BTranslatorRoster& roster,
@@ -67,21 +78,17 @@ status_t ReadPictureQuietly(const std::string& path, BTranslatorRoster& roster,
 status_t WritePicture(std::shared_ptr<const BBitmap> picture, BTranslatorRoster& roster,
                       translator_id translator, uint32 format, const BMessage& settings,
                       std::shared_ptr<BFile> file, Work& work) {
-    const auto status = std::make_shared<status_t>(B_OK);
-    const bool finished = Finish(work, [=, &roster] {
-        *status = roster.Translate(*picture, translator, format, settings, *file);
-    });
-    return finished ? *status : B_CANCELED;
+    const auto finish = [&](const std::function<void()>& task) { return Finish(work, task); };
+    return WriteBy(finish, picture, roster, translator, format, settings, file);
 }
 
 status_t WritePictureQuietly(std::shared_ptr<const BBitmap> picture, BTranslatorRoster& roster,
                              translator_id translator, uint32 format, const BMessage& settings,
                              std::shared_ptr<BFile> file, const std::function<bool()>& given_up) {
-    const auto status = std::make_shared<status_t>(B_OK);
-    const bool finished = FinishQuietly(given_up, [=, &roster] {
-        *status = roster.Translate(*picture, translator, format, settings, *file);
-    });
-    return finished ? *status : B_CANCELED;
+    const auto finish = [&](const std::function<void()>& task) {
+        return FinishQuietly(given_up, task);
+    };
+    return WriteBy(finish, picture, roster, translator, format, settings, file);
 }
 
 }  // namespace kirto

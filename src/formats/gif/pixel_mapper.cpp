@@ -57,7 +57,7 @@ void PixelMapper::SetColors(const Colors& colors) {
     nearest_.SetTable(colors.table, colors.size);
     memo_.Clear();
     table_ = nullptr;
-    chosen_known_ = false;
+    chosen_big_endian_.reset();
 }
 
 std::span<const uint8> PixelMapper::MapRow(const Picture* picture, int32 y, int32 width) {
@@ -134,7 +134,7 @@ std::span<const uint8> PixelMapper::DiffuseRow(const Picture* picture, int32 y, 
     }
     BeginRow(picture, y, width, inside, &row_);
     const bool big_endian = picture && IsBigEndian(picture->ColorSpace());
-    if (!chosen_known_ || chosen_big_endian_ != big_endian) OrderColors(big_endian);
+    if (chosen_big_endian_ != big_endian) OrderColors(big_endian);
     if (!unconnected_rows_ && inside > 0 && PixelsInside(picture, y + 1, width) == inside) {
         next_y_ = y + 1;
         BeginRow(picture, next_y_, width, inside, &next_row_);
@@ -148,7 +148,6 @@ std::span<const uint8> PixelMapper::DiffuseRow(const Picture* picture, int32 y, 
 }
 
 void PixelMapper::OrderColors(bool big_endian) {
-    chosen_known_ = true;
     chosen_big_endian_ = big_endian;
     for (size_t i = 0; i < chosen_.size(); ++i) {
         const rgb_color color = colors_.table[i];

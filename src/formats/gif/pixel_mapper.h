@@ -2,6 +2,7 @@
 
 #include <array>
 #include <memory>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -87,8 +88,7 @@ class PixelMapper {
     ErrorDiffusion diffusion_;
     // The palette's colors, in the order of a pixel's bytes.
     std::array<ErrorDiffusion::Components, 256> chosen_;
-    bool chosen_known_ = false;
-    bool chosen_big_endian_ = false;
+    std::optional<bool> chosen_big_endian_;  // their order; none yet: nothing
     DiffusedRow row_;
     DiffusedRow next_row_;
     int32 next_y_ = -1;  // next_row_ is that row of the picture, done already; -1: none is

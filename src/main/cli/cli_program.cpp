@@ -4,6 +4,7 @@
 #include <csignal>
 #include <cstdio>
 #include <new>
+#include <utility>
 
 #include "base/abandonable.h"
 #include "main/cli/cli_session.h"

@@ -103,10 +103,11 @@ CliSession::Outcome CliSession::InsertImages(const std::string& value) {
     BMessage message(kInsertFiles);
     message.AddRef("refs", AbsoluteRef(path));
     message.AddInt32("position", position);
-    size_t following = 0;
-    for (const CliOperation& next : following_) {
-        if (next.option != "--insert" || following++ == ImagesAhead::MostFollowing()) break;
-        message.AddRef("following", AbsoluteRef(SplitImage(next.value, &position)));
+    for (const CliOperation& next :
+         following_.first(std::min(following_.size(), ImagesAhead::MostFollowing()))) {
+        if (next.option != "--insert") break;
+        int32 next_position = -1;
+        message.AddRef("following", AbsoluteRef(SplitImage(next.value, &next_position)));
     }
     return Post(message);
 }

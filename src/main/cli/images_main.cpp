@@ -1,6 +1,8 @@
 // kirto-cli-images: kirto-cli with the image formats of Qt.
 #include <QGuiApplication>
 #include <clocale>
+#include <memory>
+#include <utility>
 
 #include "kit/qt/qt_translator_roster.h"
 #include "main/cli/cli_program.h"

@@ -6,7 +6,9 @@
 #include <cstring>
 #include <filesystem>
 #include <set>
+#include <string>
 #include <unistd.h>
+#include <utility>
 
 #include "main/cli/cli_program.h"
 #include "main/cli/no_translators.h"

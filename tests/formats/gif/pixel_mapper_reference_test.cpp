@@ -2,6 +2,7 @@
 // whole palette, and errors in wide numbers.
 #include <gtest/gtest.h>
 #include <random>
+#include <span>
 
 #include "color/reference_palette.h"
 #include "formats/gif/pixel_mapper.h"
