@@ -8,13 +8,14 @@
 #include "base/types.h"
 #include "picture/picture.h"
 #include "picture/picture_builder.h"
+#include "picture/pixel_rect.h"
 
 namespace kirto {
 
 // A rectangle of indices in memory, that is painted over a picture. What lies outside the picture
 // is dropped.
 struct IndexImage {
-    std::span<const uint8> indices;  // row by row, width of each
+    std::span<const uint8> indices;  // row by row, width of each; or the same row again and again
     int32 left = 0;                  // on the picture, 0 or more, as top
     int32 top = 0;
     int32 width = 0;
@@ -23,6 +24,7 @@ struct IndexImage {
     int32 skipped = -1;  // pixels of this index stay as they are; -1: none
     // So many of each row's pixels are there, from the left; empty: all of them.
     std::span<const int32> row_lengths;
+    bool repeats = false;  // there is one row of indices, for all rows
 };
 
 // Makes pictures by painting images of indices over others. What an image does not touch is shared
@@ -35,6 +37,9 @@ class IndexPainter {
     // A new picture, the image over the base, which has rows; null when memory is short.
     std::shared_ptr<const Picture> Paint(const std::shared_ptr<const Picture>& base,
                                          const IndexImage& image);
+    // The same with a rectangle of one pixel in the place of an image.
+    std::shared_ptr<const Picture> Fill(const std::shared_ptr<const Picture>& base,
+                                        const PixelRect& rect, uint32 pixel);
 
   private:
     // The rows from first on, up to end.
@@ -43,6 +48,11 @@ class IndexPainter {
         int32 end = 0;
     };
 
+    template <typename Add>
+    std::shared_ptr<const Picture> PaintBands(const Picture& base, const IndexImage& image,
+                                              const Add& add);
+    bool AddFilledBand(const Picture& base, const IndexImage& image, uint32 pixel, const Band& band,
+                       PictureBuilder& builder);
     static Band TouchedRows(const Picture& base, const IndexImage& image);
     static bool AddRows(const Picture& base, const Band& rows, PictureBuilder& builder);
     bool AddBand(const Picture& base, const IndexImage& image, const Band& band,

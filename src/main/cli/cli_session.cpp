@@ -7,6 +7,15 @@
 
 namespace kirto {
 
+namespace {
+
+// What is said before any other operation holds for the application's start as well.
+bool ChangesSettings(const CliOperation& operation) {
+    return operation.option == "--set" || operation.option == "--faithful";
+}
+
+}  // namespace
+
 CliSession::CliSession(CliArguments arguments, BTranslatorRoster& roster)
     : arguments_(std::move(arguments)),
       roster_(roster),
@@ -22,7 +31,7 @@ CliSession::~CliSession() {
 
 int CliSession::Run() {
     for (const CliOperation& operation : arguments_.operations) {
-        if (!app_ && operation.option != "--set") StartApplication();
+        if (!app_ && !ChangesSettings(operation)) StartApplication();
         desktop_.SetSubject("");
         Outcome outcome = (this->*HandlerFor(operation.option))(operation.value);
         desktop_.ClearProgress();
@@ -59,6 +68,7 @@ CliSession::Outcome CliSession::Post(const BMessage& message) {
 CliSession::Handler CliSession::HandlerFor(const std::string& option) {
     static const std::map<std::string, Handler> handlers = {
         {"--set", &CliSession::Set},
+        {"--faithful", &CliSession::SetFaithful},
         {"--open", &CliSession::Open},
         {"--insert-animation", &CliSession::InsertAnimation},
         {"--insert", &CliSession::InsertImages},
