@@ -164,7 +164,7 @@ bool GifParser::ReadImage(GifImage* image) {
     ReadColorTable(header[8], &image->table);
     image->min_code_size = 0;
     input_.Read(&image->min_code_size, 1);
-    image->data.Read(input_, max_data_);
+    image->data.Read(input_, max_data_, rules_ == GifRules::kBrowsers);
     return true;
 }
 
