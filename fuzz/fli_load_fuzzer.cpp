@@ -21,7 +21,7 @@ void Check(const AnimationDocument& document, int32 end) {
     if (document.pixel_budget->Used() > kPixelBytes) std::abort();
 }
 
-void Load(const uint8_t* data, size_t size, const Prefs& prefs) {
+void Load(const uint8_t* data, size_t size, Prefs& prefs) {
     AnimationDocument document(prefs);
     document.pixel_budget->SetLimit(kPixelBytes);
     for (int32 start : {0, 1}) {

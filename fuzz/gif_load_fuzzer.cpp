@@ -33,7 +33,7 @@ void CheckList(const AnimationDocument& document) {
     Check(visited == count);
 }
 
-void Load(const uint8_t* data, size_t size, const Prefs& prefs) {
+void Load(const uint8_t* data, size_t size, Prefs& prefs) {
     AnimationDocument document(prefs);
     document.pixel_budget->SetLimit(kMemoryLimit);
     const auto file = BFile::OnMemory({data, data + size});
