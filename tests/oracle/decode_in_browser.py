@@ -29,11 +29,16 @@ OPTIONS = ("--headless", "--no-sandbox", "--disable-gpu", "--disable-quic",
            "--disable-component-update", "--disable-sync", "--remote-debugging-port=0")
 
 
+def digest_of(pixels):
+    return hashlib.md5(pixels).hexdigest()
+
+
 class Decoded:
     """An animation: "repetitions" as the browser says it, an error or "", and for each frame its
-    width, its height, its duration in microseconds and the MD5 digest of its pixels."""
+    width, its height, its duration in microseconds and what keep() makes of its pixels, which are
+    blue, green, red and alpha."""
 
-    def __init__(self, body):
+    def __init__(self, body, keep):
         header, _, pixels = body.partition(b"\n")
         found = json.loads(header)
         self.error = found["error"]
@@ -43,18 +48,19 @@ class Decoded:
         start = 0
         for frame in found["frames"]:
             end = start + frame["width"] * frame["height"] * 4
-            digest = hashlib.md5(pixels[start:end]).hexdigest()
-            self.frames.append((frame["width"], frame["height"], frame["microseconds"], digest))
+            kept = keep(pixels[start:end])
+            self.frames.append((frame["width"], frame["height"], frame["microseconds"], kept))
             start = end
 
 
 class _Server(http.server.ThreadingHTTPServer):
     daemon_threads = True
 
-    def __init__(self, paths):
+    def __init__(self, paths, keep):
         super().__init__(("127.0.0.1", 0), _Handler)
         self.page = pathlib.Path(__file__).with_suffix(".html").read_bytes()
         self.paths = paths
+        self.keep = keep
         self.results = queue.Queue()
 
 
@@ -75,7 +81,7 @@ class _Handler(http.server.BaseHTTPRequestHandler):
         body = self.rfile.read(int(self.headers["Content-Length"]))
         self._answer(204, None, b"")
         end = self.path == "/end"
-        self.server.results.put(body.decode() if end else Decoded(body))
+        self.server.results.put(body.decode() if end else Decoded(body, self.server.keep))
 
     def _answer(self, status, kind, content):
         self.send_response(status)
@@ -119,9 +125,9 @@ def is_missing():
     return shutil.which(PROGRAM) is None
 
 
-def decode(paths):
+def decode(paths, keep=digest_of):
     """Each of the GIF files as the browser decodes it, in order."""
-    server = _Server(paths)
+    server = _Server(paths, keep)
     threading.Thread(target=server.serve_forever, daemon=True).start()
     decoded = []
     try:
