@@ -1,7 +1,7 @@
 #include "formats/gif/gif_browser_composer.h"
 
 #include <algorithm>
-#include <cstring>
+#include <span>
 #include <utility>
 
 #include "color/pixel_table.h"
@@ -17,8 +17,9 @@ constexpr rgb_color kNoEntry = {0, 0, 0, 255};
 
 std::shared_ptr<const std::vector<rgb_color>> ColorsOf(const GifColorTable& table) {
     if (table.bits == 0 || !table.complete) return nullptr;
-    const auto end = table.colors.begin() + (1 << table.bits);
-    return std::make_shared<const std::vector<rgb_color>>(table.colors.begin(), end);
+    const std::span<const rgb_color> entries =
+        std::span(table.colors).first(size_t{1} << table.bits);
+    return std::make_shared<const std::vector<rgb_color>>(entries.begin(), entries.end());
 }
 
 // Some writers have taken the third bit for that of the third method. Methods without a meaning

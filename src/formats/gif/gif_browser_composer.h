@@ -33,8 +33,8 @@ class GifBrowserComposer : public GifComposer {
     std::shared_ptr<const GifSource> SourceOf(const GifImage& image, Colors colors,
                                               const std::shared_ptr<const Picture>& picture);
 
-    GifControl control_;  // of the next image
-    Colors global_colors_;  // null: there are none
+    GifControl control_;                      // of the next image
+    Colors global_colors_;                    // null: there are none
     std::optional<ScreenCompositor> screen_;  // from the first image on
     std::shared_ptr<const GifSource> last_source_;
 };
