@@ -90,7 +90,8 @@ class Prefs {
 
   private:
     void Load(BNode& node);
-    // The two halves of the helpers. Without a default a missing value stays as it is. verb is "Get" or "Put", for the debug line of a failed write.
+    // The two halves of the helpers. Without a default a missing value stays as it is. verb is
+    // "Get" or "Put", for the debug line of a failed write.
     template <typename T>
     bool Get(BNode& node, const char* key, T* value, const T* default_value);
     template <typename T>

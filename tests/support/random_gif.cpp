@@ -154,7 +154,8 @@ class GifMaker {
         GifBuilder::Image image = MakePlace();
         if (OneIn(3)) image.local_table = MaybeTable(4);
         image.interlaced = OneIn(3);
-        const size_t entries = image.local_table.empty() ? global_.size() : image.local_table.size();
+        const size_t entries =
+            image.local_table.empty() ? global_.size() : image.local_table.size();
         const int32 colors = OneIn(4) ? 1 + Below(4) : std::max(2, static_cast<int32>(entries));
         const int32 needed = static_cast<int32>(std::bit_width(static_cast<uint32>(colors - 1)));
         image.min_code_size = std::max(needed, OneIn(3) ? 1 : 2);

@@ -90,7 +90,8 @@ IndexImage GifDefinedComposer::PlacedIn(const Palette& current, const GifImage& 
 }
 
 // What the image is drawn over.
-std::shared_ptr<const Picture> GifDefinedComposer::Below(const GifImage& image, const Palette& current) {
+std::shared_ptr<const Picture> GifDefinedComposer::Below(const GifImage& image,
+                                                         const Palette& current) {
     if (!options_.full_frame) return Solid(0, image.width, image.height);
     if (CoversScreen(image)) return Solid(0, width_, height_);
     if (previous_) return FrameDisposal(current);
