@@ -1,4 +1,5 @@
-// Arbitrary bytes as an FLI or FLC: into an empty document, then once more behind what came of it.
+// Arbitrary bytes as an FLI or FLC, by the defined rules and by those of players: into an empty
+// document, then once more behind what came of it.
 #include <cstdlib>
 
 #include "base/debug_line.h"
@@ -20,11 +21,7 @@ void Check(const AnimationDocument& document, int32 end) {
     if (document.pixel_budget->Used() > kPixelBytes) std::abort();
 }
 
-}  // namespace
-
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-    kirto::InstallDebugSink([](const std::string&) {});
-    Prefs prefs{Prefs::BuiltIn{}};
+void Load(const uint8_t* data, size_t size, Prefs& prefs) {
     AnimationDocument document(prefs);
     document.pixel_budget->SetLimit(kPixelBytes);
     for (int32 start : {0, 1}) {
@@ -33,5 +30,15 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
         const FliLoad loader(file.get(), start, document);
         Check(document, loader.End());
     }
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
+    kirto::InstallDebugSink([](const std::string&) {});
+    Prefs prefs{Prefs::BuiltIn{}};
+    Load(data, size, prefs);
+    prefs.animation_faithful = true;
+    Load(data, size, prefs);
     return 0;
 }

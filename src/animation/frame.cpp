@@ -37,5 +37,6 @@ bool operator==(const Frame& a, const Frame& b) {
     return a.id == b.id && a.bitmap == b.bitmap && a.name == b.name && a.height == b.height &&
            a.width == b.width && a.x_offset == b.x_offset && a.y_offset == b.y_offset &&
            a.pause_length == b.pause_length && a.local_palette == b.local_palette &&
-           a.use_pause == b.use_pause && (a.palette == b.palette || *a.palette == *b.palette);
+           a.use_pause == b.use_pause && a.source == b.source &&
+           (a.palette == b.palette || *a.palette == *b.palette);
 }

@@ -11,6 +11,8 @@
 
 namespace kirto {
 
+struct GifSource;
+
 // Tells frames apart for the life of the program. 0 is not a frame.
 using FrameId = uint64;
 
@@ -34,6 +36,8 @@ class Frame {
     bool local_palette = false;  // written with its own color table
     bool use_pause = false;      // pause_length overrides the animation's
     std::shared_ptr<const Palette> palette;  // never null
+    // How it stood in its file; null unless it was read as browsers do.
+    std::shared_ptr<const kirto::GifSource> source;
 
     // Blank, with an id of its own and the default palette.
     Frame();

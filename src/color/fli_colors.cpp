@@ -4,9 +4,12 @@
 
 namespace kirto {
 
-void ReadFliColors(std::span<const uint8> data, int32 factor, ColorTable* colors) {
+void ReadFliColors(std::span<const uint8> data, int32 factor, ColorTable* colors, bool widen) {
     ByteReader reader(data);
-    const auto component = [&] { return static_cast<uint8>(reader.U8() * factor); };
+    const auto component = [&] {
+        const uint8 value = static_cast<uint8>(reader.U8() * factor);
+        return static_cast<uint8>(widen ? value | value >> 6 : value);
+    };
     size_t index = 0;
     for (int32 packets = reader.U16(); packets > 0; --packets) {
         index += reader.U8();

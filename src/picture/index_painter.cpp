@@ -41,7 +41,8 @@ RowPart PartOf(const IndexImage& image, int32 y, int32 picture_width) {
     const int32 there =
         image.row_lengths.empty() ? image.width : image.row_lengths[static_cast<size_t>(row)];
     const int32 count = std::clamp(picture_width - image.left, 0, there);
-    const size_t skipped = static_cast<size_t>(row) * static_cast<size_t>(image.width);
+    const size_t skipped =
+        image.repeats ? 0 : static_cast<size_t>(row) * static_cast<size_t>(image.width);
     return {image.indices.data() + skipped, static_cast<size_t>(image.left),
             static_cast<size_t>(count)};
 }
@@ -86,22 +87,70 @@ bool Agree(const SharedPixelTable& table, const IndexImage& image) {
 
 std::shared_ptr<const Picture> IndexPainter::Paint(const std::shared_ptr<const Picture>& base,
                                                    const IndexImage& image) {
-    const int32 width = base->Width();
-    const int32 height = base->Height();
-    PictureBuilder builder(width, height, base->ColorSpace(), budget_);
+    return PaintBands(*base, image, [&](const Band& band, PictureBuilder& builder) {
+        return AddBand(*base, image, band, builder);
+    });
+}
+
+std::shared_ptr<const Picture> IndexPainter::Fill(const std::shared_ptr<const Picture>& base,
+                                                  const PixelRect& rect, uint32 pixel) {
+    IndexImage image;
+    image.left = rect.left;
+    image.top = rect.top;
+    image.width = rect.width;
+    image.height = rect.height;
+    image.repeats = true;
+    return PaintBands(*base, image, [&](const Band& band, PictureBuilder& builder) {
+        return AddFilledBand(*base, image, pixel, band, builder);
+    });
+}
+
+// Leaves the base as it is but for the bands of rows that the image touches, which add() adds.
+template <typename Add>
+std::shared_ptr<const Picture> IndexPainter::PaintBands(const Picture& base,
+                                                        const IndexImage& image, const Add& add) {
+    const int32 width = base.Width();
+    const int32 height = base.Height();
+    PictureBuilder builder(width, height, base.ColorSpace(), budget_);
     const bool empty = image.width == 0 || image.height == 0;
     if (empty || image.left >= width || image.top >= height)
-        return AddRows(*base, {0, height}, builder) ? builder.Take() : nullptr;
-    const Band touched = TouchedRows(*base, image);
-    if (!AddRows(*base, {0, touched.first}, builder)) return nullptr;
+        return AddRows(base, {0, height}, builder) ? builder.Take() : nullptr;
+    const Band touched = TouchedRows(base, image);
+    if (!AddRows(base, {0, touched.first}, builder)) return nullptr;
     // What is painted is cut anew, so that strips do not become ever smaller.
     const int32 step = Strip::RowsFor(width);
     for (Band band{touched.first, 0}; band.first < touched.end; band.first = band.end) {
         band.end = std::min((band.first / step + 1) * step, touched.end);
-        if (!AddBand(*base, image, band, builder)) return nullptr;
+        if (!add(band, builder)) return nullptr;
     }
-    if (!AddRows(*base, {touched.end, height}, builder)) return nullptr;
+    if (!AddRows(base, {touched.end, height}, builder)) return nullptr;
     return builder.Take();
+}
+
+// The pixel in place of the image, by its index in the table that the rows below have, so that they
+// stay what they are.
+bool IndexPainter::AddFilledBand(const Picture& base, const IndexImage& image, uint32 pixel,
+                                 const Band& band, PictureBuilder& builder) {
+    SharedPixelTable table;
+    bool filled = true;
+    for (int32 y = band.first; y < band.end && !table; ++y) {
+        const PixelRow row = base.Row(y);
+        if (row.indices) table = *row.table;
+        filled = filled && !row.indices && !row.pixels && row.solid == pixel;
+    }
+    if (filled) return AddRows(base, band, builder);
+    int32 index = table ? IndexOf(pixel, *table) : -1;
+    if (index < 0) {
+        auto own = std::make_shared<PixelTable>();
+        own->pixels.fill(pixel);
+        table = std::move(own);
+        index = 0;
+    }
+    const std::vector<uint8> row(static_cast<size_t>(image.width), static_cast<uint8>(index));
+    IndexImage filling = image;
+    filling.table = std::move(table);
+    filling.indices = row;
+    return AddBand(base, filling, band, builder);
 }
 
 // The rows that get new strips: those of the image, and where the base has become a list of very
@@ -186,7 +235,7 @@ std::span<const uint8> IndexPainter::PaintIndices(const Picture& base, const Ind
     const size_t width = static_cast<size_t>(base.Width());
     const size_t size = width * static_cast<size_t>(band.end - band.first);
     const bool covered = Covers(image, band.first, band.end, base.Width());
-    if (covered && image.width == base.Width())
+    if (covered && image.width == base.Width() && !image.repeats)
         return {PartOf(image, band.first, base.Width()).indices, size};
     work_.resize(size);
     uint8* target = work_.data();

@@ -9,13 +9,14 @@
 #include "picture/index_counts.h"
 #include "picture/picture.h"
 #include "picture/picture_builder.h"
+#include "picture/pixel_rect.h"
 
 namespace kirto {
 
 // A rectangle of indices in memory, that is painted over a picture. What lies outside the picture
 // is dropped.
 struct IndexImage {
-    std::span<const uint8> indices;  // row by row, width of each
+    std::span<const uint8> indices;  // row by row, width of each; or the same row again and again
     int32 left = 0;                  // on the picture, 0 or more, as top
     int32 top = 0;
     int32 width = 0;
@@ -27,6 +28,7 @@ struct IndexImage {
     // The indices of each strip's rows, counted, where the image is the whole picture; may be
     // empty.
     std::span<const IndexCounts> counts;
+    bool repeats = false;  // there is one row of indices, for all rows
 };
 
 // Makes pictures by painting images of indices over others. What an image does not touch is shared
@@ -39,6 +41,9 @@ class IndexPainter {
     // A new picture, the image over the base, which has rows; null when memory is short.
     std::shared_ptr<const Picture> Paint(const std::shared_ptr<const Picture>& base,
                                          const IndexImage& image);
+    // The same with a rectangle of one pixel in the place of an image.
+    std::shared_ptr<const Picture> Fill(const std::shared_ptr<const Picture>& base,
+                                        const PixelRect& rect, uint32 pixel);
 
   private:
     // The rows from first on, up to end.
@@ -47,6 +52,11 @@ class IndexPainter {
         int32 end = 0;
     };
 
+    template <typename Add>
+    std::shared_ptr<const Picture> PaintBands(const Picture& base, const IndexImage& image,
+                                              const Add& add);
+    bool AddFilledBand(const Picture& base, const IndexImage& image, uint32 pixel, const Band& band,
+                       PictureBuilder& builder);
     static Band TouchedRows(const Picture& base, const IndexImage& image);
     static bool AddRows(const Picture& base, const Band& rows, PictureBuilder& builder);
     bool AddBand(const Picture& base, const IndexImage& image, const Band& band,

@@ -27,6 +27,9 @@ using Member = std::variant<int32 Prefs::*, bool Prefs::*, double Prefs::*, std:
 struct Setting {
     const char* key;
     Member member;
+    // Left out of a file that lacks it as long as it has its built-in value: files of those who
+    // never touch it stay as they are.
+    bool optional = false;
 };
 
 // Every setting, in the order of reading and writing.
@@ -58,13 +61,15 @@ constexpr Setting kSettings[] = {
     {"misc_windowdimensions", &Prefs::misc_windowdimensions},
     {"misc_tempfilelocation", &Prefs::misc_tempfilelocation},
     {"misc_preferredmode", &Prefs::misc_preferredmode},
+    {"animation_faithful", &Prefs::animation_faithful, true},
 };
 
-// Calls action(key, member pointer) for each setting in order, until one returns false; false then.
+// Calls action(setting, member pointer) for each setting in order, until one returns false; false
+// then.
 template <typename Action>
 bool ForEachMember(const Action& action) {
     return std::all_of(std::begin(kSettings), std::end(kSettings), [&](const Setting& setting) {
-        return std::visit([&](auto member) { return action(setting.key, member); }, setting.member);
+        return std::visit([&](auto member) { return action(setting, member); }, setting.member);
     });
 }
 
@@ -157,6 +162,12 @@ int64 ReadValue(BNode& node, const char* key, std::string* value) {
     return read;
 }
 
+// Whether the node has the attribute, of the value's type.
+template <typename T>
+bool Has(BNode& node, const char* key, T value) {
+    return ReadValue(node, key, &value) != B_ENTRY_NOT_FOUND;
+}
+
 template <typename T>
 bool WriteValue(BNode& node, const char* key, const T& value) {
     return node.WriteAttr(key, Kind<T>::kType, &value, sizeof(value)) ==
@@ -224,8 +235,9 @@ Prefs::Prefs(BNode& node) : Prefs(BuiltIn{}) {
 void Prefs::Load(BNode& node) {
     Prefs defaults{BuiltIn{}};
     if (!defaults.misc_tempfilelocation.ends_with('/')) defaults.misc_tempfilelocation += '/';
-    const bool complete = ForEachMember([&](const char* key, auto member) {
-        return Get(node, key, &(this->*member), &(defaults.*member));
+    const bool complete = ForEachMember([&](const Setting& setting, auto member) {
+        const auto* written_back = setting.optional ? nullptr : &(defaults.*member);
+        return Get(node, setting.key, &(this->*member), written_back);
     });
     SyncWrites(node, complete);
 }
@@ -239,8 +251,12 @@ void Prefs::Save(const BRect& window_frame) {
 void Prefs::Save(BNode& node, const BRect& window_frame) {
     Prefs values(*this);
     values.misc_windowdimensions = window_frame;
-    const bool complete = ForEachMember(
-        [&](const char* key, auto member) { return Write(node, "Put", key, values.*member); });
+    const Prefs built_in{BuiltIn{}};
+    const bool complete = ForEachMember([&](const Setting& setting, auto member) {
+        const bool usual = setting.optional && values.*member == built_in.*member;
+        if (usual && !Has(node, setting.key, values.*member)) return true;
+        return Write(node, "Put", setting.key, values.*member);
+    });
     SyncWrites(node, complete);
 }
 
@@ -256,6 +272,7 @@ bool Prefs::Get(BNode& node, const char* key, T* value, const T* default_value) 
     const int64 read = ReadValue(node, key, value);
     if (read >= 0) return true;
     if (read == B_ENTRY_NOT_FOUND) {
+        if (!default_value) return true;
         *value = *default_value;
         return Write(node, "Get", key, *value);
     }
@@ -284,15 +301,15 @@ bool Prefs::Write(BNode& node, const char* verb, const char* key, const T& value
 }
 
 void Prefs::AddTo(BMessage* message) const {
-    ForEachMember([&](const char* key, auto member) {
-        AddField(message, key, this->*member);
+    ForEachMember([&](const Setting& setting, auto member) {
+        AddField(message, setting.key, this->*member);
         return true;
     });
 }
 
 void Prefs::TakeFrom(const BMessage& message) {
-    ForEachMember([&](const char* key, auto member) {
-        FindField(message, key, &(this->*member));
+    ForEachMember([&](const Setting& setting, auto member) {
+        FindField(message, setting.key, &(this->*member));
         return true;
     });
 }

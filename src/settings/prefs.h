@@ -41,6 +41,8 @@ class Prefs {
     BRect misc_windowdimensions{100, 80, 649, 479};  // screen coordinates
     std::string misc_tempfilelocation;               // directory; at most 1023 bytes
     int32 misc_preferredmode = 0;                    // 0: thumbnails, 1: frame list
+    // Read animations as browsers show them. Stands in the settings file only once it was on.
+    bool animation_faithful = false;
 
     bool failed = false;       // a read or write failed; never cleared
     std::string damaged_copy;  // where an unreadable settings file was put aside, or empty
@@ -49,7 +51,7 @@ class Prefs {
     struct BuiltIn {};
     explicit Prefs(BuiltIn);
     // Loads every setting from the settings file ("Kirto_settings" in the user's configuration
-    // folder), writing back the default of each that is missing.
+    // folder), writing back the default of each that is missing and belongs there.
     Prefs();
     // As above, from the given node.
     explicit Prefs(BNode& node);
@@ -88,7 +90,8 @@ class Prefs {
 
   private:
     void Load(BNode& node);
-    // The two halves of the helpers; verb is "Get" or "Put", for the debug line of a failed write.
+    // The two halves of the helpers. Without a default a missing value stays as it is. verb is
+    // "Get" or "Put", for the debug line of a failed write.
     template <typename T>
     bool Get(BNode& node, const char* key, T* value, const T* default_value);
     template <typename T>

@@ -3,6 +3,7 @@
 #include <functional>
 #include <gtest/gtest.h>
 
+#include "animation/gif_source.h"
 #include "support/test_support.h"
 
 namespace kirto::test {
@@ -245,6 +246,7 @@ TEST(Frame, EqualsACopyUntilAnyOfItsFieldsChanges) {
         [](Frame& f) { f.pause_length = 2; },
         [](Frame& f) { f.local_palette = true; },
         [](Frame& f) { f.use_pause = true; },
+        [](Frame& f) { f.source = std::make_shared<const GifSource>(); },
         [](Frame& f) { f.palette = SharePalette(Palette(kPaletteGreyscale)); }};
     for (const auto& edit : edits) {
         Frame copy = frame;

@@ -224,6 +224,19 @@ TEST(KirtoCli, DiscardsADamagedAnimationAndFails) {
     EXPECT_FALSE(std::filesystem::exists(home.File("new.gif")));
 }
 
+TEST(KirtoCli, ReadsAsBrowsersDoFromWhereItIsToldTo) {
+    const CliHome home;
+    home.Write("damaged.gif", DamagedGif(2));
+
+    for (const Arguments& told : {Arguments{"--faithful"}, {"--set", "animation_faithful=true"}}) {
+        Arguments arguments = told;
+        arguments.insert(arguments.end(), {"--open", "damaged.gif"});
+        EXPECT_EQ(home.Info(arguments)["frame_count"], 2);
+    }
+    ExpectFailed(home, {"--open", "damaged.gif", "--faithful"},
+                 "damaged.gif: " + std::string(kDamaged));
+}
+
 TEST(KirtoCli, SalvagesWhatIsBeforeTheDamageWhereItIsToldTo) {
     const CliHome home;
     home.Write("damaged.gif", DamagedGif(2));

@@ -33,6 +33,7 @@ TEST(KirtoCli, NamesEveryOptionInItsHelp) {
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(result.err, "");
     for (const char* text : {"--set KEY=VALUE",
+                             "--faithful",
                              "--open FILE",
                              "--insert-animation FILE@N",
                              "--select N",

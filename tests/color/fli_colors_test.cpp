@@ -24,6 +24,12 @@ TEST(FliColors, KeepTheLowByteOfAMultipliedComponent) {
     EXPECT_EQ(colors[0], (rgb_color{252, 0, 4, 255}));
 }
 
+TEST(FliColors, WidenSixBitsToTheFullRange) {
+    ColorTable colors{};
+    ReadFliColors(std::vector<uint8>{1, 0, 0, 1, 63, 32, 1}, 4, &colors, true);
+    EXPECT_EQ(colors[0], (rgb_color{255, 130, 4, 255}));
+}
+
 TEST(FliColors, EndWithTheDataInsideAColour) {
     const ColorTable colors = TableOf({1, 0, 0, 2, 1, 2, 3, 4, 5});
     EXPECT_EQ(colors[0], (rgb_color{1, 2, 3, 255}));

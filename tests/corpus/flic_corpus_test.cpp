@@ -1,5 +1,6 @@
 // Runs FliLoad over FLI and FLC files from elsewhere, whose frames an independent decoder
 // described.
+#include <cmath>
 #include <gtest/gtest.h>
 #include <map>
 #include <string>
@@ -182,6 +183,35 @@ TEST_F(FlicCorpus, FilesThatStartWithAPrefixRecordAreRefused) {
         ++refused;
     }
     EXPECT_GT(refused, 0);
+}
+
+TEST_F(FlicCorpus, ByTheRulesOfPlayersEachFrameIsThatOfTheTable) {
+    for (const auto& [file, rows] : files_) {
+        SCOPED_TRACE(file);
+        const std::vector<uint8> bytes = Bytes(file);
+        DocumentFixture fixture;
+        fixture.prefs.animation_faithful = true;
+        const DebugRecorder lines;
+
+        const auto memory = BFile::OnMemory(bytes);
+        const FliLoad loader(memory.get(), 0, fixture.document);
+
+        EXPECT_FALSE(loader.failed);
+        const double pause = fixture.document.Current()->pause_length;
+        // A frame that repeats the one before makes it longer.
+        std::vector<std::string> shown;
+        for (const FramePointer& frame : fixture.document.Current()->frames) {
+            const double length = frame->use_pause ? frame->pause_length : pause;
+            const std::string digest = Md5OfColors(ColorsOf(*frame));
+            const int64 count = pause > 0 ? std::llround(length / pause) : 1;
+            shown.insert(shown.end(), static_cast<size_t>(count), digest);
+        }
+        // What comes behind the frames that the header counts leads back to the first.
+        std::vector<std::string> expected;
+        for (size_t i = 0; i < ReadLittle16(&bytes[6]); ++i)
+            expected.push_back(rows[i].at("rgba_md5"));
+        EXPECT_EQ(shown, expected);
+    }
 }
 
 TEST_F(FlicCorpus, DamagedFilesEndAndKeepWhatIsSound) {

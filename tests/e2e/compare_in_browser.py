@@ -4,35 +4,23 @@
     compare_in_browser.py FILE.gif    prints them as JSON, and fails where ImageMagick, which is
                                       told to put the frames on one canvas, gets other pictures
 
-The browser is Chromium, without a window; the file and the page that decodes it come from a server
-on this machine.
+The browser is Chromium, without a window.
 """
 
 import argparse
-import base64
-import contextlib
 import hashlib
-import http.server
 import json
-import os
 import pathlib
-import queue
 import shutil
-import signal
 import subprocess
 import sys
-import tempfile
-import threading
-import time
 
-DEADLINE = 120.0  # seconds; a browser's first start on a busy machine takes its time
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "oracle"))
+import decode_in_browser  # noqa: E402
 
-PROGRAMS = ("chromium", "convert")
+DEADLINE = 120.0  # seconds
 
-# The network is not used, so nothing may be looked up or updated.
-CHROMIUM = ("chromium", "--headless", "--no-sandbox", "--disable-gpu", "--disable-quic",
-            "--disable-dev-shm-usage", "--no-first-run", "--disable-background-networking",
-            "--disable-component-update", "--disable-sync")
+PROGRAMS = (decode_in_browser.PROGRAM, "convert")
 
 
 class Frame:
@@ -48,79 +36,20 @@ class Frame:
                 "sha256": hashlib.sha256(self.rgba).hexdigest()}
 
 
-class _Server(http.server.ThreadingHTTPServer):
-    daemon_threads = True
-
-    def __init__(self, animation):
-        super().__init__(("127.0.0.1", 0), _Handler)
-        page = pathlib.Path(__file__).with_suffix(".html")
-        self.files = {"/": ("text/html", page.read_bytes()),
-                      "/animation.gif": ("image/gif", animation)}
-        self.results = queue.Queue()
-
-
-class _Handler(http.server.BaseHTTPRequestHandler):
-    def do_GET(self):
-        if self.path not in self.server.files:
-            self.send_error(404)
-            return
-        kind, content = self.server.files[self.path]
-        self.send_response(200)
-        self.send_header("Content-Type", kind)
-        self.send_header("Content-Length", str(len(content)))
-        self.end_headers()
-        self.wfile.write(content)
-
-    def do_POST(self):
-        body = self.rfile.read(int(self.headers["Content-Length"]))
-        self.send_response(204)
-        self.end_headers()
-        self.server.results.put(json.loads(body))
-
-    def log_message(self, *_):
-        pass
-
-
-@contextlib.contextmanager
-def _browser(url):
-    """Runs the browser on the page; it and its helpers are gone afterwards."""
-    with tempfile.TemporaryDirectory(prefix="kirto-browser-", ignore_cleanup_errors=True) as profile:
-        log = pathlib.Path(profile, "output")
-        with open(log, "wb") as output:
-            process = subprocess.Popen(
-                [*CHROMIUM, "--remote-debugging-port=0", f"--user-data-dir={profile}", url],
-                stdin=subprocess.DEVNULL, stdout=output, stderr=output, start_new_session=True)
-        try:
-            yield process, log
-        finally:
-            with contextlib.suppress(ProcessLookupError):
-                os.killpg(process.pid, signal.SIGKILL)
-            process.wait()
-
-
-def _wait_for_result(server, process, log):
-    end = time.monotonic() + DEADLINE
-    while True:
-        with contextlib.suppress(queue.Empty):
-            return server.results.get(timeout=0.2)
-        if process.poll() is not None or time.monotonic() > end:
-            raise AssertionError("the browser gave no answer: " + log.read_text(errors="replace"))
+def _rgba(pixels):
+    """Blue, green, red and alpha in the other order."""
+    turned = bytearray(pixels)
+    turned[0::4], turned[2::4] = pixels[2::4], pixels[0::4]
+    return bytes(turned)
 
 
 def browser_frames(path):
     """The frames of a GIF as Chromium shows them."""
-    server = _Server(pathlib.Path(path).read_bytes())
-    threading.Thread(target=server.serve_forever, daemon=True).start()
-    try:
-        with _browser(f"http://127.0.0.1:{server.server_port}/") as (process, log):
-            result = _wait_for_result(server, process, log)
-    finally:
-        server.shutdown()
-        server.server_close()
-    if "error" in result:
-        raise AssertionError(f"the browser can't decode {path}: {result['error']}")
-    return [Frame(frame["width"], frame["height"], frame["milliseconds"],
-                  base64.b64decode(frame["rgba"])) for frame in result["frames"]]
+    decoded = decode_in_browser.decode([path], keep=_rgba)[0]
+    if decoded.error:
+        raise AssertionError(f"the browser can't decode {path}: {decoded.error}")
+    return [Frame(width, height, microseconds / 1000, rgba)
+            for width, height, microseconds, rgba in decoded.frames]
 
 
 def imagemagick_frames(path):

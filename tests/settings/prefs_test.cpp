@@ -172,7 +172,9 @@ TEST_F(PrefsTest, ANodeWithoutAttributesGainsAllTwentySevenWithTheirDefaults) {
     const Prefs prefs(node);
 
     EXPECT_EQ(node.attributes, DefaultAttributes());
-    EXPECT_EQ(node.reads, kKeysInOrder);
+    std::vector<std::string> reads = kKeysInOrder;
+    reads.emplace_back("animation_faithful");
+    EXPECT_EQ(node.reads, reads);
     EXPECT_EQ(node.writes, kKeysInOrder);
     EXPECT_EQ(node.syncs, 1);
     EXPECT_EQ(prefs.misc_tempfilelocation, "/home/ann/");
@@ -205,6 +207,33 @@ TEST_F(PrefsTest, ANodeThatLacksOnlyTheSmallestThumbnailHeightGainsThatOne) {
     EXPECT_EQ(prefs.global_width, 17);
     EXPECT_EQ(prefs.thumbnail_maxheight, 18);
     EXPECT_EQ(prefs.misc_preferredmode, 1);
+}
+
+TEST_F(PrefsTest, FaithfulReadingStandsInTheFileOnlyOnceItWasOn) {
+    FakeNode node;
+    Prefs prefs(node);
+    EXPECT_FALSE(prefs.animation_faithful);
+    prefs.Save(node, kWindow);
+    EXPECT_EQ(node.attributes.count("animation_faithful"), 0u);
+
+    prefs.animation_faithful = true;
+    prefs.Save(node, kWindow);
+    EXPECT_EQ(node.writes.back(), "animation_faithful");
+    EXPECT_TRUE(Prefs(node).animation_faithful);
+
+    prefs.animation_faithful = false;
+    prefs.Save(node, kWindow);
+    EXPECT_EQ(node.attributes["animation_faithful"], Bool(false));
+    EXPECT_FALSE(Prefs(node).animation_faithful);
+}
+
+TEST_F(PrefsTest, FaithfulReadingIsNotLookedForAfterAFailure) {
+    FakeNode node;
+    node.attributes["animation_faithful"] = Bool(true);
+    node.failing_read = "misc_preferredmode";
+
+    EXPECT_FALSE(Prefs(node).animation_faithful);
+    EXPECT_EQ(node.reads.back(), "misc_preferredmode");
 }
 
 TEST_F(PrefsTest, StoredValuesOfEveryTypeAreRead) {
@@ -766,7 +795,9 @@ TEST(PrefsMessage, HasAFieldForEveryKeyInOrder) {
     std::vector<std::string> keys;
     for (int32 i = 0; i < message.CountNames(); ++i)
         keys.emplace_back(message.NameAt(i));
-    EXPECT_EQ(keys, kKeysInOrder);
+    std::vector<std::string> expected = kKeysInOrder;
+    expected.emplace_back("animation_faithful");
+    EXPECT_EQ(keys, expected);
 }
 
 TEST(PrefsMessage, HasAFieldOfEachTypeWithTheSettingsValue) {

@@ -60,9 +60,13 @@ GifBuilder& GifBuilder::Add(const Image& image) {
 }
 
 GifBuilder& GifBuilder::AddCodes(const Image& image, const std::vector<int32>& codes) {
+    return AddData(image, PackCodes(std::max(image.min_code_size, 2), codes));
+}
+
+GifBuilder& GifBuilder::AddData(const Image& image, const std::vector<uint8>& data) {
     PutDescriptor(image);
     bytes_.push_back(static_cast<uint8>(image.min_code_size));
-    return Bytes(SubBlocks(PackCodes(std::max(image.min_code_size, 2), codes)));
+    return Bytes(SubBlocks(data));
 }
 
 GifBuilder& GifBuilder::Bytes(const std::vector<uint8>& bytes) {

@@ -38,6 +38,8 @@ class GifBuilder {
     GifBuilder& Add(const Image& image);
     // Descriptor and local table, then data made of exactly these codes.
     GifBuilder& AddCodes(const Image& image, const std::vector<int32>& codes);
+    // Descriptor and local table, then this data in sub-blocks.
+    GifBuilder& AddData(const Image& image, const std::vector<uint8>& data);
     GifBuilder& Bytes(const std::vector<uint8>& bytes);
     GifBuilder& Trailer();
 

@@ -56,6 +56,12 @@ void FliCanvas::SetTable(const PixelTable& table) {
     table_ = std::make_shared<const PixelTable>(table);
 }
 
+void FliCanvas::Recolor(const PixelTable& table) {
+    if (*table_ == table) return;
+    table_ = std::make_shared<const PixelTable>(table);
+    recolored_ = true;
+}
+
 // What is drawn keeps its colors whatever indices mean later.
 bool FliCanvas::TurnIntoPixels() {
     pixels_ = std::make_unique<BBitmap>(BRect::OfSize(width_, height_), B_RGB32, budget_);
@@ -67,6 +73,7 @@ bool FliCanvas::TurnIntoPixels() {
         row.Expand(width_, pixels_->Row(y));
     }
     indices_ = nullptr;
+    stored_.clear();
     return ready_;
 }
 
@@ -112,23 +119,30 @@ std::shared_ptr<const Picture> FliCanvas::MakePicture(const Work& work) {
     if (!ready_) return nullptr;
     PictureBuilder builder(width_, height_, B_RGB32, budget_, last_);
     const int32 step = Strip::RowsFor(width_);
+    stored_.resize(static_cast<size_t>((height_ + step - 1) / step));
     for (int32 y = 0; y < height_;) {
         if (work.StopRequested()) return nullptr;
         const int32 end = std::min(y + step, height_);
-        const size_t number = static_cast<size_t>(y / step);
-        const bool added = IsChanged(y, end) ? AddRows(y, end, builder)
-                                             : builder.AddStrip(last_->AllStrips()[number]);
+        const bool added = AddBand(static_cast<size_t>(y / step), y, end, builder);
         if (!added) return nullptr;
         y = end;
     }
     last_ = builder.Take();
     changed_rows_.assign(changed_rows_.size(), false);
+    recolored_ = false;
     marked_end_ = marked_start_;
     return last_;
 }
 
+// The rows as they were in the last picture where nothing has been drawn on them since.
+bool FliCanvas::AddBand(size_t number, int32 first_row, int32 end, PictureBuilder& builder) {
+    if (IsChanged(first_row, end)) return AddRows(number, first_row, end, builder);
+    if (!recolored_) return builder.AddStrip(last_->AllStrips()[number]);
+    return builder.AddStrip(StripOf(number, first_row, end - first_row));
+}
+
 // Rows of the canvas as a new strip.
-bool FliCanvas::AddRows(int32 first_row, int32 end, PictureBuilder& builder) const {
+bool FliCanvas::AddRows(size_t number, int32 first_row, int32 end, PictureBuilder& builder) {
     if (pixels_) {
         for (int32 y = first_row; y < end; ++y) {
             if (!builder.AddRow(pixels_->Row(y))) return false;
@@ -138,12 +152,21 @@ bool FliCanvas::AddRows(int32 first_row, int32 end, PictureBuilder& builder) con
     const int32 rows = end - first_row;
     const uint8* indices = indices_->Bytes() + int64{first_row} * width_;
     const size_t size = static_cast<size_t>(rows) * static_cast<size_t>(width_);
-    if (std::memcmp(indices, indices + 1, size - 1) == 0)
-        return builder.AddStrip(Strip::Solid(table_->pixels[indices[0]], width_, rows));
-    const std::shared_ptr<PixelStorage> storage = PixelStorage::Make(size, budget_);
-    if (!storage) return false;
-    std::memcpy(storage->Bytes(), indices, size);
-    return builder.AddStrip(Strip::Indexed(storage, table_, width_, rows));
+    stored_[number] = nullptr;
+    if (std::memcmp(indices, indices + 1, size - 1) != 0) {
+        const std::shared_ptr<PixelStorage> storage = PixelStorage::Make(size, budget_);
+        if (!storage) return false;
+        std::memcpy(storage->Bytes(), indices, size);
+        stored_[number] = storage;
+    }
+    return builder.AddStrip(StripOf(number, first_row, rows));
+}
+
+// What is stored of the rows, in today's colors.
+std::shared_ptr<const Strip> FliCanvas::StripOf(size_t number, int32 first_row, int32 rows) const {
+    if (stored_[number]) return Strip::Indexed(stored_[number], table_, width_, rows);
+    const uint8 index = indices_->Bytes()[int64{first_row} * width_];
+    return Strip::Solid(table_->pixels[index], width_, rows);
 }
 
 }  // namespace kirto

@@ -33,11 +33,16 @@ class FliCanvas {
     bool Take(const std::shared_ptr<const Picture>& picture, const Work& work);
     // What indices mean from now on.
     void SetTable(const PixelTable& table);
+    // The same for all indices that are drawn, too, as on a screen with a palette. Not after a
+    // picture was taken or after SetTable().
+    void Recolor(const PixelTable& table);
 
     // Draw at a position, in pixels from the first row's start: each index once, or two in turn,
     // count of them. All of it lies on the canvas.
     void Put(int64 position, std::span<const uint8> indices);
     void RepeatPair(int64 position, uint8 first, uint8 second, int64 count);
+    // Makes all pixels those of index 0.
+    void Clear() { RepeatPair(0, 0, 0, PixelCount()); }
 
     // What is on the canvas; it shares what has not changed with the picture that was made last.
     // Null when memory is short or the work was stopped.
@@ -47,7 +52,9 @@ class FliCanvas {
     bool TurnIntoPixels();
     void Mark(int64 position, int64 count);
     bool IsChanged(int32 first_row, int32 end) const;
-    bool AddRows(int32 first_row, int32 end, PictureBuilder& builder) const;
+    bool AddBand(size_t number, int32 first_row, int32 end, PictureBuilder& builder);
+    bool AddRows(size_t number, int32 first_row, int32 end, PictureBuilder& builder);
+    std::shared_ptr<const Strip> StripOf(size_t number, int32 first_row, int32 rows) const;
 
     const int32 width_;
     const int32 height_;
@@ -57,11 +64,14 @@ class FliCanvas {
     SharedPixelTable table_;
     bool ready_ = false;
     bool drawn_ = false;              // something is on it
+    bool recolored_ = false;          // since the last picture was made
     std::vector<bool> changed_rows_;  // since the last picture was made
     // The pixels of the row that was marked last.
     int64 marked_start_ = 0;
     int64 marked_end_ = 0;
     std::shared_ptr<const Picture> last_;
+    // The indices of its strips; null for those of one color.
+    std::vector<std::shared_ptr<const PixelStorage>> stored_;
 };
 
 }  // namespace kirto

@@ -10,7 +10,6 @@
 #include "color/fli_colors.h"
 #include "color/pixel_table.h"
 #include "color/shared_palette.h"
-#include "formats/fli/fli_packets.h"
 #include "formats/fli/fli_pixel_writer.h"
 
 namespace kirto {
@@ -54,9 +53,9 @@ bool HasPixelsToCopy(const Picture* picture) {
 
 }  // namespace
 
-FliDecoder::FliDecoder(BFile& file, const Palette& global, std::shared_ptr<PixelBudget> budget,
-                       Work& work)
-    : input_(file, work), budget_(std::move(budget)), work_(work), global_(global) {}
+FliDecoder::FliDecoder(BFile& file, FliRules rules, const Palette& global,
+                       std::shared_ptr<PixelBudget> budget, Work& work)
+    : input_(file, work), rules_(rules), budget_(std::move(budget)), work_(work), global_(global) {}
 
 bool FliDecoder::ReadFliHeader(FliHeader* result) {
     uint8 header[kHeaderSize];
@@ -69,17 +68,24 @@ bool FliDecoder::ReadFliHeader(FliHeader* result) {
     result->frame_count = ReadLittle16(header + 6);
     width_ = result->width = ReadLittle16(header + 8);
     height_ = result->height = ReadLittle16(header + 10);
-    result->seconds = ReadLittle16(header + 16) / (is_fli ? 70.0 : 1000.0);
+    const int32 speed = ReadLittle16(header + 16);
+    result->seconds = speed / (is_fli ? 70.0 : 1000.0);
+    result->hundredths = is_fli ? speed * 100 / 70.0 : speed / 10.0;
     return true;
 }
 
 bool FliDecoder::ReadFliFrameHeader() {
     uint8 header[kRecordHeaderSize];
+    const int64 start = input_.Position();
     led_back_ = !input_.StartRecord();
     if (!input_.Read(header)) return false;
     bytes_left_ = static_cast<int32>(ReadLittle32(header));
+    record_end_ = start + bytes_left_;
     const uint16 type = ReadLittle16(header + 4);
-    if (type == kSkippedRecord) {
+    const bool players = rules_ == FliRules::kPlayers;
+    // Nothing but its size tells how a player finds the next record.
+    if (players && bytes_left_ < kRecordHeaderSize) return false;
+    if (type == kSkippedRecord || (players && type != kFrameRecord)) {
         skipped_block_ = true;
     } else if (type != kFrameRecord) {
         DebugLine("FliLoad::ReadFliFrameHeader() - Wrong magic number in FLI frame\n");
@@ -92,17 +98,23 @@ bool FliDecoder::ReadFliFrameHeader() {
 FliDecoder::Record FliDecoder::ReadRecord(int32 index, const Place& place, Frame* frame) {
     place_ = &place;
     if (!ReadFliFrameHeader()) return Record::kBroken;
-    if (skipped_block_) {
-        skipped_block_ = false;
-        // Damage in a block that is not shown is no reason to stop; if the file's end was the
-        // reason, the next record finds it too.
-        static_cast<void>(ReadFLCNewFrame());
-        return Record::kSkipped;
+    if (skipped_block_) return ReadOtherRecord();
+    const bool shows_previous = rules_ == FliRules::kDefined || canvas_;
+    if (chunk_count_ == 0 && shows_previous) {
+        return GoToEnd() ? Record::kLonger : Record::kBroken;
     }
-    if (chunk_count_ == 0) return Record::kLonger;
     if (!ReadFliFrameData(index)) return Record::kBroken;
     *frame = std::move(frame_);
     return Record::kFrame;
+}
+
+FliDecoder::Record FliDecoder::ReadOtherRecord() {
+    skipped_block_ = false;
+    if (rules_ == FliRules::kPlayers) return GoToEnd() ? Record::kSkipped : Record::kBroken;
+    // Damage in a block that is not shown is no reason to stop; if the file's end was the reason,
+    // the next record finds it too.
+    static_cast<void>(ReadFLCNewFrame());
+    return Record::kSkipped;
 }
 
 bool FliDecoder::ReadFLCNewFrame() {
@@ -113,19 +125,47 @@ bool FliDecoder::ReadFLCNewFrame() {
     return true;
 }
 
+// Players take the next record from where this one says it ends.
+bool FliDecoder::GoToEnd() {
+    return rules_ == FliRules::kDefined || input_.Skip(record_end_ - input_.Position());
+}
+
 bool FliDecoder::ReadFliFrameData(int32 index) {
     if (!StartFrame(index)) return false;
     blank_ = index == 0;
     if (!blank_ && !CopyPreviousFrame()) return false;
+    const bool read = rules_ == FliRules::kPlayers ? ReadChunksBySize() : ReadChunks();
+    if (!read) return false;
+    StartPicture();
+    if (rules_ == FliRules::kPlayers) canvas_->Recolor(CurrentTable());
+    return FinishFrame();
+}
+
+bool FliDecoder::ReadChunks() {
     for (int32 i = 0; i < chunk_count_; ++i) {
-        if (!ReadChunk()) return false;
+        Chunk chunk;
+        if (!ReadChunkHeader(&chunk)) return false;
+        bytes_left_ -= chunk.size;
+        if (!ReadChunkData(chunk)) return false;
     }
     // A record whose chunks claim more than it holds ends where it says. Bytes that no chunk covers
     // are deliberately not skipped: the next record follows the last chunk.
     bytes_left_ -= kRecordHeaderSize;
-    if (bytes_left_ < 0 && !input_.Skip(bytes_left_)) return false;
-    StartPicture();
-    return FinishFrame();
+    return bytes_left_ >= 0 || input_.Skip(bytes_left_);
+}
+
+// Each chunk ends where it says, and none goes further than its record and the file do.
+bool FliDecoder::ReadChunksBySize() {
+    const int64 end = std::min(record_end_, input_.Size());
+    for (int32 i = 0; i < chunk_count_ && input_.Position() + kChunkHeaderSize <= end; ++i) {
+        Chunk chunk;
+        if (!ReadChunkHeader(&chunk)) return false;
+        if (chunk.size < kChunkHeaderSize) break;
+        const int64 chunk_end = std::min(chunk.start + chunk.size, end);
+        chunk.size = static_cast<int32>(chunk_end - chunk.start);
+        if (!ReadChunkData(chunk) || !input_.Skip(chunk_end - input_.Position())) return false;
+    }
+    return GoToEnd();
 }
 
 bool FliDecoder::StartFrame(int32 index) {
@@ -159,7 +199,7 @@ bool FliDecoder::ChargeFrame(int64 picture_bytes) {
 bool FliDecoder::CopyPreviousFrame() {
     const FramePointer& previous = place_->previous;
     if (!previous || !HasPixelsToCopy(previous->bitmap.get())) return false;
-    if (!canvas_->Take(previous->bitmap, work_)) {
+    if (rules_ == FliRules::kDefined && !canvas_->Take(previous->bitmap, work_)) {
         out_of_memory_ = !canvas_->Ready();
         return false;
     }
@@ -175,6 +215,7 @@ void FliDecoder::TakeLocalPalette(const Palette& source) {
 
 bool FliDecoder::ReadChunkHeader(Chunk* chunk) {
     uint8 header[kChunkHeaderSize];
+    chunk->start = input_.Position();
     if (!input_.Read(header)) return false;
     chunk->size = static_cast<int32>(ReadLittle32(header));
     chunk->type = ReadLittle16(header + 4);
@@ -185,10 +226,7 @@ int64 FliDecoder::Chunk::DataSize() const {
     return size - kChunkHeaderSize;
 }
 
-bool FliDecoder::ReadChunk() {
-    Chunk chunk;
-    if (!ReadChunkHeader(&chunk)) return false;
-    bytes_left_ -= chunk.size;
+bool FliDecoder::ReadChunkData(const Chunk& chunk) {
     switch (chunk.type) {
         case kChunkColor256:
             return ReadFliCOLORChunk(chunk.DataSize(), true);
@@ -203,7 +241,7 @@ bool FliDecoder::ReadChunk() {
         case kChunkBrun:
             return ReadFliBRUNChunk(chunk.DataSize());
         case kChunkCopy:
-            return ReadFliCOPYChunk();
+            return ReadFliCOPYChunk(chunk.DataSize());
         case kChunkMini:
             return ReadFliMINIChunk(chunk.DataSize());
         default:
@@ -239,15 +277,16 @@ bool FliDecoder::FinishFrame() {
 bool FliDecoder::ReadFliCOLORChunk(int64 size, bool full8bit) {
     std::span<const uint8> data;
     if (!input_.ReadBlock(size, &data)) return false;
-    // Six bits are deliberately not widened to reach 255.
+    // By the defined rules six bits are deliberately not widened to reach 255.
+    const bool widen = !full8bit && rules_ == FliRules::kPlayers;
     const int32 factor = full8bit ? 1 : 4;
     if (place_->defines_global) {
         MarkReadFromFile(&global_);
-        ReadFliColors(data, factor, &global_.colors);
+        ReadFliColors(data, factor, &global_.colors, widen);
         return true;
     }
     if (!frame_.local_palette && !TakePreviousPalette()) return false;
-    ReadFliColors(data, factor, &local_palette_->colors);
+    ReadFliColors(data, factor, &local_palette_->colors, widen);
     return true;
 }
 
@@ -263,55 +302,36 @@ bool FliDecoder::ReadFliLCChunk(int64 size) {
     if (!input_.ReadBlock(size, &data)) return false;
     ByteReader reader(data);
     FliPixelWriter writer = Writer();
-    int32 y = reader.U16();
-    for (int32 lines = reader.U16(); lines > 0 && GoesOn(reader); --lines, ++y) {
-        writer.MoveToRow(y);
-        DrawPackets(DrawLcPacket, reader.U8(), reader, writer);
-    }
+    DrawLcChunk(reader, writer, work_);
     return true;
 }
 
-// Rows are deliberately not aligned anew: each starts where the packets of the one before ended.
 bool FliDecoder::ReadFliBRUNChunk(int64 size) {
     std::span<const uint8> data;
     if (!input_.ReadBlock(size, &data)) return false;
     ByteReader reader(data);
     FliPixelWriter writer = Writer();
-    for (int32 rows = height_; rows > 0 && GoesOn(reader); --rows) {
-        DrawPackets(DrawBrunPacket, reader.U8(), reader, writer);
-    }
+    DrawBrunChunk(reader, writer, width_, height_, rules_, work_);
     return true;
 }
 
-// Takes one byte a pixel, whatever the chunk's size says.
-bool FliDecoder::ReadFliCOPYChunk() {
+// Takes one byte a pixel, by the defined rules whatever the chunk's size says.
+bool FliDecoder::ReadFliCOPYChunk(int64 size) {
+    const int64 whole = int64{width_} * height_;
     std::span<const uint8> data;
-    if (!input_.ReadBlock(int64{width_} * height_, &data)) return false;
+    if (!input_.ReadBlock(rules_ == FliRules::kDefined ? whole : std::min(size, whole), &data))
+        return false;
     FliPixelWriter writer = Writer();
-    const size_t row = static_cast<size_t>(width_);
-    for (; !data.empty() && !work_.StopRequested(); data = data.subspan(row))
-        writer.Copy(data.first(row));
+    DrawCopyChunk(data, writer, width_, work_);
     return true;
 }
 
-// Every negative word skips lines, also in the form with the top bits 10 by which some writers set
-// the last pixel of a line of odd width.
 bool FliDecoder::ReadFliDELTAChunk(int64 size) {
     std::span<const uint8> data;
     if (!input_.ReadBlock(size, &data)) return false;
     ByteReader reader(data);
     FliPixelWriter writer = Writer();
-    int32 lines = reader.U16();
-    for (int64 y = 0; lines > 0 && GoesOn(reader);) {
-        const int32 word = reader.S16();
-        if (word < 0) {
-            y -= word;
-            continue;
-        }
-        --lines;
-        writer.MoveToRow(y++);
-        DrawPackets(DrawDeltaPacket, word, reader, writer);
-    }
+    DrawDeltaChunk(reader, writer, width_, rules_, work_);
     return true;
 }
 
@@ -329,25 +349,26 @@ bool FliDecoder::ReadFliBLACKChunk() {
 // For drawing into the current picture.
 FliPixelWriter FliDecoder::Writer() {
     StartPicture();
-    SetTable();
+    if (rules_ == FliRules::kDefined) canvas_->SetTable(CurrentTable());
     return FliPixelWriter(*canvas_);
 }
 
-void FliDecoder::SetTable() {
-    canvas_->SetTable(PixelTableOf((frame_.local_palette ? *local_palette_ : global_).colors));
+PixelTable FliDecoder::CurrentTable() const {
+    return PixelTableOf((frame_.local_palette ? *local_palette_ : global_).colors);
 }
 
-// The file's first picture starts black, but only once there is something to draw into it: until
-// then a few bytes that claim a huge picture cost no memory.
+// The file's first picture starts black, which to players is what index 0 stands for, but only once
+// there is something to draw into it: until then a few bytes that claim a huge picture cost no
+// memory.
 void FliDecoder::StartPicture() {
     if (!blank_) return;
     blank_ = false;
-    SetTable();
+    if (rules_ == FliRules::kPlayers) {
+        canvas_->Clear();
+        return;
+    }
+    canvas_->SetTable(CurrentTable());
     canvas_->Blacken(work_);
-}
-
-bool FliDecoder::GoesOn(const ByteReader& reader) const {
-    return !reader.Overrun() && !work_.StopRequested();
 }
 
 }  // namespace kirto

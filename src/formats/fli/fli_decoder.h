@@ -7,6 +7,7 @@
 #include "base/types.h"
 #include "base/work.h"
 #include "formats/fli/fli_canvas.h"
+#include "formats/fli/fli_chunks.h"
 #include "formats/fli/fli_input.h"
 #include "formats/fli/fli_pixel_writer.h"
 #include "kit/file.h"
@@ -18,7 +19,8 @@ struct FliHeader {
     int32 frame_count = 0;  // records that may be read
     int32 width = 0;        // of all pictures
     int32 height = 0;
-    double seconds = 0;  // that each frame is shown
+    double seconds = 0;     // that each frame is shown
+    double hundredths = 0;  // of a second, the same without a rounding error where it is whole
 };
 
 // Decodes a FLI or FLC animation record by record: bytes in, frames out, each at full size. The
@@ -39,7 +41,8 @@ class FliDecoder {
 
     // file: at its start, outlives this. global: the animation's palette so far. The budget counts
     // the frames' pixels; the work may be stopped within a record.
-    FliDecoder(BFile& file, const Palette& global, std::shared_ptr<PixelBudget> budget, Work& work);
+    FliDecoder(BFile& file, FliRules rules, const Palette& global,
+               std::shared_ptr<PixelBudget> budget, Work& work);
 
     // False when this is no such file.
     bool ReadFliHeader(FliHeader* header);
@@ -53,21 +56,26 @@ class FliDecoder {
   private:
     // size: of the chunk in the file, its header included; may be anything.
     struct Chunk {
+        int64 start = 0;  // where the file has it
         int32 size = 0;
         uint16 type = 0;
         int64 DataSize() const;
     };
 
     bool ReadFliFrameHeader();
+    Record ReadOtherRecord();
     bool ReadFLCNewFrame();
+    bool GoToEnd();
     bool ReadFliFrameData(int32 index);
+    bool ReadChunks();
+    bool ReadChunksBySize();
     bool StartFrame(int32 index);
     int64 PictureWork() const;
     bool ChargeFrame(int64 picture_bytes);
     bool CopyPreviousFrame();
     void TakeLocalPalette(const Palette& source);
     bool ReadChunkHeader(Chunk* chunk);
-    bool ReadChunk();
+    bool ReadChunkData(const Chunk& chunk);
     bool SkipUnknownChunk(const Chunk& chunk);
     bool FinishFrame();
 
@@ -77,26 +85,26 @@ class FliDecoder {
     bool TakePreviousPalette();
     bool ReadFliLCChunk(int64 size);
     bool ReadFliBRUNChunk(int64 size);
-    bool ReadFliCOPYChunk();
+    bool ReadFliCOPYChunk(int64 size);
     bool ReadFliDELTAChunk(int64 size);
     bool ReadFliMINIChunk(int64 size);
     bool ReadFliBLACKChunk();
-    // Whether there is more to draw of a chunk's data.
-    bool GoesOn(const ByteReader& reader) const;
     FliPixelWriter Writer();
-    void SetTable();
+    PixelTable CurrentTable() const;
     void StartPicture();
 
     FliInput input_;
+    const FliRules rules_;
     const std::shared_ptr<PixelBudget> budget_;
     Work& work_;
     Palette global_;
     const Place* place_ = nullptr;  // of the current record
     bool out_of_memory_ = false;
+    int64 record_end_ = 0;        // where the current record ends, as it says
     int64 bytes_left_ = 0;        // of the current record, as far as its chunks are read
     int32 chunk_count_ = 0;       // of the current record
     bool led_back_ = false;       // the current record does not lie after all others
-    bool skipped_block_ = false;  // the current record is of type 0x00A1
+    bool skipped_block_ = false;  // the current record is of a type that is not shown
     bool blank_ = false;          // the current picture is still to be filled with black
     int32 width_ = 0;             // of all pictures
     int32 height_ = 0;

@@ -26,6 +26,9 @@ class FliInput {
     // allowed.
     bool Skip(int64 distance);
 
+    int64 Position() const { return input_.Position(); }
+    int64 Size() const { return input_.Size(); }
+
     // Notes that a record starts here. False where the file has led back: a record has started here
     // or further on before.
     bool StartRecord();

@@ -8,7 +8,9 @@ using Record = kirto::FliDecoder::Record;
 
 FliLoad::FliLoad(BFile* file, int32 start, AnimationDocument& document)
     : document_(document),
-      decoder_(*file, *document.Current()->palette, document.pixel_budget, document.work),
+      rules_(document.prefs.animation_faithful ? kirto::FliRules::kPlayers
+                                               : kirto::FliRules::kDefined),
+      decoder_(*file, rules_, *document.Current()->palette, document.pixel_budget, document.work),
       position_(start) {
     kirto::FliHeader header;
     if (file->InitCheck() != B_OK || !decoder_.ReadFliHeader(&header)) {
@@ -16,19 +18,25 @@ FliLoad::FliLoad(BFile* file, int32 start, AnimationDocument& document)
         return;
     }
     TakeHeader(header);
-    for (int32 i = 0; i < header.frame_count && !failed; ++i) {
+    // By the defined rules every record counts, to players only those that show something; what
+    // comes behind the last frame leads back to the first.
+    for (int32 i = 0; i < header.frame_count && !failed;) {
         document_.PostStatus(
             kirto::Format("Status: loading frame %d of %d...", i + 1, header.frame_count));
         failed = document_.StopRequested() || !ReadRecord(i);
+        i = rules_ == kirto::FliRules::kPlayers ? frames_ : i + 1;
     }
 }
 
 void FliLoad::TakeHeader(const kirto::FliHeader& header) {
-    pause_ = document_.prefs.global_pauseinseconds ? header.seconds : header.seconds * 100.0;
+    const bool players = rules_ == kirto::FliRules::kPlayers;
+    const double hundredths = players ? header.hundredths : header.seconds * 100.0;
+    pause_ = document_.prefs.global_pauseinseconds ? header.seconds : hundredths;
     document_.Change([&](kirto::Animation& animation) {
         animation.width = header.width;
         animation.height = header.height;
         animation.pause_length = pause_;
+        if (players) animation.use_pause = true;
     });
 }
 
@@ -40,10 +48,12 @@ bool FliLoad::ReadRecord(int32 index) {
     if (place.defines_global) CommitPalette();
     switch (record) {
         case Record::kFrame:
+            ++frames_;
             if (!document_.InsertFrame(position_, std::move(frame))) return false;
             ++position_;
             return true;
         case Record::kLonger:
+            ++frames_;
             return ShowPreviousFrameLonger();
         case Record::kSkipped:
             return true;

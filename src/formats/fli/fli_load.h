@@ -5,7 +5,8 @@
 #include "formats/fli/fli_decoder.h"
 #include "kit/file.h"
 
-// Reads a FLI or FLC animation into a document, one Frame per displayed frame. The constructor does
+// Reads a FLI or FLC animation into a document, one Frame per displayed frame, as defined or, with
+// the setting "animation_faithful", as players do. The constructor does
 // all the work, on the editing thread; frames are inserted as soon as they are complete and stay
 // when a later one fails.
 class FliLoad {
@@ -26,7 +27,9 @@ class FliLoad {
     void CommitPalette();
 
     AnimationDocument& document_;
+    const kirto::FliRules rules_;
     kirto::FliDecoder decoder_;
     int32 position_;
+    int32 frames_ = 0;    // that have been shown, some of them as longer pauses
     double pause_ = 0.0;  // after each frame, in the unit of the settings
 };

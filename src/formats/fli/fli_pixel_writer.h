@@ -17,6 +17,8 @@ class FliPixelWriter {
 
     // To the start of row y, 0 or more; rows below the picture take no pixels.
     void MoveToRow(int64 y);
+    // Where the next pixel goes, from the first row's start; may lie past the picture.
+    int64 Position() const { return position_; }
     // Leaves the next pixels as they are.
     void Skip(int64 count);
     // One pixel per index.

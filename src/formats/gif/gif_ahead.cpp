@@ -67,9 +67,7 @@ std::optional<GifAhead::Decoded> GifAhead::Decode(const Batch& batch) {
 bool GifAhead::Decode(const GifPiece& piece, GifIndices* indices) {
     const GifImage& image = piece.image;
     if (piece.end != GifPiece::End::kImage || !CanDecode(image)) return true;
-    const int32 global_bits = screen_.table.bits > 0 ? screen_.table.bits : 8;
-    const std::optional<int32> code_size =
-        GifCodeSizeOf(image.min_code_size, image.table.bits > 0 ? image.table.bits : global_bits);
+    const std::optional<int32> code_size = composer_.CodeSizeOf(image);
     if (!code_size) return true;
     *indices = Spare();
     if (!indices->Reserve(image)) return false;
@@ -79,10 +77,9 @@ bool GifAhead::Decode(const GifPiece& piece, GifIndices* indices) {
     return true;
 }
 
-bool GifAhead::CanDecode(const GifImage& image) const {
+bool GifAhead::CanDecode(const GifImage& image) {
     const uint64 size = PixelsOf(image);
-    return size > 0 && size <= kMostAhead && image.width <= screen_.width &&
-           image.height <= screen_.height && !image.data.too_large && image.table.complete;
+    return size > 0 && size <= kMostAhead && !image.data.too_large && image.table.complete;
 }
 
 // Whether the frame will have the image's pixels only.

@@ -7,6 +7,7 @@
 
 #include "base/types.h"
 #include "base/work.h"
+#include "formats/gif/gif_composer.h"
 #include "formats/gif/gif_indices.h"
 #include "formats/gif/gif_reader.h"
 
@@ -25,9 +26,12 @@ class GifAhead {
     using Batch = std::vector<GifPiece>;
     using Decoded = std::vector<GifIndices>;
 
-    // reader: behind the screen; it and the others outlive this.
-    GifAhead(GifReader& reader, const GifScreen& screen, const Options& options, Work& work)
+    // reader: behind the screen. composer: of the frames, told of the screen; it says how images
+    // are decoded. All outlive this.
+    GifAhead(GifReader& reader, const GifComposer& composer, const GifScreen& screen,
+             const Options& options, Work& work)
         : reader_(reader),
+          composer_(composer),
           screen_(screen),
           options_(options),
           work_(work),
@@ -43,12 +47,13 @@ class GifAhead {
 
   private:
     void AddNext(Batch* batch);
-    bool CanDecode(const GifImage& image) const;
+    static bool CanDecode(const GifImage& image);
     bool CoversFrame(const GifPiece& piece) const;
     bool Decode(const GifPiece& piece, GifIndices* indices);
     GifIndices Spare();
 
     GifReader& reader_;
+    const GifComposer& composer_;
     const GifScreen& screen_;
     const Options options_;
     Work& work_;

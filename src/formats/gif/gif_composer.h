@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 
 #include "animation/frame.h"
 #include "base/pixel_budget.h"
@@ -9,59 +10,64 @@
 #include "formats/gif/gif_indices.h"
 #include "formats/gif/gif_parser.h"
 #include "picture/index_painter.h"
-#include "picture/picture.h"
 
 namespace kirto {
 
-// Makes frames of the images of a GIF file, one after the other: each image's pixels over what the
-// one before leaves on the screen, or alone.
+// Makes frames of the images of a GIF file, one after the other. How an image's pixels become a
+// picture is up to the subclass.
 class GifComposer {
   public:
-    struct Options {
-        bool full_frame = false;        // frames of the screen's size, else of their image's
-        bool draw_transparent = false;  // without full_frame: transparent pixels look like that
-    };
     // global: the palette that the screen's color table is put into. The budget counts the frames'
     // pixels; the work may be stopped within a frame.
-    GifComposer(const Options& options, const Palette& global, std::shared_ptr<PixelBudget> budget,
-                Work& work);
+    GifComposer(const Palette& global, std::shared_ptr<PixelBudget> budget, Work& work);
+    virtual ~GifComposer() = default;
+    GifComposer(const GifComposer&) = delete;
+    GifComposer& operator=(const GifComposer&) = delete;
 
     // What the file says in front of the images. An incomplete color table gives the palette its
     // kind and size only.
-    void SetScreen(const GifScreen& screen);
-    // What it says of the next image; some of it stays in force for all later ones.
-    void SetControl(const GifControl& control);
+    virtual void SetScreen(const GifScreen& screen);
+    // What it says of the next image.
+    virtual void SetControl(const GifControl& control);
     // The palette of frames without a color table of their own.
     const Palette& GlobalPalette() const { return global_; }
+    // The screen, in pixels.
+    int32 Width() const { return width_; }
+    int32 Height() const { return height_; }
+
+    // The code size that the image's data is decoded with; nothing where it is not. On any thread,
+    // says nothing.
+    virtual std::optional<int32> CodeSizeOf(const GifImage& image) const = 0;
 
     // Gives the frame, which holds its name, and its palette, not yet its own, what the image says
-    // of them, and its pixels. B_BAD_DATA for an image that is damaged or larger than the screen,
-    // B_NO_MEMORY, or B_CANCELED. ahead: the image if it was decoded already, else null. file_size:
-    // what the work is told the image's place in.
-    status_t Compose(const GifImage& image, GifIndices* ahead, int64 file_size, Frame* frame,
-                     Palette* palette);
+    // of them, and its pixels. B_BAD_DATA for an image that can't be shown, B_NO_MEMORY, or
+    // B_CANCELED. ahead: the image if it was decoded already, else null. file_size: what the work
+    // is told the image's place in.
+    virtual status_t Compose(const GifImage& image, GifIndices* ahead, int64 file_size,
+                             Frame* frame, Palette* palette) = 0;
 
-  private:
-    std::shared_ptr<const Picture> Below(const GifImage& image, const Palette& current);
-    std::shared_ptr<const Picture> FrameDisposal(const Palette& current);
-    static std::shared_ptr<const Picture> Solid(uint32 pixel, int32 width, int32 height);
-    bool ReserveIndices(const GifImage& image);
-    bool ReadGifImageData(const GifImage& image, const Palette& current, GifIndices* ahead,
-                          int64 file_size, IndexImage* indices);
-    void SetColors(const Palette& current, IndexImage* indices);
-    static std::optional<int32> CheckCodeSize(uint8 size, const Palette& current);
-    bool CoversScreen(const GifImage& image) const;
+  protected:
+    // Marks the frame local, and fills its palette, if the image has a table. The palette that is
+    // in force for it; null when the file ended within that table.
+    const Palette* TakeTable(const GifImage& image, Frame* frame, Palette* palette) const;
+    // Whether a picture of that size, which others are given as a bitmap, keeps to the budget.
+    bool IsAffordable(int32 width, int32 height) const;
+    // Makes room for the indices of an image that is decoded here. False when memory is short.
+    bool Reserve(const GifImage& image);
+    // The image's indices: what is ahead, or else decoded here, after Reserve. Lines of the decoder
+    // are printed.
+    const GifIndices& Decode(const GifImage& image, GifIndices* ahead, int32 min_code_size,
+                             int64 file_size);
+    // The indices as they are painted, at the image's place and in these colors.
+    IndexImage Placed(const GifImage& image, const GifIndices& decoded, const PixelTable& table);
 
-    const Options options_;
-    const std::shared_ptr<PixelBudget> budget_;
-    Work& work_;
-    Palette global_;
     int32 width_ = 0;
     int32 height_ = 0;
-    int32 current_disposal_ = -1;  // -1: no control block seen yet
-    int32 previous_disposal_ = -1;
-    std::shared_ptr<const Picture> previous_;  // the picture before; null for the first
-    IndexPainter painter_;
+    Palette global_;
+    const std::shared_ptr<PixelBudget> budget_;
+    Work& work_;
+
+  private:
     GifIndices indices_;      // of the last image that was decoded here
     SharedPixelTable table_;  // of the last image
 };

@@ -7,7 +7,7 @@ namespace kirto {
 
 // Many sub-blocks are read at once, and what lies behind the last one is given back: they are
 // small, and each read asks whether the work is to stop.
-void GifImageData::Read(WatchedInput& input, uint64 largest) {
+void GifImageData::Read(WatchedInput& input, uint64 largest, bool keep_rest) {
     bytes.clear();
     complete = false;
     too_large = false;
@@ -35,7 +35,7 @@ void GifImageData::Read(WatchedInput& input, uint64 largest) {
             return;
         }
     }
-    if (left > 0) bytes.resize(start);
+    if (left > 0 && !keep_rest) bytes.resize(start);
 }
 
 }  // namespace kirto

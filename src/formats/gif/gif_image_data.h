@@ -14,8 +14,9 @@ struct GifImageData {
     bool too_large = false;    // there are more bytes than allowed, and not all were read
     int64 position = 0;        // in the file
 
-    // Reads them from the first sub-block to the terminator. largest: bytes allowed.
-    void Read(WatchedInput& input, uint64 largest);
+    // Reads them from the first sub-block to the terminator. largest: bytes allowed. keep_rest:
+    // what there is of a sub-block that the file ends in counts.
+    void Read(WatchedInput& input, uint64 largest, bool keep_rest = false);
 };
 
 }  // namespace kirto

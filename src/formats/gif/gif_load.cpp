@@ -4,16 +4,36 @@
 #include "base/run_in_order.h"
 #include "base/text.h"
 #include "formats/gif/gif_ahead.h"
+#include "formats/gif/gif_browser_composer.h"
+#include "formats/gif/gif_defined_composer.h"
 
 using End = kirto::GifPiece::End;
+
+namespace {
+
+std::unique_ptr<kirto::GifComposer> ComposerFor(kirto::GifRules rules,
+                                                AnimationDocument& document) {
+    const Palette& palette = *document.Current()->palette;
+    if (rules == kirto::GifRules::kBrowsers) {
+        return std::make_unique<kirto::GifBrowserComposer>(palette, document.pixel_budget,
+                                                           document.work);
+    }
+    const kirto::GifDefinedComposer::Options options{document.prefs.animation_gifloadfullframe,
+                                                     document.prefs.thumbnail_drawtransparent};
+    return std::make_unique<kirto::GifDefinedComposer>(options, palette, document.pixel_budget,
+                                                       document.work);
+}
+
+}  // namespace
 
 GifLoad::GifLoad(BFile* file, int32 start, AnimationDocument& document)
     : document_(document),
       input_(*file, document.work),
-      parser_(input_, document.pixel_budget->Left() + kirto::PixelBudget::kWorkingRoom),
-      composer_(
-          {document.prefs.animation_gifloadfullframe, document.prefs.thumbnail_drawtransparent},
-          *document.Current()->palette, document.pixel_budget, document.work),
+      rules_(document.prefs.animation_faithful ? kirto::GifRules::kBrowsers
+                                               : kirto::GifRules::kDefined),
+      parser_(input_, document.pixel_budget->Left() + kirto::PixelBudget::kWorkingRoom, rules_),
+      composer_(ComposerFor(rules_, document)),
+      start_(start),
       next_position_(start) {
     Init();
     failed = !ReadScreen() || !StartFrame();
@@ -30,11 +50,8 @@ void GifLoad::Init() {
 
 bool GifLoad::ReadScreen() {
     if (!parser_.ReadGifHeader(&screen_)) return false;
-    composer_.SetScreen(screen_);
-    document_.Change([this](kirto::Animation& animation) {
-        animation.width = screen_.width;
-        animation.height = screen_.height;
-    });
+    composer_->SetScreen(screen_);
+    CommitSize();
     CommitPalette();
     return screen_.table.complete;
 }
@@ -43,9 +60,10 @@ void GifLoad::ReadFrames() {
     kirto::GifReader reader(parser_);
     // The n-th allocation is a particular one only as long as one thread allocates.
     const bool together = kirto::ThreadCount() > 1 && !kirto::LentAllocationFault();
-    kirto::GifAhead ahead(reader, screen_,
-                          {document_.prefs.animation_gifloadfullframe,
-                           composer_.GlobalPalette().use_transparent, together},
+    const bool full_frame =
+        rules_ == kirto::GifRules::kBrowsers || document_.prefs.animation_gifloadfullframe;
+    kirto::GifAhead ahead(reader, *composer_, screen_,
+                          {full_frame, composer_->GlobalPalette().use_transparent, together},
                           document_.work);
     kirto::OrderedSteps<kirto::GifAhead::Batch, kirto::GifAhead::Decoded> steps;
     steps.next = [&ahead] { return ahead.Next(); };
@@ -83,8 +101,16 @@ void GifLoad::BeginPiece(const kirto::GifPiece& piece) {
 bool GifLoad::TakePiece(const kirto::GifPiece& piece, kirto::GifIndices* ahead) {
     if (piece.end == End::kTrailer) return false;
     if (piece.end == End::kMore) return true;
-    failed = piece.end != End::kImage || !TakeImage(piece.image, ahead);
-    return !failed;
+    damaged_ = piece.end != End::kImage;
+    const bool goes_on = !damaged_ && TakeImage(piece.image, ahead);
+    failed = !goes_on && !MayEndHere();
+    return goes_on;
+}
+
+// Browsers show what there is before the damage, as if the file were not longer.
+bool GifLoad::MayEndHere() const {
+    return rules_ == kirto::GifRules::kBrowsers && damaged_ && next_position_ > start_ &&
+           !document_.StopRequested();
 }
 
 void GifLoad::TakeLoop(int32 loop_count) {
@@ -95,23 +121,36 @@ void GifLoad::TakeLoop(int32 loop_count) {
 }
 
 void GifLoad::TakeControl(const kirto::GifControl& control) {
-    composer_.SetControl(control);
+    composer_->SetControl(control);
     if (control.transparent_index >= 0) CommitPalette();
     frame_.pause_length = control.delay;
-    frame_.use_pause = control.delay != 0;
+    if (rules_ == kirto::GifRules::kDefined) frame_.use_pause = control.delay != 0;
+}
+
+void GifLoad::CommitSize() {
+    document_.Change([this](kirto::Animation& animation) {
+        animation.width = composer_->Width();
+        animation.height = composer_->Height();
+    });
 }
 
 void GifLoad::CommitPalette() {
     document_.Change([this](kirto::Animation& animation) {
-        animation.palette = std::make_shared<const Palette>(composer_.GlobalPalette());
+        animation.palette = std::make_shared<const Palette>(composer_->GlobalPalette());
     });
 }
 
 bool GifLoad::TakeImage(const kirto::GifImage& image, kirto::GifIndices* ahead) {
     const status_t status =
-        composer_.Compose(image, ahead, input_.Size(), &frame_, local_palette_.get());
+        composer_->Compose(image, ahead, input_.Size(), &frame_, local_palette_.get());
     out_of_memory = status == B_NO_MEMORY;
-    if (status != B_OK || !FinishFrame()) return false;
+    damaged_ = status == B_BAD_DATA;
+    if (status != B_OK) return false;
+    // The first image may have made the screen larger.
+    const std::shared_ptr<const kirto::Animation> animation = document_.Current();
+    if (composer_->Width() != animation->width || composer_->Height() != animation->height)
+        CommitSize();
+    if (!FinishFrame()) return false;
     ++next_position_;
     if (StartFrame()) return true;
     kirto::DebugLine("GifLoad::GifLoad() - Out of memory\n");
@@ -120,6 +159,8 @@ bool GifLoad::TakeImage(const kirto::GifImage& image, kirto::GifIndices* ahead) 
 
 bool GifLoad::StartFrame() {
     frame_ = Frame(kirto::Format("frame%04d", next_position_), 0, 0);
+    // To browsers a pause of 0 is a frame's own like any other.
+    frame_.use_pause = rules_ == kirto::GifRules::kBrowsers;
     local_palette_ = kirto::SharePalette();
     out_of_memory = !local_palette_;
     return !out_of_memory;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <memory>
+
 #include "animation/frame.h"
 #include "base/types.h"
 #include "document/animation_document.h"
@@ -10,8 +12,9 @@
 #include "kit/file.h"
 #include "kit/watched_input.h"
 
-// Reads a GIF file into a document, one Frame per image: parses it, decodes the images on several
-// threads, composes them and commits what comes of it. The constructor does all the work, but for
+// Reads a GIF file into a document, one Frame per image, as defined or, with the setting
+// "animation_faithful", as browsers do: parses it, decodes the images on several threads, composes
+// them and commits what comes of it. The constructor does all the work, but for
 // the decoding on the editing thread; each frame is inserted as soon as it is complete and stays
 // when a later one fails.
 class GifLoad {
@@ -32,19 +35,24 @@ class GifLoad {
     void BeginPiece(const kirto::GifPiece& piece);
     // False when the load ends here.
     bool TakePiece(const kirto::GifPiece& piece, kirto::GifIndices* ahead);
+    bool MayEndHere() const;
     bool TakeImage(const kirto::GifImage& image, kirto::GifIndices* ahead);
     bool StartFrame();
     bool FinishFrame();
     void TakeControl(const kirto::GifControl& control);
     void TakeLoop(int32 loop_count);
     void CommitPalette();
+    void CommitSize();
 
     AnimationDocument& document_;
     kirto::WatchedInput input_;
+    const kirto::GifRules rules_;
     kirto::GifParser parser_;
-    kirto::GifComposer composer_;
+    const std::unique_ptr<kirto::GifComposer> composer_;
+    const int32 start_;
     int32 next_position_;
     kirto::GifScreen screen_;
+    bool damaged_ = false;  // the file ended too early, or with an image that can't be shown
     // The frame being read, not yet inserted, and its own palette, in force where the frame is
     // marked local.
     Frame frame_;

@@ -149,6 +149,8 @@ void GifLzwDecoder::TakeFirstString(uint32 code) {
     codes_.Skip();
     previous_ = StringOf(code);
     collected_[collected_size_++] = static_cast<uint8>(code);
+    // The next code may be the first free one, which takes more bits where literals take 0 or 1.
+    if (next_free_ >> codes_.size != 0) ++codes_.size;
 }
 
 // Takes a code: its string becomes the previous one.

@@ -14,10 +14,10 @@ class GifIndexWriter;
 // never clears its table goes on with the full table of 4096 codes.
 class GifLzwDecoder {
   public:
-    // Code sizes from 2 to this one can be decoded; pixel values are cut to 8 bits.
+    // Code sizes from 0 to this one can be decoded; pixel values are cut to 8 bits.
     static constexpr int32 kMaxMinCodeSize = 11;
 
-    // data: outlives this. min_code_size: 2 to kMaxMinCodeSize.
+    // data: outlives this. min_code_size: 0 to kMaxMinCodeSize.
     GifLzwDecoder(const GifImageData& data, int32 min_code_size);
     GifLzwDecoder(const GifLzwDecoder&) = delete;
     GifLzwDecoder& operator=(const GifLzwDecoder&) = delete;

@@ -49,6 +49,7 @@ GifParser::Block GifParser::ReadBlock(GifControl* control, int32* loop_count) {
         case kStrayTerminator:
             return Block::kOther;
         default:
+            if (rules_ == GifRules::kBrowsers) return Block::kBroken;
             return OtherOrBroken(ReadGifUnknownBlock(introducer));
     }
 }
@@ -62,7 +63,8 @@ GifParser::Block GifParser::ReadExtension(GifControl* control, int32* loop_count
         case kCommentLabel:
             return OtherOrBroken(ReadGifCommentBlock());
         case kApplicationLabel:
-            return ReadGifLoopBlock(loop_count);
+            return rules_ == GifRules::kDefined ? ReadGifLoopBlock(loop_count)
+                                                : ReadPlayersLoopBlock(loop_count);
         default:
             return OtherOrBroken(ReadGifUnknownBlock(label));
     }
@@ -84,6 +86,25 @@ GifParser::Block GifParser::ReadGifLoopBlock(int32* loop_count) {
     std::fill(block.begin() + size, block.end(), uint8{0});
     *loop_count = ReadLittle16(block.data() + 1);
     return Block::kLoop;
+}
+
+// Players know the block by two identifiers, and the loop count by its own number in front of it: a
+// sub-block of another number asks for something else.
+GifParser::Block GifParser::ReadPlayersLoopBlock(int32* loop_count) {
+    static constexpr uint8 kLoopCount = 1;
+    std::array<uint8, 255> block;
+    uint8 size = 0;
+    if (!input_.Read(&size, 1) || !input_.Read(block.data(), size)) return Block::kBroken;
+    const std::string identifier(block.begin(), block.begin() + size);
+    const bool loops = identifier == "NETSCAPE2.0" || identifier == "ANIMEXTS1.0";
+    bool found = false;
+    while (input_.Read(&size, 1) && input_.Read(block.data(), size)) {
+        if (size == 0) return found ? Block::kLoop : Block::kOther;
+        if (!loops || size != 3 || block[0] != kLoopCount) continue;
+        *loop_count = ReadLittle16(block.data() + 1);
+        found = true;
+    }
+    return Block::kBroken;
 }
 
 bool GifParser::ReadGifControlBlock(GifControl* control) {
@@ -143,7 +164,7 @@ bool GifParser::ReadImage(GifImage* image) {
     ReadColorTable(header[8], &image->table);
     image->min_code_size = 0;
     input_.Read(&image->min_code_size, 1);
-    data_.Read(input_, max_data_);
+    data_.Read(input_, max_data_, rules_ == GifRules::kBrowsers);
     image->data = data_;
     return true;
 }

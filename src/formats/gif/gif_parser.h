@@ -42,6 +42,12 @@ struct GifImage {
     GifImageData data;
 };
 
+// How files are read where they are odd.
+enum class GifRules {
+    kDefined,  // as this program does by default
+    kBrowsers  // as web browsers do
+};
+
 // Reads a GIF file (87a or 89a) block by block: bytes in, values out, nothing is decoded. The
 // layout is described in docs/formats/gif.md.
 class GifParser {
@@ -52,11 +58,12 @@ class GifParser {
         kImageStart,  // an image follows: ReadImage() reads it
         kOther,       // nothing that changes the animation
         kTrailer,
-        kBroken  // the file ended within the block
+        kBroken  // the file ended within the block, or browsers read no further than this
     };
 
     // input: at the file's start; outlives this. max_data: bytes that one image's codes may take.
-    GifParser(WatchedInput& input, uint64 max_data) : input_(input), max_data_(max_data) {}
+    GifParser(WatchedInput& input, uint64 max_data, GifRules rules)
+        : input_(input), max_data_(max_data), rules_(rules) {}
 
     // The file's first block. False when it is not complete, but for the colors of its table.
     bool ReadGifHeader(GifScreen* screen);
@@ -68,6 +75,7 @@ class GifParser {
   private:
     Block ReadExtension(GifControl* control, int32* loop_count);
     Block ReadGifLoopBlock(int32* loop_count);
+    Block ReadPlayersLoopBlock(int32* loop_count);
     bool ReadGifControlBlock(GifControl* control);
     bool ReadGifCommentBlock();
     bool ReadGifUnknownBlock(uint8 label);
@@ -76,6 +84,7 @@ class GifParser {
 
     WatchedInput& input_;
     const uint64 max_data_;
+    const GifRules rules_;
     GifImageData data_;  // of the last image, kept for its room
 };
 

@@ -7,6 +7,15 @@
 
 namespace kirto {
 
+namespace {
+
+// What is said before any other operation holds for the application's start as well.
+bool ChangesSettings(const CliOperation& operation) {
+    return operation.option == "--set" || operation.option == "--faithful";
+}
+
+}  // namespace
+
 CliSession::CliSession(CliArguments arguments, BTranslatorRoster& roster)
     : arguments_(std::move(arguments)),
       roster_(roster),
@@ -25,7 +34,7 @@ int CliSession::Run() {
     while (!following_.empty()) {
         const CliOperation& operation = following_.front();
         following_ = following_.subspan(1);
-        if (!app_ && operation.option != "--set") StartApplication();
+        if (!app_ && !ChangesSettings(operation)) StartApplication();
         desktop_.SetSubject("");
         Outcome outcome = (this->*HandlerFor(operation.option))(operation.value);
         desktop_.ClearProgress();
@@ -62,6 +71,7 @@ CliSession::Outcome CliSession::Post(const BMessage& message) {
 CliSession::Handler CliSession::HandlerFor(const std::string& option) {
     static const std::map<std::string, Handler> handlers = {
         {"--set", &CliSession::Set},
+        {"--faithful", &CliSession::SetFaithful},
         {"--open", &CliSession::Open},
         {"--insert-animation", &CliSession::InsertAnimation},
         {"--insert", &CliSession::InsertImages},

@@ -48,6 +48,7 @@ class CliSession {
 
     // Operations in memory (cli_session_edits.cpp).
     Outcome Set(const std::string& value);
+    Outcome SetFaithful(const std::string& value);
     Outcome SelectFrame(const std::string& value);
     Outcome Remove(const std::string& value);
     Outcome MoveUp(const std::string& value);

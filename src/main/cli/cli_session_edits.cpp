@@ -41,6 +41,10 @@ CliSession::Outcome CliSession::Set(const std::string& value) {
     return Outcome::kDone;
 }
 
+CliSession::Outcome CliSession::SetFaithful(const std::string&) {
+    return Set("animation_faithful=true");
+}
+
 CliSession::Outcome CliSession::SelectFrame(const std::string& value) {
     int32 number = 0;
     if (!ParseNumber(value, &number)) return Refuse("--select: \"" + value + "\" is not a number.");

@@ -52,6 +52,7 @@ constexpr Binding<bool> kFlags[] = {
     {"animation_gifcomment", &Prefs::animation_gifcomment},
     {"animation_gifloadfullframe", &Prefs::animation_gifloadfullframe},
     {"misc_dimensions", &Prefs::misc_savewindowdimensions},
+    {"animation_faithful", &Prefs::animation_faithful},
 };
 
 // A setting that counts every value it has no meaning for as the last that it has one for.

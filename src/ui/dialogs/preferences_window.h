@@ -24,8 +24,8 @@ class PreferencesWindow : public IEWindow {
     PreferencesWindow(const kirto::Editor& editor, const Prefs& current, QWidget* parent,
                       std::function<BRect()> window_frame);
 
-    // Brings the tab of that view name to the front: "Global", "Palette", "Thumbnail", "Animation"
-    // or "Miscellaneous".
+    // Brings the tab of that view name to the front: "Global", "Palette", "Thumbnail", "Animation",
+    // "Miscellaneous" or "Compatibility".
     void ShowTab(const char* name);
 
     void MessageReceived(BMessage* message) override;

@@ -87,6 +87,13 @@ TEST(GifLzwDecoder, TakesAFirstCodeAboveTheLiteralsByItsLowByte) {
     EXPECT_THAT(DecodeCodes(8, {256, 258 + 7, 1, 257}).indices, ElementsAre(9, 1));
 }
 
+TEST(GifLzwDecoder, CodesGrowBehindTheFirstOneWhereLiteralsTakeABitOrNone) {
+    // Clear is 2, end is 3; 2 and 0 in two bits, 4 and 3 in three.
+    EXPECT_THAT(DecodeBlocks({2, 0b1'100'00'10, 0b01, 0}, 1).indices, ElementsAre(0, 0, 0));
+    // Clear is 1, end is 2; 1 and 0 in a bit, 3 in two, 2 in three.
+    EXPECT_THAT(DecodeBlocks({1, 0b010'11'0'1, 0}, 0).indices, ElementsAre(0, 0, 0));
+}
+
 TEST(GifLzwDecoder, AClearCodeForgetsTheTable) {
     // After the second clear code 6 is free again, and completes itself.
     EXPECT_THAT(DecodeCodes(2, {4, 1, 2, 4, 3, 6, 5}).indices, ElementsAre(1, 2, 3, 3, 3));

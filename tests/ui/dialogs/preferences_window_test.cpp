@@ -56,6 +56,7 @@ const Change kChanges[] = {
     {"misc_framelistview", nullptr, "misc_preferredmode", "1"},
     {"misc_dimensions", nullptr, "misc_savewindowdimensions", "false"},
     {"misc_filelocation", "/", "misc_tempfilelocation", "/"},
+    {"animation_faithful", nullptr, "animation_faithful", "true"},
 };
 
 // A value of each setting that is not the built-in one.
@@ -86,6 +87,7 @@ constexpr std::pair<const char*, const char*> kOtherValues[] = {
     {"misc_savewindowdimensions", "false"},
     {"misc_tempfilelocation", "/some/folder"},
     {"misc_preferredmode", "1"},
+    {"animation_faithful", "true"},
 };
 
 void Set(Prefs* prefs, const char* key, const char* value) {

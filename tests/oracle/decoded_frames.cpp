@@ -1,0 +1,78 @@
+// Prints what our own reader makes of animations when it reads as browsers do, for scripts to
+// compare.
+//
+//   decoded_frames FILE...          one JSON object a line: {"repetitions", "frames": [[width,
+//                                   height, microseconds, MD5 of the pixels], ...], "failed"}
+//   decoded_frames --make N FOLDER  writes N animations made at random, 0.gif, 1.gif, ...
+#include <cmath>
+#include <cstdio>
+#include <string>
+#include <vector>
+
+#include "app/open_animation.h"
+#include "base/md5.h"
+#include "base/text.h"
+#include "support/random_gif.h"
+#include "support/test_support.h"
+
+namespace kirto::test {
+
+namespace {
+
+std::string DigestOf(const Picture& picture) {
+    std::vector<uint8> row(static_cast<size_t>(picture.Width()) * 4);
+    Md5 digest;
+    for (int32 y = 0; y < picture.Height(); ++y) {
+        picture.ReadRow(y, row.data());
+        digest.Add(row.data(), row.size());
+    }
+    return digest.Finish();
+}
+
+// As browsers say it: how often the animation is played after the first time.
+std::string RepetitionsOf(const Animation& animation) {
+    if (!animation.use_loop) return "0";
+    return animation.loop_count == 0 ? "Infinity" : std::to_string(animation.loop_count);
+}
+
+int64 MicrosecondsOf(const Animation& animation, const Frame& frame) {
+    const double shared = animation.use_pause ? animation.pause_length : 0;
+    const double hundredths = frame.use_pause ? frame.pause_length : shared;
+    return std::llround(hundredths * 10000);
+}
+
+void PrintFrames(const std::string& path) {
+    const DebugRecorder debug;
+    const AlertRecorder salvages({0});
+    DocumentFixture fixture;
+    fixture.prefs.animation_faithful = true;
+    BFile file(path, B_READ_ONLY);
+    const bool opened = OpenGif(&file, 0, fixture.document);
+    const auto animation = fixture.document.Current();
+    std::string frames;
+    for (const FramePointer& frame : animation->frames) {
+        if (!frames.empty()) frames += ", ";
+        frames += Format("[%d, %d, %lld, \"%s\"]", frame->width, frame->height,
+                         static_cast<long long>(MicrosecondsOf(*animation, *frame)),
+                         DigestOf(*frame->bitmap).c_str());
+    }
+    std::printf("{\"repetitions\": \"%s\", \"frames\": [%s], \"failed\": %s}\n",
+                RepetitionsOf(*animation).c_str(), frames.c_str(), opened ? "false" : "true");
+}
+
+}  // namespace
+
+}  // namespace kirto::test
+
+int main(int argc, char** argv) {
+    const std::vector<std::string> arguments(argv + 1, argv + argc);
+    if (arguments.size() == 3 && arguments[0] == "--make") {
+        for (uint32 i = 0; i < std::stoul(arguments[1]); ++i) {
+            kirto::test::WriteBytes(arguments[2] + "/" + std::to_string(i) + ".gif",
+                                    kirto::test::RandomGif(i));
+        }
+        return 0;
+    }
+    for (const std::string& path : arguments)
+        kirto::test::PrintFrames(path);
+}
