@@ -17,7 +17,7 @@ LATEST = 0.8
 
 QUESTION = "Do you want to save your changes?"
 PICTURES = tuple(f"{letter}.png" for letter in "abcdefghijkl")
-DRAWING_FRAMES = 30
+DRAWING_FRAMES = 60
 # What the status line says once there is a new frame.
 FIRST_DONE = r"(?:loading|generating) (?:frame|tile) (?:[2-9]|\d\d+)\b.*"
 
@@ -35,6 +35,8 @@ class Canceling(EditorTest):
         self.longest = 0.0
         # File dialogs begin where the editor was started: names alone are typed faster.
         self.enterContext(contextlib.chdir(self.folder))
+        # Several threads are done with it before the button can be pressed.
+        self.session.environment["KIRTO_THREADS"] = "1"
         self.button = None
         self.frames_before = 0
 
@@ -54,13 +56,17 @@ class Canceling(EditorTest):
         self.kirto_cli("--insert", noise, "--palette", "greyscale", "--save", path)
         long_work.repeat_frame(path, 80)
 
+    def start_editor_on_slow_medium(self):
+        environment = self.session.environment
+        environment["LD_PRELOAD"] = str(self.programs / "tests/e2e/libkirto_slow_medium.so")
+        self.start_editor()
+        del environment["LD_PRELOAD"]
+
     def start_insert(self):
         self.session.key("ctrl+i")
         self.editor.name_file("Insert Frames", *PICTURES)
 
     def write_pictures(self, side=2500):
-        # Several threads are done with them before the button can be pressed.
-        self.session.environment["KIRTO_THREADS"] = "1"
         first = self.folder / PICTURES[0]
         long_work.write_noise(first, side)
         long_work.link(first, PICTURES[1:])
@@ -75,7 +81,7 @@ class Canceling(EditorTest):
         self.editor.name_file("Insert Tiled Frame", name)
 
     def write_sheet(self):
-        long_work.write_noise(self.folder / "sheet.png", 4000, period=250)
+        long_work.write_noise(self.folder / "sheet.png", 6400, period=400)
 
     def start_fade(self):
         self.session.key("ctrl+f")
@@ -86,7 +92,7 @@ class Canceling(EditorTest):
         self.editor.click("push button", "OK", dialog)
 
     def start_editor_to_fade(self):
-        self.write_pictures(side=700)
+        self.write_pictures(side=1000)
         editor = self.start_editor(*PICTURES[:2])
         editor.wait_for_status(2, modified=True)
         self.frames_before = 2
@@ -223,7 +229,7 @@ class Canceling(EditorTest):
 
     def test_a_file_opened_leaves_its_first_frames_untitled(self):
         self.write_long_animation()
-        self.start_editor()
+        self.start_editor_on_slow_medium()
         self.check_kept("Open", self.start_open, modified=False, modified_before=True)
 
     def test_an_insertion_leaves_its_first_images(self):
@@ -278,7 +284,7 @@ class Canceling(EditorTest):
 
     def test_closing_ends_the_opening_of_a_file_without_a_question(self):
         self.write_long_animation()
-        self.start_editor()
+        self.start_editor_on_slow_medium()
         self.start_open()
         self.close_and_end(asks=False)
 
