@@ -116,7 +116,7 @@ class Kirto : public IEApplication, public AnimationDocument, public kirto::File
     void StoreSettings(const BMessage& message);
     void StoreTranslatorSettings(const BMessage& message);
     void EndWork();
-    void SayCutShort(const kirto::Animation& animation);
+    void SayWhatDiffers(const kirto::Animation& animation, const std::string& loss);
     void SayCanceled(int32 frames_before);
     void KeepStopped(bool reset, int32 frames_before);
     // Of the current file; empty before a save or an open.
