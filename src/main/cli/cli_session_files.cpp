@@ -3,9 +3,12 @@
 #include <cctype>
 #include <cstdio>
 #include <filesystem>
+#include <unistd.h>
 
 #include "app/save_animation.h"
+#include "app/save_verification.h"
 #include "base/number.h"
+#include "base/terminal_text.h"
 #include "base/text.h"
 #include "document/command_codes.h"
 #include "effects/images_ahead.h"
@@ -135,7 +138,33 @@ CliSession::Outcome CliSession::Save(const std::string& value) {
     if (outcome != Outcome::kDone) return outcome;
     const std::string cut_short = NumbersCutShort(*app_->Current(), prefs_.global_pauseinseconds);
     if (!cut_short.empty()) desktop_.Complain(value + ": Saved, but " + cut_short + ".");
-    return outcome;
+    return arguments_.verify ? Verify(value) : outcome;
+}
+
+CliSession::Outcome CliSession::Verify(const std::string& path) {
+    SaveVerification verification(app_->pixel_budget->Limit());
+    verification_ = &verification;
+    if (stopped_) verification.RequestStop();
+    const SaveVerification::Result result = verification.Run(
+        AbsoluteRef(path).path, *app_->Current(), SaveVerification::OptionsOf(prefs_));
+    verification_ = nullptr;
+    switch (result) {
+        case SaveVerification::Result::kUnreadable:
+            return Fail(path + ": Saved, but it can't be read to be verified.");
+        case SaveVerification::Result::kNoMemory:
+            return Fail(path + ": Saved, but there is not enough memory to verify it.");
+        case SaveVerification::Result::kEqual:
+        case SaveVerification::Result::kStopped:
+            return Outcome::kDone;
+        case SaveVerification::Result::kDifferent:
+            break;
+    }
+    desktop_.ClearProgress();
+    const std::string subject = isatty(STDOUT_FILENO) ? TerminalText(path) : path;
+    for (const std::string& sentence : verification.Differences().Sentences())
+        std::printf("%s: %s\n", subject.c_str(), sentence.c_str());
+    differs_ = true;
+    return Outcome::kDone;
 }
 
 CliSession::Outcome CliSession::SaveSequence(const std::string& value) {
