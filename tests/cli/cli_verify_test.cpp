@@ -81,4 +81,29 @@ TEST(KirtoCliVerify, PrintsNoDebugLinesOfTheReading) {
     EXPECT_EQ(verified.err, plain.err);
 }
 
+TEST(KirtoCli, NamesTheCauseWhereBrowsersOpenWhatIsRefused) {
+    const CliHome home;
+    std::vector<uint8> bytes = ThreeFrameGif();
+    bytes.pop_back();
+    home.Write("open.gif", bytes);
+    const std::string refused =
+        "kirto-cli: open.gif: The animation can't be opened because it was corrupted or "
+        "unreadable.\n"
+        "kirto-cli: open.gif: It was refused because the file ends without its trailer; --faithful "
+        "opens it as browsers do.\n";
+
+    const RunResult plain = home.Run({"--quiet", "--open", "open.gif"});
+    const RunResult inserted = home.Run({"--quiet", "--insert-animation", "open.gif@0"});
+    const RunResult salvaged =
+        home.Run({"--quiet", "--salvage", "--open", "open.gif", "--save", "saved.gif"});
+
+    EXPECT_EQ(plain.status, 1);
+    EXPECT_EQ(plain.err, refused);
+    EXPECT_EQ(inserted.status, 1);
+    EXPECT_EQ(inserted.err, refused);
+    EXPECT_EQ(salvaged.status, 0);
+    EXPECT_EQ(salvaged.err, refused);
+    EXPECT_EQ(home.Info({"--faithful", "--open", "open.gif"})["frame_count"], 3);
+}
+
 }  // namespace kirto::test

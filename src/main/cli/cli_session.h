@@ -76,6 +76,9 @@ class CliSession {
     // failure.
     Outcome Post(const BMessage& message);
     Outcome Post(uint32 what) { return Post(BMessage(what)); }
+    // Posts the command that opens the file. Names the cause where browsers would open what is
+    // refused.
+    Outcome PostOpen(const std::string& path, const BMessage& message);
     // Fails, with the reason, when the file can't be opened for reading.
     Outcome CheckReadable(const std::string& path);
     Outcome SaveAs(const std::string& path, translator_id translator);

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <unistd.h>
 
+#include "app/open_animation.h"
 #include "app/save_animation.h"
 #include "app/save_verification.h"
 #include "base/number.h"
@@ -78,12 +79,21 @@ CliSession::Outcome CliSession::Open(const std::string& value) {
     const entry_ref ref = AbsoluteRef(value);
     BMessage message(kOpenFile);
     message.AddRef("refs", ref);
-    const Outcome outcome = Post(message);
+    const Outcome outcome = PostOpen(value, message);
     // A palette file of the settings that can't be read is told of whenever the document starts
     // afresh, but that is no failure of what is opened: a document named like the file is open.
     const auto state = app_->CurrentState();
     const bool opened = state->file_directory == ref.Directory() && state->file_name == ref.Leaf();
     return opened ? Outcome::kDone : outcome;
+}
+
+CliSession::Outcome CliSession::PostOpen(const std::string& path, const BMessage& message) {
+    const Outcome outcome = Post(message);
+    if (const char* cause = TextOf(app_->Refusal())) {
+        desktop_.Complain(path + ": It was refused because " + cause +
+                          "; --faithful opens it as browsers do.");
+    }
+    return outcome;
 }
 
 CliSession::Outcome CliSession::InsertAnimation(const std::string& value) {
@@ -96,7 +106,7 @@ CliSession::Outcome CliSession::InsertAnimation(const std::string& value) {
     message.AddRef("refs", AbsoluteRef(path));
     message.AddBool("reset", false);
     message.AddInt32("position", position);
-    return Post(message);
+    return PostOpen(path, message);
 }
 
 CliSession::Outcome CliSession::InsertImages(const std::string& value) {
