@@ -15,11 +15,9 @@ target_link_libraries(kirto_flags INTERFACE Threads::Threads)
 
 if(KIRTO_SANITIZE)
     target_compile_options(kirto_flags INTERFACE
-        -fsanitize=${KIRTO_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all
-        # GCC sees uninitialised members of std::regex in instrumented code, where there are none.
-        $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
+        -fsanitize=${KIRTO_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
     if(KIRTO_SANITIZE MATCHES "undefined")
-        # A check a pointer takes as long to compile as all the rest. What takes files apart keeps it.
+        # A check a pointer takes long to compile and to run. What takes files apart keeps it.
         target_compile_options(kirto_flags INTERFACE
             $<$<NOT:$<BOOL:$<TARGET_PROPERTY:FOREIGN_BYTES>>>:-fno-sanitize=null,alignment,vptr>)
     endif()
