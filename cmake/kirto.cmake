@@ -70,6 +70,8 @@ function(kirto_library name)
     cmake_parse_arguments(ARG "FOREIGN_BYTES" "" "SOURCES;DEPENDS" ${ARGN})
     add_library(${name} STATIC ${ARG_SOURCES})
     target_link_libraries(${name} PUBLIC kirto_flags ${ARG_DEPENDS})
+    # As quickly compiled as without it, and the tests that start whole programs take half the time.
+    target_compile_options(${name} PRIVATE $<$<CONFIG:Debug>:-Og>)
     set_target_properties(${name} PROPERTIES FOREIGN_BYTES ${ARG_FOREIGN_BYTES})
     if(KIRTO_SANITIZE AND NOT KIRTO_FUZZ)
         set_target_properties(${name} PROPERTIES UNITY_BUILD ON)
