@@ -259,9 +259,11 @@ bool Kirto::MayOverwrite() {
 bool Kirto::SaveGif() {
     const auto state = CurrentState();
     const std::string path = FilePath();
-    switch (kirto::SaveAnimatedGif(*this, path)) {
+    std::string loss;
+    switch (kirto::SaveAnimatedGif(*this, path, &loss)) {
         case kirto::SaveResult::kSaved:
             file_stamp_ = kirto::FileStamp::Of(path);
+            if (!loss.empty()) last_word_ = "saved, but " + loss;
             SayCutShort(*state->animation);
             CheckSave(state->animation, path);
             return true;

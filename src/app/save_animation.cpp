@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "base/text.h"
+#include "formats/faithful/faithful_gif_save.h"
 #include "formats/gif/gif_save.h"
 #include "kit/file.h"
 
@@ -12,10 +13,30 @@ namespace kirto {
 
 namespace {
 
-SaveResult Encode(AnimationDocument& document, const std::shared_ptr<BFile>& file) {
+std::string LossOf(const Nearness& near) {
+    std::string text;
+    if (near.changed > 0) {
+        constexpr double kParts = 3;
+        const auto changed = static_cast<double>(near.changed);
+        text = Format("%.1f%% of the pixels got another color, by %.1f of 255 on average",
+                      100 * changed / static_cast<double>(near.pixels),
+                      static_cast<double>(near.distance) / kParts / changed);
+    }
+    if (near.short_pauses == 0) return text;
+    return text + (text.empty() ? "" : ", ") +
+           Format("browsers lengthen %d pause(s) below 0.02 seconds", near.short_pauses);
+}
+
+SaveResult Encode(AnimationDocument& document, const std::shared_ptr<BFile>& file,
+                  std::string* loss) {
     if (file->InitCheck() != B_OK) return SaveResult::kFileNotCreated;
     file->RemoveLeftovers();
-    GifSave(file, document);
+    if (document.prefs.animation_faithful) {
+        const FaithfulGifSave save(file, document);
+        if (loss) *loss = LossOf(save.HowNear());
+    } else {
+        GifSave(file, document);
+    }
     if (document.StopRequested()) return SaveResult::kStopped;
     return file->Commit() == B_OK ? SaveResult::kSaved : SaveResult::kWriteFailed;
 }
@@ -62,14 +83,15 @@ std::string SequenceFileName(const std::string& file_name, int32 index) {
     return file_name.substr(0, dot) + Format("%04d", index) + file_name.substr(dot);
 }
 
-SaveResult SaveAnimatedGif(AnimationDocument& document, const std::string& path) {
+SaveResult SaveAnimatedGif(AnimationDocument& document, const std::string& path,
+                           std::string* loss) {
     if (document.Current()->FrameLargerThanCanvas()) return SaveResult::kFrameTooLarge;
     if (!SizeOutOfRange(*document.Current()).empty()) return SaveResult::kSizeOutOfRange;
-    return Encode(document, BFile::CreateReplacing(path));
+    return Encode(document, BFile::CreateReplacing(path), loss);
 }
 
 SaveResult SavePreviewGif(AnimationDocument& document, const std::string& path) {
-    return Encode(document, BFile::CreatePrivate(path));
+    return Encode(document, BFile::CreatePrivate(path), nullptr);
 }
 
 }  // namespace kirto

@@ -38,8 +38,11 @@ enum class SaveResult {
 // Encode the document into the file at path, which is replaced as a whole or not at all. The caller
 // has let the global palette follow its frame (UpdateGlobalPalette). The document is not changed.
 
-// Into a file of the user's: a symbolic link leads to its target, permissions are kept.
-SaveResult SaveAnimatedGif(AnimationDocument& document, const std::string& path);
+// Into a file of the user's: a symbolic link leads to its target, permissions are kept. loss, if
+// not null: told what browsers show otherwise than the window does, as far as the setting
+// "animation_faithful" sees to that; empty: nothing.
+SaveResult SaveAnimatedGif(AnimationDocument& document, const std::string& path,
+                           std::string* loss = nullptr);
 // Into a private file that only the user can read; a symbolic link in its place is replaced, never
 // followed. Frames may be larger than the canvas.
 SaveResult SavePreviewGif(AnimationDocument& document, const std::string& path);

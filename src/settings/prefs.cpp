@@ -62,6 +62,9 @@ constexpr Setting kSettings[] = {
     {"misc_tempfilelocation", &Prefs::misc_tempfilelocation},
     {"misc_preferredmode", &Prefs::misc_preferredmode},
     {"animation_faithful", &Prefs::animation_faithful, true},
+    {"animation_dithering", &Prefs::animation_dithering, true},
+    {"animation_jointcolors", &Prefs::animation_jointcolors, true},
+    {"animation_matte", &Prefs::animation_matte, true},
 };
 
 // Calls action(setting, member pointer) for each setting in order, until one returns false; false

@@ -41,8 +41,13 @@ class Prefs {
     BRect misc_windowdimensions{100, 80, 649, 479};  // screen coordinates
     std::string misc_tempfilelocation;               // directory; at most 1023 bytes
     int32 misc_preferredmode = 0;                    // 0: thumbnails, 1: frame list
-    // Read animations as browsers show them. Stands in the settings file only once it was on.
+    // Read animations as browsers show them, and save them so that browsers show the same. This and
+    // what follows stand in the settings file only once they were something else.
     bool animation_faithful = false;
+    // How frames of too many colors are saved then.
+    int32 animation_dithering = 1;       // 0: not, 1: diffusing errors, 2: in a fixed pattern
+    bool animation_jointcolors = false;  // they share their colors
+    int32 animation_matte = 0xFFFFFF;    // below soft edges: red * 65536 + green * 256 + blue
 
     bool failed = false;       // a read or write failed; never cleared
     std::string damaged_copy;  // where an unreadable settings file was put aside, or empty

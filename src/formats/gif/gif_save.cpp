@@ -7,10 +7,9 @@
 #include "base/byte_order.h"
 #include "base/run_in_order.h"
 #include "base/text.h"
+#include "formats/gif/gif_extensions.h"
 
 namespace {
-
-constexpr char kComment[] = "Created by Kirto v1.4 by Morvik on BeOS";
 
 kirto::GifSaveOptions OptionsOf(const Prefs& prefs) {
     const int32 disposal = prefs.animation_gifdisposal;
@@ -88,20 +87,10 @@ void GifSave::WriteGifHeader() {
     // A global table, of the highest color resolution, unsorted.
     header[10] = kirto::LowByte((palette.bits - 1) | 0xF0);
     header[11] = kirto::LowByte(palette.background_index);
+    file_->Write(header, sizeof(header));
     kirto::ByteWriter bytes;
-    bytes.Bytes(header);
     kirto::GifFrameEncoder::AddColorTable(palette, palette.bits, bytes);
-    if (animation_->use_loop) {
-        uint8 loop[19] = {0x21, 0xFF, 0x0B, 'N', 'E', 'T', 'S', 'C', 'A', 'P',
-                          'E',  '2',  '.',  '0', 3,   1,   0,   0,   0};
-        kirto::WriteLittle16(loop + 16, animation_->loop_count);
-        bytes.Bytes(loop);
-    }
-    if (options_.comment) {
-        const uint8 start[3] = {0x21, 0xFE, kirto::LowByte(sizeof(kComment) - 1)};
-        bytes.Bytes(start);
-        bytes.Text(kComment);
-        bytes.U8(0);  // ends the chain of sub-blocks
-    }
+    if (animation_->use_loop) kirto::AppendLoopBlock(animation_->loop_count, &bytes);
+    if (options_.comment) kirto::AppendCommentBlock(&bytes);
     Write(bytes);
 }

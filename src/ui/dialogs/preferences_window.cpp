@@ -53,6 +53,7 @@ constexpr Binding<bool> kFlags[] = {
     {"animation_gifloadfullframe", &Prefs::animation_gifloadfullframe},
     {"misc_dimensions", &Prefs::misc_savewindowdimensions},
     {"animation_faithful", &Prefs::animation_faithful},
+    {"animation_jointcolors", &Prefs::animation_jointcolors},
 };
 
 // A setting that counts every value it has no meaning for as the last that it has one for.
@@ -135,6 +136,9 @@ void PreferencesWindow::RestoreChoices() {
         {"animation_gifleave", kDisposal, 1},
         {"animation_gifbackground", kDisposal, 2},
         {"animation_gifprevious", kDisposal, kOtherwise},
+        {"animation_nodithering", kDithering, 0},
+        {"animation_diffusion", kDithering, 1},
+        {"animation_pattern", kDithering, 2},
         {"misc_thumbnailview", kMode, 0},
         {"misc_framelistview", kMode, 1},
     };
@@ -166,6 +170,7 @@ void PreferencesWindow::ShowSettings() {
     ShowChoice(kMapping, prefs_.palette_mapping);
     ShowChoice(kThumbnailHeight, KnownOr(prefs_.thumbnail_height, kOtherwise));
     ShowChoice(kDisposal, KnownOr(prefs_.animation_gifdisposal, kOtherwise));
+    ShowChoice(kDithering, prefs_.animation_dithering);
     ShowChoice(kMode, prefs_.misc_preferredmode);
     EnableDependents();
 }
@@ -184,6 +189,7 @@ void PreferencesWindow::TakeSettings() {
     prefs_.palette_mapping = Chosen(kMapping, prefs_.palette_mapping);
     prefs_.thumbnail_height = Chosen(kThumbnailHeight, kOtherwise);
     prefs_.animation_gifdisposal = Chosen(kDisposal, kOtherwise);
+    prefs_.animation_dithering = Chosen(kDithering, prefs_.animation_dithering);
     prefs_.misc_preferredmode = Chosen(kMode, prefs_.misc_preferredmode);
 }
 

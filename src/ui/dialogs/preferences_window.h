@@ -32,7 +32,15 @@ class PreferencesWindow : public IEWindow {
 
   private:
     // Settings that are one of several; each has a group of radio buttons with its values as ids.
-    enum Choice { kPauseUnit, kMapping, kThumbnailHeight, kDisposal, kMode, kChoiceCount };
+    enum Choice {
+        kPauseUnit,
+        kMapping,
+        kThumbnailHeight,
+        kDisposal,
+        kDithering,
+        kMode,
+        kChoiceCount
+    };
 
     // Finds the views by their names.
     void RestorePointers();

@@ -135,6 +135,13 @@ const std::vector<std::string> kViews = {
     "BView Compatibility",
     "BBox compatibility_settings [Browsers]",
     "BCheckBox animation_faithful [Read and save as browsers show it] pwcf",
+    "BStringView animation_colors [Frames of more than 256 colors are saved then]",
+    "BRadioButton animation_nodithering [Without dithering] pwcn",
+    "BRadioButton animation_diffusion "
+    "[Dithered as best suits each frame (Floyd-Steinberg)] pwcd",
+    "BRadioButton animation_pattern "
+    "[Dithered so that what stands still does not flicker] pwcp",
+    "BCheckBox animation_jointcolors [In the same colors for all frames] pwcj",
     "BottomView BottomView",
     "BButton SaveButton [Save] pwsa",
     "BButton CancelButton [Cancel] pwca",

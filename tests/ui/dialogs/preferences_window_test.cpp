@@ -57,6 +57,9 @@ const Change kChanges[] = {
     {"misc_dimensions", nullptr, "misc_savewindowdimensions", "false"},
     {"misc_filelocation", "/", "misc_tempfilelocation", "/"},
     {"animation_faithful", nullptr, "animation_faithful", "true"},
+    {"animation_nodithering", nullptr, "animation_dithering", "0"},
+    {"animation_pattern", nullptr, "animation_dithering", "2"},
+    {"animation_jointcolors", nullptr, "animation_jointcolors", "true"},
 };
 
 // A value of each setting that is not the built-in one.
@@ -88,6 +91,9 @@ constexpr std::pair<const char*, const char*> kOtherValues[] = {
     {"misc_tempfilelocation", "/some/folder"},
     {"misc_preferredmode", "1"},
     {"animation_faithful", "true"},
+    {"animation_dithering", "7"},
+    {"animation_jointcolors", "true"},
+    {"animation_matte", "255"},
 };
 
 void Set(Prefs* prefs, const char* key, const char* value) {

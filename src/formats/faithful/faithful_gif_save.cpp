@@ -1,0 +1,212 @@
+#include "formats/faithful/faithful_gif_save.h"
+
+#include <algorithm>
+#include <new>
+#include <optional>
+#include <utility>
+
+#include "base/byte_order.h"
+#include "base/run_in_order.h"
+#include "base/text.h"
+#include "color/adaptive/adaptive_palette.h"
+#include "color/adaptive/color_census.h"
+#include "formats/faithful/frame_delays.h"
+#include "formats/faithful/untouched_frames.h"
+#include "formats/gif/gif_extensions.h"
+
+namespace kirto {
+
+namespace {
+
+constexpr int32 kLargestSide = 0xFFFF;
+// Of the work that a frame is, planning and encoding are so much.
+constexpr int64 kPlanned = 1;
+constexpr int64 kEncoded = 3;
+
+int32 SideOf(int32 canvas, int64 needed) {
+    return static_cast<int32>(std::clamp<int64>(std::min<int64>(canvas, needed), 1, kLargestSide));
+}
+
+// No larger than what any frame shows, so that a few pixels take no memory for many.
+Screen ScreenFor(const Animation& animation, const AlphaMatte& matte, const PixelBudget& budget) {
+    int64 right = 0;
+    int64 bottom = 0;
+    for (const FramePointer& frame : animation.frames) {
+        right = std::max(right, int64{frame->x_offset} + frame->width);
+        bottom = std::max(bottom, int64{frame->y_offset} + frame->height);
+    }
+    const Screen screen(SideOf(animation.width, right), SideOf(animation.height, bottom), matte);
+    if (screen.At(0, screen.Height()) * sizeof(uint32) > budget.Limit()) throw std::bad_alloc();
+    return screen;
+}
+
+AdaptiveDither DitherOf(int32 setting) {
+    switch (setting) {
+        case 1:
+            return AdaptiveDither::kErrorDiffusion;
+        case 2:
+            return AdaptiveDither::kOrdered;
+        default:
+            return AdaptiveDither::kNone;
+    }
+}
+
+}  // namespace
+
+FaithfulOptions FaithfulOptions::Of(const Prefs& prefs) {
+    FaithfulOptions options;
+    options.interlaced = prefs.animation_gifinterlaced;
+    options.comment = prefs.animation_gifcomment;
+    options.pause_in_seconds = prefs.global_pauseinseconds;
+    options.joint_colors = prefs.animation_jointcolors;
+    options.dither = DitherOf(prefs.animation_dithering);
+    const int32 matte = prefs.animation_matte;
+    options.matte = {LowByte(matte >> 16), LowByte(matte >> 8), LowByte(matte), 255};
+    return options;
+}
+
+FaithfulGifSave::FaithfulGifSave(std::shared_ptr<BFile> file, AnimationDocument& document)
+    : file_(std::move(file)),
+      document_(document),
+      animation_(document.Current()),
+      options_(FaithfulOptions::Of(document.prefs)),
+      frames_(animation_->frames.begin(), animation_->frames.end()),
+      untouched_(UntouchedFrames(*animation_)),
+      delays_(SpreadDelays(*animation_, options_.pause_in_seconds)),
+      screen_(ScreenFor(*animation_, AlphaMatte(options_.matte), *document.pixel_budget)),
+      progress_(document.work, static_cast<int64>(frames_.size()) * (kPlanned + kEncoded)),
+      reducer_(std::make_unique<ColorReducer>(
+          screen_, options_.dither,
+          options_.joint_colors ? JointColors() : std::vector<rgb_color>{}, document.work)),
+      planner_(std::make_unique<FramePlanner>(screen_, *reducer_)) {
+    Plan();
+    ChooseLayout();
+    WriteHeader();
+    WriteImages();
+    file_->Write(";", 1);
+    file_->SetMimeType("image/gif");
+}
+
+std::vector<rgb_color> FaithfulGifSave::JointColors() const {
+    ColorCensus census(AlphaMatte(options_.matte), &document_.work);
+    for (const FramePointer& frame : frames_) {
+        if (!frame->bitmap || !frame->bitmap->HasRows()) continue;
+        const status_t counted = census.Add(*frame->bitmap);
+        if (counted == B_NO_MEMORY) throw std::bad_alloc();
+        if (counted != B_OK) return {};
+    }
+    AdaptivePalette palette;
+    const status_t made =
+        palette.Make(census.Colors(), ColorReducer::kMostColors, {}, &document_.work);
+    if (made == B_NO_MEMORY) throw std::bad_alloc();
+    return {palette.Colors().begin(), palette.Colors().end()};
+}
+
+void FaithfulGifSave::Plan() {
+    size_t next = 0;
+    OrderedSteps<size_t, Prepared> steps;
+    steps.next = [&] { return next < frames_.size() ? std::optional(next++) : std::nullopt; };
+    steps.begin = [&](size_t) {
+        progress_.Tell();
+        return !document_.StopRequested();
+    };
+    steps.work = [&](size_t frame, int32) { return std::optional(Prepare(frame)); };
+    steps.waiting = [&] { progress_.Tell(); };
+    steps.take = [&](size_t frame, std::optional<Prepared> prepared) {
+        if (prepared && !document_.StopRequested()) planner_->Add(ToPlan(frame, *prepared));
+        progress_.Add(kPlanned);
+        return prepared.has_value();
+    };
+    RunInOrder(steps);
+}
+
+// Whether planning looks at the frame's pixels.
+bool FaithfulGifSave::IsWanted(size_t frame) const {
+    return !untouched_[frame] || (frame + 1 < frames_.size() && !untouched_[frame + 1]);
+}
+
+FaithfulGifSave::Prepared FaithfulGifSave::Prepare(size_t frame) const {
+    Prepared prepared;
+    if (!IsWanted(frame)) return prepared;
+    ScreenPixels shown = screen_.Show(ScreenImage::Of(*frames_[frame]));
+    const ScreenPixels empty = screen_.Empty();
+    const bool many = !ColorsToDraw(empty, shown, FramePlanner::kMostColors);
+    if (many && !untouched_[frame]) {
+        const ScreenPixels before =
+            frame > 0 ? screen_.Show(ScreenImage::Of(*frames_[frame - 1])) : empty;
+        if (!ColorsToDraw(before, shown, FramePlanner::kMostColors))
+            prepared.reduced = std::make_shared<ScreenPixels>(reducer_->Reduce(before, shown));
+    }
+    prepared.shown = std::make_shared<ScreenPixels>(std::move(shown));
+    return prepared;
+}
+
+FrameToPlan FaithfulGifSave::ToPlan(size_t frame, const Prepared& prepared) const {
+    FrameToPlan to_plan;
+    to_plan.image = ScreenImage::Of(*frames_[frame]);
+    to_plan.delay = delays_[frame];
+    if (untouched_[frame]) to_plan.source = frames_[frame]->source;
+    to_plan.shown = prepared.shown;
+    to_plan.reduced = prepared.reduced;
+    return to_plan;
+}
+
+void FaithfulGifSave::ChooseLayout() {
+    layout_.interlaced = options_.interlaced;
+    for (const FramePlan& plan : planner_->Plans()) {
+        if (plan.source && !plan.source->local_table) layout_.given = plan.source->table;
+        if (layout_.given) break;
+    }
+    const std::span<const rgb_color> given =
+        layout_.given ? std::span<const rgb_color>(*layout_.given) : std::span<const rgb_color>();
+    layout_.global_table = ChooseGlobalTable(planner_->Plans(), given);
+}
+
+void FaithfulGifSave::WriteHeader() {
+    uint8 header[13] = {'G', 'I', 'F', '8', '9', 'a'};
+    WriteLittle16(header + 6, animation_->width);
+    WriteLittle16(header + 8, animation_->height);
+    const GifTable& table = layout_.global_table;
+    // Of the highest color resolution, unsorted.
+    header[10] = 0x70;
+    if (table.Size() > 0) header[10] = LowByte(0xF0 | (table.Bits() - 1));
+    file_->Write(header, sizeof(header));
+    ByteWriter bytes;
+    if (table.Size() > 0) table.Write(&bytes);
+    if (animation_->use_loop) AppendLoopBlock(animation_->loop_count, &bytes);
+    if (options_.comment) AppendCommentBlock(&bytes);
+    Write(bytes);
+}
+
+void FaithfulGifSave::WriteImages() {
+    const FramePlans& plans = planner_->Plans();
+    const int32 count = static_cast<int32>(plans.size());
+    const int32 threads = std::clamp(count, 1, ThreadCount());
+    std::vector<std::unique_ptr<FrameWriter>> writers;
+    while (static_cast<int32>(writers.size()) < threads)
+        writers.push_back(std::make_unique<FrameWriter>(screen_, plans, layout_, document_.work));
+    int32 next = 0;
+    OrderedSteps<int32, ByteWriter> steps;
+    steps.next = [&] { return next < count ? std::optional(next++) : std::nullopt; };
+    steps.begin = [&](int32 plan) {
+        document_.PostStatus(Format("Status: writing frame %d of %d...", plan + 1, count));
+        progress_.Tell();
+        return !document_.StopRequested();
+    };
+    steps.work = [&](int32 plan, int32 worker) {
+        return std::optional(writers[static_cast<size_t>(worker)]->Encode(plan));
+    };
+    steps.waiting = [&] { progress_.Tell(); };
+    steps.take = [&](int32, std::optional<ByteWriter> bytes) {
+        if (bytes) Write(*bytes);
+        progress_.Add(kEncoded);
+        return bytes.has_value();
+    };
+    RunInOrder(steps, threads);
+}
+
+void FaithfulGifSave::Write(const ByteWriter& bytes) {
+    file_->Write(bytes.Written().data(), bytes.Written().size());
+}
+
+}  // namespace kirto

@@ -1,0 +1,71 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "base/shared_progress.h"
+#include "color/adaptive/adaptive_mapper.h"
+#include "document/animation_document.h"
+#include "formats/faithful/frame_planner.h"
+#include "formats/faithful/frame_writer.h"
+#include "kit/file.h"
+
+namespace kirto {
+
+// How an animation is written, besides what it says itself.
+struct FaithfulOptions {
+    bool interlaced = false;
+    bool comment = false;           // with a comment of the program's own
+    bool pause_in_seconds = false;  // the unit of the animation's pauses; else hundredths
+    bool joint_colors = false;      // frames of too many colors share those they are given
+    AdaptiveDither dither = AdaptiveDither::kErrorDiffusion;
+    rgb_color matte{255, 255, 255, 255};
+
+    static FaithfulOptions Of(const Prefs& prefs);
+};
+
+// Writes a document's animation, as it is at the start, as a GIF file in which browsers show what
+// the document's window shows, as long as 256 colors do for what is new in each frame, and in as
+// few bytes as it finds. First all frames are planned, then they are encoded, both by several
+// threads; the bytes do not depend on their number. The constructor does all the work; the
+// document's work tells how far it is, and when that is stopped the file is not complete. Write
+// results are not checked here: the file remembers its first error. Throws std::bad_alloc.
+class FaithfulGifSave {
+  public:
+    // file: empty and writable; this object shares it with the caller, who commits it afterward.
+    FaithfulGifSave(std::shared_ptr<BFile> file, AnimationDocument& document);
+
+    const Nearness& HowNear() const { return planner_->HowNear(); }
+
+  private:
+    // What a frame's pixels become before they are planned.
+    struct Prepared {
+        std::shared_ptr<const ScreenPixels> shown;
+        std::shared_ptr<const ScreenPixels> reduced;
+    };
+
+    std::vector<rgb_color> JointColors() const;
+    void Plan();
+    bool IsWanted(size_t frame) const;
+    Prepared Prepare(size_t frame) const;
+    FrameToPlan ToPlan(size_t frame, const Prepared& prepared) const;
+    void ChooseLayout();
+    void WriteHeader();
+    void WriteImages();
+    void Write(const ByteWriter& bytes);
+
+    const std::shared_ptr<BFile> file_;
+    AnimationDocument& document_;
+    const std::shared_ptr<const Animation> animation_;
+    const FaithfulOptions options_;
+    const std::vector<FramePointer> frames_;
+    const std::vector<bool> untouched_;
+    const std::vector<uint16> delays_;
+    const Screen screen_;
+    SharedProgress progress_;
+    std::unique_ptr<const ColorReducer> reducer_;
+    std::unique_ptr<FramePlanner> planner_;
+    FileLayout layout_;
+};
+
+}  // namespace kirto

@@ -1,0 +1,81 @@
+#include "formats/faithful/screen_difference.h"
+
+#include <algorithm>
+#include <cstring>
+#include <new>
+
+namespace kirto {
+
+namespace {
+
+// No pixel has it.
+constexpr uint32 kNoColor = ~uint32{0};
+
+// Columns first to end of a row.
+struct Extent {
+    int32 first = 0;
+    int32 end = 0;
+
+    void Add(int32 x) {
+        if (end == 0) first = x;
+        end = x + 1;
+    }
+    PixelRect InRow(int32 y) const { return {first, y, end - first, end > 0 ? 1 : 0}; }
+};
+
+void CompareRow(const uint32* below, const uint32* shown, int32 width, int32 y,
+                ScreenDifference* difference) {
+    Extent changed;
+    Extent lost;
+    uint32 last = kNoColor;
+    for (int32 x = 0; x < width; ++x) {
+        if (shown[x] == below[x]) continue;
+        changed.Add(x);
+        ++difference->pixels;
+        if (shown[x] == kNothing) lost.Add(x);
+        if (shown[x] != last) ++difference->runs;
+        last = shown[x];
+    }
+    difference->changed = Around(difference->changed, changed.InRow(y));
+    difference->lost = Around(difference->lost, lost.InRow(y));
+}
+
+}  // namespace
+
+ScreenDifference ScreenDifference::Between(const Screen& screen, const ScreenPixels& below,
+                                           const ScreenPixels& shown) {
+    ScreenDifference difference;
+    const size_t row_bytes = static_cast<size_t>(screen.Width()) * sizeof(uint32);
+    for (int32 y = 0; y < screen.Height(); ++y) {
+        const uint32* const below_row = below.data() + screen.At(0, y);
+        const uint32* const shown_row = shown.data() + screen.At(0, y);
+        if (std::memcmp(below_row, shown_row, row_bytes) == 0) continue;
+        CompareRow(below_row, shown_row, screen.Width(), y, &difference);
+    }
+    difference.transparent = std::find(shown.begin(), shown.end(), kNothing) != shown.end();
+    return difference;
+}
+
+std::optional<std::vector<ColorValues::Item>> ColorsToDraw(const ScreenPixels& below,
+                                                           const ScreenPixels& shown, size_t most) {
+    ColorValues counts;
+    for (size_t i = 0; i < shown.size();) {
+        if (shown[i] == below[i] || shown[i] == kNothing) {
+            ++i;
+            continue;
+        }
+        const uint32 key = shown[i];
+        ColorValues::Item* const item = counts.FindOrAdd(key);
+        if (!item) throw std::bad_alloc();
+        if (counts.Items().size() > most) return std::nullopt;
+        for (; i < shown.size() && shown[i] == key && below[i] != key; ++i)
+            ++item->value;
+    }
+    std::vector<ColorValues::Item> colors(counts.Items().begin(), counts.Items().end());
+    std::sort(colors.begin(), colors.end(), [](const auto& a, const auto& b) {
+        return a.value != b.value ? a.value > b.value : a.key < b.key;
+    });
+    return colors;
+}
+
+}  // namespace kirto

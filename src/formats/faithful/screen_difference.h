@@ -1,0 +1,34 @@
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "base/types.h"
+#include "base/work.h"
+#include "color/color_values.h"
+#include "formats/faithful/screen.h"
+
+namespace kirto {
+
+// What has to be drawn over what is on a screen so that it shows something else.
+struct ScreenDifference {
+    PixelRect changed;  // around all pixels that differ
+    PixelRect lost;     // around those that are there, but are to show nothing: drawing can't do it
+    bool transparent = false;  // anywhere the screen is to show nothing
+    int64 pixels = 0;          // that differ
+    // In rows, of pixels that are drawn alike, whatever stays as it is in between.
+    int64 runs = 0;
+
+    bool Possible() const { return lost.width == 0; }
+
+    // below, shown: of the screen.
+    static ScreenDifference Between(const Screen& screen, const ScreenPixels& below,
+                                    const ScreenPixels& shown);
+};
+
+// The colors of the pixels that differ, with their numbers, by falling number and then by rising
+// key; nothing where there are more than most. Throws std::bad_alloc.
+std::optional<std::vector<ColorValues::Item>> ColorsToDraw(const ScreenPixels& below,
+                                                           const ScreenPixels& shown, size_t most);
+
+}  // namespace kirto

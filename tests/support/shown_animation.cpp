@@ -1,0 +1,160 @@
+#include "support/shown_animation.h"
+
+#include <algorithm>
+#include <set>
+
+namespace kirto::test {
+
+namespace {
+
+constexpr size_t kMostColors = 256;
+
+uint32 SeenPixel(rgb_color color) {
+    if (color.alpha < 128) return 0;
+    const auto laid = [&](uint8 part) {
+        return static_cast<uint8>((part * color.alpha + 255 * (255 - color.alpha) + 127) / 255);
+    };
+    return 0xFF000000 | ColorKey(laid(color.red), laid(color.green), laid(color.blue));
+}
+
+ShownPixels Shown(const Animation& animation, const Frame& frame) {
+    ShownPixels pixels(static_cast<size_t>(animation.width * animation.height), 0);
+    if (!frame.bitmap || !frame.bitmap->HasRows()) return pixels;
+    for (int32 y = 0; y < frame.height && y + frame.y_offset < animation.height; ++y) {
+        for (int32 x = 0; x < frame.width && x + frame.x_offset < animation.width; ++x) {
+            const size_t at =
+                static_cast<size_t>((y + frame.y_offset) * animation.width + x + frame.x_offset);
+            pixels[at] = SeenPixel(PixelColor(frame.bitmap.get(), x, y));
+        }
+    }
+    return pixels;
+}
+
+bool IsPromised(const ShownPixels& pixels, const ShownFrame* before) {
+    const std::set<uint32> colors(pixels.begin(), pixels.end());
+    if (colors.size() <= kMostColors) return true;
+    if (before && !before->promised) return false;
+    std::set<uint32> drawn;
+    for (size_t i = 0; i < pixels.size(); ++i) {
+        const uint32 below = before ? before->pixels[i] : 0;
+        if (pixels[i] == below) continue;
+        if (pixels[i] == 0) return false;
+        drawn.insert(pixels[i]);
+    }
+    return drawn.size() < kMostColors;
+}
+
+int32 PauseOf(const Animation& animation, const Frame& frame) {
+    if (frame.use_pause) return static_cast<int32>(frame.pause_length);
+    return animation.use_pause ? static_cast<int32>(animation.pause_length) : 0;
+}
+
+// Makes the screens of a document, one from the other.
+class SceneMaker {
+  public:
+    SceneMaker(ChoiceSource& choices, int32 max_side)
+        : choices_(choices),
+          width_(choices.Between(1, max_side)),
+          height_(choices.Between(1, max_side)),
+          has_holes_(choices.OneIn(2)) {
+        static constexpr int32 kColors[] = {1, 2, 5, 16, 60, 255, 256, 257, 300, 1000, 5000};
+        for (int32 left = kColors[choices.Below(11)]; left > 0; --left)
+            colors_.push_back(choices.Below(1 << 24) | 0xFF000000);
+        screen_.assign(static_cast<size_t>(width_ * height_), has_holes_ ? 0 : colors_[0]);
+    }
+
+    void Fill(AnimationDocument& document) {
+        document.Change([&](Animation& animation) {
+            animation.width = width_;
+            animation.height = height_;
+            animation.use_loop = choices_.OneIn(2);
+            animation.loop_count = choices_.Between(0, 9);
+            animation.use_pause = choices_.OneIn(2);
+            animation.pause_length = choices_.Between(0, 9);
+        });
+        const int32 count = choices_.Between(1, 8);
+        for (int32 i = 0; i < count; ++i) {
+            for (int32 changes = choices_.Between(0, 3); changes > 0; --changes)
+                Change();
+            document.InsertFrame(i, MakeFrame());
+        }
+    }
+
+  private:
+    uint32 AnyPixel() {
+        if (has_holes_ && choices_.OneIn(6)) return choices_.Below(256) << 24;
+        const uint32 color = colors_[choices_.Below(static_cast<uint32>(colors_.size()))];
+        return has_holes_ && choices_.OneIn(40) ? color & 0xC0FFFFFF : color;
+    }
+
+    void Change() {
+        const int32 left = choices_.Between(0, width_ - 1);
+        const int32 top = choices_.Between(0, height_ - 1);
+        const bool whole = choices_.OneIn(4);
+        const int32 right = whole ? width_ : choices_.Between(left + 1, width_);
+        const int32 bottom = whole ? height_ : choices_.Between(top + 1, height_);
+        const bool noise = choices_.OneIn(2);
+        uint32 pixel = AnyPixel();
+        for (int32 y = whole ? 0 : top; y < bottom; ++y) {
+            for (int32 x = whole ? 0 : left; x < right; ++x) {
+                if (noise) pixel = AnyPixel();
+                screen_[static_cast<size_t>(y * width_ + x)] = pixel;
+            }
+        }
+    }
+
+    // All of the screen, or a part of it.
+    Frame MakeFrame() {
+        const bool part = choices_.OneIn(5);
+        const int32 left = part ? choices_.Between(0, width_ - 1) : 0;
+        const int32 top = part ? choices_.Between(0, height_ - 1) : 0;
+        const int32 width = part ? choices_.Between(1, width_ - left) : width_;
+        const int32 height = part ? choices_.Between(1, height_ - top) : height_;
+        std::vector<uint32> argb;
+        for (int32 y = top; y < top + height; ++y) {
+            for (int32 x = left; x < left + width; ++x)
+                argb.push_back(screen_[static_cast<size_t>(y * width_ + x)]);
+        }
+        Frame frame("scene", width, height);
+        static constexpr color_space kSpaces[] = {B_RGB32, B_RGBA32, B_RGB32_BIG, B_RGBA32_BIG};
+        frame.bitmap = FramePictureOf(width, height, argb, kSpaces[choices_.Below(4)]);
+        frame.x_offset = left;
+        frame.y_offset = top;
+        frame.use_pause = choices_.OneIn(2);
+        frame.pause_length = choices_.OneIn(9) ? 40000 : choices_.Between(0, 12);
+        return frame;
+    }
+
+    ChoiceSource& choices_;
+    const int32 width_;
+    const int32 height_;
+    const bool has_holes_;
+    std::vector<uint32> colors_;
+    ShownPixels screen_;
+};
+
+}  // namespace
+
+std::vector<ShownFrame> ShownFrames(const Animation& animation) {
+    std::vector<ShownFrame> frames;
+    for (const FramePointer& frame : animation.frames) {
+        ShownFrame shown;
+        shown.pixels = Shown(animation, *frame);
+        shown.delay = PauseOf(animation, *frame);
+        ShownFrame* const last = frames.empty() ? nullptr : &frames.back();
+        shown.promised = IsPromised(shown.pixels, last);
+        if (last && last->pixels == shown.pixels && std::min(last->delay, shown.delay) >= 2 &&
+            last->delay + shown.delay <= 65535) {
+            last->delay += shown.delay;
+        } else {
+            frames.push_back(std::move(shown));
+        }
+    }
+    return frames;
+}
+
+void FillWithScenes(ChoiceSource& choices, int32 max_side, AnimationDocument& document) {
+    SceneMaker(choices, max_side).Fill(document);
+}
+
+}  // namespace kirto::test
