@@ -53,7 +53,7 @@ std::vector<std::string> SaveDifferences::Sentences() const {
         sentences.push_back(FramesOf(filled, frames) +
                             " will not be transparent: no color stands for that");
     }
-    if (holed != 0) sentences.push_back(FramesOf(holed, frames) + " will have holes");
+    if (holed != 0) sentences.push_back(FramesOf(holed, frames) + " will lack pixels");
     if (recolored != 0) {
         sentences.push_back(PercentOf(recolored, pixels) +
                             " of the pixels lost their color: " + Format("%d colors", most_colors));

@@ -27,7 +27,7 @@ TEST(SaveDifferences, SayHowManyFramesShowWhat) {
     EXPECT_EQ(differences.Sentences(),
               (Sentences{"28 of 56 frames will show trails",
                          "1 of 56 frames will not be transparent: no color stands for that",
-                         "all 56 frames will have holes",
+                         "all 56 frames will lack pixels",
                          "2 of 56 frames will be shown for another time"}));
 }
 

@@ -60,6 +60,7 @@ const KirtoWindow::Command* KirtoWindow::CommandFor(uint32 code) {
         {kirto::kUndo, &KirtoWindow::Forward},
         {kirto::kRedo, &KirtoWindow::Forward},
         {B_SIMPLE_DATA, &KirtoWindow::Forward},
+        {kirto::kStoreSettings, &KirtoWindow::Forward},
         {kirto::kPaletteToFile, &KirtoWindow::PaletteFromFile},
         {kirto::kFramePaletteToFile, &KirtoWindow::PaletteFromFile},
         {kirto::kThumbnailMode, &KirtoWindow::ChooseMode},
