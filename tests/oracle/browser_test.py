@@ -3,8 +3,8 @@
 
     browser_test.py DECODED_FRAMES [FOLDER]
 
-DECODED_FRAMES is the program of that name. The animations are made at random, and those of the corpus
-if there is one, or else those of the folder. Ends with 77, which stands for "skipped", where there is
+DECODED_FRAMES is the program of that name. The animations are made at random, by hand and by saving
+faithfully, and those of the corpus if there is one, or else those of the folder. Ends with 77, which stands for "skipped", where there is
 no browser.
 
 Durations and repetitions are those of the decoder. A player may make more of them: Chromium plays
@@ -25,6 +25,7 @@ import decode_in_browser  # noqa: E402
 
 SKIPPED = 77
 ANIMATIONS = 500
+SAVED = 200
 
 # What the browser does not decode, and we do.
 OURS_ONLY = {
@@ -97,6 +98,7 @@ def main():
             paths = sorted(pathlib.Path(folder[0]).glob("*.gif"))
         else:
             subprocess.run([program, "--make", str(ANIMATIONS), made], check=True)
+            subprocess.run([program, "--save", str(SAVED), made], check=True)
             paths = sorted(pathlib.Path(made).glob("*.gif")) + corpus_animations()
         ours, theirs = decode(program, paths)
     right = sum(expected(*each) for each in zip(paths, ours, theirs))

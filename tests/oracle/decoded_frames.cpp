@@ -4,6 +4,7 @@
 //   decoded_frames FILE...          one JSON object a line: {"repetitions", "frames": [[width,
 //                                   height, microseconds, MD5 of the pixels], ...], "failed"}
 //   decoded_frames --make N FOLDER  writes N animations made at random, 0.gif, 1.gif, ...
+//   decoded_frames --save N FOLDER  saves N animations faithfully, saved0.gif, saved1.gif, ...
 #include <cmath>
 #include <cstdio>
 #include <string>
@@ -12,7 +13,9 @@
 #include "app/open_animation.h"
 #include "base/md5.h"
 #include "base/text.h"
+#include "formats/faithful/faithful_gif_save.h"
 #include "support/random_gif.h"
+#include "support/shown_animation.h"
 #include "support/test_support.h"
 
 namespace kirto::test {
@@ -60,6 +63,17 @@ void PrintFrames(const std::string& path) {
                 RepetitionsOf(*animation).c_str(), frames.c_str(), opened ? "false" : "true");
 }
 
+void SaveScenes(uint32 seed, const std::string& path) {
+    SeededChoices choices(seed);
+    DocumentFixture fixture;
+    fixture.prefs.animation_faithful = true;
+    fixture.prefs.animation_gifinterlaced = choices.OneIn(4);
+    FillWithScenes(choices, 40, fixture.document);
+    const std::shared_ptr<BFile> file = BFile::OnMemory();
+    const FaithfulGifSave save(file, fixture.document);
+    WriteBytes(path, file->Memory());
+}
+
 }  // namespace
 
 }  // namespace kirto::test
@@ -71,6 +85,11 @@ int main(int argc, char** argv) {
             kirto::test::WriteBytes(arguments[2] + "/" + std::to_string(i) + ".gif",
                                     kirto::test::RandomGif(i));
         }
+        return 0;
+    }
+    if (arguments.size() == 3 && arguments[0] == "--save") {
+        for (uint32 i = 0; i < std::stoul(arguments[1]); ++i)
+            kirto::test::SaveScenes(i, arguments[2] + "/saved" + std::to_string(i) + ".gif");
         return 0;
     }
     for (const std::string& path : arguments)

@@ -8,6 +8,9 @@
 #include <algorithm>
 #include <string>
 
+#include "formats/faithful/faithful_gif_save.h"
+#include "support/shown_animation.h"
+
 namespace kirto::test {
 
 namespace {
@@ -78,6 +81,23 @@ void ExpectReadAsMeant(const DocumentStyle& style, uint32 first_seed, uint32 cou
         for (int32 i = 0; i < document.FrameCount(); ++i)
             ExpectImageAsMeant(slurped, document, i, made.PixelsAreKnown(style));
         if (testing::Test::HasFailure()) return;
+    }
+}
+
+TEST(Giflib, ReadsWhatIsSavedFaithfully) {
+    for (uint32 seed = 1; seed <= 100; ++seed) {
+        SeededChoices choices(seed);
+        DocumentFixture fixture;
+        fixture.prefs.animation_gifinterlaced = choices.OneIn(3);
+        FillWithScenes(choices, 40, fixture.document);
+        const std::shared_ptr<BFile> file = BFile::OnMemory();
+        const FaithfulGifSave save(file, fixture.document);
+        const Slurped slurped(file->Memory());
+        ASSERT_TRUE(slurped.Complete()) << "seed " << seed;
+        EXPECT_GE(slurped.Gif().ImageCount, 1);
+        EXPECT_LE(slurped.Gif().ImageCount, fixture.document.FrameCount());
+        EXPECT_EQ(slurped.Gif().SWidth, fixture.document.Current()->width);
+        EXPECT_EQ(slurped.Gif().SHeight, fixture.document.Current()->height);
     }
 }
 
