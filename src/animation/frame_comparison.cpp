@@ -150,10 +150,8 @@ void FrameComparison::CompareRow(int32 left, int32 right, PixelDifferences* resu
     }
     const size_t begin = static_cast<size_t>(left) * 4;
     const size_t end = static_cast<size_t>(right) * 4;
-    if (std::equal(frame_row_.begin() + left * 4, frame_row_.begin() + right * 4,
-                   shown_row_.begin() + left * 4)) {
-        return;
-    }
+    if (begin == end) return;
+    if (std::memcmp(frame_row_.data() + begin, shown_row_.data() + begin, end - begin) == 0) return;
     for (size_t at = begin; at < end; at += 4)
         ComparePixel(frame_row_.data() + at, shown_row_.data() + at, result);
 }

@@ -47,6 +47,7 @@ class FrameComparison {
         int32 left = 0;  // of the frame
         int32 width = 0;
 
+        // NOLINTNEXTLINE(modernize-use-nullptr): no 0 is written here.
         auto operator<=>(const Rows&) const = default;
     };
 

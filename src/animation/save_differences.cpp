@@ -1,6 +1,7 @@
 #include "animation/save_differences.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "base/text.h"
 
@@ -26,7 +27,7 @@ std::string PercentOf(int64 part, int64 whole) {
         100.0 * static_cast<double>(part) / static_cast<double>(std::max<int64>(whole, 1));
     if (percent < 1) return "less than 1 %";
     if (part < whole && percent > 99) return "more than 99 %";
-    return Format("%d %%", static_cast<int>(percent + 0.5));
+    return Format("%d %%", static_cast<int>(std::lround(percent)));
 }
 
 }  // namespace
@@ -43,7 +44,7 @@ std::vector<std::string> SaveDifferences::Sentences() const {
                                    other_size->height));
     }
     if (other_frames == 0) {
-        sentences.push_back("no frame will be shown");
+        sentences.emplace_back("no frame will be shown");
     } else if (other_frames) {
         sentences.push_back(
             Format("%d frame(s) will be shown instead of %d", *other_frames, frames));
