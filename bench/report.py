@@ -17,7 +17,7 @@ def goal_text(row, goal):
         return ""
     if row.kind == "ratio":
         return f">= {goal:.3g}"
-    return f"<= {goal:.3g}" if row.kind == "memory" else f"<= {seconds(goal)}"
+    return f"<= {seconds(goal)}" if row.kind == "seconds" else f"<= {goal:.3g}"
 
 
 def mark(text, missed):
@@ -38,6 +38,8 @@ class Line:
         if cores not in self.results:
             return None
         ours, peer = self.results[cores]
+        if self.row.kind == "size":
+            return ours / peer
         if self.row.kind == "seconds":
             return ours.time(cores)
         if self.row.kind == "memory":
@@ -61,6 +63,8 @@ class Line:
             return ["", "", "", ""]
         ours, peer = self.results[cores]
         value, missed = self.value(cores), self.missed(cores)
+        if self.row.kind == "size":
+            return [f"{ours:,} bytes", f"{peer:,} bytes", mark(f"{value:.3f}", missed), goal]
         if self.row.kind == "seconds":
             return [mark(seconds(value), missed), "", "", goal]
         if self.row.kind == "memory":

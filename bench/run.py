@@ -63,6 +63,9 @@ def measure(row, track, files):
         for cores in row.cores:
             timed = track.contest(entrants, cores, rounds)
             results[cores] = (timed[0], timed[1] if row.peer else None)
+        if row.kind == "size":
+            sizes = tuple(Path(entrant.command[-1]).stat().st_size for entrant in entrants)
+            results = {1: sizes}
     except Failed as failure:
         return report.Line(row, error=str(failure))
     return report.Line(row, results, note=note)

@@ -1,6 +1,8 @@
 #include "animation/frame_sequence.h"
 
 #include <algorithm>
+#include <iterator>
+#include <memory>
 
 namespace kirto {
 
@@ -58,8 +60,10 @@ void FrameSequence::Swap(int32 i, int32 j) {
 void FrameSequence::Reverse() {
     std::vector<std::shared_ptr<const Leaf>> reversed;
     reversed.reserve(leaves_.size());
-    for (auto leaf = leaves_.rbegin(); leaf != leaves_.rend(); ++leaf)
-        reversed.push_back(std::make_shared<const Leaf>((*leaf)->rbegin(), (*leaf)->rend()));
+    std::transform(leaves_.rbegin(), leaves_.rend(), std::back_inserter(reversed),
+                   [](const std::shared_ptr<const Leaf>& leaf) {
+                       return std::make_shared<const Leaf>(leaf->rbegin(), leaf->rend());
+                   });
     leaves_ = std::move(reversed);
     Renumber();
 }

@@ -72,6 +72,10 @@ const Kirto::Command* Kirto::CommandFor(uint32 code) {
          kEdit, "Reverse All"},
         {kirto::kUndo, [](Kirto& app, BMessage*) { app.Undo(); }, kUpdateAll, kEdit},
         {kirto::kRedo, [](Kirto& app, BMessage*) { app.Redo(); }, kUpdateAll, kEdit},
+        {kirto::kUndoOpening, [](Kirto& app, BMessage*) { app.UndoOpening(); }, kUpdateAll, kEdit},
+        {kirto::kSaveChecked, [](Kirto& app, BMessage*) { app.TellOfCheckedSave(); }, kNothing},
+        {kirto::kSaveFaithfully, [](Kirto& app, BMessage*) { app.SaveFaithfully(); }, kUpdateAll},
+        {kirto::kCloseNotice, [](Kirto& app, BMessage*) { app.CloseNotice(); }, kNothing},
         {kirto::kPreview, [](Kirto& app, BMessage*) { app.Preview(); }, kUpdateAll},
         {kirto::kFadeToNext, fade, kUpdateFrames, kEdit, "Fade"},
         {kirto::kFadeFromPrevious, fade, kUpdateFrames, kEdit, "Fade"},
@@ -139,6 +143,7 @@ Kirto::Kirto(Prefs& settings, kirto::Desktop& desktop, BTranslatorRoster& roster
 
 Kirto::~Kirto() {
     Quit();
+    save_check_.reset();
     Reset();
     RemovePreviews();
 }
@@ -170,6 +175,10 @@ void Kirto::MessageReceived(BMessage* message) {
 
 void Kirto::CarryOut(BMessage* message) {
     const Command* command = CommandFor(message->what);
+    if (ChangeBy(message->what) != Change::kNone && message->what != kirto::kUndoOpening) {
+        notices_.HideOpened();
+        if (save_check_) save_check_->Stop();
+    }
     BeginStep();
     if (command) {
         command->run(*this, message);
@@ -220,6 +229,7 @@ bool Kirto::Cancel(BMessage* message) {
 }
 
 void Kirto::StartAnew() {
+    CloseNotice();
     UseOutputFormat(0);
     StartHistory();
     Reset();

@@ -9,6 +9,9 @@
 
 #include "app/desktop.h"
 #include "app/file_panel.h"
+#include "app/notices.h"
+#include "app/open_animation.h"
+#include "app/save_check.h"
 #include "base/file_stamp.h"
 #include "document/animation_document.h"
 #include "effects/images_ahead.h"
@@ -54,6 +57,14 @@ class Kirto : public IEApplication, public AnimationDocument, public kirto::File
     // 'asav': to the current file in the save panel's format. Asks first if another program has
     // changed the file since it was opened or saved.
     void SaveAgain();
+    // Why the last animation was refused that browsers would have opened; kNone for any other.
+    // Application's thread, or while it is idle.
+    kirto::HarmlessCause Refusal() const { return refusal_; }
+    // From now on what is saved by the defined rules is read again and compared, and the window is
+    // told where it shows something else than browsers do. Called before the loop.
+    void CheckSaves();
+    // The last such save; null when there is none. Any thread.
+    std::shared_ptr<const kirto::SaveCheck::Finding> LastFinding() const;
     // A file panel closed. True when the window must be refreshed.
     bool Cancel(BMessage* message);
 
@@ -118,7 +129,17 @@ class Kirto : public IEApplication, public AnimationDocument, public kirto::File
     void EndWork();
     void SayWhatDiffers(const kirto::Animation& animation, const std::string& loss);
     void SayCanceled(int32 frames_before);
+    void Load(const entry_ref& ref, kirto::AnimationType type, int32 position, bool reset);
     void KeepStopped(bool reset, int32 frames_before);
+    // Reading and saving as browsers do (kirto_faithful.cpp).
+    void TurnFaithful(bool on);
+    bool OpenAsBrowsersDo(kirto::AnimationType type, BFile* file, int32 position,
+                          const kirto::Animation& before);
+    void UndoOpening();
+    void CheckSave(const std::shared_ptr<const kirto::Animation>& saved, const std::string& path);
+    void TellOfCheckedSave();
+    void SaveFaithfully();
+    void CloseNotice();
     // Of the current file; empty before a save or an open.
     std::string FilePath() const;
     bool SaveGif();
@@ -143,7 +164,10 @@ class Kirto : public IEApplication, public AnimationDocument, public kirto::File
     uint32 output_format_ = 0;   // of the document's file: a translator, or 0 for animated GIF
     bool save_stopped_ = false;  // the last save was stopped before it was done
     kirto::ImagesAhead images_ahead_;
-    std::string last_word_;  // for the status line, once the command is done
+    kirto::HarmlessCause refusal_ = kirto::HarmlessCause::kNone;
+    kirto::Notices notices_{*this};
+    std::unique_ptr<kirto::SaveCheck> save_check_;  // null: saves are not checked
+    std::string last_word_;                         // for the status line, once the command is done
     // The preview files that were written, as they were then, by path.
     std::map<std::string, std::optional<kirto::FileStamp>> previews_;
 };

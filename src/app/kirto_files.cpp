@@ -64,6 +64,7 @@ void Kirto::RefsReceived(BMessage* message) {
 }
 
 void Kirto::Open(BMessage* message) {
+    refusal_ = kirto::HarmlessCause::kNone;
     entry_ref ref;
     if (message->FindRef("refs", &ref) != B_OK) return;
     bool from_panel = true;
@@ -85,18 +86,27 @@ void Kirto::Open(BMessage* message) {
         kirto::ClassifyAnimation(ref.Leaf(), desktop_.MimeTypeOf(ref.path));
     if (type == kirto::AnimationType::kNone) {
         kirto::Warn("The animation can't be opened because this file type is unsupported.");
-        return;
+    } else {
+        Load(ref, type, position, reset);
     }
+}
+
+// reset: in place of a document that was emptied.
+void Kirto::Load(const entry_ref& ref, kirto::AnimationType type, int32 position, bool reset) {
     // What a reset leaves is where the history starts. A load that is stopped is its first edit.
     if (reset) BeginStep();
-    const int32 before = FrameCount();
+    const auto before_load = Current();
+    const int32 before = before_load->frames.Size();
     const std::optional<kirto::FileStamp> stamp = kirto::FileStamp::Of(ref.path);
     BFile file(ref.path, B_READ_ONLY);
-    const bool opened = type == kirto::AnimationType::kGif ? kirto::OpenGif(&file, position, *this)
-                                                           : kirto::OpenFli(&file, position, *this);
+    kirto::BrowsersOffer offer;
+    bool opened = kirto::OpenAnimation(type, &file, position, *this, &offer);
+    refusal_ = offer.cause;
+    if (offer.accepted) opened = OpenAsBrowsersDo(type, &file, position, *before_load);
     if (!opened && StopRequested()) return KeepStopped(reset, before);
     if (reset) AbandonStep();
     if (!opened) return;
+    if (offer.accepted) notices_.ShowOpened(!reset);
     if (reset) {
         SetFile(ref.Directory(), ref.Leaf(), stamp);
     } else {
@@ -202,6 +212,7 @@ void Kirto::Save(BMessage* message) {
 
 void Kirto::Save(uint32 format) {
     save_stopped_ = false;
+    CloseNotice();
     UpdateGlobalPalette();
     const std::optional<BMessage> waiting = std::exchange(waiting_drop_, std::nullopt);
     if (IsGif(format)) {
@@ -253,6 +264,7 @@ bool Kirto::SaveGif() {
         case kirto::SaveResult::kSaved:
             file_stamp_ = kirto::FileStamp::Of(path);
             SayWhatDiffers(*state->animation, loss);
+            CheckSave(state->animation, path);
             return true;
         case kirto::SaveResult::kStopped:
             save_stopped_ = true;

@@ -13,7 +13,10 @@ namespace kirto {
 namespace {
 
 constexpr int32 kPauseBuckets = 100;
-constexpr int32 kSalvageButton = 0;
+constexpr int32 kAsBrowsersButton = 0;
+constexpr const char* kAsBrowsersLabel = "Open as Browsers Do";
+constexpr const char* kSalvageLabel = "Salvage";
+constexpr const char* kOkLabel = "OK";
 
 bool ContainsAny(const std::string& text, std::initializer_list<const char*> parts) {
     for (const char* part : parts) {
@@ -77,14 +80,31 @@ void ShareOutPauses(Animation& animation, FrameRange range, bool in_seconds) {
     animation.pause_length /= unit;
 }
 
-// inserted: frames that the load has added.
-void OfferSalvage(AnimationDocument& document, int32 inserted, bool out_of_memory) {
-    if (out_of_memory) WarnOutOfMemory();
-    BAlert alert("", "The animation can't be opened because it was corrupted or unreadable.",
-                 "Salvage", "OK");
+BAlert DamageAlert(bool offers_browsers) {
+    const char* text = "The animation can't be opened because it was corrupted or unreadable.";
+    if (offers_browsers) return BAlert("", text, kAsBrowsersLabel, kSalvageLabel, kOkLabel);
+    return BAlert("", text, kSalvageLabel, kOkLabel);
+}
+
+// Asks what is to become of a file that was refused.
+template <typename Load>
+void AskAboutDamage(const Load& load, int32 position, AnimationDocument& document,
+                    BrowsersOffer* offer) {
+    if (load.out_of_memory) WarnOutOfMemory();
+    const bool offers_browsers = offer && load.harmless_cause != HarmlessCause::kNone;
+    if (offers_browsers) offer->cause = load.harmless_cause;
+    BAlert alert = DamageAlert(offers_browsers);
+    const int32 salvage_button = offers_browsers ? 1 : 0;
     // Where there were frames before, "OK" loses more than the file that is damaged.
-    if (document.FrameCount() > inserted) alert.SetDefaultButton(kSalvageButton);
-    if (alert.Go() != kSalvageButton) document.Reset();
+    const int32 inserted = load.End() - position;
+    if (document.FrameCount() > inserted) alert.SetDefaultButton(salvage_button);
+    const int32 answer = alert.Go();
+    if (answer == salvage_button) return;
+    if (offers_browsers && answer == kAsBrowsersButton) {
+        offer->accepted = true;
+    } else {
+        document.Reset();
+    }
 }
 
 }  // namespace
@@ -110,11 +130,27 @@ AnimationType ClassifyContent(BFile* file) {
     return flic_magic ? AnimationType::kFli : AnimationType::kNone;
 }
 
-bool OpenGif(BFile* file, int32 position, AnimationDocument& document) {
+const char* TextOf(HarmlessCause cause) {
+    switch (cause) {
+        case HarmlessCause::kShortCodes:
+            return "an image has codes for fewer colors than its palette has";
+        case HarmlessCause::kImageBeyondScreen:
+            return "an image is larger than the screen";
+        case HarmlessCause::kMissingTrailer:
+            return "the file ends without its trailer";
+        case HarmlessCause::kUnknownRecord:
+            return "it has a record of an unknown type";
+        case HarmlessCause::kNone:
+            break;
+    }
+    return nullptr;
+}
+
+bool OpenGif(BFile* file, int32 position, AnimationDocument& document, BrowsersOffer* offer) {
     const GifLoad loader(file, position, document);
     const bool stopped = loader.failed && document.StopRequested();
     if (loader.failed && !stopped) {
-        OfferSalvage(document, loader.End() - position, loader.out_of_memory);
+        AskAboutDamage(loader, position, document, offer);
         return false;
     }
     const FrameRange range{position, loader.End()};
@@ -125,11 +161,11 @@ bool OpenGif(BFile* file, int32 position, AnimationDocument& document) {
     return !stopped;
 }
 
-bool OpenFli(BFile* file, int32 position, AnimationDocument& document) {
+bool OpenFli(BFile* file, int32 position, AnimationDocument& document, BrowsersOffer* offer) {
     const FliLoad loader(file, position, document);
     const bool stopped = loader.failed && document.StopRequested();
     if (loader.failed && !stopped) {
-        OfferSalvage(document, loader.End() - position, loader.out_of_memory);
+        AskAboutDamage(loader, position, document, offer);
         return false;
     }
     document.Change([](Animation& animation) {
@@ -137,6 +173,12 @@ bool OpenFli(BFile* file, int32 position, AnimationDocument& document) {
         animation.loop_count = 0;
     });
     return !stopped;
+}
+
+bool OpenAnimation(AnimationType type, BFile* file, int32 position, AnimationDocument& document,
+                   BrowsersOffer* offer) {
+    return type == AnimationType::kGif ? OpenGif(file, position, document, offer)
+                                       : OpenFli(file, position, document, offer);
 }
 
 }  // namespace kirto

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "document/animation_document.h"
+#include "formats/gif/harmless_cause.h"
 #include "kit/file.h"
 
 namespace kirto {
@@ -16,12 +17,28 @@ AnimationType ClassifyAnimation(const std::string& leaf_name, const std::string&
 // Looks at the file's first bytes only, and sets the position back to the start.
 AnimationType ClassifyContent(BFile* file);
 
+// The cause as a clause: "an image is larger than the screen"; null for kNone.
+const char* TextOf(HarmlessCause cause);
+
+// A file that was refused though browsers open it.
+struct BrowsersOffer {
+    HarmlessCause cause = HarmlessCause::kNone;  // kNone: there is no such file
+    bool accepted = false;  // the user wants it as browsers show it; what was decoded is left
+};
+
 // Decodes the file into the document from the position on. On failure tells the user if memory ran
 // out, asks whether to keep what was decoded ("Salvage", the default if the document had other
 // frames before) or not ("OK", which resets the document), and returns false either way. When the
 // document's work is stopped, keeps what was decoded and returns false. After a GIF, palettes are
-// recognized and the commonest pause becomes the animation's; a FLI animation loops forever.
-bool OpenGif(BFile* file, int32 position, AnimationDocument& document);
-bool OpenFli(BFile* file, int32 position, AnimationDocument& document);
+// recognized and the commonest pause becomes the animation's; a FLI animation loops forever. offer:
+// where it is not null, the user may also want the file as browsers show it, if they do.
+bool OpenGif(BFile* file, int32 position, AnimationDocument& document,
+             BrowsersOffer* offer = nullptr);
+bool OpenFli(BFile* file, int32 position, AnimationDocument& document,
+             BrowsersOffer* offer = nullptr);
+
+// Either of them. type: not kNone.
+bool OpenAnimation(AnimationType type, BFile* file, int32 position, AnimationDocument& document,
+                   BrowsersOffer* offer);
 
 }  // namespace kirto

@@ -33,7 +33,7 @@ status_t SequenceSave::Save() {
         return EncodeAhead(*state_->animation->frames.At(index));
     };
     steps.waiting = [&] { document_.work.ReportAgain(); };
-    steps.take = [&](int32 index, std::optional<Ahead> ahead) {
+    steps.take = [&](int32 index, const std::optional<Ahead>& ahead) {
         status = Write(index, ahead.value_or(nullptr));
         return status == B_OK;
     };

@@ -32,6 +32,22 @@ inline constexpr uint32 kStatusUpdate = FourCharCode("svup");
 // stopped, or 0 when it is over; "done", "total".
 inline constexpr uint32 kWorkProgress = FourCharCode("awrk");
 
+// Application to main window: show something quietly, in place of what was shown before, or nothing
+// any more. String "text"; for each of its buttons a string "button" and an int32 "command", which
+// the window sends itself.
+inline constexpr uint32 kShowNotice = FourCharCode("antc");
+inline constexpr uint32 kHideNotice = FourCharCode("anth");
+
+// A notice's buttons to main window, which passes them on to the application but for the last. No
+// fields.
+inline constexpr uint32 kCloseNotice = FourCharCode("wntc");
+inline constexpr uint32 kUndoOpening = FourCharCode("auop");      // of an animation, as browsers do
+inline constexpr uint32 kSaveFaithfully = FourCharCode("asvf");   // to the current file
+inline constexpr uint32 kShowDifferences = FourCharCode("wsdf");  // in a window
+
+// Application to itself: a save was found to show something else than the window. No fields.
+inline constexpr uint32 kSaveChecked = FourCharCode("asck");
+
 // Status line to main window: stop that. No fields.
 inline constexpr uint32 kStopWork = FourCharCode("wwst");
 

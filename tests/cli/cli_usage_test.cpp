@@ -53,6 +53,7 @@ TEST(KirtoCli, NamesEveryOptionInItsHelp) {
                              "--frame-pause X|off",
                              "--frame-palette off|web-safe|system|greyscale|optimal|FILE",
                              "--salvage",
+                             "--verify",
                              "--save FILE.gif",
                              "--info",
                              "--info-json",

@@ -13,6 +13,7 @@
 #include <QStyleFactory>
 #include <QTabWidget>
 #include <cstdio>
+#include <filesystem>
 #include <functional>
 #include <string>
 #include <thread>
@@ -32,6 +33,7 @@ constexpr int kSettle = 150;      // milliseconds
 constexpr int32 kCurrentFrame = 3;
 constexpr int kEditMenu = 1;
 constexpr int32 kThumbnailHeight = 96;
+constexpr const char* kSavedName = "notice.gif";
 
 void SettleFor(int milliseconds) {
     QElapsedTimer timer;
@@ -70,7 +72,10 @@ class Pictures {
     explicit Pictures(std::string folder)
         : folder_(std::move(folder)),
           application_(prefs_, desktop_, roster_, entry_ref(kirto::ResourceFilePath())),
-          loop_([this] { application_.Loop(); }) {}
+          loop_([this] {
+              application_.CheckSaves();
+              application_.Loop();
+          }) {}
     ~Pictures() {
         desktop_.CloseWindows();
         application_.Quit();
@@ -93,7 +98,9 @@ class Pictures {
         GrabPreferences();
         GrabWork();
         GrabEditMenu();
+        GrabSaveNotice();
         GrabRecoveryOffer();
+        GrabDamage(animation);
     }
 
     int Failures() const { return failures_; }
@@ -178,6 +185,44 @@ class Pictures {
         SettleFor(kSettle);
         Grab(*menu, "edit-menu");
         menu->close();
+    }
+
+    // What is said of a save that browsers show otherwise, here for lack of colors.
+    void GrabSaveNotice() {
+        application_.PostMessage(kirto::kPaletteToGreyscale);
+        BMessage local_palette(kirto::kFrameUsePalette);
+        local_palette.AddBool("value", false);
+        application_.PostMessage(local_palette);
+        BMessage save(kirto::kSaveFile);
+        save.AddInt64("translator_id", 0);
+        save.AddRef("directory", entry_ref(folder_));
+        save.AddString("name", kSavedName);
+        application_.PostMessage(save);
+        auto* notice = Main()->findChild<QWidget*>("NoticeBar");
+        WaitUntil([notice] { return notice->isVisible(); });
+        Grab(*Main(), "notice");
+        GrabDialog(kirto::kShowDifferences, "Differences", "differences");
+        for (int i = 0; i < 2; ++i)
+            application_.PostMessage(kirto::kUndo);
+        SettleFor(kSettle);
+    }
+
+    // The alert about a file that browsers open.
+    void GrabDamage(const std::string& animation) {
+        const std::string damaged = folder_ + "/" + kSavedName;
+        std::filesystem::copy_file(animation, damaged,
+                                   std::filesystem::copy_options::overwrite_existing);
+        std::filesystem::resize_file(damaged, std::filesystem::file_size(damaged) - 1);
+        BMessage open(kirto::kOpenFile);
+        open.AddRef("refs", entry_ref(damaged));
+        application_.PostMessage(open);
+        WaitUntil([] { return QApplication::activeModalWidget() != nullptr; });
+        if (auto* alert = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            Grab(*alert, "damaged");
+            alert->buttons().back()->click();
+        }
+        WaitUntil([] { return QApplication::activeModalWidget() == nullptr; });
+        std::filesystem::remove(damaged);
     }
 
     // The question about a document that another editor has left.

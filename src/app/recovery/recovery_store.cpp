@@ -22,7 +22,7 @@ constexpr const char* kLockEnding = ".lock";
 constexpr const char* kDamagedEnding = ".damaged";
 constexpr int kMaxNameAttempts = 10;
 constexpr int64 kDaysKept = 30;
-constexpr int64 kSecondsADay = 24 * 60 * 60;
+constexpr int64 kSecondsADay = int64{24} * 60 * 60;
 
 // The lock beside a recovery file.
 std::string LockPathOf(const std::string& path) {

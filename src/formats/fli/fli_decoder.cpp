@@ -89,6 +89,9 @@ bool FliDecoder::ReadFliFrameHeader() {
         skipped_block_ = true;
     } else if (type != kFrameRecord) {
         DebugLine("FliLoad::ReadFliFrameHeader() - Wrong magic number in FLI frame\n");
+        // Players go on behind it.
+        if (bytes_left_ >= kRecordHeaderSize && record_end_ <= input_.Size())
+            cause_ = HarmlessCause::kUnknownRecord;
         return false;
     }
     chunk_count_ = ReadLittle16(header + 6);

@@ -10,6 +10,7 @@
 #include "formats/fli/fli_chunks.h"
 #include "formats/fli/fli_input.h"
 #include "formats/fli/fli_pixel_writer.h"
+#include "formats/gif/harmless_cause.h"
 #include "kit/file.h"
 
 namespace kirto {
@@ -52,6 +53,8 @@ class FliDecoder {
     const Palette& GlobalPalette() const { return global_; }
     // Whether the last record broke off for lack of memory; the file may be intact.
     bool OutOfMemory() const { return out_of_memory_; }
+    // Why the last record is broken where players would not mind.
+    HarmlessCause Cause() const { return cause_; }
 
   private:
     // size: of the chunk in the file, its header included; may be anything.
@@ -100,6 +103,7 @@ class FliDecoder {
     Palette global_;
     const Place* place_ = nullptr;  // of the current record
     bool out_of_memory_ = false;
+    HarmlessCause cause_ = HarmlessCause::kNone;
     int64 record_end_ = 0;        // where the current record ends, as it says
     int64 bytes_left_ = 0;        // of the current record, as far as its chunks are read
     int32 chunk_count_ = 0;       // of the current record

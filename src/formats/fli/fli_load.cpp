@@ -61,6 +61,7 @@ bool FliLoad::ReadRecord(int32 index) {
             break;
     }
     out_of_memory = decoder_.OutOfMemory();
+    harmless_cause = decoder_.Cause();
     return false;
 }
 

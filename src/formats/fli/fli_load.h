@@ -13,6 +13,8 @@ class FliLoad {
   public:
     bool failed = false;         // decoding ended before the last frame
     bool out_of_memory = false;  // it ran out of memory; the file may be intact
+    // Why it failed where players would not mind.
+    kirto::HarmlessCause harmless_cause = kirto::HarmlessCause::kNone;
 
     // file: at its start, not owned. start: document position of the first frame.
     FliLoad(BFile* file, int32 start, AnimationDocument& document);

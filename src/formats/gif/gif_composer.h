@@ -9,6 +9,7 @@
 #include "color/palette.h"
 #include "formats/gif/gif_indices.h"
 #include "formats/gif/gif_parser.h"
+#include "formats/gif/harmless_cause.h"
 #include "picture/index_painter.h"
 
 namespace kirto {
@@ -45,6 +46,8 @@ class GifComposer {
     // is told the image's place in.
     virtual status_t Compose(const GifImage& image, GifIndices* ahead, int64 file_size,
                              Frame* frame, Palette* palette) = 0;
+    // Of B_BAD_DATA that Compose has returned.
+    HarmlessCause Cause() const { return cause_; }
 
   protected:
     // Marks the frame local, and fills its palette, if the image has a table. The palette that is
@@ -66,6 +69,7 @@ class GifComposer {
     Palette global_;
     const std::shared_ptr<PixelBudget> budget_;
     Work& work_;
+    HarmlessCause cause_ = HarmlessCause::kNone;
 
   private:
     GifIndices indices_;      // of the last image that was decoded here

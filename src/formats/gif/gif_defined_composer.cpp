@@ -39,6 +39,7 @@ status_t GifDefinedComposer::Compose(const GifImage& image, GifIndices* ahead, i
                                      Frame* frame, Palette* palette) {
     if (!FitsScreen(image)) {
         DebugLine("GifLoad::ReadGifImageHeader() - Local dimensions exceed global dimensions\n");
+        if (image.data.complete) cause_ = HarmlessCause::kImageBeyondScreen;
         return B_BAD_DATA;
     }
     const Palette* const current = TakeTable(image, frame, palette);
@@ -50,7 +51,10 @@ status_t GifDefinedComposer::Compose(const GifImage& image, GifIndices* ahead, i
     if (!IsAffordable(width, height)) return B_NO_MEMORY;
     if (image.data.too_large || (!ahead && !Reserve(image))) return B_NO_MEMORY;
     const std::optional<int32> min_code_size = CheckCodeSize(image.min_code_size, *current);
-    if (!min_code_size) return B_BAD_DATA;
+    if (!min_code_size) {
+        if (HasShortCodes(image, *current)) cause_ = HarmlessCause::kShortCodes;
+        return B_BAD_DATA;
+    }
     const GifIndices& decoded = Decode(image, ahead, *min_code_size, file_size);
     if (!decoded.complete) return B_BAD_DATA;
     const IndexImage indices = PlacedIn(*current, image, decoded);
@@ -127,6 +131,11 @@ std::optional<int32> GifDefinedComposer::CheckCodeSize(uint8 size, const Palette
             expected, size);
     }
     return actual;
+}
+
+// Browsers take the codes as they are, whatever the palette's size.
+bool GifDefinedComposer::HasShortCodes(const GifImage& image, const Palette& current) {
+    return image.data.complete && image.min_code_size > 0 && image.min_code_size < current.bits;
 }
 
 bool GifDefinedComposer::CoversScreen(const GifImage& image) const {

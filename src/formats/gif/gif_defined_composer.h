@@ -34,6 +34,7 @@ class GifDefinedComposer : public GifComposer {
     static std::shared_ptr<const Picture> Solid(uint32 pixel, int32 width, int32 height);
     IndexImage PlacedIn(const Palette& current, const GifImage& image, const GifIndices& decoded);
     static std::optional<int32> CheckCodeSize(uint8 size, const Palette& current);
+    static bool HasShortCodes(const GifImage& image, const Palette& current);
     bool CoversScreen(const GifImage& image) const;
 
     const Options options_;

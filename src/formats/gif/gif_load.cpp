@@ -102,6 +102,8 @@ bool GifLoad::TakePiece(const kirto::GifPiece& piece, kirto::GifIndices* ahead) 
     if (piece.end == End::kTrailer) return false;
     if (piece.end == End::kMore) return true;
     damaged_ = piece.end != End::kImage;
+    if (piece.end == End::kNoTrailer && next_position_ > start_)
+        harmless_cause = kirto::HarmlessCause::kMissingTrailer;
     const bool goes_on = !damaged_ && TakeImage(piece.image, ahead);
     failed = !goes_on && !MayEndHere();
     return goes_on;
@@ -145,6 +147,7 @@ bool GifLoad::TakeImage(const kirto::GifImage& image, kirto::GifIndices* ahead) 
         composer_->Compose(image, ahead, input_.Size(), &frame_, local_palette_.get());
     out_of_memory = status == B_NO_MEMORY;
     damaged_ = status == B_BAD_DATA;
+    if (damaged_) harmless_cause = composer_->Cause();
     if (status != B_OK) return false;
     // The first image may have made the screen larger.
     const std::shared_ptr<const kirto::Animation> animation = document_.Current();

@@ -9,6 +9,7 @@
 #include "formats/gif/gif_indices.h"
 #include "formats/gif/gif_parser.h"
 #include "formats/gif/gif_reader.h"
+#include "formats/gif/harmless_cause.h"
 #include "kit/file.h"
 #include "kit/watched_input.h"
 
@@ -21,6 +22,8 @@ class GifLoad {
   public:
     bool failed = false;         // decoding ended before the trailer
     bool out_of_memory = false;  // it ran out of memory; the file may be intact
+    // Why it failed where browsers would not mind.
+    kirto::HarmlessCause harmless_cause = kirto::HarmlessCause::kNone;
 
     // file: at its start, not owned. start: document position and number of the first frame.
     GifLoad(BFile* file, int32 start, AnimationDocument& document);

@@ -38,7 +38,7 @@ bool GifParser::ReadGifHeader(GifScreen* screen) {
 
 GifParser::Block GifParser::ReadBlock(GifControl* control, int32* loop_count) {
     uint8 introducer = 0;
-    if (!input_.Read(&introducer, 1)) return Block::kBroken;
+    if (!input_.Read(&introducer, 1)) return Block::kEnd;
     switch (introducer) {
         case kImageSeparator:
             return Block::kImageStart;

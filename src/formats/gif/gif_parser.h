@@ -58,6 +58,7 @@ class GifParser {
         kImageStart,  // an image follows: ReadImage() reads it
         kOther,       // nothing that changes the animation
         kTrailer,
+        kEnd,    // the file ended where a block was to begin
         kBroken  // the file ended within the block, or browsers read no further than this
     };
 

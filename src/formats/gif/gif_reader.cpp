@@ -38,6 +38,9 @@ bool GifReader::ReadBlock(GifPiece* piece) {
         case GifParser::Block::kTrailer:
             piece->end = GifPiece::End::kTrailer;
             return false;
+        case GifParser::Block::kEnd:
+            piece->end = GifPiece::End::kNoTrailer;
+            return false;
         case GifParser::Block::kBroken:
             break;
     }

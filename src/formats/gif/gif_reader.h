@@ -22,7 +22,8 @@ struct GifPiece {
         kBrokenImage,  // the file ended within its header
         kMore,         // more such blocks: there are very many
         kTrailer,
-        kBroken  // the file ended within a block
+        kNoTrailer,  // the file ended instead
+        kBroken      // the file ended within a block
     };
 
     std::vector<Block> blocks;

@@ -56,9 +56,10 @@ bool FitsBudget(const ImageHeader& header, const PixelBudget* budget) {
 // Whether the picture as Qt decodes it finds room beside the bitmap that is made of it.
 bool FitsTwice(const QImageReader& reader, const ImageHeader& header, const PixelBudget* budget) {
     // Some readers answer with what is no format at all.
-    const QImage::Format format = reader.imageFormat();
-    const bool known = format > QImage::Format_Invalid && format < QImage::NImageFormats;
-    const uint64 bits = known ? QImage::toPixelFormat(format).bitsPerPixel() : 32;
+    const auto number = static_cast<int>(reader.imageFormat());
+    const bool known = number > QImage::Format_Invalid && number < QImage::NImageFormats;
+    const auto format = known ? static_cast<QImage::Format>(number) : QImage::Format_ARGB32;
+    const uint64 bits = QImage::toPixelFormat(format).bitsPerPixel();
     const bool turned = reader.transformation() != QImageIOHandler::TransformationNone;
     const uint64 bytes = (turned ? 2 : 1) * (header.Pixels() * bits / 8);
     return 4 * header.Pixels() + header.working_bytes + bytes <=

@@ -103,6 +103,8 @@ std::optional<int> ParseArguments(int argc, const char* const* argv, CliArgument
     }
     app.add_flag("--salvage", arguments->salvage,
                  "Keep the frames before the damage when an animation is damaged");
+    app.add_flag("--verify", arguments->verify,
+                 "After each --save, tell how browsers will show the animation otherwise");
     app.add_flag("--quiet", arguments->quiet, "Show no progress and no debug lines");
     app.add_option("--format", arguments->format,
                    "Write image sequences in this format, whatever their extension")

@@ -25,6 +25,7 @@ struct CliArguments {
     std::vector<CliOperation> operations;
     bool salvage = false;
     bool quiet = false;
+    bool verify = false;                 // animations that were saved
     std::optional<uint64> memory_limit;  // bytes
     std::optional<int32> threads;        // 1 to kMostThreads
     std::string format;                  // of image sequences; empty: by their extension

@@ -42,12 +42,13 @@ int CliSession::Run() {
         if (outcome == Outcome::kFailed) return kExitFailed;
         if (outcome == Outcome::kUsage) return kExitUsage;
     }
-    return kExitDone;
+    return differs_ ? kExitFailed : kExitDone;
 }
 
 void CliSession::RequestStop() {
     stopped_ = true;
     if (AnimationDocument* document = running_) document->RequestStop();
+    if (SaveVerification* verification = verification_) verification->RequestStop();
 }
 
 void CliSession::StartApplication() {

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "app/kirto.h"
+#include "app/save_verification.h"
 #include "document/field_table.h"
 #include "kit/idle_barrier.h"
 #include "kit/translator_roster.h"
@@ -75,9 +76,14 @@ class CliSession {
     // failure.
     Outcome Post(const BMessage& message);
     Outcome Post(uint32 what) { return Post(BMessage(what)); }
+    // Posts the command that opens the file. Names the cause where browsers would open what is
+    // refused.
+    Outcome PostOpen(const std::string& path, const BMessage& message);
     // Fails, with the reason, when the file can't be opened for reading.
     Outcome CheckReadable(const std::string& path);
     Outcome SaveAs(const std::string& path, translator_id translator);
+    // Prints how browsers will show what was saved otherwise.
+    Outcome Verify(const std::string& path);
     // Posts the command that makes a palette wait for a file, then the file. True as Post.
     Outcome LoadPalette(uint32 await_command, const std::string& path);
     // Posts the command as often as the text says (once without a number), and fails where the
@@ -110,8 +116,10 @@ class CliSession {
     IdleBarrier barrier_;
     // Made just before the first operation that is no "--set", so that settings come first.
     std::unique_ptr<Kirto> app_;
-    std::atomic<AnimationDocument*> running_ = nullptr;  // app_, for RequestStop
+    std::atomic<AnimationDocument*> running_ = nullptr;      // app_, for RequestStop
+    std::atomic<SaveVerification*> verification_ = nullptr;  // that runs, for the same
     std::atomic<bool> stopped_ = false;
+    bool differs_ = false;  // what was saved and verified from what was shown
 };
 
 }  // namespace kirto

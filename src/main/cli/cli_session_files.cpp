@@ -3,9 +3,13 @@
 #include <cctype>
 #include <cstdio>
 #include <filesystem>
+#include <unistd.h>
 
+#include "app/open_animation.h"
 #include "app/save_animation.h"
+#include "app/save_verification.h"
 #include "base/number.h"
+#include "base/terminal_text.h"
 #include "base/text.h"
 #include "document/command_codes.h"
 #include "effects/images_ahead.h"
@@ -75,12 +79,21 @@ CliSession::Outcome CliSession::Open(const std::string& value) {
     const entry_ref ref = AbsoluteRef(value);
     BMessage message(kOpenFile);
     message.AddRef("refs", ref);
-    const Outcome outcome = Post(message);
+    const Outcome outcome = PostOpen(value, message);
     // A palette file of the settings that can't be read is told of whenever the document starts
     // afresh, but that is no failure of what is opened: a document named like the file is open.
     const auto state = app_->CurrentState();
     const bool opened = state->file_directory == ref.Directory() && state->file_name == ref.Leaf();
     return opened ? Outcome::kDone : outcome;
+}
+
+CliSession::Outcome CliSession::PostOpen(const std::string& path, const BMessage& message) {
+    const Outcome outcome = Post(message);
+    if (const char* cause = TextOf(app_->Refusal())) {
+        desktop_.Complain(path + ": It was refused because " + cause +
+                          "; --faithful opens it as browsers do.");
+    }
+    return outcome;
 }
 
 CliSession::Outcome CliSession::InsertAnimation(const std::string& value) {
@@ -93,7 +106,7 @@ CliSession::Outcome CliSession::InsertAnimation(const std::string& value) {
     message.AddRef("refs", AbsoluteRef(path));
     message.AddBool("reset", false);
     message.AddInt32("position", position);
-    return Post(message);
+    return PostOpen(path, message);
 }
 
 CliSession::Outcome CliSession::InsertImages(const std::string& value) {
@@ -135,7 +148,33 @@ CliSession::Outcome CliSession::Save(const std::string& value) {
     if (outcome != Outcome::kDone) return outcome;
     const std::string cut_short = NumbersCutShort(*app_->Current(), prefs_.global_pauseinseconds);
     if (!cut_short.empty()) desktop_.Complain(value + ": Saved, but " + cut_short + ".");
-    return outcome;
+    return arguments_.verify ? Verify(value) : outcome;
+}
+
+CliSession::Outcome CliSession::Verify(const std::string& path) {
+    SaveVerification verification(app_->pixel_budget->Limit());
+    verification_ = &verification;
+    if (stopped_) verification.RequestStop();
+    const SaveVerification::Result result = verification.Run(
+        AbsoluteRef(path).path, *app_->Current(), SaveVerification::OptionsOf(prefs_));
+    verification_ = nullptr;
+    switch (result) {
+        case SaveVerification::Result::kUnreadable:
+            return Fail(path + ": Saved, but it can't be read to be verified.");
+        case SaveVerification::Result::kNoMemory:
+            return Fail(path + ": Saved, but there is not enough memory to verify it.");
+        case SaveVerification::Result::kEqual:
+        case SaveVerification::Result::kStopped:
+            return Outcome::kDone;
+        case SaveVerification::Result::kDifferent:
+            break;
+    }
+    desktop_.ClearProgress();
+    const std::string subject = isatty(STDOUT_FILENO) ? TerminalText(path) : path;
+    for (const std::string& sentence : verification.Differences().Sentences())
+        std::printf("%s: %s\n", subject.c_str(), sentence.c_str());
+    differs_ = true;
+    return Outcome::kDone;
 }
 
 CliSession::Outcome CliSession::SaveSequence(const std::string& value) {

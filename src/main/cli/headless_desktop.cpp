@@ -1,5 +1,6 @@
 #include "main/cli/headless_desktop.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <unistd.h>
 
@@ -44,10 +45,12 @@ int32 HeadlessDesktop::Present(const BAlert& alert) {
     std::string text = alert.Text();
     if (text == kOutOfMemory) text += " Use --memory-limit to let frames take more.";
     Complain(subject_.empty() ? text : subject_ + ": " + text);
-    if (salvage_ && alert.Buttons().front() == "Salvage") {
+    const std::vector<std::string>& buttons = alert.Buttons();
+    const auto salvage = std::find(buttons.begin(), buttons.end(), "Salvage");
+    if (salvage_ && salvage != buttons.end()) {
         // What has gone wrong before the question is the reason for it.
         failure_ = false;
-        return 0;
+        return static_cast<int32>(salvage - buttons.begin());
     }
     failure_ = true;
     return static_cast<int32>(alert.Buttons().size()) - 1;

@@ -58,6 +58,7 @@ int RunEditor(const kirto::EditorArguments& arguments, kirto::QtTranslatorRoster
     std::optional<kirto::CrashRecovery> recovery;
     std::optional<kirto::TerminationSignals> termination;
     Kirto application(prefs, desktop, roster, entry_ref(kirto::ResourceFilePath()));
+    application.CheckSaves();
     if (arguments.screenshot.empty()) {
         recovery.emplace(kirto::RecoveryStore::DefaultFolder(), RecoveryDelay());
         recovery->Watch(application);

@@ -1,6 +1,10 @@
 #pragma once
 
+#include <functional>
+#include <memory>
+
 #include "app/file_panel.h"
+#include "app/save_check.h"
 #include "document/animation_document.h"
 #include "kit/messenger.h"
 #include "kit/translator_roster.h"
@@ -18,6 +22,8 @@ struct Editor {
     FilePanelSource& panels;
     BTranslatorRoster& roster;
     IEResourceHandler* resources;  // null if no window is built from resources
+    // What was found in the last save; empty where saves are not checked.
+    std::function<std::shared_ptr<const SaveCheck::Finding>()> finding = {};
 };
 
 }  // namespace kirto

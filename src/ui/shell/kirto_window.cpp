@@ -20,6 +20,7 @@
 #include "ui/dialogs/preferences_window.h"
 #include "ui/panels/global_view.h"
 #include "ui/panels/local_view.h"
+#include "ui/panels/notice_bar.h"
 #include "ui/panels/palette_view.h"
 #include "ui/panels/status_view.h"
 #include "ui/shell/main_menu.h"
@@ -89,6 +90,7 @@ void KirtoWindow::MakePanels() {
     local_view_ = new LocalView(shown_, window);
     panels_ = {new GlobalView(shown_, window), new PaletteView(shown_, window), local_view_};
     status_view_ = new StatusView(shown_, window);
+    notice_bar_ = new NoticeBar(window);
     frame_list_view_ = new FrameListView(shown_, window);
     // Thumbnails select by way of the window, so that an edit of the frame that was current goes
     // before them.
@@ -102,7 +104,7 @@ void KirtoWindow::MakePanels() {
 }
 
 // The panels in a column at the left that scrolls when the window is low, the frames in all the
-// room that is left, the status line below both.
+// room that is left, what is said quietly and the status line below both.
 void KirtoWindow::ArrangePanels() {
     auto* column = new QWidget;
     auto* column_layout = new QVBoxLayout(column);
@@ -135,6 +137,7 @@ void KirtoWindow::ArrangePanels() {
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(splitter_, 1);
+    layout->addWidget(notice_bar_);
     layout->addWidget(status_view_);
     setCentralWidget(content);
 }

@@ -17,6 +17,7 @@ class TextControl;
 
 class FrameListView;
 class LocalView;
+class NoticeBar;
 class PreferencesWindow;
 class QScrollArea;
 class QShortcut;
@@ -110,6 +111,7 @@ class KirtoWindow : public QMainWindow, public BWindow {
     void ShowStatus(BMessage* message);
     void ShowWork(BMessage* message);
     void StopWork(BMessage* message);
+    void Notice(BMessage* message);
     void CloseWhenDone(BMessage* message);
     void New(BMessage* message);
     void Open(BMessage* message);
@@ -141,6 +143,7 @@ class KirtoWindow : public QMainWindow, public BWindow {
     std::vector<kirto::FieldPanel*> panels_;  // in their order from above
     LocalView* local_view_ = nullptr;         // one of them
     StatusView* status_view_ = nullptr;
+    NoticeBar* notice_bar_ = nullptr;
     FrameListView* frame_list_view_ = nullptr;
     ThumbnailView* thumbnail_view_ = nullptr;
     QStackedWidget* frame_area_ = nullptr;

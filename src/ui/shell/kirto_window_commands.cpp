@@ -8,9 +8,11 @@
 #include "kit/alert.h"
 #include "ui/dialogs/fade_window.h"
 #include "ui/panels/field_panel.h"
+#include "ui/panels/notice_bar.h"
 #include "ui/panels/status_view.h"
 #include "ui/shell/kirto_window.h"
 #include "ui/shell/main_menu.h"
+#include "ui/thumbnails/difference_window.h"
 #include "ui/thumbnails/frame_list.h"
 #include "ui/thumbnails/frame_list_view.h"
 #include "ui/thumbnails/thumbnail_view.h"
@@ -33,6 +35,12 @@ const KirtoWindow::Command* KirtoWindow::CommandFor(uint32 code) {
         {kirto::kWorkProgress, &KirtoWindow::ShowWork},
         {kirto::kStopWork, &KirtoWindow::StopWork},
         {kirto::kQuitWhenDone, &KirtoWindow::CloseWhenDone},
+        {kirto::kShowNotice, &KirtoWindow::Notice},
+        {kirto::kHideNotice, &KirtoWindow::Notice},
+        {kirto::kCloseNotice, &KirtoWindow::Notice},
+        {kirto::kShowDifferences, &KirtoWindow::Notice},
+        {kirto::kUndoOpening, &KirtoWindow::Forward},
+        {kirto::kSaveFaithfully, &KirtoWindow::Forward},
         {kirto::kMenuNew, &KirtoWindow::New},
         {kirto::kMenuOpen, &KirtoWindow::Open},
         {kirto::kMenuSave, &KirtoWindow::Save},
@@ -52,6 +60,7 @@ const KirtoWindow::Command* KirtoWindow::CommandFor(uint32 code) {
         {kirto::kUndo, &KirtoWindow::Forward},
         {kirto::kRedo, &KirtoWindow::Forward},
         {B_SIMPLE_DATA, &KirtoWindow::Forward},
+        {kirto::kStoreSettings, &KirtoWindow::Forward},
         {kirto::kPaletteToFile, &KirtoWindow::PaletteFromFile},
         {kirto::kFramePaletteToFile, &KirtoWindow::PaletteFromFile},
         {kirto::kThumbnailMode, &KirtoWindow::ChooseMode},
@@ -144,6 +153,20 @@ void KirtoWindow::ShowWork(BMessage* message) {
 
 void KirtoWindow::StopWork(BMessage*) {
     editor_.document.work.Stop(shown_work_);
+}
+
+void KirtoWindow::Notice(BMessage* message) {
+    if (message->what == kirto::kShowNotice) {
+        notice_bar_->ShowNotice(*message);
+    } else if (message->what == kirto::kShowDifferences) {
+        const auto finding = editor_.finding ? editor_.finding() : nullptr;
+        if (!finding || finding->differences.pairs.empty()) return;
+        const bool draw_transparent = shown_.Settings().thumbnail_drawtransparent;
+        (new DifferenceWindow(finding, draw_transparent, this))->show();
+    } else {
+        notice_bar_->HideNotice();
+        if (message->what == kirto::kCloseNotice) PostToApplication(*message);
+    }
 }
 
 void KirtoWindow::CloseWhenDone(BMessage*) {

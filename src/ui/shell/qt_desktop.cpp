@@ -14,8 +14,9 @@ namespace kirto {
 
 BMessenger QtDesktop::OpenMainWindow(Kirto& application, const BRect& frame,
                                      const std::string& title) {
-    const Editor editor{application, application.Commands(), application, roster_,
-                        application.Resources()};
+    const Editor editor{
+        application, application.Commands(),  application,
+        roster_,     application.Resources(), [&application] { return application.LastFinding(); }};
     window_ = std::make_unique<KirtoWindow>(frame, title.c_str(), editor);
     window_messenger_ = window_->Messenger();
     alerts_.SetParentWindow(window_.get());

@@ -27,8 +27,24 @@ ThumbnailView::ThumbnailView(const kirto::ShownDocument& shown, const kirto::Edi
     auto* scroll_view = new kirto::ThumbScrollView(this);
     drawing_view_ = new ThumbDrawingView(shown, editor, window, scroll_view);
     setFocusProxy(drawing_view_);
+    MakeFaithfulChoice(window);
     MakeControls(window);
     UpdateDisplay();
+}
+
+// The setting is changed as the preferences do it.
+void ThumbnailView::MakeFaithfulChoice(const BMessenger& window) {
+    faithful_ = new QCheckBox("Read and save as browsers show it", this);
+    faithful_->setObjectName("FaithfulChoice");
+    faithful_->setAccessibleName(faithful_->text());
+    faithful_->setToolTip("Also found in the preferences, under Compatibility");
+    connect(faithful_, &QCheckBox::clicked, this, [this, window](bool on) {
+        Prefs settings = shown_.Settings();
+        settings.animation_faithful = on;
+        BMessage message(kirto::kStoreSettings);
+        settings.AddTo(&message);
+        window.SendMessage(message);
+    });
 }
 
 void ThumbnailView::MakeControls(const BMessenger& window) {
@@ -65,11 +81,13 @@ void ThumbnailView::MakeControls(const BMessenger& window) {
     preset->addWidget(menu, 1);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(drawing_view_->parentWidget()->parentWidget(), 1);
+    layout->addWidget(faithful_, 0, Qt::AlignHCenter);
     layout->addWidget(new kirto::FoldingRow(height, preset, this));
     // The slider keeps its place while the number beside it grows.
     const QString widest = HeightText(8888);
     height_label_->setMinimumWidth(height_label_->fontMetrics().horizontalAdvance(widest));
-    setTabOrder(drawing_view_, slider_);
+    setTabOrder(drawing_view_, faithful_);
+    setTabOrder(faithful_, slider_);
     setTabOrder(slider_, menu);
 }
 
@@ -82,10 +100,17 @@ void ThumbnailView::UpdateDisplay() {
     // The new range may have moved the slider.
     if (SliderValue() != drawing_view_->ThumbnailHeight()) SetHeight(SliderValue());
     drawing_view_->UpdateDisplay();
+    ShowFaithfulChoice();
 }
 
 void ThumbnailView::ResetDisplay() {
     drawing_view_->ResetDisplay();
+    ShowFaithfulChoice();
+}
+
+void ThumbnailView::ShowFaithfulChoice() {
+    faithful_->setChecked(shown_.Settings().animation_faithful);
+    faithful_->setVisible(shown_.Frames().Empty());
 }
 
 void ThumbnailView::SetHeight(int32 pixels) {

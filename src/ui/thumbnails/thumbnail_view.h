@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCheckBox>
 #include <QLabel>
 #include <QSlider>
 #include <QWidget>
@@ -9,7 +10,8 @@
 
 class ThumbDrawingView;
 
-// The frame area in thumbnail mode: the grid, and how high its thumbnails are. GUI thread.
+// The frame area in thumbnail mode: the grid, and how high its thumbnails are; as long as there are
+// none, the choice whether animations are read and saved as browsers show them. GUI thread.
 class ThumbnailView : public QWidget {
   public:
     // shown outlives the view.
@@ -31,9 +33,12 @@ class ThumbnailView : public QWidget {
 
   private:
     void MakeControls(const BMessenger& window);
+    void MakeFaithfulChoice(const BMessenger& window);
+    void ShowFaithfulChoice();
 
     const kirto::ShownDocument& shown_;
     ThumbDrawingView* drawing_view_;
     QLabel* height_label_;
     QSlider* slider_;
+    QCheckBox* faithful_;
 };

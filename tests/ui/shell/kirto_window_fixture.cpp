@@ -35,7 +35,8 @@ KirtoWindowFixture::KirtoWindowFixture()
 
 void KirtoWindowFixture::Open(BRect frame) {
     document.PublishSettings();
-    const Editor editor{document, commands, panels, roster, &resources.Handler()};
+    const Editor editor{
+        document, commands, panels, roster, &resources.Handler(), [this] { return found; }};
     window = std::make_unique<KirtoWindow>(frame, "Kirto - untitled", editor);
     window->show();
     EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));

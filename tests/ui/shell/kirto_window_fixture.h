@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "app/command_port.h"
+#include "app/save_check.h"
 #include "document/command_codes.h"
 #include "support/fake_roster.h"
 #include "support/test_support.h"
@@ -78,6 +79,7 @@ class KirtoWindowFixture : public ::testing::Test {
     RecordedPanels panels;
     FakeRoster roster;
     WindowResources resources;
+    std::shared_ptr<const SaveCheck::Finding> found;  // in the last save
     std::unique_ptr<KirtoWindow> window;
 };
 

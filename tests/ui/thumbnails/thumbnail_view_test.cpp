@@ -3,6 +3,7 @@
 #include <QComboBox>
 #include <gtest/gtest.h>
 
+#include "document/command_codes.h"
 #include "ui/thumbnails/frame_area_fixture.h"
 
 namespace kirto::test {
@@ -89,6 +90,40 @@ TEST(ThumbnailView, NamesItsViewsAndLeadsTheKeyboardThroughThem) {
     EXPECT_EQ(fixture.view->focusProxy(), &fixture.Grid());
     EXPECT_EQ(Named<QSlider>(fixture, "Slider").accessibleName(), "Thumbnail height");
     EXPECT_EQ(Named<QComboBox>(fixture, "HeightField").accessibleName(), "Use frame:");
+}
+
+TEST(ThumbnailView, OffersToReadAsBrowsersDoWhereThereIsNoFrame) {
+    ThumbnailFixture empty({});
+    ThumbnailFixture full(SameFrames(1, 10, 10));
+
+    EXPECT_FALSE(Named<QCheckBox>(empty, "FaithfulChoice").isHidden());
+    EXPECT_FALSE(Named<QCheckBox>(empty, "FaithfulChoice").isChecked());
+    EXPECT_TRUE(Named<QCheckBox>(full, "FaithfulChoice").isHidden());
+}
+
+TEST(ThumbnailView, ThatChoiceStoresTheSetting) {
+    ThumbnailFixture fixture({});
+
+    Named<QCheckBox>(fixture, "FaithfulChoice").click();
+
+    const std::vector<BMessage> messages = fixture.window->Messages();
+    ASSERT_EQ(messages.size(), 1U);
+    EXPECT_EQ(messages[0].what, kStoreSettings);
+    Prefs stored{Prefs::BuiltIn{}};
+    stored.TakeFrom(messages[0]);
+    EXPECT_TRUE(stored.animation_faithful);
+}
+
+TEST(ThumbnailView, ThatChoiceShowsTheSettingAsItIs) {
+    ThumbnailFixture fixture({});
+    fixture.fixture.prefs.animation_faithful = true;
+    fixture.fixture.document.PublishSettings();
+    fixture.shown.Take(fixture.fixture.document);
+
+    fixture.view->UpdateDisplay();
+
+    EXPECT_TRUE(Named<QCheckBox>(fixture, "FaithfulChoice").isChecked());
+    EXPECT_EQ(fixture.window->Transcript(), "");
 }
 
 }  // namespace

@@ -1,0 +1,43 @@
+#include "app/notices.h"
+
+#include "document/command_codes.h"
+
+namespace kirto {
+
+void Notices::ShowOpened(bool inserted) {
+    Show(inserted ? Kind::kInserted : Kind::kOpened,
+         "Opened as browsers do. Animations are read and saved that way from now on.",
+         {{"Undo", kUndoOpening}, {"Close", kCloseNotice}});
+}
+
+void Notices::ShowDifferences(const SaveDifferences& differences) {
+    std::string text;
+    for (const std::string& sentence : differences.Sentences())
+        text += (text.empty() ? "In browsers " : "; ") + sentence;
+    std::vector<Button> buttons = {{"Save Faithfully", kSaveFaithfully}, {"Close", kCloseNotice}};
+    // Where the pictures are the same there is nothing to see.
+    if (!differences.pairs.empty()) buttons.insert(buttons.begin() + 1, {"Show", kShowDifferences});
+    Show(Kind::kSaved, text + ".", buttons);
+}
+
+void Notices::Show(Kind kind, const std::string& text, const std::vector<Button>& buttons) {
+    BMessage message(kShowNotice);
+    message.AddString("text", text);
+    for (const Button& button : buttons) {
+        message.AddString("button", button.label);
+        message.AddInt32("command", static_cast<int32>(button.command));
+    }
+    document_.window.SendMessage(message);
+    shown_ = kind;
+}
+
+void Notices::Hide() {
+    if (shown_ != Kind::kNone) document_.PostToWindow(kHideNotice);
+    shown_ = Kind::kNone;
+}
+
+void Notices::HideOpened() {
+    if (shown_ == Kind::kOpened || shown_ == Kind::kInserted) Hide();
+}
+
+}  // namespace kirto

@@ -1,0 +1,227 @@
+#include "animation/save_comparison.h"
+
+#include <gtest/gtest.h>
+
+#include "animation/gif_source.h"
+#include "base/thread_count.h"
+#include "support/test_support.h"
+
+namespace kirto::test {
+
+namespace {
+
+constexpr uint32 kRed = 0xFFFF0000;
+constexpr uint32 kBlue = 0xFF0000FF;
+constexpr uint32 kNone = 0;
+
+using Pair = SaveDifferences::Pair;
+
+// Of frames of one pixel each, on a screen of one pixel.
+Animation AnimationOf(const std::vector<uint32>& pixels, double pause = 10) {
+    Animation animation;
+    animation.width = 1;
+    animation.height = 1;
+    for (const uint32 pixel : pixels) {
+        Frame frame("frame", 1, 1);
+        frame.bitmap = FramePictureOf(1, 1, {pixel});
+        frame.use_pause = true;
+        frame.pause_length = pause;
+        InsertFrame(animation, animation.frames.Size(), std::make_shared<const Frame>(frame));
+    }
+    return animation;
+}
+
+void SetPauses(Animation& animation, const std::vector<double>& pauses) {
+    for (int32 i = 0; i < animation.frames.Size(); ++i) {
+        EditFrame(animation, i,
+                  [&](Frame& frame) { frame.pause_length = pauses[static_cast<size_t>(i)]; });
+    }
+}
+
+// As it is for a frame whose image has that transparent index.
+void SetTransparentIndex(Animation& animation, int32 index) {
+    for (int32 i = 0; i < animation.frames.Size(); ++i) {
+        EditFrame(animation, i, [&](Frame& frame) {
+            auto source = std::make_shared<GifSource>();
+            source->transparent_index = index;
+            frame.source = source;
+        });
+    }
+}
+
+SaveDifferences Compare(const Animation& saved, const Animation& read,
+                        const SaveComparison::Options& options = {}) {
+    return SaveComparison(saved, read, options).Compare();
+}
+
+int32 Repaused(const std::vector<double>& saved_pauses, const std::vector<double>& read_pauses) {
+    const std::vector<uint32> pixels(saved_pauses.size(), kRed);
+    Animation saved = AnimationOf(pixels);
+    Animation read = AnimationOf(pixels);
+    SetPauses(saved, saved_pauses);
+    SetPauses(read, read_pauses);
+    return Compare(saved, read).repaused;
+}
+
+}  // namespace
+
+TEST(SaveComparison, FindsNothingInTheSameAnimation) {
+    const SaveDifferences none = Compare(AnimationOf({kRed, kNone}), AnimationOf({kRed, kNone}));
+
+    EXPECT_FALSE(none.Any());
+    EXPECT_EQ(none.frames, 2);
+    EXPECT_EQ(none.pixels, 2);
+    EXPECT_TRUE(none.pairs.empty());
+}
+
+TEST(SaveComparison, PixelsThatWereLeftOutShowATrail) {
+    Animation read = AnimationOf({kRed, kRed, kRed});
+    SetTransparentIndex(read, 0);
+
+    const SaveDifferences trails = Compare(AnimationOf({kRed, kNone, kNone}), read);
+
+    EXPECT_EQ(trails.trailing, 2);
+    EXPECT_EQ(trails.filled, 0);
+    EXPECT_EQ(trails.pairs, (std::vector<Pair>{{1, 1}, {2, 2}}));
+}
+
+TEST(SaveComparison, WithoutATransparentColorTheyAreFilled) {
+    Animation read = AnimationOf({kRed, kRed});
+    SetTransparentIndex(read, -1);
+
+    const SaveDifferences filled = Compare(AnimationOf({kRed, kNone}), read);
+
+    EXPECT_EQ(filled.trailing, 0);
+    EXPECT_EQ(filled.filled, 1);
+}
+
+TEST(SaveComparison, WhatShowsAroundAFrameIsATrail) {
+    Animation saved = AnimationOf({kRed});
+    saved.width = 2;
+    Animation read = AnimationOf({});
+    read.width = 2;
+    read.height = 1;
+    Frame wide("wide", 2, 1);
+    wide.bitmap = FramePictureOf(2, 1, {kRed, kBlue});
+    wide.use_pause = true;
+    wide.pause_length = 10;
+    InsertFrame(read, 0, std::make_shared<const Frame>(wide));
+    SetTransparentIndex(read, -1);
+
+    EXPECT_EQ(Compare(saved, read).trailing, 1);
+    EXPECT_FALSE(Compare(saved, read, {.parts = true}).Any());
+}
+
+TEST(SaveComparison, CountsLostColorsAndNamesThePalettesSize) {
+    Animation saved = AnimationOf({kRed, kRed, kRed, kRed});
+    EditPalette(saved, [](Palette& palette) { palette.size = 216; });
+    Animation local = saved;
+    EditFrame(local, 1, [](Frame& frame) { frame.local_palette = true; });
+    EditFramePalette(local, 1, [](Palette& palette) { palette.size = 8; });
+    const Animation read = AnimationOf({kRed, kBlue, kRed, kRed});
+
+    const SaveDifferences differences = Compare(saved, read);
+
+    EXPECT_EQ(differences.recolored, 1);
+    EXPECT_EQ(differences.pixels, 4);
+    EXPECT_EQ(differences.most_colors, 216);
+    EXPECT_EQ(Compare(local, read).most_colors, 8);
+}
+
+TEST(SaveComparison, CountsFramesWithHoles) {
+    EXPECT_EQ(Compare(AnimationOf({kRed, kRed}), AnimationOf({kRed, kNone})).holed, 1);
+}
+
+TEST(SaveComparison, OneFrameMayStandForSeveralThatShowTheSame) {
+    Animation read = AnimationOf({kRed, kBlue, kNone});
+    SetPauses(read, {10, 30, 10});
+
+    EXPECT_FALSE(Compare(AnimationOf({kRed, kBlue, kBlue, kBlue, kNone}), read).Any());
+}
+
+TEST(SaveComparison, FramesThatStandForOthersCountAsThem) {
+    Animation read = AnimationOf({kRed, kBlue});
+    SetPauses(read, {10, 30});
+
+    const SaveDifferences differences = Compare(AnimationOf({kRed, kNone, kNone, kNone}), read);
+
+    EXPECT_EQ(differences.trailing, 3);
+    EXPECT_EQ(differences.pixels, 4);
+    EXPECT_EQ(differences.pairs, (std::vector<Pair>{{1, 1}}));
+}
+
+TEST(SaveComparison, TellsOfAnotherNumberOfFrames) {
+    const SaveDifferences fewer = Compare(AnimationOf({kRed, kBlue, kRed}), AnimationOf({kRed}));
+    const SaveDifferences none = Compare(AnimationOf({kRed}), Animation());
+
+    EXPECT_EQ(fewer.other_frames, 1);
+    EXPECT_FALSE(fewer.other_size);
+    EXPECT_EQ(none.other_frames, 0);
+    EXPECT_FALSE(none.other_size);
+    EXPECT_FALSE(Compare(Animation(), Animation()).Any());
+}
+
+TEST(SaveComparison, TellsOfAnotherSizeAndAnotherLoop) {
+    const Animation saved = AnimationOf({kRed});
+    Animation read = AnimationOf({kRed});
+    read.width = 3;
+    read.use_loop = true;
+
+    const SaveDifferences differences = Compare(saved, read);
+
+    EXPECT_EQ(differences.other_size, (SaveDifferences::Size{3, 1}));
+    EXPECT_EQ(differences.other_plays, (SaveDifferences::Plays{1, 0}));
+}
+
+TEST(SaveComparison, PausesOfTheAnimationAreThoseOfItsFrames) {
+    Animation saved = AnimationOf({kRed});
+    EditFrame(saved, 0, [](Frame& frame) { frame.use_pause = false; });
+    saved.pause_length = 0.1;
+
+    EXPECT_EQ(Compare(saved, AnimationOf({kRed}), {.pauses_in_seconds = true}).repaused, 1);
+    saved.use_pause = true;
+    EXPECT_EQ(Compare(saved, AnimationOf({kRed}), {.pauses_in_seconds = true}).repaused, 0);
+    EXPECT_EQ(Compare(saved, AnimationOf({kRed})).repaused, 1);
+}
+
+TEST(SaveComparison, SpreadPausesAreRightAsLongAsFramesBeginWhenTheyShould) {
+    const double third = 100.0 / 15;
+
+    EXPECT_EQ(Repaused({third, third, third}, {7, 6, 7}), 0);
+    EXPECT_EQ(Repaused({third, third, third}, {6, 6, 6}), 3);
+    EXPECT_EQ(Repaused({10, 10, 10}, {10, 11, 10}), 1);
+    EXPECT_EQ(Repaused({2.5, 2.5}, {3, 2}), 0);
+    EXPECT_EQ(Repaused({70000}, {70000 - 65536}), 1);
+}
+
+TEST(SaveComparison, IsTheSameForAnyNumberOfThreads) {
+    std::vector<uint32> saved;
+    std::vector<uint32> read;
+    for (uint32 i = 0; i < 200; ++i) {
+        saved.push_back(i % 3 == 0 ? kNone : kRed);
+        read.push_back(i % 5 == 0 ? kBlue : kRed);
+    }
+    const int32 before = ThreadCount();
+    std::vector<SaveDifferences> all;
+    for (const int32 threads : {1, 2, 3, 16}) {
+        SetThreadCount(threads);
+        all.push_back(Compare(AnimationOf(saved), AnimationOf(read)));
+    }
+    SetThreadCount(before);
+
+    for (const SaveDifferences& each : all)
+        EXPECT_EQ(each, all.front());
+    EXPECT_EQ(all.front().frames, 200);
+    EXPECT_TRUE(all.front().Any());
+}
+
+TEST(SaveComparison, KnowsNothingWhereTheWorkIsStopped) {
+    Work work;
+    work.StopAll();
+    const Animation saved = AnimationOf({kRed});
+    const Animation read = AnimationOf({kBlue});
+
+    EXPECT_EQ(SaveComparison(saved, read, {}, &work).Compare(), SaveDifferences());
+}
+
+}  // namespace kirto::test
