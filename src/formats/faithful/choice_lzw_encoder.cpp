@@ -43,7 +43,7 @@ void ChoiceLzwEncoder::ResetTable() {
     codes_ = taken_ = bits_ = 0;
     window_codes_ = 0;
     window_taken_ = 0;
-    worn_ = false;
+    bad_windows_ = 0;
 }
 
 inline size_t ChoiceLzwEncoder::Slot(uint32 string) const {
@@ -181,14 +181,15 @@ void ChoiceLzwEncoder::Emit(uint32 code, size_t length) {
         if (next_free_ >> code_size_ != 0) ++code_size_;
         return;
     }
-    if (effort_.keeps_full_table && !worn_) return;
+    if (bad_windows_ < effort_.patience) return;
     Put(clear_code_);
     ResetTable();
 }
 
 // Whether the strings that the table finds now are worse than those since it was empty.
 void ChoiceLzwEncoder::TakeWindow() {
-    worn_ = uint64{kMaxCodeSize} * kWindow * taken_ > bits_ * window_taken_;
+    const bool worn = uint64{kMaxCodeSize} * kWindow * taken_ > bits_ * window_taken_;
+    bad_windows_ = worn ? bad_windows_ + 1 : 0;
     window_codes_ = 0;
     window_taken_ = 0;
 }

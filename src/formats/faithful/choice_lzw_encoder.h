@@ -27,7 +27,9 @@ class ChoiceLzwEncoder {
     // How strings are found, and when the table is cleared.
     struct Effort {
         size_t shorter = 1;  // indices that a string may give to the next one, up to kMostShorter
-        bool keeps_full_table = true;
+        // A full table is cleared after so many windows in a row in which it did not pay; 0: at
+        // once.
+        uint32 patience = 1;
     };
     static constexpr size_t kMostShorter = 3;
 
@@ -97,7 +99,7 @@ class ChoiceLzwEncoder {
     uint64 bits_ = 0;
     uint32 window_codes_ = 0;
     uint64 window_taken_ = 0;
-    bool worn_ = false;
+    uint32 bad_windows_ = 0;  // in a row
 
     // A slot is a string's prefix code (12 bits), its last index (8) and its own code (12). No
     // string begins with the clear code, so that marks an empty slot.

@@ -49,6 +49,11 @@ int64 Distance(uint32 a, uint32 b) {
 
 }  // namespace
 
+// Where little speaks for it, what is on the screen stays: the next image then repeats more of it.
+int64 FramePlanner::CostOf(const Way& way) {
+    return way.difference.runs * (way.disposal == Disposal::kKeep ? 3 : 4);
+}
+
 void FramePlanner::Add(const FrameToPlan& frame) {
     nearness_.pixels += static_cast<int64>(screen_.At(0, screen_.Height()));
     nearness_.short_pauses += frame.delay < kLeastReliableDelay ? 1 : 0;
@@ -104,9 +109,8 @@ std::vector<FramePlanner::Way> FramePlanner::WaysTo(const ScreenPixels& shown) c
     if (kept.transparent) ways.push_back(ClearingWay(shown, kept.lost));
     if (below_) ways.push_back(way_over(Disposal::kPrevious, below_));
     std::erase_if(ways, [](const Way& way) { return !way.difference.Possible(); });
-    std::stable_sort(ways.begin(), ways.end(), [](const Way& a, const Way& b) {
-        return a.difference.runs < b.difference.runs;
-    });
+    std::stable_sort(ways.begin(), ways.end(),
+                     [](const Way& a, const Way& b) { return CostOf(a) < CostOf(b); });
     return ways;
 }
 

@@ -62,6 +62,7 @@ class FramePlanner {
 
     void AddSource(const FrameToPlan& frame);
     bool LengthensLast(const FrameToPlan& frame);
+    static int64 CostOf(const Way& way);
     // The cheapest first.
     std::vector<Way> WaysTo(const ScreenPixels& shown) const;
     Way ClearingWay(const ScreenPixels& shown, const PixelRect& lost) const;

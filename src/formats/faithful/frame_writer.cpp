@@ -17,6 +17,15 @@ constexpr size_t kSubBlock = 255;
 constexpr size_t kWorthOwnTable = 1000;  // bytes of data
 // A part of a size that tells nothing yet.
 constexpr size_t kNearly = 50;
+// Pixels that are worth an interruption of what is drawn.
+constexpr size_t kLongStretch = 48;
+// Codes fill no table of strings in fewer bytes.
+constexpr size_t kFullTable = 4500;
+constexpr ChoiceLzwEncoder::Effort kPatientEfforts[] = {
+    {.shorter = 0, .patience = 3},
+    {.shorter = 1, .patience = 3},
+    {.shorter = 0, .patience = 50},
+};
 
 // Nothing where it would only say what is so without it.
 void WriteControl(const FramePlan& plan, int32 transparent_index, ByteWriter* bytes) {
@@ -67,6 +76,30 @@ std::vector<ColorValues::Item> Skipped(std::span<const uint32> keys,
         return a.value != b.value ? a.value > b.value : a.key < b.key;
     });
     return colors;
+}
+
+// Skips stretches of at least so many pixels that may be skipped, but for those at their ends that
+// go on with a run of what is drawn.
+std::vector<uint8> Skipping(std::span<const uint8> indices, std::span<const uint8> skippable,
+                            uint8 transparent, size_t least) {
+    std::vector<uint8> result(indices.begin(), indices.end());
+    const size_t size = result.size();
+    for (size_t start = 0; start < size;) {
+        size_t end = start;
+        while (end < size && skippable[end] != 0)
+            ++end;
+        size_t first = start;
+        size_t last = end;
+        if (end - start < least) first = end;
+        while (start > 0 && first < last && indices[first] == indices[start - 1])
+            ++first;
+        while (end < size && first < last && indices[last - 1] == indices[end])
+            --last;
+        for (; first < last; ++first)
+            result[first] = transparent;
+        start = end + 1;
+    }
+    return result;
 }
 
 int32 BitsFor(int32 index) {
@@ -198,7 +231,12 @@ void FrameWriter::Compress(const Area& area, TableUse* use) {
     const auto transparent = static_cast<uint8>(skips ? use->transparent_index : 0);
     std::vector<ChoiceLzwEncoder::Image> images;
     if (all_known) images.push_back({indices, {}, 0, use->bits});
-    if (skips) images.push_back({indices, area.skippable, transparent, use->bits});
+    std::vector<uint8> skipped;
+    if (skips) {
+        skipped = Skipping(indices, area.skippable, transparent, kLongStretch);
+        images.push_back({skipped, {}, 0, use->bits});
+        images.push_back({indices, area.skippable, transparent, use->bits});
+    }
     TryImages(images, use);
 }
 
@@ -209,7 +247,12 @@ void FrameWriter::TryImages(std::span<const ChoiceLzwEncoder::Image> images, Tab
         sizes.push_back(TryImage(image, {.shorter = 0}, use));
     const size_t least = use->data.size();
     for (size_t i = 0; i < images.size(); ++i) {
-        if (sizes[i] <= least + least / kNearly) TryImage(images[i], {.shorter = 1}, use);
+        if (sizes[i] > least + least / kNearly) continue;
+        TryImage(images[i], {.shorter = 1}, use);
+        // Only then the table has been full.
+        if (least < kFullTable) continue;
+        for (const ChoiceLzwEncoder::Effort& effort : kPatientEfforts)
+            TryImage(images[i], effort, use);
     }
 }
 

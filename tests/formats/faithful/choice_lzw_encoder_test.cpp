@@ -67,7 +67,7 @@ Bytes Runs(Random& random, size_t count, uint32 limit, uint32 longest) {
     return indices;
 }
 
-constexpr ChoiceLzwEncoder::Effort kEfforts[] = {{0, false}, {0, true}, {1, true}, {3, false}};
+constexpr ChoiceLzwEncoder::Effort kEfforts[] = {{0, 0}, {0, 1}, {1, 4}, {3, 100}};
 
 }  // namespace
 
@@ -124,7 +124,7 @@ TEST_F(ChoiceLzw, AFullTableIsKeptWhileItPays) {
     for (int32 i = 0; i < 60; ++i)
         indices.insert(indices.end(), once.begin(), once.end());
     const ChoiceLzwEncoder::Image image = Plain(indices, 8);
-    EXPECT_LT(Encode(image, {0, true}).size(), Encode(image, {0, false}).size());
+    EXPECT_LT(Encode(image, {0, 1}).size(), Encode(image, {0, 0}).size());
 }
 
 TEST_F(ChoiceLzw, BreaksOffOnceItIsLargerThanAsked) {
