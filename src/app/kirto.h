@@ -127,7 +127,7 @@ class Kirto : public IEApplication, public AnimationDocument, public kirto::File
     void StoreSettings(const BMessage& message);
     void StoreTranslatorSettings(const BMessage& message);
     void EndWork();
-    void SayCutShort(const kirto::Animation& animation);
+    void SayWhatDiffers(const kirto::Animation& animation, const std::string& loss);
     void SayCanceled(int32 frames_before);
     void Load(const entry_ref& ref, kirto::AnimationType type, int32 position, bool reset);
     void KeepStopped(bool reset, int32 frames_before);

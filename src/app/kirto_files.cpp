@@ -263,8 +263,7 @@ bool Kirto::SaveGif() {
     switch (kirto::SaveAnimatedGif(*this, path, &loss)) {
         case kirto::SaveResult::kSaved:
             file_stamp_ = kirto::FileStamp::Of(path);
-            if (!loss.empty()) last_word_ = "saved, but " + loss;
-            SayCutShort(*state->animation);
+            SayWhatDiffers(*state->animation, loss);
             CheckSave(state->animation, path);
             return true;
         case kirto::SaveResult::kStopped:
@@ -289,10 +288,11 @@ bool Kirto::SaveGif() {
     return false;
 }
 
-// What the file had no room for.
-void Kirto::SayCutShort(const kirto::Animation& animation) {
+// What the file had no room for, and what browsers show otherwise.
+void Kirto::SayWhatDiffers(const kirto::Animation& animation, const std::string& loss) {
     const std::string cut = kirto::NumbersCutShort(animation, prefs.global_pauseinseconds);
-    if (!cut.empty()) last_word_ = "saved, but " + cut;
+    const std::string both = loss.empty() || cut.empty() ? "" : ", ";
+    if (!loss.empty() || !cut.empty()) last_word_ = "saved, but " + loss + both + cut;
 }
 
 void Kirto::SetFile(const std::string& directory, const std::string& name,

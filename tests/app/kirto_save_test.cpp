@@ -354,6 +354,21 @@ TEST_F(KirtoSave, TellsOfNumbersThatAGifCutsShort) {
               "auda");
 }
 
+TEST_F(KirtoSave, TellsWhatBrowsersShowOtherwiseThoughItIsSavedFaithfully) {
+    prefs_.animation_faithful = true;
+    Start();
+    Append({"one"});
+    FrameEditOf(*app_, 0)->use_pause = true;
+    FrameEditOf(*app_, 0)->pause_length = 1;
+
+    EXPECT_EQ(Do(SaveTo(folder_.Path(), "out.gif")),
+              "svup(Status: writing frame 1 of 1...) arsm auda svup(Status: saved, but browsers "
+              "lengthen 1 pause(s) below 0.02 seconds)");
+    FrameEditOf(*app_, 0)->pause_length = 2;
+    EXPECT_EQ(Do(SaveTo(folder_.Path(), "out.gif")),
+              "svup(Status: writing frame 1 of 1...) arsm auda");
+}
+
 }  // namespace
 
 }  // namespace kirto::test

@@ -230,4 +230,50 @@ TEST(SequenceFileName, PutsTheNumberBeforeTheFirstDot) {
     EXPECT_EQ(SequenceFileName(".png", 7), "0007.png");
 }
 
+TEST(SaveAnimation, OfColorsThatNoPaletteHasIsExactOnceItIsFaithful) {
+    SaveFixture saved;
+    AppendFrame(saved.document, PictureOf(2, 1, {0xFF123456, 0}), "odd");
+    std::string loss = "unknown";
+    saved.document.prefs.animation_faithful = true;
+    ASSERT_EQ(SaveAnimatedGif(saved.document, saved.path, &loss), SaveResult::kSaved);
+    EXPECT_EQ(loss, "");
+
+    Reopened reopened(saved.path);
+    EXPECT_EQ(PixelsOf(*reopened.document.FrameAt(0)->bitmap), (std::vector<uint32>{kRed, kBlue}));
+    EXPECT_EQ(PixelColor(reopened.document.FrameAt(1)->bitmap.get(), 0, 0),
+              (rgb_color{0x12, 0x34, 0x56, 255}));
+}
+
+TEST(SaveAnimation, OfTooManyColorsTellsHowNearItIs) {
+    SaveFixture saved;
+    std::vector<uint32> argb;
+    for (uint32 i = 0; i < 600; ++i)
+        argb.push_back(0xFF000000 | i * 300);
+    EditOf(saved.document)->width = 600;
+    AppendFrame(saved.document, PictureOf(600, 1, argb), "many");
+    std::string loss;
+    saved.document.prefs.animation_faithful = true;
+    ASSERT_EQ(SaveAnimatedGif(saved.document, saved.path, &loss), SaveResult::kSaved);
+    EXPECT_NE(loss.find("% of the pixels got another color, by "), std::string::npos) << loss;
+}
+
+TEST(SaveAnimation, AFaithfulOneThatIsStoppedLeavesTheOldFile) {
+    SaveFixture saved;
+    WriteBytes(saved.path, kOldBytes);
+    saved.document.prefs.animation_faithful = true;
+    saved.document.RequestStop();
+    EXPECT_EQ(saved.Save(), SaveResult::kStopped);
+    EXPECT_EQ(ReadBytes(saved.path), kOldBytes);
+    EXPECT_EQ(saved.EntriesInFolder(), 1u);
+}
+
+TEST(SaveAnimation, AFaithfulOneThatTheDiskHasNoRoomForLeavesTheOldFile) {
+    SaveFixture saved;
+    WriteBytes(saved.path, kOldBytes);
+    saved.document.prefs.animation_faithful = true;
+    const FileSizeLimit limit(10);
+    EXPECT_EQ(saved.Save(), SaveResult::kWriteFailed);
+    EXPECT_EQ(ReadBytes(saved.path), kOldBytes);
+}
+
 }  // namespace kirto::test

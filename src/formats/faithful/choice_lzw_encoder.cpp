@@ -88,7 +88,12 @@ ChoiceLzwEncoder::Match ChoiceLzwEncoder::LongestWith(size_t from, uint32 first)
         trail.codes[at % trail.codes.size()] = states[now].codes[0];
         if (at == end) break;
         States& next = states[now ^ 1];
-        Step(at, states[now], &next);
+        if (states[now].count == 1 && image_.skippable[at] == 0) {
+            next.codes[0] = Find(states[now].codes[0], image_.indices[at]);
+            next.count = next.codes[0] == kNoCode ? 0 : 1;
+        } else {
+            Step(at, states[now], &next);
+        }
         if (next.count > 0) continue;
         if (!Grows(states[now], at, first)) break;
         next.codes[0] = next_free_;

@@ -15,6 +15,8 @@ namespace {
 constexpr size_t kSubBlock = 255;
 // A table of its own saves bits where codes are short, and costs its entries.
 constexpr size_t kWorthOwnTable = 1000;  // bytes of data
+// A part of a size that tells nothing yet.
+constexpr size_t kNearly = 50;
 
 // Nothing where it would only say what is so without it.
 void WriteControl(const FramePlan& plan, int32 transparent_index, ByteWriter* bytes) {
@@ -193,28 +195,33 @@ void FrameWriter::Compress(const Area& area, TableUse* use) {
         }
         indices[i] = static_cast<uint8>(index);
     }
-    ChoiceLzwEncoder::Image image;
-    image.indices = indices;
-    image.min_code_size = use->bits;
-    if (all_known) TryImage(image, use);
-    if (!skips) return;
-    image.skippable = area.skippable;
-    image.transparent = static_cast<uint8>(use->transparent_index);
-    TryImage(image, use);
+    const auto transparent = static_cast<uint8>(skips ? use->transparent_index : 0);
+    std::vector<ChoiceLzwEncoder::Image> images;
+    if (all_known) images.push_back({indices, {}, 0, use->bits});
+    if (skips) images.push_back({indices, area.skippable, transparent, use->bits});
+    TryImages(images, use);
 }
 
-void FrameWriter::TryImage(const ChoiceLzwEncoder::Image& image, TableUse* use) {
-    // Which does better depends on the picture.
-    static constexpr ChoiceLzwEncoder::Effort kEfforts[] = {
-        {.shorter = 0, .keeps_full_table = true},
-        {.shorter = 1, .keeps_full_table = true},
-    };
-    for (const ChoiceLzwEncoder::Effort& effort : kEfforts) {
-        const size_t most =
-            use->data.empty() ? std::numeric_limits<size_t>::max() - 1 : use->data.size() - 1;
-        const std::span<const uint8> codes = encoder_.Encode(image, effort, most);
-        if (codes.size() <= most) use->data.assign(codes.begin(), codes.end());
+// Greedy strings are found soon; more effort is for the images that do best with them.
+void FrameWriter::TryImages(std::span<const ChoiceLzwEncoder::Image> images, TableUse* use) {
+    std::vector<size_t> sizes;
+    for (const ChoiceLzwEncoder::Image& image : images)
+        sizes.push_back(TryImage(image, {.shorter = 0}, use));
+    const size_t least = use->data.size();
+    for (size_t i = 0; i < images.size(); ++i) {
+        if (sizes[i] <= least + least / kNearly) TryImage(images[i], {.shorter = 1}, use);
     }
+}
+
+// The size, or one above that of the data that there is, which the smaller takes the place of.
+size_t FrameWriter::TryImage(const ChoiceLzwEncoder::Image& image,
+                             const ChoiceLzwEncoder::Effort& effort, TableUse* use) {
+    const size_t least =
+        use->data.empty() ? std::numeric_limits<size_t>::max() / 2 : use->data.size();
+    const std::span<const uint8> codes =
+        encoder_.Encode(image, effort, least - 1 + least / kNearly);
+    if (codes.size() < least) use->data.assign(codes.begin(), codes.end());
+    return codes.size();
 }
 
 }  // namespace kirto

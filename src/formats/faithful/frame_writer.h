@@ -54,7 +54,9 @@ class FrameWriter {
     TableUse GlobalUse(const FramePlan& plan) const;
     TableUse LocalUse(const FramePlan& plan, const Area& area) const;
     void Compress(const Area& area, TableUse* use);
-    void TryImage(const ChoiceLzwEncoder::Image& image, TableUse* use);
+    void TryImages(std::span<const ChoiceLzwEncoder::Image> images, TableUse* use);
+    size_t TryImage(const ChoiceLzwEncoder::Image& image, const ChoiceLzwEncoder::Effort& effort,
+                    TableUse* use);
     TableUse Smallest(const FramePlan& plan, const Area& area);
 
     const Screen& screen_;

@@ -106,13 +106,15 @@ IndexImage GifBrowserComposer::PlacedIn(const Colors& colors, const GifImage& im
     return indices;
 }
 
-// Null when memory is short: the frame can do without.
+// Null when memory is short, and from then on: frames can do without, but none may seem to be the
+// first.
 std::shared_ptr<const GifSource> GifBrowserComposer::SourceOf(
     const GifImage& image, Colors colors, const std::shared_ptr<const Picture>& picture) {
     const std::vector<uint8>& codes = image.data.bytes;
     const std::shared_ptr<PixelStorage> kept = PixelStorage::Make(codes.size(), budget_);
     const std::shared_ptr<const GifSource> previous = std::exchange(last_source_, nullptr);
-    if (!kept) return nullptr;
+    lacks_source_ = lacks_source_ || !kept;
+    if (lacks_source_) return nullptr;
     std::copy(codes.begin(), codes.end(), kept->Bytes());
     auto source = std::make_shared<GifSource>();
     source->rect = {image.left, image.top, image.width, image.height};

@@ -37,6 +37,7 @@ class GifBrowserComposer : public GifComposer {
     Colors global_colors_;                    // null: there are none
     std::optional<ScreenCompositor> screen_;  // from the first image on
     std::shared_ptr<const GifSource> last_source_;
+    bool lacks_source_ = false;  // of an image so far
 };
 
 }  // namespace kirto
