@@ -126,6 +126,13 @@ std::vector<PixelDifferences> SaveComparison::ComparePiece(const Piece& piece) c
     return pixels;
 }
 
+// That the frame was reduced to.
+int32 SaveComparison::ColorsOf(const Frame& saved, const Frame& read) const {
+    if (options_.own_palettes && read.source && read.source->table)
+        return static_cast<int32>(read.source->table->size());
+    return (saved.local_palette ? *saved.palette : *saved_.palette).size;
+}
+
 void SaveComparison::TakeRun(size_t i, const PixelDifferences& pixels) {
     const Run& run = saved_runs_[i];
     const FramePointer saved = saved_.frames.At(run.first);
@@ -139,10 +146,8 @@ void SaveComparison::TakeRun(size_t i, const PixelDifferences& pixels) {
     if (pixels.holes > 0) result_.holed += run.count;
     result_.pixels += pixels.compared * run.count;
     result_.recolored += pixels.recolored * run.count;
-    if (pixels.recolored > 0) {
-        const Palette& palette = saved->local_palette ? *saved->palette : *saved_.palette;
-        result_.most_colors = std::max(result_.most_colors, palette.size);
-    }
+    if (pixels.recolored > 0)
+        result_.most_colors = std::max(result_.most_colors, ColorsOf(*saved, *read));
     if (pixels.Any()) result_.pairs.push_back({run.first, read_runs_[i].first});
 }
 

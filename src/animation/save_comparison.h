@@ -18,6 +18,7 @@ class SaveComparison {
     struct Options {
         bool parts = false;              // frames show a part of the screen, not all of it
         bool pauses_in_seconds = false;  // of the saved animation; else hundredths
+        bool own_palettes = false;       // the file's are not those of the saved animation
     };
 
     // read: its frames are of the screen's size, their pauses are their own, in hundredths. Both
@@ -48,6 +49,7 @@ class SaveComparison {
     void ComparePauses();
     void ComparePictures();
     std::vector<PixelDifferences> ComparePiece(const Piece& piece) const;
+    int32 ColorsOf(const Frame& saved, const Frame& read) const;
     void TakeRun(size_t i, const PixelDifferences& pixels);
 
     const Animation& saved_;

@@ -25,7 +25,8 @@ SaveVerification::SaveVerification(uint64 memory_limit)
 
 SaveComparison::Options SaveVerification::OptionsOf(const Prefs& prefs) {
     return {.parts = !prefs.animation_gifloadfullframe && !prefs.animation_faithful,
-            .pauses_in_seconds = prefs.global_pauseinseconds};
+            .pauses_in_seconds = prefs.global_pauseinseconds,
+            .own_palettes = prefs.animation_faithful};
 }
 
 SaveVerification::Result SaveVerification::Run(const std::string& path, const Animation& saved,

@@ -128,6 +128,15 @@ TEST(SaveComparison, CountsLostColorsAndNamesThePalettesSize) {
     EXPECT_EQ(Compare(local, read).most_colors, 8);
 }
 
+TEST(SaveComparison, NamesTheSizeOfAPaletteThatIsTheFilesOwn) {
+    Animation read = AnimationOf({kBlue});
+    auto source = std::make_shared<GifSource>();
+    source->table = std::make_shared<const std::vector<rgb_color>>(64);
+    EditFrame(read, 0, [&](Frame& frame) { frame.source = source; });
+
+    EXPECT_EQ(Compare(AnimationOf({kRed}), read, {.own_palettes = true}).most_colors, 64);
+}
+
 TEST(SaveComparison, CountsFramesWithHoles) {
     EXPECT_EQ(Compare(AnimationOf({kRed, kRed}), AnimationOf({kRed, kNone})).holed, 1);
 }

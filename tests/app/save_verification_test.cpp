@@ -95,6 +95,7 @@ TEST_F(SaveVerificationTest, KnowsFromTheSettingsWhatFramesShow) {
     Prefs prefs{Prefs::BuiltIn{}};
     EXPECT_FALSE(SaveVerification::OptionsOf(prefs).parts);
     EXPECT_FALSE(SaveVerification::OptionsOf(prefs).pauses_in_seconds);
+    EXPECT_FALSE(SaveVerification::OptionsOf(prefs).own_palettes);
 
     prefs.animation_gifloadfullframe = false;
     prefs.global_pauseinseconds = true;
@@ -103,6 +104,7 @@ TEST_F(SaveVerificationTest, KnowsFromTheSettingsWhatFramesShow) {
 
     prefs.animation_faithful = true;
     EXPECT_FALSE(SaveVerification::OptionsOf(prefs).parts);
+    EXPECT_TRUE(SaveVerification::OptionsOf(prefs).own_palettes);
 }
 
 }  // namespace kirto::test

@@ -88,6 +88,7 @@ class Faithful(EditorTest):
         wait_until(lambda: path.stat().st_mtime_ns != before, "the file to be written again")
         editor.wait_for_status(1, modified=False)
         self.assertIn("animation_faithful", self.settings())
+        self.assertEqual(self.colors(path), [ODD])
 
     def test_ends_while_a_save_is_compared(self):
         editor = self.start_editor()

@@ -29,6 +29,7 @@ ScreenPixels ColorReducer::Reduce(const ScreenPixels& before, const ScreenPixels
     const std::vector<rgb_color> colors = common_.empty() ? ColorsFor(before, shown) : common_;
     if (colors.empty()) return shown;
     std::vector<uint32> keys;
+    keys.reserve(colors.size());
     for (const rgb_color& color : colors)
         keys.push_back(ColorKey(color.red, color.green, color.blue));
     const size_t width = static_cast<size_t>(screen_.Width());

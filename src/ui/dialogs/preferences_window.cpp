@@ -150,6 +150,10 @@ void PreferencesWindow::RestoreChoices() {
     }
 }
 
+void PreferencesWindow::ShowFaithful(bool on) {
+    boxes_.at("animation_faithful")->setChecked(on);
+}
+
 void PreferencesWindow::ShowTab(const char* name) {
     auto* view = findChild<QWidget*>(name);
     if (tabs_ && tabs_->indexOf(view) >= 0) tabs_->setCurrentWidget(view);

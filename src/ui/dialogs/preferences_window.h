@@ -27,6 +27,8 @@ class PreferencesWindow : public IEWindow {
     // Brings the tab of that view name to the front: "Global", "Palette", "Thumbnail", "Animation",
     // "Miscellaneous" or "Compatibility".
     void ShowTab(const char* name);
+    // The setting "animation_faithful" was changed elsewhere: "Save" is not to change it back.
+    void ShowFaithful(bool on);
 
     void MessageReceived(BMessage* message) override;
 

@@ -205,7 +205,11 @@ void KirtoWindow::UpdateDisplay() {
 }
 
 void KirtoWindow::Refresh(uint32 parts) {
+    const bool was_faithful = shown_.Settings().animation_faithful;
     shown_.Take(editor_.document);
+    const bool is_faithful = shown_.Settings().animation_faithful;
+    if (preferences_window_ && is_faithful != was_faithful)
+        preferences_window_->ShowFaithful(is_faithful);
     ShowParts(parts);
 }
 

@@ -1,3 +1,4 @@
+#include "ui/dialogs/preferences_window.h"
 #include "ui/panels/notice_bar.h"
 #include "ui/shell/kirto_window_fixture.h"
 #include "ui/thumbnails/difference_window.h"
@@ -98,6 +99,23 @@ TEST_F(KirtoWindowNotice, ShowsWhatDiffers) {
     EXPECT_TRUE(window->findChild<DifferenceWindow*>()->isVisible());
     EXPECT_FALSE(window->findChild<DifferenceWindow*>()->isModal());
     EXPECT_TRUE(Bar().isVisible());
+}
+
+TEST_F(KirtoWindowNotice, OpenPreferencesLearnOfTheSwitchAndKeepWhatTheUserChoseOtherwise) {
+    Open();
+    window->ShowPreferences("Compatibility");
+    auto* box =
+        window->findChild<PreferencesWindow*>()->findChild<QCheckBox*>("animation_faithful");
+    ASSERT_NE(box, nullptr);
+    prefs.animation_faithful = true;
+    document.PublishSettings();
+
+    Do(kUpdateAll);
+    EXPECT_TRUE(box->isChecked());
+
+    box->setChecked(false);
+    Do(kUpdateAll);
+    EXPECT_FALSE(box->isChecked());
 }
 
 }  // namespace kirto::test
