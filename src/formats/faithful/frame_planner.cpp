@@ -25,6 +25,7 @@ PixelRect OrOnePixel(const PixelRect& rect) {
 bool HoldsAll(const std::vector<ColorValues::Item>& colors, const Screen& screen,
               const ScreenPixels& shown, const PixelRect& rect) {
     std::vector<uint32> keys;
+    keys.reserve(colors.size());
     for (const ColorValues::Item& item : colors)
         keys.push_back(item.key);
     std::sort(keys.begin(), keys.end());

@@ -184,7 +184,7 @@ FrameWriter::TableUse FrameWriter::GlobalUse(const FramePlan& plan) const {
         largest = std::max(largest, index);
     }
     if (plan.skips) {
-        const auto unused = std::find(used.begin(), used.end(), false);
+        auto* const unused = std::find(used.begin(), used.end(), false);
         use.transparent_index = static_cast<int32>(unused - used.begin());
     }
     use.bits = BitsFor(std::max(largest, use.transparent_index));

@@ -34,6 +34,7 @@ std::vector<uint32> CommonestFirst(const Uses& uses) {
     std::stable_sort(sorted.begin(), sorted.end(),
                      [](const auto& a, const auto& b) { return a.second > b.second; });
     std::vector<uint32> keys;
+    keys.reserve(sorted.size());
     for (const auto& [key, count] : sorted)
         keys.push_back(key);
     return keys;
