@@ -75,16 +75,17 @@ status_t ReadPictureQuietly(const std::string& path, BTranslatorRoster& roster,
     return ReadBy(finish, path, roster, std::move(budget), result);
 }
 
-status_t WritePicture(std::shared_ptr<const BBitmap> picture, BTranslatorRoster& roster,
+status_t WritePicture(const std::shared_ptr<const BBitmap>& picture, BTranslatorRoster& roster,
                       translator_id translator, uint32 format, const BMessage& settings,
-                      std::shared_ptr<BFile> file, Work& work) {
+                      const std::shared_ptr<BFile>& file, Work& work) {
     const auto finish = [&](const std::function<void()>& task) { return Finish(work, task); };
     return WriteBy(finish, picture, roster, translator, format, settings, file);
 }
 
-status_t WritePictureQuietly(std::shared_ptr<const BBitmap> picture, BTranslatorRoster& roster,
-                             translator_id translator, uint32 format, const BMessage& settings,
-                             std::shared_ptr<BFile> file, const std::function<bool()>& given_up) {
+status_t WritePictureQuietly(const std::shared_ptr<const BBitmap>& picture,
+                             BTranslatorRoster& roster, translator_id translator, uint32 format,
+                             const BMessage& settings, const std::shared_ptr<BFile>& file,
+                             const std::function<bool()>& given_up) {
     const auto finish = [&](const std::function<void()>& task) {
         return FinishQuietly(given_up, task);
     };

@@ -28,13 +28,14 @@ status_t ReadPictureQuietly(const std::string& path, BTranslatorRoster& roster,
 
 // Writes the picture into the file as the roster does. B_CANCELED when the work was stopped; the
 // file is not to be used then.
-status_t WritePicture(std::shared_ptr<const BBitmap> picture, BTranslatorRoster& roster,
+status_t WritePicture(const std::shared_ptr<const BBitmap>& picture, BTranslatorRoster& roster,
                       translator_id translator, uint32 format, const BMessage& settings,
-                      std::shared_ptr<BFile> file, Work& work);
+                      const std::shared_ptr<BFile>& file, Work& work);
 
 // The same for such a thread.
-status_t WritePictureQuietly(std::shared_ptr<const BBitmap> picture, BTranslatorRoster& roster,
-                             translator_id translator, uint32 format, const BMessage& settings,
-                             std::shared_ptr<BFile> file, const std::function<bool()>& given_up);
+status_t WritePictureQuietly(const std::shared_ptr<const BBitmap>& picture,
+                             BTranslatorRoster& roster, translator_id translator, uint32 format,
+                             const BMessage& settings, const std::shared_ptr<BFile>& file,
+                             const std::function<bool()>& given_up);
 
 }  // namespace kirto
