@@ -1,10 +1,10 @@
 # The functions that declare test programs, and what these programs are compiled with.
 
-# Test code is compiled to be compiled quickly: with line numbers instead of complete debug information,
-# and without optimisation where a preset optimises the sources. All of it is position-independent as Qt
-# wants it, so that programs with and without Qt share one precompiled header.
+# Test code is compiled without optimisation also where a preset optimises the sources, as that is
+# quick. All of it is position-independent as Qt wants it, so that programs with and without Qt share
+# one precompiled header.
 add_library(kirto_test_flags INTERFACE)
-target_compile_options(kirto_test_flags INTERFACE -fPIC $<$<CONFIG:Debug>:-g1>)
+target_compile_options(kirto_test_flags INTERFACE -fPIC)
 if(KIRTO_SANITIZE)
     target_compile_options(kirto_test_flags INTERFACE -O0)
 endif()

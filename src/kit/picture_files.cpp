@@ -34,7 +34,7 @@ bool FinishQuietly(const std::function<bool()>& given_up, std::function<void()> 
 // The task is given to finish, which returns false when it was not to be finished.
 template <typename FinishTask>
 status_t ReadBy(const FinishTask& finish, const std::string& path, BTranslatorRoster& roster,
-                std::shared_ptr<PixelBudget> budget, std::shared_ptr<BBitmap>* result) {
+                const std::shared_ptr<PixelBudget>& budget, std::shared_ptr<BBitmap>* result) {
     const auto reading = std::make_shared<Reading>();
     if (!finish([=, &roster] { *reading = Read(path, roster, budget); })) return B_CANCELED;
     *result = std::move(reading->picture);
@@ -55,24 +55,24 @@ status_t WriteBy(const FinishTask& finish, const std::shared_ptr<const BBitmap>&
 }  // namespace
 
 status_t ReadPicture(const std::string& path, BTranslatorRoster& roster,
-                     std::shared_ptr<PixelBudget> budget, Work* work,
+                     const std::shared_ptr<PixelBudget>& budget, Work* work,
                      std::shared_ptr<BBitmap>* result) {
     const auto finish = [work](const std::function<void()>& task) {
         if (work) return Finish(*work, task);
         task();
         return true;
     };
-    return ReadBy(finish, path, roster, std::move(budget), result);
+    return ReadBy(finish, path, roster, budget, result);
 }
 
 status_t ReadPictureQuietly(const std::string& path, BTranslatorRoster& roster,
-                            std::shared_ptr<PixelBudget> budget,
+                            const std::shared_ptr<PixelBudget>& budget,
                             const std::function<bool()>& given_up,
                             std::shared_ptr<BBitmap>* result) {
     const auto finish = [&](const std::function<void()>& task) {
         return FinishQuietly(given_up, task);
     };
-    return ReadBy(finish, path, roster, std::move(budget), result);
+    return ReadBy(finish, path, roster, budget, result);
 }
 
 status_t WritePicture(const std::shared_ptr<const BBitmap>& picture, BTranslatorRoster& roster,

@@ -16,13 +16,13 @@ namespace kirto {
 // Reads the image file at the path as the roster does. B_CANCELED when the work was stopped; null
 // for work that nobody can stop.
 status_t ReadPicture(const std::string& path, BTranslatorRoster& roster,
-                     std::shared_ptr<PixelBudget> budget, Work* work,
+                     const std::shared_ptr<PixelBudget>& budget, Work* work,
                      std::shared_ptr<BBitmap>* result);
 
 // The same for a thread that is not to tell how far the work is. given_up: asked every now and
 // then, on this thread, whether to end early with B_CANCELED.
 status_t ReadPictureQuietly(const std::string& path, BTranslatorRoster& roster,
-                            std::shared_ptr<PixelBudget> budget,
+                            const std::shared_ptr<PixelBudget>& budget,
                             const std::function<bool()>& given_up,
                             std::shared_ptr<BBitmap>* result);
 

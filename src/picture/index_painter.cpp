@@ -60,7 +60,7 @@ bool Covers(const IndexImage& image, int32 first, int32 end, int32 picture_width
 }
 
 int32 IndexOf(uint32 pixel, const PixelTable& table) {
-    const auto place = std::find(table.pixels.begin(), table.pixels.end(), pixel);
+    const auto* const place = std::find(table.pixels.begin(), table.pixels.end(), pixel);
     return place == table.pixels.end() ? -1 : static_cast<int32>(place - table.pixels.begin());
 }
 

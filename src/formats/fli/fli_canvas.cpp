@@ -24,7 +24,7 @@ FliCanvas::FliCanvas(int32 width, int32 height, std::shared_ptr<PixelBudget> bud
 
 void FliCanvas::Blacken(const Work& work) {
     const uint32 black = PixelOf(kOpaqueBlack);
-    const auto entry = std::find(table_->pixels.begin(), table_->pixels.end(), black);
+    const auto* const entry = std::find(table_->pixels.begin(), table_->pixels.end(), black);
     if (indices_ && entry == table_->pixels.end()) TurnIntoPixels();
     if (!ready_) return;
     Mark(0, PixelCount());
@@ -45,7 +45,7 @@ bool FliCanvas::Take(const std::shared_ptr<const Picture>& picture, const Work& 
     if (picture == last_) return true;
     if (indices_ && !TurnIntoPixels()) return false;
     Mark(0, PixelCount());
-    std::memset(pixels_->Bits(), 0, pixels_->BitsLength());
+    std::fill_n(pixels_->Bits(), pixels_->BitsLength(), uint8{0});
     return CopyPixels(*picture, *pixels_, work);
 }
 

@@ -46,7 +46,7 @@ class FliDecoder {
                std::shared_ptr<PixelBudget> budget, Work& work);
 
     // False when this is no such file.
-    bool ReadFliHeader(FliHeader* header);
+    bool ReadFliHeader(FliHeader* result);
     // The record of this index: complete, with a palette of its own, where there is a frame.
     Record ReadRecord(int32 index, const Place& place, Frame* frame);
     // As it is after the records read so far.

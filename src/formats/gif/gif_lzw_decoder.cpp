@@ -94,7 +94,7 @@ inline uint8* GifLzwDecoder::Expand(const Growth& growth, uint8* target) const {
 uint8* GifLzwDecoder::ExpandLong(uint32 code, uint8* target) const {
     const LongString* string = &long_strings_[code];
     const uint32 length = string->length;
-    uint8* position = target + (length - 1) / kChunk * kChunk;
+    uint8* position = target + size_t{(length - 1) / kChunk} * kChunk;
     StoreChunk(position, string->tail);
     while (position != target) {
         string = &long_strings_[string->before];
@@ -253,7 +253,7 @@ int32 GifLzwDecoder::TakeGroupsOf(int32 most) {
         };
         const auto is_string = [&](uint32 i) { return code(i) - clear_code >= 2; };
         if (!(is_string(0) && is_string(1) && is_string(2) && is_string(3))) break;
-        bit += kGroup * kSize;
+        bit += size_t{kGroup} * kSize;
         left -= kGroup;
         const auto take = [&](uint32 i) {
             TakeString<kGrows>(code(i), growth);

@@ -109,7 +109,7 @@ class GifLzwDecoder {
     std::array<LongString, kMaxCodes> long_strings_;
 
     // The indices that the writer has not got yet. Copies may run 7 bytes over a string's end.
-    std::array<uint8, kRoom + kGroup * kMaxCodes + 8> collected_;
+    std::array<uint8, kRoom + size_t{kGroup} * kMaxCodes + 8> collected_;
     size_t collected_size_ = 0;
 };
 

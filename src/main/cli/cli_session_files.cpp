@@ -36,7 +36,7 @@ std::string SplitPosition(const std::string& value, int32* position) {
 
 // The same for an image, whose own name may end so.
 std::string SplitImage(const std::string& value, int32* position) {
-    const std::string path = SplitPosition(value, position);
+    std::string path = SplitPosition(value, position);
     std::error_code error;
     if (path == value || !std::filesystem::exists(value, error)) return path;
     *position = -1;
