@@ -233,8 +233,7 @@ def program_rows(files):
 
 
 def faithful_rows(files):
-    untouched_ones = [untouched(files, animation)
-                      for animation in ("photo.gif", "noise.gif", "flat.gif", "sprites.gif")]
+    untouched_ones = [untouched(files, animation) for animation in ("photo.gif", "sprites.gif")]
     small_ones = [as_small_as_found(files, animation)
                   for animation in ("flat-part.gif", "screen.gif", "changes.gif", "sprites.gif")]
     return [*untouched_ones, *(row for rows in small_ones for row in rows)]
