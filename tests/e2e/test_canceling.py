@@ -35,7 +35,7 @@ class Canceling(EditorTest):
         self.longest = 0.0
         # File dialogs begin where the editor was started: names alone are typed faster.
         self.enterContext(contextlib.chdir(self.folder))
-        # Several threads are done with it before the button can be pressed.
+        # Several threads are done with the work before the button can be pressed.
         self.session.environment["KIRTO_THREADS"] = "1"
         self.button = None
         self.frames_before = 0

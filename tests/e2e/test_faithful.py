@@ -22,6 +22,16 @@ class Faithful(EditorTest):
         path.write_bytes(path.read_bytes()[:-1])
         return path
 
+    def open_without_its_end(self):
+        """An editor that opens such a file as browsers do; and the file."""
+        path = self.without_its_end()
+        editor = self.start_editor()
+        editor.choose("File", "Open...")
+        editor.name_file("Open Animation", path)
+        editor.answer(DAMAGED, "Open as Browsers Do")
+        editor.wait_for_status(2, modified=False)
+        return editor, path
+
     def odd_picture(self):
         path = self.folder / "odd.png"
         self.session.call("convert", "-size", "80x60", "xc:#123456", f"png24:{path}")
@@ -38,12 +48,7 @@ class Faithful(EditorTest):
         return editor, path
 
     def test_opens_what_browsers_open_and_undoes_it(self):
-        path = self.without_its_end()
-        editor = self.start_editor()
-        editor.choose("File", "Open...")
-        editor.name_file("Open Animation", path)
-        editor.answer(DAMAGED, "Open as Browsers Do")
-        editor.wait_for_status(2, modified=False)
+        editor, _ = self.open_without_its_end()
         editor.wait_for_title("Kirto - colors.gif")
         editor.wait_for_label(OPENED)
         self.assertIn("animation_faithful", self.settings())
@@ -55,12 +60,7 @@ class Faithful(EditorTest):
         editor.wait_for_title("Kirto - untitled")
 
     def test_opens_such_a_file_without_a_question_from_then_on(self):
-        path = self.without_its_end()
-        editor = self.start_editor()
-        editor.choose("File", "Open...")
-        editor.name_file("Open Animation", path)
-        editor.answer(DAMAGED, "Open as Browsers Do")
-        editor.wait_for_status(2, modified=False)
+        editor, path = self.open_without_its_end()
         editor.choose("File", "Quit")
         self.assertEqual(editor.wait_for_end(), 0)
         editor = self.start_editor(path)

@@ -8,19 +8,6 @@
 
 namespace kirto {
 
-namespace {
-
-// Opaque pixels as an AdaptiveMapper takes them.
-void FillRow(const uint32* keys, size_t count, std::vector<uint8>* row) {
-    for (size_t x = 0; x < count; ++x) {
-        const uint32 pixel = keys[x] == kNothing ? 0 : keys[x] | 0xFF000000;
-        for (uint32 i = 0; i < 4; ++i)
-            (*row)[x * 4 + i] = static_cast<uint8>(pixel >> 8 * i);
-    }
-}
-
-}  // namespace
-
 ColorReducer::ColorReducer(const Screen& screen, AdaptiveDither dither,
                            std::vector<rgb_color> common, const Work& work)
     : screen_(screen), dither_(dither), common_(std::move(common)), work_(work) {}
@@ -41,7 +28,7 @@ ScreenPixels ColorReducer::Reduce(const ScreenPixels& before, const ScreenPixels
     ScreenPixels reduced = shown;
     for (int32 y = 0; y < screen_.Height() && !work_.StopRequested(); ++y) {
         uint32* const pixels = reduced.data() + screen_.At(0, y);
-        FillRow(pixels, width, &row);
+        FillPixels({pixels, width}, row.data());
         mapper.MapRow(y, row.data(), indices.data());
         for (size_t x = 0; x < width; ++x)
             pixels[x] = indices[x] < keys.size() ? keys[indices[x]] : kNothing;

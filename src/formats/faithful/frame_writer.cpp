@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "color/color_values.h"
+#include "formats/faithful/screen_difference.h"
 #include "formats/gif/gif_row_order.h"
 
 namespace kirto {
@@ -71,11 +72,7 @@ std::vector<ColorValues::Item> Skipped(std::span<const uint32> keys,
         if (!item) throw std::bad_alloc();
         ++item->value;
     }
-    std::vector<ColorValues::Item> colors(counts.Items().begin(), counts.Items().end());
-    std::sort(colors.begin(), colors.end(), [](const auto& a, const auto& b) {
-        return a.value != b.value ? a.value > b.value : a.key < b.key;
-    });
-    return colors;
+    return CommonestFirst(counts);
 }
 
 // Skips stretches of at least so many pixels that may be skipped, but for those at their ends that

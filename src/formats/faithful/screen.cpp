@@ -80,6 +80,14 @@ PixelRect Around(const PixelRect& a, const PixelRect& b) {
             std::max(a.top + a.height, b.top + b.height) - top};
 }
 
+void FillPixels(std::span<const uint32> keys, uint8* pixels) {
+    for (const uint32 key : keys) {
+        const uint32 pixel = key == kNothing ? 0 : key | 0xFF000000;
+        for (uint32 i = 0; i < 4; ++i)
+            *pixels++ = static_cast<uint8>(pixel >> 8 * i);
+    }
+}
+
 ScreenPixels Screen::Empty() const {
     return ScreenPixels(At(0, height_), kNothing);
 }
@@ -108,13 +116,9 @@ void Screen::Clear(const PixelRect& rect, ScreenPixels* pixels) const {
 std::shared_ptr<const Picture> Screen::PictureOf(const ScreenPixels& pixels) const {
     PictureBuilder builder(width_, height_, B_RGB32, nullptr);
     std::vector<uint8> row(size_t{4} * static_cast<size_t>(width_));
-    for (size_t start = 0; start < pixels.size(); start += row.size() / 4) {
-        for (size_t x = 0; x < row.size() / 4; ++x) {
-            const uint32 key = pixels[start + x];
-            const uint32 opaque = key == kNothing ? 0 : key | 0xFF000000;
-            for (uint32 i = 0; i < 4; ++i)
-                row[x * 4 + i] = static_cast<uint8>(opaque >> 8 * i);
-        }
+    const std::span<const uint32> keys(pixels);
+    for (size_t start = 0; start < keys.size(); start += row.size() / 4) {
+        FillPixels(keys.subspan(start, row.size() / 4), row.data());
         if (!builder.AddRow(row.data())) throw std::bad_alloc();
     }
     std::shared_ptr<const Picture> picture = builder.Take();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <span>
 #include <vector>
 
 #include "animation/frame.h"
@@ -25,6 +26,9 @@ struct ScreenImage {
 
     static ScreenImage Of(const Frame& frame);
 };
+
+// The colors as pixels of B_RGB32, four bytes each: opaque, or nothing's.
+void FillPixels(std::span<const uint32> keys, uint8* pixels);
 
 // Part of a screen of that size, which may be none of it.
 PixelRect Clipped(const PixelRect& rect, int32 width, int32 height);

@@ -56,6 +56,14 @@ ScreenDifference ScreenDifference::Between(const Screen& screen, const ScreenPix
     return difference;
 }
 
+std::vector<ColorValues::Item> CommonestFirst(const ColorValues& counts) {
+    std::vector<ColorValues::Item> colors(counts.Items().begin(), counts.Items().end());
+    std::sort(colors.begin(), colors.end(), [](const auto& a, const auto& b) {
+        return a.value != b.value ? a.value > b.value : a.key < b.key;
+    });
+    return colors;
+}
+
 std::optional<std::vector<ColorValues::Item>> ColorsToDraw(const ScreenPixels& below,
                                                            const ScreenPixels& shown, size_t most) {
     ColorValues counts;
@@ -71,11 +79,7 @@ std::optional<std::vector<ColorValues::Item>> ColorsToDraw(const ScreenPixels& b
         for (; i < shown.size() && shown[i] == key && below[i] != key; ++i)
             ++item->value;
     }
-    std::vector<ColorValues::Item> colors(counts.Items().begin(), counts.Items().end());
-    std::sort(colors.begin(), colors.end(), [](const auto& a, const auto& b) {
-        return a.value != b.value ? a.value > b.value : a.key < b.key;
-    });
-    return colors;
+    return CommonestFirst(counts);
 }
 
 }  // namespace kirto

@@ -4,7 +4,6 @@
 #include <vector>
 
 #include "base/types.h"
-#include "base/work.h"
 #include "color/color_values.h"
 #include "formats/faithful/screen.h"
 
@@ -25,6 +24,9 @@ struct ScreenDifference {
     static ScreenDifference Between(const Screen& screen, const ScreenPixels& below,
                                     const ScreenPixels& shown);
 };
+
+// The colors that were counted, by falling number and then by rising key.
+std::vector<ColorValues::Item> CommonestFirst(const ColorValues& counts);
 
 // The colors of the pixels that differ, with their numbers, by falling number and then by rising
 // key; nothing where there are more than most. Throws std::bad_alloc.
