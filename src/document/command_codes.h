@@ -94,8 +94,9 @@ inline constexpr uint32 kForwardAndBack = FourCharCode("awfb");
 inline constexpr uint32 kRemoveDuplicates = FourCharCode("awrd");  // int32 "tolerance"
 inline constexpr uint32 kDropEveryNth = FourCharCode("awdn");      // int32 "number"
 inline constexpr uint32 kStartAtCurrent = FourCharCode("awsc");
-// String "pause", as ParsePauseChange has it; bool "all": not only of the selected frames; bool
-// "own": also of frames that have one of their own, which is the rule.
+// String "pause", as ParsePauseChange has it, for the selected frames, or string "frames", or all
+// of them where bool "all" says so; bool "own": also for those with a pause of their own, which is
+// the rule.
 inline constexpr uint32 kSetPauses = FourCharCode("awsp");
 
 // Main window to application: edits of the document that panels ask for, with the value checked.
