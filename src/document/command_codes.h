@@ -140,6 +140,15 @@ inline constexpr uint32 kMenuPreferences = FourCharCode("awvr");
 inline constexpr uint32 kMenuInsert = FourCharCode("awfi");
 inline constexpr uint32 kMenuInsertTiled = FourCharCode("awit");
 inline constexpr uint32 kMenuFadeEffects = FourCharCode("awfe");
+inline constexpr uint32 kMenuInsertAnimation = FourCharCode("wian");
+inline constexpr uint32 kMenuSelectAll = FourCharCode("wsal");
+inline constexpr uint32 kMenuSelectNone = FourCharCode("wsno");  // but the current frame
+inline constexpr uint32 kMenuInvertSelection = FourCharCode("wsiv");
+inline constexpr uint32 kMenuSelectEvery = FourCharCode("wsev");
+inline constexpr uint32 kMenuSelectRange = FourCharCode("wsrg");
+inline constexpr uint32 kMenuSetPause = FourCharCode("wspa");
+inline constexpr uint32 kMenuDropEvery = FourCharCode("wdev");
+inline constexpr uint32 kMenuRemoveDuplicates = FourCharCode("wrdu");
 
 // Panels to main window. No fields; the window reads the control that sent the command.
 inline constexpr uint32 kThumbnailMode = FourCharCode("lvtm");
