@@ -61,6 +61,11 @@ inline constexpr uint32 kQuitWhenDone = FourCharCode("awqd");
 inline constexpr uint32 kOpenFile = FourCharCode("aofp");
 inline constexpr uint32 kInsertFiles = FourCharCode("aifp");  // int32 "position"
 inline constexpr uint32 kInsertTiledFile = FourCharCode("aitp");
+// All refs, one after the other, behind the current frame; no other fields.
+inline constexpr uint32 kInsertAnimations = FourCharCode("aiap");
+// Main window to application: data "bytes" of string "type", a MIME type: frames, an animation or
+// an image; int32 "position", or behind the current frame.
+inline constexpr uint32 kPasteFrames = FourCharCode("apst");
 // Save panel to application. Int64 "translator_id", ref "directory", string "name".
 inline constexpr uint32 kSaveFile = FourCharCode("asfp");
 
@@ -141,6 +146,9 @@ inline constexpr uint32 kMenuInsert = FourCharCode("awfi");
 inline constexpr uint32 kMenuInsertTiled = FourCharCode("awit");
 inline constexpr uint32 kMenuFadeEffects = FourCharCode("awfe");
 inline constexpr uint32 kMenuInsertAnimation = FourCharCode("wian");
+inline constexpr uint32 kMenuCut = FourCharCode("wcut");
+inline constexpr uint32 kMenuCopy = FourCharCode("wcpy");
+inline constexpr uint32 kMenuPaste = FourCharCode("wpst");
 inline constexpr uint32 kMenuSelectAll = FourCharCode("wsal");
 inline constexpr uint32 kMenuSelectNone = FourCharCode("wsno");  // but the current frame
 inline constexpr uint32 kMenuInvertSelection = FourCharCode("wsiv");
