@@ -215,6 +215,7 @@ void AnimationDocument::InsertFrameAsCurrent(int32 position, Frame frame) {
         next.height = frame.height;
     }
     next.selected = std::clamp(position, 0, next.frames.Size());
+    next.several = {};
     next.frames.Insert(next.selected, std::make_shared<const Frame>(std::move(frame)));
     CommitModified(std::move(next));
     PostInserted(first);

@@ -223,4 +223,68 @@ TEST(Animation, EqualsOneOfTheSameContentInOtherPlaces) {
     EXPECT_EQ(copy, animation);
 }
 
+TEST(SelectFrames, SelectsSeveralAndMakesTheNearestCurrent) {
+    Animation animation = AnimationOf({"a", "b", "c", "d", "e"}, 4);
+
+    EXPECT_TRUE(SelectFrames(animation, FrameSet::Of(1, 3), 0));
+
+    EXPECT_EQ(animation.selected, 1);
+    EXPECT_EQ(animation.Selection().Positions(), (std::vector<int32>{1, 2, 3}));
+    EXPECT_FALSE(SelectFrames(animation, FrameSet::Of(1, 3), 0));
+}
+
+TEST(SelectFrames, OfOneFrameOrNoneSelectsThatFrameOrTheCurrentOne) {
+    Animation animation = AnimationOf({"a", "b", "c"}, 1);
+    ASSERT_TRUE(SelectFrames(animation, FrameSet::AllOf(3), 1));
+
+    EXPECT_TRUE(SelectFrames(animation, {}, 0));
+    EXPECT_EQ(animation.Selection().Positions(), (std::vector<int32>{1}));
+
+    EXPECT_TRUE(SelectFrames(animation, FrameSet::Of(2, 2), 0));
+    EXPECT_EQ(animation.selected, 2);
+    EXPECT_TRUE(animation.several.Empty());
+}
+
+TEST(SelectFrames, TakesNoFramesThatThereAreNot) {
+    Animation animation = AnimationOf({"a", "b", "c"}, 1);
+
+    EXPECT_FALSE(SelectFrames(animation, FrameSet::Of(1, 3), 1));
+    EXPECT_EQ(animation.selected, 1);
+}
+
+TEST(Animation, SelectsTheCurrentFrameAloneAfterEachEditOfTheList) {
+    const auto selected = [](auto edit) {
+        Animation animation = AnimationOf({"a", "b", "c", "d"}, 1);
+        SelectFrames(animation, FrameSet::Of(1, 2), 1);
+        edit(animation);
+        return animation.several.Empty();
+    };
+
+    EXPECT_FALSE(selected([](Animation&) {}));
+    EXPECT_TRUE(selected([](Animation& each) { InsertFrame(each, 0, FrameOf("x")); }));
+    EXPECT_TRUE(selected([](Animation& each) { RemoveCurrentFrame(each); }));
+    EXPECT_TRUE(selected([](Animation& each) { MoveCurrentFrame(each, true); }));
+    EXPECT_TRUE(selected([](Animation& each) { ReverseFrames(each); }));
+    EXPECT_TRUE(selected([](Animation& each) { SelectFrame(each, 1); }));
+}
+
+TEST(Animation, HasNoSelectionWithoutFrames) {
+    EXPECT_TRUE(Animation().Selection().Empty());
+}
+
+TEST(Animation, GivesAFrameItsOwnPauseOrElseItsOwn) {
+    Animation animation = AnimationOf({"a"});
+    animation.pause_length = 7;
+    EXPECT_EQ(animation.PauseOf(*animation.CurrentFrame()), 0);
+
+    animation.use_pause = true;
+    EXPECT_EQ(animation.PauseOf(*animation.CurrentFrame()), 7);
+
+    EditFrame(animation, 0, [](Frame& frame) {
+        frame.use_pause = true;
+        frame.pause_length = 3;
+    });
+    EXPECT_EQ(animation.PauseOf(*animation.CurrentFrame()), 3);
+}
+
 }  // namespace kirto::test
