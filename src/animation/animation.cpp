@@ -36,30 +36,6 @@ bool InsertFrame(Animation& animation, int32 position, FramePointer frame) {
     return true;
 }
 
-bool RemoveCurrentFrame(Animation& animation) {
-    if (animation.selected == -1) return false;
-    animation.several = {};
-    animation.frames.Remove(animation.selected);
-    animation.selected = std::min(animation.selected, animation.frames.Size() - 1);
-    return true;
-}
-
-bool MoveCurrentFrame(Animation& animation, bool up) {
-    const int32 target = animation.selected + (up ? -1 : 1);
-    if (animation.selected == -1 || target < 0 || target >= animation.frames.Size()) return false;
-    animation.several = {};
-    animation.frames.Swap(animation.selected, target);
-    animation.selected = target;
-    return true;
-}
-
-bool ReverseFrames(Animation& animation) {
-    if (animation.frames.Size() <= 1) return false;
-    animation.several = {};
-    animation.frames.Reverse();
-    return true;
-}
-
 bool SelectFrame(Animation& animation, int32 i) {
     if (i < 0 || i >= animation.frames.Size()) return false;
     if (i == animation.selected && animation.several.Empty()) return false;

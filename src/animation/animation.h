@@ -85,12 +85,6 @@ void EditSelectedFrames(Animation& animation, Edit edit) {
 // Inserts the frame at position 0..frames.Size(). The selection keeps its number; the first frame
 // of all becomes current.
 bool InsertFrame(Animation& animation, int32 position, FramePointer frame);
-// Removes the current frame; the one after it becomes current, or else the last.
-bool RemoveCurrentFrame(Animation& animation);
-// Swaps the current frame with the one before (up) or after it; the selection follows.
-bool MoveCurrentFrame(Animation& animation, bool up);
-// Reverses the list; the selection keeps its number.
-bool ReverseFrames(Animation& animation);
 // Makes another frame current, or the current one the only one that is selected.
 bool SelectFrame(Animation& animation, int32 i);
 // Selects several frames, and makes that of them current which is nearest to the position. An empty

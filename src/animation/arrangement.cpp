@@ -11,10 +11,6 @@ namespace {
 
 using FrameList = std::vector<FramePointer>;
 
-FrameList ListOf(const FrameSequence& frames) {
-    return {frames.begin(), frames.end()};
-}
-
 FramePointer CopyOf(const FramePointer& frame) {
     auto copy = std::make_shared<Frame>(*frame);
     copy->id = Frame().id;
@@ -28,9 +24,19 @@ FrameList SelectedFrames(const Animation& animation) {
     return frames;
 }
 
+FrameList SelectedCopies(const Animation& animation) {
+    FrameList copies = SelectedFrames(animation);
+    std::transform(copies.begin(), copies.end(), copies.begin(), CopyOf);
+    return copies;
+}
+
 // The selected frames, or all where that is the current one alone.
 FrameSet SelectionOrAll(const Animation& animation) {
     return animation.several.Empty() ? FrameSet::AllOf(animation.frames.Size()) : animation.several;
+}
+
+int32 CountBefore(const FrameSet& frames, int32 position) {
+    return frames.Within(position).Count();
 }
 
 void Select(Animation& animation, FrameSet frames, int32 current) {
@@ -38,49 +44,42 @@ void Select(Animation& animation, FrameSet frames, int32 current) {
     animation.several = frames.Count() > 1 ? std::move(frames) : FrameSet();
 }
 
-// Takes the frames out of the list. Returns what is left.
-FrameList Without(const FrameSequence& frames, const FrameSet& removed) {
-    FrameList left;
-    int32 position = 0;
-    for (const FramePointer& frame : frames) {
-        if (!removed.Contains(position++)) left.push_back(frame);
-    }
-    return left;
+void Remove(FrameSequence& frames, const FrameSet& removed) {
+    const std::vector<int32> positions = removed.Positions();
+    std::for_each(positions.rbegin(), positions.rend(), [&](int32 i) { frames.Remove(i); });
 }
 
-int32 CountBefore(const FrameSet& frames, int32 position) {
-    return frames.Within(position).Count();
-}
-
-void Put(Animation& animation, FrameList list, int32 position, const FrameList& frames,
-         int32 current) {
-    list.insert(list.begin() + position, frames.begin(), frames.end());
-    animation.frames = FrameSequence(list);
-    const auto count = static_cast<int32>(frames.size());
-    Select(animation, FrameSet::Of(position, position + count - 1), position + current);
+// Inserts the frames, one or more, and selects them; current: the number of the current one among
+// them.
+void Put(Animation& animation, int32 position, const FrameList& frames, int32 current) {
+    int32 next = position;
+    for (const FramePointer& frame : frames)
+        animation.frames.Insert(next++, frame);
+    Select(animation, FrameSet::Of(position, next - 1), position + current);
 }
 
 // Removes the frames, whose first is not that of the list, and gives their time to those before.
 void Merge(Animation& animation, const FrameSet& removed) {
-    FrameList left;
-    int32 position = 0;
-    for (const FramePointer& frame : animation.frames) {
-        if (!removed.Contains(position++)) {
-            left.push_back(frame);
-            continue;
+    int32 left = 0;
+    double longer = 0;
+    for (const int32 i : removed.Positions()) {
+        // What several frames in a row have goes to the one before all of them.
+        if (!removed.Contains(i - 1)) {
+            left = i - 1;
+            longer = animation.PauseOf(*animation.frames.At(left));
         }
-        const double pause = animation.PauseOf(*frame);
-        if (!(pause > 0)) continue;
-        auto longer = std::make_shared<Frame>(*left.back());
-        longer->pause_length = animation.PauseOf(*longer) + pause;
-        longer->use_pause = true;
-        left.back() = std::move(longer);
+        longer += animation.PauseOf(*animation.frames.At(i));
+        if (removed.Contains(i + 1) || longer == animation.PauseOf(*animation.frames.At(left)))
+            continue;
+        EditFrame(animation, left, [longer](Frame& frame) {
+            frame.use_pause = true;
+            frame.pause_length = longer;
+        });
     }
     // The last that is left up to the current one.
-    const int32 current = animation.selected - CountBefore(removed, animation.selected + 1);
-    animation.frames = FrameSequence(left);
-    animation.selected = std::max(current, 0);
+    animation.selected -= CountBefore(removed, animation.selected + 1);
     animation.several = {};
+    Remove(animation.frames, removed);
 }
 
 }  // namespace
@@ -88,34 +87,30 @@ void Merge(Animation& animation, const FrameSet& removed) {
 bool RemoveSelected(Animation& animation) {
     const FrameSet removed = animation.Selection();
     if (removed.Empty()) return false;
+    Remove(animation.frames, removed);
     const int32 current = animation.selected - CountBefore(removed, animation.selected);
-    animation.frames = FrameSequence(Without(animation.frames, removed));
     animation.selected = std::min(current, animation.frames.Size() - 1);
     animation.several = {};
     return true;
 }
 
 bool MoveSelected(Animation& animation, bool up) {
-    const int32 step = up ? -1 : 1;
     FrameSet moved;
-    FrameList list = ListOf(animation.frames);
     std::vector<int32> positions = animation.Selection().Positions();
     if (!up) std::reverse(positions.begin(), positions.end());
     int32 current = animation.selected;
     bool changed = false;
     for (const int32 from : positions) {
-        const int32 to = from + step;
+        const int32 to = from + (up ? -1 : 1);
         const bool free = to >= 0 && to < animation.frames.Size() && !moved.Contains(to);
         moved.Add(free ? FrameSet::Range{to, to} : FrameSet::Range{from, from});
         if (!free) continue;
-        std::swap(list[static_cast<size_t>(from)], list[static_cast<size_t>(to)]);
+        animation.frames.Swap(from, to);
         if (from == animation.selected) current = to;
         changed = true;
     }
-    if (!changed) return false;
-    animation.frames = FrameSequence(list);
-    Select(animation, std::move(moved), current);
-    return true;
+    if (changed) Select(animation, std::move(moved), current);
+    return changed;
 }
 
 bool MoveSelectedTo(Animation& animation, int32 position) {
@@ -124,17 +119,16 @@ bool MoveSelectedTo(Animation& animation, int32 position) {
     const int32 target = position - CountBefore(moved, position);
     const bool in_place = moved.Ranges().size() == 1 && moved.First() == target;
     if (in_place) return false;
-    Put(animation, Without(animation.frames, moved), target, SelectedFrames(animation),
-        CountBefore(moved, animation.selected));
+    const FrameList frames = SelectedFrames(animation);
+    Remove(animation.frames, moved);
+    Put(animation, target, frames, CountBefore(moved, animation.selected));
     return true;
 }
 
 bool CopySelectedTo(Animation& animation, int32 position) {
     if (animation.frames.Empty() || position < 0 || position > animation.frames.Size())
         return false;
-    FrameList copies = SelectedFrames(animation);
-    std::transform(copies.begin(), copies.end(), copies.begin(), CopyOf);
-    Put(animation, ListOf(animation.frames), position, copies,
+    Put(animation, position, SelectedCopies(animation),
         CountBefore(animation.Selection(), animation.selected));
     return true;
 }
@@ -143,42 +137,41 @@ bool InsertCopies(Animation& animation, int32 position, const std::vector<FrameP
     if (frames.empty()) return false;
     FrameList copies = frames;
     std::transform(copies.begin(), copies.end(), copies.begin(), CopyOf);
-    Put(animation, ListOf(animation.frames), std::clamp(position, 0, animation.frames.Size()),
-        copies, 0);
+    Put(animation, std::clamp(position, 0, animation.frames.Size()), copies, 0);
     return true;
 }
 
 bool ReverseSelected(Animation& animation) {
-    const std::vector<int32> positions = SelectionOrAll(animation).Positions();
-    if (positions.size() < 2) return false;
-    FrameList list = ListOf(animation.frames);
+    if (animation.frames.Size() <= 1) return false;
+    if (animation.several.Empty()) {
+        animation.frames.Reverse();
+        return true;
+    }
+    const std::vector<int32> positions = animation.several.Positions();
     for (size_t i = 0, j = positions.size() - 1; i < j; ++i, --j)
-        std::swap(list[static_cast<size_t>(positions[i])], list[static_cast<size_t>(positions[j])]);
-    animation.frames = FrameSequence(list);
+        animation.frames.Swap(positions[i], positions[j]);
     return true;
 }
 
 bool PlayForwardAndBack(Animation& animation) {
-    const std::vector<int32> positions = SelectionOrAll(animation).Positions();
-    if (positions.size() < 3) return false;
-    FrameList list = ListOf(animation.frames);
-    FrameList back;
-    for (size_t i = positions.size() - 2; i > 0; --i)
-        back.push_back(CopyOf(list[static_cast<size_t>(positions[i])]));
-    const int32 after = positions.back() + 1;
-    list.insert(list.begin() + after, back.begin(), back.end());
     FrameSet played = SelectionOrAll(animation);
-    played.Add({after, after + static_cast<int32>(back.size()) - 1});
-    animation.frames = FrameSequence(list);
+    const std::vector<int32> positions = played.Positions();
+    if (positions.size() < 3) return false;
+    const int32 after = positions.back() + 1;
+    int32 next = after;
+    for (size_t i = positions.size() - 2; i > 0; --i)
+        animation.frames.Insert(next++, CopyOf(animation.frames.At(positions[i])));
+    played.Add({after, next - 1});
     Select(animation, std::move(played), animation.selected);
     return true;
 }
 
 bool StartAtCurrent(Animation& animation) {
     if (animation.selected < 1) return false;
-    FrameList list = ListOf(animation.frames);
-    std::rotate(list.begin(), list.begin() + animation.selected, list.end());
-    animation.frames = FrameSequence(list);
+    for (int32 i = 0; i < animation.selected; ++i) {
+        animation.frames.Insert(animation.frames.Size(), animation.frames.At(0));
+        animation.frames.Remove(0);
+    }
     animation.selected = 0;
     animation.several = {};
     return true;

@@ -6,15 +6,6 @@
 
 namespace kirto {
 
-FrameSequence::FrameSequence(const std::vector<FramePointer>& frames) {
-    for (auto begin = frames.begin(); begin != frames.end();) {
-        const auto end = begin + std::min<std::ptrdiff_t>(kLeafSize, frames.end() - begin);
-        leaves_.push_back(std::make_shared<const Leaf>(begin, end));
-        begin = end;
-    }
-    Renumber();
-}
-
 FramePointer FrameSequence::At(int32 i) const {
     if (i < 0 || i >= size_) return nullptr;
     const size_t leaf = LeafOf(i);

@@ -17,9 +17,6 @@ class FrameSequence {
   public:
     class Iterator;
 
-    FrameSequence() = default;
-    explicit FrameSequence(const std::vector<FramePointer>& frames);
-
     int32 Size() const { return size_; }
     bool Empty() const { return size_ == 0; }
 

@@ -81,6 +81,23 @@ inline constexpr uint32 kUndo = FourCharCode("aweu");
 inline constexpr uint32 kRedo = FourCharCode("awer");
 inline constexpr uint32 kPreview = FourCharCode("awvp");
 
+// Main window to application: string "frames", as ParseFrameSet has it, are the selected ones; that
+// of them becomes current which is nearest to int32 "current", without that field to the frame that
+// is.
+inline constexpr uint32 kSelectFrames = FourCharCode("aslm");
+// Main window to application: arrange the selected frames, or all where one is selected and one
+// alone can't be arranged. Those of a row without fields have none.
+inline constexpr uint32 kMoveFramesTo = FourCharCode("awmt");     // int32 "position"
+inline constexpr uint32 kCopyFramesTo = FourCharCode("awct");     // int32 "position"
+inline constexpr uint32 kDuplicateFrames = FourCharCode("awdu");  // to behind the last
+inline constexpr uint32 kForwardAndBack = FourCharCode("awfb");
+inline constexpr uint32 kRemoveDuplicates = FourCharCode("awrd");  // int32 "tolerance"
+inline constexpr uint32 kDropEveryNth = FourCharCode("awdn");      // int32 "number"
+inline constexpr uint32 kStartAtCurrent = FourCharCode("awsc");
+// String "pause", as ParsePauseChange has it; bool "all": not only of the selected frames; bool
+// "own": also of frames that have one of their own, which is the rule.
+inline constexpr uint32 kSetPauses = FourCharCode("awsp");
+
 // Main window to application: edits of the document that panels ask for, with the value checked.
 inline constexpr uint32 kSetWidth = FourCharCode("gvwd");        // int32 "value"
 inline constexpr uint32 kSetHeight = FourCharCode("gvht");       // int32 "value"

@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "animation/arrangement.h"
+
 namespace kirto::test {
 
 namespace {
@@ -75,32 +77,32 @@ TEST(InsertFrame, OutsideTheListChangesNothing) {
     }
 }
 
-TEST(RemoveCurrentFrame, MakesTheFollowingFrameCurrentOrElseTheLast) {
+TEST(RemoveSelected, MakesTheFollowingFrameCurrentOrElseTheLast) {
     Animation animation = AnimationOf({"one", "two", "three"}, 1);
 
-    EXPECT_TRUE(RemoveCurrentFrame(animation));
+    EXPECT_TRUE(RemoveSelected(animation));
     EXPECT_EQ(animation.CurrentFrame()->name, "three");
-    EXPECT_TRUE(RemoveCurrentFrame(animation));
+    EXPECT_TRUE(RemoveSelected(animation));
     EXPECT_EQ(animation.CurrentFrame()->name, "one");
-    EXPECT_TRUE(RemoveCurrentFrame(animation));
+    EXPECT_TRUE(RemoveSelected(animation));
     EXPECT_EQ(animation.selected, -1);
     EXPECT_TRUE(animation.frames.Empty());
-    EXPECT_FALSE(RemoveCurrentFrame(animation));
+    EXPECT_FALSE(RemoveSelected(animation));
 }
 
-TEST(MoveCurrentFrame, SwapsNeighboursAndFollows) {
+TEST(MoveSelected, SwapsNeighboursAndFollows) {
     Animation animation = AnimationOf({"one", "two", "three"}, 1);
 
-    EXPECT_TRUE(MoveCurrentFrame(animation, true));
+    EXPECT_TRUE(MoveSelected(animation, true));
     EXPECT_EQ(Names(animation), (NameList{"two", "one", "three"}));
     EXPECT_EQ(animation.selected, 0);
-    EXPECT_TRUE(MoveCurrentFrame(animation, false));
-    EXPECT_TRUE(MoveCurrentFrame(animation, false));
+    EXPECT_TRUE(MoveSelected(animation, false));
+    EXPECT_TRUE(MoveSelected(animation, false));
     EXPECT_EQ(Names(animation), (NameList{"one", "three", "two"}));
     EXPECT_EQ(animation.selected, 2);
 }
 
-TEST(MoveCurrentFrame, PastTheEndsChangesNothing) {
+TEST(MoveSelected, PastTheEndsChangesNothing) {
     const Animation empty;
     const Animation at_start = AnimationOf({"one", "two"}, 0);
     const Animation at_end = AnimationOf({"one", "two"}, 1);
@@ -108,27 +110,27 @@ TEST(MoveCurrentFrame, PastTheEndsChangesNothing) {
          {std::pair{&empty, true}, {&empty, false}, {&at_start, true}, {&at_end, false}}) {
         Animation animation = *before;
 
-        EXPECT_FALSE(MoveCurrentFrame(animation, up));
+        EXPECT_FALSE(MoveSelected(animation, up));
 
         EXPECT_EQ(animation, *before);
     }
 }
 
-TEST(ReverseFrames, KeepsTheSelectedNumber) {
+TEST(ReverseSelected, KeepsTheSelectedNumber) {
     Animation animation = AnimationOf({"one", "two", "three"}, 0);
 
-    EXPECT_TRUE(ReverseFrames(animation));
+    EXPECT_TRUE(ReverseSelected(animation));
 
     EXPECT_EQ(Names(animation), (NameList{"three", "two", "one"}));
     EXPECT_EQ(animation.selected, 0);
 }
 
-TEST(ReverseFrames, BelowTwoFramesChangesNothing) {
+TEST(ReverseSelected, BelowTwoFramesChangesNothing) {
     Animation empty;
     Animation single = AnimationOf({"one"});
 
-    EXPECT_FALSE(ReverseFrames(empty));
-    EXPECT_FALSE(ReverseFrames(single));
+    EXPECT_FALSE(ReverseSelected(empty));
+    EXPECT_FALSE(ReverseSelected(single));
     EXPECT_EQ(Names(single), NameList{"one"});
 }
 
@@ -262,9 +264,7 @@ TEST(Animation, SelectsTheCurrentFrameAloneAfterEachEditOfTheList) {
 
     EXPECT_FALSE(selected([](Animation&) {}));
     EXPECT_TRUE(selected([](Animation& each) { InsertFrame(each, 0, FrameOf("x")); }));
-    EXPECT_TRUE(selected([](Animation& each) { RemoveCurrentFrame(each); }));
-    EXPECT_TRUE(selected([](Animation& each) { MoveCurrentFrame(each, true); }));
-    EXPECT_TRUE(selected([](Animation& each) { ReverseFrames(each); }));
+    EXPECT_TRUE(selected([](Animation& each) { RemoveSelected(each); }));
     EXPECT_TRUE(selected([](Animation& each) { SelectFrame(each, 1); }));
 }
 
