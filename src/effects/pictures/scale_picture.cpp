@@ -14,8 +14,6 @@ namespace kirto {
 
 namespace {
 
-constexpr size_t kNumbers = 4;  // a pixel, in light
-
 // Rows of a picture in light, scaled across: the last so many of them.
 class LightRows {
   public:
@@ -24,9 +22,9 @@ class LightRows {
         : picture_(picture),
           across_(across),
           kept_(kept),
-          row_numbers_(static_cast<size_t>(across.Target()) * kNumbers),
+          row_numbers_(static_cast<size_t>(across.Target()) * kNumbersAPixel),
           pixels_(static_cast<size_t>(picture.Width()) * 4),
-          light_(static_cast<size_t>(picture.Width()) * kNumbers),
+          light_(static_cast<size_t>(picture.Width()) * kNumbersAPixel),
           ring_(PixelStorage::Make(row_numbers_ * static_cast<size_t>(kept) * sizeof(float),
                                    budget)) {}
 
@@ -68,7 +66,7 @@ std::shared_ptr<const Picture> Filtered(const Picture& picture, const ScalePlan&
     if (!rows.Ready()) return nullptr;
     const int32 width = plan.across.target;
     PictureBuilder builder(width, plan.down.target, LittleEndian(picture.ColorSpace()), budget);
-    std::vector<float> light(static_cast<size_t>(width) * kNumbers);
+    std::vector<float> light(static_cast<size_t>(width) * kNumbersAPixel);
     std::vector<uint8> pixels(static_cast<size_t>(width) * 4);
     std::vector<const float*> taps;
     for (int32 y = 0; y < plan.down.target; ++y) {

@@ -6,8 +6,6 @@ namespace kirto {
 
 namespace {
 
-constexpr size_t kNumbers = 4;
-
 // One instruction for four numbers, where the processor has it.
 using Numbers = float __attribute__((vector_size(16)));
 
@@ -24,12 +22,12 @@ void Store(Numbers numbers, float* target) {
 }  // namespace
 
 void WeighAcross(const float* source, const FilterAxis& axis, float* target) {
-    for (int32 x = 0; x < axis.Target(); ++x, target += kNumbers) {
-        const float* pixel = source + static_cast<size_t>(axis.First(x)) * kNumbers;
+    for (int32 x = 0; x < axis.Target(); ++x, target += kNumbersAPixel) {
+        const float* pixel = source + static_cast<size_t>(axis.First(x)) * kNumbersAPixel;
         const float* weights = axis.Weights(x);
         const size_t count = static_cast<size_t>(axis.End(x) - axis.First(x));
         Numbers sum{};
-        for (size_t tap = 0; tap < count; ++tap, pixel += kNumbers)
+        for (size_t tap = 0; tap < count; ++tap, pixel += kNumbersAPixel)
             sum += Load(pixel) * weights[tap];
         Store(sum, target);
     }
@@ -38,7 +36,7 @@ void WeighAcross(const float* source, const FilterAxis& axis, float* target) {
 // Sixteen numbers at a time stay in registers while the rows are gone through.
 void WeighRows(const std::vector<const float*>& rows, const float* weights,
                std::vector<float>& target) {
-    constexpr size_t kStep = 4 * kNumbers;
+    constexpr size_t kStep = 4 * kNumbersAPixel;
     size_t i = 0;
     for (; i + kStep <= target.size(); i += kStep) {
         Numbers sums[4] = {};
@@ -46,12 +44,12 @@ void WeighRows(const std::vector<const float*>& rows, const float* weights,
             const float* numbers = rows[row] + i;
             const float weight = weights[row];
             for (size_t k = 0; k < 4; ++k)
-                sums[k] += Load(numbers + k * kNumbers) * weight;
+                sums[k] += Load(numbers + k * kNumbersAPixel) * weight;
         }
         for (size_t k = 0; k < 4; ++k)
-            Store(sums[k], &target[i + k * kNumbers]);
+            Store(sums[k], &target[i + k * kNumbersAPixel]);
     }
-    for (; i < target.size(); i += kNumbers) {
+    for (; i < target.size(); i += kNumbersAPixel) {
         Numbers sum{};
         for (size_t row = 0; row < rows.size(); ++row)
             sum += Load(rows[row] + i) * weights[row];

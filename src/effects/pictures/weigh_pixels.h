@@ -10,6 +10,8 @@
 
 namespace kirto {
 
+inline constexpr size_t kNumbersAPixel = 4;
+
 // A row scaled by the axis: writes its target's pixels.
 void WeighAcross(const float* source, const FilterAxis& axis, float* target);
 
