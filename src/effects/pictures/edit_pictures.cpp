@@ -8,7 +8,6 @@
 
 #include "base/run_in_order.h"
 #include "base/text.h"
-#include "effects/make_pictures.h"
 #include "effects/pictures/share_strips.h"
 #include "kit/alert.h"
 
@@ -21,6 +20,12 @@ struct Job {
     std::shared_ptr<const Picture> picture;
     PictureVariant variant{};
     bool wants_palette = false;  // since a frame that shows it has an optimal one
+};
+
+struct EditedPicture {
+    std::shared_ptr<const Picture> bitmap;
+    Palette palette;  // optimal, where one is wanted
+    status_t palette_status = B_OK;
 };
 
 struct PlannedFrame {
@@ -42,8 +47,8 @@ class PictureRun {
   private:
     bool HasCanvas() const { return before_->width > 0 && before_->height > 0; }
     size_t JobOf(const Frame& frame, const PictureVariant& variant);
-    MadePicture Make(const Job& job) const;
-    bool Take(std::optional<MadePicture> made);
+    EditedPicture Make(const Job& job) const;
+    bool Take(std::optional<EditedPicture> made);
     Frame Changed(const PlannedFrame& planned) const;
 
     AnimationDocument& document_;
@@ -52,7 +57,7 @@ class PictureRun {
     std::vector<PlannedFrame> planned_;
     std::vector<Job> jobs_;
     std::map<std::pair<const Picture*, PictureVariant>, size_t> job_of_;
-    std::vector<MadePicture> made_;  // of the jobs, as far as it has come
+    std::vector<EditedPicture> made_;  // of the jobs, as far as it has come
 };
 
 void PictureRun::Plan(const FrameSet& frames) {
@@ -75,8 +80,8 @@ size_t PictureRun::JobOf(const Frame& frame, const PictureVariant& variant) {
     return known->second;
 }
 
-MadePicture PictureRun::Make(const Job& job) const {
-    MadePicture made;
+EditedPicture PictureRun::Make(const Job& job) const {
+    EditedPicture made;
     made.bitmap = edit_.Make(*job.picture, job.variant, document_.pixel_budget, document_.work);
     if (made.bitmap && job.wants_palette)
         made.palette_status = made.palette.SetOptimal(made.bitmap.get(), &document_.work);
@@ -86,7 +91,7 @@ MadePicture PictureRun::Make(const Job& job) const {
 bool PictureRun::MakePictures() {
     const int32 count = static_cast<int32>(jobs_.size());
     int32 next = 0;
-    OrderedSteps<int32, MadePicture> steps;
+    OrderedSteps<int32, EditedPicture> steps;
     steps.next = [&] { return next < count ? std::optional(next++) : std::nullopt; };
     steps.begin = [&](int32 i) {
         if (document_.StopRequested()) return false;
@@ -94,18 +99,18 @@ bool PictureRun::MakePictures() {
         document_.work.Report(i, count);
         return true;
     };
-    steps.work = [&](int32 i, int32) -> std::optional<MadePicture> {
-        MadePicture made = Make(jobs_[static_cast<size_t>(i)]);
+    steps.work = [&](int32 i, int32) -> std::optional<EditedPicture> {
+        EditedPicture made = Make(jobs_[static_cast<size_t>(i)]);
         if (!made.bitmap || made.palette_status == B_NO_MEMORY) return std::nullopt;
         return made;
     };
     steps.waiting = [&] { document_.work.ReportAgain(); };
-    steps.take = [&](int32, std::optional<MadePicture> made) { return Take(std::move(made)); };
+    steps.take = [&](int32, std::optional<EditedPicture> made) { return Take(std::move(made)); };
     RunInOrder(steps);
     return made_.size() == jobs_.size();
 }
 
-bool PictureRun::Take(std::optional<MadePicture> made) {
+bool PictureRun::Take(std::optional<EditedPicture> made) {
     if (!made || document_.StopRequested()) return false;
     if (!made_.empty()) {
         made->bitmap =
@@ -121,7 +126,7 @@ Frame PictureRun::Changed(const PlannedFrame& planned) const {
     frame.x_offset = planned.plan.x_offset;
     frame.y_offset = planned.plan.y_offset;
     if (planned.plan.keeps_picture) return frame;
-    const MadePicture& made = made_[planned.job];
+    const EditedPicture& made = made_[planned.job];
     frame.bitmap = made.bitmap;
     // The file's bytes draw another picture.
     frame.source = nullptr;
