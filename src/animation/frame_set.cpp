@@ -156,4 +156,15 @@ std::optional<FrameSet> ParseFrameSet(std::string_view text, int32 frames) {
     return set;
 }
 
+std::string TextOf(const FrameSet& frames) {
+    if (frames.Empty()) return "none";
+    std::string text;
+    for (const FrameSet::Range& range : frames.Ranges()) {
+        if (!text.empty()) text += ',';
+        text += std::to_string(range.first);
+        if (range.last != range.first) text += '-' + std::to_string(range.last);
+    }
+    return text;
+}
+
 }  // namespace kirto

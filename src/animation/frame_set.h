@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -58,5 +59,8 @@ class FrameSet {
 // numbers below 0 count from the end, -1 is the last frame; a range may be written backward. Blanks
 // around parts do not count. Empty for any other text, and when a number is outside the list.
 std::optional<FrameSet> ParseFrameSet(std::string_view text, int32 frames);
+
+// The set in that form.
+std::string TextOf(const FrameSet& frames);
 
 }  // namespace kirto

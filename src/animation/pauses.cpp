@@ -23,8 +23,12 @@ double Changed(double pause, const PauseChange& change, double units_per_second)
     }
 }
 
-void ChangeSelected(Animation& animation, const PauseChange& change, double units_per_second) {
-    for (const int32 i : animation.Selection().Positions()) {
+}  // namespace
+
+bool ChangePauses(Animation& animation, const FrameSet& frames, const PauseChange& change,
+                  double units_per_second) {
+    bool changed = false;
+    for (const int32 i : frames.Positions()) {
         const FramePointer frame = animation.frames.At(i);
         if (frame->use_pause && !change.own_pauses) continue;
         const double pause = Changed(animation.PauseOf(*frame), change, units_per_second);
@@ -33,36 +37,25 @@ void ChangeSelected(Animation& animation, const PauseChange& change, double unit
             each.use_pause = true;
             each.pause_length = pause;
         });
+        changed = true;
     }
+    return changed;
 }
 
-void ChangeAll(Animation& animation, const PauseChange& change, double units_per_second) {
+bool ChangePauseOfAll(Animation& animation, const PauseChange& change, double units_per_second) {
+    const Animation before = animation;
     const bool relative = change.unit == Unit::kPercent;
-    if (change.own_pauses) {
-        for (int32 i = 0; i < animation.frames.Size(); ++i) {
-            const FramePointer frame = animation.frames.At(i);
-            if (!frame->use_pause) continue;
-            const double pause = Changed(frame->pause_length, change, units_per_second);
-            EditFrame(animation, i, [=](Frame& each) {
-                each.use_pause = relative;
-                if (relative) each.pause_length = pause;
-            });
-        }
+    for (int32 i = 0; change.own_pauses && i < animation.frames.Size(); ++i) {
+        const FramePointer frame = animation.frames.At(i);
+        if (!frame->use_pause) continue;
+        const double pause = Changed(frame->pause_length, change, units_per_second);
+        EditFrame(animation, i, [=](Frame& each) {
+            each.use_pause = relative;
+            if (relative) each.pause_length = pause;
+        });
     }
     animation.pause_length = Changed(animation.pause_length, change, units_per_second);
     if (!relative) animation.use_pause = true;
-}
-
-}  // namespace
-
-bool ChangePauses(Animation& animation, const PauseChange& change, double units_per_second) {
-    if (animation.frames.Empty()) return false;
-    const Animation before = animation;
-    if (change.frames == PauseChange::Frames::kSelected) {
-        ChangeSelected(animation, change, units_per_second);
-    } else {
-        ChangeAll(animation, change, units_per_second);
-    }
     return !(animation == before);
 }
 

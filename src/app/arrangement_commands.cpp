@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <optional>
 #include <string>
 
 #include "animation/arrangement.h"
@@ -29,6 +30,14 @@ bool SwitchIn(const BMessage& message, const char* field, bool otherwise) {
     bool on = otherwise;
     message.FindBool(field, &on);
     return on;
+}
+
+// The frames that the message names, or else the selected ones; empty when there are no such
+// frames.
+std::optional<FrameSet> FramesIn(const BMessage& message, const Animation& animation) {
+    std::string text;
+    if (message.FindString("frames", &text) != B_OK) return animation.Selection();
+    return ParseFrameSet(text, animation.frames.Size());
 }
 
 bool MoveTo(Animation& animation, const BMessage& message, AnimationDocument&) {
@@ -64,12 +73,12 @@ bool SetPauses(Animation& animation, const BMessage& message, AnimationDocument&
     std::string text;
     message.FindString("pause", &text);
     std::optional<PauseChange> change = ParsePauseChange(text);
-    if (!change) return false;
-    change->frames = SwitchIn(message, "all", false) ? PauseChange::Frames::kAll
-                                                     : PauseChange::Frames::kSelected;
+    const std::optional<FrameSet> frames = FramesIn(message, animation);
+    if (!change || !frames) return false;
     change->own_pauses = SwitchIn(message, "own", true);
-    return ChangePauses(animation, *change,
-                        PauseUnitsPerSecond(document.prefs.global_pauseinseconds));
+    const double units = PauseUnitsPerSecond(document.prefs.global_pauseinseconds);
+    return SwitchIn(message, "all", false) ? ChangePauseOfAll(animation, *change, units)
+                                           : ChangePauses(animation, *frames, *change, units);
 }
 
 constexpr Row kRows[] = {

@@ -94,8 +94,9 @@ inline constexpr uint32 kForwardAndBack = FourCharCode("awfb");
 inline constexpr uint32 kRemoveDuplicates = FourCharCode("awrd");  // int32 "tolerance"
 inline constexpr uint32 kDropEveryNth = FourCharCode("awdn");      // int32 "number"
 inline constexpr uint32 kStartAtCurrent = FourCharCode("awsc");
-// String "pause", as ParsePauseChange has it; bool "all": not only of the selected frames; bool
-// "own": also of frames that have one of their own, which is the rule.
+// String "pause", as ParsePauseChange has it, for the selected frames, or string "frames", or all
+// of them where bool "all" says so; bool "own": also for those with a pause of their own, which is
+// the rule.
 inline constexpr uint32 kSetPauses = FourCharCode("awsp");
 
 // Main window to application: edits of the pictures of all frames, and of the canvas with them.
@@ -159,6 +160,15 @@ inline constexpr uint32 kMenuPreferences = FourCharCode("awvr");
 inline constexpr uint32 kMenuInsert = FourCharCode("awfi");
 inline constexpr uint32 kMenuInsertTiled = FourCharCode("awit");
 inline constexpr uint32 kMenuFadeEffects = FourCharCode("awfe");
+inline constexpr uint32 kMenuInsertAnimation = FourCharCode("wian");
+inline constexpr uint32 kMenuSelectAll = FourCharCode("wsal");
+inline constexpr uint32 kMenuSelectNone = FourCharCode("wsno");  // but the current frame
+inline constexpr uint32 kMenuInvertSelection = FourCharCode("wsiv");
+inline constexpr uint32 kMenuSelectEvery = FourCharCode("wsev");
+inline constexpr uint32 kMenuSelectRange = FourCharCode("wsrg");
+inline constexpr uint32 kMenuSetPause = FourCharCode("wspa");
+inline constexpr uint32 kMenuDropEvery = FourCharCode("wdev");
+inline constexpr uint32 kMenuRemoveDuplicates = FourCharCode("wrdu");
 
 // Panels to main window. No fields; the window reads the control that sent the command.
 inline constexpr uint32 kThumbnailMode = FourCharCode("lvtm");

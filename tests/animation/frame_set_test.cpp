@@ -114,4 +114,10 @@ TEST(ParseFrameSet, RefusesWhatIsNoSetAndWhatTheListDoesNotHave) {
     }
 }
 
+TEST(FrameSet, ComesBackFromItsText) {
+    for (const char* text : {"none", "3", "0-9", "1,4-5,8"}) {
+        EXPECT_EQ(TextOf(ParseFrameSet(text, 10).value()), text);
+    }
+}
+
 }  // namespace kirto::test

@@ -7,7 +7,7 @@ namespace kirto::test {
 
 namespace {
 
-using Frames = PauseChange::Frames;
+enum class Frames { kSelected, kAll };
 
 constexpr double kHundredths = PauseUnitsPerSecond(false);
 
@@ -30,9 +30,9 @@ std::vector<double> After(const char* text, Frames frames, bool own_pauses,
                           double units = kHundredths) {
     Animation animation = Sample();
     PauseChange change = ParsePauseChange(text).value();
-    change.frames = frames;
     change.own_pauses = own_pauses;
-    ChangePauses(animation, change, units);
+    if (frames == Frames::kSelected) ChangePauses(animation, animation.Selection(), change, units);
+    if (frames == Frames::kAll) ChangePauseOfAll(animation, change, units);
     std::vector<double> pauses;
     for (const FramePointer& frame : animation.frames)
         pauses.push_back(animation.PauseOf(*frame));
@@ -62,13 +62,12 @@ TEST(ChangePauses, OfAllFramesSetsTheAnimations) {
 
     Animation animation = Sample();
     animation.use_pause = false;
-    PauseChange change = ParsePauseChange("7").value();
-    change.frames = Frames::kAll;
-    EXPECT_TRUE(ChangePauses(animation, change, kHundredths));
+    const PauseChange change = ParsePauseChange("7").value();
+    EXPECT_TRUE(ChangePauseOfAll(animation, change, kHundredths));
     EXPECT_TRUE(animation.use_pause);
     EXPECT_EQ(animation.pause_length, 7);
     EXPECT_FALSE(animation.frames.At(1)->use_pause);
-    EXPECT_FALSE(ChangePauses(animation, change, kHundredths));
+    EXPECT_FALSE(ChangePauseOfAll(animation, change, kHundredths));
 }
 
 TEST(ChangePauses, CountsInSecondsWherePausesDo) {
@@ -77,9 +76,9 @@ TEST(ChangePauses, CountsInSecondsWherePausesDo) {
 }
 
 TEST(ChangePauses, HasNothingToDoWithoutFrames) {
-    Animation animation;
+    Animation animation = Sample();
 
-    EXPECT_FALSE(ChangePauses(animation, {}, kHundredths));
+    EXPECT_FALSE(ChangePauses(animation, {}, {}, kHundredths));
 }
 
 TEST(ParsePauseChange, TakesNoNumberThatIsNoPause) {
