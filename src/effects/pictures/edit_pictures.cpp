@@ -48,7 +48,9 @@ class PictureRun {
     bool HasCanvas() const { return before_->width > 0 && before_->height > 0; }
     size_t JobOf(const Frame& frame, const PictureVariant& variant);
     EditedPicture Make(const Job& job) const;
-    bool Take(std::optional<EditedPicture> made);
+    bool Take(const Job& job, std::optional<EditedPicture> made);
+    // False when memory is short.
+    bool Share(const Picture& other, EditedPicture& made) const;
     Frame Changed(const PlannedFrame& planned) const;
 
     AnimationDocument& document_;
@@ -105,20 +107,26 @@ bool PictureRun::MakePictures() {
         return made;
     };
     steps.waiting = [&] { document_.work.ReportAgain(); };
-    steps.take = [&](int32, std::optional<EditedPicture> made) { return Take(std::move(made)); };
+    steps.take = [&](int32 i, std::optional<EditedPicture> made) {
+        return Take(jobs_[static_cast<size_t>(i)], std::move(made));
+    };
     RunInOrder(steps);
     return made_.size() == jobs_.size();
 }
 
-bool PictureRun::Take(std::optional<EditedPicture> made) {
+bool PictureRun::Take(const Job& job, std::optional<EditedPicture> made) {
     if (!made || document_.StopRequested()) return false;
-    if (!made_.empty()) {
-        made->bitmap =
-            ShareStrips(std::move(made->bitmap), *made_.back().bitmap, document_.pixel_budget);
-        if (!made->bitmap) return false;
-    }
+    if (!Share(*job.picture, *made)) return false;
+    // What is as it was is no change.
+    if (made->bitmap->AllStrips() == job.picture->AllStrips()) made->bitmap = job.picture;
+    if (!made_.empty() && !Share(*made_.back().bitmap, *made)) return false;
     made_.push_back(std::move(*made));
     return true;
+}
+
+bool PictureRun::Share(const Picture& other, EditedPicture& made) const {
+    made.bitmap = ShareStrips(std::move(made.bitmap), other, document_.pixel_budget);
+    return made.bitmap != nullptr;
 }
 
 Frame PictureRun::Changed(const PlannedFrame& planned) const {
@@ -127,6 +135,7 @@ Frame PictureRun::Changed(const PlannedFrame& planned) const {
     frame.y_offset = planned.plan.y_offset;
     if (planned.plan.keeps_picture) return frame;
     const EditedPicture& made = made_[planned.job];
+    if (frame.bitmap == made.bitmap) return frame;
     frame.bitmap = made.bitmap;
     // The file's bytes draw another picture.
     frame.source = nullptr;
