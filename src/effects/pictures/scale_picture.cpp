@@ -37,7 +37,7 @@ class LightRows {
             picture_.ReadRow(made_, pixels_.data());
             ToLight(pixels_.data(), picture_.Width(), IsBigEndian(picture_.ColorSpace()),
                     light_.data());
-            WeighAcross(light_.data(), across_, Place(made_));
+            FastestPixelSums().across(light_.data(), across_, Place(made_));
         }
     }
 
@@ -75,7 +75,7 @@ std::shared_ptr<const Picture> Filtered(const Picture& picture, const ScalePlan&
         taps.clear();
         for (int32 source = down.First(y); source < down.End(y); ++source)
             taps.push_back(rows.Row(source));
-        WeighRows(taps, down.Weights(y), light);
+        FastestPixelSums().rows(taps, down.Weights(y), light);
         FromLight(light.data(), width, pixels.data());
         if (!builder.AddRow(pixels.data())) return nullptr;
     }

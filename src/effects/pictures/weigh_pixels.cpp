@@ -7,29 +7,32 @@ namespace kirto {
 namespace {
 
 // One instruction for four numbers, where the processor has it.
-using Numbers = float __attribute__((vector_size(16)));
+using FourNumbers = float __attribute__((vector_size(16)));
 
-Numbers Load(const float* source) {
-    Numbers numbers;
+FourNumbers Load(const float* source) {
+    FourNumbers numbers;
     std::memcpy(&numbers, source, sizeof(numbers));
     return numbers;
 }
 
-void Store(Numbers numbers, float* target) {
+void Store(FourNumbers numbers, float* target) {
     std::memcpy(target, &numbers, sizeof(numbers));
 }
-
-}  // namespace
 
 void WeighAcross(const float* source, const FilterAxis& axis, float* target) {
     for (int32 x = 0; x < axis.Target(); ++x, target += kNumbersAPixel) {
         const float* pixel = source + static_cast<size_t>(axis.First(x)) * kNumbersAPixel;
         const float* weights = axis.Weights(x);
         const size_t count = static_cast<size_t>(axis.End(x) - axis.First(x));
-        Numbers sum{};
-        for (size_t tap = 0; tap < count; ++tap, pixel += kNumbersAPixel)
-            sum += Load(pixel) * weights[tap];
-        Store(sum, target);
+        FourNumbers even{};
+        FourNumbers odd{};
+        size_t tap = 0;
+        for (; tap + 2 <= count; tap += 2, pixel += 2 * kNumbersAPixel) {
+            even += Load(pixel) * weights[tap];
+            odd += Load(pixel + kNumbersAPixel) * weights[tap + 1];
+        }
+        if (tap < count) even += Load(pixel) * weights[tap];
+        Store(even + odd, target);
     }
 }
 
@@ -39,7 +42,7 @@ void WeighRows(const std::vector<const float*>& rows, const float* weights,
     constexpr size_t kStep = 4 * kNumbersAPixel;
     size_t i = 0;
     for (; i + kStep <= target.size(); i += kStep) {
-        Numbers sums[4] = {};
+        FourNumbers sums[4] = {};
         for (size_t row = 0; row < rows.size(); ++row) {
             const float* numbers = rows[row] + i;
             const float weight = weights[row];
@@ -50,11 +53,29 @@ void WeighRows(const std::vector<const float*>& rows, const float* weights,
             Store(sums[k], &target[i + k * kNumbersAPixel]);
     }
     for (; i < target.size(); i += kNumbersAPixel) {
-        Numbers sum{};
+        FourNumbers sum{};
         for (size_t row = 0; row < rows.size(); ++row)
             sum += Load(rows[row] + i) * weights[row];
         Store(sum, &target[i]);
     }
+}
+
+PixelSums Fastest() {
+#ifdef __x86_64__
+    if (__builtin_cpu_supports("avx2")) return Avx2PixelSums();
+#endif
+    return PlainPixelSums();
+}
+
+}  // namespace
+
+PixelSums PlainPixelSums() {
+    return {WeighAcross, WeighRows};
+}
+
+const PixelSums& FastestPixelSums() {
+    static const PixelSums fastest = Fastest();
+    return fastest;
 }
 
 }  // namespace kirto
