@@ -1,6 +1,8 @@
 // Changes of a document.
 #include "color/palette.h"
 #include "effects/fade.h"
+#include "effects/pictures/edit_pictures.h"
+#include "effects/pictures/resize_edit.h"
 #include "jobs.h"
 #include "pixels.h"
 
@@ -22,6 +24,22 @@ bool FadeToNext(const Arguments& arguments, Measurement& measurement) {
     int32 names = 0;
     const bool done = measurement.Run(
         [&] { return Fade(own.document, FadeMode::kToNext, count, rgb_color{}, &names); });
+    measurement.SetFrames(own.document.FrameCount());
+    return done;
+}
+
+// Photographs become two thirds as wide and high.
+bool Resize(const Arguments& arguments, Measurement& measurement) {
+    const int32 count = std::stoi(arguments[0]);
+    OwnDocument own;
+    for (int32 step = 0; step < count; ++step)
+        own.document.InsertFrameAsCurrent(step, PaintedFrame(PaintPhoto, kWidth, kHeight, step));
+    const auto before = own.document.Current();
+    const ResizeEdit edit(*before, kWidth * 2 / 3, kHeight * 2 / 3, ScaleFilter::kLanczos);
+    const bool done = measurement.Run([&] {
+        own.document.Commit(*before);
+        return EditPictures(own.document, edit, FrameSet::AllOf(count)) == EditEnd::kDone;
+    });
     measurement.SetFrames(own.document.FrameCount());
     return done;
 }
@@ -55,6 +73,7 @@ constexpr Job kJobs[] = {
     {"fade", "COUNT", FadeToNext},
     {"insert", "FILE start|end", InsertAnimation},
     {"palette", "COLORS", MakePalette},
+    {"resize", "COUNT", Resize},
 };
 
 }  // namespace

@@ -245,6 +245,18 @@ def fading(files):
                    (0.6 * frames / 20, 0.35 * frames / 20))
 
 
+def resizing(files):
+    """What is scaled makes no difference to the peer, so it reads nothing."""
+    frames = 10 if files.quick else 100
+    ffmpeg = Entrant("ffmpeg", (
+        "ffmpeg", "-hide_banner", "-loglevel", "error", "-nostdin", "-f", "rawvideo",
+        "-pixel_format", "bgra", "-video_size", "1920x1080", "-i", "/dev/zero",
+        "-frames:v", str(frames), "-vf", "scale=1280:720:flags=lanczos", "-f", "null", "-"),
+        whole=True)
+    return Row(18, f"resize {frames} of 1920 x 1080 to 1280 x 720", files.job("resize", str(frames)),
+               ffmpeg, (1, 1))
+
+
 def large_pictures(files):
     goals = (0.4, 0.25)
     return [seconds(11, "insert a picture of 2,000,000 colors",
@@ -268,5 +280,6 @@ def start(files):
 
 def all_rows(files):
     return [*reading_rows(files), *writing_rows(files), *program_rows(files), fading(files),
+            resizing(files),
             reading(files, 9, "scene.flc", "libavcodec", (2, 3.5)), *memory_rows(files),
             *large_pictures(files), long_list(files), start(files), *faithful_rows(files)]

@@ -9,6 +9,7 @@
 #include "app/command_port.h"
 #include "app/document_edits.h"
 #include "app/frames_exchange.h"
+#include "app/picture_commands.h"
 #include "base/number.h"
 #include "base/text.h"
 #include "document/command_codes.h"
@@ -126,7 +127,7 @@ const char* NameOfEdit(uint32 code) {
     for (const EditTable& table : kEditTables) {
         if (const char* name = table.name(code)) return name;
     }
-    return nullptr;
+    return kirto::PictureEditName(code);
 }
 
 bool ApplyFromTables(AnimationDocument& document, const BMessage& message) {
@@ -226,11 +227,14 @@ void Kirto::CarryOut(BMessage* message) {
     BeginStep();
     if (command) {
         command->run(*this, message);
+    } else if (kirto::PictureEditName(message->what)) {
+        last_word_ = kirto::ApplyPictureEdit(*this, *message, roster_);
     } else if (!ApplyFromTables(*this, *message)) {
         IEApplication::MessageReceived(message);
     }
     EndStep(command ? command->step : NameOfEdit(message->what));
     if (command && command->refresh != 0) PostToWindow(command->refresh);
+    if (kirto::PictureEditName(message->what)) PostToWindow(kirto::kUpdateAll);
 }
 
 void Kirto::DispatchMessage(BMessage* message, BHandler* handler) {

@@ -104,6 +104,26 @@ inline constexpr uint32 kStartAtCurrent = FourCharCode("awsc");
 // the rule.
 inline constexpr uint32 kSetPauses = FourCharCode("awsp");
 
+// Main window to application: edits of the pictures of all frames, and of the canvas with them.
+// Nothing happens where a field is missing or out of its bounds. Int32 "filter", a ScaleFilter.
+inline constexpr uint32 kResizeAnimation = FourCharCode("aprs");  // int32 "width", "height"
+// Int32 "left", "top", "width", "height", or int32 "trim": 0 to where all is transparent, 1 to what
+// changes.
+inline constexpr uint32 kCropAnimation = FourCharCode("apcr");
+// Int32 "width", "height"; "anchor": 0 to 8, from the top left, row by row.
+inline constexpr uint32 kSetCanvasSize = FourCharCode("apcs");
+inline constexpr uint32 kRotateAnimation = FourCharCode("aprt");  // int32 "quarters": 1 to 3
+inline constexpr uint32 kFlipAnimation = FourCharCode("apfl");    // bool "across"
+// The same for edits of the pictures of the selected frames.
+inline constexpr uint32 kFitFrames = FourCharCode("apft");  // int32 "fit", a Fit; int32 "filter"
+// Int32 "brightness", "contrast", "saturation": -100 to 100; bool "greyscale". All may be missing.
+inline constexpr uint32 kAdjustColors = FourCharCode("apac");
+inline constexpr uint32 kSetOpacity = FourCharCode("apop");  // int32 "percent"
+// Ref "refs": an image file; int32 "x", "y", "percent".
+inline constexpr uint32 kOverlayImage = FourCharCode("apov");
+// Int32 "color" (red, green, blue from the top byte on), "tolerance": 0 to 255.
+inline constexpr uint32 kMakeTransparent = FourCharCode("apmt");
+
 // Main window to application: edits of the document that panels ask for, with the value checked.
 inline constexpr uint32 kSetWidth = FourCharCode("gvwd");        // int32 "value"
 inline constexpr uint32 kSetHeight = FourCharCode("gvht");       // int32 "value"

@@ -67,6 +67,14 @@ std::shared_ptr<const Strip> Strip::Slice(int32 first, int32 rows) const {
     return strip;
 }
 
+std::shared_ptr<const Strip> Strip::WithTable(SharedPixelTable table) const {
+    const std::shared_ptr<Strip> strip(new Strip(width_, rows_));
+    strip->owner_ = owner_;
+    strip->indices_ = indices_;
+    strip->table_ = std::move(table);
+    return strip;
+}
+
 PixelRow Strip::Row(int32 y) const {
     const size_t skipped = static_cast<size_t>(y) * static_cast<size_t>(width_);
     PixelRow row;

@@ -61,6 +61,8 @@ class Strip {
                                                const uint8* pixels, int32 width, int32 rows);
     // So many rows from that one on, all within the strip. They share its memory.
     std::shared_ptr<const Strip> Slice(int32 first, int32 rows) const;
+    // The same indices into another table. Only for a strip of indices, with which it shares them.
+    std::shared_ptr<const Strip> WithTable(SharedPixelTable table) const;
 
     int32 Rows() const { return rows_; }
     // y: 0 to Rows() - 1.

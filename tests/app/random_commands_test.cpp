@@ -128,6 +128,7 @@ class RandomCommands : public KirtoFixture, public ::testing::WithParamInterface
                                             kFrameSystem,   kFrameGreyscale, B_CANCEL};
         if (choices_.OneIn(120)) return BMessage(kRemoveFrame);
         if (choices_.OneIn(8)) return Arrangement();
+        if (choices_.OneIn(10)) return PictureCommand();
         if (choices_.OneIn(3000)) return BMessage(kResetDocument);
         if (choices_.OneIn(50)) return BMessage(choices_.Below(1u << 31));
         if (choices_.OneIn(3)) return PanelEdit();
@@ -155,6 +156,32 @@ class RandomCommands : public KirtoFixture, public ::testing::WithParamInterface
         message.AddInt32("number", choices_.Between(0, 4));
         message.AddBool("all", choices_.OneIn(4));
         message.AddBool("own", choices_.OneIn(2));
+        return message;
+    }
+
+    // Sides stay small, whatever else happens to them.
+    BMessage PictureCommand() {
+        static constexpr uint32 kCodes[] = {
+            kResizeAnimation, kCropAnimation, kSetCanvasSize, kRotateAnimation, kFlipAnimation,
+            kFitFrames,       kAdjustColors,  kSetOpacity,    kMakeTransparent, kOverlayImage};
+        const uint32 code = OneOf(choices_, kCodes);
+        BMessage message =
+            code == kOverlayImage ? Files(code, {OneOf(choices_, kImages)}) : BMessage(code);
+        for (const char* field : {"width", "height"})
+            message.AddInt32(field, choices_.Between(0, 12));
+        for (const char* field : {"left", "top", "x", "y"})
+            message.AddInt32(field, choices_.Between(-3, 9));
+        if (choices_.OneIn(4)) message.AddInt32("trim", choices_.Between(0, 1));
+        for (const char* field : {"filter", "fit"})
+            message.AddInt32(field, choices_.Between(0, 3));
+        message.AddInt32("anchor", choices_.Between(0, 9));
+        message.AddInt32("quarters", choices_.Between(0, 4));
+        message.AddBool("across", choices_.OneIn(2));
+        for (const char* field : {"brightness", "contrast", "saturation"})
+            message.AddInt32(field, choices_.Between(-101, 101));
+        message.AddInt32("percent", choices_.Between(0, 101));
+        message.AddInt32("tolerance", choices_.Between(0, 256));
+        message.AddInt32("color", static_cast<int32>(choices_.Below(1u << 31)));
         return message;
     }
 

@@ -7,6 +7,7 @@
 #include "app/kirto.h"
 #include "app/save_verification.h"
 #include "document/field_table.h"
+#include "kit/entry_ref.h"
 #include "kit/idle_barrier.h"
 #include "kit/translator_roster.h"
 #include "main/cli/cli_arguments.h"
@@ -84,6 +85,20 @@ class CliSession {
     Outcome SetFramesPerSecond(const std::string& value);
     Outcome SetSpeed(const std::string& value);
 
+    // Operations on pictures (cli_session_pictures.cpp).
+    Outcome Resize(const std::string& value);
+    Outcome Crop(const std::string& value);
+    Outcome SetCanvas(const std::string& value);
+    Outcome Rotate(const std::string& value);
+    Outcome Flip(const std::string& value);
+    Outcome FitFrames(const std::string& value);
+    Outcome AdjustColors(const std::string& value);
+    Outcome MakeGreyscale(const std::string& value);
+    Outcome SetOpacity(const std::string& value);
+    Outcome Overlay(const std::string& value);
+    Outcome MakeTransparent(const std::string& value);
+
+    static entry_ref AbsoluteRef(const std::string& path);
     // Posts the command and waits until the application is idle; fails when an alert told of a
     // failure.
     Outcome Post(const BMessage& message);
@@ -113,6 +128,10 @@ class CliSession {
     Outcome CheckInput(const Field& field, const std::string& text, double* number);
     // Fails without a current frame.
     Outcome CheckCurrentFrame();
+    // Fails without a pixel on the canvas.
+    Outcome CheckCanvas();
+    // Posts an edit of the selected frames' pictures, after both checks.
+    Outcome PostPictureEdit(const BMessage& message);
     // Posts the command with the place before which frames go: 0 to the number of frames.
     Outcome PostPlace(uint32 command, const char* option, const std::string& text);
     // Sets the pauses of the selected frames, or of all where only one is selected.

@@ -8,6 +8,7 @@
 #include "document/command_codes.h"
 #include "main/cli/cli_session.h"
 #include "main/cli/document_info.h"
+#include "main/cli/picture_values.h"
 
 namespace kirto {
 
@@ -23,10 +24,10 @@ uint32 FadeCommand(const std::string& mode) {
     return 0;
 }
 
-bool ParseColor(std::string_view text, uint32* color) {
-    const char* end = text.data() + text.size();
-    const auto result = std::from_chars(text.data(), end, *color, 16);
-    return text.size() == 6 && result.ec == std::errc() && result.ptr == end;
+bool TakeColor(std::string_view text, uint32* color) {
+    const std::optional<uint32> parsed = ParseColor(text);
+    *color = parsed.value_or(0);
+    return parsed.has_value();
 }
 
 }  // namespace
@@ -70,7 +71,7 @@ CliSession::Outcome CliSession::FadeFrames(const std::string& value) {
     uint32 color = 0;
     if (command == 0 || first == std::string::npos ||
         !ParseNumber(value.substr(first + 1, second - first - 1), &count) ||
-        (second < value.size() && !ParseColor(value.substr(second + 1), &color))) {
+        (second < value.size() && !TakeColor(value.substr(second + 1), &color))) {
         return Refuse("--fade: \"" + value + "\": expected MODE:COUNT[:RRGGBB].");
     }
     if (count < 1 || count > kMaxFadeFrames) {

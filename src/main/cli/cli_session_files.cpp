@@ -20,12 +20,6 @@ namespace kirto {
 
 namespace {
 
-entry_ref AbsoluteRef(const std::string& path) {
-    std::error_code error;
-    const std::filesystem::path absolute = std::filesystem::absolute(path, error);
-    return entry_ref(error ? path : absolute.string());
-}
-
 // "FILE@N" as a file and a position; the whole text and -1 where it does not end in a number.
 std::string SplitPosition(const std::string& value, int32* position) {
     const size_t at = value.rfind('@');
@@ -66,6 +60,12 @@ const translation_format* FileFormatOf(const std::vector<translation_format>& fo
 }
 
 }  // namespace
+
+entry_ref CliSession::AbsoluteRef(const std::string& path) {
+    std::error_code error;
+    const std::filesystem::path absolute = std::filesystem::absolute(path, error);
+    return entry_ref(error ? path : absolute.string());
+}
 
 CliSession::Outcome CliSession::CheckReadable(const std::string& path) {
     const BFile file(path, B_READ_ONLY);

@@ -16,7 +16,7 @@
 namespace {
 
 bool UsesImages(const kirto::CliArguments& arguments) {
-    static const std::set<std::string> kImageOptions = {"--insert", "--insert-tiled",
+    static const std::set<std::string> kImageOptions = {"--insert", "--insert-tiled", "--overlay",
                                                         "--save-sequence", "--list-formats"};
     return std::any_of(
         arguments.operations.begin(), arguments.operations.end(),
