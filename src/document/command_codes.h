@@ -177,6 +177,18 @@ inline constexpr uint32 kMenuSelectRange = FourCharCode("wsrg");
 inline constexpr uint32 kMenuSetPause = FourCharCode("wspa");
 inline constexpr uint32 kMenuDropEvery = FourCharCode("wdev");
 inline constexpr uint32 kMenuRemoveDuplicates = FourCharCode("wrdu");
+inline constexpr uint32 kMenuResize = FourCharCode("wprs");
+inline constexpr uint32 kMenuCrop = FourCharCode("wpcr");
+inline constexpr uint32 kMenuCanvasSize = FourCharCode("wpcs");
+inline constexpr uint32 kMenuRotateRight = FourCharCode("wprr");
+inline constexpr uint32 kMenuRotateLeft = FourCharCode("wprl");
+inline constexpr uint32 kMenuFlipAcross = FourCharCode("wpfa");
+inline constexpr uint32 kMenuFlipDown = FourCharCode("wpfd");
+inline constexpr uint32 kMenuFitFrames = FourCharCode("wpft");
+inline constexpr uint32 kMenuAdjustColors = FourCharCode("wpac");
+inline constexpr uint32 kMenuOpacity = FourCharCode("wpop");
+inline constexpr uint32 kMenuOverlay = FourCharCode("wpov");
+inline constexpr uint32 kMenuMakeTransparent = FourCharCode("wpmt");
 
 // Panels to main window. No fields; the window reads the control that sent the command.
 inline constexpr uint32 kThumbnailMode = FourCharCode("lvtm");

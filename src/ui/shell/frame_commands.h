@@ -1,4 +1,4 @@
-// The items of the menus "Edit" and "Animation" that select, merge or time several frames.
+// The items of the menus "Edit" and "Animation" that select, merge, time or change several frames.
 #pragma once
 
 #include "ui/controls/shown_document.h"

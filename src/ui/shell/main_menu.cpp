@@ -75,6 +75,20 @@ constexpr Item kAnimationItems[] = {
     {"&Shift Start to Current Frame", 0, kStartAtCurrent, true},
     {"Remove D&uplicates...", 0, kMenuRemoveDuplicates, true},
     {"&Drop Every Nth...", 0, kMenuDropEvery, true},
+    {},
+    {"&Resize Animation...", 0, kMenuResize, true},
+    {"&Crop...", 0, kMenuCrop, true},
+    {"Can&vas Size...", 0, kMenuCanvasSize, true},
+    {"Rotate Ri&ght", 0, kMenuRotateRight, true},
+    {"Rotate &Left", 0, kMenuRotateLeft, true},
+    {"Flip &Horizontally", 0, kMenuFlipAcross, true},
+    {"Flip Verticall&y", 0, kMenuFlipDown, true},
+    {},
+    {"Fit Fra&mes to Animation...", 0, kMenuFitFrames, true},
+    {"&Adjust Colors...", 0, kMenuAdjustColors, true},
+    {"&Opacity...", 0, kMenuOpacity, true},
+    {"Overlay Imag&e...", 0, kMenuOverlay, true},
+    {"Make &Transparent...", 0, kMenuMakeTransparent, true},
 };
 
 // Otherwise a desktop may take "Quit" and its like for items of its own.

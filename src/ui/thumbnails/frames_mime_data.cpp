@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "document/command_codes.h"
+#include "ui/controls/image_of.h"
 #include "ui/thumbnails/file_urls.h"
-#include "ui/thumbnails/image_of.h"
 
 namespace kirto {
 

@@ -35,8 +35,18 @@ void ThumbDrawingView::MakeMenu() {
         {"Move Up", kirto::kMoveFrameUp},
         {"Move Down", kirto::kMoveFrameDown},
         {"Fade Effects...", kirto::kMenuFadeEffects},
+        {nullptr, 0},
+        {"Cut", kirto::kMenuCut},
+        {"Copy", kirto::kMenuCopy},
+        {"Paste", kirto::kMenuPaste},
+        {"Duplicate", kirto::kDuplicateFrames},
+        {"Set Pause...", kirto::kMenuSetPause},
     };
     for (const auto& [label, command] : items) {
+        if (!label) {
+            menu_.addSeparator();
+            continue;
+        }
         menu_.addAction(label, this, [this, code = command] { window_.SendMessage(code); });
     }
 }
