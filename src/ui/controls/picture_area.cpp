@@ -15,9 +15,11 @@ namespace {
 constexpr int kMargin = 4;  // around the canvas, so that its edges can be drawn from, pixels
 constexpr int kSide = 400;  // that is asked for, pixels
 
+// On whole pixels, so that pictures that end at one place do so in the widget, too.
 BRect RectOf(const QRectF& rectangle) {
-    return {static_cast<float>(rectangle.left()), static_cast<float>(rectangle.top()),
-            static_cast<float>(rectangle.right()) - 1, static_cast<float>(rectangle.bottom()) - 1};
+    const auto edge = [](double position) { return static_cast<float>(qRound(position)); };
+    return {edge(rectangle.left()), edge(rectangle.top()), edge(rectangle.right()) - 1,
+            edge(rectangle.bottom()) - 1};
 }
 
 }  // namespace
