@@ -43,8 +43,7 @@ std::shared_ptr<const Strip> Strip::Indexed(std::shared_ptr<const PixelStorage> 
     strip->indices_ = storage->Bytes();
     strip->owner_ = std::move(storage);
     strip->table_ = std::move(table);
-    if (counts)
-        std::call_once(strip->counted_, [&] { strip->counts_ = strip->PixelCounts(*counts); });
+    if (counts) std::call_once(strip->counting_, [&] { strip->SetCounts(*counts); });
     return strip;
 }
 
@@ -77,28 +76,32 @@ PixelRow Strip::Row(int32 y) const {
     return row;
 }
 
-std::span<const PixelCount> Strip::Counts() const {
-    std::call_once(counted_, [this] { CountPixels(); });
-    return counts_;
-}
-
-void Strip::CountPixels() const {
-    const size_t size = static_cast<size_t>(width_) * static_cast<size_t>(rows_);
-    if (!indices_) {
-        counts_ = {{solid_, static_cast<uint32>(size)}};
-        return;
-    }
-    IndexCounts counts;
-    counts.Add({indices_, size});
-    counts_ = PixelCounts(counts);
-}
-
-std::vector<PixelCount> Strip::PixelCounts(const IndexCounts& counts) const {
+std::vector<PixelCount> Strip::Counts() const {
+    if (!indices_) return {{solid_, static_cast<uint32>(Size())}};
+    std::call_once(counting_, [this] { CountIndices(); });
     std::vector<PixelCount> result;
-    result.reserve(counts.InOrder().size());
-    for (const uint8 index : counts.InOrder())
-        result.push_back({table_->pixels[index], counts.Of(index)});
+    result.reserve(counts_.size());
+    for (const IndexCount& each : counts_)
+        result.push_back({table_->pixels[each.index], each.count});
     return result;
+}
+
+void Strip::CountIndices() const {
+    IndexCounts counts;
+    counts.Add({indices_, Size()});
+    SetCounts(counts);
+}
+
+void Strip::SetCounts(const IndexCounts& counts) const {
+    counts_ = counts.Listed();
+    counted_ = true;
+}
+
+std::optional<IndexCounts> Strip::CountsOfChanged(std::span<const uint8> indices) const {
+    if (!counted_ || !AreMostlySame({indices_, Size()}, indices)) return std::nullopt;
+    std::optional<IndexCounts> counts(std::in_place, counts_);
+    counts->Change({indices_, Size()}, indices);
+    return counts;
 }
 
 }  // namespace kirto

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <array>
+#include <atomic>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -72,12 +74,17 @@ class Strip {
     const SharedPixelTable& Table() const { return table_; }
     // Every pixel that occurs, in the order of first appearance. Counted when first asked for. Not
     // for strips of 4-byte pixels, which may have any number of them.
-    std::span<const PixelCount> Counts() const;
+    std::vector<PixelCount> Counts() const;
+    // The counts of as many other indices into the same table, for a strip of them, where they are
+    // quickly told from this one's: those have been counted, and are mostly the same. Nothing
+    // otherwise.
+    std::optional<IndexCounts> CountsOfChanged(std::span<const uint8> indices) const;
 
   private:
     Strip(int32 width, int32 rows) : width_(width), rows_(rows) {}
-    void CountPixels() const;
-    std::vector<PixelCount> PixelCounts(const IndexCounts& counts) const;
+    size_t Size() const { return static_cast<size_t>(width_) * static_cast<size_t>(rows_); }
+    void SetCounts(const IndexCounts& counts) const;
+    void CountIndices() const;
 
     const int32 width_;
     const int32 rows_;
@@ -86,8 +93,9 @@ class Strip {
     const uint8* indices_ = nullptr;
     SharedPixelTable table_;
     uint32 solid_ = 0;
-    mutable std::once_flag counted_;
-    mutable std::vector<PixelCount> counts_;
+    mutable std::once_flag counting_;
+    mutable std::vector<IndexCount> counts_;  // of the indices
+    mutable std::atomic<bool> counted_ = false;
 };
 
 }  // namespace kirto

@@ -154,7 +154,7 @@ bool FliCanvas::AddRows(size_t number, int32 first_row, int32 end, PictureBuilde
     const size_t size = static_cast<size_t>(rows) * static_cast<size_t>(width_);
     stored_[number] = nullptr;
     if (std::memcmp(indices, indices + 1, size - 1) != 0) {
-        const std::shared_ptr<PixelStorage> storage = PixelStorage::Make(size, budget_);
+        const std::shared_ptr<PixelStorage> storage = PixelStorage::MakeUnfilled(size, budget_);
         if (!storage) return false;
         std::memcpy(storage->Bytes(), indices, size);
         stored_[number] = storage;
@@ -162,9 +162,20 @@ bool FliCanvas::AddRows(size_t number, int32 first_row, int32 end, PictureBuilde
     return builder.AddStrip(StripOf(number, first_row, rows));
 }
 
+// The counts of the rows' indices where those that were there in the last picture tell them.
+std::optional<IndexCounts> FliCanvas::CountsOf(size_t number, int32 first_row, int32 rows) const {
+    if (!last_ || last_->AllStrips()[number]->Table() != table_) return std::nullopt;
+    const size_t size = static_cast<size_t>(rows) * static_cast<size_t>(width_);
+    return last_->AllStrips()[number]->CountsOfChanged(
+        {indices_->Bytes() + int64{first_row} * width_, size});
+}
+
 // What is stored of the rows, in today's colors.
 std::shared_ptr<const Strip> FliCanvas::StripOf(size_t number, int32 first_row, int32 rows) const {
-    if (stored_[number]) return Strip::Indexed(stored_[number], table_, width_, rows);
+    if (stored_[number]) {
+        const std::optional<IndexCounts> counts = CountsOf(number, first_row, rows);
+        return Strip::Indexed(stored_[number], table_, width_, rows, counts ? &*counts : nullptr);
+    }
     const uint8 index = indices_->Bytes()[int64{first_row} * width_];
     return Strip::Solid(table_->pixels[index], width_, rows);
 }
