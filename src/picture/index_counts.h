@@ -47,8 +47,8 @@ class IndexCounts {
     size_t order_size_ = 0;
 };
 
-// Whether as many indices are the same in so many places, by a few samples, that Change() takes less
-// than Add().
+// Whether as many indices are the same in so many places, by a few samples, that Change() takes
+// less than Add().
 bool AreMostlySame(std::span<const uint8> first, std::span<const uint8> second);
 
 }  // namespace kirto
