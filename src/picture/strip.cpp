@@ -38,12 +38,17 @@ std::shared_ptr<const Strip> Strip::Solid(uint32 pixel, int32 width, int32 rows)
 
 std::shared_ptr<const Strip> Strip::Indexed(std::shared_ptr<const PixelStorage> storage,
                                             SharedPixelTable table, int32 width, int32 rows,
-                                            const IndexCounts* counts) {
+                                            const IndexCounts* counts,
+                                            const std::shared_ptr<const Strip>& similar) {
     const std::shared_ptr<Strip> strip(new Strip(width, rows));
     strip->indices_ = storage->Bytes();
     strip->owner_ = std::move(storage);
     strip->table_ = std::move(table);
-    if (counts) std::call_once(strip->counting_, [&] { strip->SetCounts(*counts); });
+    if (counts) {
+        std::call_once(strip->counting_, [&] { strip->SetCounts(*counts); });
+    } else {
+        strip->similar_ = similar;
+    }
     return strip;
 }
 
@@ -87,21 +92,27 @@ std::vector<PixelCount> Strip::Counts() const {
 }
 
 void Strip::CountIndices() const {
+    if (CountChanges()) return;
     IndexCounts counts;
     counts.Add({indices_, Size()});
     SetCounts(counts);
 }
 
+// Counts what differs from the similar strip, if that takes less. False if it does not.
+bool Strip::CountChanges() const {
+    const std::shared_ptr<const Strip> similar = similar_.lock();
+    if (!similar || !similar->counted_) return false;
+    const std::span<const uint8> before{similar->indices_, Size()};
+    if (!AreMostlySame(before, {indices_, Size()})) return false;
+    IndexCounts counts(similar->counts_);
+    counts.Change(before, {indices_, Size()});
+    SetCounts(counts);
+    return true;
+}
+
 void Strip::SetCounts(const IndexCounts& counts) const {
     counts_ = counts.Listed();
     counted_ = true;
-}
-
-std::optional<IndexCounts> Strip::CountsOfChanged(std::span<const uint8> indices) const {
-    if (!counted_ || !AreMostlySame({indices_, Size()}, indices)) return std::nullopt;
-    std::optional<IndexCounts> counts(std::in_place, counts_);
-    counts->Change({indices_, Size()}, indices);
-    return counts;
 }
 
 }  // namespace kirto

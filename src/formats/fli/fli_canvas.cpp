@@ -162,19 +162,13 @@ bool FliCanvas::AddRows(size_t number, int32 first_row, int32 end, PictureBuilde
     return builder.AddStrip(StripOf(number, first_row, rows));
 }
 
-// The counts of the rows' indices where those that were there in the last picture tell them.
-std::optional<IndexCounts> FliCanvas::CountsOf(size_t number, int32 first_row, int32 rows) const {
-    if (!last_ || last_->AllStrips()[number]->Table() != table_) return std::nullopt;
-    const size_t size = static_cast<size_t>(rows) * static_cast<size_t>(width_);
-    return last_->AllStrips()[number]->CountsOfChanged(
-        {indices_->Bytes() + int64{first_row} * width_, size});
-}
-
 // What is stored of the rows, in today's colors.
 std::shared_ptr<const Strip> FliCanvas::StripOf(size_t number, int32 first_row, int32 rows) const {
     if (stored_[number]) {
-        const std::optional<IndexCounts> counts = CountsOf(number, first_row, rows);
-        return Strip::Indexed(stored_[number], table_, width_, rows, counts ? &*counts : nullptr);
+        const std::shared_ptr<const Strip> before = last_ ? last_->AllStrips()[number] : nullptr;
+        const bool similar = before && before->Table() == table_;
+        return Strip::Indexed(stored_[number], table_, width_, rows, nullptr,
+                              similar ? before : nullptr);
     }
     const uint8 index = indices_->Bytes()[int64{first_row} * width_];
     return Strip::Solid(table_->pixels[index], width_, rows);

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <memory>
-#include <optional>
 #include <span>
 #include <vector>
 
@@ -55,7 +54,6 @@ class FliCanvas {
     bool IsChanged(int32 first_row, int32 end) const;
     bool AddBand(size_t number, int32 first_row, int32 end, PictureBuilder& builder);
     bool AddRows(size_t number, int32 first_row, int32 end, PictureBuilder& builder);
-    std::optional<IndexCounts> CountsOf(size_t number, int32 first_row, int32 rows) const;
     std::shared_ptr<const Strip> StripOf(size_t number, int32 first_row, int32 rows) const;
 
     const int32 width_;
