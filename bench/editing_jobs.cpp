@@ -47,14 +47,14 @@ bool Resize(const Arguments& arguments, Measurement& measurement) {
 // An animation is inserted at the start or the end of a document of ten times as many frames.
 bool InsertAnimation(const Arguments& arguments, Measurement& measurement) {
     const std::string& path = arguments[0];
-    const std::vector<uint8> bytes = ReadFile(path);
+    const std::unique_ptr<BFile> file = FileInMemory(path);
     OwnDocument own;
     for (int32 i = 0; i < 10; ++i) {
-        if (!LoadAnimation(path, bytes, own.document.FrameCount(), own.document)) return false;
+        if (!LoadAnimation(path, *file, own.document.FrameCount(), own.document)) return false;
     }
     const int32 position = arguments[1] == "start" ? 0 : own.document.FrameCount();
     const bool done =
-        measurement.Run([&] { return LoadAnimation(path, bytes, position, own.document); });
+        measurement.Run([&] { return LoadAnimation(path, *file, position, own.document); });
     measurement.SetFrames(own.document.FrameCount());
     return done;
 }

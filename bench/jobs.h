@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "document/animation_document.h"
+#include "kit/file.h"
 #include "measurement.h"
 #include "settings/prefs.h"
 
@@ -37,8 +38,11 @@ std::vector<uint8> ReadFile(const std::string& path);
 // False when it can't be written.
 bool WriteFile(const std::string& path, const std::vector<uint8>& bytes);
 
-// Reads a whole animation into the document, from the position on: FLC by the name, else GIF.
-bool LoadAnimation(const std::string& path, const std::vector<uint8>& bytes, int32 position,
+// The same as a file that is read in memory.
+std::unique_ptr<BFile> FileInMemory(const std::string& path);
+// Reads a whole animation into the document, from the position on: FLC by its path, else GIF. The
+// file may have been read before.
+bool LoadAnimation(const std::string& path, BFile& file, int32 position,
                    AnimationDocument& document);
 
 }  // namespace kirto::bench

@@ -36,11 +36,11 @@ uint64 DigestOf(const Canvases& canvases) {
 
 bool Open(const Arguments& arguments, Measurement& measurement) {
     const std::string& path = arguments[0];
-    const std::vector<uint8> bytes = ReadFile(path);
+    const std::unique_ptr<BFile> file = FileInMemory(path);
     std::unique_ptr<OwnDocument> own;
     const bool done = measurement.Run([&] {
         own = std::make_unique<OwnDocument>();
-        return LoadAnimation(path, bytes, 0, own->document);
+        return LoadAnimation(path, *file, 0, own->document);
     });
     if (!done) return false;
     measurement.SetFrames(own->document.FrameCount());
@@ -136,11 +136,15 @@ std::span<const Job> ReadingJobs() {
     return kJobs;
 }
 
-bool LoadAnimation(const std::string& path, const std::vector<uint8>& bytes, int32 position,
+std::unique_ptr<BFile> FileInMemory(const std::string& path) {
+    return BFile::OnMemory(ReadFile(path));
+}
+
+bool LoadAnimation(const std::string& path, BFile& file, int32 position,
                    AnimationDocument& document) {
-    const std::unique_ptr<BFile> file = BFile::OnMemory(bytes);
-    if (path.ends_with(".flc")) return !FliLoad(file.get(), position, document).failed;
-    return !GifLoad(file.get(), position, document).failed;
+    file.Seek(0, SEEK_FROM_START);
+    if (path.ends_with(".flc")) return !FliLoad(&file, position, document).failed;
+    return !GifLoad(&file, position, document).failed;
 }
 
 }  // namespace kirto::bench

@@ -26,6 +26,12 @@ class Row:
     # Raises Failed where the competitors' results differ; what it returns, if anything, is told.
     check: Optional[Callable] = None
     pixels: int = 0  # of a frame, for memory
+    # Of the files that the competitors have just written; it lets nobody run again.
+    sizes: Optional["Row"] = None
+
+    def has(self, pattern):
+        """Whether its name, or that of its sizes, has a pattern."""
+        return any(row and pattern.search(row.name) for row in (self, self.sizes))
 
     @property
     def cores(self):
@@ -88,7 +94,7 @@ def decoder_alone(files, group, animation):
                files.job("giflib-rows", path), (None, None))
 
 
-def writing(files, group, name, animation, ours, peer, goals):
+def writing(files, group, name, animation, ours, peer, goals, sizes=None):
     """Files are written; both have the pictures of the one that is read."""
     source = files.path(animation)
 
@@ -99,7 +105,7 @@ def writing(files, group, name, animation, ours, peer, goals):
             agree(f"{name}, {entrant.name}", wanted,
                   files.digest(track, "giflib", entrant.command[-1]))
 
-    return Row(group, name, ours, peer, goals, check=check)
+    return Row(group, name, ours, peer, goals, check=check, sizes=sizes)
 
 
 def encoding(files, animation, job, name, goals):
@@ -132,9 +138,8 @@ def as_small_as_found(files, animation):
     ours = files.cli("--open", source, "--faithful", "--save", files.path("ours.gif"))
     peer = Entrant("gifsicle -O3", ("gifsicle", "-O3", source, "-o", files.path("peer.gif")),
                    whole=True)
-    timed = writing(files, 16, f"save {animation} small", animation, ours, peer, (None, 2))
-    sized = Row(17, f"size of {animation}", ours, peer, (1.01, None), kind="size", rounds=1)
-    return [timed, sized]
+    sizes = Row(17, f"size of {animation}", ours, peer, (1.01, None), kind="size")
+    return writing(files, 16, f"save {animation} small", animation, ours, peer, (None, 2), sizes)
 
 
 def dithering(files):
@@ -236,7 +241,7 @@ def faithful_rows(files):
     untouched_ones = [untouched(files, animation) for animation in ("photo.gif", "sprites.gif")]
     small_ones = [as_small_as_found(files, animation)
                   for animation in ("flat-part.gif", "screen.gif", "changes.gif", "sprites.gif")]
-    return [*untouched_ones, *(row for rows in small_ones for row in rows)]
+    return [*untouched_ones, *small_ones]
 
 
 def fading(files):

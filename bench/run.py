@@ -54,7 +54,8 @@ def make_files(files):
 
 
 def measure(row, track, files):
-    """Compares what comes of a row, then times it on one core and on two."""
+    """Compares what comes of a row, then times it on one core and on two. A line, and another one
+    where sizes count, too."""
     entrants = [entrant for entrant in (row.ours, row.peer) if entrant]
     rounds = row.rounds or files.rounds
     results = {}
@@ -63,20 +64,23 @@ def measure(row, track, files):
         for cores in row.cores:
             timed = track.contest(entrants, cores, rounds)
             results[cores] = (timed[0], timed[1] if row.peer else None)
-        if row.kind == "size":
-            sizes = tuple(Path(entrant.command[-1]).stat().st_size for entrant in entrants)
-            results = {1: sizes}
     except Failed as failure:
-        return report.Line(row, error=str(failure))
-    return report.Line(row, results, note=note)
+        return [report.Line(each, error=str(failure)) for each in (row, row.sizes) if each]
+    lines = [report.Line(row, results, note=note)]
+    if row.sizes:
+        sizes = tuple(Path(entrant.command[-1]).stat().st_size for entrant in entrants)
+        lines.append(report.Line(row.sizes, {1: sizes}))
+    return lines
 
 
 def measure_rows(rows, track, files):
     lines = []
     for row in rows:
         start = time.monotonic()
-        lines.append(measure(row, track, files))
-        print(lines[-1].markdown().rstrip(), f"{time.monotonic() - start:.0f} s", flush=True)
+        measured = measure(row, track, files)
+        text = "".join(line.markdown() for line in measured).rstrip()
+        print(text, f"{time.monotonic() - start:.0f} s", flush=True)
+        lines += measured
     return lines
 
 
@@ -110,7 +114,9 @@ def main():
     described.append(f"Rounds: {files.rounds}" + (", smaller files" if files.quick else ""))
     make_files(files)
     track = Track(files.work)
-    rows = [row for row in all_rows(files) if not chosen.only or re.search(chosen.only, row.name)]
+    rows = all_rows(files)
+    if chosen.only:
+        rows = [row for row in rows if row.has(re.compile(chosen.only))]
     say(f"{len(rows)} rows")
     lines = measure_rows(rows, track, files)
     whole = not chosen.only

@@ -11,23 +11,23 @@ namespace kirto::bench {
 
 namespace {
 
-std::vector<uint8> SaveToMemory(AnimationDocument& document) {
-    const std::shared_ptr<BFile> file = BFile::OnMemory();
+std::shared_ptr<const BFile> SaveToMemory(AnimationDocument& document) {
+    std::shared_ptr<BFile> file = BFile::OnMemory();
     GifSave(file, document);
-    return file->Memory();
+    return file;
 }
 
 // An opened animation is saved: GifSave with what comes before and after it in a program.
 bool Save(const Arguments& arguments, Measurement& measurement) {
     OwnDocument own;
-    if (!LoadAnimation(arguments[0], ReadFile(arguments[0]), 0, own.document)) return false;
-    std::vector<uint8> gif;
+    if (!LoadAnimation(arguments[0], *FileInMemory(arguments[0]), 0, own.document)) return false;
+    std::shared_ptr<const BFile> gif;
     const bool done = measurement.Run([&] {
         gif = SaveToMemory(own.document);
-        return !gif.empty();
+        return gif->Size() > 0;
     });
     measurement.SetFrames(own.document.FrameCount());
-    return done && WriteFile(arguments[1], gif);
+    return done && WriteFile(arguments[1], gif->Memory());
 }
 
 void AddHeader(const IndexedAnimation& animation, ByteWriter& output) {
@@ -92,7 +92,7 @@ bool Reduce(const Arguments& arguments, Measurement& measurement) {
     const int32 width = std::stoi(arguments[1]);
     const int32 height = std::stoi(arguments[2]);
     const size_t size = static_cast<size_t>(width) * static_cast<size_t>(height) * 4;
-    std::vector<uint8> gif;
+    std::shared_ptr<const BFile> gif;
     const bool done = measurement.Run([&] {
         const std::vector<uint8> clip = ReadFile(arguments[0]);
         OwnDocument own;
@@ -107,7 +107,7 @@ bool Reduce(const Arguments& arguments, Measurement& measurement) {
         gif = SaveToMemory(own.document);
         return true;
     });
-    return done && WriteFile(arguments[3], gif);
+    return done && WriteFile(arguments[3], gif->Memory());
 }
 
 // One square photograph is saved.
@@ -115,7 +115,7 @@ bool SavePicture(const Arguments& arguments, Measurement& measurement) {
     const int32 side = std::stoi(arguments[0]);
     OwnDocument own;
     own.document.InsertFrameAsCurrent(0, PaintedFrame(PaintPhoto, side, side, 0));
-    return measurement.Run([&] { return !SaveToMemory(own.document).empty(); });
+    return measurement.Run([&] { return SaveToMemory(own.document)->Size() > 0; });
 }
 
 constexpr Job kJobs[] = {

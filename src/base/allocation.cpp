@@ -17,6 +17,10 @@ namespace {
 
 thread_local std::shared_ptr<AllocationCounter> t_fault;  // null: no fault installed
 
+bool Overflows(size_t count, size_t size) {
+    return size > 0 && count > std::numeric_limits<size_t>::max() / size;
+}
+
 }  // namespace
 
 bool AllocationShouldFail() {
@@ -34,8 +38,13 @@ void BorrowAllocationFault(std::shared_ptr<AllocationCounter> lent) {
 void* AllocateZeroed(size_t count, size_t size) {
     if (AllocationShouldFail()) return nullptr;
     // calloc checks this too, but instrumented ones end the program over it.
-    if (size > 0 && count > std::numeric_limits<size_t>::max() / size) return nullptr;
+    if (Overflows(count, size)) return nullptr;
     return std::calloc(count, size);
+}
+
+void* AllocateUnfilled(size_t count, size_t size) {
+    if (AllocationShouldFail() || Overflows(count, size)) return nullptr;
+    return std::malloc(count * size);
 }
 
 AllocationFault::AllocationFault(int64 failing_call) {

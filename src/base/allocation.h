@@ -21,6 +21,9 @@ using AllocatedArray = std::unique_ptr<T[], FreeDeleter>;
 // installed fault says so. Thread-safe.
 void* AllocateZeroed(size_t count, size_t size);
 
+// The same but for the zeros, for what is written before it is read.
+void* AllocateUnfilled(size_t count, size_t size);
+
 // As AllocateZeroed, typed; all-zero bytes must be a valid T.
 template <typename T>
 AllocatedArray<T> AllocateArray(size_t count) {
@@ -28,8 +31,15 @@ AllocatedArray<T> AllocateArray(size_t count) {
     return AllocatedArray<T>(static_cast<T*>(AllocateZeroed(count, sizeof(T))));
 }
 
-// True when an installed fault makes this allocation fail. Called by AllocateZeroed, and directly
-// by code that allocates single objects and must report failure.
+// As AllocateUnfilled, typed.
+template <typename T>
+AllocatedArray<T> AllocateUnfilledArray(size_t count) {
+    static_assert(std::is_trivially_copyable_v<T> && std::is_trivially_destructible_v<T>);
+    return AllocatedArray<T>(static_cast<T*>(AllocateUnfilled(count, sizeof(T))));
+}
+
+// True when an installed fault makes this allocation fail. Called by the functions above, and
+// directly by code that allocates single objects and must report failure.
 bool AllocationShouldFail();
 
 struct AllocationCounter;

@@ -30,12 +30,18 @@ struct FadePlan {
     FramePointer other;  // the neighbor; null for fades of a color
 };
 
+// The current frame's part of a picture of the fade.
+FadeShare ShareOfCurrent(FadeMode mode, float f) {
+    return FadeShare(mode == FadeMode::kToColor ? 1 - static_cast<double>(f)
+                                                : static_cast<double>(f));
+}
+
 // Blends the rows of a plan's pictures.
 class RowBlender {
   public:
     RowBlender(const FadePlan& plan, float f)
         : plan_(plan),
-          f_(f),
+          share_(ShareOfCurrent(plan.mode, f)),
           current_(*plan.current->bitmap),
           row_(Bytes(current_)),
           other_row_(plan.other ? Bytes(*plan.other->bitmap) : 0),
@@ -43,12 +49,12 @@ class RowBlender {
 
     // Row y in the order blue, green, red, alpha; there until the next one is asked for.
     const uint8* Row(int32 y) {
-        current_.ReadRow(y, row_.data());
+        const uint8* row = PixelsOf(current_, y, row_);
         if (plan_.other) {
-            BlendWithOther(y);
+            BlendWithOther(row, y);
         } else {
-            FadeToRGB(row_.data(), current_.ColorSpace(), target_.data(), current_.Width(), 1, f_,
-                      plan_.mode == FadeMode::kToColor, plan_.color);
+            FadeToRGB(row, current_.ColorSpace(), target_.data(), current_.Width(), 1, share_,
+                      plan_.color);
         }
         return target_.data();
     }
@@ -56,23 +62,31 @@ class RowBlender {
   private:
     static size_t Bytes(const Picture& picture) { return static_cast<size_t>(picture.Width()) * 4; }
 
+    // The row's pixels, where they are or in the room.
+    static const uint8* PixelsOf(const Picture& picture, int32 y, std::vector<uint8>& room) {
+        const PixelRow row = picture.Row(y);
+        if (row.pixels) return row.pixels;
+        row.Expand(picture.Width(), room.data());
+        return room.data();
+    }
+
     // As far as both pictures reach; beyond the other one the current pixels stay.
-    void BlendWithOther(int32 y) {
+    void BlendWithOther(const uint8* row, int32 y) {
         const Picture& other = *plan_.other->bitmap;
         const color_space space = current_.ColorSpace();
         const int32 common = y < other.Height() ? std::min(current_.Width(), other.Width()) : 0;
         const size_t rest = static_cast<size_t>(common) * 4;
         if (common > 0) {
-            other.ReadRow(y, other_row_.data());
-            FadeToFrame(row_.data(), space, other_row_.data(), other.ColorSpace(), target_.data(),
-                        common, 1, f_);
+            FadeToFrame(row, space, PixelsOf(other, y, other_row_), other.ColorSpace(),
+                        target_.data(), common, 1, share_);
         }
-        FadeToFrame(row_.data() + rest, space, row_.data() + rest, space, target_.data() + rest,
-                    current_.Width() - common, 1, 1.0f);
+        FadeToFrame(row + rest, space, row + rest, space, target_.data() + rest,
+                    current_.Width() - common, 1, all_);
     }
 
     const FadePlan& plan_;
-    const float f_;
+    const FadeShare share_;
+    const FadeShare all_{1};
     const Picture& current_;
     std::vector<uint8> row_;
     std::vector<uint8> other_row_;

@@ -5,15 +5,17 @@
 #pragma once
 
 #include "base/types.h"
+#include "effects/fade_share.h"
 
 namespace kirto {
 
-// to_color: (1 - f) source + f color; else f source + (1 - f) color. 0 <= f <= 1.
+// share source + (1 - share) color.
 void FadeToRGB(const uint8* source, color_space source_space, uint8* target, int32 width,
-               int32 height, float f, bool to_color, rgb_color color);
+               int32 height, const FadeShare& share, rgb_color color);
 
-// f first + (1 - f) second.
+// share first + (1 - share) second.
 void FadeToFrame(const uint8* first, color_space first_space, const uint8* second,
-                 color_space second_space, uint8* target, int32 width, int32 height, float f);
+                 color_space second_space, uint8* target, int32 width, int32 height,
+                 const FadeShare& share);
 
 }  // namespace kirto

@@ -262,14 +262,14 @@ std::shared_ptr<const Strip> IndexPainter::MakeStrip(const Picture& base, const 
         return Strip::Solid(table->pixels[indices[0]], base.Width(), rows);
     const size_t place = base.StripAt(band.first);
     const std::shared_ptr<const Strip>& below = base.AllStrips()[place];
-    if (base.FirstRows()[place] == band.first && below->Rows() == rows && below->Table() == table &&
-        std::memcmp(below->Indices(), indices.data(), indices.size()) == 0) {
-        return below;
-    }
-    const std::shared_ptr<PixelStorage> storage = PixelStorage::Make(indices.size(), budget_);
+    const bool similar =
+        base.FirstRows()[place] == band.first && below->Rows() == rows && below->Table() == table;
+    if (similar && std::memcmp(below->Indices(), indices.data(), indices.size()) == 0) return below;
+    const std::shared_ptr<PixelStorage> storage =
+        PixelStorage::MakeUnfilled(indices.size(), budget_);
     if (!storage) return nullptr;
     std::memcpy(storage->Bytes(), indices.data(), indices.size());
-    return Strip::Indexed(storage, table, base.Width(), rows, counts);
+    return Strip::Indexed(storage, table, base.Width(), rows, counts, similar ? below : nullptr);
 }
 
 // The band where there is no such table: pixel by pixel.

@@ -31,7 +31,7 @@ bool PictureBuilder::AddRow(const uint8* pixels) {
 bool PictureBuilder::StartDirect() {
     only_indices_ = false;
     const size_t room = static_cast<size_t>(width_) * static_cast<size_t>(StripRows()) * 4;
-    pixels_ = PixelStorage::Make(room, budget_);
+    pixels_ = PixelStorage::MakeUnfilled(room, budget_);
     failed_ = !pixels_;
     if (failed_) return false;
     const SharedPixelTable table(std::shared_ptr<void>(), &packer_.Table());
@@ -71,7 +71,7 @@ std::shared_ptr<const Strip> PictureBuilder::MakeStrip() const {
 
 std::shared_ptr<const Strip> PictureBuilder::MakeIndexed() const {
     const size_t size = static_cast<size_t>(width_) * static_cast<size_t>(rows_);
-    const std::shared_ptr<PixelStorage> storage = PixelStorage::Make(size, budget_);
+    const std::shared_ptr<PixelStorage> storage = PixelStorage::MakeUnfilled(size, budget_);
     if (!storage) return nullptr;
     std::memcpy(storage->Bytes(), indices_.data(), size);
     // Strips one below the other often have the same colors.

@@ -6,8 +6,18 @@ namespace kirto {
 
 std::shared_ptr<PixelStorage> PixelStorage::Make(size_t bytes,
                                                  std::shared_ptr<PixelBudget> budget) {
+    return Make(bytes, AllocateArray<uint8>, std::move(budget));
+}
+
+std::shared_ptr<PixelStorage> PixelStorage::MakeUnfilled(size_t bytes,
+                                                         std::shared_ptr<PixelBudget> budget) {
+    return Make(bytes, AllocateUnfilledArray<uint8>, std::move(budget));
+}
+
+std::shared_ptr<PixelStorage> PixelStorage::Make(size_t bytes, Allocate allocate,
+                                                 std::shared_ptr<PixelBudget> budget) {
     if (budget && !budget->Reserve(bytes)) return nullptr;
-    AllocatedArray<uint8> allocated = AllocateArray<uint8>(bytes);
+    AllocatedArray<uint8> allocated = allocate(bytes);
     if (!allocated) {
         if (budget) budget->Release(bytes);
         return nullptr;

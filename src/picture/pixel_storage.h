@@ -12,8 +12,11 @@ namespace kirto {
 // them, constant once they are shared.
 class PixelStorage {
   public:
-    // Null when the budget, if any, refuses so many bytes or memory is short.
+    // Zeros. Null when the budget, if any, refuses so many bytes or memory is short.
     static std::shared_ptr<PixelStorage> Make(size_t bytes, std::shared_ptr<PixelBudget> budget);
+    // The same for bytes that are written before they are read.
+    static std::shared_ptr<PixelStorage> MakeUnfilled(size_t bytes,
+                                                      std::shared_ptr<PixelBudget> budget);
     ~PixelStorage();
     PixelStorage(const PixelStorage&) = delete;
     PixelStorage& operator=(const PixelStorage&) = delete;
@@ -22,6 +25,10 @@ class PixelStorage {
     const uint8* Bytes() const { return bytes_.get(); }
 
   private:
+    using Allocate = AllocatedArray<uint8> (*)(size_t bytes);
+
+    static std::shared_ptr<PixelStorage> Make(size_t bytes, Allocate allocate,
+                                              std::shared_ptr<PixelBudget> budget);
     PixelStorage(AllocatedArray<uint8> bytes, size_t size, std::shared_ptr<PixelBudget> budget);
 
     const AllocatedArray<uint8> bytes_;

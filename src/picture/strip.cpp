@@ -38,13 +38,17 @@ std::shared_ptr<const Strip> Strip::Solid(uint32 pixel, int32 width, int32 rows)
 
 std::shared_ptr<const Strip> Strip::Indexed(std::shared_ptr<const PixelStorage> storage,
                                             SharedPixelTable table, int32 width, int32 rows,
-                                            const IndexCounts* counts) {
+                                            const IndexCounts* counts,
+                                            const std::shared_ptr<const Strip>& similar) {
     const std::shared_ptr<Strip> strip(new Strip(width, rows));
     strip->indices_ = storage->Bytes();
     strip->owner_ = std::move(storage);
     strip->table_ = std::move(table);
-    if (counts)
-        std::call_once(strip->counted_, [&] { strip->counts_ = strip->PixelCounts(*counts); });
+    if (counts) {
+        std::call_once(strip->counting_, [&] { strip->SetCounts(*counts); });
+    } else {
+        strip->similar_ = similar;
+    }
     return strip;
 }
 
@@ -85,28 +89,38 @@ PixelRow Strip::Row(int32 y) const {
     return row;
 }
 
-std::span<const PixelCount> Strip::Counts() const {
-    std::call_once(counted_, [this] { CountPixels(); });
-    return counts_;
-}
-
-void Strip::CountPixels() const {
-    const size_t size = static_cast<size_t>(width_) * static_cast<size_t>(rows_);
-    if (!indices_) {
-        counts_ = {{solid_, static_cast<uint32>(size)}};
-        return;
-    }
-    IndexCounts counts;
-    counts.Add({indices_, size});
-    counts_ = PixelCounts(counts);
-}
-
-std::vector<PixelCount> Strip::PixelCounts(const IndexCounts& counts) const {
+std::vector<PixelCount> Strip::Counts() const {
+    if (!indices_) return {{solid_, static_cast<uint32>(Size())}};
+    std::call_once(counting_, [this] { CountIndices(); });
     std::vector<PixelCount> result;
-    result.reserve(counts.InOrder().size());
-    for (const uint8 index : counts.InOrder())
-        result.push_back({table_->pixels[index], counts.Of(index)});
+    result.reserve(counts_.size());
+    for (const IndexCount& each : counts_)
+        result.push_back({table_->pixels[each.index], each.count});
     return result;
+}
+
+void Strip::CountIndices() const {
+    if (CountChanges()) return;
+    IndexCounts counts;
+    counts.Add({indices_, Size()});
+    SetCounts(counts);
+}
+
+// Counts what differs from the similar strip, if that takes less. False if it does not.
+bool Strip::CountChanges() const {
+    const std::shared_ptr<const Strip> similar = similar_.lock();
+    if (!similar || !similar->counted_) return false;
+    const std::span<const uint8> before{similar->indices_, Size()};
+    if (!AreMostlySame(before, {indices_, Size()})) return false;
+    IndexCounts counts(similar->counts_);
+    counts.Change(before, {indices_, Size()});
+    SetCounts(counts);
+    return true;
+}
+
+void Strip::SetCounts(const IndexCounts& counts) const {
+    counts_ = counts.Listed();
+    counted_ = true;
 }
 
 }  // namespace kirto

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <atomic>
 #include <memory>
 #include <mutex>
 #include <span>
@@ -52,10 +53,12 @@ class Strip {
     // All pixels are the same.
     static std::shared_ptr<const Strip> Solid(uint32 pixel, int32 width, int32 rows);
     // An index a pixel, from the storage's first byte on. counts: of these indices, where somebody
-    // has counted them, else null.
-    static std::shared_ptr<const Strip> Indexed(std::shared_ptr<const PixelStorage> storage,
-                                                SharedPixelTable table, int32 width, int32 rows,
-                                                const IndexCounts* counts = nullptr);
+    // has counted them, else null. similar: of the same size and table, which may tell most of the
+    // counts if it has been counted and still exists when they are asked for; or null.
+    static std::shared_ptr<const Strip> Indexed(
+        std::shared_ptr<const PixelStorage> storage, SharedPixelTable table, int32 width,
+        int32 rows, const IndexCounts* counts = nullptr,
+        const std::shared_ptr<const Strip>& similar = nullptr);
     // 4 bytes a pixel, kept alive by the owner.
     static std::shared_ptr<const Strip> Direct(std::shared_ptr<const void> owner,
                                                const uint8* pixels, int32 width, int32 rows);
@@ -74,12 +77,14 @@ class Strip {
     const SharedPixelTable& Table() const { return table_; }
     // Every pixel that occurs, in the order of first appearance. Counted when first asked for. Not
     // for strips of 4-byte pixels, which may have any number of them.
-    std::span<const PixelCount> Counts() const;
+    std::vector<PixelCount> Counts() const;
 
   private:
     Strip(int32 width, int32 rows) : width_(width), rows_(rows) {}
-    void CountPixels() const;
-    std::vector<PixelCount> PixelCounts(const IndexCounts& counts) const;
+    size_t Size() const { return static_cast<size_t>(width_) * static_cast<size_t>(rows_); }
+    void SetCounts(const IndexCounts& counts) const;
+    void CountIndices() const;
+    bool CountChanges() const;
 
     const int32 width_;
     const int32 rows_;
@@ -88,8 +93,10 @@ class Strip {
     const uint8* indices_ = nullptr;
     SharedPixelTable table_;
     uint32 solid_ = 0;
-    mutable std::once_flag counted_;
-    mutable std::vector<PixelCount> counts_;
+    std::weak_ptr<const Strip> similar_;
+    mutable std::once_flag counting_;
+    mutable std::vector<IndexCount> counts_;  // of the indices
+    mutable std::atomic<bool> counted_ = false;
 };
 
 }  // namespace kirto

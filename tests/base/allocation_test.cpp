@@ -18,6 +18,17 @@ TEST(AllocateZeroed, RefusesProductsThatOverflow) {
     EXPECT_EQ(AllocateZeroed(4, std::numeric_limits<size_t>::max() / 2), nullptr);
 }
 
+TEST(AllocateUnfilled, RefusesProductsThatOverflow) {
+    EXPECT_EQ(AllocateUnfilled(std::numeric_limits<size_t>::max() / 2, 4), nullptr);
+    EXPECT_EQ(AllocateUnfilled(4, std::numeric_limits<size_t>::max() / 2), nullptr);
+}
+
+TEST(AllocateUnfilled, FailsWhereAFaultSaysSo) {
+    const AllocationFault fault(2);
+    EXPECT_NE(AllocateUnfilledArray<uint8>(10), nullptr);
+    EXPECT_EQ(AllocateUnfilledArray<uint8>(10), nullptr);
+}
+
 TEST(AllocationFault, FailsTheNthAllocationAndAllLaterOnes) {
     const AllocationFault fault(2);
     EXPECT_NE(AllocateArray<uint8>(10), nullptr);

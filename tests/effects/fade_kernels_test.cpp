@@ -70,6 +70,10 @@ float RandomShare(ChoiceSource& choices) {
     return static_cast<float>(choices.Below(count + 1)) / static_cast<float>(count);
 }
 
+FadeShare ShareOfSource(float f, bool to_color) {
+    return FadeShare(to_color ? 1 - static_cast<double>(f) : static_cast<double>(f));
+}
+
 TEST(FadeToRGB, AgreesWithAPlainOneInEveryColourSpace) {
     SeededChoices choices(1);
     for (int round = 0; round < 200; ++round) {
@@ -83,7 +87,8 @@ TEST(FadeToRGB, AgreesWithAPlainOneInEveryColourSpace) {
         for (const color_space space : kSpaces) {
             for (const bool to_color : {false, true}) {
                 Bytes target(source.size());
-                FadeToRGB(source.data(), space, target.data(), width, height, f, to_color, color);
+                FadeToRGB(source.data(), space, target.data(), width, height,
+                          ShareOfSource(f, to_color), color);
                 ASSERT_EQ(target, PlainFadeToRGB(source, space, f, to_color, color))
                     << "share " << f << ", colour space " << space;
             }
@@ -103,7 +108,7 @@ TEST(FadeToFrame, AgreesWithAPlainOneInEveryMixOfColourSpaces) {
             for (const color_space second_space : kSpaces) {
                 Bytes target(first.size());
                 FadeToFrame(first.data(), first_space, second.data(), second_space, target.data(),
-                            width, height, f);
+                            width, height, FadeShare(f));
                 ASSERT_EQ(target, PlainFadeToFrame(first, first_space, second, second_space, f))
                     << "share " << f << ", colour spaces " << first_space << " and "
                     << second_space;
@@ -121,17 +126,43 @@ TEST(FadeToRGB, AgreesWithAPlainOneOnEveryPairOfComponents) {
         const rgb_color color{component, component, component, 255};
         for (const float f : {0.0f, 0.01f, 1 / 3.0f, 0.5f, 0.99f, 1.0f}) {
             Bytes target(source.size());
-            FadeToRGB(source.data(), B_RGB32, target.data(), 256, 1, f, true, color);
+            FadeToRGB(source.data(), B_RGB32, target.data(), 256, 1, ShareOfSource(f, true), color);
             ASSERT_EQ(target, PlainFadeToRGB(source, B_RGB32, f, true, color)) << f;
         }
     }
+}
+
+// All pairs of bytes, by shares of long fades and by ones that no whole number stands for.
+TEST(FadeToFrame, AgreesWithAPlainOneOnEveryPairOfComponents) {
+    Bytes first;
+    Bytes second;
+    for (size_t pair = 0; pair < size_t{256} * 256; ++pair) {
+        first.insert(first.end(), 4, static_cast<uint8>(pair));
+        second.insert(second.end(), 4, static_cast<uint8>(pair >> 8));
+    }
+    Bytes target(first.size());
+    for (const float f : {0.0f, 1 / 3.0f, 2 / 3.0f, 13 / 21.0f, 1 - 13 / 21.0f, 999 / 1000.0f,
+                          16000 / 16001.0f, 1e-6f, 1e-12f, 1.0f}) {
+        FadeToFrame(first.data(), B_RGB32, second.data(), B_RGB32, target.data(), 256, 256,
+                    FadeShare(f));
+        ASSERT_EQ(target, PlainFadeToFrame(first, B_RGB32, second, B_RGB32, f)) << f;
+    }
+}
+
+TEST(FadeShare, IsAWholeNumberInFadesOfAsManyFramesAsAreAskedFor) {
+    for (int32 count = 1; count <= 500; ++count) {
+        for (int32 i = 0; i < count; ++i) {
+            ASSERT_GE(FadeShare(static_cast<float>(i) / static_cast<float>(count)).Fixed(), 0);
+        }
+    }
+    EXPECT_LT(FadeShare(1e-20).Fixed(), 0);
 }
 
 TEST(FadeToRGB, CutsOffFractions) {
     const Bytes source = {255, 255, 255, 77};
     Bytes target(4);
 
-    FadeToRGB(source.data(), B_RGB32, target.data(), 1, 1, 0.5f, true, {0, 0, 0, 255});
+    FadeToRGB(source.data(), B_RGB32, target.data(), 1, 1, FadeShare(0.5), {0, 0, 0, 255});
 
     EXPECT_EQ(target, (Bytes{127, 127, 127, 77}));
 }
@@ -140,7 +171,7 @@ TEST(FadeToRGB, EndsInTheColourWithTheSourcesAlpha) {
     const Bytes source = {1, 2, 3, 77};
     Bytes target(4);
 
-    FadeToRGB(source.data(), B_RGBA32, target.data(), 1, 1, 1.0f, true, {30, 20, 10, 255});
+    FadeToRGB(source.data(), B_RGBA32, target.data(), 1, 1, FadeShare(0), {30, 20, 10, 255});
 
     EXPECT_EQ(target, (Bytes{10, 20, 30, 77}));
 }
@@ -149,7 +180,7 @@ TEST(FadeToRGB, StartsWithTheColourWhenItFadesFromIt) {
     const Bytes source = {1, 2, 3, 77};
     Bytes target(4);
 
-    FadeToRGB(source.data(), B_RGBA32, target.data(), 1, 1, 0.0f, false, {30, 20, 10, 255});
+    FadeToRGB(source.data(), B_RGBA32, target.data(), 1, 1, FadeShare(0), {30, 20, 10, 255});
 
     EXPECT_EQ(target, (Bytes{10, 20, 30, 77}));
 }
@@ -158,7 +189,7 @@ TEST(FadeToRGB, ReadsAnUnknownColourSpaceAsBigEndian) {
     const Bytes source = {77, 3, 2, 1};
     Bytes target(4);
 
-    FadeToRGB(source.data(), B_NO_COLOR_SPACE, target.data(), 1, 1, 0.0f, true, {9, 9, 9, 255});
+    FadeToRGB(source.data(), B_NO_COLOR_SPACE, target.data(), 1, 1, FadeShare(1), {9, 9, 9, 255});
 
     EXPECT_EQ(target, (Bytes{1, 2, 3, 77}));
 }
@@ -168,7 +199,8 @@ TEST(FadeToFrame, TakesTheAlphaOfTheFirstSource) {
     const Bytes second = {255, 255, 255, 255};
     Bytes target(4);
 
-    FadeToFrame(first.data(), B_RGBA32_BIG, second.data(), B_RGB32, target.data(), 1, 1, 0.5f);
+    FadeToFrame(first.data(), B_RGBA32_BIG, second.data(), B_RGB32, target.data(), 1, 1,
+                FadeShare(0.5));
 
     EXPECT_EQ(target, (Bytes{127, 127, 127, 77}));
 }
@@ -177,9 +209,12 @@ TEST(FadeToFrame, WritesOnlyThePixelsOfTheArea) {
     const Bytes source(16, 200);
     Bytes target(16, 1);
 
-    FadeToFrame(source.data(), B_RGB32, source.data(), B_RGB32, target.data(), 3, 1, 0.5f);
-    FadeToFrame(source.data(), B_RGB32, source.data(), B_RGB32, target.data() + 12, 0, 5, 0.5f);
-    FadeToFrame(source.data(), B_RGB32, source.data(), B_RGB32, target.data() + 12, 5, 0, 0.5f);
+    FadeToFrame(source.data(), B_RGB32, source.data(), B_RGB32, target.data(), 3, 1,
+                FadeShare(0.5));
+    FadeToFrame(source.data(), B_RGB32, source.data(), B_RGB32, target.data() + 12, 0, 5,
+                FadeShare(0.5));
+    FadeToFrame(source.data(), B_RGB32, source.data(), B_RGB32, target.data() + 12, 5, 0,
+                FadeShare(0.5));
 
     EXPECT_EQ(Bytes(target.begin(), target.begin() + 12), Bytes(12, 200));
     EXPECT_EQ(Bytes(target.begin() + 12, target.end()), Bytes(4, 1));

@@ -114,8 +114,9 @@ void CountFade(const Frame& photo) {
     const std::vector<uint8> first = FirstRow(photo);
     const std::vector<uint8> second(first.size(), 100);
     std::vector<uint8> target(first.size());
+    const FadeShare share(0.25);
     Count("fade", [&] {
-        FadeToFrame(first.data(), B_RGB32, second.data(), B_RGB32, target.data(), kWidth, 1, 0.25F);
+        FadeToFrame(first.data(), B_RGB32, second.data(), B_RGB32, target.data(), kWidth, 1, share);
     });
 }
 

@@ -62,6 +62,57 @@ TEST(IndexCounts, FindAnIndexThatComesOnceAndLate) {
     ExpectPlain(counts, indices);
 }
 
+TEST(IndexCounts, FindManyIndicesThatComeLate) {
+    std::vector<uint8> indices(60000, 9);
+    for (size_t i = 0; i < 200; ++i)
+        indices[indices.size() - 1 - i * i] = static_cast<uint8>(i);
+    IndexCounts counts;
+    counts.Add(indices);
+
+    ExpectPlain(counts, indices);
+}
+
+TEST(IndexCounts, FollowChangesOfTheIndices) {
+    std::mt19937 random(11);
+    for (const size_t size : {1U, 31U, 32U, 33U, 16384U, 16391U, 50000U}) {
+        for (const size_t changes : {size_t{0}, size_t{1}, size_t{40}, size}) {
+            std::vector<uint8> before(size);
+            for (uint8& index : before)
+                index = static_cast<uint8>(random() % 30);
+            std::vector<uint8> after = before;
+            for (size_t i = 0; i < changes; ++i)
+                after[random() % size] = static_cast<uint8>(random() % 40);
+            IndexCounts counts;
+            counts.Add(before);
+            counts.Change(before, after);
+
+            ExpectPlain(counts, after);
+        }
+    }
+}
+
+TEST(IndexCounts, AreWhatWasListed) {
+    const std::vector<uint8> indices = {4, 4, 2, 9, 2};
+    IndexCounts counts;
+    counts.Add(indices);
+
+    ExpectPlain(IndexCounts(counts.Listed()), indices);
+}
+
+TEST(AreMostlySame, TellsIndicesThatDifferLittle) {
+    std::vector<uint8> first(10000, 1);
+    std::vector<uint8> second = first;
+    std::fill_n(second.begin(), 4000, uint8{2});
+    EXPECT_TRUE(AreMostlySame(first, second));
+    std::fill_n(second.begin(), 6000, uint8{2});
+    EXPECT_FALSE(AreMostlySame(first, second));
+}
+
+TEST(AreMostlySame, IsFalseOfTooFewToTell) {
+    const std::vector<uint8> few(100, 1);
+    EXPECT_FALSE(AreMostlySame(few, few));
+}
+
 TEST(IndexCounts, GoOnWithMoreIndices) {
     IndexCounts counts;
     counts.Add(std::vector<uint8>{4, 4, 2});

@@ -143,6 +143,44 @@ TEST(IndexPainter, CountsOfAWholeImageBecomeThoseOfItsStrips) {
     }
 }
 
+// Counts the strip's indices again.
+std::vector<PixelCount> CountedAnew(const Strip& strip, int32 width) {
+    IndexCounts counts;
+    counts.Add({strip.Indices(), static_cast<size_t>(width) * static_cast<size_t>(strip.Rows())});
+    std::vector<PixelCount> result;
+    for (const IndexCount& each : counts.Listed())
+        result.push_back({strip.Table()->pixels[each.index], each.count});
+    return result;
+}
+
+TEST(IndexPainter, CountsOfCountedStripsFollowWhatIsPaintedOverThem) {
+    std::mt19937 random(17);
+    OwnedImage owned;
+    while (!owned.image.row_lengths.empty() || owned.image.width != 100 || owned.image.skipped >= 0)
+        owned = RandomImage(100, 256, RandomTable(random), random);
+    IndexPainter painter(nullptr);
+    auto picture = painter.Paint(Picture::Solid(0, 100, 256, B_RGB32, nullptr), owned.image);
+    for (int round = 0; round < 20; ++round) {
+        for (const auto& strip : picture->AllStrips())
+            static_cast<void>(strip->Counts());
+        IndexImage part = owned.image;
+        part.top = static_cast<int32>(random() % 4) * 64;
+        part.left = static_cast<int32>(random() % 90);
+        part.width = 10;
+        part.height = 64;
+        picture = painter.Paint(picture, part);
+        for (const auto& strip : picture->AllStrips()) {
+            const auto expected = CountedAnew(*strip, 100);
+            const auto actual = strip->Counts();
+            ASSERT_EQ(actual.size(), expected.size());
+            for (size_t i = 0; i < actual.size(); ++i) {
+                EXPECT_EQ(actual[i].pixel, expected[i].pixel);
+                EXPECT_EQ(actual[i].count, expected[i].count);
+            }
+        }
+    }
+}
+
 TEST(IndexPainter, SharesWhatTheImageDoesNotTouch) {
     std::mt19937 random(13);
     const auto base = Built(RandomPicture(100, 256, 30, random));

@@ -154,7 +154,7 @@ bool FliCanvas::AddRows(size_t number, int32 first_row, int32 end, PictureBuilde
     const size_t size = static_cast<size_t>(rows) * static_cast<size_t>(width_);
     stored_[number] = nullptr;
     if (std::memcmp(indices, indices + 1, size - 1) != 0) {
-        const std::shared_ptr<PixelStorage> storage = PixelStorage::Make(size, budget_);
+        const std::shared_ptr<PixelStorage> storage = PixelStorage::MakeUnfilled(size, budget_);
         if (!storage) return false;
         std::memcpy(storage->Bytes(), indices, size);
         stored_[number] = storage;
@@ -164,7 +164,12 @@ bool FliCanvas::AddRows(size_t number, int32 first_row, int32 end, PictureBuilde
 
 // What is stored of the rows, in today's colors.
 std::shared_ptr<const Strip> FliCanvas::StripOf(size_t number, int32 first_row, int32 rows) const {
-    if (stored_[number]) return Strip::Indexed(stored_[number], table_, width_, rows);
+    if (stored_[number]) {
+        const std::shared_ptr<const Strip> before = last_ ? last_->AllStrips()[number] : nullptr;
+        const bool similar = before && before->Table() == table_;
+        return Strip::Indexed(stored_[number], table_, width_, rows, nullptr,
+                              similar ? before : nullptr);
+    }
     const uint8 index = indices_->Bytes()[int64{first_row} * width_];
     return Strip::Solid(table_->pixels[index], width_, rows);
 }

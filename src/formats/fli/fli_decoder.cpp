@@ -98,7 +98,8 @@ bool FliDecoder::ReadFliFrameHeader() {
     return true;
 }
 
-FliDecoder::Record FliDecoder::ReadRecord(int32 index, const Place& place, Frame* frame) {
+FliDecoder::Record FliDecoder::ReadRecord(int32 index, const Place& place, Frame* frame,
+                                          std::shared_ptr<Palette>* palette) {
     place_ = &place;
     if (!ReadFliFrameHeader()) return Record::kBroken;
     if (skipped_block_) return ReadOtherRecord();
@@ -108,6 +109,7 @@ FliDecoder::Record FliDecoder::ReadRecord(int32 index, const Place& place, Frame
     }
     if (!ReadFliFrameData(index)) return Record::kBroken;
     *frame = std::move(frame_);
+    *palette = std::move(local_palette_);
     return Record::kFrame;
 }
 
@@ -258,20 +260,14 @@ bool FliDecoder::SkipUnknownChunk(const Chunk& chunk) {
     return input_.Skip(chunk.DataSize());
 }
 
-// Gives the frame its palette and its pixels.
+// Gives the frame its pixels.
 bool FliDecoder::FinishFrame() {
     frame_.bitmap = canvas_->MakePicture(work_);
     if (!frame_.bitmap) {
         out_of_memory_ = !work_.StopRequested();
         return false;
     }
-    if (frame_.local_palette) {
-        local_palette_->unique_colors =
-            local_palette_->CountUniqueColors(frame_.bitmap.get(), &work_);
-    } else {
-        local_palette_->Set(frame_.bitmap.get(), &work_);
-    }
-    frame_.palette = std::move(local_palette_);
+    frame_.palette = local_palette_;
     return !work_.StopRequested();
 }
 

@@ -47,8 +47,11 @@ class FliDecoder {
 
     // False when this is no such file.
     bool ReadFliHeader(FliHeader* result);
-    // The record of this index: complete, with a palette of its own, where there is a frame.
-    Record ReadRecord(int32 index, const Place& place, Frame* frame);
+    // The record of this index: complete, where there is a frame, but for its palette. That one has
+    // the colors of a frame with a palette of its own; what else there is to it depends on the
+    // picture.
+    Record ReadRecord(int32 index, const Place& place, Frame* frame,
+                      std::shared_ptr<Palette>* palette);
     // As it is after the records read so far.
     const Palette& GlobalPalette() const { return global_; }
     // Whether the last record broke off for lack of memory; the file may be intact.

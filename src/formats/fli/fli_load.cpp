@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "base/debug_line.h"
+#include "base/run_in_order.h"
 #include "base/text.h"
 
 using Record = kirto::FliDecoder::Record;
@@ -18,14 +20,7 @@ FliLoad::FliLoad(BFile* file, int32 start, AnimationDocument& document)
         return;
     }
     TakeHeader(header);
-    // By the defined rules every record counts, to players only those that show something; what
-    // comes behind the last frame leads back to the first.
-    for (int32 i = 0; i < header.frame_count && !failed;) {
-        document_.PostStatus(
-            kirto::Format("Status: loading frame %d of %d...", i + 1, header.frame_count));
-        failed = document_.StopRequested() || !ReadRecord(i);
-        i = rules_ == kirto::FliRules::kPlayers ? frames_ : i + 1;
-    }
+    ReadFrames(header.frame_count);
 }
 
 void FliLoad::TakeHeader(const kirto::FliHeader& header) {
@@ -40,35 +35,82 @@ void FliLoad::TakeHeader(const kirto::FliHeader& header) {
     });
 }
 
-bool FliLoad::ReadRecord(int32 index) {
-    // Only the document's first frame defines the global palette.
-    const kirto::FliDecoder::Place place{document_.FrameAt(position_ - 1), position_ == 0};
-    Frame frame;
-    const Record record = decoder_.ReadRecord(index, place, &frame);
-    if (place.defines_global) CommitPalette();
-    switch (record) {
+void FliLoad::ReadFrames(int32 count) {
+    kirto::FliAhead ahead(decoder_, rules_, count, position_, document_.FrameAt(position_ - 1));
+    kirto::OrderedSteps<kirto::FliPiece, Finished> steps;
+    steps.next = [&ahead] { return ahead.Next(); };
+    steps.begin = [this, count](const kirto::FliPiece& piece) {
+        failed = !BeginPiece(piece, count);
+        return !failed;
+    };
+    steps.work = [this](const kirto::FliPiece& piece, int32) { return Finish(piece); };
+    steps.waiting = [this] { document_.work.ReportAgain(); };
+    steps.take = [this](const kirto::FliPiece& piece, std::optional<Finished> finished) {
+        failed = !finished || !TakePiece(piece, *finished);
+        return !failed;
+    };
+    kirto::RunInOrder(steps);
+}
+
+bool FliLoad::BeginPiece(const kirto::FliPiece& piece, int32 count) {
+    document_.PostStatus(
+        kirto::Format("Status: loading frame %d of %d...", piece.index + 1, count));
+    if (document_.StopRequested()) return false;
+    if (!piece.lines.empty()) kirto::DebugLine("%s", piece.lines.c_str());
+    return true;
+}
+
+// What takes time of a frame's palette.
+FliLoad::Finished FliLoad::Finish(const kirto::FliPiece& piece) const {
+    Finished finished;
+    if (piece.kind != Record::kFrame) return finished;
+    const kirto::Picture& picture = *piece.frame.bitmap;
+    if (piece.frame.local_palette) {
+        // Its colors are counted in a moment; that goes by these.
+        for (const auto& strip : picture.AllStrips())
+            if (!strip->Pixels()) static_cast<void>(strip->Counts());
+    } else {
+        finished.palette = *piece.palette;
+        finished.status = finished.palette.SetOptimal(&picture, &document_.work);
+    }
+    return finished;
+}
+
+bool FliLoad::TakePiece(const kirto::FliPiece& piece, const Finished& finished) {
+    if (piece.kind == Record::kFrame) CompletePalette(piece, finished);
+    if (piece.global) CommitPalette(*piece.global);
+    switch (piece.kind) {
         case Record::kFrame:
-            ++frames_;
-            if (!document_.InsertFrame(position_, std::move(frame))) return false;
+            if (document_.StopRequested() || !document_.InsertFrame(position_, piece.frame))
+                return false;
             ++position_;
             return true;
         case Record::kLonger:
-            ++frames_;
             return ShowPreviousFrameLonger();
         case Record::kSkipped:
             return true;
         case Record::kBroken:
             break;
     }
-    out_of_memory = decoder_.OutOfMemory();
-    harmless_cause = decoder_.Cause();
+    out_of_memory = piece.out_of_memory;
+    harmless_cause = piece.cause;
     return false;
 }
 
-void FliLoad::CommitPalette() {
-    if (decoder_.GlobalPalette() == *document_.Current()->palette) return;
-    document_.Change([this](kirto::Animation& animation) {
-        animation.palette = std::make_shared<const Palette>(decoder_.GlobalPalette());
+void FliLoad::CompletePalette(const kirto::FliPiece& piece, const Finished& finished) {
+    if (piece.frame.local_palette) {
+        piece.palette->unique_colors =
+            piece.palette->CountUniqueColors(piece.frame.bitmap.get(), &document_.work);
+    } else {
+        *piece.palette = finished.palette;
+        Palette::TellOfFailure(finished.status);
+    }
+}
+
+void FliLoad::CommitPalette(const Palette& global) {
+    if (global == *document_.Current()->palette) return;
+    document_.Change([&global](kirto::Animation& animation) {
+        animation.palette = std::make_shared<const Palette>(global);
     });
 }
 

@@ -16,6 +16,10 @@ uint64 PixelsOf(const GifImage& image) {
     return static_cast<uint64>(image.width) * static_cast<uint64>(image.height);
 }
 
+bool HaveSameSize(const GifImage& first, const GifImage& second) {
+    return first.width == second.width && first.height == second.height;
+}
+
 // What the piece takes in memory once it is decoded, roughly, in bytes.
 uint64 WeightOf(const GifPiece& piece) {
     uint64 weight = PixelsOf(piece.image) + piece.image.data.bytes.size();
@@ -58,13 +62,14 @@ void GifAhead::AddNext(Batch* batch) {
 std::optional<GifAhead::Decoded> GifAhead::Decode(const Batch& batch) {
     Decoded decoded(batch.size());
     for (size_t i = 0; i < batch.size(); ++i) {
-        if (!Decode(batch[i], &decoded[i])) return std::nullopt;
+        const bool alike = i > 0 && HaveSameSize(batch[i - 1].image, batch[i].image);
+        if (!Decode(batch[i], &decoded[i], alike ? &decoded[i - 1] : nullptr)) return std::nullopt;
     }
     return decoded;
 }
 
-// False when memory is short.
-bool GifAhead::Decode(const GifPiece& piece, GifIndices* indices) {
+// before: of an image of the same size, or null. False when memory is short.
+bool GifAhead::Decode(const GifPiece& piece, GifIndices* indices, const GifIndices* before) {
     const GifImage& image = piece.image;
     if (piece.end != GifPiece::End::kImage || !CanDecode(image)) return true;
     const std::optional<int32> code_size = composer_.CodeSizeOf(image);
@@ -73,7 +78,7 @@ bool GifAhead::Decode(const GifPiece& piece, GifIndices* indices) {
     if (!indices->Reserve(image)) return false;
     indices->Decode(image, *code_size, work_, 0);
     // A single thread counts what it does not find in the frame before.
-    if (options_.together && CoversFrame(piece)) indices->Count(image);
+    if (options_.together && CoversFrame(piece)) indices->Count(image, before);
     return true;
 }
 

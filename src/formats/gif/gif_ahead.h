@@ -49,7 +49,7 @@ class GifAhead {
     void AddNext(Batch* batch);
     static bool CanDecode(const GifImage& image);
     bool CoversFrame(const GifPiece& piece) const;
-    bool Decode(const GifPiece& piece, GifIndices* indices);
+    bool Decode(const GifPiece& piece, GifIndices* indices, const GifIndices* before);
     GifIndices Spare();
 
     GifReader& reader_;

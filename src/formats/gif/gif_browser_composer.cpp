@@ -111,7 +111,7 @@ IndexImage GifBrowserComposer::PlacedIn(const Colors& colors, const GifImage& im
 std::shared_ptr<const GifSource> GifBrowserComposer::SourceOf(
     const GifImage& image, Colors colors, const std::shared_ptr<const Picture>& picture) {
     const std::vector<uint8>& codes = image.data.bytes;
-    const std::shared_ptr<PixelStorage> kept = PixelStorage::Make(codes.size(), budget_);
+    const std::shared_ptr<PixelStorage> kept = PixelStorage::MakeUnfilled(codes.size(), budget_);
     const std::shared_ptr<const GifSource> previous = std::exchange(last_source_, nullptr);
     lacks_source_ = lacks_source_ || !kept;
     if (lacks_source_) return nullptr;

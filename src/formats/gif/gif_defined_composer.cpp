@@ -58,7 +58,8 @@ status_t GifDefinedComposer::Compose(const GifImage& image, GifIndices* ahead, i
     const GifIndices& decoded = Decode(image, ahead, *min_code_size, file_size);
     if (!decoded.complete) return B_BAD_DATA;
     const IndexImage indices = PlacedIn(*current, image, decoded);
-    std::shared_ptr<const Picture> picture = Below(image, *current);
+    std::shared_ptr<const Picture> picture =
+        IsHiddenBy(indices, width, height) ? previous_ : Below(image, *current);
     picture = painter_.Paint(picture, indices);
     if (!picture) return B_NO_MEMORY;
     frame->width = width;
@@ -91,6 +92,14 @@ IndexImage GifDefinedComposer::PlacedIn(const Palette& current, const GifImage& 
         indices.skipped = transparent;
     }
     return indices;
+}
+
+// Whether nothing shows through of the picture before, which has the same size: then the image may
+// be drawn over that one whatever is below, for the sake of the rows that both have.
+bool GifDefinedComposer::IsHiddenBy(const IndexImage& image, int32 width, int32 height) const {
+    return previous_ && previous_->Width() == width && previous_->Height() == height &&
+           image.left == 0 && image.top == 0 && image.width == width && image.height == height &&
+           image.skipped < 0 && image.row_lengths.empty();
 }
 
 // What the image is drawn over.

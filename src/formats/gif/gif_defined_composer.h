@@ -29,6 +29,7 @@ class GifDefinedComposer : public GifComposer {
 
   private:
     bool FitsScreen(const GifImage& image) const;
+    bool IsHiddenBy(const IndexImage& image, int32 width, int32 height) const;
     std::shared_ptr<const Picture> Below(const GifImage& image, const Palette& current);
     std::shared_ptr<const Picture> FrameDisposal(const Palette& current);
     static std::shared_ptr<const Picture> Solid(uint32 pixel, int32 width, int32 height);

@@ -31,17 +31,24 @@ void GifIndices::Decode(const GifImage& image, int32 min_code_size, Work& work, 
     counts.clear();
 }
 
-void GifIndices::Count(const GifImage& image) {
+void GifIndices::Count(const GifImage& image, const GifIndices* before) {
     if (!complete || !row_lengths.empty()) return;
     const int32 step = Strip::RowsFor(image.width);
     counts.resize(static_cast<size_t>((image.height + step - 1) / step));
     const size_t size = static_cast<size_t>(image.width) * static_cast<size_t>(image.height);
-    std::span<const uint8> left{indices.get(), size};
     const size_t strip_size = static_cast<size_t>(image.width) * static_cast<size_t>(step);
-    for (IndexCounts& each : counts) {
-        const size_t part = std::min(strip_size, left.size());
-        each.Add(left.first(part));
-        left = left.subspan(part);
+    const bool may_differ = before && before->counts.size() == counts.size();
+    size_t begin = 0;
+    for (size_t i = 0; i < counts.size(); ++i, begin += strip_size) {
+        const size_t part = std::min(strip_size, size - begin);
+        const std::span<const uint8> strip{indices.get() + begin, part};
+        if (may_differ && AreMostlySame({before->indices.get() + begin, part}, strip)) {
+            counts[i] = before->counts[i];
+            counts[i].Change({before->indices.get() + begin, part}, strip);
+        } else {
+            counts[i] = {};
+            counts[i].Add(strip);
+        }
     }
 }
 

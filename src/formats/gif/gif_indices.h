@@ -27,8 +27,9 @@ struct GifIndices {
     // Decodes the image into the room that was made. The work is told how far this is in a file of
     // that size; nothing with 0, as it must be on other threads than the one that works.
     void Decode(const GifImage& image, int32 min_code_size, Work& work, int64 file_size);
-    // Counts the indices if the image was decoded, and has all of them.
-    void Count(const GifImage& image);
+    // Counts the indices if the image was decoded, and has all of them. before: those of an image
+    // of the same size, which may tell most of the counts; or null.
+    void Count(const GifImage& image, const GifIndices* before);
 };
 
 // The code size that image data with that first byte is read with, for a palette of so many bits;
