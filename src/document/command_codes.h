@@ -60,7 +60,13 @@ inline constexpr uint32 kQuitWhenDone = FourCharCode("awqd");
 // bool "panel": false for files that no panel delivered.
 inline constexpr uint32 kOpenFile = FourCharCode("aofp");
 inline constexpr uint32 kInsertFiles = FourCharCode("aifp");  // int32 "position"
+// Beside what the panel says, where the fields are there: int32 "tile_width", "tile_height",
+// "margin", "spacing"; bool "skip_empty". A file ".json" describes a sheet, and nothing else
+// counts.
 inline constexpr uint32 kInsertTiledFile = FourCharCode("aitp");
+// Int64 "translator_id", ref "directory", string "name"; int32 "columns" (0: a square of them),
+// "padding"; bool "power_of_two".
+inline constexpr uint32 kSaveSheet = FourCharCode("apsh");
 // Save panel to application. Int64 "translator_id", ref "directory", string "name".
 inline constexpr uint32 kSaveFile = FourCharCode("asfp");
 
