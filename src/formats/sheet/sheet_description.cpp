@@ -1,5 +1,6 @@
 #include "formats/sheet/sheet_description.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <nlohmann/json.hpp>
@@ -13,6 +14,8 @@ namespace {
 // others are read into the other kind.
 using WrittenJson = nlohmann::ordered_json;
 using Json = nlohmann::json;
+
+constexpr double kLongest = std::numeric_limits<int32>::max();  // milliseconds, 24 days
 
 WrittenJson RectJson(int32 x, int32 y, int32 width, int32 height) {
     return {{"x", x}, {"y", y}, {"w", width}, {"h", height}};
@@ -31,7 +34,9 @@ WrittenJson FrameJson(const SheetFrame& frame) {
         {"trimmed", trimmed},
         {"spriteSourceSize", RectJson(frame.x_offset, frame.y_offset, frame.width, frame.height)},
         {"sourceSize", SizeJson(frame.whole_width, frame.whole_height)}};
-    if (frame.milliseconds) json["duration"] = std::llround(*frame.milliseconds);
+    if (frame.milliseconds) {
+        json["duration"] = std::llround(std::min(*frame.milliseconds, kLongest));
+    }
     return json;
 }
 
@@ -75,7 +80,7 @@ bool TakeDuration(const Json& json, SheetFrame* frame) {
     if (!duration) return true;
     if (!duration->is_number()) return false;
     const double milliseconds = duration->get<double>();
-    if (!std::isfinite(milliseconds) || milliseconds < 0) return false;
+    if (!(milliseconds >= 0 && milliseconds <= kLongest)) return false;
     frame->milliseconds = milliseconds;
     return true;
 }

@@ -20,7 +20,7 @@ struct SheetFrame {
     int32 y_offset = 0;
     int32 whole_width = 0;  // 1 or more, as whole_height
     int32 whole_height = 0;
-    std::optional<double> milliseconds;  // how long it is shown; finite, 0 or more
+    std::optional<double> milliseconds;  // how long it is shown; 0 or more
 };
 
 struct SheetDescription {
