@@ -42,6 +42,14 @@ FrameImage ReadFrameImage(const std::string& path, BTranslatorRoster& roster,
     return Make(read, budget, work);
 }
 
+FrameImage ReadFrameImage(BFile& file, BTranslatorRoster& roster,
+                          const std::shared_ptr<PixelBudget>& budget) {
+    const auto read = [&](std::shared_ptr<BBitmap>* bitmap) {
+        return roster.Translate(file, budget, bitmap);
+    };
+    return Make(read, budget, nullptr);
+}
+
 FrameImage ReadFrameImageAhead(const std::string& path, BTranslatorRoster& roster,
                                const std::shared_ptr<PixelBudget>& budget, const Work& work,
                                const std::function<bool()>& given_up) {

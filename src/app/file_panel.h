@@ -6,7 +6,7 @@
 
 namespace kirto {
 
-enum class FilePanelKind { kOpen, kInsert, kInsertTiled, kSave };
+enum class FilePanelKind { kOpen, kInsert, kInsertTiled, kInsertAnimation, kSave };
 
 // A file dialog of the application. It posts its own message to the application when files are
 // chosen, and B_CANCEL with itself as pointer "source" whenever it closes. Made by the Desktop,

@@ -8,6 +8,7 @@
 #include "app/arrangement_commands.h"
 #include "app/command_port.h"
 #include "app/document_edits.h"
+#include "app/frames_exchange.h"
 #include "app/picture_commands.h"
 #include "base/text.h"
 #include "document/command_codes.h"
@@ -50,6 +51,12 @@ const Kirto::Command* Kirto::CommandFor(uint32 code) {
          kUpdateAll, kInsertion},
         {B_CANCEL, cancel, kNothing},
         {kirto::kOpenFile, open_file, kUpdateAll, kInsertion, "Insert Animation"},
+        {kirto::kInsertAnimations,
+         [](Kirto& app, BMessage* message) { app.InsertAnimations(*message); }, kUpdateAll,
+         kInsertion, "Insert Animation"},
+        {kirto::kPasteFrames,
+         [](Kirto& app, BMessage* message) { kirto::PasteFrames(app, *message, app.roster_); },
+         kUpdateAll, kInsertion, "Paste"},
         {kirto::kInsertFiles, [](Kirto& app, BMessage* message) { app.InsertFrame(message); },
          kUpdateAll, kInsertion, "Insert"},
         {kirto::kInsertTiledFile,

@@ -134,7 +134,8 @@ class Kirto : public IEApplication, public AnimationDocument, public kirto::File
     void EndWork();
     void SayWhatDiffers(const kirto::Animation& animation, const std::string& loss);
     void SayCanceled(int32 frames_before);
-    void Load(const entry_ref& ref, kirto::AnimationType type, int32 position, bool reset);
+    void InsertAnimations(const BMessage& message);
+    void Load(const entry_ref& ref, int32 position, bool reset);
     void KeepStopped(bool reset, int32 frames_before);
     // Reading and saving as browsers do (kirto_faithful.cpp).
     void TurnFaithful(bool on);

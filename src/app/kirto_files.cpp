@@ -74,17 +74,26 @@ void Kirto::Open(BMessage* message) {
         message->FindInt32("position", &position);
         position = std::clamp(position, 0, FrameCount());
     }
-    const kirto::AnimationType type =
-        kirto::ClassifyAnimation(ref.Leaf(), desktop_.MimeTypeOf(ref.path));
-    if (type == kirto::AnimationType::kNone) {
-        kirto::Warn("The animation can't be opened because this file type is unsupported.");
-    } else {
-        Load(ref, type, position, reset);
+    Load(ref, position, reset);
+}
+
+void Kirto::InsertAnimations(const BMessage& message) {
+    entry_ref ref;
+    for (int32 i = 0; message.FindRef("refs", &ref, i) == B_OK && !StopRequested(); ++i) {
+        const int32 before = FrameCount();
+        const int32 position = Selected() + 1;
+        Load(ref, position, false);
+        // The next one goes behind this one.
+        if (FrameCount() > before) Select(position + FrameCount() - before - 1);
     }
 }
 
 // reset: in place of a document that was emptied.
-void Kirto::Load(const entry_ref& ref, kirto::AnimationType type, int32 position, bool reset) {
+void Kirto::Load(const entry_ref& ref, int32 position, bool reset) {
+    const kirto::AnimationType type =
+        kirto::ClassifyAnimation(ref.Leaf(), desktop_.MimeTypeOf(ref.path));
+    if (type == kirto::AnimationType::kNone)
+        return kirto::Warn("The animation can't be opened because this file type is unsupported.");
     // What a reset leaves is where the history starts. A load that is stopped is its first edit.
     if (reset) BeginStep();
     const auto before_load = Current();

@@ -64,11 +64,16 @@ inline constexpr uint32 kInsertFiles = FourCharCode("aifp");  // int32 "position
 // "margin", "spacing"; bool "skip_empty". A file ".json" describes a sheet, and nothing else
 // counts.
 inline constexpr uint32 kInsertTiledFile = FourCharCode("aitp");
+// All refs, one after the other, behind the current frame; no other fields.
+inline constexpr uint32 kInsertAnimations = FourCharCode("aiap");
+// Main window to application: data "bytes" of string "type", a MIME type: frames, an animation or
+// an image; int32 "position", or behind the current frame.
+inline constexpr uint32 kPasteFrames = FourCharCode("apst");
+// Save panel to application. Int64 "translator_id", ref "directory", string "name".
+inline constexpr uint32 kSaveFile = FourCharCode("asfp");
 // Int64 "translator_id", ref "directory", string "name"; int32 "columns" (0: a square of them),
 // "padding"; bool "power_of_two".
 inline constexpr uint32 kSaveSheet = FourCharCode("apsh");
-// Save panel to application. Int64 "translator_id", ref "directory", string "name".
-inline constexpr uint32 kSaveFile = FourCharCode("asfp");
 
 // The program's start to application: offer what another editor has left. No fields. The
 // application to itself: recover that. String "path".
@@ -167,6 +172,9 @@ inline constexpr uint32 kMenuInsert = FourCharCode("awfi");
 inline constexpr uint32 kMenuInsertTiled = FourCharCode("awit");
 inline constexpr uint32 kMenuFadeEffects = FourCharCode("awfe");
 inline constexpr uint32 kMenuInsertAnimation = FourCharCode("wian");
+inline constexpr uint32 kMenuCut = FourCharCode("wcut");
+inline constexpr uint32 kMenuCopy = FourCharCode("wcpy");
+inline constexpr uint32 kMenuPaste = FourCharCode("wpst");
 inline constexpr uint32 kMenuSelectAll = FourCharCode("wsal");
 inline constexpr uint32 kMenuSelectNone = FourCharCode("wsno");  // but the current frame
 inline constexpr uint32 kMenuInvertSelection = FourCharCode("wsiv");
@@ -175,6 +183,18 @@ inline constexpr uint32 kMenuSelectRange = FourCharCode("wsrg");
 inline constexpr uint32 kMenuSetPause = FourCharCode("wspa");
 inline constexpr uint32 kMenuDropEvery = FourCharCode("wdev");
 inline constexpr uint32 kMenuRemoveDuplicates = FourCharCode("wrdu");
+inline constexpr uint32 kMenuResize = FourCharCode("wprs");
+inline constexpr uint32 kMenuCrop = FourCharCode("wpcr");
+inline constexpr uint32 kMenuCanvasSize = FourCharCode("wpcs");
+inline constexpr uint32 kMenuRotateRight = FourCharCode("wprr");
+inline constexpr uint32 kMenuRotateLeft = FourCharCode("wprl");
+inline constexpr uint32 kMenuFlipAcross = FourCharCode("wpfa");
+inline constexpr uint32 kMenuFlipDown = FourCharCode("wpfd");
+inline constexpr uint32 kMenuFitFrames = FourCharCode("wpft");
+inline constexpr uint32 kMenuAdjustColors = FourCharCode("wpac");
+inline constexpr uint32 kMenuOpacity = FourCharCode("wpop");
+inline constexpr uint32 kMenuOverlay = FourCharCode("wpov");
+inline constexpr uint32 kMenuMakeTransparent = FourCharCode("wpmt");
 
 // Panels to main window. No fields; the window reads the control that sent the command.
 inline constexpr uint32 kThumbnailMode = FourCharCode("lvtm");

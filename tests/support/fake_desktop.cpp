@@ -94,6 +94,8 @@ const char* KindName(FilePanelKind kind) {
             return "open";
         case FilePanelKind::kInsert:
             return "insert";
+        case FilePanelKind::kInsertAnimation:
+            return "insert animation";
         case FilePanelKind::kInsertTiled:
             return "insert tiled";
         case FilePanelKind::kSave:

@@ -16,6 +16,7 @@
 #include "app/kirto.h"
 #include "app/recovery/crash_recovery.h"
 #include "base/abandonable.h"
+#include "base/natural_order.h"
 #include "base/number.h"
 #include "document/command_codes.h"
 #include "kit/qt/qt_translator_roster.h"
@@ -34,9 +35,8 @@ constexpr int kExitFailed = 1;
 
 BMessage RefsMessage(const std::vector<std::string>& files) {
     BMessage refs(B_REFS_RECEIVED);
-    for (const std::string& file : files) {
+    for (const std::string& file : kirto::InNaturalOrder(files))
         refs.AddRef("refs", entry_ref(std::filesystem::absolute(file).string()));
-    }
     return refs;
 }
 

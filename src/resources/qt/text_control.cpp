@@ -3,16 +3,22 @@
 #include <QAction>
 #include <QKeyEvent>
 #include <algorithm>
+#include <iterator>
 
 namespace kirto {
 
 namespace {
 
-constexpr QKeyCombination kSelectAll(Qt::CTRL, Qt::Key_A);
+// What they do to frames they do to the text.
+constexpr QKeyCombination kKeysOfText[] = {Qt::CTRL | Qt::Key_A, Qt::CTRL | Qt::Key_X,
+                                           Qt::CTRL | Qt::Key_C, Qt::CTRL | Qt::Key_V};
 
 bool IsShortcutOf(const QWidget& window, const QKeyEvent& press) {
+    if (press.modifiers() == Qt::NoModifier) return false;
+    if (std::find(std::begin(kKeysOfText), std::end(kKeysOfText), press.keyCombination()) !=
+        std::end(kKeysOfText))
+        return false;
     const QKeySequence keys(press.keyCombination());
-    if (press.modifiers() == Qt::NoModifier || keys == QKeySequence(kSelectAll)) return false;
     const QList<QAction*> actions = window.findChildren<QAction*>();
     return std::any_of(actions.begin(), actions.end(),
                        [&](const QAction* action) { return action->shortcuts().contains(keys); });

@@ -26,7 +26,7 @@ class TextControl : public QLineEdit {
 
   protected:
     // The window's shortcuts are its menu's, whatever they would do to the text; Ctrl+A selects the
-    // text, though.
+    // text, though, and the keys of the clipboard are the text's.
     bool event(QEvent* event) override;
 
   private:

@@ -20,6 +20,7 @@ class ShownDocument {
     void Reset();
 
     const DocumentState& State() const { return *state_; }
+    const std::shared_ptr<const DocumentState>& StatePointer() const { return state_; }
     const Animation& Current() const { return *state_->animation; }
     const Prefs& Settings() const { return *state_->settings; }
     const FrameSequence& Frames() const { return Current().frames; }

@@ -1,6 +1,9 @@
 #include "ui/file_panels/open_file_panel.h"
 
 #include <QFile>
+#include <vector>
+
+#include "base/natural_order.h"
 
 namespace kirto {
 
@@ -19,8 +22,11 @@ void OpenFilePanel::Prepare(FileDialog& dialog) {
 
 BMessage OpenFilePanel::CommandFor(const QStringList& files) const {
     BMessage command(setup_.command);
+    std::vector<std::string> paths;
     for (const QString& file : files)
-        command.AddRef("refs", entry_ref(QFile::encodeName(file).toStdString()));
+        paths.push_back(QFile::encodeName(file).toStdString());
+    for (const std::string& path : InNaturalOrder(paths))
+        command.AddRef("refs", entry_ref(path));
     return command;
 }
 

@@ -19,6 +19,11 @@ std::unique_ptr<FilePanel> MakeQtFilePanel(FilePanelKind kind, BMessenger target
                                  [&roster] { return std::make_unique<ImageFilter>(roster); }};
             return std::make_unique<OpenFilePanel>(std::move(setup), std::move(target), parent);
         }
+        case FilePanelKind::kInsertAnimation: {
+            OpenPanelSetup setup{"Insert Animation", kInsertAnimations, "Insert", true,
+                                 [] { return std::make_unique<KirtoFilter>(); }};
+            return std::make_unique<OpenFilePanel>(std::move(setup), std::move(target), parent);
+        }
         case FilePanelKind::kInsertTiled:
             return std::make_unique<InsertTiledFilePanel>(std::move(target), roster, parent);
         case FilePanelKind::kSave:

@@ -74,7 +74,10 @@ void FieldPanel::Show(const Animation& animation, bool end_edits) {
     const bool has_frame = animation.CurrentFrame() != nullptr;
     for (const Row& row : fields_) {
         const Field::Value value = row.field->In(animation);
-        if (row.box) {
+        if (row.field->IsOfFrame() && row.field->IsMixedIn(animation)) {
+            ShowMixed(row);
+        } else if (row.box) {
+            row.box->setTristate(false);
             row.box->setChecked(std::get<bool>(value));
         } else if (end_edits) {
             row.number->SetText(Text(value));
@@ -83,6 +86,16 @@ void FieldPanel::Show(const Animation& animation, bool end_edits) {
         }
         QWidget* control = row.box ? static_cast<QWidget*>(row.box) : row.number;
         if (row.field->IsOfFrame() && !row.is_switched) control->setEnabled(has_frame);
+    }
+}
+
+// A click sets the value for all selected frames, and so does a number that is typed.
+void FieldPanel::ShowMixed(const Row& row) {
+    if (row.box) {
+        row.box->setCheckState(Qt::PartiallyChecked);
+    } else {
+        row.number->setPlaceholderText("mixed");
+        row.number->ShowText({});
     }
 }
 

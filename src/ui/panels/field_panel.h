@@ -64,6 +64,7 @@ class FieldPanel : public QGroupBox {
         bool is_switched;  // follows another box
     };
 
+    static void ShowMixed(const Row& row);
     TextControl* MakeNumber(uint32 command, const char* tip, QCheckBox* box);
     BMessage Checked(const Row& row) const;
 

@@ -26,9 +26,12 @@ class StatusView : public QWidget {
     void HideWork();
 
     QLabel* status;
+    QLabel* selection;  // what is selected, and how long the animation plays
     QProgressBar* progress;
     QPushButton* cancel;
 
   private:
+    void ShowSelection();
+
     const kirto::ShownDocument& shown_;
 };

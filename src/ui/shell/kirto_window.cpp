@@ -226,6 +226,7 @@ void KirtoWindow::ShowParts(uint32 parts) {
     }
     if (parts & kStatus) status_view_->UpdateDisplay();
     ShowHistory();
+    kirto::ShowReversing(*menuBar(), !shown_.Current().several.Empty());
     kirto::EnableFrameItems(*menuBar(), !shown_.Frames().Empty());
 }
 

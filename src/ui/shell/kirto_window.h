@@ -125,6 +125,9 @@ class KirtoWindow : public QMainWindow, public BWindow {
     void Insert(BMessage* message);
     void InsertTiled(BMessage* message);
     void FadeEffects(BMessage* message);
+    void InsertAnimation(BMessage* message);
+    void ChooseFrames(BMessage* message);
+    void UseClipboard(BMessage* message);
     void Forward(BMessage* message);
     void PaletteFromFile(BMessage* message);
     void ChooseMode(BMessage* message);

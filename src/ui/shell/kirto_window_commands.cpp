@@ -1,4 +1,5 @@
 // What the main window does on each command.
+#include <QClipboard>
 #include <QGuiApplication>
 #include <QScreen>
 #include <QShortcut>
@@ -10,11 +11,13 @@
 #include "ui/panels/field_panel.h"
 #include "ui/panels/notice_bar.h"
 #include "ui/panels/status_view.h"
+#include "ui/shell/frame_commands.h"
 #include "ui/shell/kirto_window.h"
 #include "ui/shell/main_menu.h"
 #include "ui/thumbnails/difference_window.h"
 #include "ui/thumbnails/frame_list.h"
 #include "ui/thumbnails/frame_list_view.h"
+#include "ui/thumbnails/frames_mime_data.h"
 #include "ui/thumbnails/thumbnail_view.h"
 
 // One row of the command table.
@@ -53,6 +56,30 @@ const KirtoWindow::Command* KirtoWindow::CommandFor(uint32 code) {
         {kirto::kMenuInsert, &KirtoWindow::Insert},
         {kirto::kMenuInsertTiled, &KirtoWindow::InsertTiled},
         {kirto::kMenuFadeEffects, &KirtoWindow::FadeEffects},
+        {kirto::kMenuInsertAnimation, &KirtoWindow::InsertAnimation},
+        {kirto::kMenuCut, &KirtoWindow::UseClipboard},
+        {kirto::kMenuCopy, &KirtoWindow::UseClipboard},
+        {kirto::kMenuPaste, &KirtoWindow::UseClipboard},
+        {kirto::kMenuSelectAll, &KirtoWindow::ChooseFrames},
+        {kirto::kMenuSelectNone, &KirtoWindow::ChooseFrames},
+        {kirto::kMenuInvertSelection, &KirtoWindow::ChooseFrames},
+        {kirto::kMenuSelectEvery, &KirtoWindow::ChooseFrames},
+        {kirto::kMenuSelectRange, &KirtoWindow::ChooseFrames},
+        {kirto::kMenuSetPause, &KirtoWindow::ChooseFrames},
+        {kirto::kMenuDropEvery, &KirtoWindow::ChooseFrames},
+        {kirto::kMenuRemoveDuplicates, &KirtoWindow::ChooseFrames},
+        {kirto::kMenuResize, &KirtoWindow::ChooseFrames},
+        {kirto::kMenuCrop, &KirtoWindow::ChooseFrames},
+        {kirto::kMenuCanvasSize, &KirtoWindow::ChooseFrames},
+        {kirto::kMenuRotateRight, &KirtoWindow::ChooseFrames},
+        {kirto::kMenuRotateLeft, &KirtoWindow::ChooseFrames},
+        {kirto::kMenuFlipAcross, &KirtoWindow::ChooseFrames},
+        {kirto::kMenuFlipDown, &KirtoWindow::ChooseFrames},
+        {kirto::kMenuFitFrames, &KirtoWindow::ChooseFrames},
+        {kirto::kMenuAdjustColors, &KirtoWindow::ChooseFrames},
+        {kirto::kMenuOpacity, &KirtoWindow::ChooseFrames},
+        {kirto::kMenuOverlay, &KirtoWindow::ChooseFrames},
+        {kirto::kMenuMakeTransparent, &KirtoWindow::ChooseFrames},
         {kirto::kRemoveFrame, &KirtoWindow::Forward},
         {kirto::kMoveFrameUp, &KirtoWindow::Forward},
         {kirto::kMoveFrameDown, &KirtoWindow::Forward},
@@ -79,6 +106,7 @@ const KirtoWindow::Command* KirtoWindow::CommandFor(uint32 code) {
         {kirto::kDuplicateFrames, &KirtoWindow::Forward},
         {kirto::kForwardAndBack, &KirtoWindow::Forward},
         {kirto::kStartAtCurrent, &KirtoWindow::Forward},
+        {kirto::kPasteFrames, &KirtoWindow::Forward},
     };
     for (const Command& command : kCommands) {
         if (command.code == code) return &command;
@@ -258,6 +286,10 @@ void KirtoWindow::InsertTiled(BMessage*) {
     editor_.panels.GetPanel(kirto::FilePanelKind::kInsertTiled)->Show();
 }
 
+void KirtoWindow::InsertAnimation(BMessage*) {
+    editor_.panels.GetPanel(kirto::FilePanelKind::kInsertAnimation)->Show();
+}
+
 void KirtoWindow::FadeEffects(BMessage*) {
     if (!shown_.CurrentFrame()) return;
     auto* window = new FadeWindow(editor_.application, this);
@@ -265,6 +297,26 @@ void KirtoWindow::FadeEffects(BMessage*) {
     place.moveCenter(QGuiApplication::primaryScreen()->geometry().center());
     window->move(place.topLeft());
     window->show();
+}
+
+void KirtoWindow::ChooseFrames(BMessage* message) {
+    if (!shown_.CurrentFrame()) return;
+    const auto receive = [application = editor_.application](const BMessage& command) {
+        application.SendMessage(command);
+    };
+    kirto::ChooseFrames(message->what, shown_, this, receive);
+}
+
+void KirtoWindow::UseClipboard(BMessage* message) {
+    QClipboard& clipboard = *QGuiApplication::clipboard();
+    if (message->what == kirto::kMenuPaste) {
+        if (const auto command = kirto::PasteCommand(*clipboard.mimeData()))
+            PostToApplication(*command);
+        return;
+    }
+    if (!shown_.CurrentFrame()) return;
+    clipboard.setMimeData(new kirto::FramesMimeData(shown_.StatePointer()));
+    if (message->what == kirto::kMenuCut) PostToApplication(BMessage(kirto::kRemoveFrame));
 }
 
 void KirtoWindow::Forward(BMessage* message) {

@@ -14,9 +14,11 @@ struct Item {
     char key = 0;                 // with Ctrl; 0 for none
     uint32 command = 0;
     bool needs_frame = false;
+    bool shift = false;  // with the key
 };
 
 constexpr const char* kNeedsFrame = "needs_frame";
+constexpr const char* kReverse = "Reverse";
 
 constexpr Item kFileItems[] = {
     {"&New", 'N', kMenuNew},
@@ -28,6 +30,21 @@ constexpr Item kFileItems[] = {
     {"A&bout...", 0, B_ABOUT_REQUESTED},
     {},
     {"&Quit", 'Q', B_QUIT_REQUESTED},
+};
+
+// Below "Undo" and "Redo".
+constexpr Item kEditItems[] = {
+    {},
+    {"Cu&t", 'X', kMenuCut, true},
+    {"&Copy", 'C', kMenuCopy, true},
+    {"&Paste", 'V', kMenuPaste},
+    {"&Duplicate", 'U', kDuplicateFrames, true, true},
+    {},
+    {"Select &All", 'A', kMenuSelectAll, true, true},
+    {"Select &None", 0, kMenuSelectNone, true},
+    {"&Invert Selection", 'I', kMenuInvertSelection, true, true},
+    {"Select &Every Nth...", 0, kMenuSelectEvery, true},
+    {"Select Ran&ge...", 'G', kMenuSelectRange, true},
 };
 
 constexpr Item kViewItems[] = {
@@ -49,6 +66,31 @@ constexpr Item kFrameItems[] = {
     {"&Fade Effects...", 'F', kMenuFadeEffects, true},
 };
 
+constexpr Item kAnimationItems[] = {
+    {"&Insert Animation...", 0, kMenuInsertAnimation},
+    {},
+    {"Set &Pause...", 'L', kMenuSetPause, true},
+    {},
+    {"&Forward and Back", 0, kForwardAndBack, true},
+    {"&Shift Start to Current Frame", 0, kStartAtCurrent, true},
+    {"Remove D&uplicates...", 0, kMenuRemoveDuplicates, true},
+    {"&Drop Every Nth...", 0, kMenuDropEvery, true},
+    {},
+    {"&Resize Animation...", 0, kMenuResize, true},
+    {"&Crop...", 0, kMenuCrop, true},
+    {"Can&vas Size...", 0, kMenuCanvasSize, true},
+    {"Rotate Ri&ght", 0, kMenuRotateRight, true},
+    {"Rotate &Left", 0, kMenuRotateLeft, true},
+    {"Flip &Horizontally", 0, kMenuFlipAcross, true},
+    {"Flip Verticall&y", 0, kMenuFlipDown, true},
+    {},
+    {"Fit Fra&mes to Animation...", 0, kMenuFitFrames, true},
+    {"&Adjust Colors...", 0, kMenuAdjustColors, true},
+    {"&Opacity...", 0, kMenuOpacity, true},
+    {"Overlay Imag&e...", 0, kMenuOverlay, true},
+    {"Make &Transparent...", 0, kMenuMakeTransparent, true},
+};
+
 // Otherwise a desktop may take "Quit" and its like for items of its own.
 QAction* AddItem(QMenu& menu, const char* label, uint32 command, const MenuCommand& choose) {
     QAction* action = menu.addAction(QString::fromUtf8(label));
@@ -58,18 +100,24 @@ QAction* AddItem(QMenu& menu, const char* label, uint32 command, const MenuComma
 }
 
 template <size_t Count>
-void AddMenu(QMenuBar& bar, const char* title, const Item (&items)[Count],
-             const MenuCommand& choose) {
-    QMenu* menu = bar.addMenu(QString::fromUtf8(title));
+void AddItems(QMenu& menu, const Item (&items)[Count], const MenuCommand& choose) {
     for (const Item& item : items) {
         if (!item.label) {
-            menu->addSeparator();
+            menu.addSeparator();
             continue;
         }
-        QAction* action = AddItem(*menu, item.label, item.command, choose);
-        if (item.key != 0) action->setShortcut(QKeySequence(Qt::CTRL | Qt::Key(item.key)));
+        QAction* action = AddItem(menu, item.label, item.command, choose);
+        const Qt::Modifiers keys = item.shift ? Qt::CTRL | Qt::SHIFT : Qt::Modifiers(Qt::CTRL);
+        if (item.key != 0) action->setShortcut(QKeyCombination(keys, Qt::Key(item.key)));
         action->setProperty(kNeedsFrame, item.needs_frame);
+        if (item.command == kReverseFrames) action->setObjectName(kReverse);
     }
+}
+
+template <size_t Count>
+void AddMenu(QMenuBar& bar, const char* title, const Item (&items)[Count],
+             const MenuCommand& choose) {
+    AddItems(*bar.addMenu(QString::fromUtf8(title)), items, choose);
 }
 
 void AddEditMenu(QMenuBar& bar, const MenuCommand& choose) {
@@ -80,6 +128,7 @@ void AddEditMenu(QMenuBar& bar, const MenuCommand& choose) {
     QAction* redo = AddItem(*menu, "&Redo", kRedo, choose);
     redo->setObjectName("Redo");
     redo->setShortcuts({Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y});
+    AddItems(*menu, kEditItems, choose);
 }
 
 void NameEdit(const QMenuBar& menu_bar, const char* label, const std::string& edit) {
@@ -98,6 +147,7 @@ QMenuBar* MakeMainMenu(QWidget* parent, const MenuCommand& choose) {
     AddEditMenu(*bar, choose);
     AddMenu(*bar, "&View", kViewItems, choose);
     AddMenu(*bar, "F&rame", kFrameItems, choose);
+    AddMenu(*bar, "&Animation", kAnimationItems, choose);
     EnableFrameItems(*bar, false);
     ShowHistory(*bar, {}, {});
     return bar;
@@ -110,6 +160,11 @@ void ShowHistory(QMenuBar& menu_bar, const std::string& undo_name, const std::st
 
 void EnableUndo(QMenuBar& menu_bar) {
     menu_bar.findChild<QAction*>("Undo")->setEnabled(true);
+}
+
+void ShowReversing(QMenuBar& menu_bar, bool selected) {
+    menu_bar.findChild<QAction*>(kReverse)->setText(selected ? "Re&verse Selected"
+                                                             : "Re&verse All");
 }
 
 void EnableFrameItems(QMenuBar& menu_bar, bool enable) {

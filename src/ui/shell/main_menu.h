@@ -21,6 +21,9 @@ void ShowHistory(QMenuBar& menu_bar, const std::string& undo_name, const std::st
 // Enables "Undo" for an edit that is not in the history yet.
 void EnableUndo(QMenuBar& menu_bar);
 
+// Says whether "Reverse" is about the selected frames or about all.
+void ShowReversing(QMenuBar& menu_bar, bool selected);
+
 // Enables the items that need a frame, or disables them.
 void EnableFrameItems(QMenuBar& menu_bar, bool enable);
 

@@ -1,6 +1,9 @@
 #include "ui/thumbnails/file_urls.h"
 
 #include <QSysInfo>
+#include <vector>
+
+#include "base/natural_order.h"
 
 namespace kirto {
 
@@ -21,11 +24,14 @@ QByteArray FileUrlOf(const std::string& path) {
 }
 
 bool AddRefs(const QMimeData& data, BMessage* message) {
-    bool added = false;
+    std::vector<std::string> paths;
     for (const QUrl& url : data.urls()) {
-        const std::optional<std::string> path = LocalPathOf(url);
-        if (path) added = message->AddRef("refs", entry_ref(*path)) == B_OK || added;
+        std::optional<std::string> path = LocalPathOf(url);
+        if (path) paths.push_back(std::move(*path));
     }
+    bool added = false;
+    for (const std::string& path : InNaturalOrder(paths))
+        added = message->AddRef("refs", entry_ref(path)) == B_OK || added;
     return added;
 }
 

@@ -1,10 +1,12 @@
 #include "ui/thumbnails/frame_drag.h"
 
+#include <QCoreApplication>
 #include <QDrag>
 #include <QPixmap>
 #include <QTimer>
 #include <QWidget>
 
+#include "app/frames_exchange.h"
 #include "ui/thumbnails/direct_save.h"
 #include "ui/thumbnails/file_urls.h"
 
@@ -12,23 +14,31 @@ namespace kirto {
 
 namespace {
 
+// The number of the process that the drag began in.
+constexpr char kProcessType[] = "application/x-kirto-process";
 constexpr char kFileListType[] = "text/uri-list";
 
-QByteArray BytesOf(const BMessage& message) {
-    const std::vector<uint8> bytes = message.Flatten();
+QByteArray BytesOf(const std::vector<uint8>& bytes) {
     return {reinterpret_cast<const char*>(bytes.data()), static_cast<qsizetype>(bytes.size())};
+}
+
+QByteArray ThisProcess() {
+    return QByteArray::number(QCoreApplication::applicationPid());
 }
 
 }  // namespace
 
-FrameDrag::FrameDrag(const BMessage& message, std::string file_name, std::string folder, Save save)
-    : message_(BytesOf(message)),
+FrameDrag::FrameDrag(const BMessage& message, std::string file_name, std::string folder, Save save,
+                     std::shared_ptr<const DocumentState> state)
+    : message_(BytesOf(message.Flatten())),
       file_name_(std::move(file_name)),
       folder_(std::move(folder)),
-      save_(std::move(save)) {}
+      save_(std::move(save)),
+      state_(std::move(state)) {}
 
 QStringList FrameDrag::formats() const {
     QStringList types{kDragMessageType, kFileListType};
+    if (state_) types << kFramesType << kProcessType;
     if (IsDirectSavePossible()) types.append(kDirectSaveType);
     return types;
 }
@@ -40,6 +50,8 @@ bool FrameDrag::hasFormat(const QString& type) const {
 QVariant FrameDrag::retrieveData(const QString& type, QMetaType) const {
     if (type == kDragMessageType) return message_;
     if (type == kFileListType) return FileList();
+    if (type == kProcessType && state_) return ThisProcess();
+    if (type == kFramesType && state_) return BytesOf(PackFrames(*state_));
     if (type == kDirectSaveType) return DirectSaveAnswer();
     return {};
 }
@@ -70,6 +82,10 @@ bool BeganInKirto(const QMimeData& data) {
     int32 mark = 0;
     return message.Unflatten(flattened.data(), flattened.size()) == B_OK &&
            message.FindInt32("Kirto", &mark) == B_OK;
+}
+
+bool BeganInAnotherEditor(const QMimeData& data) {
+    return data.hasFormat(kProcessType) && data.data(kProcessType) != ThisProcess();
 }
 
 void RunFrameDrag(QWidget* source, std::unique_ptr<FrameDrag> data, const QImage& image,

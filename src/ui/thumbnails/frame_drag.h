@@ -8,6 +8,7 @@
 #include <optional>
 #include <string>
 
+#include "document/document_state.h"
 #include "kit/message.h"
 #include "kit/point.h"
 
@@ -28,7 +29,9 @@ class FrameDrag : public QMimeData {
     // file_name: what the file is called, unless the target calls it otherwise. folder: an empty
     // one for the file; who owns it keeps it as long as a target may be reading, which is often
     // longer than the drag.
-    FrameDrag(const BMessage& message, std::string file_name, std::string folder, Save save);
+    // state: the document, whose selected frames another editor gets; null for none.
+    FrameDrag(const BMessage& message, std::string file_name, std::string folder, Save save,
+              std::shared_ptr<const DocumentState> state = nullptr);
 
     const std::string& FileName() const { return file_name_; }
 
@@ -47,11 +50,15 @@ class FrameDrag : public QMimeData {
     const std::string file_name_;
     const std::string folder_;
     const Save save_;
+    const std::shared_ptr<const DocumentState> state_;
     mutable std::optional<bool> is_saved_;  // whether the file in the folder is; unknown before
 };
 
 // True for a drag that a Kirto window began with a frame of its own.
 bool BeganInKirto(const QMimeData& data);
+
+// True where that was a window of another process.
+bool BeganInAnotherEditor(const QMimeData& data);
 
 // Drags the frame with the picture under the pointer, and returns when the drag is over. grab: the
 // pointer's place in the picture.

@@ -3,7 +3,7 @@
 #include <QPainter>
 #include <cmath>
 
-#include "ui/thumbnails/picture_painter.h"
+#include "ui/controls/picture_painter.h"
 
 namespace kirto {
 

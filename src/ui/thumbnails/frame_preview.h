@@ -6,7 +6,7 @@
 
 #include "animation/frame.h"
 #include "kit/rect.h"
-#include "ui/thumbnails/thumbnail_cache.h"
+#include "ui/controls/thumbnail_cache.h"
 
 namespace kirto {
 

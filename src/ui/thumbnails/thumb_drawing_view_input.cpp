@@ -10,6 +10,7 @@
 #include "document/command_codes.h"
 #include "kit/alert.h"
 #include "ui/thumbnails/file_urls.h"
+#include "ui/thumbnails/frames_mime_data.h"
 #include "ui/thumbnails/targa_file.h"
 #include "ui/thumbnails/thumb_drawing_view.h"
 
@@ -34,8 +35,18 @@ void ThumbDrawingView::MakeMenu() {
         {"Move Up", kirto::kMoveFrameUp},
         {"Move Down", kirto::kMoveFrameDown},
         {"Fade Effects...", kirto::kMenuFadeEffects},
+        {nullptr, 0},
+        {"Cut", kirto::kMenuCut},
+        {"Copy", kirto::kMenuCopy},
+        {"Paste", kirto::kMenuPaste},
+        {"Duplicate", kirto::kDuplicateFrames},
+        {"Set Pause...", kirto::kMenuSetPause},
     };
     for (const auto& [label, command] : items) {
+        if (!label) {
+            menu_.addSeparator();
+            continue;
+        }
         menu_.addAction(label, this, [this, code = command] { window_.SendMessage(code); });
     }
 }
@@ -226,7 +237,8 @@ void ThumbDrawingView::DragToTracker(BPoint grab) {
     // What targets ask may outlive the drag, and perhaps this view.
     auto drag = std::make_unique<kirto::FrameDrag>(
         message, kirto::TargaFileName(frame->name), NewDragFolder(),
-        [view = QPointer(this)](BMessage* wanted) { return view && view->SaveToTracker(wanted); });
+        [view = QPointer(this)](BMessage* wanted) { return view && view->SaveToTracker(wanted); },
+        shown_.StatePointer());
     const QPointer self(this);
     dragging_ = true;
     start_drag_(std::move(drag), DragImage(*frame), grab);
@@ -271,8 +283,10 @@ void ThumbDrawingView::dragEnterEvent(QDragEnterEvent* event) {
     dragMoveEvent(event);
 }
 
-// Several frames are moved by dragging them, one only with Shift.
+// Several frames are moved by dragging them, one only with Shift; those of another editor are
+// copied.
 bool ThumbDrawingView::MovesFrames(const QDropEvent& event) const {
+    if (kirto::BeganInAnotherEditor(*event.mimeData())) return true;
     return !shown_.Current().several.Empty() || (event.modifiers() & Qt::ShiftModifier);
 }
 
@@ -311,6 +325,13 @@ void ThumbDrawingView::dropEvent(QDropEvent* event) {
 }
 
 void ThumbDrawingView::DropOwn(const QDropEvent& event) {
+    if (kirto::BeganInAnotherEditor(*event.mimeData())) {
+        if (auto paste = kirto::PasteCommand(*event.mimeData())) {
+            paste->AddInt32("position", drop_position_);
+            window_.SendMessage(*paste);
+        }
+        return;
+    }
     if (MovesFrames(event)) {
         const bool copies = event.modifiers() & Qt::ControlModifier;
         BMessage move(copies ? kirto::kCopyFramesTo : kirto::kMoveFramesTo);

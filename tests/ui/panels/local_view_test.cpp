@@ -205,6 +205,30 @@ TEST_F(LocalViewTest, ShowsTheModeWithoutSendingIt) {
     EXPECT_EQ(port->Transcript(), "");
 }
 
+TEST_F(LocalViewTest, ShowsWhereSelectedFramesDiffer) {
+    AddFrame();
+    const FrameHandle second = AddFrame();
+    second->use_pause = true;
+    second->x_offset = 7;
+    Animation next = *document.Current();
+    SelectFrames(next, FrameSet::Of(0, 1), 0);
+    document.Commit(next);
+    Update();
+
+    EXPECT_EQ(panel.pause->checkState(), Qt::PartiallyChecked);
+    EXPECT_EQ(panel.x_offset->text(), "");
+    EXPECT_EQ(panel.x_offset->placeholderText(), "mixed");
+    EXPECT_EQ(panel.y_offset->text(), "0");
+
+    SelectFrame(next, 1);
+    document.Commit(next);
+    Update();
+
+    EXPECT_EQ(panel.pause->checkState(), Qt::Checked);
+    EXPECT_FALSE(panel.pause->isTristate());
+    EXPECT_EQ(panel.x_offset->text(), "7");
+}
+
 }  // namespace
 
 }  // namespace kirto::test

@@ -216,8 +216,22 @@ TEST_F(KirtoWindowCommands, FilesDroppedOnTheWindowAreForwarded) {
     EXPECT_EQ(LastPosted().CountItems("refs"), 2);
     EXPECT_EQ(LastPosted().FindRef("refs", &first, 0), B_OK);
     EXPECT_EQ(LastPosted().FindRef("refs", &second, 1), B_OK);
-    EXPECT_EQ(first.path, "/some/a file.gif");
-    EXPECT_EQ(second.path, "/c.png");
+    EXPECT_EQ(first.path, "/c.png");
+    EXPECT_EQ(second.path, "/some/a file.gif");
+}
+
+TEST_F(KirtoWindowCommands, FilesDroppedTogetherComeInTheOrderOfTheirNumbers) {
+    Open();
+    QMimeData data;
+    data.setUrls({QUrl("file:///10.png"), QUrl("file:///9.png"), QUrl("file:///1.png")});
+
+    EXPECT_TRUE(Drop(data));
+
+    std::string order;
+    entry_ref ref;
+    for (int32 i = 0; LastPosted().FindRef("refs", &ref, i) == B_OK; ++i)
+        order += ref.path;
+    EXPECT_EQ(order, "/1.png/9.png/10.png");
 }
 
 TEST_F(KirtoWindowCommands, OtherDropsAreIgnored) {

@@ -39,13 +39,13 @@ class MainMenu : public ::testing::Test {
     QMenuBar* bar = MakeMainMenu(&window, [this](uint32 code) { chosen += CodeText(code); });
 };
 
-TEST_F(MainMenu, HasFourMenusWithEditBetweenFileAndView) {
+TEST_F(MainMenu, HasItsMenusWithEditBetweenFileAndView) {
     Lines titles;
     for (const QAction* action : bar->actions())
         titles.push_back(action->text().remove('&').toStdString());
 
     EXPECT_EQ(bar->objectName(), "MenuBar");
-    EXPECT_EQ(titles, (Lines{"File", "Edit", "View", "Frame"}));
+    EXPECT_EQ(titles, (Lines{"File", "Edit", "View", "Frame", "Animation"}));
 }
 
 TEST_F(MainMenu, HasTheItemsOfTheFileMenu) {
@@ -58,9 +58,41 @@ TEST_F(MainMenu, HasTheItemsOfTheFileMenu) {
 
 TEST_F(MainMenu, HasTheItemsOfTheEditMenu) {
     ShowHistory(*bar, "Remove Frame", "Reverse Frames");
+    EnableFrameItems(*bar, true);
 
-    EXPECT_EQ(ItemsOf(MenuAt(1)), (Lines{"Undo Remove Frame|Ctrl+Z|" + CodeText(kUndo),
-                                         "Redo Reverse Frames|Ctrl+Shift+Z|" + CodeText(kRedo)}));
+    const auto item = [](const char* text, uint32 code) { return text + CodeText(code); };
+    EXPECT_EQ(
+        ItemsOf(MenuAt(1)),
+        (Lines{item("Undo Remove Frame|Ctrl+Z|", kUndo),
+               item("Redo Reverse Frames|Ctrl+Shift+Z|", kRedo), "-", item("Cut|Ctrl+X|", kMenuCut),
+               item("Copy|Ctrl+C|", kMenuCopy), item("Paste|Ctrl+V|", kMenuPaste),
+               item("Duplicate|Ctrl+Shift+U|", kDuplicateFrames), "-",
+               item("Select All|Ctrl+Shift+A|", kMenuSelectAll),
+               item("Select None||", kMenuSelectNone),
+               item("Invert Selection|Ctrl+Shift+I|", kMenuInvertSelection),
+               item("Select Every Nth...||", kMenuSelectEvery),
+               item("Select Range...|Ctrl+G|", kMenuSelectRange)}));
+}
+
+TEST_F(MainMenu, HasTheItemsOfTheAnimationMenu) {
+    EnableFrameItems(*bar, true);
+
+    const auto item = [](const char* text, uint32 code) { return text + CodeText(code); };
+    EXPECT_EQ(ItemsOf(MenuAt(4)), (Lines{item("Insert Animation...||", kMenuInsertAnimation), "-",
+                                         item("Set Pause...|Ctrl+L|", kMenuSetPause), "-",
+                                         item("Forward and Back||", kForwardAndBack),
+                                         item("Shift Start to Current Frame||", kStartAtCurrent),
+                                         item("Remove Duplicates...||", kMenuRemoveDuplicates),
+                                         item("Drop Every Nth...||", kMenuDropEvery)}));
+}
+
+TEST_F(MainMenu, SaysWhetherAllOrTheSelectedFramesAreReversed) {
+    const QAction* reverse = bar->findChild<QAction*>("Reverse");
+
+    ShowReversing(*bar, true);
+    EXPECT_EQ(reverse->text(), "Re&verse Selected");
+    ShowReversing(*bar, false);
+    EXPECT_EQ(reverse->text(), "Re&verse All");
 }
 
 TEST_F(MainMenu, RedoesWithTheKeysOfEitherHabit) {
@@ -150,13 +182,21 @@ TEST_F(MainMenu, DisablesWhatNeedsAFrameWithoutOne) {
         }
         return labels;
     };
-    const Lines without_frames = {
-        "New",         "Open...",        "Save",      "About...",       "Quit",
-        "Toggle Mode", "Preferences...", "Insert...", "Insert Tiled..."};
+    const Lines without_frames = {"New",
+                                  "Open...",
+                                  "Save",
+                                  "About...",
+                                  "Quit",
+                                  "Paste",
+                                  "Toggle Mode",
+                                  "Preferences...",
+                                  "Insert...",
+                                  "Insert Tiled...",
+                                  "Insert Animation..."};
 
     EXPECT_EQ(enabled(), without_frames);
     EnableFrameItems(*bar, true);
-    EXPECT_EQ(enabled().size(), 16u);
+    EXPECT_EQ(enabled().size(), 31u);
     EnableFrameItems(*bar, false);
     EXPECT_EQ(enabled(), without_frames);
 }

@@ -3,6 +3,7 @@
 #include <QUrl>
 #include <gtest/gtest.h>
 
+#include "app/frames_exchange.h"
 #include "ui/thumbnails/direct_save.h"
 #include "ui/thumbnails/frame_area_fixture.h"
 
@@ -45,6 +46,22 @@ TEST(FrameDrag, CarriesItsMessageInsideKirto) {
     EXPECT_EQ(carried, message);
     EXPECT_TRUE(BeganInKirto(drag));
     EXPECT_TRUE(saves.paths.empty());
+}
+
+TEST(FrameDrag, CarriesTheSelectedFramesToOtherEditors) {
+    DocumentFixture fixture;
+    ShownDocument shown;
+    ShowFrames(shown, fixture.document, SameFrames(2, 4, 2), 1);
+    const FrameDrag drag(BMessage(B_SIMPLE_DATA), "a.tga", "/folder", {}, shown.StatePointer());
+    EXPECT_EQ(drag.data(kFramesType).toStdString(), [packed = PackFrames(shown.State())] {
+        return std::string(packed.begin(), packed.end());
+    }());
+    EXPECT_FALSE(BeganInAnotherEditor(drag));
+
+    QMimeData other;
+    other.setData("application/x-kirto-process", "1");
+    EXPECT_TRUE(BeganInAnotherEditor(other));
+    EXPECT_FALSE(BeganInAnotherEditor(QMimeData()));
 }
 
 TEST(FrameDrag, WritesItsFileOnceAndOnlyWhenSomebodyAsks) {

@@ -305,7 +305,7 @@ TEST(ThumbDrawingViewDrag, InsertsAtTheStartWithoutFrames) {
     EXPECT_NE(image.pixel(2, 102), bar);
 }
 
-TEST(ThumbDrawingViewDrag, DoesNothingWhenAThumbnailIsDraggedBackOntoTheGrid) {
+TEST(ThumbDrawingViewDrag, DoesNothingButSayHowWhenAThumbnailIsDraggedBackOntoTheGrid) {
     ThumbnailFixture fixture(SameFrames(4, 100, 100));
     BegunDrag begun;
     fixture.Grid().SetDragStarter(begun.Starter());
@@ -315,7 +315,8 @@ TEST(ThumbDrawingViewDrag, DoesNothingWhenAThumbnailIsDraggedBackOntoTheGrid) {
     EXPECT_EQ(fixture.Grid().DropPosition(), -1);
     EXPECT_EQ(Drop(fixture.Grid(), *begun.data, fixture.MiddleOf(2)), Qt::IgnoreAction);
     EXPECT_EQ(fixture.Grid().DropPosition(), -1);
-    EXPECT_EQ(fixture.window->Transcript(), "");
+    EXPECT_EQ(fixture.window->Transcript(),
+              "svup(Status: Shift moves the frame, Ctrl+Shift copies it)");
 }
 
 TEST(ThumbDrawingViewDrag, LeavesEverythingButFilesOfThisMachineAlone) {

@@ -1,9 +1,9 @@
-#include "ui/thumbnails/picture_painter.h"
+#include "ui/controls/picture_painter.h"
 
 #include <algorithm>
 #include <cmath>
 
-#include "ui/thumbnails/image_of.h"
+#include "ui/controls/image_of.h"
 
 namespace kirto {
 

@@ -1,4 +1,4 @@
-#include "ui/thumbnails/thumbnail_cache.h"
+#include "ui/controls/thumbnail_cache.h"
 
 #include <gtest/gtest.h>
 

@@ -7,7 +7,7 @@
 #include <memory>
 
 #include "kit/rect.h"
-#include "ui/thumbnails/thumbnail_cache.h"
+#include "ui/controls/thumbnail_cache.h"
 
 namespace kirto {
 

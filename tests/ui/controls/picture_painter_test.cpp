@@ -1,4 +1,4 @@
-#include "ui/thumbnails/picture_painter.h"
+#include "ui/controls/picture_painter.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "ui/thumbnails/image_of.h"
+#include "ui/controls/image_of.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
-#include "ui/thumbnails/thumbnail_cache.h"
+#include "ui/controls/thumbnail_cache.h"
 
-#include "ui/thumbnails/image_of.h"
+#include "ui/controls/image_of.h"
 
 namespace kirto {
 

@@ -1,0 +1,117 @@
+#include "ui/controls/picture_area.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPainterPath>
+#include <algorithm>
+#include <cmath>
+
+#include "ui/controls/picture_painter.h"
+
+namespace kirto {
+
+namespace {
+
+constexpr int kMargin = 4;  // around the canvas, so that its edges can be drawn from, pixels
+constexpr int kSide = 400;  // that is asked for, pixels
+
+BRect RectOf(const QRectF& rectangle) {
+    return {static_cast<float>(rectangle.left()), static_cast<float>(rectangle.top()),
+            static_cast<float>(rectangle.right()) - 1, static_cast<float>(rectangle.bottom()) - 1};
+}
+
+}  // namespace
+
+PictureArea::PictureArea(const Animation& animation, QWidget* parent)
+    : QWidget(parent),
+      canvas_(std::max(animation.width, 1), std::max(animation.height, 1)),
+      frame_(animation.CurrentFrame()) {
+    setObjectName("PictureArea");
+    setAccessibleName("Picture");
+    setCursor(Qt::CrossCursor);
+    setMinimumSize(kSide / 2, kSide / 2);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+}
+
+QSize PictureArea::sizeHint() const {
+    return {kSide, kSide * 3 / 4};
+}
+
+double PictureArea::Scale() const {
+    return std::min(static_cast<double>(width() - 2 * kMargin) / canvas_.width(),
+                    static_cast<double>(height() - 2 * kMargin) / canvas_.height());
+}
+
+QRectF PictureArea::PlaceOf(const QRect& area) const {
+    const double scale = Scale();
+    const double left = (width() - canvas_.width() * scale) / 2;
+    const double top = (height() - canvas_.height() * scale) / 2;
+    return {left + area.left() * scale, top + area.top() * scale, area.width() * scale,
+            area.height() * scale};
+}
+
+QPoint PictureArea::CanvasPointAt(QPointF position) const {
+    const QPointF inside = (position - PlaceOf(Canvas()).topLeft()) / Scale();
+    return {static_cast<int>(std::floor(inside.x())), static_cast<int>(std::floor(inside.y()))};
+}
+
+void PictureArea::ShowArea(const QRect& area) {
+    area_ = area & Canvas();
+    update();
+}
+
+void PictureArea::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    const QRectF canvas = PlaceOf(Canvas());
+    PicturePainter pictures(painter, palette(), true, cache_);
+    pictures.Draw(nullptr, RectOf(canvas));
+    if (frame_) {
+        painter.setClipRect(canvas);
+        pictures.Draw(
+            frame_->bitmap,
+            RectOf(PlaceOf({frame_->x_offset, frame_->y_offset, frame_->width, frame_->height})));
+        painter.setClipping(false);
+    }
+    if (pictures.WasCoarse()) update();
+    if (area_.isEmpty()) return;
+    constexpr QColor kDimmed(0, 0, 0, 128);
+    QPainterPath outside;
+    outside.addRect(canvas);
+    outside.addRect(PlaceOf(area_));
+    painter.fillPath(outside, kDimmed);
+    painter.setPen(QPen(palette().highlight(), 1));
+    painter.drawRect(PlaceOf(area_));
+}
+
+void PictureArea::mousePressEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton) return;
+    start_ = CanvasPointAt(event->position());
+    if (clicked_ && Canvas().contains(start_)) clicked_(start_);
+}
+
+void PictureArea::mouseMoveEvent(QMouseEvent* event) {
+    if (!drawn_ || !(event->buttons() & Qt::LeftButton)) return;
+    ShowArea(Drawing(CanvasPointAt(event->position())));
+    if (!area_.isEmpty()) drawn_(area_);
+}
+
+// From where the button went down, pixels at both ends included, in the ratio.
+QRect PictureArea::Drawing(QPoint to) const {
+    const QRect canvas = Canvas();
+    const auto inside = [&canvas](QPoint point) {
+        return QPoint(std::clamp(point.x(), canvas.left(), canvas.right()),
+                      std::clamp(point.y(), canvas.top(), canvas.bottom()));
+    };
+    const QPoint from = inside(start_);
+    to = inside(to);
+    QSize size(std::abs(to.x() - from.x()) + 1, std::abs(to.y() - from.y()) + 1);
+    if (ratio_) {
+        const int width = std::min(size.width(), qRound(size.height() * *ratio_));
+        size = {std::max(width, 1), std::max(qRound(width / *ratio_), 1)};
+    }
+    const int left = to.x() < from.x() ? from.x() - size.width() + 1 : from.x();
+    const int top = to.y() < from.y() ? from.y() - size.height() + 1 : from.y();
+    return {QPoint(left, top), size};
+}
+
+}  // namespace kirto

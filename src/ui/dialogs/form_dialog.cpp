@@ -1,0 +1,59 @@
+#include "ui/dialogs/form_dialog.h"
+
+#include <QDialogButtonBox>
+#include <QFormLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace kirto {
+
+FormDialog::FormDialog(const char* name, const QString& title, const QString& scope,
+                       QWidget* parent)
+    : QDialog(parent),
+      form_(new QFormLayout),
+      buttons_(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel)) {
+    setObjectName(name);
+    setWindowTitle(title);
+    setAttribute(Qt::WA_DeleteOnClose);
+    auto* about = new QLabel(scope, this);
+    about->setObjectName("Scope");
+    about->setWordWrap(true);
+    about->setMinimumWidth(fontMetrics().horizontalAdvance("0") * 36);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(about);
+    layout->addLayout(form_);
+    layout->addStretch();
+    layout->addWidget(buttons_);
+    connect(buttons_, &QDialogButtonBox::accepted, this, [this] { Finish(); });
+    connect(buttons_, &QDialogButtonBox::rejected, this, &QDialog::reject);
+}
+
+void FormDialog::AddField(const QString& label, QWidget* field) {
+    form_->addRow(label, field);
+    field->setAccessibleName(QString(label).remove(':').remove('&'));
+}
+
+void FormDialog::AddWide(QWidget* field) {
+    form_->addRow(field);
+}
+
+void FormDialog::Open(Maker make, Receiver receive) {
+    make_ = std::move(make);
+    receive_ = std::move(receive);
+    Check();
+    show();
+}
+
+void FormDialog::Check() {
+    if (make_) buttons_->button(QDialogButtonBox::Ok)->setEnabled(make_().has_value());
+}
+
+void FormDialog::Finish() {
+    const std::optional<BMessage> command = make_();
+    if (!command) return;
+    receive_(*command);
+    accept();
+}
+
+}  // namespace kirto

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QDialog>
+#include <functional>
+#include <optional>
+
+#include "kit/message.h"
+
+class QDialogButtonBox;
+class QFormLayout;
+class QLabel;
+
+namespace kirto {
+
+// A small dialog of one form: what it works on, a few fields, and "OK", which can be chosen while
+// the fields make a command. Opens beside its parent window and deletes itself when it is closed.
+// GUI thread.
+class FormDialog : public QDialog {
+  public:
+    // Makes the command of what the fields hold now; empty while they make none.
+    using Maker = std::function<std::optional<BMessage>()>;
+    // Receives it when the user chooses "OK".
+    using Receiver = std::function<void(const BMessage& command)>;
+
+    // name: the object's; scope: which frames it is about, as a sentence.
+    FormDialog(const char* name, const QString& title, const QString& scope, QWidget* parent);
+
+    // Adds a field with its label, which names it for those who can't see it.
+    void AddField(const QString& label, QWidget* field);
+    // Adds a field that says by itself what it is.
+    void AddWide(QWidget* field);
+    // Called once, when all fields are there.
+    void Open(Maker make, Receiver receive);
+    // Looks at the fields again.
+    void Check();
+
+  private:
+    void Finish();
+
+    QFormLayout* form_;
+    QDialogButtonBox* buttons_;
+    Maker make_;
+    Receiver receive_;
+};
+
+}  // namespace kirto

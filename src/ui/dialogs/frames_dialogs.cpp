@@ -1,0 +1,156 @@
+#include "ui/dialogs/frames_dialogs.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QSpinBox>
+#include <algorithm>
+
+#include "animation/pauses.h"
+#include "document/command_codes.h"
+
+namespace kirto {
+
+namespace {
+
+QString ScopeOf(const Animation& shown) {
+    const int32 several = shown.several.Count();
+    return several > 0 ? QString("Works on the %1 selected frames.").arg(several)
+                       : QString("Works on all %1 frames, since only one is selected.")
+                             .arg(shown.frames.Size());
+}
+
+QSpinBox* AddNumber(FormDialog& dialog, const char* name, const char* label, int first, int last,
+                    int value) {
+    auto* number = new QSpinBox(&dialog);
+    number->setObjectName(name);
+    number->setRange(first, last);
+    number->setValue(value);
+    dialog.AddField(label, number);
+    number->setFocus();
+    number->selectAll();
+    return number;
+}
+
+BMessage WithNumber(uint32 code, const char* field, int32 number) {
+    BMessage message(code);
+    message.AddInt32(field, number);
+    return message;
+}
+
+}  // namespace
+
+void AskForEveryNth(const Animation& shown, QWidget* parent, FormDialog::Receiver receive) {
+    const int last = shown.frames.Size() - 1;
+    auto* dialog = new FormDialog("SelectEvery", "Select Every Nth",
+                                  "Selects among all frames. The first frame is frame 0.", parent);
+    auto* first = AddNumber(*dialog, "First", "&Beginning with frame:", 0, last, 0);
+    auto* step = AddNumber(*dialog, "Step", "&Every:", 1, last + 1, 2);
+    const auto make = [=]() -> std::optional<BMessage> {
+        BMessage message(kSelectFrames);
+        message.AddString("frames", TextOf(FrameSet::Of(first->value(), last, step->value())));
+        return message;
+    };
+    dialog->Open(make, std::move(receive));
+}
+
+void AskForRange(const Animation& shown, QWidget* parent, FormDialog::Receiver receive) {
+    const int32 count = shown.frames.Size();
+    auto* dialog = new FormDialog(
+        "SelectRange", "Select Range",
+        QString("Frames are numbered from 0 to %1, or from the end: the last is -1. Examples: 3-7, "
+                "0-20/2 for every second one, 0,4,7, all.")
+            .arg(count - 1),
+        parent);
+    auto* field = new QLineEdit(QString::fromStdString(TextOf(shown.Selection())), dialog);
+    field->setObjectName("Range");
+    dialog->AddField("&Frames:", field);
+    field->setFocus();
+    field->selectAll();
+    QObject::connect(field, &QLineEdit::textChanged, dialog, &FormDialog::Check);
+    const auto make = [=]() -> std::optional<BMessage> {
+        const std::string text = field->text().toStdString();
+        if (!ParseFrameSet(text, count)) return std::nullopt;
+        BMessage message(kSelectFrames);
+        message.AddString("frames", text);
+        return message;
+    };
+    dialog->Open(make, std::move(receive));
+}
+
+void AskForDropping(const Animation& shown, QWidget* parent, FormDialog::Receiver receive) {
+    auto* dialog = new FormDialog(
+        "DropEvery", "Drop Every Nth",
+        ScopeOf(shown) + " The frame before each one that goes is shown for as long as both were.",
+        parent);
+    auto* number =
+        AddNumber(*dialog, "Step", "&Drop every:", 2, std::max(shown.frames.Size(), 2), 2);
+    const auto make = [=]() -> std::optional<BMessage> {
+        return WithNumber(kDropEveryNth, "number", number->value());
+    };
+    dialog->Open(make, std::move(receive));
+}
+
+void AskForTolerance(const Animation& shown, QWidget* parent, FormDialog::Receiver receive) {
+    auto* dialog = new FormDialog("RemoveDuplicates", "Remove Duplicates",
+                                  ScopeOf(shown) +
+                                      " A frame that shows what the one before shows "
+                                      "is removed, and its pause added to that one.",
+                                  parent);
+    auto* tolerance = AddNumber(*dialog, "Tolerance", "&Tolerance:", 0, 255, 0);
+    tolerance->setToolTip("By how much red, green and blue of a pixel may differ; 0: not at all");
+    const auto make = [=]() -> std::optional<BMessage> {
+        return WithNumber(kRemoveDuplicates, "tolerance", tolerance->value());
+    };
+    dialog->Open(make, std::move(receive));
+}
+
+void AskForPause(const Animation& shown, bool in_seconds, QWidget* parent,
+                 FormDialog::Receiver receive) {
+    auto* dialog = new FormDialog("SetPause", "Set Pause",
+                                  "Browsers play pauses below 20 milliseconds slower.", parent);
+    auto* value = new QDoubleSpinBox(dialog);
+    value->setObjectName("Value");
+    value->setRange(0, 1e6);
+    value->setValue(shown.CurrentFrame() ? shown.PauseOf(*shown.CurrentFrame()) : 0);
+    dialog->AddField("&Pause:", value);
+    auto* unit = new QComboBox(dialog);
+    unit->setObjectName("Unit");
+    unit->addItem(in_seconds ? "seconds" : "hundredths of a second", "");
+    unit->addItem("milliseconds", "ms");
+    unit->addItem("frames per second", "fps");
+    unit->addItem("percent of what it is", "%");
+    dialog->AddField("&Unit:", unit);
+    const int32 several = shown.several.Count();
+    auto* selected = new QRadioButton(
+        several > 0 ? QString("Of the %1 &selected frames").arg(several) : "Of the &current frame",
+        dialog);
+    selected->setObjectName("Selected");
+    auto* all = new QRadioButton(QString("Of &all %1 frames").arg(shown.frames.Size()), dialog);
+    all->setObjectName("All");
+    (several > 0 ? selected : all)->setChecked(true);
+    auto* own = new QCheckBox("Also frames with a pause of their &own", dialog);
+    own->setObjectName("Own");
+    own->setChecked(true);
+    for (QWidget* field : std::initializer_list<QWidget*>{selected, all, own})
+        dialog->AddWide(field);
+    value->setFocus();
+    value->selectAll();
+    const auto make = [=]() -> std::optional<BMessage> {
+        const QString number = QString::number(value->value(), 'g', 15);
+        BMessage message(kSetPauses);
+        const std::string pause = (number + unit->currentData().toString()).toStdString();
+        if (!ParsePauseChange(pause)) return std::nullopt;
+        message.AddString("pause", pause);
+        message.AddBool("all", all->isChecked());
+        message.AddBool("own", own->isChecked());
+        return message;
+    };
+    QObject::connect(value, &QDoubleSpinBox::valueChanged, dialog, &FormDialog::Check);
+    QObject::connect(unit, &QComboBox::currentIndexChanged, dialog, &FormDialog::Check);
+    dialog->Open(make, std::move(receive));
+}
+
+}  // namespace kirto

@@ -1,0 +1,210 @@
+#include "ui/dialogs/picture_dialogs.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFileDialog>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSpinBox>
+#include <algorithm>
+
+#include "document/command_codes.h"
+
+namespace kirto {
+
+namespace {
+
+constexpr int kLargestSide = 65535;
+constexpr const char* kAllFrames = "Works on all frames and the canvas.";
+
+// The numbers are those of the command's field "filter".
+constexpr const char* kFilters[] = {"nearest: keeps pixels as they are", "bilinear: soft",
+                                    "Lanczos: sharp"};
+constexpr int kLanczos = 2;
+constexpr const char* kAnchorNames[] = {"top left",    "top",    "top right",
+                                        "left",        "center", "right",
+                                        "bottom left", "bottom", "bottom right"};
+constexpr int kCenter = 4;
+
+QString ScopeOf(const Animation& shown) {
+    const int32 several = shown.several.Count();
+    return several > 0 ? QString("Works on the %1 selected frames.").arg(several)
+                       : QString("Works on the current frame, the only one that is selected.");
+}
+
+QSpinBox* AddNumber(FormDialog& dialog, const char* name, const char* label, int first, int last,
+                    int value) {
+    auto* number = new QSpinBox(&dialog);
+    number->setObjectName(name);
+    number->setRange(first, last);
+    number->setValue(value);
+    dialog.AddField(label, number);
+    return number;
+}
+
+template <size_t Count>
+QComboBox* AddChoice(FormDialog& dialog, const char* name, const char* label,
+                     const char* const (&choices)[Count], int chosen) {
+    auto* menu = new QComboBox(&dialog);
+    menu->setObjectName(name);
+    for (const char* choice : choices)
+        menu->addItem(choice);
+    menu->setCurrentIndex(chosen);
+    dialog.AddField(label, menu);
+    return menu;
+}
+
+void StartAt(QSpinBox& field) {
+    field.setFocus();
+    field.selectAll();
+}
+
+// While the box is ticked, the other side follows the one that is changed.
+void KeepRatio(const QCheckBox& box, QSpinBox& width, QSpinBox& height, double ratio) {
+    const auto follow = [&box](QSpinBox& changed, QSpinBox& other, double factor) {
+        QObject::connect(&changed, &QSpinBox::valueChanged, &other,
+                         [&box, &other, factor](int value) {
+                             if (!box.isChecked() || other.hasFocus()) return;
+                             const QSignalBlocker blocker(other);
+                             other.setValue(std::max(qRound(value * factor), 1));
+                         });
+    };
+    follow(width, height, 1 / ratio);
+    follow(height, width, ratio);
+}
+
+}  // namespace
+
+void AskForSize(const Animation& shown, QWidget* parent, FormDialog::Receiver receive) {
+    auto* dialog = new FormDialog("ResizeAnimation", "Resize Animation", kAllFrames, parent);
+    const int old_width = std::max(shown.width, 1);
+    const int old_height = std::max(shown.height, 1);
+    auto* width = AddNumber(*dialog, "Width", "&Width:", 1, kLargestSide, old_width);
+    auto* height = AddNumber(*dialog, "Height", "&Height:", 1, kLargestSide, old_height);
+    auto* percent = AddNumber(*dialog, "Percent", "&Percent:", 1, 10000, 100);
+    auto* ratio = new QCheckBox("&Keep the ratio", dialog);
+    ratio->setObjectName("Ratio");
+    ratio->setChecked(true);
+    dialog->AddWide(ratio);
+    auto* filter = AddChoice(*dialog, "Filter", "&Filter:", kFilters, kLanczos);
+    KeepRatio(*ratio, *width, *height, static_cast<double>(old_width) / old_height);
+    QObject::connect(percent, &QSpinBox::valueChanged, dialog, [=](int value) {
+        width->setValue(std::max(qRound(old_width * value / 100.0), 1));
+        height->setValue(std::max(qRound(old_height * value / 100.0), 1));
+    });
+    StartAt(*width);
+    const auto make = [=]() -> std::optional<BMessage> {
+        BMessage message(kResizeAnimation);
+        message.AddInt32("width", width->value());
+        message.AddInt32("height", height->value());
+        message.AddInt32("filter", filter->currentIndex());
+        return message;
+    };
+    dialog->Open(make, std::move(receive));
+}
+
+void AskForCanvas(const Animation& shown, QWidget* parent, FormDialog::Receiver receive) {
+    auto* dialog = new FormDialog(
+        "CanvasSize", "Canvas Size",
+        "Pictures keep their size; what a smaller canvas has no room for is cut off.", parent);
+    auto* width = AddNumber(*dialog, "Width", "&Width:", 1, kLargestSide, std::max(shown.width, 1));
+    auto* height =
+        AddNumber(*dialog, "Height", "&Height:", 1, kLargestSide, std::max(shown.height, 1));
+    auto* anchor = AddChoice(*dialog, "Anchor", "&Pictures stay at:", kAnchorNames, kCenter);
+    StartAt(*width);
+    const auto make = [=]() -> std::optional<BMessage> {
+        BMessage message(kSetCanvasSize);
+        message.AddInt32("width", width->value());
+        message.AddInt32("height", height->value());
+        message.AddInt32("anchor", anchor->currentIndex());
+        return message;
+    };
+    dialog->Open(make, std::move(receive));
+}
+
+void AskForFit(const Animation& shown, QWidget* parent, FormDialog::Receiver receive) {
+    constexpr const char* kWays[] = {"scaled to the canvas", "padded to the canvas",
+                                     "cropped to the canvas"};
+    auto* dialog = new FormDialog("FitFrames", "Fit Frames to Animation", ScopeOf(shown), parent);
+    auto* fit = AddChoice(*dialog, "Fit", "Pictures are &to be:", kWays, 0);
+    auto* filter = AddChoice(*dialog, "Filter", "&Filter:", kFilters, kLanczos);
+    QObject::connect(fit, &QComboBox::currentIndexChanged, filter,
+                     [filter](int way) { filter->setEnabled(way == 0); });
+    fit->setFocus();
+    const auto make = [=]() -> std::optional<BMessage> {
+        BMessage message(kFitFrames);
+        message.AddInt32("fit", fit->currentIndex());
+        message.AddInt32("filter", filter->currentIndex());
+        return message;
+    };
+    dialog->Open(make, std::move(receive));
+}
+
+void AskForColors(const Animation& shown, QWidget* parent, FormDialog::Receiver receive) {
+    auto* dialog = new FormDialog("AdjustColors", "Adjust Colors", ScopeOf(shown), parent);
+    auto* brightness = AddNumber(*dialog, "Brightness", "&Brightness:", -100, 100, 0);
+    auto* contrast = AddNumber(*dialog, "Contrast", "&Contrast:", -100, 100, 0);
+    auto* saturation = AddNumber(*dialog, "Saturation", "&Saturation:", -100, 100, 0);
+    auto* greyscale = new QCheckBox("&Greyscale", dialog);
+    greyscale->setObjectName("Greyscale");
+    dialog->AddWide(greyscale);
+    StartAt(*brightness);
+    const auto make = [=]() -> std::optional<BMessage> {
+        BMessage message(kAdjustColors);
+        message.AddInt32("brightness", brightness->value());
+        message.AddInt32("contrast", contrast->value());
+        message.AddInt32("saturation", saturation->value());
+        message.AddBool("greyscale", greyscale->isChecked());
+        return message;
+    };
+    dialog->Open(make, std::move(receive));
+}
+
+void AskForOpacity(const Animation& shown, QWidget* parent, FormDialog::Receiver receive) {
+    auto* dialog = new FormDialog("Opacity", "Opacity", ScopeOf(shown), parent);
+    auto* percent = AddNumber(*dialog, "Percent", "&Opacity in percent:", 0, 100, 100);
+    StartAt(*percent);
+    const auto make = [=]() -> std::optional<BMessage> {
+        BMessage message(kSetOpacity);
+        message.AddInt32("percent", percent->value());
+        return message;
+    };
+    dialog->Open(make, std::move(receive));
+}
+
+void AskForOverlay(const Animation& shown, QWidget* parent, FormDialog::Receiver receive) {
+    auto* dialog = new FormDialog("OverlayImage", "Overlay Image", ScopeOf(shown), parent);
+    auto* file = new QLineEdit(dialog);
+    file->setObjectName("File");
+    auto* choose = new QPushButton("C&hoose...", dialog);
+    choose->setAutoDefault(false);
+    auto* row = new QWidget(dialog);
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(file, 1);
+    layout->addWidget(choose);
+    dialog->AddField("&Image:", row);
+    file->setAccessibleName("Image");
+    auto* x = AddNumber(*dialog, "X", "&X offset:", -kLargestSide, kLargestSide, 0);
+    auto* y = AddNumber(*dialog, "Y", "&Y offset:", -kLargestSide, kLargestSide, 0);
+    auto* percent = AddNumber(*dialog, "Percent", "&Opacity in percent:", 0, 100, 100);
+    QObject::connect(file, &QLineEdit::textChanged, dialog, &FormDialog::Check);
+    QObject::connect(choose, &QPushButton::clicked, dialog, [=] {
+        const QString path = QFileDialog::getOpenFileName(dialog, "Overlay Image");
+        if (!path.isEmpty()) file->setText(path);
+    });
+    const auto make = [=]() -> std::optional<BMessage> {
+        if (!QFileInfo(file->text()).isFile()) return std::nullopt;
+        BMessage message(kOverlayImage);
+        message.AddRef("refs", entry_ref(QFile::encodeName(file->text()).toStdString()));
+        message.AddInt32("x", x->value());
+        message.AddInt32("y", y->value());
+        message.AddInt32("percent", percent->value());
+        return message;
+    };
+    dialog->Open(make, std::move(receive));
+}
+
+}  // namespace kirto
