@@ -40,12 +40,22 @@ std::optional<FrameSet> FramesIn(const BMessage& message, const Animation& anima
     return ParseFrameSet(text, animation.frames.Size());
 }
 
+// Makes the frames that the message names the selected ones.
+bool SelectNamed(Animation& animation, const BMessage& message) {
+    const std::optional<FrameSet> frames = FramesIn(message, animation);
+    if (!frames || frames->Empty()) return false;
+    kirto::SelectFrames(animation, *frames, animation.selected);
+    return true;
+}
+
 bool MoveTo(Animation& animation, const BMessage& message, AnimationDocument&) {
-    return MoveSelectedTo(animation, NumberIn(message, "position", -1));
+    return SelectNamed(animation, message) &&
+           MoveSelectedTo(animation, NumberIn(message, "position", -1));
 }
 
 bool CopyTo(Animation& animation, const BMessage& message, AnimationDocument&) {
-    return CopySelectedTo(animation, NumberIn(message, "position", -1));
+    return SelectNamed(animation, message) &&
+           CopySelectedTo(animation, NumberIn(message, "position", -1));
 }
 
 bool Duplicate(Animation& animation, const BMessage&, AnimationDocument&) {

@@ -98,8 +98,9 @@ inline constexpr uint32 kPreview = FourCharCode("awvp");
 inline constexpr uint32 kSelectFrames = FourCharCode("aslm");
 // Main window to application: arrange the selected frames, or all where one is selected and one
 // alone can't be arranged. Those of a row without fields have none.
-inline constexpr uint32 kMoveFramesTo = FourCharCode("awmt");     // int32 "position"
-inline constexpr uint32 kCopyFramesTo = FourCharCode("awct");     // int32 "position"
+// Int32 "position"; string "frames", as ParseFrameSet has it, in place of the selected ones.
+inline constexpr uint32 kMoveFramesTo = FourCharCode("awmt");
+inline constexpr uint32 kCopyFramesTo = FourCharCode("awct");
 inline constexpr uint32 kDuplicateFrames = FourCharCode("awdu");  // to behind the last
 inline constexpr uint32 kForwardAndBack = FourCharCode("awfb");
 inline constexpr uint32 kRemoveDuplicates = FourCharCode("awrd");  // int32 "tolerance"
@@ -183,6 +184,7 @@ inline constexpr uint32 kMenuSelectRange = FourCharCode("wsrg");
 inline constexpr uint32 kMenuSetPause = FourCharCode("wspa");
 inline constexpr uint32 kMenuDropEvery = FourCharCode("wdev");
 inline constexpr uint32 kMenuRemoveDuplicates = FourCharCode("wrdu");
+inline constexpr uint32 kMenuMoveTo = FourCharCode("wmvt");
 inline constexpr uint32 kMenuResize = FourCharCode("wprs");
 inline constexpr uint32 kMenuCrop = FourCharCode("wpcr");
 inline constexpr uint32 kMenuCanvasSize = FourCharCode("wpcs");

@@ -112,7 +112,7 @@ class Editor:
     def history(self):
         """The names of the edits that the menu offers to undo and to redo; empty ones for none."""
         names = []
-        for item in accessibility.menu_items(self.main_window(), "Edit"):
+        for item in accessibility.menu_items(self.main_window(), "Edit")[:2]:
             offered = accessibility.has(item, accessibility.Atspi.StateType.ENABLED)
             names.append(item.get_name().partition(" ")[2] if offered else "")
         return tuple(names)
@@ -271,6 +271,14 @@ class EditorTest(unittest.TestCase):
 
     def kirto_cli(self, *arguments):
         return self.session.call(self.programs / "kirto-cli", "--quiet", *arguments)
+
+    # The desktop
+
+    def is_dragging(self):
+        """True while the editor's picture of what is dragged follows the pointer, in a window that
+        has the program's name for its title."""
+        windows = self.session.call("xwininfo", "-root", "-children")
+        return '"kirto": ("kirto" "kirto")' in windows
 
     # Files
 

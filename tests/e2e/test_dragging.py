@@ -74,9 +74,3 @@ class Dragging(EditorTest):
         editor.choose("File", "Save")
         editor.wait_for_status(3, modified=False)
         self.assertEqual(self.colors(path), [GREEN, RED, BLUE])
-
-    def is_dragging(self):
-        """True while the editor's picture of what is dragged follows the pointer, in a window that
-        has the program's name for its title."""
-        windows = self.session.call("xwininfo", "-root", "-children")
-        return '"kirto": ("kirto" "kirto")' in windows

@@ -32,6 +32,7 @@ constexpr int kDeadline = 20000;  // milliseconds
 constexpr int kSettle = 150;      // milliseconds
 constexpr int32 kCurrentFrame = 3;
 constexpr int kEditMenu = 1;
+constexpr int kAnimationMenu = 4;
 constexpr int32 kThumbnailHeight = 96;
 constexpr const char* kSavedName = "notice.gif";
 
@@ -93,6 +94,10 @@ class Pictures {
         Grab(*Main(), "framelist");
         Send(kirto::kToggleMode);
         GrabDialog(kirto::kMenuFadeEffects, "Fade Effects", "fade");
+        GrabSelection();
+        GrabDialog(kirto::kMenuCrop, "Crop", "crop");
+        GrabDialog(kirto::kMenuResize, "Resize Animation", "resize");
+        GrabDialog(kirto::kMenuSetPause, "Set Pause", "set-pause");
         GrabDialog(kirto::kMenuInsertTiled, "Insert Tiled Frame", "insert-tiled");
         GrabDialog(kirto::kMenuSaveAs, "Save Animation", "save");
         GrabPreferences();
@@ -144,6 +149,24 @@ class Pictures {
         if (!window) return;
         Grab(*window, name);
         window->close();
+        SettleFor(kSettle);
+    }
+
+    // Several selected frames, and the menu that works on them.
+    void GrabSelection() {
+        BMessage select(kirto::kSelectFrames);
+        select.AddString("frames", "2-5,7");
+        application_.PostMessage(select);
+        SettleFor(kSettle);
+        Grab(*Main(), "selection");
+        auto* menu = Main()->menuBar()->actions().at(kAnimationMenu)->menu();
+        menu->popup(Main()->mapToGlobal(QPoint(kSettle, kSettle)));
+        SettleFor(kSettle);
+        Grab(*menu, "animation-menu");
+        menu->close();
+        BMessage select_one(kirto::kSelectFrame);
+        select_one.AddInt32("number", kCurrentFrame);
+        application_.PostMessage(select_one);
         SettleFor(kSettle);
     }
 

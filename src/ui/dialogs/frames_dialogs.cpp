@@ -1,8 +1,6 @@
 #include "ui/dialogs/frames_dialogs.h"
 
 #include <QCheckBox>
-#include <QComboBox>
-#include <QDoubleSpinBox>
 #include <QLineEdit>
 #include <QRadioButton>
 #include <QSpinBox>
@@ -32,6 +30,17 @@ QSpinBox* AddNumber(FormDialog& dialog, const char* name, const char* label, int
     number->setFocus();
     number->selectAll();
     return number;
+}
+
+// The frames that are selected, to be typed over.
+QLineEdit* AddRange(FormDialog& dialog, const Animation& shown) {
+    auto* range = new QLineEdit(QString::fromStdString(TextOf(shown.Selection())), &dialog);
+    range->setObjectName("Range");
+    dialog.AddField("&Frames:", range);
+    range->setFocus();
+    range->selectAll();
+    QObject::connect(range, &QLineEdit::textChanged, &dialog, &FormDialog::Check);
+    return range;
 }
 
 BMessage WithNumber(uint32 code, const char* field, int32 number) {
@@ -64,12 +73,7 @@ void AskForRange(const Animation& shown, QWidget* parent, FormDialog::Receiver r
                 "0-20/2 for every second one, 0,4,7, all.")
             .arg(count - 1),
         parent);
-    auto* field = new QLineEdit(QString::fromStdString(TextOf(shown.Selection())), dialog);
-    field->setObjectName("Range");
-    dialog->AddField("&Frames:", field);
-    field->setFocus();
-    field->selectAll();
-    QObject::connect(field, &QLineEdit::textChanged, dialog, &FormDialog::Check);
+    auto* field = AddRange(*dialog, shown);
     const auto make = [=]() -> std::optional<BMessage> {
         const std::string text = field->text().toStdString();
         if (!ParseFrameSet(text, count)) return std::nullopt;
@@ -107,22 +111,41 @@ void AskForTolerance(const Animation& shown, QWidget* parent, FormDialog::Receiv
     dialog->Open(make, std::move(receive));
 }
 
+void AskForPlace(const Animation& shown, QWidget* parent, FormDialog::Receiver receive) {
+    const int32 count = shown.frames.Size();
+    auto* dialog =
+        new FormDialog("MoveTo", "Move To",
+                       QString("Frames are numbered from 0 to %1; %2 is behind the last.")
+                           .arg(count - 1)
+                           .arg(count),
+                       parent);
+    auto* frames = AddRange(*dialog, shown);
+    auto* place = AddNumber(*dialog, "Place", "&Before frame:", 0, count, 0);
+    frames->setFocus();
+    const auto make = [=]() -> std::optional<BMessage> {
+        const std::string text = frames->text().toStdString();
+        if (!ParseFrameSet(text, count)) return std::nullopt;
+        BMessage message = WithNumber(kMoveFramesTo, "position", place->value());
+        message.AddString("frames", text);
+        return message;
+    };
+    dialog->Open(make, std::move(receive));
+}
+
 void AskForPause(const Animation& shown, bool in_seconds, QWidget* parent,
                  FormDialog::Receiver receive) {
-    auto* dialog = new FormDialog("SetPause", "Set Pause",
-                                  "Browsers play pauses below 20 milliseconds slower.", parent);
-    auto* value = new QDoubleSpinBox(dialog);
+    auto* dialog = new FormDialog(
+        "SetPause", "Set Pause",
+        QString(
+            "In milliseconds (40ms), frames per second (15fps), percent of what it is (150%), or "
+            "without a unit in %1. Browsers play pauses below 20ms slower.")
+            .arg(in_seconds ? "seconds" : "hundredths of a second"),
+        parent);
+    const double pause = shown.CurrentFrame() ? shown.PauseOf(*shown.CurrentFrame()) : 0;
+    auto* value = new QLineEdit(
+        QString::number(pause * 1000 / PauseUnitsPerSecond(in_seconds)) + "ms", dialog);
     value->setObjectName("Value");
-    value->setRange(0, 1e6);
-    value->setValue(shown.CurrentFrame() ? shown.PauseOf(*shown.CurrentFrame()) : 0);
     dialog->AddField("&Pause:", value);
-    auto* unit = new QComboBox(dialog);
-    unit->setObjectName("Unit");
-    unit->addItem(in_seconds ? "seconds" : "hundredths of a second", "");
-    unit->addItem("milliseconds", "ms");
-    unit->addItem("frames per second", "fps");
-    unit->addItem("percent of what it is", "%");
-    dialog->AddField("&Unit:", unit);
     const int32 several = shown.several.Count();
     auto* selected = new QRadioButton(
         several > 0 ? QString("Of the %1 &selected frames").arg(several) : "Of the &current frame",
@@ -138,18 +161,16 @@ void AskForPause(const Animation& shown, bool in_seconds, QWidget* parent,
         dialog->AddWide(field);
     value->setFocus();
     value->selectAll();
+    QObject::connect(value, &QLineEdit::textChanged, dialog, &FormDialog::Check);
     const auto make = [=]() -> std::optional<BMessage> {
-        const QString number = QString::number(value->value(), 'g', 15);
+        const std::string text = value->text().remove(' ').toStdString();
+        if (!ParsePauseChange(text)) return std::nullopt;
         BMessage message(kSetPauses);
-        const std::string pause = (number + unit->currentData().toString()).toStdString();
-        if (!ParsePauseChange(pause)) return std::nullopt;
-        message.AddString("pause", pause);
+        message.AddString("pause", text);
         message.AddBool("all", all->isChecked());
         message.AddBool("own", own->isChecked());
         return message;
     };
-    QObject::connect(value, &QDoubleSpinBox::valueChanged, dialog, &FormDialog::Check);
-    QObject::connect(unit, &QComboBox::currentIndexChanged, dialog, &FormDialog::Check);
     dialog->Open(make, std::move(receive));
 }
 

@@ -13,6 +13,7 @@ void AskForEveryNth(const Animation& shown, QWidget* parent, FormDialog::Receive
 void AskForRange(const Animation& shown, QWidget* parent, FormDialog::Receiver receive);
 void AskForDropping(const Animation& shown, QWidget* parent, FormDialog::Receiver receive);
 void AskForTolerance(const Animation& shown, QWidget* parent, FormDialog::Receiver receive);
+void AskForPlace(const Animation& shown, QWidget* parent, FormDialog::Receiver receive);
 // in_seconds: the unit of pause lengths.
 void AskForPause(const Animation& shown, bool in_seconds, QWidget* parent,
                  FormDialog::Receiver receive);

@@ -17,12 +17,19 @@ struct DialogRow {
 };
 
 constexpr DialogRow kDialogs[] = {
-    {kMenuSelectEvery, AskForEveryNth}, {kMenuSelectRange, AskForRange},
-    {kMenuDropEvery, AskForDropping},   {kMenuRemoveDuplicates, AskForTolerance},
-    {kMenuResize, AskForSize},          {kMenuCrop, AskForCrop},
-    {kMenuCanvasSize, AskForCanvas},    {kMenuFitFrames, AskForFit},
-    {kMenuAdjustColors, AskForColors},  {kMenuOpacity, AskForOpacity},
-    {kMenuOverlay, AskForOverlay},      {kMenuMakeTransparent, AskForTransparentColor},
+    {kMenuSelectEvery, AskForEveryNth},
+    {kMenuSelectRange, AskForRange},
+    {kMenuDropEvery, AskForDropping},
+    {kMenuRemoveDuplicates, AskForTolerance},
+    {kMenuMoveTo, AskForPlace},
+    {kMenuResize, AskForSize},
+    {kMenuCrop, AskForCrop},
+    {kMenuCanvasSize, AskForCanvas},
+    {kMenuFitFrames, AskForFit},
+    {kMenuAdjustColors, AskForColors},
+    {kMenuOpacity, AskForOpacity},
+    {kMenuOverlay, AskForOverlay},
+    {kMenuMakeTransparent, AskForTransparentColor},
 };
 
 // Null for items without a dialog.

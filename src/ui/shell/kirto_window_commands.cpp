@@ -68,6 +68,7 @@ const KirtoWindow::Command* KirtoWindow::CommandFor(uint32 code) {
         {kirto::kMenuSetPause, &KirtoWindow::ChooseFrames},
         {kirto::kMenuDropEvery, &KirtoWindow::ChooseFrames},
         {kirto::kMenuRemoveDuplicates, &KirtoWindow::ChooseFrames},
+        {kirto::kMenuMoveTo, &KirtoWindow::ChooseFrames},
         {kirto::kMenuResize, &KirtoWindow::ChooseFrames},
         {kirto::kMenuCrop, &KirtoWindow::ChooseFrames},
         {kirto::kMenuCanvasSize, &KirtoWindow::ChooseFrames},

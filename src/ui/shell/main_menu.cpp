@@ -39,6 +39,7 @@ constexpr Item kEditItems[] = {
     {"&Copy", 'C', kMenuCopy, true},
     {"&Paste", 'V', kMenuPaste},
     {"&Duplicate", 'U', kDuplicateFrames, true, true},
+    {"&Move To...", 'B', kMenuMoveTo, true},
     {},
     {"Select &All", 'A', kMenuSelectAll, true, true},
     {"Select &None", 0, kMenuSelectNone, true},

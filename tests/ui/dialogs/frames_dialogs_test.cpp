@@ -2,9 +2,7 @@
 
 #include <QApplication>
 #include <QCheckBox>
-#include <QComboBox>
 #include <QDialogButtonBox>
-#include <QDoubleSpinBox>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -101,12 +99,24 @@ TEST_F(FramesDialogs, RemoveDuplicatesAmongTheSelectedFrames) {
     EXPECT_EQ(Number("tolerance"), 12);
 }
 
+TEST_F(FramesDialogs, MoveFramesToAPlace) {
+    AskForPlace(animation, &parent, receive);
+    Find<QLineEdit>("Range").setText("7-12");
+    EXPECT_FALSE(Ok().isEnabled());
+    Find<QLineEdit>("Range").setText("7-9");
+    Find<QSpinBox>("Place").setValue(3);
+    Ok().click();
+
+    EXPECT_EQ(received.what, kMoveFramesTo);
+    EXPECT_EQ(Text("frames"), "7-9");
+    EXPECT_EQ(Number("position"), 3);
+}
+
 TEST_F(FramesDialogs, SetPausesInAnyUnit) {
     AskForPause(animation, false, &parent, receive);
-    EXPECT_EQ(Find<QDoubleSpinBox>("Value").value(), 4);
+    EXPECT_EQ(Find<QLineEdit>("Value").text(), "40ms");
     EXPECT_TRUE(Find<QRadioButton>("All").isChecked());
-    Find<QDoubleSpinBox>("Value").setValue(12.5);
-    Find<QComboBox>("Unit").setCurrentIndex(2);
+    Find<QLineEdit>("Value").setText("12.5 fps");
     Find<QCheckBox>("Own").setChecked(false);
     Ok().click();
 
@@ -121,10 +131,11 @@ TEST_F(FramesDialogs, SetPausesInAnyUnit) {
 
 TEST_F(FramesDialogs, SetNoPauseThatIsNone) {
     AskForPause(animation, true, &parent, receive);
-    EXPECT_EQ(Find<QComboBox>("Unit").currentText(), "seconds");
-    Find<QDoubleSpinBox>("Value").setValue(0);
+    EXPECT_EQ(Find<QLineEdit>("Value").text(), "4000ms");
+    EXPECT_NE(ScopeText().find("without a unit in seconds"), std::string::npos);
+    Find<QLineEdit>("Value").setText("0");
     EXPECT_TRUE(Ok().isEnabled());
-    Find<QComboBox>("Unit").setCurrentIndex(2);
+    Find<QLineEdit>("Value").setText("0fps");
     EXPECT_FALSE(Ok().isEnabled());
 }
 
@@ -149,8 +160,7 @@ TEST_F(FramesDialogs, DoNothingWhenTheyAreCanceled) {
 TEST_F(FramesDialogs, NameTheirFieldsForThoseWhoCanNotSeeThem) {
     AskForPause(animation, false, &parent, receive);
 
-    EXPECT_EQ(Find<QDoubleSpinBox>("Value").accessibleName(), "Pause");
-    EXPECT_EQ(Find<QComboBox>("Unit").accessibleName(), "Unit");
+    EXPECT_EQ(Find<QLineEdit>("Value").accessibleName(), "Pause");
 }
 
 }  // namespace

@@ -50,6 +50,33 @@ TEST_F(FrameCommands, AskFirst) {
     EXPECT_EQ(ChosenBy(kMenuDropEvery), "DropEvery");
     EXPECT_EQ(ChosenBy(kMenuRemoveDuplicates), "RemoveDuplicates");
     EXPECT_EQ(ChosenBy(kMenuSetPause), "SetPause");
+    EXPECT_EQ(ChosenBy(kMenuMoveTo), "MoveTo");
+    EXPECT_EQ(ChosenBy(kMenuResize), "ResizeAnimation");
+    EXPECT_EQ(ChosenBy(kMenuCrop), "CropAnimation");
+    EXPECT_EQ(ChosenBy(kMenuCanvasSize), "CanvasSize");
+    EXPECT_EQ(ChosenBy(kMenuFitFrames), "FitFrames");
+    EXPECT_EQ(ChosenBy(kMenuAdjustColors), "AdjustColors");
+    EXPECT_EQ(ChosenBy(kMenuOpacity), "Opacity");
+    EXPECT_EQ(ChosenBy(kMenuOverlay), "OverlayImage");
+    EXPECT_EQ(ChosenBy(kMenuMakeTransparent), "MakeTransparent");
+}
+
+TEST_F(FrameCommands, TurnAtOnce) {
+    const auto sent = [this](uint32 item) {
+        BMessage command;
+        ChooseFrames(item, shown, &parent, [&](const BMessage& message) { command = message; });
+        return command;
+    };
+    int32 quarters = 0;
+    EXPECT_EQ(sent(kMenuRotateLeft).FindInt32("quarters", &quarters), B_OK);
+    EXPECT_EQ(quarters, 3);
+    EXPECT_EQ(sent(kMenuRotateRight).FindInt32("quarters", &quarters), B_OK);
+    EXPECT_EQ(quarters, 1);
+    bool across = false;
+    EXPECT_EQ(sent(kMenuFlipAcross).FindBool("across", &across), B_OK);
+    EXPECT_TRUE(across);
+    EXPECT_EQ(sent(kMenuFlipDown).FindBool("across", &across), B_OK);
+    EXPECT_FALSE(across);
 }
 
 }  // namespace

@@ -66,7 +66,8 @@ TEST_F(MainMenu, HasTheItemsOfTheEditMenu) {
         (Lines{item("Undo Remove Frame|Ctrl+Z|", kUndo),
                item("Redo Reverse Frames|Ctrl+Shift+Z|", kRedo), "-", item("Cut|Ctrl+X|", kMenuCut),
                item("Copy|Ctrl+C|", kMenuCopy), item("Paste|Ctrl+V|", kMenuPaste),
-               item("Duplicate|Ctrl+Shift+U|", kDuplicateFrames), "-",
+               item("Duplicate|Ctrl+Shift+U|", kDuplicateFrames),
+               item("Move To...|Ctrl+B|", kMenuMoveTo), "-",
                item("Select All|Ctrl+Shift+A|", kMenuSelectAll),
                item("Select None||", kMenuSelectNone),
                item("Invert Selection|Ctrl+Shift+I|", kMenuInvertSelection),
@@ -78,12 +79,28 @@ TEST_F(MainMenu, HasTheItemsOfTheAnimationMenu) {
     EnableFrameItems(*bar, true);
 
     const auto item = [](const char* text, uint32 code) { return text + CodeText(code); };
-    EXPECT_EQ(ItemsOf(MenuAt(4)), (Lines{item("Insert Animation...||", kMenuInsertAnimation), "-",
-                                         item("Set Pause...|Ctrl+L|", kMenuSetPause), "-",
+    EXPECT_EQ(ItemsOf(MenuAt(4)), (Lines{item("Insert Animation...||", kMenuInsertAnimation),
+                                         "-",
+                                         item("Set Pause...|Ctrl+L|", kMenuSetPause),
+                                         "-",
                                          item("Forward and Back||", kForwardAndBack),
                                          item("Shift Start to Current Frame||", kStartAtCurrent),
                                          item("Remove Duplicates...||", kMenuRemoveDuplicates),
-                                         item("Drop Every Nth...||", kMenuDropEvery)}));
+                                         item("Drop Every Nth...||", kMenuDropEvery),
+                                         "-",
+                                         item("Resize Animation...||", kMenuResize),
+                                         item("Crop...||", kMenuCrop),
+                                         item("Canvas Size...||", kMenuCanvasSize),
+                                         item("Rotate Right||", kMenuRotateRight),
+                                         item("Rotate Left||", kMenuRotateLeft),
+                                         item("Flip Horizontally||", kMenuFlipAcross),
+                                         item("Flip Vertically||", kMenuFlipDown),
+                                         "-",
+                                         item("Fit Frames to Animation...||", kMenuFitFrames),
+                                         item("Adjust Colors...||", kMenuAdjustColors),
+                                         item("Opacity...||", kMenuOpacity),
+                                         item("Overlay Image...||", kMenuOverlay),
+                                         item("Make Transparent...||", kMenuMakeTransparent)}));
 }
 
 TEST_F(MainMenu, SaysWhetherAllOrTheSelectedFramesAreReversed) {
@@ -196,7 +213,7 @@ TEST_F(MainMenu, DisablesWhatNeedsAFrameWithoutOne) {
 
     EXPECT_EQ(enabled(), without_frames);
     EnableFrameItems(*bar, true);
-    EXPECT_EQ(enabled().size(), 31u);
+    EXPECT_EQ(enabled().size(), 44u);
     EnableFrameItems(*bar, false);
     EXPECT_EQ(enabled(), without_frames);
 }

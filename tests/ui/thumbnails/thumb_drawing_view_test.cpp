@@ -134,8 +134,9 @@ TEST(ThumbDrawingView, OffersWhatCanBeDoneWithAFrame) {
     }
     menu->close();
     EXPECT_EQ(labels, (QStringList{"Insert Frame", "Remove Frame", "Move Up", "Move Down",
-                                   "Fade Effects..."}));
-    EXPECT_EQ(fixture.window->Transcript(), "awfi awfr awfu awfd awfe");
+                                   "Fade Effects...", "", "Cut", "Copy", "Paste", "Duplicate",
+                                   "Set Pause..."}));
+    EXPECT_EQ(fixture.window->Transcript(), "awfi awfr awfu awfd awfe wcut wcpy wpst awdu wspa");
 }
 
 TEST(ThumbDrawingView, OffersTheMenuOfTheCurrentFrameToTheKeyboard) {

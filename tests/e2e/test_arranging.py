@@ -1,0 +1,135 @@
+from desktop_session import wait_until
+from editor_test import BLUE, EditorTest, GREEN, RED, WHITE
+
+TEN = (RED, GREEN, BLUE, WHITE, RED, GREEN, BLUE, WHITE, RED, GREEN)
+
+
+class Arranging(EditorTest):
+    """The jobs that several frames are selected for, with as few strokes as they take: a key, a
+    word typed, a click or a drag each."""
+
+    def setUp(self):
+        super().setUp()
+        self.strokes = 0
+
+    def open_ten(self):
+        path = self.animation("ten.gif", TEN)
+        editor = self.start_editor(path)
+        editor.wait_for_status(10, modified=False)
+        return editor, path
+
+    def key(self, *keys):
+        for key in keys:
+            self.session.key(key)
+            self.strokes += 1
+
+    def type(self, text):
+        self.session.type(text)
+        self.strokes += 1
+
+    def in_dialog(self, title, *words):
+        """Types words into the fields of a dialog one after the other, and confirms."""
+        self.session.wait_until_active(f"^{title}$")
+        for number, word in enumerate(words):
+            if number > 0:
+                self.key("Tab")
+            self.type(word)
+        self.key("Return")
+        self.session.wait_for_no_window(f"^{title}$")
+        self.session.wait_until_active("^Kirto - ")
+
+    def save(self, editor, frames):
+        editor.choose("File", "Save")
+        editor.wait_for_status(frames, modified=False)
+
+    def pauses(self, path):
+        info = self.info(path)
+        return [frame["pause_length"] if frame["use_pause"] else info["pause_length_global"]
+                for frame in info["frames"]]
+
+    def test_deletes_a_range_and_plays_all_at_one_speed_by_keyboard(self):
+        editor, path = self.open_ten()
+        self.key("ctrl+g")
+        self.in_dialog("Select Range", "3-7")
+        editor.wait_for_label("5 of 10 selected, 1.50 s of 3.00 s, 3.33 fps")
+        self.key("Delete")
+        editor.wait_for_status(5, modified=True)
+        self.key("ctrl+l")
+        self.in_dialog("Set Pause", "40ms")
+        editor.wait_for_label("0.20 s, 25 fps")
+        self.assertLessEqual(self.strokes, 8)
+        self.save(editor, 5)
+        self.assertEqual(self.colors(path), [RED, GREEN, BLUE, RED, GREEN])
+        self.assertEqual(self.pauses(path), [4] * 5)
+
+    def test_plays_forward_and_back_by_keyboard(self):
+        editor, path = self.open_ten()
+        self.key("alt+a", "f")
+        editor.wait_for_status(18, modified=True)
+        self.assertLessEqual(self.strokes, 2)
+        self.save(editor, 18)
+        self.assertEqual(self.colors(path), list(TEN) + list(TEN[-2:0:-1]))
+
+    def test_drops_every_second_frame_and_keeps_the_duration_by_keyboard(self):
+        editor, path = self.open_ten()
+        self.key("alt+a", "d")
+        self.session.wait_until_active("^Drop Every Nth$")
+        self.key("Return")
+        editor.wait_for_status(5, modified=True)
+        self.assertLessEqual(self.strokes, 4)
+        self.save(editor, 5)
+        self.assertEqual(self.colors(path), list(TEN[::2]))
+        self.assertEqual(self.pauses(path), [60] * 5)
+
+    def test_moves_frames_to_a_place_by_keyboard(self):
+        editor, path = self.open_ten()
+        self.key("ctrl+b")
+        self.in_dialog("Move To", "8-9", "3")
+        editor.wait_for_status(10, modified=True)
+        self.save(editor, 10)
+        self.assertEqual(self.colors(path), [*TEN[:3], *TEN[8:], *TEN[3:8]])
+
+    def test_moves_frames_to_a_place_by_dragging_them(self):
+        editor, path = self.open_ten()
+        left, top, width, height = editor.thumbnail(8)
+        self.session.click(left + width // 2, top + height // 2)
+        editor.wait_for_label("frame0008")
+        self.key("shift+Right")
+        editor.wait_for_label("2 of 10 selected, 0.60 s of 3.00 s, 3.33 fps")
+        place = editor.thumbnail(3)
+        self.session.drag((left + width // 2, top + height // 2),
+                          (place[0] + 2, place[1] + place[3] // 2),
+                          has_begun=self.is_dragging, is_over=lambda: True)
+        editor.wait_for_status(10, modified=True)
+        self.save(editor, 10)
+        self.assertEqual(self.colors(path), [*TEN[:3], *TEN[8:], *TEN[3:8]])
+
+    def test_copies_frames_into_another_editor(self):
+        editor, _ = self.open_ten()
+        self.key("ctrl+g")
+        self.in_dialog("Select Range", "0-4")
+        editor.wait_for_label("5 of 10 selected, 1.50 s of 3.00 s, 3.33 fps")
+        self.key("ctrl+c")
+        other = self.start_editor()
+        self.key("ctrl+v")
+        other.wait_for_status(5, modified=True)
+        path = self.folder / "copied.gif"
+        other.save_as(path)
+        self.assertEqual(self.colors(path), list(TEN[:5]))
+
+    def test_crops_to_a_drawn_rectangle(self):
+        editor, path = self.open_ten()
+        self.key("alt+a", "c")
+        self.session.wait_until_active("^Crop$")
+        picture = editor.wait_for_name("Picture", editor.window("Crop"))
+        middle = editor.middle(picture)
+        self.session.drag((middle[0] - 40, middle[1] - 30), (middle[0] + 40, middle[1] + 30),
+                          has_begun=lambda: True, is_over=lambda: True)
+        self.strokes += 1
+        self.key("Return")
+        editor.wait_for_status(10, modified=True)
+        self.assertLessEqual(self.strokes, 5)
+        self.save(editor, 10)
+        info = self.info(path)
+        self.assertLess(info["global_width"], 80)
+        wait_until(lambda: info["frames"][0]["width"] == info["global_width"], "the frames to fit")
