@@ -10,12 +10,10 @@
 #include "app/document_edits.h"
 #include "app/frames_exchange.h"
 #include "app/picture_commands.h"
-#include "base/number.h"
 #include "base/text.h"
 #include "document/command_codes.h"
 #include "effects/fade.h"
 #include "effects/insert_images.h"
-#include "effects/insert_tiles.h"
 #include "kit/alert.h"
 
 // One row of the command table: what a command does, the refresh posted after it (0: none), and
@@ -65,6 +63,8 @@ const Kirto::Command* Kirto::CommandFor(uint32 code) {
          [](Kirto& app, BMessage* message) { app.InsertTiledFrame(message); }, kUpdateAll,
          kInsertion, "Insert Tiled"},
         {kirto::kSaveFile, [](Kirto& app, BMessage* message) { app.Save(message); }, kUpdateAll},
+        {kirto::kSaveSheet, [](Kirto& app, BMessage* message) { app.SaveSheet(message); },
+         kUpdateAll},
         {kirto::kSaveAgain, [](Kirto& app, BMessage*) { app.SaveAgain(); }, kUpdateAll},
         {kirto::kQuitWhenDone, quit_when_done, kNothing},
         {kirto::kResetDocument, [](Kirto& app, BMessage*) { app.StartAnew(); }, kNothing, kEdit},
@@ -321,18 +321,6 @@ void Kirto::InsertFrame(BMessage* message) {
 // To be called where the work was stopped before it was done.
 void Kirto::SayCanceled(int32 frames_before) {
     last_word_ = kirto::Format("canceled, %d new frame(s) kept", FrameCount() - frames_before);
-}
-
-void Kirto::InsertTiledFrame(BMessage* message) {
-    const kirto::FilePanel* panel = GetInsertTiledFilePanel();
-    kirto::TileGrid grid;
-    grid.rows = kirto::LeadingInteger(panel->RowsText());
-    grid.columns = kirto::LeadingInteger(panel->ColumnsText());
-    grid.column_by_column = panel->ColumnByColumn();
-    entry_ref ref;
-    const bool has_ref = message->FindRef("refs", &ref) == B_OK;
-    const int32 before = FrameCount();
-    if (!kirto::InsertTiles(*this, has_ref ? &ref : nullptr, grid, roster_)) SayCanceled(before);
 }
 
 void Kirto::Fade(BMessage* message) {

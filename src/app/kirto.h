@@ -84,8 +84,11 @@ class Kirto : public IEApplication, public AnimationDocument, public kirto::File
     using AnimationDocument::InsertFrame;
     // 'aifp': image files as frames.
     void InsertFrame(BMessage* message);
-    // 'aitp': a picture cut into frames, as the insert-tiled panel says.
+    // 'aitp': a picture cut into frames, as the insert-tiled panel and the message say, or as the
+    // JSON text says that is chosen in its place (kirto_sheets.cpp).
     void InsertTiledFrame(BMessage* message);
+    // 'apsh': the selected frames, or all where one alone is selected, side by side in one picture.
+    void SaveSheet(BMessage* message);
     // One of the four fade commands.
     void Fade(BMessage* message);
 
@@ -126,6 +129,8 @@ class Kirto : public IEApplication, public AnimationDocument, public kirto::File
     void SelectFrame(BMessage* message);
     void StoreSettings(const BMessage& message);
     void StoreTranslatorSettings(const BMessage& message);
+    // The translator's first format that is a file format; 0 without one.
+    uint32 FileFormat(translator_id translator) const;
     void EndWork();
     void SayWhatDiffers(const kirto::Animation& animation, const std::string& loss);
     void SayCanceled(int32 frames_before);

@@ -27,14 +27,6 @@ bool IsGif(uint32 format) {
     return format == 0 || format == kAnimatedGif;
 }
 
-// The translator's first format that is a file format; 0 without one.
-uint32 FileFormat(const BTranslatorRoster& roster, uint32 translator) {
-    for (const translation_format& format : roster.OutputFormats(translator)) {
-        if (format.type != B_TRANSLATOR_BITMAP) return format.type;
-    }
-    return 0;
-}
-
 }  // namespace
 
 void Kirto::RefsReceived(BMessage* message) {
@@ -310,13 +302,20 @@ void Kirto::SetFile(const std::string& directory, const std::string& name,
     file_stamp_ = stamp;
 }
 
+uint32 Kirto::FileFormat(translator_id translator) const {
+    for (const translation_format& format : roster_.OutputFormats(translator)) {
+        if (format.type != B_TRANSLATOR_BITMAP) return format.type;
+    }
+    return 0;
+}
+
 bool Kirto::SaveSequence(uint32 translator) {
     std::string translator_name;
     if (!roster_.GetTranslatorInfo(translator, &translator_name)) {
         kirto::Warn(kirto::kInvalidTranslatorText);
         return false;
     }
-    const uint32 format = FileFormat(roster_, translator);
+    const uint32 format = FileFormat(translator);
     if (format == 0) {
         kirto::DebugLine("Kirto::SaveSequence() - Desired format is 0, this is not good\n");
     }

@@ -60,6 +60,9 @@ inline constexpr uint32 kQuitWhenDone = FourCharCode("awqd");
 // bool "panel": false for files that no panel delivered.
 inline constexpr uint32 kOpenFile = FourCharCode("aofp");
 inline constexpr uint32 kInsertFiles = FourCharCode("aifp");  // int32 "position"
+// Beside what the panel says, where the fields are there: int32 "tile_width", "tile_height",
+// "margin", "spacing"; bool "skip_empty". A file ".json" describes a sheet, and nothing else
+// counts.
 inline constexpr uint32 kInsertTiledFile = FourCharCode("aitp");
 // All refs, one after the other, behind the current frame; no other fields.
 inline constexpr uint32 kInsertAnimations = FourCharCode("aiap");
@@ -68,6 +71,9 @@ inline constexpr uint32 kInsertAnimations = FourCharCode("aiap");
 inline constexpr uint32 kPasteFrames = FourCharCode("apst");
 // Save panel to application. Int64 "translator_id", ref "directory", string "name".
 inline constexpr uint32 kSaveFile = FourCharCode("asfp");
+// Int64 "translator_id", ref "directory", string "name"; int32 "columns" (0: a square of them),
+// "padding"; bool "power_of_two".
+inline constexpr uint32 kSaveSheet = FourCharCode("apsh");
 
 // The program's start to application: offer what another editor has left. No fields. The
 // application to itself: recover that. String "path".

@@ -1,14 +1,12 @@
 #include "effects/insert_tiles.h"
 
-#include <memory>
+#include <algorithm>
 #include <optional>
-#include <utility>
+#include <vector>
 
 #include "base/text.h"
-#include "effects/make_pictures.h"
+#include "effects/cut_sheet.h"
 #include "kit/alert.h"
-#include "kit/picture_files.h"
-#include "picture/picture_builder.h"
 
 namespace kirto {
 
@@ -17,152 +15,126 @@ namespace {
 constexpr const char* kIllegalGrid =
     "This frame can't be inserted because the number of rows or columns is illegal.";
 
-// The file's picture, or null: because the work was stopped, or after telling the user why.
-std::shared_ptr<BBitmap> ReadPicture(AnimationDocument& document, const entry_ref& ref,
-                                     BTranslatorRoster& roster) {
-    std::shared_ptr<BBitmap> picture;
-    const status_t status =
-        ReadPicture(ref.path, roster, document.pixel_budget, &document.work, &picture);
-    if (status == B_CANCELED) return nullptr;
-    if (status == B_NO_MEMORY) {
-        WarnOutOfMemory();
-        return nullptr;
-    }
-    if (status != B_OK) {
-        Warn("This file can't be inserted because this file type is unsupported: " + ref.Leaf());
-        return nullptr;
-    }
-    if (!Is32Bit(picture->ColorSpace())) {
-        Warn("This file can't be inserted because the color space is unsupported.");
-        return nullptr;
-    }
-    return picture;
+bool HasTileSize(const TileGrid& grid) {
+    return grid.tile_width > 0 && grid.tile_height > 0;
 }
 
-struct TilePlace {
-    int32 row = 0;
-    int32 column = 0;
+bool IsSound(const TileGrid& grid) {
+    if (grid.margin < 0 || grid.spacing < 0 || grid.tile_width < 0 || grid.tile_height < 0)
+        return false;
+    return HasTileSize(grid) || (grid.rows > 0 && grid.columns > 0);
+}
+
+// The tiles along one side of a picture.
+struct TileLine {
+    int64 count = 0;  // 0: the picture has no room for them
+    int64 size = 0;   // of each, pixels
+    int64 first = 0;  // where the first one begins
+    int64 step = 0;   // from one to the next
+
+    int32 Start(int32 i) const { return static_cast<int32>(first + i * step); }
 };
 
-TilePlace PlaceOf(int32 tile, const TileGrid& grid) {
-    if (grid.column_by_column) return {tile % grid.rows, tile / grid.rows};
-    return {tile / grid.columns, tile % grid.columns};
-}
-
-// A rectangle of the picture from that row and column on, or null when memory is short.
-std::shared_ptr<const Picture> CopyTile(const BBitmap& picture, const TilePlace& corner,
-                                        int32 width, int32 height,
-                                        std::shared_ptr<PixelBudget> budget) {
-    PictureBuilder builder(width, height, picture.ColorSpace(), std::move(budget));
-    const size_t offset = static_cast<size_t>(corner.column) * 4;
-    for (int32 y = 0; y < height; ++y) {
-        if (!builder.AddRow(picture.Row(corner.row + y) + offset)) return nullptr;
+// count, size: as far as they are given, else 0.
+TileLine LineOf(int64 side, int64 count, int64 size, const TileGrid& grid) {
+    TileLine line;
+    line.first = grid.margin;
+    if (size > 0) {
+        line.count =
+            std::max<int64>((side - grid.margin + grid.spacing) / (size + grid.spacing), 0);
+        line.size = size;
+    } else {
+        const int64 room = side - 2 * line.first - (count - 1) * grid.spacing;
+        line.size = std::max<int64>(room, 0) / count;
+        line.count = line.size > 0 ? count : 0;
     }
-    return builder.Take();
+    line.step = line.size + grid.spacing;
+    return line;
 }
 
-// One tile, or null when memory is short.
-std::shared_ptr<const Picture> CutTile(const BBitmap& picture, int32 tile, const TileGrid& grid,
-                                       std::shared_ptr<PixelBudget> budget) {
-    const int32 width = picture.Width() / grid.columns;
-    const int32 height = picture.Height() / grid.rows;
-    const TilePlace place = PlaceOf(tile, grid);
-    return CopyTile(picture, {place.row * height, place.column * width}, width, height,
-                    std::move(budget));
-}
-
-// Makes the frames of a picture's tiles and inserts them.
-class TileRun {
+// The tiles of a grid over a picture.
+class TileSheet {
   public:
-    TileRun(AnimationDocument& document, const BBitmap& picture, const TileGrid& grid)
-        : document_(document), picture_(picture), grid_(grid), count_(grid.rows * grid.columns) {}
+    TileSheet(const BBitmap& picture, const TileGrid& grid)
+        : picture_(picture),
+          grid_(grid),
+          across_(LineOf(picture.Width(), grid.columns, grid.tile_width, grid)),
+          down_(LineOf(picture.Height(), grid.rows, grid.tile_height, grid)) {}
 
-    // Returns how many frames were inserted, from the position on.
-    int32 InsertAt(int32 position);
-    bool OutOfMemory() const { return out_of_memory_; }
+    // 0 where there is no room for them.
+    int64 Count() const { return across_.count * down_.count; }
+    SheetTile TileAt(int32 number) const {
+        const auto rows = static_cast<int32>(down_.count);
+        const auto columns = static_cast<int32>(across_.count);
+        const int32 row = grid_.column_by_column ? number % rows : number / columns;
+        const int32 column = grid_.column_by_column ? number / rows : number % columns;
+        SheetTile tile;
+        tile.name = Format("tiled%04d", number);
+        tile.left = across_.Start(column);
+        tile.top = down_.Start(row);
+        tile.width = static_cast<int32>(across_.size);
+        tile.height = static_cast<int32>(down_.size);
+        return tile;
+    }
+    bool IsEmpty(int32 number) const {
+        const SheetTile tile = TileAt(number);
+        const size_t alpha = IsBigEndian(picture_.ColorSpace()) ? 0 : 3;
+        for (int32 y = tile.top; y < tile.top + tile.height; ++y) {
+            const uint8* row = picture_.Row(y) + alpha;
+            for (int32 x = tile.left; x < tile.left + tile.width; ++x)
+                if (row[static_cast<size_t>(x) * 4] != 0) return false;
+        }
+        return true;
+    }
 
   private:
-    bool Begin(int32 tile);
-    bool Insert(int32 tile, std::optional<MadePicture> made);
-
-    AnimationDocument& document_;
     const BBitmap& picture_;
-    const TileGrid grid_;
-    const int32 count_;
-    int32 position_ = 0;  // of the next frame
-    bool out_of_memory_ = false;
-    std::shared_ptr<Palette> palette_;  // of the tile whose turn it is
+    const TileGrid& grid_;
+    const TileLine across_;
+    const TileLine down_;
 };
 
-int32 TileRun::InsertAt(int32 position) {
-    position_ = position;
-    PictureSteps steps;
-    steps.begin = [this](int32 tile) { return Begin(tile); };
-    steps.make = [this](int32 tile) {
-        return CutTile(picture_, tile, grid_, document_.pixel_budget);
-    };
-    steps.take = [this](int32 tile, std::optional<MadePicture> made) {
-        return Insert(tile, std::move(made));
-    };
-    return MakePictures(count_, steps, document_.work);
-}
-
-bool TileRun::Begin(int32 tile) {
-    if (document_.StopRequested()) return false;
-    document_.PostStatus(Format("Status: loading tile %d of %d...", tile + 1, count_));
-    document_.work.Report(tile, count_);
-    palette_ = SharePalette();
-    out_of_memory_ = !palette_ && !document_.StopRequested();
-    return palette_ != nullptr;
-}
-
-bool TileRun::Insert(int32 tile, std::optional<MadePicture> made) {
-    if (made) Palette::TellOfFailure(made->palette_status);
-    if (document_.StopRequested()) return false;
-    out_of_memory_ = !made;
-    if (out_of_memory_) return false;
-    const int32 width = made->bitmap->Width();
-    const int32 height = made->bitmap->Height();
-    Frame frame(Format("tiled%04d", tile), width, height);
-    *palette_ = made->palette;
-    frame.palette = std::move(palette_);
-    frame.bitmap = std::move(made->bitmap);
-    document_.InsertFrame(position_, std::move(frame));
-    if (position_ == 0 && document_.prefs.global_setdimensions) {
-        document_.Change([width, height](Animation& animation) {
-            animation.width = width;
-            animation.height = height;
-        });
+// The numbers of the tiles that become frames; nothing when the work was stopped.
+std::optional<std::vector<int32>> TilesWithPixels(const TileSheet& sheet, const Work& work) {
+    std::vector<int32> numbers;
+    for (int32 i = 0; i < sheet.Count(); ++i) {
+        if (work.StopRequested()) return std::nullopt;
+        if (!sheet.IsEmpty(i)) numbers.push_back(i);
     }
-    ++position_;
-    return true;
+    return numbers;
 }
 
 }  // namespace
 
 bool InsertTiles(AnimationDocument& document, const entry_ref* ref, const TileGrid& grid,
                  BTranslatorRoster& roster) {
-    if (grid.rows <= 0 || grid.columns <= 0) {
+    if (!IsSound(grid)) {
         Warn(kIllegalGrid);
         return true;
     }
     if (!ref) return true;
-    const std::shared_ptr<BBitmap> picture = ReadPicture(document, *ref, roster);
+    const std::shared_ptr<BBitmap> picture = ReadSheet(document, *ref, roster);
     if (!picture) return !document.StopRequested();
-    const int64 tiles = int64{grid.rows} * grid.columns;
-    if (grid.rows > picture->Height() || grid.columns > picture->Width() || tiles > INT32_MAX) {
+    const TileSheet sheet(*picture, grid);
+    if (sheet.Count() <= 0 || sheet.Count() > INT32_MAX) {
         Warn(kIllegalGrid);
         return true;
     }
-    TileRun run(document, *picture, grid);
-    const int32 inserted = run.InsertAt(document.Selected() + 1);
-    if (run.OutOfMemory()) {
+    std::optional<std::vector<int32>> some;
+    if (grid.skip_empty) {
+        some = TilesWithPixels(sheet, document.work);
+        if (!some) return false;
+    }
+    SheetCut cut;
+    cut.count = static_cast<int32>(some ? static_cast<int64>(some->size()) : sheet.Count());
+    cut.tile = [&](int32 i) { return sheet.TileAt(some ? (*some)[static_cast<size_t>(i)] : i); };
+    const SheetEnd end = CutSheet(document, *picture, cut);
+    if (end.out_of_memory) {
         WarnOutOfMemory();
         return true;
     }
-    const bool complete = inserted == tiles;
-    if (complete || inserted > 0) document.SetModified(true);
-    return complete;
+    if (end.inserted > 0) document.SetModified(true);
+    return end.inserted == cut.count;
 }
 
 }  // namespace kirto

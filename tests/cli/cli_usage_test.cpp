@@ -55,6 +55,7 @@ TEST(KirtoCli, NamesEveryOptionInItsHelp) {
                              "--opacity N%",
                              "--overlay FILE[@X,Y[:N%]]",
                              "--make-transparent RRGGBB[:TOLERANCE]",
+                             "--save-sheet FILE.png[,columns=N][,padding=N][,pot]",
                              "--pause X|off",
                              "--palette web-safe|system|greyscale|first-frame|current-frame|FILE",
                              "--dither on|off",

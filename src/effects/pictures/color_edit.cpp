@@ -2,9 +2,9 @@
 
 namespace kirto {
 
-FramePlan ColorEdit::PlanOf(const Animation& animation, int32 position) const {
+PicturePlan ColorEdit::PlanOf(const Animation& animation, int32 position) const {
     const FramePointer frame = animation.frames.At(position);
-    FramePlan plan;
+    PicturePlan plan;
     plan.x_offset = frame->x_offset;
     plan.y_offset = frame->y_offset;
     return plan;

@@ -15,7 +15,7 @@ class ColorEdit : public PictureEdit {
     ColorEdit(std::unique_ptr<const ColorMap> map, const char* verb)
         : map_(std::move(map)), verb_(verb) {}
 
-    FramePlan PlanOf(const Animation& animation, int32 position) const override;
+    PicturePlan PlanOf(const Animation& animation, int32 position) const override;
     std::shared_ptr<const Picture> Make(const Picture& picture, const PictureVariant& variant,
                                         const std::shared_ptr<PixelBudget>& budget,
                                         const Work& work) const override;

@@ -19,7 +19,7 @@ PlaneRect AnchoredCanvas(const Animation& animation, int32 width, int32 height, 
             StartOf(animation.height, height, anchor / 3), width, height};
 }
 
-FramePlan CropEdit::PlanOf(const Animation& animation, int32 position) const {
+PicturePlan CropEdit::PlanOf(const Animation& animation, int32 position) const {
     return PlanToCut(*animation.frames.At(position), part_);
 }
 

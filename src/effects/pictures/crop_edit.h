@@ -19,7 +19,7 @@ class CropEdit : public PictureEdit {
     // part: not empty.
     explicit CropEdit(const PlaneRect& part) : part_(part) {}
 
-    FramePlan PlanOf(const Animation& animation, int32 position) const override;
+    PicturePlan PlanOf(const Animation& animation, int32 position) const override;
     std::shared_ptr<const Picture> Make(const Picture& picture, const PictureVariant& variant,
                                         const std::shared_ptr<PixelBudget>& budget,
                                         const Work& work) const override;

@@ -17,10 +17,10 @@ PlaneRect CanvasOf(const Animation& animation) {
     return {0, 0, animation.width, animation.height};
 }
 
-FramePlan PlanToCut(const Frame& frame, const PlaneRect& part) {
+PicturePlan PlanToCut(const Frame& frame, const PlaneRect& part) {
     const PlaneRect rect = RectOf(frame);
     const PlaneRect left = Common(rect, part);
-    FramePlan plan;
+    PicturePlan plan;
     if (left.Empty()) {
         plan.variant = kOutside;
         return plan;

@@ -14,7 +14,7 @@ PlaneRect CanvasOf(const Animation& animation);
 // The frame cut to a part of the plane, which becomes its new origin: the variant is what is left
 // of the picture, for CutToVariant. Of a frame that has nothing there a transparent pixel at the
 // origin is left, which keeps its time.
-FramePlan PlanToCut(const Frame& frame, const PlaneRect& part);
+PicturePlan PlanToCut(const Frame& frame, const PlaneRect& part);
 std::shared_ptr<const Picture> CutToVariant(const Picture& picture, const PictureVariant& variant,
                                             const std::shared_ptr<PixelBudget>& budget,
                                             const Work& work);

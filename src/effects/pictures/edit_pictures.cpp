@@ -30,7 +30,7 @@ struct EditedPicture {
 
 struct PlannedFrame {
     int32 position = 0;
-    FramePlan plan;
+    PicturePlan plan;
     size_t job = 0;  // where the picture is not kept
 };
 

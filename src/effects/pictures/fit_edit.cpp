@@ -14,7 +14,7 @@ int32 Proportional(int32 side, int32 other_canvas, int32 other_side) {
     return static_cast<int32>(std::max(scaled, int64{1}));
 }
 
-FramePlan PlanToScale(const PlaneRect& rect, const PlaneRect& canvas) {
+PicturePlan PlanToScale(const PlaneRect& rect, const PlaneRect& canvas) {
     const bool wide = int64{rect.width} * canvas.height >= int64{rect.height} * canvas.width;
     const int32 width =
         wide ? canvas.width
@@ -22,7 +22,7 @@ FramePlan PlanToScale(const PlaneRect& rect, const PlaneRect& canvas) {
     const int32 height =
         wide ? std::min(Proportional(rect.height, canvas.width, rect.width), canvas.height)
              : canvas.height;
-    FramePlan plan;
+    PicturePlan plan;
     plan.x_offset = (canvas.width - width) / 2;
     plan.y_offset = (canvas.height - height) / 2;
     plan.keeps_picture = width == rect.width && height == rect.height;
@@ -30,8 +30,8 @@ FramePlan PlanToScale(const PlaneRect& rect, const PlaneRect& canvas) {
     return plan;
 }
 
-FramePlan PlanToPad(const PlaneRect& rect, const PlaneRect& canvas) {
-    FramePlan plan;
+PicturePlan PlanToPad(const PlaneRect& rect, const PlaneRect& canvas) {
+    PicturePlan plan;
     plan.keeps_picture = rect == canvas;
     plan.variant = {-rect.left, -rect.top, canvas.width, canvas.height};
     return plan;
@@ -39,7 +39,7 @@ FramePlan PlanToPad(const PlaneRect& rect, const PlaneRect& canvas) {
 
 }  // namespace
 
-FramePlan FitEdit::PlanOf(const Animation& animation, int32 position) const {
+PicturePlan FitEdit::PlanOf(const Animation& animation, int32 position) const {
     const Frame& frame = *animation.frames.At(position);
     const PlaneRect canvas = CanvasOf(animation);
     switch (fit_) {

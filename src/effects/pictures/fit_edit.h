@@ -18,7 +18,7 @@ class FitEdit : public PictureEdit {
     // filter: of kScale.
     FitEdit(Fit fit, ScaleFilter filter) : fit_(fit), filter_(filter) {}
 
-    FramePlan PlanOf(const Animation& animation, int32 position) const override;
+    PicturePlan PlanOf(const Animation& animation, int32 position) const override;
     std::shared_ptr<const Picture> Make(const Picture& picture, const PictureVariant& variant,
                                         const std::shared_ptr<PixelBudget>& budget,
                                         const Work& work) const override;

@@ -116,10 +116,10 @@ int32 OverlayEdit::StrengthAt(int32 position) const {
     return static_cast<int32>((std::min(in, out) + 50) / 100);
 }
 
-FramePlan OverlayEdit::PlanOf(const Animation& animation, int32 position) const {
+PicturePlan OverlayEdit::PlanOf(const Animation& animation, int32 position) const {
     const Frame& frame = *animation.frames.At(position);
     const int32 strength = StrengthAt(position);
-    FramePlan plan;
+    PicturePlan plan;
     plan.x_offset = frame.x_offset;
     plan.y_offset = frame.y_offset;
     plan.keeps_picture = visible_.Empty() || strength == 0;

@@ -24,7 +24,7 @@ class OverlayEdit : public PictureEdit {
     OverlayEdit(std::shared_ptr<const Picture> picture, int32 x, int32 y,
                 const OverlayFading& fading, const Animation& before, const FrameSet& frames);
 
-    FramePlan PlanOf(const Animation& animation, int32 position) const override;
+    PicturePlan PlanOf(const Animation& animation, int32 position) const override;
     std::shared_ptr<const Picture> Make(const Picture& picture, const PictureVariant& variant,
                                         const std::shared_ptr<PixelBudget>& budget,
                                         const Work& work) const override;

@@ -15,7 +15,7 @@ namespace kirto {
 using PictureVariant = std::array<int32, 4>;
 
 // What an edit makes of a frame.
-struct FramePlan {
+struct PicturePlan {
     int32 x_offset = 0;  // 0 or more, as y_offset
     int32 y_offset = 0;
     bool keeps_picture = false;
@@ -29,7 +29,7 @@ class PictureEdit {
     virtual ~PictureEdit() = default;
 
     // The frame has a picture with rows, and the animation a canvas.
-    virtual FramePlan PlanOf(const Animation& animation, int32 position) const = 0;
+    virtual PicturePlan PlanOf(const Animation& animation, int32 position) const = 0;
     // A pure function, on any thread. Null when memory is short or the work was stopped; may throw
     // std::bad_alloc.
     virtual std::shared_ptr<const Picture> Make(const Picture& picture,

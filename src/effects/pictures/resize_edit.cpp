@@ -29,9 +29,9 @@ AxisPlan ResizeEdit::Scale::PlanOf(int32 offset, int32 length) const {
     return plan;
 }
 
-FramePlan ResizeEdit::PlanOf(const Animation& animation, int32 position) const {
+PicturePlan ResizeEdit::PlanOf(const Animation& animation, int32 position) const {
     const FramePointer frame = animation.frames.At(position);
-    FramePlan plan;
+    PicturePlan plan;
     plan.x_offset = across_.EdgeOf(frame->x_offset);
     plan.y_offset = down_.EdgeOf(frame->y_offset);
     plan.keeps_picture = across_.before == across_.after && down_.before == down_.after;

@@ -18,7 +18,7 @@ class ResizeEdit : public PictureEdit {
     // for.
     ResizeEdit(const Animation& before, int32 width, int32 height, ScaleFilter filter);
 
-    FramePlan PlanOf(const Animation& animation, int32 position) const override;
+    PicturePlan PlanOf(const Animation& animation, int32 position) const override;
     std::shared_ptr<const Picture> Make(const Picture& picture, const PictureVariant& variant,
                                         const std::shared_ptr<PixelBudget>& budget,
                                         const Work& work) const override;

@@ -6,9 +6,9 @@
 
 namespace kirto {
 
-FramePlan TurnEdit::PlanOf(const Animation& animation, int32 position) const {
+PicturePlan TurnEdit::PlanOf(const Animation& animation, int32 position) const {
     const Frame& frame = *animation.frames.At(position);
-    FramePlan plan = PlanToCut(frame, CanvasOf(animation));
+    PicturePlan plan = PlanToCut(frame, CanvasOf(animation));
     const PlaneRect left = Common(RectOf(frame), CanvasOf(animation));
     if (!left.Empty()) {
         const PlaneRect turned = Turned(left, turn_, animation.width, animation.height);

@@ -11,7 +11,7 @@ class TurnEdit : public PictureEdit {
   public:
     explicit TurnEdit(Turn turn) : turn_(turn) {}
 
-    FramePlan PlanOf(const Animation& animation, int32 position) const override;
+    PicturePlan PlanOf(const Animation& animation, int32 position) const override;
     std::shared_ptr<const Picture> Make(const Picture& picture, const PictureVariant& variant,
                                         const std::shared_ptr<PixelBudget>& budget,
                                         const Work& work) const override;

@@ -119,6 +119,7 @@ CliSession::Handler CliSession::HandlerFor(const std::string& option) {
         {"--redo", &CliSession::Redo},
         {"--save", &CliSession::Save},
         {"--save-sequence", &CliSession::SaveSequence},
+        {"--save-sheet", &CliSession::SaveSheet},
         {"--list-formats", &CliSession::ListFormats},
         {"--preview", &CliSession::Preview},
         {"--info", &CliSession::PrintInfo},

@@ -42,11 +42,14 @@ class CliSession {
     Outcome Open(const std::string& value);
     Outcome InsertAnimation(const std::string& value);
     Outcome InsertImages(const std::string& value);
-    Outcome InsertTiled(const std::string& value);
     Outcome Save(const std::string& value);
     Outcome SaveSequence(const std::string& value);
     Outcome ListFormats(const std::string& value);
     Outcome Preview(const std::string& value);
+
+    // (cli_session_sheets.cpp)
+    Outcome InsertTiled(const std::string& value);
+    Outcome SaveSheet(const std::string& value);
 
     // Operations in memory (cli_session_edits.cpp).
     Outcome Set(const std::string& value);

@@ -37,15 +37,6 @@ std::string SplitImage(const std::string& value, int32* position) {
     return value;
 }
 
-// Takes the text after the last comma off the value; empty without a comma.
-std::string TakeLastItem(std::string* value) {
-    const size_t comma = value->rfind(',');
-    if (comma == std::string::npos) return {};
-    std::string item = value->substr(comma + 1);
-    value->resize(comma);
-    return item;
-}
-
 std::string LowerCase(std::string text) {
     std::transform(text.begin(), text.end(), text.begin(),
                    [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
@@ -122,24 +113,6 @@ CliSession::Outcome CliSession::InsertImages(const std::string& value) {
         int32 next_position = -1;
         message.AddRef("following", AbsoluteRef(SplitImage(next.value, &next_position)));
     }
-    return Post(message);
-}
-
-CliSession::Outcome CliSession::InsertTiled(const std::string& value) {
-    std::string path = value;
-    TileChoice tiles;
-    tiles.columns = TakeLastItem(&path);
-    tiles.column_by_column = tiles.columns == "by-column";
-    if (tiles.column_by_column) tiles.columns = TakeLastItem(&path);
-    tiles.rows = TakeLastItem(&path);
-    int32 number = 0;
-    if (!ParseNumber(tiles.rows, &number) || !ParseNumber(tiles.columns, &number)) {
-        return Refuse("--insert-tiled: \"" + value + "\": expected FILE,ROWS,COLUMNS[,by-column].");
-    }
-    desktop_.SetSubject(path);
-    desktop_.SetTiles(tiles);
-    BMessage message(kInsertTiledFile);
-    message.AddRef("refs", AbsoluteRef(path));
     return Post(message);
 }
 
