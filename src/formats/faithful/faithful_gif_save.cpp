@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <new>
 #include <optional>
+#include <set>
 #include <utility>
 
 #include "base/byte_order.h"
@@ -38,6 +39,20 @@ Screen ScreenFor(const Animation& animation, const AlphaMatte& matte, const Pixe
     const Screen screen(SideOf(animation.width, right), SideOf(animation.height, bottom), matte);
     if (screen.At(0, screen.Height()) * sizeof(uint32) > budget.Limit()) throw std::bad_alloc();
     return screen;
+}
+
+// Whether the strips, by what they have counted, have no more colors than an image; with alpha or
+// not.
+bool HasFewColors(const Frame& frame) {
+    if (!frame.bitmap) return true;
+    std::set<uint32> pixels;
+    for (const auto& strip : frame.bitmap->AllStrips()) {
+        if (strip->Pixels()) return false;
+        for (const PixelCount& item : strip->Counts())
+            pixels.insert(item.pixel);
+        if (pixels.size() > FramePlanner::kMostColors) return false;
+    }
+    return true;
 }
 
 AdaptiveDither DitherOf(int32 setting) {
@@ -129,12 +144,12 @@ FaithfulGifSave::Prepared FaithfulGifSave::Prepare(size_t frame) const {
     Prepared prepared;
     if (!IsWanted(frame)) return prepared;
     ScreenPixels shown = screen_.Show(ScreenImage::Of(*frames_[frame]));
-    const ScreenPixels empty = screen_.Empty();
-    const bool many = !ColorsToDraw(empty, shown, FramePlanner::kMostColors);
-    if (many && !untouched_[frame]) {
+    if (!untouched_[frame] && !HasFewColors(*frames_[frame])) {
         const ScreenPixels before =
-            frame > 0 ? screen_.Show(ScreenImage::Of(*frames_[frame - 1])) : empty;
-        if (!ColorsToDraw(before, shown, FramePlanner::kMostColors))
+            frame > 0 ? screen_.Show(ScreenImage::Of(*frames_[frame - 1])) : screen_.Empty();
+        const auto few =
+            ColorsToDraw(screen_, screen_.Whole(), before, shown, FramePlanner::kMostColors);
+        if (!few)
             prepared.reduced = std::make_shared<ScreenPixels>(reducer_->Reduce(before, shown));
     }
     prepared.shown = std::make_shared<ScreenPixels>(std::move(shown));
