@@ -1,6 +1,7 @@
 #include "animation/frame_comparison.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <cstring>
 
 namespace kirto {
@@ -156,14 +157,43 @@ void FrameComparison::CompareRow(int32 left, int32 right, PixelDifferences* resu
         ComparePixel(frame_row_.data() + at, shown_row_.data() + at, result);
 }
 
-bool ShowTheSame(const Frame& a, const Frame& b) {
+namespace {
+
+// Pictures of one size whose rows mean the same, or the same picture.
+bool AreComparable(const Frame& a, const Frame& b) {
     if (a.x_offset != b.x_offset || a.y_offset != b.y_offset) return false;
     if (a.width != b.width || a.height != b.height) return false;
     if (a.bitmap == b.bitmap) return true;
     if (!a.bitmap || !b.bitmap || a.bitmap->Width() != b.bitmap->Width()) return false;
     if (a.bitmap->Height() != b.bitmap->Height() || !a.bitmap->HasRows()) return false;
-    if (!b.bitmap->HasRows() || a.bitmap->ColorSpace() != b.bitmap->ColorSpace()) return false;
-    return HaveSameRows(*a.bitmap, *b.bitmap);
+    return b.bitmap->HasRows() && a.bitmap->ColorSpace() == b.bitmap->ColorSpace();
+}
+
+bool HaveSimilarRows(const Picture& a, const Picture& b, int32 tolerance) {
+    std::vector<uint8> a_row(static_cast<size_t>(a.Width()) * 4);
+    std::vector<uint8> b_row(a_row.size());
+    for (int32 y = 0; y < a.Height(); ++y) {
+        a.ReadRow(y, a_row.data());
+        b.ReadRow(y, b_row.data());
+        const bool similar =
+            std::equal(a_row.begin(), a_row.end(), b_row.begin(), [=](uint8 one, uint8 other) {
+                return std::abs(int32{one} - int32{other}) <= tolerance;
+            });
+        if (!similar) return false;
+    }
+    return true;
+}
+
+}  // namespace
+
+bool ShowTheSame(const Frame& a, const Frame& b) {
+    if (!AreComparable(a, b)) return false;
+    return a.bitmap == b.bitmap || HaveSameRows(*a.bitmap, *b.bitmap);
+}
+
+bool ShowNearlyTheSame(const Frame& a, const Frame& b, int32 tolerance) {
+    if (tolerance <= 0 || !AreComparable(a, b)) return ShowTheSame(a, b);
+    return a.bitmap == b.bitmap || HaveSimilarRows(*a.bitmap, *b.bitmap, tolerance);
 }
 
 }  // namespace kirto

@@ -67,5 +67,7 @@ class FrameComparison {
 
 // Whether both frames show the same pixels at the same place.
 bool ShowTheSame(const Frame& a, const Frame& b);
+// The same where each channel of a pixel, alpha too, may differ by so much, 0..255.
+bool ShowNearlyTheSame(const Frame& a, const Frame& b, int32 tolerance);
 
 }  // namespace kirto

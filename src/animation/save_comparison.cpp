@@ -16,11 +16,6 @@ constexpr size_t kRunsOfAPiece = 16;
 // What a file keeps of a pause is a whole hundredth, which may come sooner or later by half a one.
 constexpr double kTolerance = 0.5 + 1e-6;
 
-double PauseOf(const Animation& animation, const Frame& frame) {
-    if (frame.use_pause) return frame.pause_length;
-    return animation.use_pause ? animation.pause_length : 0;
-}
-
 int64 PlaysOf(const Animation& animation) {
     return animation.use_loop ? animation.loop_count : 1;
 }
@@ -65,7 +60,7 @@ SaveComparison::Runs SaveComparison::RunsOf(const Animation& animation, double u
     int32 i = 0;
     for (const FramePointer& frame : animation.frames) {
         if (IsStopped(work_)) return {};
-        const double pause = PauseOf(animation, *frame) * unit;
+        const double pause = animation.PauseOf(*frame) * unit;
         if (together && before && ShowTheSame(*before, *frame)) {
             ++runs.back().count;
             runs.back().pause += pause;

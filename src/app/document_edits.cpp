@@ -45,15 +45,16 @@ void SetKind(Animation& animation, int32 kind) {
 }
 
 bool SetFrameKind(Animation& animation, int32 kind) {
-    const FramePointer frame = animation.CurrentFrame();
-    if (!frame) return false;
-    EditFramePalette(animation, animation.selected, [&](Palette& palette) {
-        if (kind == kPaletteOptimal) {
-            palette.Set(frame->bitmap.get());
-        } else {
-            palette.Set(kind);
-        }
-    });
+    if (!animation.CurrentFrame()) return false;
+    for (const int32 i : animation.Selection().Positions()) {
+        EditFramePalette(animation, i, [&](Palette& palette) {
+            if (kind == kPaletteOptimal) {
+                palette.Set(animation.frames.At(i)->bitmap.get());
+            } else {
+                palette.Set(kind);
+            }
+        });
+    }
     return true;
 }
 

@@ -1,8 +1,11 @@
 #include "app/kirto.h"
 
+#include <algorithm>
+#include <iterator>
 #include <new>
 #include <utility>
 
+#include "app/arrangement_commands.h"
 #include "app/command_port.h"
 #include "app/document_edits.h"
 #include "base/number.h"
@@ -62,6 +65,11 @@ const Kirto::Command* Kirto::CommandFor(uint32 code) {
          kInsertion},
         {kirto::kSelectFrame, [](Kirto& app, BMessage* message) { app.SelectFrame(message); },
          kNothing},
+        {kirto::kSelectFrames,
+         [](Kirto& app, BMessage* message) {
+             if (kirto::SelectFrames(app, *message)) app.PostToWindow(kUpdateFrames);
+         },
+         kNothing},
         {kirto::kRemoveFrame, [](Kirto& app, BMessage*) { app.RemoveFrame(); }, kUpdateFrames,
          kEdit, "Remove Frame"},
         {kirto::kMoveFrameUp, [](Kirto& app, BMessage*) { app.MoveFrame(true); }, kUpdateFrames,
@@ -92,13 +100,32 @@ const Kirto::Command* Kirto::CommandFor(uint32 code) {
     return nullptr;
 }
 
-Kirto::Change Kirto::ChangeBy(uint32 code) {
-    if (code == B_REFS_RECEIVED) return Change::kInsertion;
-    if (const Command* command = CommandFor(code)) return command->change;
-    return kirto::EditName(code) ? Change::kEdit : Change::kNone;
+namespace {
+
+// Edits of the document's value that come in tables of their own.
+struct EditTable {
+    // The edit's name in the "Edit" menu; null for codes of other tables.
+    const char* (*name)(uint32 code);
+    // Returns false for those.
+    bool (*apply)(AnimationDocument& document, const BMessage& message);
+};
+
+constexpr EditTable kEditTables[] = {
+    {kirto::EditName, kirto::ApplyEdit},
+    {kirto::ArrangementName, kirto::ApplyArrangement},
+};
+
+const char* NameOfEdit(uint32 code) {
+    for (const EditTable& table : kEditTables) {
+        if (const char* name = table.name(code)) return name;
+    }
+    return nullptr;
 }
 
-namespace {
+bool ApplyFromTables(AnimationDocument& document, const BMessage& message) {
+    return std::any_of(std::begin(kEditTables), std::end(kEditTables),
+                       [&](const EditTable& table) { return table.apply(document, message); });
+}
 
 kirto::FadeMode FadeModeOf(uint32 code) {
     switch (code) {
@@ -112,6 +139,16 @@ kirto::FadeMode FadeModeOf(uint32 code) {
             return kirto::FadeMode::kFromPrevious;
     }
 }
+
+}  // namespace
+
+Kirto::Change Kirto::ChangeBy(uint32 code) {
+    if (code == B_REFS_RECEIVED) return Change::kInsertion;
+    if (const Command* command = CommandFor(code)) return command->change;
+    return NameOfEdit(code) ? Change::kEdit : Change::kNone;
+}
+
+namespace {
 
 // Told before the document takes its properties from the settings, which may fail in turn.
 Prefs& WarnOfTrouble(Prefs& settings) {
@@ -182,10 +219,10 @@ void Kirto::CarryOut(BMessage* message) {
     BeginStep();
     if (command) {
         command->run(*this, message);
-    } else if (!kirto::ApplyEdit(*this, *message)) {
+    } else if (!ApplyFromTables(*this, *message)) {
         IEApplication::MessageReceived(message);
     }
-    EndStep(command ? command->step : kirto::EditName(message->what));
+    EndStep(command ? command->step : NameOfEdit(message->what));
     if (command && command->refresh != 0) PostToWindow(command->refresh);
 }
 

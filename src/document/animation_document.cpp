@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "animation/arrangement.h"
 #include "base/text.h"
 #include "document/command_codes.h"
 #include "document/document_scope.h"
@@ -215,6 +216,7 @@ void AnimationDocument::InsertFrameAsCurrent(int32 position, Frame frame) {
         next.height = frame.height;
     }
     next.selected = std::clamp(position, 0, next.frames.Size());
+    next.several = {};
     next.frames.Insert(next.selected, std::make_shared<const Frame>(std::move(frame)));
     CommitModified(std::move(next));
     PostInserted(first);
@@ -227,16 +229,19 @@ void AnimationDocument::PostInserted(bool first) const {
 
 void AnimationDocument::RemoveFrame() {
     kirto::Animation next = *Current();
-    if (kirto::RemoveCurrentFrame(next)) CommitModified(std::move(next));
+    if (kirto::RemoveSelected(next)) CommitModified(std::move(next));
 }
 
 void AnimationDocument::MoveFrame(bool up) {
     kirto::Animation next = *Current();
-    if (kirto::MoveCurrentFrame(next, up)) CommitModified(std::move(next));
+    if (kirto::MoveSelected(next, up)) CommitModified(std::move(next));
 }
 
 void AnimationDocument::ReverseFrames() {
-    Change([](kirto::Animation& animation) { kirto::ReverseFrames(animation); });
+    kirto::Animation next = *Current();
+    const bool several = !next.several.Empty();
+    if (!kirto::ReverseSelected(next)) return;
+    several ? CommitModified(std::move(next)) : Commit(std::move(next));
 }
 
 bool AnimationDocument::Select(int32 i) {

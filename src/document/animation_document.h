@@ -85,13 +85,15 @@ class AnimationDocument : public DocumentLock {
     // document is modified then. Into an empty list it also gives the canvas its size, where the
     // setting "global_setdimensions" says so. Posts as InsertFrame does.
     void InsertFrameAsCurrent(int32 position, Frame frame);
-    // Removes the current frame.
+    // Removes the current frame, or all selected ones.
     void RemoveFrame();
-    // Swaps the current frame with the one before (up) or after it; the selection follows.
+    // Swaps the current frame, or each selected one, with the one before (up) or after it; the
+    // selection follows.
     void MoveFrame(bool up);
-    // Reverses the list; the selection keeps its number, modified stays.
+    // Reverses the list; the selection keeps its number, modified stays. Where several frames are
+    // selected they alone are reversed, and the document is modified.
     void ReverseFrames();
-    // Makes frame i current; true only if the selection changed.
+    // Makes frame i current and the only one selected; true only if the selection changed.
     bool Select(int32 i);
     // Updates the global palette from the first or the current frame, if its kind says so and the
     // work is not stopped meanwhile.

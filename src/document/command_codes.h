@@ -81,6 +81,24 @@ inline constexpr uint32 kUndo = FourCharCode("aweu");
 inline constexpr uint32 kRedo = FourCharCode("awer");
 inline constexpr uint32 kPreview = FourCharCode("awvp");
 
+// Main window to application: string "frames", as ParseFrameSet has it, are the selected ones; that
+// of them becomes current which is nearest to int32 "current", without that field to the frame that
+// is.
+inline constexpr uint32 kSelectFrames = FourCharCode("aslm");
+// Main window to application: arrange the selected frames, or all where one is selected and one
+// alone can't be arranged. Those of a row without fields have none.
+inline constexpr uint32 kMoveFramesTo = FourCharCode("awmt");     // int32 "position"
+inline constexpr uint32 kCopyFramesTo = FourCharCode("awct");     // int32 "position"
+inline constexpr uint32 kDuplicateFrames = FourCharCode("awdu");  // to behind the last
+inline constexpr uint32 kForwardAndBack = FourCharCode("awfb");
+inline constexpr uint32 kRemoveDuplicates = FourCharCode("awrd");  // int32 "tolerance"
+inline constexpr uint32 kDropEveryNth = FourCharCode("awdn");      // int32 "number"
+inline constexpr uint32 kStartAtCurrent = FourCharCode("awsc");
+// String "pause", as ParsePauseChange has it, for the selected frames, or string "frames", or all
+// of them where bool "all" says so; bool "own": also for those with a pause of their own, which is
+// the rule.
+inline constexpr uint32 kSetPauses = FourCharCode("awsp");
+
 // Main window to application: edits of the document that panels ask for, with the value checked.
 inline constexpr uint32 kSetWidth = FourCharCode("gvwd");        // int32 "value"
 inline constexpr uint32 kSetHeight = FourCharCode("gvht");       // int32 "value"
@@ -122,6 +140,15 @@ inline constexpr uint32 kMenuPreferences = FourCharCode("awvr");
 inline constexpr uint32 kMenuInsert = FourCharCode("awfi");
 inline constexpr uint32 kMenuInsertTiled = FourCharCode("awit");
 inline constexpr uint32 kMenuFadeEffects = FourCharCode("awfe");
+inline constexpr uint32 kMenuInsertAnimation = FourCharCode("wian");
+inline constexpr uint32 kMenuSelectAll = FourCharCode("wsal");
+inline constexpr uint32 kMenuSelectNone = FourCharCode("wsno");  // but the current frame
+inline constexpr uint32 kMenuInvertSelection = FourCharCode("wsiv");
+inline constexpr uint32 kMenuSelectEvery = FourCharCode("wsev");
+inline constexpr uint32 kMenuSelectRange = FourCharCode("wsrg");
+inline constexpr uint32 kMenuSetPause = FourCharCode("wspa");
+inline constexpr uint32 kMenuDropEvery = FourCharCode("wdev");
+inline constexpr uint32 kMenuRemoveDuplicates = FourCharCode("wrdu");
 
 // Panels to main window. No fields; the window reads the control that sent the command.
 inline constexpr uint32 kThumbnailMode = FourCharCode("lvtm");

@@ -61,6 +61,19 @@ Value ValueOf(const Animation& animation, Value Frame::*member) {
     return frame ? *frame.*member : Value{};
 }
 
+template <typename Value, typename Owner>
+bool IsMixed(const Animation& animation, Value Owner::*member) {
+    if constexpr (std::is_same_v<Owner, Frame>) {
+        for (const FrameSet::Range range : animation.several.Ranges()) {
+            for (int32 i = range.first; i <= range.last; ++i) {
+                if (*animation.frames.At(i).*member != *animation.CurrentFrame().*member)
+                    return true;
+            }
+        }
+    }
+    return false;
+}
+
 template <typename Value>
 bool SetMember(Animation& animation, Value Animation::*member, const Value& value) {
     animation.*member = value;
@@ -76,7 +89,7 @@ bool SetMember(Animation& animation, Value Palette::*member, const Value& value)
 template <typename Value>
 bool SetMember(Animation& animation, Value Frame::*member, const Value& value) {
     if (!animation.CurrentFrame()) return false;
-    EditFrame(animation, animation.selected, [&](Frame& frame) { frame.*member = value; });
+    EditSelectedFrames(animation, [&](Frame& frame) { frame.*member = value; });
     return true;
 }
 
@@ -105,6 +118,10 @@ int32 Field::Largest(const Animation& animation) const {
 
 Field::Value Field::In(const Animation& animation) const {
     return std::visit([&](auto place) -> Value { return ValueOf(animation, place); }, member);
+}
+
+bool Field::IsMixedIn(const Animation& animation) const {
+    return std::visit([&](auto place) { return IsMixed(animation, place); }, member);
 }
 
 bool Field::Set(Animation& animation, const BMessage& command) const {

@@ -12,7 +12,7 @@
 namespace kirto {
 
 struct Field {
-    // Animation: the animation's; Palette: the global palette's; Frame: the current frame's.
+    // Animation: the animation's; Palette: the global palette's; Frame: the selected frames'.
     using Member =
         std::variant<int32 Animation::*, bool Animation::*, double Animation::*, int32 Palette::*,
                      bool Palette::*, int32 Frame::*, bool Frame::*, double Frame::*>;
@@ -26,13 +26,16 @@ struct Field {
     Bound bound;  // of numbers: at least 0, or an index of the global palette
 
     bool IsReal() const;     // holds a double
-    bool IsOfFrame() const;  // a member of the current frame
+    bool IsOfFrame() const;  // a member of frames
     // The largest number allowed, or -1 where there is none.
     int32 Largest(const Animation& animation) const;
-    // 0 or false when there is no current frame for it.
+    // Of frames: the current one's; 0 or false when there is none.
     Value In(const Animation& animation) const;
-    // Sets the field to the value in the command. Changes nothing and returns false when the
-    // command has no value, or when there is no current frame for it.
+    // Whether the selected frames have different values.
+    bool IsMixedIn(const Animation& animation) const;
+    // Sets the field to the value in the command, of frames that of all selected ones. Changes
+    // nothing and returns false when the command has no value, or when there is no current frame
+    // for it.
     bool Set(Animation& animation, const BMessage& command) const;
 };
 

@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "animation/arrangement.h"
+
 namespace kirto::test {
 
 namespace {
@@ -75,32 +77,32 @@ TEST(InsertFrame, OutsideTheListChangesNothing) {
     }
 }
 
-TEST(RemoveCurrentFrame, MakesTheFollowingFrameCurrentOrElseTheLast) {
+TEST(RemoveSelected, MakesTheFollowingFrameCurrentOrElseTheLast) {
     Animation animation = AnimationOf({"one", "two", "three"}, 1);
 
-    EXPECT_TRUE(RemoveCurrentFrame(animation));
+    EXPECT_TRUE(RemoveSelected(animation));
     EXPECT_EQ(animation.CurrentFrame()->name, "three");
-    EXPECT_TRUE(RemoveCurrentFrame(animation));
+    EXPECT_TRUE(RemoveSelected(animation));
     EXPECT_EQ(animation.CurrentFrame()->name, "one");
-    EXPECT_TRUE(RemoveCurrentFrame(animation));
+    EXPECT_TRUE(RemoveSelected(animation));
     EXPECT_EQ(animation.selected, -1);
     EXPECT_TRUE(animation.frames.Empty());
-    EXPECT_FALSE(RemoveCurrentFrame(animation));
+    EXPECT_FALSE(RemoveSelected(animation));
 }
 
-TEST(MoveCurrentFrame, SwapsNeighboursAndFollows) {
+TEST(MoveSelected, SwapsNeighboursAndFollows) {
     Animation animation = AnimationOf({"one", "two", "three"}, 1);
 
-    EXPECT_TRUE(MoveCurrentFrame(animation, true));
+    EXPECT_TRUE(MoveSelected(animation, true));
     EXPECT_EQ(Names(animation), (NameList{"two", "one", "three"}));
     EXPECT_EQ(animation.selected, 0);
-    EXPECT_TRUE(MoveCurrentFrame(animation, false));
-    EXPECT_TRUE(MoveCurrentFrame(animation, false));
+    EXPECT_TRUE(MoveSelected(animation, false));
+    EXPECT_TRUE(MoveSelected(animation, false));
     EXPECT_EQ(Names(animation), (NameList{"one", "three", "two"}));
     EXPECT_EQ(animation.selected, 2);
 }
 
-TEST(MoveCurrentFrame, PastTheEndsChangesNothing) {
+TEST(MoveSelected, PastTheEndsChangesNothing) {
     const Animation empty;
     const Animation at_start = AnimationOf({"one", "two"}, 0);
     const Animation at_end = AnimationOf({"one", "two"}, 1);
@@ -108,27 +110,27 @@ TEST(MoveCurrentFrame, PastTheEndsChangesNothing) {
          {std::pair{&empty, true}, {&empty, false}, {&at_start, true}, {&at_end, false}}) {
         Animation animation = *before;
 
-        EXPECT_FALSE(MoveCurrentFrame(animation, up));
+        EXPECT_FALSE(MoveSelected(animation, up));
 
         EXPECT_EQ(animation, *before);
     }
 }
 
-TEST(ReverseFrames, KeepsTheSelectedNumber) {
+TEST(ReverseSelected, KeepsTheSelectedNumber) {
     Animation animation = AnimationOf({"one", "two", "three"}, 0);
 
-    EXPECT_TRUE(ReverseFrames(animation));
+    EXPECT_TRUE(ReverseSelected(animation));
 
     EXPECT_EQ(Names(animation), (NameList{"three", "two", "one"}));
     EXPECT_EQ(animation.selected, 0);
 }
 
-TEST(ReverseFrames, BelowTwoFramesChangesNothing) {
+TEST(ReverseSelected, BelowTwoFramesChangesNothing) {
     Animation empty;
     Animation single = AnimationOf({"one"});
 
-    EXPECT_FALSE(ReverseFrames(empty));
-    EXPECT_FALSE(ReverseFrames(single));
+    EXPECT_FALSE(ReverseSelected(empty));
+    EXPECT_FALSE(ReverseSelected(single));
     EXPECT_EQ(Names(single), NameList{"one"});
 }
 
@@ -221,6 +223,68 @@ TEST(Animation, EqualsOneOfTheSameContentInOtherPlaces) {
     EXPECT_NE(copy.palette, animation.palette);
     EXPECT_NE(copy.frames.At(0), animation.frames.At(0));
     EXPECT_EQ(copy, animation);
+}
+
+TEST(SelectFrames, SelectsSeveralAndMakesTheNearestCurrent) {
+    Animation animation = AnimationOf({"a", "b", "c", "d", "e"}, 4);
+
+    EXPECT_TRUE(SelectFrames(animation, FrameSet::Of(1, 3), 0));
+
+    EXPECT_EQ(animation.selected, 1);
+    EXPECT_EQ(animation.Selection().Positions(), (std::vector<int32>{1, 2, 3}));
+    EXPECT_FALSE(SelectFrames(animation, FrameSet::Of(1, 3), 0));
+}
+
+TEST(SelectFrames, OfOneFrameOrNoneSelectsThatFrameOrTheCurrentOne) {
+    Animation animation = AnimationOf({"a", "b", "c"}, 1);
+    ASSERT_TRUE(SelectFrames(animation, FrameSet::AllOf(3), 1));
+
+    EXPECT_TRUE(SelectFrames(animation, {}, 0));
+    EXPECT_EQ(animation.Selection().Positions(), (std::vector<int32>{1}));
+
+    EXPECT_TRUE(SelectFrames(animation, FrameSet::Of(2, 2), 0));
+    EXPECT_EQ(animation.selected, 2);
+    EXPECT_TRUE(animation.several.Empty());
+}
+
+TEST(SelectFrames, TakesNoFramesThatThereAreNot) {
+    Animation animation = AnimationOf({"a", "b", "c"}, 1);
+
+    EXPECT_FALSE(SelectFrames(animation, FrameSet::Of(1, 3), 1));
+    EXPECT_EQ(animation.selected, 1);
+}
+
+TEST(Animation, SelectsTheCurrentFrameAloneAfterEachEditOfTheList) {
+    const auto selected = [](auto edit) {
+        Animation animation = AnimationOf({"a", "b", "c", "d"}, 1);
+        SelectFrames(animation, FrameSet::Of(1, 2), 1);
+        edit(animation);
+        return animation.several.Empty();
+    };
+
+    EXPECT_FALSE(selected([](Animation&) {}));
+    EXPECT_TRUE(selected([](Animation& each) { InsertFrame(each, 0, FrameOf("x")); }));
+    EXPECT_TRUE(selected([](Animation& each) { RemoveSelected(each); }));
+    EXPECT_TRUE(selected([](Animation& each) { SelectFrame(each, 1); }));
+}
+
+TEST(Animation, HasNoSelectionWithoutFrames) {
+    EXPECT_TRUE(Animation().Selection().Empty());
+}
+
+TEST(Animation, GivesAFrameItsOwnPauseOrElseItsOwn) {
+    Animation animation = AnimationOf({"a"});
+    animation.pause_length = 7;
+    EXPECT_EQ(animation.PauseOf(*animation.CurrentFrame()), 0);
+
+    animation.use_pause = true;
+    EXPECT_EQ(animation.PauseOf(*animation.CurrentFrame()), 7);
+
+    EditFrame(animation, 0, [](Frame& frame) {
+        frame.use_pause = true;
+        frame.pause_length = 3;
+    });
+    EXPECT_EQ(animation.PauseOf(*animation.CurrentFrame()), 3);
 }
 
 }  // namespace kirto::test

@@ -62,6 +62,8 @@ uint64 ReadDocument(const AnimationDocument& document) {
     EXPECT_EQ(animation.frames.Size(), visited);
     EXPECT_GE(animation.selected, visited == 0 ? -1 : 0);
     EXPECT_LT(animation.selected, visited == 0 ? 0 : visited);
+    EXPECT_EQ(animation.Selection().Contains(animation.selected), visited > 0);
+    EXPECT_LT(animation.Selection().Last(), std::max(visited, 1));
     return sum;
 }
 
@@ -125,6 +127,7 @@ class RandomCommands : public KirtoFixture, public ::testing::WithParamInterface
                                             kReverseFrames, kMoveFrameDown,  kFrameWebSafe,
                                             kFrameSystem,   kFrameGreyscale, B_CANCEL};
         if (choices_.OneIn(120)) return BMessage(kRemoveFrame);
+        if (choices_.OneIn(8)) return Arrangement();
         if (choices_.OneIn(3000)) return BMessage(kResetDocument);
         if (choices_.OneIn(50)) return BMessage(choices_.Below(1u << 31));
         if (choices_.OneIn(3)) return PanelEdit();
@@ -132,6 +135,26 @@ class RandomCommands : public KirtoFixture, public ::testing::WithParamInterface
         BMessage message(OneOf(choices_, kCodes));
         if (message.what == kSelectFrame) message.AddInt32("number", choices_.Between(-2, 20));
         if (message.what == B_CANCEL) message.AddPointer("source", AnyPanel());
+        return message;
+    }
+
+    // Most of them find several frames selected.
+    BMessage Arrangement() {
+        static constexpr uint32 kCodes[] = {
+            kSelectFrames, kSelectFrames,    kSelectFrames,     kMoveFramesTo,  kMoveFramesTo,
+            kCopyFramesTo, kDuplicateFrames, kRemoveDuplicates, kDropEveryNth,  kDropEveryNth,
+            kSetPauses,    kSetPauses,       kStartAtCurrent,   kForwardAndBack};
+        BMessage message(OneOf(choices_, kCodes));
+        // Copies would make more and more of them.
+        const bool copies = message.what == kCopyFramesTo || message.what == kDuplicateFrames ||
+                            message.what == kForwardAndBack;
+        if (copies && !choices_.OneIn(6)) message.what = kDropEveryNth;
+        message.AddString("frames", OneOf(choices_, Lines{"0-2", "all", "1,3", "0--1/2", "none"}));
+        message.AddString("pause", OneOf(choices_, Lines{"7", "40ms", "20fps", "50%", "no"}));
+        message.AddInt32("position", choices_.Between(-1, 12));
+        message.AddInt32("number", choices_.Between(0, 4));
+        message.AddBool("all", choices_.OneIn(4));
+        message.AddBool("own", choices_.OneIn(2));
         return message;
     }
 

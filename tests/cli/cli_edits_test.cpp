@@ -37,14 +37,20 @@ TEST(KirtoCli, SelectsFrames) {
     EXPECT_EQ(home.Edited({})["selected"], 0);
     EXPECT_EQ(home.Edited({"--select", "2"})["selected"], 2);
     EXPECT_EQ(home.Edited({"--select", "0"})["selected"], 0);
+    EXPECT_EQ(home.Edited({"--select", "-1"})["selected"], 2);
     EXPECT_EQ(home.Edited({"--select", "2"})["modified"], false);
 }
 
 TEST(KirtoCli, SelectsOnlyFramesThatAreThere) {
     ExpectRefused({"--select", "3"}, "There is no frame 3; the animation has 3 frame(s).", 1);
-    ExpectRefused({"--select", "-1"}, "There is no frame -1; the animation has 3 frame(s).", 1);
-    ExpectRefused({"--select", "one"}, "--select: \"one\" is not a number.");
-    ExpectRefused({"--select", ""}, "--select: \"\" is not a number.");
+    ExpectRefused({"--select", "-4"}, "There is no frame -4; the animation has 3 frame(s).", 1);
+    ExpectRefused({"--select", "1-3"},
+                  "There are not all frames of \"1-3\"; the animation has 3 frame(s).", 1);
+    for (const std::string text : {"one", "", "1-", "0-2/0"}) {
+        ExpectRefused({"--select", text}, "--select: \"" + text +
+                                              "\" is not a list of frames such as 3, 0-9, 0,4,7 "
+                                              "or all.");
+    }
 }
 
 TEST(KirtoCli, RemovesTheCurrentFrame) {

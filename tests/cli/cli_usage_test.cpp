@@ -36,7 +36,7 @@ TEST(KirtoCli, NamesEveryOptionInItsHelp) {
                              "--faithful",
                              "--open FILE",
                              "--insert-animation FILE@N",
-                             "--select N",
+                             "--select FRAMES",
                              "--remove",
                              "--move-up",
                              "--move-down",

@@ -9,13 +9,8 @@ namespace {
 
 constexpr double kLongest = 65535;
 
-double PauseOf(const Animation& animation, const Frame& frame, bool in_seconds) {
-    double pause = 0;
-    if (frame.use_pause) {
-        pause = frame.pause_length;
-    } else if (animation.use_pause) {
-        pause = animation.pause_length;
-    }
+double HundredthsOf(const Animation& animation, const Frame& frame, bool in_seconds) {
+    const double pause = animation.PauseOf(frame);
     if (std::isnan(pause)) return 0;
     return std::clamp(in_seconds ? pause * 100 : pause, 0.0, kLongest);
 }
@@ -28,7 +23,7 @@ std::vector<uint16> SpreadDelays(const Animation& animation, bool in_seconds) {
     // How much later than the last whole hundredth the frame is due, which is -0.5 to 0.5.
     double rest = 0;
     for (const FramePointer& frame : animation.frames) {
-        const double due = PauseOf(animation, *frame, in_seconds) + rest;
+        const double due = HundredthsOf(animation, *frame, in_seconds) + rest;
         // What seconds are short of a hundredth by the way numbers are kept does not count.
         const double whole = std::clamp(std::floor(due + 0.5 + 1e-6), 0.0, kLongest);
         delays.push_back(static_cast<uint16>(whole));

@@ -128,12 +128,7 @@ GifFrameEncoder::Encoding GifFrameEncoder::EncodingOf(const Frame& frame,
 }
 
 int64 GifFrameEncoder::DelayOf(const Animation& animation, const Frame& frame, bool in_seconds) {
-    double pause = 0;
-    if (frame.use_pause) {
-        pause = frame.pause_length;
-    } else if (animation.use_pause) {
-        pause = animation.pause_length;
-    }
+    const double pause = animation.PauseOf(frame);
     return WholeHundredths(in_seconds ? pause * 100 : pause);
 }
 

@@ -27,11 +27,23 @@ constexpr OptionText kOperations[] = {
     {"--insert-tiled", "FILE,ROWS,COLUMNS[,by-column]", "Cut an image into frames"},
     {"--fade", "MODE:COUNT[:RRGGBB]",
      "Fade the current frame: to-color, from-color, to-next or from-previous"},
-    {"--select", "N", "Make frame N the current one (the first is 0)"},
-    {"--remove", nullptr, "Remove the current frame"},
-    {"--move-up", nullptr, "Move the current frame one place toward the start"},
-    {"--move-down", nullptr, "Move the current frame one place toward the end"},
-    {"--reverse", nullptr, "Reverse the order of all frames"},
+    {"--select", "FRAMES",
+     "Select frames: 3, 0-9, 0-20/2, 0,4,7, -1 or all (the first is 0, the last -1)"},
+    {"--remove", nullptr, "Remove the selected frames"},
+    {"--move-up", nullptr, "Move the selected frames one place toward the start"},
+    {"--move-down", nullptr, "Move the selected frames one place toward the end"},
+    {"--reverse", nullptr, "Reverse the order of all frames, or of several that are selected"},
+    {"--move-to", "N", "Move the selected frames before frame N"},
+    {"--copy-to", "N", "Copy the selected frames before frame N"},
+    {"--duplicate", nullptr, "Copy the selected frames behind the last of them"},
+    {"--ping-pong", nullptr, "Play forward and back again*"},
+    {"--shift-start", nullptr, "Begin with the current frame"},
+    {"--every", "N", "Drop every N-th frame and keep the duration*"},
+    {"--remove-duplicates", "[TOLERANCE]",
+     "Merge frames that show the same, or channels no more than 0 to 255 apart*"},
+    {"--delay", "[FRAMES:]PAUSE", "Set the pause: 4, 40ms, 25fps or 150%*"},
+    {"--fps", "X", "Show so many frames a second*"},
+    {"--speed", "X%", "Play so much faster or slower*"},
     {"--width", "N", "Set the animation's width in pixels"},
     {"--height", "N", "Set the animation's height in pixels"},
     {"--loop", "N|off", "Play N times (0 = forever, off = play once)"},
@@ -59,6 +71,7 @@ constexpr const char* kFooter =
     "\nOptions are carried out in the order given, on one animation. Pauses are in hundredths of "
     "a\n"
     "second, or in seconds after --set global_pauseinseconds=true.\n"
+    "* Of the selected frames, or of all where only one is selected.\n"
     "Exit status: 0 success, 1 failure, 2 wrong usage.\n";
 
 std::vector<CliOperation> InOrder(const CLI::App& app) {

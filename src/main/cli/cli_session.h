@@ -50,7 +50,6 @@ class CliSession {
     // Operations in memory (cli_session_edits.cpp).
     Outcome Set(const std::string& value);
     Outcome SetFaithful(const std::string& value);
-    Outcome SelectFrame(const std::string& value);
     Outcome Remove(const std::string& value);
     Outcome MoveUp(const std::string& value);
     Outcome MoveDown(const std::string& value);
@@ -71,6 +70,19 @@ class CliSession {
     Outcome Redo(const std::string& value);
     Outcome PrintInfo(const std::string& value);
     Outcome PrintInfoJson(const std::string& value);
+
+    // Operations on several frames (cli_session_arrangement.cpp).
+    Outcome SelectFrames(const std::string& value);
+    Outcome MoveTo(const std::string& value);
+    Outcome CopyTo(const std::string& value);
+    Outcome Duplicate(const std::string& value);
+    Outcome ForwardAndBack(const std::string& value);
+    Outcome StartAtCurrent(const std::string& value);
+    Outcome DropEvery(const std::string& value);
+    Outcome RemoveDuplicates(const std::string& value);
+    Outcome SetDelay(const std::string& value);
+    Outcome SetFramesPerSecond(const std::string& value);
+    Outcome SetSpeed(const std::string& value);
 
     // Posts the command and waits until the application is idle; fails when an alert told of a
     // failure.
@@ -101,6 +113,13 @@ class CliSession {
     Outcome CheckInput(const Field& field, const std::string& text, double* number);
     // Fails without a current frame.
     Outcome CheckCurrentFrame();
+    // Posts the command with the place before which frames go: 0 to the number of frames.
+    Outcome PostPlace(uint32 command, const char* option, const std::string& text);
+    // Sets the pauses of the selected frames, or of all where only one is selected.
+    Outcome PostPauses(const std::string& pause);
+    // Says that the animation does not have the frames, or, with the option's name, that the text
+    // does not name any.
+    Outcome RefuseFrames(const char* option, const std::string& text);
     // The translator that writes the format: by its name or, with a dot, by a file's extension.
     translator_id WriterNamed(const std::string& name) const;
 

@@ -45,18 +45,6 @@ CliSession::Outcome CliSession::SetFaithful(const std::string&) {
     return Set("animation_faithful=true");
 }
 
-CliSession::Outcome CliSession::SelectFrame(const std::string& value) {
-    int32 number = 0;
-    if (!ParseNumber(value, &number)) return Refuse("--select: \"" + value + "\" is not a number.");
-    if (!app_->FrameAt(number)) {
-        return Fail(Format("There is no frame %d; the animation has %d frame(s).", number,
-                           app_->FrameCount()));
-    }
-    BMessage message(kSelectFrame);
-    message.AddInt32("number", number);
-    return Post(message);
-}
-
 CliSession::Outcome CliSession::Remove(const std::string&) {
     return Post(kRemoveFrame);
 }

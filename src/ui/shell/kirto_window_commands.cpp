@@ -73,6 +73,12 @@ const KirtoWindow::Command* KirtoWindow::CommandFor(uint32 code) {
         {kirto::kThumbnailPreset, &KirtoWindow::PresetThumbnails},
         {kirto::kFrameListSelection, &KirtoWindow::SelectInList},
         {kirto::kSelectFrame, &KirtoWindow::Forward},
+        {kirto::kSelectFrames, &KirtoWindow::Forward},
+        {kirto::kMoveFramesTo, &KirtoWindow::Forward},
+        {kirto::kCopyFramesTo, &KirtoWindow::Forward},
+        {kirto::kDuplicateFrames, &KirtoWindow::Forward},
+        {kirto::kForwardAndBack, &KirtoWindow::Forward},
+        {kirto::kStartAtCurrent, &KirtoWindow::Forward},
     };
     for (const Command& command : kCommands) {
         if (command.code == code) return &command;
@@ -298,7 +304,17 @@ void KirtoWindow::ApplyPreset(uint32 preset) {
 }
 
 void KirtoWindow::SelectInList(BMessage*) {
-    BMessage select(kirto::kSelectFrame);
-    select.AddInt32("number", frame_list_view_->List()->CurrentSelection());
+    const FrameList& list = *frame_list_view_->List();
+    const kirto::FrameSet frames = list.Selection();
+    const int32 current = list.CurrentSelection();
+    BMessage select(frames.Count() > 1 ? kirto::kSelectFrames : kirto::kSelectFrame);
+    if (frames.Count() > 1) {
+        select.AddString("frames", TextOf(frames));
+        select.AddInt32("current", current);
+    } else {
+        select.AddInt32("number", current);
+    }
     PostToApplication(select);
+    // One frame stays selected.
+    if (frames.Empty()) frame_list_view_->UpdateDisplay();
 }

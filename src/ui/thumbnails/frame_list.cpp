@@ -18,15 +18,16 @@ FrameList::FrameList(BMessenger window, QWidget* parent)
     : QListWidget(parent), window_(std::move(window)) {
     setObjectName("FrameList");
     setAccessibleName("Frames");
-    setSelectionMode(QAbstractItemView::SingleSelection);
+    setSelectionMode(QAbstractItemView::ExtendedSelection);
     setUniformItemSizes(true);
     connect(this, &QListWidget::itemSelectionChanged, this, [this] {
         if (!showing_) window_.SendMessage(kirto::kFrameListSelection);
     });
 }
 
-void FrameList::ShowFrames(const kirto::FrameSequence& frames, int32 selected) {
+void FrameList::ShowFrames(const kirto::Animation& animation) {
     showing_ = true;
+    const kirto::FrameSequence& frames = animation.frames;
     const int32 common = std::min(frames.Size(), frames_.Size());
     const kirto::FrameSequence::Difference changed = frames.DifferenceTo(frames_);
     // Where frames came or went, all rows after them show others: their numbers stay.
@@ -41,16 +42,32 @@ void FrameList::ShowFrames(const kirto::FrameSequence& frames, int32 selected) {
     while (count() > frames.Size())
         delete takeItem(count() - 1);
     frames_ = frames;
-    if (selected != CurrentSelection()) {
-        setCurrentRow(selected);
-        if (selected < 0) clearSelection();
-    }
+    const kirto::FrameSet selection = animation.Selection();
+    if (animation.selected != CurrentSelection() || !(selection == Selection()))
+        ShowSelection(selection, animation.selected);
     showing_ = false;
 }
 
+void FrameList::ShowSelection(const kirto::FrameSet& frames, int32 current) {
+    QItemSelection selection;
+    for (const kirto::FrameSet::Range& range : frames.Ranges())
+        selection.append(
+            QItemSelectionRange(model()->index(range.first, 0), model()->index(range.last, 0)));
+    setCurrentRow(current, QItemSelectionModel::NoUpdate);
+    selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+    // The first frame of a longer selection is no place to go to.
+    if (currentItem()) scrollToItem(currentItem());
+}
+
+kirto::FrameSet FrameList::Selection() const {
+    kirto::FrameSet frames;
+    for (const QItemSelectionRange& range : selectionModel()->selection())
+        frames.Add({range.top(), range.bottom()});
+    return frames;
+}
+
 int32 FrameList::CurrentSelection() const {
-    const QModelIndexList selected = selectedIndexes();
-    return selected.isEmpty() ? -1 : selected.first().row();
+    return Selection().NearestTo(currentRow());
 }
 
 void FrameList::keyPressEvent(QKeyEvent* event) {

@@ -70,11 +70,11 @@ QLayout* FrameListView::MakePreview() {
 }
 
 void FrameListView::UpdateDisplay() {
-    list_->ShowFrames(shown_.Frames(), shown_.Selected());
+    list_->ShowFrames(shown_.Current());
     preview_->ShowFrame(shown_.CurrentFrame(), shown_.Settings().thumbnail_drawtransparent);
 }
 
 void FrameListView::ResetDisplay() {
-    list_->ShowFrames({}, -1);
+    list_->ShowFrames({});
     preview_->ShowFrame(nullptr, shown_.Settings().thumbnail_drawtransparent);
 }

@@ -80,7 +80,9 @@ void ThumbDrawingView::Describe() {
         frame ? kirto::Format("frame #%04d %s, %d x %d, %d frame(s)", shown_.Selected(),
                               frame->name.c_str(), frame->width, frame->height, shown_.FrameCount())
               : "no frames";
-    const QString description = QString::fromStdString(text);
+    const int32 several = shown_.Current().several.Count();
+    const QString description =
+        QString::fromStdString(several > 0 ? text + kirto::Format(", %d selected", several) : text);
     if (accessibleDescription() != description) setAccessibleDescription(description);
 }
 
@@ -135,7 +137,7 @@ void ThumbDrawingView::DrawThumbnails(QPainter& painter, const QRect& area) {
         layout.Between(static_cast<float>(area.top()), static_cast<float>(area.bottom()));
     for (int32 i = first; i < last; ++i) {
         pictures.Draw(shown_.Frames().At(i)->bitmap, layout.At(i));
-        if (i == shown_.Selected() && drop_position_ < 0) DrawOutline(painter, i);
+        if (drop_position_ < 0) DrawSelection(painter, i);
     }
     if (pictures.WasCoarse()) update();
 }
@@ -148,7 +150,22 @@ void ThumbDrawingView::DrawInvitation(QPainter& painter) {
         "Drop images or an animation here,\nor choose Insert...\nfrom the Frame menu.");
 }
 
-void ThumbDrawingView::DrawOutline(QPainter& painter, int32 index) {
+// The current frame has a line around it. Where several are selected all of them are tinted, and
+// the others have a lighter line.
+void ThumbDrawingView::DrawSelection(QPainter& painter, int32 index) {
+    constexpr qreal kTint = 0.25;
+    constexpr qreal kLighter = 0.5;
+    const kirto::FrameSet& several = shown_.Current().several;
+    QColor color = palette().color(QPalette::Highlight);
+    if (index == shown_.Selected()) DrawOutline(painter, index, color);
+    if (!several.Contains(index)) return;
+    color.setAlphaF(kLighter);
+    if (index != shown_.Selected()) DrawOutline(painter, index, color);
+    color.setAlphaF(kTint);
+    painter.fillRect(kirto::OnPixels(layout_.At(index), devicePixelRatioF()), color);
+}
+
+void ThumbDrawingView::DrawOutline(QPainter& painter, int32 index, const QColor& color) {
     constexpr int kPenSize = 2;
     BRect outline = layout_.OutlineAt(index);
     outline.right += kPenSize - 1;
@@ -157,5 +174,5 @@ void ThumbDrawingView::DrawOutline(QPainter& painter, int32 index) {
     QPainterPath line;
     line.addRect(outside);
     line.addRect(outside.adjusted(kPenSize, kPenSize, -kPenSize, -kPenSize));
-    painter.fillPath(line, palette().highlight());
+    painter.fillPath(line, color);
 }

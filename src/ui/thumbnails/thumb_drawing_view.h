@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QMenu>
+#include <QRubberBand>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QWidget>
@@ -11,6 +12,7 @@
 #include "ui/controls/editor.h"
 #include "ui/controls/shown_document.h"
 #include "ui/thumbnails/frame_drag.h"
+#include "ui/thumbnails/frame_selector.h"
 #include "ui/thumbnails/picture_painter.h"
 #include "ui/thumbnails/thumb_scroll_view.h"
 #include "ui/thumbnails/thumbnail_cache.h"
@@ -18,8 +20,9 @@
 
 class QHelpEvent;
 
-// The grid of thumbnails. Frames can be selected and dragged out as files, and have a context menu;
-// dropped files are sent to the window with the position of the drop. GUI thread.
+// The grid of thumbnails. Frames can be selected, several of them by Shift, Ctrl or a frame drawn
+// around them, dragged out as files or to another place, and have a context menu; dropped files are
+// sent to the window with the position of the drop. GUI thread.
 class ThumbDrawingView : public QWidget {
   public:
     using DragStarter = std::function<void(std::unique_ptr<kirto::FrameDrag> drag,
@@ -61,6 +64,7 @@ class ThumbDrawingView : public QWidget {
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -76,8 +80,13 @@ class ThumbDrawingView : public QWidget {
     void ShowToolTip(const QHelpEvent& event);
     void DrawThumbnails(QPainter& painter, const QRect& area);
     void DrawInvitation(QPainter& painter);
-    void DrawOutline(QPainter& painter, int32 index);
-    void SelectFrame(int32 number);
+    void DrawSelection(QPainter& painter, int32 index);
+    void DrawOutline(QPainter& painter, int32 index, const QColor& color);
+    void PressOn(int32 index, kirto::FrameSelector::Mode mode, bool left);
+    void SelectAt(const QKeyEvent& event, int32 number);
+    void SelectAround(const QRect& area, bool added);
+    bool MovesFrames(const QDropEvent& event) const;
+    void DropOwn(const QDropEvent& event);
     void MoveDropPosition(int32 position);
     void StartDragTimer(BPoint grab);
     QImage DragImage(const Frame& frame);
@@ -95,9 +104,13 @@ class ThumbDrawingView : public QWidget {
     int32 kept_in_sight_ = -1;  // the frame that KeepCurrentInSight looked for last
     QMenu menu_;                // what can be done with a frame
 
-    bool drag_pending_ = false;  // a thumbnail is held, and its drag has not begun
-    int32 held_ = -1;            // the thumbnail that the button went down on last
-    BMessage drag_message_;      // what the timer sends
+    kirto::FrameSelector selector_;
+    QRubberBand band_{QRubberBand::Rectangle, this};
+    QPoint band_start_;
+    bool alone_on_release_ = false;  // the button went down on one of several selected frames
+    bool drag_pending_ = false;      // a thumbnail is held, and its drag has not begun
+    int32 held_ = -1;                // the thumbnail that the button went down on last
+    BMessage drag_message_;          // what the timer sends
     QTimer drag_timer_;
     DragStarter start_drag_;
     bool dragging_ = false;

@@ -2,7 +2,9 @@
 #include <QContextMenuEvent>
 #include <QDir>
 #include <QDropEvent>
+#include <QGuiApplication>
 #include <QPointer>
+#include <QStyleHints>
 #include <utility>
 
 #include "document/command_codes.h"
@@ -38,22 +40,49 @@ void ThumbDrawingView::MakeMenu() {
     }
 }
 
-void ThumbDrawingView::SelectFrame(int32 number) {
-    BMessage select(kirto::kSelectFrame);
-    select.AddInt32("number", number);
-    editor_.application.SendMessage(select);
-}
-
 void ThumbDrawingView::mousePressEvent(QMouseEvent* event) {
     setFocus(Qt::MouseFocusReason);
     const BPoint point = PointOf(event->position().toPoint());
     const int32 index = Layout().HitTest(point);
-    if (index < 0) return;
-    SelectFrame(index);
-    if (event->button() != Qt::LeftButton) return;
+    const bool left = event->button() == Qt::LeftButton;
+    if (index < 0) {
+        band_start_ = event->position().toPoint();
+        band_.setGeometry(QRect(band_start_, QSize()));
+        band_.setVisible(left && shown_.CurrentFrame());
+        return;
+    }
+    PressOn(index, kirto::FrameSelector::ModeOf(event->modifiers()), left);
+    if (!left) return;
     const BRect thumbnail = layout_.At(index);
     held_ = index;
     StartDragTimer({point.x - thumbnail.left, point.y - thumbnail.top});
+}
+
+// Several frames stay selected when one of them is pressed, to be dragged or to show their menu.
+void ThumbDrawingView::PressOn(int32 index, kirto::FrameSelector::Mode mode, bool left) {
+    const kirto::Animation& shown = shown_.Current();
+    const bool alone = mode == kirto::FrameSelector::Mode::kAlone || !left;
+    const bool stay = alone && shown.several.Contains(index);
+    alone_on_release_ = stay && left;
+    editor_.application.SendMessage(
+        stay ? kirto::FrameSelector::MakeCurrent(shown, index)
+             : selector_.Choose(shown, index, left ? mode : kirto::FrameSelector::Mode::kAlone));
+}
+
+void ThumbDrawingView::mouseMoveEvent(QMouseEvent* event) {
+    if (band_.isVisible())
+        band_.setGeometry(QRect(band_start_, event->position().toPoint()).normalized());
+}
+
+void ThumbDrawingView::SelectAround(const QRect& area, bool added) {
+    // A click on nothing is none.
+    if (area.width() + area.height() < QGuiApplication::styleHints()->startDragDistance()) return;
+    const kirto::FrameSet frames =
+        Layout().Touching({static_cast<float>(area.left()), static_cast<float>(area.top()),
+                           static_cast<float>(area.right()), static_cast<float>(area.bottom())});
+    if (frames.Empty()) return;
+    editor_.application.SendMessage(
+        kirto::FrameSelector::ChooseAround(shown_.Current(), frames, added));
 }
 
 void ThumbDrawingView::StartDragTimer(BPoint grab) {
@@ -63,8 +92,15 @@ void ThumbDrawingView::StartDragTimer(BPoint grab) {
     drag_timer_.start(kHoldMilliseconds);
 }
 
-void ThumbDrawingView::mouseReleaseEvent(QMouseEvent*) {
+void ThumbDrawingView::mouseReleaseEvent(QMouseEvent* event) {
     drag_pending_ = false;
+    if (band_.isVisible()) {
+        band_.hide();
+        SelectAround(band_.geometry(), event->modifiers() & Qt::ControlModifier);
+    }
+    if (!std::exchange(alone_on_release_, false)) return;
+    editor_.application.SendMessage(
+        selector_.Choose(shown_.Current(), held_, kirto::FrameSelector::Mode::kAlone));
 }
 
 void ThumbDrawingView::contextMenuEvent(QContextMenuEvent* event) {
@@ -79,19 +115,34 @@ void ThumbDrawingView::contextMenuEvent(QContextMenuEvent* event) {
     menu_.popup(mapToGlobal(middle));
 }
 
+// With Shift the selection grows. The application ignores numbers that no frame has.
+void ThumbDrawingView::SelectAt(const QKeyEvent& event, int32 number) {
+    if (!shown_.CurrentFrame()) return;
+    const auto mode = event.modifiers() & Qt::ShiftModifier ? kirto::FrameSelector::Mode::kUpTo
+                                                            : kirto::FrameSelector::Mode::kAlone;
+    editor_.application.SendMessage(selector_.Choose(shown_.Current(), number, mode));
+}
+
 void ThumbDrawingView::keyPressEvent(QKeyEvent* event) {
-    const bool plain = (event->modifiers() & ~Qt::KeypadModifier) == 0;
+    const Qt::KeyboardModifiers modifiers = event->modifiers() & ~Qt::KeypadModifier;
+    const bool plain = modifiers == 0;
+    const bool selects = plain || modifiers == Qt::ShiftModifier;
     const int32 page = scroll_view_.ViewHeight();
-    switch (plain ? event->key() : 0) {
-        // The application ignores numbers that no frame has.
+    switch (selects ? event->key() : 0) {
         case Qt::Key_Left:
         case Qt::Key_Up:
-            if (shown_.CurrentFrame()) SelectFrame(shown_.Selected() - 1);
-            break;
+            return SelectAt(*event, shown_.Selected() - 1);
         case Qt::Key_Right:
         case Qt::Key_Down:
-            if (shown_.CurrentFrame()) SelectFrame(shown_.Selected() + 1);
+            return SelectAt(*event, shown_.Selected() + 1);
+        case Qt::Key_Home:
+            return SelectAt(*event, 0);
+        case Qt::Key_End:
+            return SelectAt(*event, shown_.FrameCount() - 1);
+        default:
             break;
+    }
+    switch (plain ? event->key() : 0) {
         case Qt::Key_PageDown:
             scroll_view_.ScrollTo(scroll_view_.Top() + page);
             break;
@@ -118,6 +169,7 @@ void ThumbDrawingView::MessageReceived(BMessage* message) {
         if (drag_pending_ && shown_.Selected() != held_)
             return drag_timer_.start(kRetryMilliseconds);
         if (!std::exchange(drag_pending_, false)) return;
+        alone_on_release_ = false;
         if (message->FindPoint("point", &grab) == B_OK) DragToTracker(grab);
     } else if (message->what == B_COPY_TARGET) {
         SaveToTracker(message);
@@ -219,16 +271,23 @@ void ThumbDrawingView::dragEnterEvent(QDragEnterEvent* event) {
     dragMoveEvent(event);
 }
 
+// Several frames are moved by dragging them, one only with Shift.
+bool ThumbDrawingView::MovesFrames(const QDropEvent& event) const {
+    return !shown_.Current().several.Empty() || (event.modifiers() & Qt::ShiftModifier);
+}
+
 void ThumbDrawingView::dragMoveEvent(QDragMoveEvent* event) {
+    const BPoint point = PointOf(event->position().toPoint());
     if (CarriesFiles(*event)) {
         // The files stay where they are, whatever the other program proposes.
         event->setDropAction(Qt::CopyAction);
         event->accept();
-        MoveDropPosition(Layout().DropPosition(PointOf(event->position().toPoint())));
+        MoveDropPosition(Layout().DropPosition(point));
     } else if (kirto::BeganInKirto(*event->mimeData())) {
-        // Taken, so that the window does not get it, but nothing comes of it.
-        event->setDropAction(Qt::IgnoreAction);
+        // Taken, so that the window does not get it, but nothing comes of a single frame.
+        event->setDropAction(MovesFrames(*event) ? Qt::CopyAction : Qt::IgnoreAction);
         event->accept();
+        MoveDropPosition(MovesFrames(*event) ? Layout().DropPosition(point) : -1);
     } else {
         event->ignore();
     }
@@ -246,6 +305,20 @@ void ThumbDrawingView::dropEvent(QDropEvent* event) {
     const bool has_files = kirto::AddRefs(*event->mimeData(), &drop);
     event->setDropAction(own ? Qt::IgnoreAction : Qt::CopyAction);
     event->accept();
+    if (own) DropOwn(*event);
     if (own || has_files) MessageReceived(&drop);
     MoveDropPosition(-1);
+}
+
+void ThumbDrawingView::DropOwn(const QDropEvent& event) {
+    if (MovesFrames(event)) {
+        const bool copies = event.modifiers() & Qt::ControlModifier;
+        BMessage move(copies ? kirto::kCopyFramesTo : kirto::kMoveFramesTo);
+        move.AddInt32("position", drop_position_);
+        window_.SendMessage(move);
+        return;
+    }
+    BMessage hint(kirto::kStatusUpdate);
+    hint.AddString("text", "Status: Shift moves the frame, Ctrl+Shift copies it");
+    window_.SendMessage(hint);
 }

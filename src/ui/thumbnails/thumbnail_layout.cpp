@@ -92,6 +92,18 @@ int32 ThumbnailLayout::HitTest(BPoint point) const {
     return -1;
 }
 
+FrameSet ThumbnailLayout::Touching(const BRect& rectangle) const {
+    FrameSet touched;
+    const auto [first, last] = Between(rectangle.top, rectangle.bottom);
+    for (int32 i = first; i < last; ++i) {
+        const BRect place = At(i);
+        const bool beside = place.right < rectangle.left || place.left > rectangle.right ||
+                            place.bottom < rectangle.top || place.top > rectangle.bottom;
+        if (!beside) touched.Add({i, i});
+    }
+    return touched;
+}
+
 int32 ThumbnailLayout::DropPosition(BPoint point) const {
     const int32 count = std::min(Count(), kHitLimit);
     for (int32 i = 0; i < count; ++i) {

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "animation/frame_sequence.h"
+#include "animation/frame_set.h"
 #include "kit/rect.h"
 
 namespace kirto {
@@ -34,6 +35,8 @@ class ThumbnailLayout {
 
     // The thumbnail at the point, or -1.
     int32 HitTest(BPoint point) const;
+    // The thumbnails that the rectangle touches, without regard to that limit.
+    FrameSet Touching(const BRect& rectangle) const;
     // The index before which a file dropped at the point is inserted, 0 to Count().
     int32 DropPosition(BPoint point) const;
     // The bar that shows a drop position, 0 to Count().
