@@ -11,6 +11,7 @@
 #include "base/text.h"
 #include "color/adaptive/adaptive_palette.h"
 #include "color/adaptive/color_census.h"
+#include "color/color_text.h"
 #include "formats/faithful/frame_delays.h"
 #include "formats/faithful/untouched_frames.h"
 #include "formats/gif/gif_extensions.h"
@@ -20,6 +21,8 @@ namespace kirto {
 namespace {
 
 constexpr int32 kLargestSide = 0xFFFF;
+// Colors that are kept, so that most of a table is left for the others.
+constexpr size_t kMostExact = 64;
 // Of the work that a frame is, planning and encoding are so much.
 constexpr int64 kPlanned = 1;
 constexpr int64 kEncoded = 3;
@@ -77,6 +80,8 @@ FaithfulOptions FaithfulOptions::Of(const Prefs& prefs) {
     options.dither = DitherOf(prefs.animation_dithering);
     const int32 matte = prefs.animation_matte;
     options.matte = {LowByte(matte >> 16), LowByte(matte >> 8), LowByte(matte), 255};
+    options.threshold = static_cast<uint8>(std::clamp(prefs.animation_threshold, 0, 255));
+    ParseColors(prefs.animation_exactcolors, kMostExact, &options.exact_colors);
     return options;
 }
 
@@ -88,11 +93,15 @@ FaithfulGifSave::FaithfulGifSave(std::shared_ptr<BFile> file, AnimationDocument&
       frames_(animation_->frames.begin(), animation_->frames.end()),
       untouched_(UntouchedFrames(*animation_)),
       delays_(SpreadDelays(*animation_, options_.pause_in_seconds)),
-      screen_(ScreenFor(*animation_, AlphaMatte(options_.matte), *document.pixel_budget)),
+      screen_(ScreenFor(*animation_, options_.Matte(), *document.pixel_budget)),
       progress_(document.work, static_cast<int64>(frames_.size()) * (kPlanned + kEncoded)),
       reducer_(std::make_unique<ColorReducer>(
-          screen_, options_.dither,
-          options_.joint_colors ? JointColors() : std::vector<rgb_color>{}, document.work)),
+          screen_,
+          ColorReducer::Options{
+              .dither = options_.dither,
+              .common = options_.joint_colors ? JointColors() : std::vector<rgb_color>{},
+              .exact = options_.exact_colors},
+          document.work)),
       planner_(std::make_unique<FramePlanner>(screen_, *reducer_)) {
     Plan();
     ChooseLayout();
@@ -103,7 +112,7 @@ FaithfulGifSave::FaithfulGifSave(std::shared_ptr<BFile> file, AnimationDocument&
 }
 
 std::vector<rgb_color> FaithfulGifSave::JointColors() const {
-    ColorCensus census(AlphaMatte(options_.matte), &document_.work);
+    ColorCensus census(options_.Matte(), &document_.work);
     for (const FramePointer& frame : frames_) {
         if (!frame->bitmap || !frame->bitmap->HasRows()) continue;
         const status_t counted = census.Add(*frame->bitmap);
@@ -111,8 +120,9 @@ std::vector<rgb_color> FaithfulGifSave::JointColors() const {
         if (counted != B_OK) return {};
     }
     AdaptivePalette palette;
-    const status_t made =
-        palette.Make(census.Colors(), ColorReducer::kMostColors, {}, &document_.work);
+    const status_t made = palette.Make(
+        census.Colors(), ColorReducer::kMostColors,
+        ColorReducer::Occurring(options_.exact_colors, census.Colors()), &document_.work);
     if (made == B_NO_MEMORY) throw std::bad_alloc();
     return {palette.Colors().begin(), palette.Colors().end()};
 }

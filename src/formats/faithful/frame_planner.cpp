@@ -57,7 +57,7 @@ int64 FramePlanner::CostOf(const Way& way) {
 
 void FramePlanner::Add(const FrameToPlan& frame) {
     nearness_.pixels += static_cast<int64>(screen_.At(0, screen_.Height()));
-    nearness_.short_pauses += frame.delay < kLeastReliableDelay ? 1 : 0;
+    nearness_.short_pauses += frame.delay < kLeastReliablePause ? 1 : 0;
     if (frame.source) return AddSource(frame);
     if (LengthensLast(frame)) return;
     std::vector<Way> ways = WaysTo(*frame.shown);
@@ -92,7 +92,7 @@ void FramePlanner::AddSource(const FrameToPlan& frame) {
 bool FramePlanner::LengthensLast(const FrameToPlan& frame) {
     if (plans_.empty() || *wanted_ != *frame.shown) return false;
     FramePlan& last = plans_.back();
-    if (std::min(last.delay, frame.delay) < kLeastReliableDelay) return false;
+    if (std::min(last.delay, frame.delay) < kLeastReliablePause) return false;
     if (last.delay + frame.delay > kLongestDelay) return false;
     last.delay += frame.delay;
     return true;
