@@ -1,5 +1,6 @@
 #include "ui/dialogs/preferences_window.h"
 
+#include <QHBoxLayout>
 #include <QPushButton>
 #include <QRadioButton>
 #include <filesystem>
@@ -128,16 +129,19 @@ void PreferencesWindow::RestorePointers() {
 }
 
 void PreferencesWindow::ShowSwatch() {
-    auto* view = findChild<QWidget*>("animation_matteview");
-    if (!view) return;
+    kirto::TextControl& field = Field("animation_matte");
     const auto color = [this] {
         const rgb_color matte = ColorOf(Matte());
         return QColor(matte.red, matte.green, matte.blue);
     };
-    auto* swatch = new kirto::ColorSwatch("animation_matteswatch", color, view);
-    swatch->setGeometry(view->rect());
-    connect(&Field("animation_matte"), &kirto::TextControl::textChanged, swatch,
-            [swatch] { swatch->update(); });
+    auto* swatch = new kirto::ColorSwatch("animation_matteswatch", color, &field);
+    const int side = field.fontMetrics().ascent();
+    swatch->setFixedSize(side, side);
+    auto* layout = new QHBoxLayout(&field);
+    layout->setContentsMargins(side / 2, 0, 0, 0);
+    layout->addWidget(swatch, 0, Qt::AlignLeft | Qt::AlignVCenter);
+    field.setTextMargins(side * 2, 0, 0, 0);
+    connect(&field, &kirto::TextControl::textChanged, swatch, [swatch] { swatch->update(); });
 }
 
 void PreferencesWindow::RestoreChoices() {

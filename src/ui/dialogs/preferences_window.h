@@ -47,7 +47,7 @@ class PreferencesWindow : public IEWindow {
     // Finds the views by their names.
     void RestorePointers();
     void RestoreChoices();
-    // The color beside the field that it is typed into.
+    // The color in front of the text that says it.
     void ShowSwatch();
     template <typename Control>
     Control* RestorePointer(const char* name);

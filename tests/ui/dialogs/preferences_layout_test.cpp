@@ -144,7 +144,6 @@ const std::vector<std::string> kViews = {
     "BCheckBox animation_jointcolors [In the same colors for all frames] pwcj",
     "BTextControl animation_exactcolors [Keep these colors:] pwce",
     "BTextControl animation_matte [Lay soft edges on:] pwcm",
-    "BView animation_matteview",
     "BTextControl animation_threshold [Transparent below alpha:] pwct",
     "BottomView BottomView",
     "BButton SaveButton [Save] pwsa",
