@@ -8,8 +8,6 @@ namespace kirto {
 
 namespace {
 
-constexpr uint8 kHalf = 128;
-
 // Pixels lie in memory as blue, green, red, alpha, but for a frame's in the other order.
 uint8 AlphaOf(const uint8* pixel) {
     return pixel[3];
@@ -20,22 +18,31 @@ void TurnPixels(uint8* pixels, int32 count) {
         std::reverse(pixels, pixels + 4);
 }
 
-void ComparePixel(const uint8* frame, const uint8* shown, PixelDifferences* differences) {
+int64 DistanceOf(const uint8* a, const uint8* b) {
+    int64 sum = 0;
+    for (size_t i = 0; i < 3; ++i)
+        sum += std::abs(a[i] - b[i]);
+    return sum;
+}
+
+void ComparePixel(const uint8* frame, const uint8* shown, int32 threshold,
+                  PixelDifferences* differences) {
     const uint8 alpha = AlphaOf(frame);
-    const bool has_color = AlphaOf(shown) >= kHalf;
-    if (alpha > kHalf && !has_color) {
+    const bool has_color = AlphaOf(shown) >= FrameComparison::kHalf;
+    if (alpha > threshold && !has_color) {
         ++differences->holes;
-    } else if (alpha < kHalf && has_color) {
+    } else if (alpha < threshold && has_color) {
         ++differences->filled;
     } else if (alpha == 255 && std::memcmp(frame, shown, 3) != 0) {
         ++differences->recolored;
+        differences->distance += DistanceOf(frame, shown);
     }
 }
 
 int64 CountOpaque(const uint8* row, int32 begin, int32 end) {
     int64 count = 0;
     for (int32 x = begin; x < end; ++x)
-        count += AlphaOf(row + static_cast<size_t>(x) * 4) >= kHalf;
+        count += AlphaOf(row + static_cast<size_t>(x) * 4) >= FrameComparison::kHalf;
     return count;
 }
 
@@ -80,14 +87,17 @@ PixelDifferences& PixelDifferences::operator+=(const PixelDifferences& other) {
     outside += other.outside;
     holes += other.holes;
     recolored += other.recolored;
+    distance += other.distance;
     return *this;
 }
 
-FrameComparison::FrameComparison(int32 width, int32 height, bool parts, const Work* work)
+FrameComparison::FrameComparison(int32 width, int32 height, bool parts, const Work* work,
+                                 int32 threshold)
     : width_(std::max(width, 0)),
       height_(std::max(height, 0)),
       parts_(parts),
       work_(work),
+      threshold_(threshold),
       frame_row_(static_cast<size_t>(width_) * 4),
       shown_row_(static_cast<size_t>(width_) * 4) {}
 
@@ -154,7 +164,7 @@ void FrameComparison::CompareRow(int32 left, int32 right, PixelDifferences* resu
     if (begin == end) return;
     if (std::memcmp(frame_row_.data() + begin, shown_row_.data() + begin, end - begin) == 0) return;
     for (size_t at = begin; at < end; at += 4)
-        ComparePixel(frame_row_.data() + at, shown_row_.data() + at, result);
+        ComparePixel(frame_row_.data() + at, shown_row_.data() + at, threshold_, result);
 }
 
 namespace {

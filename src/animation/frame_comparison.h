@@ -17,21 +17,27 @@ struct PixelDifferences {
     int64 outside = 0;    // have a color where the frame is not
     int64 holes = 0;      // are transparent where the frame has a color
     int64 recolored = 0;  // have another color
+    int64 distance = 0;   // of these, the sum of the differences in red, green and blue
 
     bool operator==(const PixelDifferences&) const = default;
     PixelDifferences& operator+=(const PixelDifferences& other);
     bool Any() const { return filled != 0 || outside != 0 || holes != 0 || recolored != 0; }
 };
 
-// Compares frames with what a screen shows of them. A frame's pixels are transparent below alpha
-// 128 and have a color above it; a file has nothing between the two, and may have either at alpha
-// 128 and any color at what is not quite opaque. Rows that both sides share with a frame before are
-// not looked at again: pictures that were compared have to outlive this. Used by one thread.
+// Compares frames with what a screen shows of them. A frame's pixels are transparent below an
+// alpha, 128 as a rule, and have a color above it; a file has nothing between the two, and may have
+// either at that alpha and any color at what is not quite opaque. Rows that both sides share with a
+// frame before are not looked at again: pictures that were compared have to outlive this. Used by
+// one thread.
 class FrameComparison {
   public:
+    static constexpr int32 kHalf = 128;
+
     // The screen's size in pixels. parts: only the frame's rectangle counts, else the screen is to
-    // be transparent around it. work: may be stopped within a frame; null for nobody.
-    FrameComparison(int32 width, int32 height, bool parts, const Work* work);
+    // be transparent around it. threshold: that alpha, 0 to 255. work: may be stopped within a
+    // frame; null for nobody.
+    FrameComparison(int32 width, int32 height, bool parts, const Work* work,
+                    int32 threshold = kHalf);
 
     // shown: pixels of B_RGB32, of any size; what it lacks of the screen is transparent.
     PixelDifferences Compare(const Frame& frame, const Picture& shown);
@@ -60,6 +66,7 @@ class FrameComparison {
     const int32 height_;
     const bool parts_;
     const Work* const work_;
+    const int32 threshold_;
     std::vector<uint8> frame_row_;  // all pixels of the screen
     std::vector<uint8> shown_row_;
     std::map<Rows, PixelDifferences> known_;

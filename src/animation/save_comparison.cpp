@@ -25,6 +25,14 @@ bool MayBeTransparent(const Frame& frame) {
     return !frame.source || frame.source->transparent_index >= 0;
 }
 
+// Whether so many pixels that are left of other frames catch the eye: a block of 8 x 8, or a
+// thousandth of a small picture.
+bool IsSeen(int64 left, int64 compared) {
+    constexpr int64 kBlock = 64;
+    constexpr int64 kPart = 1000;
+    return left >= kBlock || left * kPart >= compared;
+}
+
 }  // namespace
 
 SaveComparison::SaveComparison(const Animation& saved, const Animation& read,
@@ -77,6 +85,9 @@ void SaveComparison::CompareWholes() {
     if (saved_.width != read_.width || saved_.height != read_.height)
         result_.other_size = {read_.width, read_.height};
     if (PlaysOf(saved_) != PlaysOf(read_)) result_.other_plays = {PlaysOf(saved_), PlaysOf(read_)};
+    if (read_.frames.Size() == 1) return;
+    for (const FramePointer& frame : read_.frames)
+        result_.short_pauses += read_.PauseOf(*frame) < kLeastReliablePause ? 1 : 0;
 }
 
 // Pauses that are no whole hundredths may be spread over the frames, so that each frame begins when
@@ -111,7 +122,8 @@ void SaveComparison::ComparePictures() {
 }
 
 std::vector<PixelDifferences> SaveComparison::ComparePiece(const Piece& piece) const {
-    FrameComparison comparison(saved_.width, saved_.height, options_.parts, work_);
+    FrameComparison comparison(saved_.width, saved_.height, options_.parts, work_,
+                               options_.threshold);
     std::vector<PixelDifferences> pixels;
     for (size_t i = piece.begin; i < piece.end && !IsStopped(work_); ++i) {
         const FramePointer saved = saved_.frames.At(saved_runs_[i].first);
@@ -133,14 +145,17 @@ void SaveComparison::TakeRun(size_t i, const PixelDifferences& pixels) {
     const FramePointer saved = saved_.frames.At(run.first);
     const FramePointer read = read_.frames.At(read_runs_[i].first);
     const bool trails = pixels.outside > 0 || (pixels.filled > 0 && MayBeTransparent(*read));
+    const int64 left = pixels.outside + pixels.filled;
     if (trails) {
-        result_.trailing += run.count;
+        (IsSeen(left, pixels.compared) ? result_.trailing : result_.specked) += run.count;
+        result_.most_left = std::max(result_.most_left, left);
     } else if (pixels.filled > 0) {
         result_.filled += run.count;
     }
     if (pixels.holes > 0) result_.holed += run.count;
     result_.pixels += pixels.compared * run.count;
     result_.recolored += pixels.recolored * run.count;
+    result_.distance += pixels.distance * run.count;
     if (pixels.recolored > 0)
         result_.most_colors = std::max(result_.most_colors, ColorsOf(*saved, *read));
     if (pixels.Any()) result_.pairs.push_back({run.first, read_runs_[i].first});

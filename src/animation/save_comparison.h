@@ -19,6 +19,7 @@ class SaveComparison {
         bool parts = false;              // frames show a part of the screen, not all of it
         bool pauses_in_seconds = false;  // of the saved animation; else hundredths
         bool own_palettes = false;       // the file's are not those of the saved animation
+        int32 threshold = FrameComparison::kHalf;  // of less alpha is what was left out
     };
 
     // read: its frames are of the screen's size, their pauses are their own, in hundredths. Both

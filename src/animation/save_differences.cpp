@@ -30,11 +30,36 @@ std::string PercentOf(int64 part, int64 whole) {
     return Format("%d %%", static_cast<int>(std::lround(percent)));
 }
 
+std::string PixelsOf(int64 count) {
+    return count == 1 ? "1 pixel" : Format("%lld pixels", static_cast<long long>(count));
+}
+
+// By how much their components differ.
+std::string ErrorOf(int64 distance, int64 pixels) {
+    constexpr double kComponents = 3;
+    if (distance == 0) return {};
+    return Format(", by %.1f of 255 on average",
+                  static_cast<double>(distance) / kComponents / static_cast<double>(pixels));
+}
+
 }  // namespace
 
+std::string SlowFramesSentence(int32 frames) {
+    return frames == 1 ? "browsers will play 1 frame slower: its pause is below 0.02 seconds"
+                       : Format(
+                             "browsers will play %d frames slower: their pauses are below 0.02 "
+                             "seconds",
+                             frames);
+}
+
+std::string SaveDifferences::Warning() const {
+    if (short_pauses == 0) return {};
+    return SlowFramesSentence(short_pauses);
+}
+
 bool SaveDifferences::Any() const {
-    return trailing != 0 || filled != 0 || holed != 0 || repaused != 0 || recolored != 0 ||
-           other_frames || other_size || other_plays;
+    return trailing != 0 || specked != 0 || filled != 0 || holed != 0 || repaused != 0 ||
+           recolored != 0 || other_frames || other_size || other_plays;
 }
 
 std::vector<std::string> SaveDifferences::Sentences() const {
@@ -49,15 +74,23 @@ std::vector<std::string> SaveDifferences::Sentences() const {
         sentences.push_back(
             Format("%d frame(s) will be shown instead of %d", *other_frames, frames));
     }
-    if (trailing != 0) sentences.push_back(FramesOf(trailing, frames) + " will show trails");
+    if (trailing != 0) {
+        sentences.push_back(FramesOf(trailing, frames) + " will show trails" +
+                            (most_left > 0 ? ", of up to " + PixelsOf(most_left) : ""));
+    }
+    if (specked != 0) {
+        sentences.push_back(FramesOf(specked, frames) +
+                            " will show pixels of others, too few to be seen" +
+                            (trailing == 0 ? ": up to " + PixelsOf(most_left) : ""));
+    }
     if (filled != 0) {
         sentences.push_back(FramesOf(filled, frames) +
                             " will not be transparent: no color stands for that");
     }
     if (holed != 0) sentences.push_back(FramesOf(holed, frames) + " will lack pixels");
     if (recolored != 0) {
-        sentences.push_back(PercentOf(recolored, pixels) +
-                            " of the pixels lost their color: " + Format("%d colors", most_colors));
+        sentences.push_back(PercentOf(recolored, pixels) + " of the pixels lost their color" +
+                            ErrorOf(distance, recolored) + Format(": %d colors", most_colors));
     }
     if (repaused != 0) {
         sentences.push_back(FramesOf(repaused, frames) + " will be shown for another time");

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <memory>
 
+#include "animation/save_differences.h"
 #include "base/text.h"
 #include "formats/faithful/faithful_gif_save.h"
 #include "formats/gif/gif_save.h"
@@ -23,8 +24,7 @@ std::string LossOf(const Nearness& near) {
                       static_cast<double>(near.distance) / kParts / changed);
     }
     if (near.short_pauses == 0) return text;
-    return text + (text.empty() ? "" : ", ") +
-           Format("browsers lengthen %d pause(s) below 0.02 seconds", near.short_pauses);
+    return text + (text.empty() ? "" : ", ") + SlowFramesSentence(near.short_pauses);
 }
 
 SaveResult Encode(AnimationDocument& document, const std::shared_ptr<BFile>& file,

@@ -1,5 +1,6 @@
 #include "app/save_verification.h"
 
+#include <algorithm>
 #include <new>
 
 #include "base/debug_line.h"
@@ -26,7 +27,9 @@ SaveVerification::SaveVerification(uint64 memory_limit)
 SaveComparison::Options SaveVerification::OptionsOf(const Prefs& prefs) {
     return {.parts = !prefs.animation_gifloadfullframe && !prefs.animation_faithful,
             .pauses_in_seconds = prefs.global_pauseinseconds,
-            .own_palettes = prefs.animation_faithful};
+            .own_palettes = prefs.animation_faithful,
+            .threshold = prefs.animation_faithful ? std::clamp(prefs.animation_threshold, 0, 255)
+                                                  : FrameComparison::kHalf};
 }
 
 SaveVerification::Result SaveVerification::Run(const std::string& path, const Animation& saved,

@@ -65,6 +65,8 @@ constexpr Setting kSettings[] = {
     {"animation_dithering", &Prefs::animation_dithering, true},
     {"animation_jointcolors", &Prefs::animation_jointcolors, true},
     {"animation_matte", &Prefs::animation_matte, true},
+    {"animation_threshold", &Prefs::animation_threshold, true},
+    {"animation_exactcolors", &Prefs::animation_exactcolors, true},
 };
 
 // Calls action(setting, member pointer) for each setting in order, until one returns false; false

@@ -48,6 +48,10 @@ class Prefs {
     int32 animation_dithering = 1;       // 0: not, 1: diffusing errors, 2: in a fixed pattern
     bool animation_jointcolors = false;  // they share their colors
     int32 animation_matte = 0xFFFFFF;    // below soft edges: red * 65536 + green * 256 + blue
+    // Pixels of less alpha are transparent then; 0 to 255, and what is beyond counts as these.
+    int32 animation_threshold = 128;
+    // They keep these colors, "#rrggbb" each, with blanks or commas between; at most 255 bytes.
+    std::string animation_exactcolors;
 
     bool failed = false;       // a read or write failed; never cleared
     std::string damaged_copy;  // where an unreadable settings file was put aside, or empty

@@ -1,5 +1,6 @@
 #include "animation/frame_comparison.h"
 
+#include <cstdlib>
 #include <gtest/gtest.h>
 #include <random>
 
@@ -52,6 +53,9 @@ PixelDifferences PlainlyCompared(const Frame& frame, int32 width, int32 height,
                 ++result.holes;
             } else {
                 result.recolored += want != pixel;
+                for (uint32 shift = 0; shift < 24; shift += 8)
+                    result.distance += std::abs(static_cast<int32>(want >> shift & 255) -
+                                                static_cast<int32>(pixel >> shift & 255));
             }
         }
     }
@@ -71,7 +75,8 @@ TEST(FrameComparison, TellsTheKindsOfDifferencesApart) {
     const Frame frame = FrameOf(4, 1, {kRed, kNone, kRed, kRed});
 
     EXPECT_EQ(Compare(frame, 4, 1, {kBlue, kRed, kNone, kRed}),
-              (PixelDifferences{.compared = 4, .filled = 1, .holes = 1, .recolored = 1}));
+              (PixelDifferences{
+                  .compared = 4, .filled = 1, .holes = 1, .recolored = 1, .distance = 510}));
 }
 
 TEST(FrameComparison, TransparentPixelsHaveNoColor) {

@@ -85,6 +85,52 @@ TEST(SaveComparison, PixelsThatWereLeftOutShowATrail) {
     EXPECT_EQ(trails.pairs, (std::vector<Pair>{{1, 1}, {2, 2}}));
 }
 
+// A frame of 200 x 100 pixels, so many of which have a color.
+Animation PartlyRed(int32 red) {
+    std::vector<uint32> pixels(20000, kNone);
+    std::fill_n(pixels.begin(), red, kRed);
+    Animation animation = AnimationOf({kNone});
+    animation.width = 200;
+    animation.height = 100;
+    EditFrame(animation, 0, [&](Frame& frame) {
+        frame.bitmap = FramePictureOf(200, 100, pixels);
+        frame.width = 200;
+        frame.height = 100;
+    });
+    return animation;
+}
+
+TEST(SaveComparison, PixelsThatAreTooFewToBeSeenAreNoTrail) {
+    for (const auto& [left, seen] : {std::pair(1, false), {19, false}, {20, true}, {64, true}}) {
+        const SaveDifferences found = Compare(PartlyRed(0), PartlyRed(left));
+        EXPECT_EQ(found.trailing, seen ? 1 : 0) << left;
+        EXPECT_EQ(found.specked, seen ? 0 : 1) << left;
+        EXPECT_EQ(found.most_left, left);
+    }
+}
+
+TEST(SaveComparison, SumsUpHowFarColorsAreOff) {
+    const SaveDifferences found =
+        Compare(AnimationOf({0xFF102030, kBlue}), AnimationOf({0xFF122F30, kBlue}));
+    EXPECT_EQ(found.recolored, 1);
+    EXPECT_EQ(found.distance, 2 + 15);
+}
+
+TEST(SaveComparison, CountsFramesThatBrowsersPlaySlower) {
+    EXPECT_EQ(Compare(AnimationOf({kRed, kBlue}, 1), AnimationOf({kRed, kBlue}, 1)).short_pauses,
+              2);
+    EXPECT_EQ(Compare(AnimationOf({kRed, kBlue}, 2), AnimationOf({kRed, kBlue}, 2)).short_pauses,
+              0);
+    EXPECT_EQ(Compare(AnimationOf({kRed}, 0), AnimationOf({kRed}, 0)).short_pauses, 0);
+}
+
+TEST(SaveComparison, AThresholdSaysWhatWasLeftOut) {
+    const Animation saved = AnimationOf({0x40FF0000});
+    EXPECT_TRUE(Compare(saved, AnimationOf({kRed})).Any());
+    EXPECT_FALSE(Compare(saved, AnimationOf({kRed}), {.threshold = 50}).Any());
+    EXPECT_TRUE(Compare(saved, AnimationOf({kNone}), {.threshold = 50}).Any());
+}
+
 TEST(SaveComparison, WithoutATransparentColorTheyAreFilled) {
     Animation read = AnimationOf({kRed, kRed});
     SetTransparentIndex(read, -1);

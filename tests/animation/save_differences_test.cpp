@@ -54,6 +54,33 @@ TEST(SaveDifferences, SayHowManyPixelsLostTheirColorToHowManyColors) {
               Sentences{"100 % of the pixels lost their color: 216 colors"});
 }
 
+TEST(SaveDifferences, SayHowMuchTrailsAndHowFarColorsAreOff) {
+    SaveDifferences differences{.frames = 9, .trailing = 2, .specked = 1, .most_left = 1204};
+    EXPECT_EQ(differences.Sentences(),
+              (Sentences{"2 of 9 frames will show trails, of up to 1204 pixels",
+                         "1 of 9 frames will show pixels of others, too few to be seen"}));
+    differences = {.frames = 9, .specked = 3, .most_left = 1};
+    EXPECT_TRUE(differences.Any());
+    EXPECT_EQ(differences.Sentences(),
+              Sentences{"3 of 9 frames will show pixels of others, too few to be seen: up to 1 "
+                        "pixel"});
+    differences = {.pixels = 1000, .recolored = 1000, .distance = 10500, .most_colors = 216};
+    EXPECT_EQ(differences.Sentences(), Sentences{"100 % of the pixels lost their color, by 3.5 of "
+                                                 "255 on average: 216 colors"});
+}
+
+TEST(SaveDifferences, WarnOfShortPausesThatAreNoDifference) {
+    SaveDifferences differences{.frames = 9, .short_pauses = 1};
+    EXPECT_FALSE(differences.Any());
+    EXPECT_EQ(differences.Sentences(), Sentences());
+    EXPECT_EQ(differences.Warning(),
+              "browsers will play 1 frame slower: its pause is below 0.02 seconds");
+    differences.short_pauses = 8;
+    EXPECT_EQ(differences.Warning(),
+              "browsers will play 8 frames slower: their pauses are below 0.02 seconds");
+    EXPECT_EQ(SaveDifferences().Warning(), "");
+}
+
 TEST(SaveDifferences, SayWhatBecomesOfTheWhole) {
     SaveDifferences differences{.frames = 28};
     differences.other_size = {30, 20};

@@ -67,7 +67,8 @@ class KirtoFaithful : public KirtoFixture {
 constexpr const char* kOpenedNotice =
     "Opened as browsers do. Animations are read and saved that way from now on. | Undo | Close";
 constexpr const char* kSavedNotice =
-    "In browsers 100 % of the pixels lost their color: 216 colors. | Save Faithfully | Show | "
+    "In browsers 100 % of the pixels lost their color, by 11.7 of 255 on average: 216 colors. | "
+    "Save Faithfully | Show | "
     "Close";
 
 }  // namespace

@@ -363,7 +363,7 @@ TEST_F(KirtoSave, TellsWhatBrowsersShowOtherwiseThoughItIsSavedFaithfully) {
 
     EXPECT_EQ(Do(SaveTo(folder_.Path(), "out.gif")),
               "svup(Status: writing frame 1 of 1...) arsm auda svup(Status: saved, but browsers "
-              "lengthen 1 pause(s) below 0.02 seconds)");
+              "will play 1 frame slower: its pause is below 0.02 seconds)");
     FrameEditOf(*app_, 0)->pause_length = 2;
     EXPECT_EQ(Do(SaveTo(folder_.Path(), "out.gif")),
               "svup(Status: writing frame 1 of 1...) arsm auda");

@@ -46,13 +46,13 @@ TEST(KirtoCliVerify, TellsHowMuchDiffersAndWhy) {
                                        "--save", "grey.gif", "--verify"});
 
     EXPECT_EQ(trails.status, 1);
-    EXPECT_EQ(trails.out, "trails.gif: 1 of 2 frames will show trails\n");
+    EXPECT_EQ(trails.out, "trails.gif: 1 of 2 frames will show trails, of up to 1 pixel\n");
     EXPECT_EQ(trails.err, "");
     EXPECT_EQ(colors.status, 1);
     EXPECT_EQ(colors.err, "");
     const std::string differences =
-        ".gif: 1 of 2 frames will show trails\n"
-        "grey.gif: 75 % of the pixels lost their color: 256 colors\n";
+        ".gif: 1 of 2 frames will show trails, of up to 1 pixel\n"
+        "grey.gif: 75 % of the pixels lost their color, by 106.0 of 255 on average: 256 colors\n";
     EXPECT_EQ(colors.out, "grey" + differences);
 }
 
@@ -69,6 +69,18 @@ TEST(KirtoCliVerify, GoesOnAfterADifference) {
                               "b.gif: 2 of 3 frames will be shown for another time\n{"),
               0)
         << result.out;
+}
+
+TEST(KirtoCliVerify, WarnsOfPausesThatBrowsersLengthen) {
+    const CliHome home;
+    home.Write("three.gif", ThreeFrameGif());
+
+    const RunResult result = home.Run({"--quiet", "--verify", "--faithful", "--open", "three.gif",
+                                       "--frame-pause", "1", "--save", "a.gif"});
+
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.out,
+              "a.gif: browsers will play 1 frame slower: its pause is below 0.02 seconds\n");
 }
 
 TEST(KirtoCliVerify, PrintsNoDebugLinesOfTheReading) {

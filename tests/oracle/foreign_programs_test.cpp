@@ -1,5 +1,6 @@
 // What gifsicle and ffmpeg make of the files that we write. Each program is run once over all of
 // them.
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <gtest/gtest.h>
@@ -7,8 +8,10 @@
 #include <sys/wait.h>
 
 #include "base/text.h"
+#include "formats/faithful/faithful_gif_save.h"
 #include "oracle/giflib_reader.h"
 #include "support/meant_picture.h"
+#include "support/shown_animation.h"
 
 namespace kirto::test {
 
@@ -112,31 +115,78 @@ TEST(Gifsicle, UnfoldsEveryFileToTheCanvasesThatWereMeant) {
 #endif
 }
 
+// What ffmpeg shows of each file, frame by frame, as 0xAARRGGBB.
+std::vector<Pixels> DecodedByFfmpeg(const std::vector<std::string>& paths) {
+    // All pauses are read as equally short: it takes a low bit rate for a mistake.
+    std::string command = "ffmpeg -nostdin -y -v warning";
+    for (const std::string& path : paths)
+        command += " -max_gif_delay 2 -default_delay 2 -i " + path;
+    for (size_t i = 0; i < paths.size(); ++i) {
+        command += Format(" -map %zu -fps_mode passthrough -f rawvideo -pix_fmt bgra ", i) +
+                   paths[i] + ".raw";
+    }
+    std::string output;
+    EXPECT_TRUE(RunCommand(command, &output)) << output;
+    EXPECT_EQ(output, "");
+    std::vector<Pixels> decoded;
+    for (const std::string& path : paths) {
+        const std::vector<uint8> raw = ReadBytes(path + ".raw");
+        Pixels pixels;
+        for (size_t byte = 0; byte + 4 <= raw.size(); byte += 4) {
+            pixels.push_back(ReadLittle32(&raw[byte]));
+        }
+        decoded.push_back(std::move(pixels));
+    }
+    return decoded;
+}
+
 TEST(Ffmpeg, DecodesEveryFileToTheCanvasesThatWereMeant) {
     if (!IsInstalled("ffmpeg")) GTEST_SKIP() << "ffmpeg is not installed";
     const SavedAnimations saved{DocumentStyle()};
-    // All pauses are read as equally short: it takes a low bit rate for a mistake.
-    std::string command = "ffmpeg -nostdin -v warning";
+    std::vector<std::string> paths;
     for (uint32 i = 0; i < kFileCount; ++i)
-        command += " -max_gif_delay 2 -default_delay 2 -i " + saved.Path(i, ".gif");
-    for (uint32 i = 0; i < kFileCount; ++i) {
-        command += Format(" -map %u -fps_mode passthrough -f rawvideo -pix_fmt bgra ", i) +
-                   saved.Path(i, ".raw");
-    }
-    std::string output;
-    ASSERT_TRUE(RunCommand(command, &output)) << output;
-    EXPECT_EQ(output, "");
+        paths.push_back(saved.Path(i, ".gif"));
+    const std::vector<Pixels> decoded = DecodedByFfmpeg(paths);
     for (uint32 i = 0; i < kFileCount; ++i) {
         Pixels meant;
         for (const Pixels& canvas : MeantCanvases(saved.Document(i)))
             meant.insert(meant.end(), canvas.begin(), canvas.end());
-        const std::vector<uint8> raw = ReadBytes(saved.Path(i, ".raw"));
-        ASSERT_EQ(raw.size(), meant.size() * 4) << "file " << i;
-        Pixels decoded;
-        for (size_t byte = 0; byte < raw.size(); byte += 4)
-            decoded.push_back(ReadLittle32(&raw[byte]));
-        ASSERT_TRUE(decoded == meant) << "file " << i;
+        ASSERT_TRUE(decoded[i] == meant) << "file " << i;
     }
+}
+
+// Fills what an image clears, and what the first one leaves out, with the background color, where
+// browsers show nothing.
+bool FfmpegPlaysAsBrowsers(const ShownFrame& frame) {
+    return std::find(frame.pixels.begin(), frame.pixels.end(), 0U) == frame.pixels.end();
+}
+
+TEST(Ffmpeg, ShowsWhatIsSavedFaithfully) {
+    if (!IsInstalled("ffmpeg")) GTEST_SKIP() << "ffmpeg is not installed";
+    const TemporaryFolder folder;
+    std::vector<std::string> paths;
+    std::vector<Pixels> meant;
+    for (uint32 seed = 1; seed <= 700; ++seed) {
+        SeededChoices choices(seed);
+        DocumentFixture made;
+        FillWithScenes(choices, 40, made.document);
+        const std::vector<ShownFrame> frames = ShownFrames(*made.document.Current());
+        if (!std::all_of(frames.begin(), frames.end(), [](const ShownFrame& frame) {
+                return frame.promised && FfmpegPlaysAsBrowsers(frame);
+            }))
+            continue;
+        const std::shared_ptr<BFile> file = BFile::OnMemory();
+        const FaithfulGifSave save(file, made.document);
+        paths.push_back(folder.File(std::to_string(seed) + ".gif"));
+        WriteBytes(paths.back(), file->Memory());
+        meant.emplace_back();
+        for (const ShownFrame& frame : frames)
+            meant.back().insert(meant.back().end(), frame.pixels.begin(), frame.pixels.end());
+    }
+    EXPECT_GT(paths.size(), 100u);
+    const std::vector<Pixels> decoded = DecodedByFfmpeg(paths);
+    for (size_t i = 0; i < paths.size(); ++i)
+        EXPECT_TRUE(decoded[i] == meant[i]) << paths[i];
 }
 
 }  // namespace

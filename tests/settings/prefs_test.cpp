@@ -96,8 +96,9 @@ const std::vector<std::string> kKeysInOrder = {
     "misc_preferredmode",
 };
 // Those that a file may lack.
-const std::vector<std::string> kOptionalKeys = {"animation_faithful", "animation_dithering",
-                                                "animation_jointcolors", "animation_matte"};
+const std::vector<std::string> kOptionalKeys = {"animation_faithful",    "animation_dithering",
+                                                "animation_jointcolors", "animation_matte",
+                                                "animation_threshold",   "animation_exactcolors"};
 
 FakeNode::Attribute Int(int32 value) {
     return {B_INT32_TYPE, BytesOf(value)};

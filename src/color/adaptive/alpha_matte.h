@@ -10,20 +10,22 @@ namespace kirto {
 // A plain value.
 class AlphaMatte {
   public:
-    // From here on a pixel is there.
+    // From here on a pixel is there, unless another alpha is asked for.
     static constexpr uint8 kFirstVisible = 128;
     // Stands for a key where there is no color.
     static constexpr uint32 kTransparent = 1U << 24;
 
     // color: what lies below the pixels. cuts_out: whether there is a way to write transparent
-    // pixels; if not, these are laid on the color as well.
-    explicit AlphaMatte(rgb_color color = {255, 255, 255, 255}, bool cuts_out = true)
-        : color_(color), cuts_out_(cuts_out) {}
+    // pixels; if not, these are laid on the color as well. first_visible: pixels of less alpha
+    // are transparent.
+    explicit AlphaMatte(rgb_color color = {255, 255, 255, 255}, bool cuts_out = true,
+                        uint8 first_visible = kFirstVisible)
+        : color_(color), cuts_out_(cuts_out), first_visible_(first_visible) {}
 
     // The key of the color that is seen, or kTransparent.
     uint32 KeyOf(rgb_color pixel) const {
         if (pixel.alpha == 255) return ColorKey(pixel.red, pixel.green, pixel.blue);
-        if (cuts_out_ && pixel.alpha < kFirstVisible) return kTransparent;
+        if (cuts_out_ && pixel.alpha < first_visible_) return kTransparent;
         return ColorKey(Laid(pixel.red, color_.red, pixel.alpha),
                         Laid(pixel.green, color_.green, pixel.alpha),
                         Laid(pixel.blue, color_.blue, pixel.alpha));
@@ -42,6 +44,7 @@ class AlphaMatte {
 
     rgb_color color_;
     bool cuts_out_;
+    uint8 first_visible_;
 };
 
 }  // namespace kirto

@@ -1,27 +1,54 @@
 #include "formats/faithful/color_reducer.h"
 
+#include <algorithm>
 #include <new>
 #include <utility>
 
 #include "color/adaptive/adaptive_palette.h"
-#include "color/color_values.h"
 
 namespace kirto {
 
-ColorReducer::ColorReducer(const Screen& screen, AdaptiveDither dither,
-                           std::vector<rgb_color> common, const Work& work)
-    : screen_(screen), dither_(dither), common_(std::move(common)), work_(work) {}
+namespace {
 
-ScreenPixels ColorReducer::Reduce(const ScreenPixels& before, const ScreenPixels& shown) const {
-    const std::vector<rgb_color> colors = common_.empty() ? ColorsFor(before, shown) : common_;
-    if (colors.empty()) return shown;
+std::vector<uint32> KeysOf(std::span<const rgb_color> colors) {
     std::vector<uint32> keys;
     keys.reserve(colors.size());
     for (const rgb_color& color : colors)
         keys.push_back(ColorKey(color.red, color.green, color.blue));
+    return keys;
+}
+
+bool Contains(std::span<const uint32> keys, uint32 key) {
+    return std::find(keys.begin(), keys.end(), key) != keys.end();
+}
+
+}  // namespace
+
+ColorReducer::ColorReducer(const Screen& screen, Options options, const Work& work)
+    : screen_(screen), options_(std::move(options)), work_(work) {}
+
+std::vector<rgb_color> ColorReducer::Occurring(std::span<const rgb_color> colors,
+                                               std::span<const ColorValues::Item> counts) {
+    std::vector<rgb_color> occurring;
+    for (const rgb_color& color : colors) {
+        const uint32 key = ColorKey(color.red, color.green, color.blue);
+        if (std::any_of(counts.begin(), counts.end(),
+                        [key](const ColorValues::Item& item) { return item.key == key; }))
+            occurring.push_back(color);
+    }
+    return occurring;
+}
+
+ScreenPixels ColorReducer::Reduce(const ScreenPixels& before, const ScreenPixels& shown) const {
+    const std::vector<rgb_color> colors =
+        options_.common.empty() ? ColorsFor(before, shown) : options_.common;
+    if (colors.empty()) return shown;
+    const std::vector<uint32> keys = KeysOf(colors);
+    std::vector<uint32> exact = KeysOf(options_.exact);
+    std::erase_if(exact, [&](uint32 key) { return !Contains(keys, key); });
     const size_t width = static_cast<size_t>(screen_.Width());
     AdaptiveMapper mapper(colors, screen_.Width(), B_RGB32,
-                          {.dither = dither_, .transparent_index = kMostColors});
+                          {.dither = options_.dither, .transparent_index = kMostColors});
     if (!mapper.HasMemory()) throw std::bad_alloc();
     std::vector<uint8> row(width * 4);
     std::vector<uint8> indices(width);
@@ -30,8 +57,11 @@ ScreenPixels ColorReducer::Reduce(const ScreenPixels& before, const ScreenPixels
         uint32* const pixels = reduced.data() + screen_.At(0, y);
         FillPixels({pixels, width}, row.data());
         mapper.MapRow(y, row.data(), indices.data());
-        for (size_t x = 0; x < width; ++x)
+        for (size_t x = 0; x < width; ++x) {
+            // Errors of other pixels are not to change them.
+            if (Contains(exact, pixels[x])) continue;
             pixels[x] = indices[x] < keys.size() ? keys[indices[x]] : kNothing;
+        }
     }
     return reduced;
 }
@@ -47,7 +77,8 @@ std::vector<rgb_color> ColorReducer::ColorsFor(const ScreenPixels& before,
         ++item->value;
     }
     AdaptivePalette palette;
-    const status_t status = palette.Make(counts.Items(), kMostColors, {}, &work_);
+    const status_t status = palette.Make(counts.Items(), kMostColors,
+                                         Occurring(options_.exact, counts.Items()), &work_);
     if (status == B_NO_MEMORY) throw std::bad_alloc();
     return {palette.Colors().begin(), palette.Colors().end()};
 }

@@ -1,10 +1,12 @@
 #pragma once
 
+#include <span>
 #include <vector>
 
 #include "base/types.h"
 #include "base/work.h"
 #include "color/adaptive/adaptive_mapper.h"
+#include "color/color_values.h"
 #include "formats/faithful/screen.h"
 
 namespace kirto {
@@ -16,10 +18,20 @@ class ColorReducer {
     // So many colors leave an index for transparent pixels.
     static constexpr int32 kMostColors = 255;
 
-    // common: colors that all screens are given, at most kMostColors; empty: each has its own.
+    struct Options {
+        AdaptiveDither dither = AdaptiveDither::kErrorDiffusion;
+        // Colors that all screens are given, at most kMostColors; empty: each has its own.
+        std::vector<rgb_color> common{};
+        // Different colors that pixels keep, at most kMostColors.
+        std::vector<rgb_color> exact{};
+    };
+
     // What was made when the work is stopped is of no use. The screen and the work outlive this.
-    ColorReducer(const Screen& screen, AdaptiveDither dither, std::vector<rgb_color> common,
-                 const Work& work);
+    ColorReducer(const Screen& screen, Options options, const Work& work);
+
+    // Those of the colors that are among the counted ones.
+    static std::vector<rgb_color> Occurring(std::span<const rgb_color> colors,
+                                            std::span<const ColorValues::Item> counts);
 
     // The screen in at most kMostColors colors that suit the pixels that differ from those of
     // `before`, which is of the same size. Nothing stays nothing. Throws std::bad_alloc.
@@ -29,8 +41,7 @@ class ColorReducer {
     std::vector<rgb_color> ColorsFor(const ScreenPixels& before, const ScreenPixels& shown) const;
 
     const Screen& screen_;
-    const AdaptiveDither dither_;
-    const std::vector<rgb_color> common_;
+    const Options options_;
     const Work& work_;
 };
 

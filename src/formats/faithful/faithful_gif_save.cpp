@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <new>
 #include <optional>
+#include <set>
 #include <utility>
 
 #include "base/byte_order.h"
@@ -10,6 +11,7 @@
 #include "base/text.h"
 #include "color/adaptive/adaptive_palette.h"
 #include "color/adaptive/color_census.h"
+#include "color/color_text.h"
 #include "formats/faithful/frame_delays.h"
 #include "formats/faithful/untouched_frames.h"
 #include "formats/gif/gif_extensions.h"
@@ -19,6 +21,8 @@ namespace kirto {
 namespace {
 
 constexpr int32 kLargestSide = 0xFFFF;
+// Colors that are kept, so that most of a table is left for the others.
+constexpr size_t kMostExact = 64;
 // Of the work that a frame is, planning and encoding are so much.
 constexpr int64 kPlanned = 1;
 constexpr int64 kEncoded = 3;
@@ -38,6 +42,20 @@ Screen ScreenFor(const Animation& animation, const AlphaMatte& matte, const Pixe
     const Screen screen(SideOf(animation.width, right), SideOf(animation.height, bottom), matte);
     if (screen.At(0, screen.Height()) * sizeof(uint32) > budget.Limit()) throw std::bad_alloc();
     return screen;
+}
+
+// Whether the strips, by what they have counted, have no more colors than an image; with alpha or
+// not.
+bool HasFewColors(const Frame& frame) {
+    if (!frame.bitmap) return true;
+    std::set<uint32> pixels;
+    for (const auto& strip : frame.bitmap->AllStrips()) {
+        if (strip->Pixels()) return false;
+        for (const PixelCount& item : strip->Counts())
+            pixels.insert(item.pixel);
+        if (pixels.size() > FramePlanner::kMostColors) return false;
+    }
+    return true;
 }
 
 AdaptiveDither DitherOf(int32 setting) {
@@ -62,6 +80,8 @@ FaithfulOptions FaithfulOptions::Of(const Prefs& prefs) {
     options.dither = DitherOf(prefs.animation_dithering);
     const int32 matte = prefs.animation_matte;
     options.matte = {LowByte(matte >> 16), LowByte(matte >> 8), LowByte(matte), 255};
+    options.threshold = static_cast<uint8>(std::clamp(prefs.animation_threshold, 0, 255));
+    ParseColors(prefs.animation_exactcolors, kMostExact, &options.exact_colors);
     return options;
 }
 
@@ -73,11 +93,15 @@ FaithfulGifSave::FaithfulGifSave(std::shared_ptr<BFile> file, AnimationDocument&
       frames_(animation_->frames.begin(), animation_->frames.end()),
       untouched_(UntouchedFrames(*animation_)),
       delays_(SpreadDelays(*animation_, options_.pause_in_seconds)),
-      screen_(ScreenFor(*animation_, AlphaMatte(options_.matte), *document.pixel_budget)),
+      screen_(ScreenFor(*animation_, options_.Matte(), *document.pixel_budget)),
       progress_(document.work, static_cast<int64>(frames_.size()) * (kPlanned + kEncoded)),
       reducer_(std::make_unique<ColorReducer>(
-          screen_, options_.dither,
-          options_.joint_colors ? JointColors() : std::vector<rgb_color>{}, document.work)),
+          screen_,
+          ColorReducer::Options{
+              .dither = options_.dither,
+              .common = options_.joint_colors ? JointColors() : std::vector<rgb_color>{},
+              .exact = options_.exact_colors},
+          document.work)),
       planner_(std::make_unique<FramePlanner>(screen_, *reducer_)) {
     Plan();
     ChooseLayout();
@@ -88,7 +112,7 @@ FaithfulGifSave::FaithfulGifSave(std::shared_ptr<BFile> file, AnimationDocument&
 }
 
 std::vector<rgb_color> FaithfulGifSave::JointColors() const {
-    ColorCensus census(AlphaMatte(options_.matte), &document_.work);
+    ColorCensus census(options_.Matte(), &document_.work);
     for (const FramePointer& frame : frames_) {
         if (!frame->bitmap || !frame->bitmap->HasRows()) continue;
         const status_t counted = census.Add(*frame->bitmap);
@@ -96,8 +120,9 @@ std::vector<rgb_color> FaithfulGifSave::JointColors() const {
         if (counted != B_OK) return {};
     }
     AdaptivePalette palette;
-    const status_t made =
-        palette.Make(census.Colors(), ColorReducer::kMostColors, {}, &document_.work);
+    const status_t made = palette.Make(
+        census.Colors(), ColorReducer::kMostColors,
+        ColorReducer::Occurring(options_.exact_colors, census.Colors()), &document_.work);
     if (made == B_NO_MEMORY) throw std::bad_alloc();
     return {palette.Colors().begin(), palette.Colors().end()};
 }
@@ -129,12 +154,12 @@ FaithfulGifSave::Prepared FaithfulGifSave::Prepare(size_t frame) const {
     Prepared prepared;
     if (!IsWanted(frame)) return prepared;
     ScreenPixels shown = screen_.Show(ScreenImage::Of(*frames_[frame]));
-    const ScreenPixels empty = screen_.Empty();
-    const bool many = !ColorsToDraw(empty, shown, FramePlanner::kMostColors);
-    if (many && !untouched_[frame]) {
+    if (!untouched_[frame] && !HasFewColors(*frames_[frame])) {
         const ScreenPixels before =
-            frame > 0 ? screen_.Show(ScreenImage::Of(*frames_[frame - 1])) : empty;
-        if (!ColorsToDraw(before, shown, FramePlanner::kMostColors))
+            frame > 0 ? screen_.Show(ScreenImage::Of(*frames_[frame - 1])) : screen_.Empty();
+        const auto few =
+            ColorsToDraw(screen_, screen_.Whole(), before, shown, FramePlanner::kMostColors);
+        if (!few)
             prepared.reduced = std::make_shared<ScreenPixels>(reducer_->Reduce(before, shown));
     }
     prepared.shown = std::make_shared<ScreenPixels>(std::move(shown));

@@ -20,7 +20,11 @@ struct FaithfulOptions {
     bool joint_colors = false;      // frames of too many colors share those they are given
     AdaptiveDither dither = AdaptiveDither::kErrorDiffusion;
     rgb_color matte{255, 255, 255, 255};
+    uint8 threshold = AlphaMatte::kFirstVisible;  // pixels of less alpha are transparent
+    std::vector<rgb_color> exact_colors;          // that stay as they are; different ones
 
+    // What is laid on what, and what is left out.
+    AlphaMatte Matte() const { return AlphaMatte(matte, true, threshold); }
     static FaithfulOptions Of(const Prefs& prefs);
 };
 

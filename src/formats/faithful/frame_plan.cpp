@@ -1,5 +1,7 @@
 #include "formats/faithful/frame_plan.h"
 
+#include <algorithm>
+
 namespace kirto {
 
 Backdrop BackdropAfter(const FramePlans& plans, int32 plan) {
@@ -16,10 +18,16 @@ Backdrop BackdropAfter(const FramePlans& plans, int32 plan) {
     return {plan, {}};
 }
 
-ScreenPixels ShowBackdrop(const Screen& screen, const FramePlans& plans, const Backdrop& backdrop) {
-    if (backdrop.plan < 0) return screen.Empty();
-    ScreenPixels pixels = screen.Show(plans[static_cast<size_t>(backdrop.plan)].shown);
-    screen.Clear(backdrop.cleared, &pixels);
+ScreenPixels ShowBackdrop(const Screen& screen, const FramePlans& plans, const Backdrop& backdrop,
+                          const PixelRect& rect) {
+    const ScreenImage image =
+        backdrop.plan < 0 ? ScreenImage() : plans[static_cast<size_t>(backdrop.plan)].shown;
+    ScreenPixels pixels = screen.ShowPart(image, rect);
+    const PixelRect cleared = Common(backdrop.cleared, rect);
+    for (int32 y = cleared.top; y < cleared.top + cleared.height; ++y) {
+        const auto row = static_cast<ptrdiff_t>(y - rect.top) * rect.width;
+        std::fill_n(pixels.begin() + row + (cleared.left - rect.left), cleared.width, kNothing);
+    }
     return pixels;
 }
 

@@ -40,7 +40,8 @@ using FramePlans = std::vector<FramePlan>;
 
 // What the image leaves for the next one.
 Backdrop BackdropAfter(const FramePlans& plans, int32 plan);
-// The same as pixels.
-ScreenPixels ShowBackdrop(const Screen& screen, const FramePlans& plans, const Backdrop& backdrop);
+// The same as pixels, in a rectangle of the screen.
+ScreenPixels ShowBackdrop(const Screen& screen, const FramePlans& plans, const Backdrop& backdrop,
+                          const PixelRect& rect);
 
 }  // namespace kirto

@@ -57,7 +57,7 @@ int64 FramePlanner::CostOf(const Way& way) {
 
 void FramePlanner::Add(const FrameToPlan& frame) {
     nearness_.pixels += static_cast<int64>(screen_.At(0, screen_.Height()));
-    nearness_.short_pauses += frame.delay < kLeastReliableDelay ? 1 : 0;
+    nearness_.short_pauses += frame.delay < kLeastReliablePause ? 1 : 0;
     if (frame.source) return AddSource(frame);
     if (LengthensLast(frame)) return;
     std::vector<Way> ways = WaysTo(*frame.shown);
@@ -92,7 +92,7 @@ void FramePlanner::AddSource(const FrameToPlan& frame) {
 bool FramePlanner::LengthensLast(const FrameToPlan& frame) {
     if (plans_.empty() || *wanted_ != *frame.shown) return false;
     FramePlan& last = plans_.back();
-    if (std::min(last.delay, frame.delay) < kLeastReliableDelay) return false;
+    if (std::min(last.delay, frame.delay) < kLeastReliablePause) return false;
     if (last.delay + frame.delay > kLongestDelay) return false;
     last.delay += frame.delay;
     return true;
@@ -146,12 +146,13 @@ void FramePlanner::ReduceLast() {
     CountDifference(*shown_, shown);
     shown_ = std::make_shared<const ScreenPixels>(std::move(shown));
     last.shown = {screen_.PictureOf(*shown_), 0, 0, screen_.Width(), screen_.Height()};
-    last.colors = *ColorsToDraw(*below_, *shown_, kMostColors);
+    last.colors = *ColorsToDraw(screen_, last.rect, *below_, *shown_, kMostColors);
     last.skips = true;
 }
 
 bool FramePlanner::PlanExactly(const Way& way, const FrameToPlan& frame) {
-    auto colors = ColorsToDraw(*way.below, *frame.shown, kMostColors);
+    auto colors =
+        ColorsToDraw(screen_, way.difference.changed, *way.below, *frame.shown, kMostColors);
     if (!colors) return false;
     const PixelRect& rect = way.difference.changed;
     const bool skips = way.difference.pixels < AreaOf(rect);
@@ -169,7 +170,8 @@ void FramePlanner::PlanNearly(const Way& way, const FrameToPlan& frame) {
     nearly.difference = ScreenDifference::Between(screen_, *way.below, *shown_);
     FrameToPlan reduced = frame;
     reduced.image = {screen_.PictureOf(*shown_), 0, 0, screen_.Width(), screen_.Height()};
-    auto colors = ColorsToDraw(*way.below, *shown_, kMostColors);
+    auto colors =
+        ColorsToDraw(screen_, nearly.difference.changed, *way.below, *shown_, kMostColors);
     Append(nearly, reduced, std::move(*colors));
 }
 
@@ -213,13 +215,14 @@ void FramePlanner::SetDisposal(const Way& way) {
 
 void FramePlanner::RemakeLast() {
     FramePlan& last = plans_.back();
-    below_ = std::make_shared<const ScreenPixels>(ShowBackdrop(screen_, plans_, last.below));
+    below_ = std::make_shared<const ScreenPixels>(
+        ShowBackdrop(screen_, plans_, last.below, screen_.Whole()));
     const auto difference = ScreenDifference::Between(screen_, *below_, *shown_);
     last.source = nullptr;
     last.rect = OrOnePixel(difference.changed);
     last.skips = difference.pixels < AreaOf(last.rect);
     // It was drawn with one table.
-    last.colors = *ColorsToDraw(*below_, *shown_, kMostColors);
+    last.colors = *ColorsToDraw(screen_, last.rect, *below_, *shown_, kMostColors);
 }
 
 void FramePlanner::CountDifference(const ScreenPixels& wanted, const ScreenPixels& shown) {

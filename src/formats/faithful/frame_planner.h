@@ -3,6 +3,7 @@
 #include <memory>
 #include <vector>
 
+#include "animation/save_differences.h"
 #include "base/types.h"
 #include "formats/faithful/color_reducer.h"
 #include "formats/faithful/frame_plan.h"
@@ -38,8 +39,6 @@ class FramePlanner {
   public:
     // Most colors of one image.
     static constexpr size_t kMostColors = 256;
-    // Players that take shorter pauses for none, or for long ones, are common.
-    static constexpr int32 kLeastReliableDelay = 2;
 
     // Both outlive this.
     FramePlanner(const Screen& screen, const ColorReducer& reducer)

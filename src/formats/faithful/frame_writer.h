@@ -9,6 +9,7 @@
 #include "formats/faithful/choice_lzw_encoder.h"
 #include "formats/faithful/frame_plan.h"
 #include "formats/faithful/gif_table.h"
+#include "formats/faithful/table_use.h"
 
 namespace kirto {
 
@@ -33,31 +34,23 @@ class FrameWriter {
     ByteWriter Encode(int32 plan);
 
   private:
-    // The rectangle's pixels in the order of the data.
-    struct Area {
-        std::vector<uint32> keys;
-        std::vector<uint8> skippable;  // above 0 where the screen shows them already
-    };
-    // A table, and how many of its indices are made use of.
-    struct TableUse {
-        GifTable table;
-        bool local = false;
-        int32 transparent_index = GifTable::kNone;
-        int32 bits = 2;           // of the indices
-        std::vector<uint8> data;  // codes; empty: not tried yet
+    // An image as it might be written.
+    struct Encoding {
+        TableUse use;
+        Drawing drawing;
+        std::vector<uint8> data;  // codes; empty: there is none yet
+        LzwPace pace;             // of them
+        bool filled = false;      // they fill a table of strings
         // What the table and the data take in the file.
         size_t Size() const;
     };
 
     void WriteSource(const FramePlan& plan, ByteWriter* bytes) const;
-    Area AreaOf(const FramePlan& plan) const;
-    TableUse GlobalUse(const FramePlan& plan) const;
-    TableUse LocalUse(const FramePlan& plan, const Area& area) const;
-    void Compress(const Area& area, TableUse* use);
-    void TryImages(std::span<const ChoiceLzwEncoder::Image> images, TableUse* use);
-    size_t TryImage(const ChoiceLzwEncoder::Image& image, const ChoiceLzwEncoder::Effort& effort,
-                    TableUse* use);
-    TableUse Smallest(const FramePlan& plan, const Area& area);
+    ImageArea AreaOf(const FramePlan& plan) const;
+    Encoding Smallest(const FramePlan& plan, const ImageArea& area);
+    void Compress(const ImageArea& area, TableUse use, Encoding* best);
+    static ChoiceLzwEncoder::Image ImageOf(const ImageArea& area, const Encoding& encoding);
+    void Refine(const ImageArea& area, Encoding* best);
 
     const Screen& screen_;
     const FramePlans& plans_;

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <bit>
 #include <map>
+#include <set>
+#include <utility>
 
 namespace kirto {
 
@@ -38,6 +40,61 @@ std::vector<uint32> CommonestFirst(const Uses& uses) {
     for (const auto& [key, count] : sorted)
         keys.push_back(key);
     return keys;
+}
+
+using PlanPointers = std::vector<const FramePlan*>;
+
+// Those of as many images as there is room for, one after the other.
+Uses SharedBy(const PlanPointers& plans) {
+    Uses uses;
+    for (const FramePlan* plan : plans)
+        AddAll(KeysOf(*plan), &uses);
+    return uses;
+}
+
+bool HasAll(const Uses& uses, const FramePlan& plan) {
+    return std::all_of(plan.colors.begin(), plan.colors.end(),
+                       [&](const ColorValues::Item& item) { return uses.contains(item.key); });
+}
+
+// Of the tables of all other images.
+size_t LocalEntries(const Uses& uses, const PlanPointers& plans) {
+    size_t entries = 0;
+    for (const FramePlan* plan : plans)
+        entries += HasAll(uses, *plan) ? 0 : std::bit_ceil(plan->colors.size());
+    return entries;
+}
+
+// The colors of images of few colors come first.
+std::vector<uint32> FewestFirst(const Uses& uses, const PlanPointers& fewest_first) {
+    std::vector<uint32> keys;
+    std::set<uint32> known;
+    for (const FramePlan* plan : fewest_first) {
+        if (!HasAll(uses, *plan)) continue;
+        for (const ColorValues::Item& item : plan->colors) {
+            if (known.insert(item.key).second) keys.push_back(item.key);
+        }
+    }
+    return keys;
+}
+
+// Of the indices of all pixels that are drawn with the table.
+int64 BitsOf(const std::vector<uint32>& keys, const PlanPointers& plans) {
+    // Those of other tables count alike, whatever the order.
+    constexpr int32 kBeyond = GifTable::kMostEntries;
+    const GifTable table{keys};
+    int64 bits = 0;
+    for (const FramePlan* plan : plans) {
+        int32 largest = 0;
+        int64 pixels = 0;
+        for (const ColorValues::Item& item : plan->colors) {
+            const int32 index = table.IndexOf(item.key);
+            largest = std::max(largest, index == GifTable::kNone ? kBeyond : index);
+            pixels += item.value;
+        }
+        bits += std::bit_width(static_cast<uint32>(largest)) * pixels;
+    }
+    return bits;
 }
 
 }  // namespace
@@ -84,11 +141,20 @@ GifTable ChooseGlobalTable(const FramePlans& plans, std::span<const rgb_color> g
             keys.push_back(ColorKey(color.red, color.green, color.blue));
         return GifTable(keys);
     }
-    Uses uses;
+    PlanPointers made;
     for (const FramePlan& plan : plans) {
-        if (!plan.source) AddAll(KeysOf(plan), &uses);
+        if (!plan.source) made.push_back(&plan);
     }
-    return GifTable(CommonestFirst(uses));
+    PlanPointers fewest_first = made;
+    std::stable_sort(
+        fewest_first.begin(), fewest_first.end(),
+        [](const FramePlan* a, const FramePlan* b) { return a->colors.size() < b->colors.size(); });
+    Uses uses = SharedBy(made);
+    Uses of_few = SharedBy(fewest_first);
+    if (LocalEntries(of_few, made) < LocalEntries(uses, made)) uses = std::move(of_few);
+    std::vector<uint32> commonest = CommonestFirst(uses);
+    std::vector<uint32> fewest = FewestFirst(uses, fewest_first);
+    return GifTable(BitsOf(fewest, made) < BitsOf(commonest, made) ? fewest : commonest);
 }
 
 }  // namespace kirto

@@ -47,7 +47,8 @@ bool Serves(const GifTable& table, const FramePlan& plan);
 
 // The one table that it is best to have for all images together, the others having their own. The
 // images that are written as they were read have the table `given`, if that is not empty, and it is
-// the answer. Colors that most images have come first, so that few bits do for them.
+// the answer. Colors that most images have come first, or those of images of few colors, so that
+// few bits do for them.
 GifTable ChooseGlobalTable(const FramePlans& plans, std::span<const rgb_color> given);
 
 }  // namespace kirto

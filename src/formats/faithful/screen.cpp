@@ -71,6 +71,13 @@ PixelRect Clipped(const PixelRect& rect, int32 width, int32 height) {
             Limited(int64{rect.top} + rect.height, height) - top};
 }
 
+PixelRect Common(const PixelRect& a, const PixelRect& b) {
+    const int32 left = std::max(a.left, b.left);
+    const int32 top = std::max(a.top, b.top);
+    return {left, top, std::max(0, std::min(a.left + a.width, b.left + b.width) - left),
+            std::max(0, std::min(a.top + a.height, b.top + b.height) - top)};
+}
+
 PixelRect Around(const PixelRect& a, const PixelRect& b) {
     if (a.width == 0 || a.height == 0) return b;
     if (b.width == 0 || b.height == 0) return a;
@@ -93,17 +100,24 @@ ScreenPixels Screen::Empty() const {
 }
 
 ScreenPixels Screen::Show(const ScreenImage& image) const {
-    ScreenPixels pixels = Empty();
+    return ShowPart(image, Whole());
+}
+
+ScreenPixels Screen::ShowPart(const ScreenImage& image, const PixelRect& rect) const {
+    ScreenPixels pixels(static_cast<size_t>(rect.width) * static_cast<size_t>(rect.height),
+                        kNothing);
     if (!image.picture || !image.picture->HasRows()) return pixels;
     const int32 columns = std::min(image.width, image.picture->Width());
     const int32 rows = std::min(image.height, image.picture->Height());
-    const PixelRect seen = Clipped({image.left, image.top, columns, rows}, width_, height_);
+    const PixelRect seen =
+        Common(Clipped({image.left, image.top, columns, rows}, width_, height_), rect);
     if (seen.width <= 0) return pixels;
     KeyReader reader(*image.picture, matte_);
-    for (int32 y = seen.top; y < seen.top + seen.height; ++y) {
-        reader.Read(y - image.top, seen.left - image.left, seen.width,
-                    pixels.data() + At(seen.left, y));
-    }
+    uint32* row = pixels.data() +
+                  static_cast<size_t>(seen.top - rect.top) * static_cast<size_t>(rect.width) +
+                  (seen.left - rect.left);
+    for (int32 y = seen.top; y < seen.top + seen.height; ++y, row += rect.width)
+        reader.Read(y - image.top, seen.left - image.left, seen.width, row);
     return pixels;
 }
 

@@ -32,6 +32,8 @@ void FillPixels(std::span<const uint32> keys, uint8* pixels);
 
 // Part of a screen of that size, which may be none of it.
 PixelRect Clipped(const PixelRect& rect, int32 width, int32 height);
+// What is in both rectangles on a screen; of no pixels where nothing is.
+PixelRect Common(const PixelRect& a, const PixelRect& b);
 // The smallest rectangle around both; one of no pixels counts for nothing.
 PixelRect Around(const PixelRect& a, const PixelRect& b);
 
@@ -53,6 +55,8 @@ class Screen {
     ScreenPixels Empty() const;
     // What the screen shows with nothing but the image.
     ScreenPixels Show(const ScreenImage& image) const;
+    // The part in the rectangle, row by row. rect: on the screen.
+    ScreenPixels ShowPart(const ScreenImage& image, const PixelRect& rect) const;
     // Takes what is in the rectangle off the screen.
     void Clear(const PixelRect& rect, ScreenPixels* pixels) const;
     // A picture of the pixels; throws std::bad_alloc.

@@ -23,12 +23,18 @@ struct Extent {
     PixelRect InRow(int32 y) const { return {first, y, end - first, end > 0 ? 1 : 0}; }
 };
 
+// Of rows that differ.
 void CompareRow(const uint32* below, const uint32* shown, int32 width, int32 y,
                 ScreenDifference* difference) {
     Extent changed;
     Extent lost;
     uint32 last = kNoColor;
-    for (int32 x = 0; x < width; ++x) {
+    int32 x = 0;
+    while (shown[x] == below[x])
+        ++x;
+    while (shown[width - 1] == below[width - 1])
+        --width;
+    for (; x < width; ++x) {
         if (shown[x] == below[x]) continue;
         changed.Add(x);
         ++difference->pixels;
@@ -64,20 +70,25 @@ std::vector<ColorValues::Item> CommonestFirst(const ColorValues& counts) {
     return colors;
 }
 
-std::optional<std::vector<ColorValues::Item>> ColorsToDraw(const ScreenPixels& below,
+std::optional<std::vector<ColorValues::Item>> ColorsToDraw(const Screen& screen,
+                                                           const PixelRect& rect,
+                                                           const ScreenPixels& below,
                                                            const ScreenPixels& shown, size_t most) {
     ColorValues counts;
-    for (size_t i = 0; i < shown.size();) {
-        if (shown[i] == below[i] || shown[i] == kNothing) {
-            ++i;
-            continue;
+    for (int32 y = rect.top; y < rect.top + rect.height; ++y) {
+        const size_t end = screen.At(rect.left + rect.width, y);
+        for (size_t i = screen.At(rect.left, y); i < end;) {
+            if (shown[i] == below[i] || shown[i] == kNothing) {
+                ++i;
+                continue;
+            }
+            const uint32 key = shown[i];
+            ColorValues::Item* const item = counts.FindOrAdd(key);
+            if (!item) throw std::bad_alloc();
+            if (counts.Items().size() > most) return std::nullopt;
+            for (; i < end && shown[i] == key && below[i] != key; ++i)
+                ++item->value;
         }
-        const uint32 key = shown[i];
-        ColorValues::Item* const item = counts.FindOrAdd(key);
-        if (!item) throw std::bad_alloc();
-        if (counts.Items().size() > most) return std::nullopt;
-        for (; i < shown.size() && shown[i] == key && below[i] != key; ++i)
-            ++item->value;
     }
     return CommonestFirst(counts);
 }

@@ -28,9 +28,11 @@ struct ScreenDifference {
 // The colors that were counted, by falling number and then by rising key.
 std::vector<ColorValues::Item> CommonestFirst(const ColorValues& counts);
 
-// The colors of the pixels that differ, with their numbers, by falling number and then by rising
-// key; nothing where there are more than most. Throws std::bad_alloc.
-std::optional<std::vector<ColorValues::Item>> ColorsToDraw(const ScreenPixels& below,
+// The colors of the pixels that differ in a rectangle of the screen, with their numbers, by falling
+// number and then by rising key; nothing where there are more than most. Throws std::bad_alloc.
+std::optional<std::vector<ColorValues::Item>> ColorsToDraw(const Screen& screen,
+                                                           const PixelRect& rect,
+                                                           const ScreenPixels& below,
                                                            const ScreenPixels& shown, size_t most);
 
 }  // namespace kirto

@@ -136,17 +136,20 @@ CliSession::Outcome CliSession::Verify(const std::string& path) {
             return Fail(path + ": Saved, but it can't be read to be verified.");
         case SaveVerification::Result::kNoMemory:
             return Fail(path + ": Saved, but there is not enough memory to verify it.");
-        case SaveVerification::Result::kEqual:
         case SaveVerification::Result::kStopped:
             return Outcome::kDone;
+        case SaveVerification::Result::kEqual:
         case SaveVerification::Result::kDifferent:
             break;
     }
-    desktop_.ClearProgress();
+    std::vector<std::string> sentences = verification.Differences().Sentences();
+    const std::string warning = verification.Differences().Warning();
+    if (!warning.empty()) sentences.push_back(warning);
+    if (!sentences.empty()) desktop_.ClearProgress();
     const std::string subject = isatty(STDOUT_FILENO) ? TerminalText(path) : path;
-    for (const std::string& sentence : verification.Differences().Sentences())
+    for (const std::string& sentence : sentences)
         std::printf("%s: %s\n", subject.c_str(), sentence.c_str());
-    differs_ = true;
+    differs_ = differs_ || result == SaveVerification::Result::kDifferent;
     return Outcome::kDone;
 }
 

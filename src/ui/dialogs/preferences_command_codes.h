@@ -37,6 +37,11 @@ inline constexpr uint32 kPrefsMinHeight = FourCharCode("pwti");
 // "Miscellaneous"
 inline constexpr uint32 kPrefsTemporaryFolder = FourCharCode("pwmf");
 
+// "Compatibility"
+inline constexpr uint32 kPrefsExactColors = FourCharCode("pwce");
+inline constexpr uint32 kPrefsMatte = FourCharCode("pwcm");
+inline constexpr uint32 kPrefsThreshold = FourCharCode("pwct");
+
 inline constexpr uint32 kPrefsSave = FourCharCode("pwsa");
 inline constexpr uint32 kPrefsCancel = FourCharCode("pwca");
 

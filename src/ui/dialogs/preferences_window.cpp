@@ -1,5 +1,6 @@
 #include "ui/dialogs/preferences_window.h"
 
+#include <QHBoxLayout>
 #include <QPushButton>
 #include <QRadioButton>
 #include <filesystem>
@@ -7,21 +8,25 @@
 
 #include "base/directories.h"
 #include "base/text.h"
+#include "color/color_text.h"
 #include "color/palette.h"
 #include "document/command_codes.h"
 #include "kit/alert.h"
 #include "kit/file.h"
 #include "ui/controls/check_input.h"
+#include "ui/controls/color_swatch.h"
 #include "ui/dialogs/preferences_command_codes.h"
 
 namespace {
 
 constexpr char kSubject[] = "This value";
 constexpr int32 kLargestIndex = 255;
+constexpr int32 kLargestAlpha = 255;
 constexpr int32 kLeastThumbnail = 10;      // pixels
 constexpr int32 kLargestThumbnail = 1000;  // pixels
 constexpr size_t kLongestFileName = 255;   // bytes
 constexpr size_t kLongestFolder = 1023;    // bytes
+constexpr size_t kLongestColors = 255;     // bytes
 
 // A view's name and the setting that it shows.
 template <typename Value>
@@ -39,6 +44,7 @@ constexpr Binding<int32> kNumbers[] = {
     {"thumbnail_presetvalue", &Prefs::thumbnail_heightvalue},
     {"thumbnail_maxheight", &Prefs::thumbnail_maxheight},
     {"thumbnail_minheight", &Prefs::thumbnail_minheight},
+    {"animation_threshold", &Prefs::animation_threshold},
 };
 
 constexpr Binding<bool> kFlags[] = {
@@ -61,6 +67,11 @@ constexpr int32 kOtherwise = 3;
 
 int32 KnownOr(int32 value, int32 otherwise) {
     return value >= 0 && value < otherwise ? value : otherwise;
+}
+
+rgb_color ColorOf(int32 setting) {
+    const auto byte = [setting](int32 shift) { return static_cast<uint8>(setting >> shift & 255); };
+    return {byte(16), byte(8), byte(0), 255};
 }
 
 // Leaves a setting whose text the user didn't change alone: its bytes may be no text at all.
@@ -100,19 +111,37 @@ void PreferencesWindow::RestorePointers() {
     for (const auto& number : kNumbers) {
         fields_[number.name] = RestorePointer<kirto::TextControl>(number.name);
     }
-    for (const char* name : {"global_pauselength", "palette_filename", "misc_filelocation"}) {
+    for (const char* name : {"global_pauselength", "palette_filename", "misc_filelocation",
+                             "animation_exactcolors", "animation_matte"}) {
         fields_[name] = RestorePointer<kirto::TextControl>(name);
     }
     for (const auto& flag : kFlags) {
         boxes_[flag.name] = RestorePointer<QCheckBox>(flag.name);
     }
     RestoreChoices();
+    ShowSwatch();
     // Clicking a button leaves no field: what "Cancel" discards is not checked first, and "Save"
     // sees to the checks itself.
     for (const char* name : {"SaveButton", "CancelButton"}) {
         if (auto* button = findChild<QPushButton*>(name)) button->setFocusPolicy(Qt::TabFocus);
     }
     if (auto* save = findChild<QPushButton*>("SaveButton")) save->setDefault(true);
+}
+
+void PreferencesWindow::ShowSwatch() {
+    kirto::TextControl& field = Field("animation_matte");
+    const auto color = [this] {
+        const rgb_color matte = ColorOf(Matte());
+        return QColor(matte.red, matte.green, matte.blue);
+    };
+    auto* swatch = new kirto::ColorSwatch("animation_matteswatch", color, &field);
+    const int side = field.fontMetrics().ascent();
+    swatch->setFixedSize(side, side);
+    auto* layout = new QHBoxLayout(&field);
+    layout->setContentsMargins(side / 2, 0, 0, 0);
+    layout->addWidget(swatch, 0, Qt::AlignLeft | Qt::AlignVCenter);
+    field.setTextMargins(side * 2, 0, 0, 0);
+    connect(&field, &kirto::TextControl::textChanged, swatch, [swatch] { swatch->update(); });
 }
 
 void PreferencesWindow::RestoreChoices() {
@@ -170,6 +199,8 @@ void PreferencesWindow::ShowSettings() {
     Field("global_pauselength").SetText(QString::fromStdString(pause));
     Field("palette_filename").SetText(QString::fromStdString(prefs_.palette_filename));
     Field("misc_filelocation").SetText(QString::fromStdString(prefs_.misc_tempfilelocation));
+    Field("animation_exactcolors").SetText(QString::fromStdString(prefs_.animation_exactcolors));
+    ShowMatte();
     ShowChoice(kPauseUnit, prefs_.global_pauseinseconds ? 1 : 0);
     ShowChoice(kMapping, prefs_.palette_mapping);
     ShowChoice(kThumbnailHeight, KnownOr(prefs_.thumbnail_height, kOtherwise));
@@ -189,6 +220,8 @@ void PreferencesWindow::TakeSettings() {
     prefs_.global_pauselength = Field("global_pauselength").text().toDouble();
     TakeText(Field("palette_filename"), kLongestFileName, &prefs_.palette_filename);
     TakeText(Field("misc_filelocation"), kLongestFolder, &prefs_.misc_tempfilelocation);
+    TakeText(Field("animation_exactcolors"), kLongestColors, &prefs_.animation_exactcolors);
+    prefs_.animation_matte = Matte();
     prefs_.global_pauseinseconds = Chosen(kPauseUnit, 0) == 1;
     prefs_.palette_mapping = Chosen(kMapping, prefs_.palette_mapping);
     prefs_.thumbnail_height = Chosen(kThumbnailHeight, kOtherwise);
@@ -242,6 +275,7 @@ void PreferencesWindow::MessageReceived(BMessage* message) {
             return;
         default:
             if (CheckNumber(message->what) || CheckPath(message->what)) return;
+            if (CheckColors(message->what)) return;
             IEWindow::MessageReceived(message);
     }
 }
@@ -281,6 +315,8 @@ bool PreferencesWindow::CheckNumber(uint32 command) {
             return check("thumbnail_maxheight", NumberIn("thumbnail_minheight"), kLargestThumbnail);
         case kirto::kPrefsMinHeight:
             return check("thumbnail_minheight", kLeastThumbnail, NumberIn("thumbnail_maxheight"));
+        case kirto::kPrefsThreshold:
+            return check("animation_threshold", 0, kLargestAlpha);
         default:
             return false;
     }
@@ -304,6 +340,41 @@ bool PreferencesWindow::CheckPath(uint32 command) {
         return true;
     }
     return false;
+}
+
+bool PreferencesWindow::CheckColors(uint32 command) {
+    if (command == kirto::kPrefsMatte) {
+        rgb_color color{};
+        if (!kirto::ParseColor(Field("animation_matte").text().toStdString(), &color)) {
+            kirto::Warn("You must enter a color as #rrggbb.");
+            ShowMatte();
+        }
+        return true;
+    }
+    if (command == kirto::kPrefsExactColors) {
+        kirto::TextControl& field = Field("animation_exactcolors");
+        std::vector<rgb_color> colors;
+        if (!kirto::ParseColors(field.text().toStdString(), kLongestColors, &colors)) {
+            kirto::Warn("You must enter colors as #rrggbb, with blanks between them.");
+            field.SetText(QString::fromStdString(prefs_.animation_exactcolors));
+        }
+        return true;
+    }
+    return false;
+}
+
+// The color that is shown, or the setting where it is none.
+int32 PreferencesWindow::Matte() const {
+    const std::string text = Field("animation_matte").text().toStdString();
+    rgb_color color{};
+    if (!kirto::ParseColor(text, &color) || color == ColorOf(prefs_.animation_matte))
+        return prefs_.animation_matte;
+    return color.red << 16 | color.green << 8 | color.blue;
+}
+
+void PreferencesWindow::ShowMatte() {
+    const std::string text = kirto::TextOfColor(ColorOf(prefs_.animation_matte));
+    Field("animation_matte").SetText(QString::fromStdString(text));
 }
 
 bool PreferencesWindow::CheckIfExists(const std::string& path, bool file) {

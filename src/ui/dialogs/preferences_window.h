@@ -47,6 +47,8 @@ class PreferencesWindow : public IEWindow {
     // Finds the views by their names.
     void RestorePointers();
     void RestoreChoices();
+    // The color in front of the text that says it.
+    void ShowSwatch();
     template <typename Control>
     Control* RestorePointer(const char* name);
 
@@ -54,6 +56,8 @@ class PreferencesWindow : public IEWindow {
     void ShowSettings();
     void TakeSettings();
     void ShowChoice(Choice choice, int32 value);
+    int32 Matte() const;
+    void ShowMatte();
     // The chosen value, or the argument otherwise when none is chosen.
     int32 Chosen(Choice choice, int32 otherwise) const;
     // A field that belongs to a box or radio button can be used while that is on.
@@ -64,6 +68,7 @@ class PreferencesWindow : public IEWindow {
     // Each checks the controls of its command and returns false for any other command.
     bool CheckNumber(uint32 command);
     bool CheckPath(uint32 command);
+    bool CheckColors(uint32 command);
     // True when the path opens as a file, or else as a folder.
     static bool CheckIfExists(const std::string& path, bool file);
     void Save();

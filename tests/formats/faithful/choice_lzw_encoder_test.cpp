@@ -13,12 +13,21 @@ namespace {
 
 using Bytes = std::vector<uint8>;
 
-constexpr size_t kAnySize = std::numeric_limits<size_t>::max() - 1;
+constexpr size_t kAnySize = std::numeric_limits<size_t>::max();
+
+// How strings are found, and whether the places to clear the table at are looked for.
+struct Effort {
+    size_t shorter = 0;
+    bool well = false;
+};
 
 class ChoiceLzw : public testing::Test {
   protected:
-    Bytes Encode(const ChoiceLzwEncoder::Image& image, const ChoiceLzwEncoder::Effort& effort) {
-        const std::span<const uint8> codes = encoder_->Encode(image, effort, kAnySize);
+    Bytes Encode(const ChoiceLzwEncoder::Image& image, const Effort& effort) {
+        std::span<const uint8> codes = encoder_->Encode(image, effort.shorter, {});
+        const LzwPace pace = encoder_->Pace();
+        if (effort.well) codes = encoder_->EncodeWell(image, effort.shorter, pace, kAnySize);
+        EXPECT_TRUE(encoder_->Complete());
         return {codes.begin(), codes.end()};
     }
     // All of them, and nothing behind them.
@@ -67,7 +76,7 @@ Bytes Runs(Random& random, size_t count, uint32 limit, uint32 longest) {
     return indices;
 }
 
-constexpr ChoiceLzwEncoder::Effort kEfforts[] = {{0, 0}, {0, 1}, {1, 4}, {3, 100}};
+constexpr Effort kEfforts[] = {{0, false}, {0, true}, {1, false}, {3, true}};
 
 }  // namespace
 
@@ -124,13 +133,14 @@ TEST_F(ChoiceLzw, AFullTableIsKeptWhileItPays) {
     for (int32 i = 0; i < 60; ++i)
         indices.insert(indices.end(), once.begin(), once.end());
     const ChoiceLzwEncoder::Image image = Plain(indices, 8);
-    EXPECT_LT(Encode(image, {0, 1}).size(), Encode(image, {0, 0}).size());
+    EXPECT_LT(Encode(image, {0, true}).size(), Encode(image, {0, false}).size());
 }
 
 TEST_F(ChoiceLzw, BreaksOffOnceItIsLargerThanAsked) {
     Random random(5);
     const Bytes indices = Runs(random, 50000, 256, 1);
-    const auto codes = encoder_->Encode(Plain(indices, 8), {}, 1000);
+    const auto codes = encoder_->Encode(Plain(indices, 8), 0, {.most = 1000});
+    EXPECT_FALSE(encoder_->Complete());
     EXPECT_GT(codes.size(), 1000u);
     EXPECT_LT(codes.size(), 1100u);
 }
@@ -139,7 +149,28 @@ TEST_F(ChoiceLzw, EndsEarlyWhenTheWorkIsStopped) {
     Random random(6);
     const Bytes indices = Runs(random, 50000, 256, 1);
     work_.StopAll();
-    EXPECT_LT(encoder_->Encode(Plain(indices, 8), {}, kAnySize).size(), 10u);
+    EXPECT_LT(encoder_->Encode(Plain(indices, 8), 0, {}).size(), 10u);
+    EXPECT_FALSE(encoder_->Complete());
+}
+
+TEST_F(ChoiceLzw, BreaksOffWhereItHasFallenFarBehindAnotherEncoding) {
+    Random random(7);
+    const Bytes flat(50000, 3);
+    const Bytes noise = Runs(random, flat.size(), 256, 1);
+    const size_t size = encoder_->Encode(Plain(flat, 8), 0, {}).size();
+    const LzwPace pace = encoder_->Pace();
+    // It may have as many bytes as it likes, at the end.
+    encoder_->Encode(Plain(noise, 8), 0, {100 * size, &pace});
+    EXPECT_FALSE(encoder_->Complete());
+}
+
+TEST_F(ChoiceLzw, WellIsNeverLargerThanClearingFullTables) {
+    Random random(8);
+    for (const uint32 longest : {1U, 3U, 40U}) {
+        const Bytes indices = Runs(random, 60000, 64, longest);
+        const auto image = Plain(indices, 6);
+        EXPECT_LE(Encode(image, {0, true}).size(), Encode(image, {0, false}).size()) << longest;
+    }
 }
 
 }  // namespace kirto::test

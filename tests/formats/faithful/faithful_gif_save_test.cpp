@@ -16,11 +16,13 @@ namespace {
 
 using Bytes = std::vector<uint8>;
 
-// Of each kind; sanitized builds take as long for fewer.
+// That are made, and files that are read; sanitized builds take as long for fewer.
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
 constexpr uint32 kAnimations = 60;
+constexpr uint32 kFiles = 60;
 #else
-constexpr uint32 kAnimations = 700;
+constexpr uint32 kAnimations = 1300;
+constexpr uint32 kFiles = 700;
 #endif
 
 // A document that is read and saved faithfully.
@@ -85,7 +87,7 @@ TEST(FaithfulGifSave, ShowsWhatRandomAnimationsShow) {
 TEST(FaithfulGifSave, ShowsWhatRandomFilesShow) {
     // Starting threads takes longer than what they do here.
     const ScopedThreads alone(1);
-    for (uint32 seed = 1; seed <= kAnimations; ++seed) {
+    for (uint32 seed = 1; seed <= kFiles; ++seed) {
         FaithfulDocument opened;
         if (!opened.Load(RandomGif(seed))) continue;
         ASSERT_TRUE(ShowsTheSame(opened.Shown(), ShownInFile(opened.Save()))) << "seed " << seed;
@@ -253,6 +255,49 @@ TEST(FaithfulGifSave, RefusesAScreenThatTheBudgetHasNoRoomFor) {
         EditFrame(animation, 0, [](Frame& frame) { frame.x_offset = frame.y_offset = 65534; });
     });
     EXPECT_THROW(made.Save(), std::bad_alloc);
+}
+
+TEST(FaithfulGifSave, AThresholdSaysWhatIsTransparent) {
+    for (const auto& [threshold, seen] :
+         {std::pair(-5, 3), {0, 3}, {100, 2}, {128, 1}, {255, 1}, {300, 1}}) {
+        FaithfulDocument made;
+        made.prefs.animation_threshold = threshold;
+        made.document.Change([](Animation& animation) {
+            animation.width = 3;
+            animation.height = 1;
+        });
+        AppendFrame(made.document, PictureOf(3, 1, {0xFF102030, 0x7F000000, 0x01000000}), "soft");
+        const std::vector<ShownFrame> saved = ShownInFile(made.Save());
+        ASSERT_EQ(saved.size(), 1u);
+        const ShownPixels& pixels = saved[0].pixels;
+        EXPECT_EQ(3 - std::count(pixels.begin(), pixels.end(), 0U), seen) << threshold;
+    }
+}
+
+TEST(FaithfulGifSave, AMatteLiesBelowSoftEdges) {
+    FaithfulDocument made;
+    made.prefs.animation_matte = 0x0000FF;
+    made.document.Change([](Animation& animation) { animation.width = animation.height = 1; });
+    AppendFrame(made.document, PictureOf(1, 1, {0x80FF0000}), "soft");
+    EXPECT_EQ(ShownInFile(made.Save())[0].pixels, (ShownPixels{0xFF80007F}));
+}
+
+TEST(FaithfulGifSave, ExactColorsStayWhatTheyAre) {
+    constexpr uint32 kRare = 0xFF20807F;
+    for (const bool joint : {false, true}) {
+        FaithfulDocument made;
+        made.prefs.animation_jointcolors = joint;
+        made.document.Change([](Animation& animation) { animation.width = animation.height = 64; });
+        std::vector<uint32> argb;
+        for (uint32 i = 0; i < 4096; ++i)
+            argb.push_back(0xFF000000 | i << 10 | (i * 7919 & 0xFF));
+        argb[2000] = kRare;
+        AppendFrame(made.document, PictureOf(64, 64, argb), "many");
+        const auto saved = [&] { return ShownInFile(made.Save())[0].pixels[2000]; };
+        EXPECT_NE(saved(), kRare);
+        made.prefs.animation_exactcolors = "#ffffff nonsense #20807f";
+        EXPECT_EQ(saved(), kRare);
+    }
 }
 
 TEST(FaithfulGifSave, TellsHowNearFramesOfManyColorsAre) {

@@ -12,7 +12,8 @@ namespace {
 class Planner : public testing::Test {
   protected:
     explicit Planner(int32 width = 8)
-        : screen_(width, 1, AlphaMatte()), reducer_(screen_, AdaptiveDither::kNone, {}, work_) {}
+        : screen_(width, 1, AlphaMatte()),
+          reducer_(screen_, {.dither = AdaptiveDither::kNone}, work_) {}
 
     void Add(const std::string& row, int32 delay = 10) {
         FrameToPlan frame;

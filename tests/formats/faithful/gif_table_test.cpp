@@ -71,6 +71,24 @@ TEST(GlobalTable, LeavesOutImagesThatItHasNoRoomFor) {
     EXPECT_NE(table.IndexOf(2000), GifTable::kNone);
 }
 
+TEST(GlobalTable, HasTheColorsOfSmallImagesFirstWhereThatTakesFewerBits) {
+    // Nothing is common but to the large ones.
+    const GifTable table =
+        ChooseGlobalTable({PlanOf(Keys(0, 200)), PlanOf(Keys(0, 200)), PlanOf(Keys(500, 4))}, {});
+    for (uint32 i = 0; i < 4; ++i)
+        EXPECT_LT(table.IndexOf(500 + i), 4);
+}
+
+TEST(GlobalTable, LeavesOutThoseWhoseOwnTablesTakeLeast) {
+    const GifTable table =
+        ChooseGlobalTable({PlanOf(Keys(0, 200)), PlanOf(Keys(1000, 70)), PlanOf(Keys(2000, 70)),
+                           PlanOf(Keys(3000, 70)), PlanOf(Keys(4000, 40))},
+                          {});
+    EXPECT_EQ(table.IndexOf(0), GifTable::kNone);
+    for (const uint32 first : {1000U, 2000U, 3000U, 4000U})
+        EXPECT_NE(table.IndexOf(first), GifTable::kNone) << first;
+}
+
 TEST(GlobalTable, IsTheGivenOneWhereThereIsOne) {
     const std::vector<rgb_color> given = {{1, 2, 3, 255}, {4, 5, 6, 255}};
     const GifTable table = ChooseGlobalTable({PlanOf({9})}, given);

@@ -142,6 +142,9 @@ const std::vector<std::string> kViews = {
     "BRadioButton animation_pattern "
     "[Dithered so that what stands still does not flicker] pwcp",
     "BCheckBox animation_jointcolors [In the same colors for all frames] pwcj",
+    "BTextControl animation_exactcolors [Keep these colors:] pwce",
+    "BTextControl animation_matte [Lay soft edges on:] pwcm",
+    "BTextControl animation_threshold [Transparent below alpha:] pwct",
     "BottomView BottomView",
     "BButton SaveButton [Save] pwsa",
     "BButton CancelButton [Cancel] pwca",

@@ -60,6 +60,9 @@ const Change kChanges[] = {
     {"animation_nodithering", nullptr, "animation_dithering", "0"},
     {"animation_pattern", nullptr, "animation_dithering", "2"},
     {"animation_jointcolors", nullptr, "animation_jointcolors", "true"},
+    {"animation_exactcolors", "#ff0000, #00FF7f", "animation_exactcolors", "#ff0000, #00FF7f"},
+    {"animation_matte", "#0000fF", "animation_matte", "255"},
+    {"animation_threshold", "1", "animation_threshold", "1"},
 };
 
 // A value of each setting that is not the built-in one.
@@ -94,6 +97,8 @@ constexpr std::pair<const char*, const char*> kOtherValues[] = {
     {"animation_dithering", "7"},
     {"animation_jointcolors", "true"},
     {"animation_matte", "255"},
+    {"animation_threshold", "7"},
+    {"animation_exactcolors", "#123456"},
 };
 
 void Set(Prefs* prefs, const char* key, const char* value) {
@@ -206,6 +211,35 @@ TEST_F(PreferencesWindowTest, AnEditThatWasNotCheckedYetIsCheckedBeforeItIsSaved
     EXPECT_THAT(alerts.Lines(), ElementsAre("WARNING [] This value can't be less than 0. | OK"));
     EXPECT_EQ(Saved().global_width, 0);
     EXPECT_TRUE(window.isNull());
+}
+
+TEST_F(PreferencesWindowTest, WhatIsNoColorIsRefused) {
+    prefs.animation_matte = 0x00FF80;
+    prefs.animation_exactcolors = "#010203";
+    Open();
+    EXPECT_EQ(TextOf("animation_matte"), "#00ff80");
+
+    Enter("animation_matte", "red");
+    Enter("animation_exactcolors", "#010203 #12");
+
+    EXPECT_THAT(alerts.Lines(),
+                ElementsAre("WARNING [] You must enter a color as #rrggbb. | OK",
+                            "WARNING [] You must enter colors as #rrggbb, with blanks between "
+                            "them. | OK"));
+    EXPECT_EQ(TextOf("animation_matte"), "#00ff80");
+    EXPECT_EQ(TextOf("animation_exactcolors"), "#010203");
+}
+
+TEST_F(PreferencesWindowTest, ASwatchShowsTheColorThatIsTyped) {
+    prefs.animation_faithful = true;
+    Open();
+    window->ShowTab("Compatibility");
+    Type("animation_matte", "#3060c0");
+    HandleEvents();
+    auto* swatch = window->findChild<QWidget*>("animation_matteswatch");
+    ASSERT_NE(swatch, nullptr);
+    const QImage image = swatch->grab().toImage();
+    EXPECT_EQ(image.pixelColor(image.width() / 2, image.height() / 2), QColor(0x30, 0x60, 0xC0));
 }
 
 TEST_F(PreferencesWindowTest, FieldsDependOnTheirBoxOrRadioButton) {
