@@ -168,7 +168,8 @@ TEST(IndexPainter, CountsOfCountedStripsFollowWhatIsPaintedOverThem) {
         part.left = static_cast<int32>(random() % 90);
         part.width = 10;
         part.height = 64;
-        picture = painter.Paint(picture, part);
+        const auto before = picture;
+        picture = painter.Paint(before, part);
         for (const auto& strip : picture->AllStrips()) {
             const auto expected = CountedAnew(*strip, 100);
             const auto actual = strip->Counts();

@@ -111,20 +111,20 @@ ImageArea FrameWriter::AreaOf(const FramePlan& plan) const {
 FrameWriter::Encoding FrameWriter::Smallest(const FramePlan& plan, const ImageArea& area) {
     Encoding best;
     int32 bits = kAnyBits;
-    for (TableUse& use : GlobalUses(layout_.global_table, plan, area)) {
+    for (const TableUse& use : GlobalUses(layout_.global_table, plan, area)) {
         bits = std::min(bits, use.bits);
-        Compress(area, std::move(use), &best);
+        Compress(area, use, &best);
     }
     if (best.data.empty() || best.Size() >= kWorthOwnTable) {
-        for (TableUse& use : LocalUses(plan, area, bits))
-            Compress(area, std::move(use), &best);
+        for (const TableUse& use : LocalUses(plan, area, bits))
+            Compress(area, use, &best);
     }
     Refine(area, &best);
     return best;
 }
 
 // Takes the place of the best where it is smaller.
-void FrameWriter::Compress(const ImageArea& area, TableUse use, Encoding* best) {
+void FrameWriter::Compress(const ImageArea& area, const TableUse& use, Encoding* best) {
     for (Drawing& drawing : DrawingsOf(area, use)) {
         ChoiceLzwEncoder::Limits limits;
         if (!best->data.empty()) limits = {best->data.size(), &best->pace};

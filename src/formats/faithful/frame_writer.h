@@ -48,7 +48,7 @@ class FrameWriter {
     void WriteSource(const FramePlan& plan, ByteWriter* bytes) const;
     ImageArea AreaOf(const FramePlan& plan) const;
     Encoding Smallest(const FramePlan& plan, const ImageArea& area);
-    void Compress(const ImageArea& area, TableUse use, Encoding* best);
+    void Compress(const ImageArea& area, const TableUse& use, Encoding* best);
     static ChoiceLzwEncoder::Image ImageOf(const ImageArea& area, const Encoding& encoding);
     void Refine(const ImageArea& area, Encoding* best);
 

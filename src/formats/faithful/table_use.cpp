@@ -139,7 +139,7 @@ std::vector<TableUse> GlobalUses(const GifTable& table, const FramePlan& plan,
                                  const ImageArea& area) {
     std::vector<TableUse> uses;
     if (plan.skips && Serves(table, plan)) uses.push_back(GlobalSkippingUse(table, plan));
-    if (std::optional<TableUse> plain = PlainUse(table, area)) uses.push_back(std::move(*plain));
+    if (std::optional<TableUse> plain = PlainUse(table, area)) uses.push_back(*plain);
     return uses;
 }
 
@@ -150,7 +150,7 @@ std::vector<TableUse> LocalUses(const FramePlan& plan, const ImageArea& area, in
     const std::vector<ColorValues::Item> skipped = Skipped(area.keys, area.skippable);
     if (plan.skips && BitsFor(colors) < below) uses.push_back(LocalSkippingUse(plan, skipped));
     std::optional<TableUse> plain = LocalPlainUse(plan, area, skipped);
-    if (plain && plain->bits < below) uses.push_back(std::move(*plain));
+    if (plain && plain->bits < below) uses.push_back(*plain);
     return uses;
 }
 
