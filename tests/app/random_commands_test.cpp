@@ -217,6 +217,11 @@ class RandomCommands : public KirtoFixture, public ::testing::WithParamInterface
         if (choices_.OneIn(2)) message.AddInt32("position", choices_.Between(-3, 12));
         if (!choices_.OneIn(10)) message.AddBool("reset", choices_.OneIn(10));
         message.AddInt32("count", choices_.Between(-1, 3));
+        if (choices_.OneIn(3)) message.AddInt32("tile_width", choices_.Between(-1, 2));
+        if (choices_.OneIn(3)) message.AddInt32("tile_height", choices_.Between(0, 2));
+        if (choices_.OneIn(3)) message.AddInt32("margin", choices_.Between(-1, 1));
+        if (choices_.OneIn(3)) message.AddInt32("spacing", choices_.Between(-1, 1));
+        message.AddBool("skip_empty", choices_.OneIn(3));
         message.AddInt32("color", static_cast<int32>(choices_.Below(1u << 31)));
         return message;
     }
@@ -225,8 +230,18 @@ class RandomCommands : public KirtoFixture, public ::testing::WithParamInterface
         if (choices_.OneIn(3)) return BMessage(kPreview);
         if (choices_.OneIn(3)) return BMessage(kSaveAgain);
         if (choices_.OneIn(3)) return StoringCommand();
+        if (choices_.OneIn(2)) return SheetCommand();
         return SaveTo(choices_.OneIn(8) ? File("missing") : folder_.Path(), "out.gif",
                       choices_.Between(0, FakeRoster::kReadOnly));
+    }
+
+    BMessage SheetCommand() {
+        BMessage message = SaveTo(folder_.Path(), "sheet.raw", choices_.Between(0, 2));
+        message.what = kSaveSheet;
+        message.AddInt32("columns", choices_.Between(-1, 3));
+        message.AddInt32("padding", choices_.Between(-1, 3));
+        message.AddBool("power_of_two", choices_.OneIn(2));
+        return message;
     }
 
     BMessage StoringCommand() {
