@@ -108,7 +108,7 @@ std::vector<uint8> PackAsGif(const DocumentState& state) {
 void PasteFrames(AnimationDocument& document, const BMessage& message, BTranslatorRoster& roster) {
     std::string_view bytes;
     std::string type;
-    if (message.FindData("bytes", kBytesType, 0, &bytes) != B_OK) return;
+    if (message.FindData("bytes", B_RAW_TYPE, 0, &bytes) != B_OK) return;
     if (message.FindString("type", &type) != B_OK) return;
     const std::unique_ptr<BFile> file = BFile::OnMemory({bytes.begin(), bytes.end()});
     const int32 position = PositionIn(message, document);

@@ -15,9 +15,6 @@ namespace kirto {
 inline constexpr const char* kFramesType = "application/x-kirto-frames";
 inline constexpr const char* kGifType = "image/gif";
 
-// Of the field "bytes" of kPasteFrames.
-inline constexpr type_code kBytesType = FourCharCode("RAWT");
-
 // These may be called on any thread.
 
 // The selected frames of the state, with all that belongs to them. Empty without frames, and when

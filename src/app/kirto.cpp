@@ -90,6 +90,12 @@ const Kirto::Command* Kirto::CommandFor(uint32 code) {
         {kirto::kRedo, [](Kirto& app, BMessage*) { app.Redo(); }, kUpdateAll, kEdit},
         {kirto::kUndoOpening, [](Kirto& app, BMessage*) { app.UndoOpening(); }, kUpdateAll, kEdit},
         {kirto::kSaveChecked, [](Kirto& app, BMessage*) { app.TellOfCheckedSave(); }, kNothing},
+        {kirto::kScaleLargerFrames,
+         [](Kirto& app, BMessage*) { app.FitLargerFrames(kirto::Fit::kScale); }, kUpdateAll, kEdit,
+         "Fit Frames"},
+        {kirto::kCropLargerFrames,
+         [](Kirto& app, BMessage*) { app.FitLargerFrames(kirto::Fit::kCrop); }, kUpdateAll, kEdit,
+         "Fit Frames"},
         {kirto::kSaveFaithfully, [](Kirto& app, BMessage*) { app.SaveFaithfully(); }, kUpdateAll},
         {kirto::kCloseNotice, [](Kirto& app, BMessage*) { app.CloseNotice(); }, kNothing},
         {kirto::kPreview, [](Kirto& app, BMessage*) { app.Preview(); }, kUpdateAll},
@@ -233,6 +239,8 @@ void Kirto::CarryOut(BMessage* message) {
         IEApplication::MessageReceived(message);
     }
     EndStep(command ? command->step : NameOfEdit(message->what));
+    const bool of_canvas = message->what == kirto::kSetWidth || message->what == kirto::kSetHeight;
+    if (of_canvas || notices_.Shown() == kirto::Notices::Kind::kLarger) TellOfLargerFrames();
     if (command && command->refresh != 0) PostToWindow(command->refresh);
     if (kirto::PictureEditName(message->what)) PostToWindow(kirto::kUpdateAll);
 }

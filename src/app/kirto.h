@@ -15,6 +15,7 @@
 #include "base/file_stamp.h"
 #include "document/animation_document.h"
 #include "effects/images_ahead.h"
+#include "effects/pictures/fit_edit.h"
 #include "kit/translator_roster.h"
 #include "resources/ie_application.h"
 
@@ -132,6 +133,9 @@ class Kirto : public IEApplication, public AnimationDocument, public kirto::File
     // The translator's first format that is a file format; 0 without one.
     uint32 FileFormat(translator_id translator) const;
     void EndWork();
+    // Frames larger than the canvas (kirto_fitting.cpp).
+    void TellOfLargerFrames();
+    void FitLargerFrames(kirto::Fit fit);
     void SayWhatDiffers(const kirto::Animation& animation, const std::string& loss);
     void SayCanceled(int32 frames_before);
     void InsertAnimations(const BMessage& message);

@@ -1,5 +1,6 @@
 #include "app/notices.h"
 
+#include "base/text.h"
 #include "document/command_codes.h"
 
 namespace kirto {
@@ -8,6 +9,11 @@ void Notices::ShowOpened(bool inserted) {
     Show(inserted ? Kind::kInserted : Kind::kOpened,
          "Opened as browsers do. Animations are read and saved that way from now on.",
          {{"Undo", kUndoOpening}, {"Close", kCloseNotice}});
+}
+
+void Notices::ShowLarger(int32 frames) {
+    Show(Kind::kLarger, Format("%d frame(s) are larger than the animation.", frames),
+         {{"Scale", kScaleLargerFrames}, {"Crop", kCropLargerFrames}, {"Close", kCloseNotice}});
 }
 
 void Notices::ShowDifferences(const SaveDifferences& differences) {
@@ -34,6 +40,10 @@ void Notices::Show(Kind kind, const std::string& text, const std::vector<Button>
 void Notices::Hide() {
     if (shown_ != Kind::kNone) document_.PostToWindow(kHideNotice);
     shown_ = Kind::kNone;
+}
+
+void Notices::HideLarger() {
+    if (shown_ == Kind::kLarger) Hide();
 }
 
 void Notices::HideOpened() {

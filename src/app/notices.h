@@ -17,6 +17,7 @@ class Notices {
         kNone,
         kOpened,    // an animation took the document's place
         kInserted,  // one was inserted
+        kLarger,    // frames are larger than the canvas
         kSaved      // a saved file shows something else than the window
     };
 
@@ -28,10 +29,14 @@ class Notices {
 
     // An animation was opened as browsers do, which can be undone.
     void ShowOpened(bool inserted);
+    // So many frames are larger than the canvas, which may be mended.
+    void ShowLarger(int32 frames);
     void ShowDifferences(const SaveDifferences& differences);
     void Hide();
     // Once something else has changed, the opening can't be undone.
     void HideOpened();
+    // Once no frame is larger any more.
+    void HideLarger();
 
   private:
     struct Button {

@@ -76,6 +76,7 @@ std::string StatusText(status_t status);
 
 }  // namespace kirto
 
+inline constexpr type_code B_RAW_TYPE = kirto::FourCharCode("RAWT");  // bytes of any meaning
 inline constexpr type_code B_INT32_TYPE = kirto::FourCharCode("LONG");
 inline constexpr type_code B_INT64_TYPE = kirto::FourCharCode("LLNG");
 inline constexpr type_code B_BOOL_TYPE = kirto::FourCharCode("BOOL");

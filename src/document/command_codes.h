@@ -41,8 +41,11 @@ inline constexpr uint32 kHideNotice = FourCharCode("anth");
 // A notice's buttons to main window, which passes them on to the application but for the last. No
 // fields.
 inline constexpr uint32 kCloseNotice = FourCharCode("wntc");
-inline constexpr uint32 kUndoOpening = FourCharCode("auop");      // of an animation, as browsers do
-inline constexpr uint32 kSaveFaithfully = FourCharCode("asvf");   // to the current file
+inline constexpr uint32 kUndoOpening = FourCharCode("auop");     // of an animation, as browsers do
+inline constexpr uint32 kSaveFaithfully = FourCharCode("asvf");  // to the current file
+// Makes the frames that are larger than the canvas fit it.
+inline constexpr uint32 kScaleLargerFrames = FourCharCode("apsl");
+inline constexpr uint32 kCropLargerFrames = FourCharCode("apcl");
 inline constexpr uint32 kShowDifferences = FourCharCode("wsdf");  // in a window
 
 // Application to itself: a save was found to show something else than the window. No fields.
@@ -185,6 +188,7 @@ inline constexpr uint32 kMenuSetPause = FourCharCode("wspa");
 inline constexpr uint32 kMenuDropEvery = FourCharCode("wdev");
 inline constexpr uint32 kMenuRemoveDuplicates = FourCharCode("wrdu");
 inline constexpr uint32 kMenuMoveTo = FourCharCode("wmvt");
+inline constexpr uint32 kMenuExportSheet = FourCharCode("wpsh");
 inline constexpr uint32 kMenuResize = FourCharCode("wprs");
 inline constexpr uint32 kMenuCrop = FourCharCode("wpcr");
 inline constexpr uint32 kMenuCanvasSize = FourCharCode("wpcs");

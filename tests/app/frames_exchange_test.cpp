@@ -24,7 +24,7 @@ class FramesExchange : public KirtoFixture {
     void Paste(const char* type, const std::vector<uint8>& bytes, int32 position = -1) {
         BMessage message(kPasteFrames);
         message.AddString("type", type);
-        message.AddData("bytes", kBytesType, bytes.data(), bytes.size());
+        message.AddData("bytes", B_RAW_TYPE, bytes.data(), bytes.size());
         if (position >= 0) message.AddInt32("position", position);
         app_->MessageReceived(&message);
     }

@@ -133,3 +133,25 @@ class Arranging(EditorTest):
         info = self.info(path)
         self.assertLess(info["global_width"], 80)
         wait_until(lambda: info["frames"][0]["width"] == info["global_width"], "the frames to fit")
+
+    def test_makes_a_small_animation_of_numbered_pictures_by_keyboard(self):
+        colors = [TEN[i % 4] for i in range(30)]
+        # As a file manager would hand them over that does not count.
+        pictures = sorted(str(self.picture(color, str(i + 1))) for i, color in enumerate(colors))
+        editor = self.start_editor()
+        self.key("ctrl+i")
+        editor.name_file("Insert Frames", *pictures)
+        self.strokes += 2
+        editor.wait_for_status(30, modified=True)
+        self.key("alt+a", "r")
+        self.in_dialog("Resize Animation", "480")
+        self.key("ctrl+l")
+        self.in_dialog("Set Pause", "15fps")
+        editor.wait_for_label("2.00 s, 15 fps")
+        self.assertLessEqual(self.strokes, 10)
+        path = self.folder / "small.gif"
+        editor.save_as(path)
+        info = self.info(path)
+        self.assertEqual((info["global_width"], info["global_height"]), (480, 360))
+        self.assertEqual([frame["name"] for frame in info["frames"]][:1], ["frame0000"])
+        self.assertEqual(self.colors(path), colors)

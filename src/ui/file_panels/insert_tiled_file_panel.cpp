@@ -1,11 +1,13 @@
 #include "ui/file_panels/insert_tiled_file_panel.h"
 
+#include <QCheckBox>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
 #include <QRegularExpressionValidator>
 
+#include "base/number.h"
 #include "document/command_codes.h"
 #include "ui/file_panels/image_filter.h"
 
@@ -88,6 +90,47 @@ void InsertTiledFilePanel::Prepare(kirto::FileDialog& dialog) {
     layout->addWidget(MakeLabelFor(columns, "Columns:", controls), 1, 0);
     layout->addWidget(columns, 1, 1);
     layout->addWidget(by_column, 1, 2);
-    layout->setColumnStretch(2, 1);
+    AddTileFields(*layout, controls);
+    layout->setColumnStretch(4, 1);
     dialog.AddRow(controls);
+}
+
+void InsertTiledFilePanel::AddTileFields(QGridLayout& layout, QWidget* controls) {
+    const auto add = [&](const char* name, const char* label, const char* tip, std::string* text,
+                         int row, int column) {
+        QLineEdit* field = MakeNumberField(name, text, controls);
+        field->setToolTip(tip);
+        layout.addWidget(MakeLabelFor(field, label, controls), row, column);
+        layout.addWidget(field, row, column + 1);
+    };
+    constexpr const char* kTileTip =
+        "Size of a tile in pixels, in place of rows and columns; 0: by rows and columns";
+    add("TileWidth", "Tile width:", kTileTip, &tile_width_, 2, 0);
+    add("TileHeight", "Tile height:", kTileTip, &tile_height_, 2, 2);
+    add("Margin", "Margin:", "Pixels around all tiles", &margin_, 3, 0);
+    add("Spacing", "Spacing:", "Pixels between two tiles", &spacing_, 3, 2);
+    auto* skip = new QCheckBox("Skip empty tiles", controls);
+    skip->setObjectName("SkipEmpty");
+    skip->setToolTip("Makes no frames of tiles that are transparent everywhere");
+    skip->setChecked(skip_empty_);
+    QObject::connect(skip, &QCheckBox::toggled, [this](bool on) {
+        const std::lock_guard lock(mutex_);
+        skip_empty_ = on;
+    });
+    layout.addWidget(skip, 4, 0, 1, 4);
+}
+
+BMessage InsertTiledFilePanel::CommandFor(const QStringList& files) const {
+    BMessage command = OpenFilePanel::CommandFor(files);
+    const std::lock_guard lock(mutex_);
+    const auto add = [&command](const char* name, const std::string& text) {
+        const int32 number = kirto::LeadingInteger(text);
+        if (number > 0) command.AddInt32(name, number);
+    };
+    add("tile_width", tile_width_);
+    add("tile_height", tile_height_);
+    add("margin", margin_);
+    add("spacing", spacing_);
+    if (skip_empty_) command.AddBool("skip_empty", true);
+    return command;
 }

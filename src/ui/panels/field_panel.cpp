@@ -3,6 +3,7 @@
 #include <QAbstractItemView>
 #include <algorithm>
 
+#include "animation/pauses.h"
 #include "document/new_animation.h"
 #include "ui/controls/check_input.h"
 
@@ -46,6 +47,25 @@ TextControl* FieldPanel::AddNumber(uint32 command, const char* tip, QCheckBox* b
     return number;
 }
 
+void FieldPanel::AddPauseText() {
+    pause_text_ = MakeLabel("PauseText", "", this);
+    pause_text_->setAlignment(Qt::AlignRight);
+    pause_text_->setAccessibleDescription("What the pause is in other units");
+    rows_->AddWide(pause_text_);
+}
+
+// Of the frame that is shown, or of those without a pause of their own.
+void FieldPanel::ShowPause(const Animation& animation) {
+    const FramePointer frame = animation.CurrentFrame();
+    double pause = animation.use_pause ? animation.pause_length : 0;
+    if (ShowsFrame()) pause = frame ? animation.PauseOf(*frame) : 0;
+    const double milliseconds =
+        pause * 1000 / PauseUnitsPerSecond(shown_.Settings().global_pauseinseconds);
+    QString text = QString("%1 ms").arg(milliseconds, 0, 'g', 6);
+    if (milliseconds > 0) text += QString(", %1 fps").arg(1000 / milliseconds, 0, 'g', 3);
+    kirto::ShowText(*pause_text_, text);
+}
+
 QCheckBox* FieldPanel::MakeSwitch(uint32 command, const char* tip, const char* label) {
     const Field* field = FieldOf(command);
     QCheckBox* box = MakeCheckBox(field->name, label ? label : field->name, command, window_, this);
@@ -71,6 +91,7 @@ void FieldPanel::ResetDisplay() {
 }
 
 void FieldPanel::Show(const Animation& animation, bool end_edits) {
+    if (pause_text_) ShowPause(animation);
     const bool has_frame = animation.CurrentFrame() != nullptr;
     for (const Row& row : fields_) {
         const Field::Value value = row.field->In(animation);

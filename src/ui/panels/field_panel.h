@@ -41,6 +41,8 @@ class FieldPanel : public QGroupBox {
                            QCheckBox* box = nullptr);
     // Behind the box that switches it.
     TextControl* AddNumber(uint32 command, const char* tip, QCheckBox* box);
+    // A line for what the pause is in milliseconds and frames per second.
+    void AddPauseText();
     // Not placed yet. Without a label it is the field's name.
     QCheckBox* MakeSwitch(uint32 command, const char* tip, const char* label = nullptr);
     // Not placed yet. Of the kinds of palette, of which the panel has one menu.
@@ -71,6 +73,9 @@ class FieldPanel : public QGroupBox {
     const ShownDocument& shown_;
     BMessenger window_;
     PanelLayout* rows_;
+    void ShowPause(const Animation& animation);
+
+    QLabel* pause_text_ = nullptr;       // null if there is none
     QComboBox* palette_menu_ = nullptr;  // null if there is none
     std::vector<Row> fields_;
 };

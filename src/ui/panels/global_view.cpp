@@ -10,6 +10,7 @@ GlobalView::GlobalView(const kirto::ShownDocument& shown, const BMessenger& wind
                        "Use pause:");
     pause_length = AddNumber(kirto::kSetPauseLength,
                              "Length of the pause, in the unit chosen in the preferences", pause);
+    AddPauseText();
     loop = MakeSwitch(kirto::kUseLoop, "Play the animation more than once", "Use loop:");
     loop_count =
         AddNumber(kirto::kSetLoopCount, "How many times to play the animation; 0 = forever", loop);

@@ -42,6 +42,7 @@ void LocalView::AddFields() {
     pause_length = AddNumber(kirto::kFrameSetPauseLength,
                              "Length of the frame's pause, in the unit chosen in the preferences",
                              "Length:", pause);
+    AddPauseText();
     palette = MakeSwitch(kirto::kFrameUsePalette, "Save the frame with a palette of its own",
                          "Local palette");
     palette_menu =

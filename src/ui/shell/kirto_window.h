@@ -126,6 +126,7 @@ class KirtoWindow : public QMainWindow, public BWindow {
     void InsertTiled(BMessage* message);
     void FadeEffects(BMessage* message);
     void InsertAnimation(BMessage* message);
+    void ExportSheet(BMessage* message);
     void ChooseFrames(BMessage* message);
     void UseClipboard(BMessage* message);
     void Forward(BMessage* message);

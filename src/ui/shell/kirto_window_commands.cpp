@@ -8,6 +8,7 @@
 #include "document/command_codes.h"
 #include "kit/alert.h"
 #include "ui/dialogs/fade_window.h"
+#include "ui/dialogs/sheet_dialog.h"
 #include "ui/panels/field_panel.h"
 #include "ui/panels/notice_bar.h"
 #include "ui/panels/status_view.h"
@@ -44,6 +45,8 @@ const KirtoWindow::Command* KirtoWindow::CommandFor(uint32 code) {
         {kirto::kShowDifferences, &KirtoWindow::Notice},
         {kirto::kUndoOpening, &KirtoWindow::Forward},
         {kirto::kSaveFaithfully, &KirtoWindow::Forward},
+        {kirto::kScaleLargerFrames, &KirtoWindow::Forward},
+        {kirto::kCropLargerFrames, &KirtoWindow::Forward},
         {kirto::kMenuNew, &KirtoWindow::New},
         {kirto::kMenuOpen, &KirtoWindow::Open},
         {kirto::kMenuSave, &KirtoWindow::Save},
@@ -60,6 +63,7 @@ const KirtoWindow::Command* KirtoWindow::CommandFor(uint32 code) {
         {kirto::kMenuCut, &KirtoWindow::UseClipboard},
         {kirto::kMenuCopy, &KirtoWindow::UseClipboard},
         {kirto::kMenuPaste, &KirtoWindow::UseClipboard},
+        {kirto::kMenuExportSheet, &KirtoWindow::ExportSheet},
         {kirto::kMenuSelectAll, &KirtoWindow::ChooseFrames},
         {kirto::kMenuSelectNone, &KirtoWindow::ChooseFrames},
         {kirto::kMenuInvertSelection, &KirtoWindow::ChooseFrames},
@@ -298,6 +302,14 @@ void KirtoWindow::FadeEffects(BMessage*) {
     place.moveCenter(QGuiApplication::primaryScreen()->geometry().center());
     window->move(place.topLeft());
     window->show();
+}
+
+void KirtoWindow::ExportSheet(BMessage*) {
+    if (!shown_.CurrentFrame()) return;
+    kirto::AskForSheet(shown_.Current(), editor_.roster, this,
+                       [application = editor_.application](const BMessage& command) {
+                           application.SendMessage(command);
+                       });
 }
 
 void KirtoWindow::ChooseFrames(BMessage* message) {

@@ -69,6 +69,7 @@ constexpr Item kFrameItems[] = {
 
 constexpr Item kAnimationItems[] = {
     {"&Insert Animation...", 0, kMenuInsertAnimation},
+    {"E&xport Sheet...", 0, kMenuExportSheet, true},
     {},
     {"Set &Pause...", 'L', kMenuSetPause, true},
     {},

@@ -31,7 +31,7 @@ std::optional<BMessage> Pasting(const char* type, const QByteArray& bytes) {
     if (bytes.isEmpty()) return std::nullopt;
     BMessage command(kPasteFrames);
     command.AddString("type", type);
-    command.AddData("bytes", kBytesType, bytes.constData(), static_cast<size_t>(bytes.size()));
+    command.AddData("bytes", B_RAW_TYPE, bytes.constData(), static_cast<size_t>(bytes.size()));
     return command;
 }
 

@@ -12,8 +12,10 @@
 #include <gtest/gtest.h>
 
 #include "document/command_codes.h"
+#include "support/fake_roster.h"
 #include "ui/controls/picture_area.h"
 #include "ui/dialogs/picture_area_dialogs.h"
+#include "ui/dialogs/sheet_dialog.h"
 #include "ui/thumbnails/frame_area_fixture.h"
 #include "ui/widget_tools.h"
 
@@ -200,6 +202,38 @@ TEST_F(PictureDialogs, OverlayOnlyAFileThatIsThere) {
     EXPECT_EQ(received.what, kOverlayImage);
     EXPECT_EQ(received.FindRef("refs", &ref), B_OK);
     EXPECT_EQ(Number("x"), -3);
+}
+
+// Whatever it is asked for, it writes PNG files.
+struct PngRoster : FakeRoster {
+    std::vector<translation_format> OutputFormats(translator_id) const override {
+        return {{1, "image/png", "PNG image", {"png"}}};
+    }
+};
+
+TEST_F(PictureDialogs, ExportASheetToAnAbsolutePlace) {
+    const PngRoster roster;
+    AskForSheet(animation, roster, &parent, receive);
+    Find<QLineEdit>("File").setText("sheet.png");
+    EXPECT_FALSE(Ok().isEnabled());
+    Find<QLineEdit>("File").setText("/some/sheet.png");
+    Find<QSpinBox>("Padding").setValue(2);
+    Ok().click();
+
+    std::string name;
+    EXPECT_EQ(received.what, kSaveSheet);
+    EXPECT_EQ(received.FindString("name", &name), B_OK);
+    EXPECT_EQ(name, "sheet.png");
+    EXPECT_EQ(Number("columns"), 0);
+    EXPECT_EQ(Number("padding"), 2);
+}
+
+TEST_F(PictureDialogs, ExportNoSheetWithoutAWriterOfPngFiles) {
+    const FakeRoster roster;
+    AskForSheet(animation, roster, &parent, receive);
+    Find<QLineEdit>("File").setText("/some/sheet.png");
+
+    EXPECT_FALSE(Ok().isEnabled());
 }
 
 TEST_F(PictureDialogs, SayWhichFramesTheyWorkOn) {

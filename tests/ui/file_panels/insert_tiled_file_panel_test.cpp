@@ -1,5 +1,6 @@
 #include "ui/file_panels/insert_tiled_file_panel.h"
 
+#include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
@@ -88,6 +89,29 @@ TEST_F(InsertTiledFilePanelTest, SendsTheChosenFileAndThenThatItClosed) {
     EXPECT_EQ(application->Transcript(), "aitp _CNC");
     EXPECT_EQ(Refs(Sent(0)), std::vector<std::string>{folder.File("a.raw")});
     EXPECT_TRUE(IsClosing(Sent(1)));
+}
+
+TEST_F(InsertTiledFilePanelTest, SendsWhatElseSaysHowItIsCut) {
+    AddFile("a.raw");
+    Show(FilePanelKind::kInsertTiled);
+    Type("TileWidth", "64");
+    Type("TileHeight", "48");
+    Type("Spacing", "2");
+    Named<QCheckBox>(*Dialog(), "SkipEmpty")->click();
+
+    Choose("a.raw");
+
+    int32 number = 0;
+    bool skip = false;
+    EXPECT_EQ(Sent(0).FindInt32("tile_width", &number), B_OK);
+    EXPECT_EQ(number, 64);
+    EXPECT_EQ(Sent(0).FindInt32("tile_height", &number), B_OK);
+    EXPECT_EQ(number, 48);
+    EXPECT_EQ(Sent(0).FindInt32("spacing", &number), B_OK);
+    EXPECT_EQ(number, 2);
+    EXPECT_FALSE(Sent(0).HasField("margin"));
+    EXPECT_EQ(Sent(0).FindBool("skip_empty", &skip), B_OK);
+    EXPECT_TRUE(skip);
 }
 
 TEST_F(InsertTiledFilePanelTest, KeepsItsFieldsWhenItsParentGoes) {

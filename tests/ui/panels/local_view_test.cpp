@@ -205,6 +205,18 @@ TEST_F(LocalViewTest, ShowsTheModeWithoutSendingIt) {
     EXPECT_EQ(port->Transcript(), "");
 }
 
+TEST_F(LocalViewTest, TellsThePauseInOtherUnits) {
+    const FrameHandle frame = AddFrame();
+    frame->use_pause = true;
+    frame->pause_length = 4;
+    Update();
+    EXPECT_EQ(panel.findChild<QLabel*>("PauseText")->text(), "40 ms, 25 fps");
+
+    frame->pause_length = 0;
+    Update();
+    EXPECT_EQ(panel.findChild<QLabel*>("PauseText")->text(), "0 ms");
+}
+
 TEST_F(LocalViewTest, ShowsWhereSelectedFramesDiffer) {
     AddFrame();
     const FrameHandle second = AddFrame();

@@ -213,7 +213,7 @@ TEST_F(MainMenu, DisablesWhatNeedsAFrameWithoutOne) {
 
     EXPECT_EQ(enabled(), without_frames);
     EnableFrameItems(*bar, true);
-    EXPECT_EQ(enabled().size(), 44u);
+    EXPECT_EQ(enabled().size(), 45u);
     EnableFrameItems(*bar, false);
     EXPECT_EQ(enabled(), without_frames);
 }
