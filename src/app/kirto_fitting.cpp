@@ -37,7 +37,7 @@ void Kirto::FitLargerFrames(kirto::Fit fit) {
     message.AddInt32("fit", static_cast<int32>(fit));
     message.AddInt32("filter", static_cast<int32>(kirto::ScaleFilter::kLanczos));
     last_word_ = kirto::ApplyPictureEdit(*this, message, roster_);
-    Change([&before](kirto::Animation& animation) {
+    AnimationDocument::Change([&before](kirto::Animation& animation) {
         animation.selected = before->selected;
         animation.several = before->several;
     });
