@@ -173,6 +173,27 @@ EditPointer Overlay(Request& request) {
                                          request.before->Selection());
 }
 
+constexpr int32 kMostFadingFrames = 1 << 20;
+
+EditPointer DrawText(Request& request) {
+    const auto x = request.Coordinate("x");
+    const auto y = request.Coordinate("y");
+    std::string_view bytes;
+    if (!x || !y || request.message.FindData("image", B_RAW_TYPE, 0, &bytes) != B_OK)
+        return nullptr;
+    const std::unique_ptr<BFile> file = BFile::OnMemory({bytes.begin(), bytes.end()});
+    const std::shared_ptr<PixelBudget>& budget = request.document.pixel_budget;
+    std::shared_ptr<BBitmap> bitmap;
+    const status_t status = request.roster.Translate(*file, budget, &bitmap);
+    if (status == B_NO_MEMORY) WarnOutOfMemory();
+    if (status != B_OK || !Is32Bit(bitmap->ColorSpace())) return nullptr;
+    OverlayFading fading;
+    fading.in = request.Number("fade_in", 0, kMostFadingFrames).value_or(0);
+    fading.out = request.Number("fade_out", 0, kMostFadingFrames).value_or(0);
+    return std::make_unique<OverlayEdit>(Picture::Of(std::move(bitmap), budget), *x, *y, fading,
+                                         *request.before, request.before->Selection());
+}
+
 struct PictureRow {
     uint32 code;
     const char* name;
@@ -191,6 +212,7 @@ constexpr PictureRow kPictureRows[] = {
     {kAdjustColors, "Adjust Colors", false, Adjust},
     {kSetOpacity, "Opacity", false, SetOpacity},
     {kOverlayImage, "Overlay Image", false, Overlay},
+    {kDrawText, "Text", false, DrawText},
     {kMakeTransparent, "Make Transparent", false, MakeTransparent},
 };
 

@@ -131,6 +131,8 @@ inline constexpr uint32 kAdjustColors = FourCharCode("apac");
 inline constexpr uint32 kSetOpacity = FourCharCode("apop");  // int32 "percent"
 // Ref "refs": an image file; int32 "x", "y", "percent".
 inline constexpr uint32 kOverlayImage = FourCharCode("apov");
+// Data "image", a PNG file; int32 "x", "y"; int32 "fade_in", "fade_out": frames, or none.
+inline constexpr uint32 kDrawText = FourCharCode("aptx");
 // Int32 "color" (red, green, blue from the top byte on), "tolerance": 0 to 255.
 inline constexpr uint32 kMakeTransparent = FourCharCode("apmt");
 
@@ -200,6 +202,7 @@ inline constexpr uint32 kMenuFitFrames = FourCharCode("wpft");
 inline constexpr uint32 kMenuAdjustColors = FourCharCode("wpac");
 inline constexpr uint32 kMenuOpacity = FourCharCode("wpop");
 inline constexpr uint32 kMenuOverlay = FourCharCode("wpov");
+inline constexpr uint32 kMenuText = FourCharCode("wptx");
 inline constexpr uint32 kMenuMakeTransparent = FourCharCode("wpmt");
 
 // Panels to main window. No fields; the window reads the control that sent the command.

@@ -149,6 +149,18 @@ TEST_F(PictureCommands, DrawAnImageOver) {
     ExpectOneStep("Overlay Image");
 }
 
+TEST_F(PictureCommands, DrawText) {
+    const std::vector<uint8> image = RawPicture(*PictureOf(1, 1, {0xFF102030}));
+    BMessage text = With(kDrawText, {{"x", 1}, {"y", 0}, {"fade_in", 0}, {"fade_out", 0}});
+    Carry(text);
+    EXPECT_EQ(app_->CurrentState()->undo_steps, 0) << "There is no image.";
+    text.AddData("image", B_RAW_TYPE, image.data(), image.size());
+    Carry(text);
+
+    EXPECT_EQ(PixelsOfFrame(0), (Pixels{0xFF000000, 0xFF102030}));
+    ExpectOneStep("Text");
+}
+
 TEST_F(PictureCommands, TellOfAnImageThatCanNotBeRead) {
     Write("notes.txt", {'n', 'o'});
     BMessage overlay = Files(kOverlayImage, {"notes.txt"});
@@ -208,7 +220,7 @@ TEST_F(PictureCommands, SayThatNothingHasChangedWhenStopped) {
 TEST_F(PictureCommands, AreChangesThatWindowsCount) {
     for (const uint32 code :
          {kResizeAnimation, kCropAnimation, kSetCanvasSize, kRotateAnimation, kFlipAnimation,
-          kFitFrames, kAdjustColors, kSetOpacity, kOverlayImage, kMakeTransparent}) {
+          kFitFrames, kAdjustColors, kSetOpacity, kOverlayImage, kDrawText, kMakeTransparent}) {
         EXPECT_EQ(Kirto::ChangeBy(code), Kirto::Change::kEdit);
     }
     EXPECT_EQ(PictureEditName(kReverseFrames), nullptr);

@@ -62,6 +62,12 @@ void PictureArea::ShowArea(const QRect& area) {
     update();
 }
 
+void PictureArea::ShowOverlay(const QImage& image, QPoint place) {
+    overlay_ = image;
+    overlay_place_ = place;
+    update();
+}
+
 void PictureArea::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const QRectF canvas = PlaceOf(Canvas());
@@ -72,6 +78,9 @@ void PictureArea::paintEvent(QPaintEvent*) {
         pictures.Draw(
             frame_->bitmap,
             RectOf(PlaceOf({frame_->x_offset, frame_->y_offset, frame_->width, frame_->height})));
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        if (!overlay_.isNull())
+            painter.drawImage(PlaceOf({overlay_place_, overlay_.size()}), overlay_);
         painter.setClipping(false);
     }
     if (pictures.WasCoarse()) update();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QImage>
 #include <QRect>
 #include <QWidget>
 #include <functional>
@@ -26,6 +27,8 @@ class PictureArea : public QWidget {
     void LetClick(Clicked clicked) { clicked_ = std::move(clicked); }
     // The rectangle that is shown; what lies outside is dimmed. Empty for none.
     void ShowArea(const QRect& area);
+    // An image over the frame, its first pixel there; null for none.
+    void ShowOverlay(const QImage& image, QPoint place);
     // Of rectangles that are drawn from now on, width to height; any without one.
     void KeepRatio(std::optional<double> ratio) { ratio_ = ratio; }
     // The canvas pixel there, which may be beside the canvas.
@@ -48,6 +51,8 @@ class PictureArea : public QWidget {
     const QSize canvas_;
     const FramePointer frame_;
     QRect area_;
+    QImage overlay_;
+    QPoint overlay_place_;
     Drawn drawn_;
     Clicked clicked_;
     std::optional<double> ratio_;

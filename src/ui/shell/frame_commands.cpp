@@ -6,6 +6,7 @@
 #include "ui/dialogs/frames_dialogs.h"
 #include "ui/dialogs/picture_area_dialogs.h"
 #include "ui/dialogs/picture_dialogs.h"
+#include "ui/dialogs/text_dialog.h"
 
 namespace kirto {
 
@@ -29,6 +30,7 @@ constexpr DialogRow kDialogs[] = {
     {kMenuAdjustColors, AskForColors},
     {kMenuOpacity, AskForOpacity},
     {kMenuOverlay, AskForOverlay},
+    {kMenuText, AskForText},
     {kMenuMakeTransparent, AskForTransparentColor},
 };
 

@@ -84,6 +84,7 @@ const KirtoWindow::Command* KirtoWindow::CommandFor(uint32 code) {
         {kirto::kMenuAdjustColors, &KirtoWindow::ChooseFrames},
         {kirto::kMenuOpacity, &KirtoWindow::ChooseFrames},
         {kirto::kMenuOverlay, &KirtoWindow::ChooseFrames},
+        {kirto::kMenuText, &KirtoWindow::ChooseFrames},
         {kirto::kMenuMakeTransparent, &KirtoWindow::ChooseFrames},
         {kirto::kRemoveFrame, &KirtoWindow::Forward},
         {kirto::kMoveFrameUp, &KirtoWindow::Forward},

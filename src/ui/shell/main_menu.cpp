@@ -90,7 +90,8 @@ constexpr Item kAnimationItems[] = {
     {"&Adjust Colors...", 0, kMenuAdjustColors, true},
     {"&Opacity...", 0, kMenuOpacity, true},
     {"Overlay Imag&e...", 0, kMenuOverlay, true},
-    {"Make &Transparent...", 0, kMenuMakeTransparent, true},
+    {"&Text...", 0, kMenuText, true},
+    {"Ma&ke Transparent...", 0, kMenuMakeTransparent, true},
 };
 
 // Otherwise a desktop may take "Quit" and its like for items of its own.

@@ -16,6 +16,8 @@
 #include "ui/controls/picture_area.h"
 #include "ui/dialogs/picture_area_dialogs.h"
 #include "ui/dialogs/sheet_dialog.h"
+#include "ui/dialogs/text_dialog.h"
+#include "ui/dialogs/text_picture.h"
 #include "ui/thumbnails/frame_area_fixture.h"
 #include "ui/widget_tools.h"
 
@@ -202,6 +204,48 @@ TEST_F(PictureDialogs, OverlayOnlyAFileThatIsThere) {
     EXPECT_EQ(received.what, kOverlayImage);
     EXPECT_EQ(received.FindRef("refs", &ref), B_OK);
     EXPECT_EQ(Number("x"), -3);
+}
+
+TEST_F(PictureDialogs, DrawTextWhereItIsPlaced) {
+    AskForText(animation, &parent, receive);
+    EXPECT_FALSE(Ok().isEnabled());
+    Find<QLineEdit>("Text").setText("Hi");
+    EXPECT_TRUE(Ok().isEnabled());
+    EXPECT_GT(Find<QSpinBox>("Y").value(), 30) << "Near the lower edge, until it is placed.";
+    Mouse(QEvent::MouseButtonPress, 5, 6);
+    Find<QSpinBox>("FadeIn").setValue(1);
+    Ok().click();
+
+    std::string_view image;
+    EXPECT_EQ(received.what, kDrawText);
+    EXPECT_EQ(received.FindData("image", B_RAW_TYPE, 0, &image), B_OK);
+    EXPECT_EQ(Number("x"), 5);
+    EXPECT_EQ(Number("y"), 6);
+    EXPECT_EQ(Number("fade_in"), 1);
+}
+
+TEST_F(PictureDialogs, DrawNoTextInAColorThatIsNone) {
+    AskForText(animation, &parent, receive);
+    Find<QLineEdit>("Text").setText("Hi");
+    Find<QLineEdit>("Color").setText("#12");
+
+    EXPECT_FALSE(Ok().isEnabled());
+}
+
+TEST(PictureOfText, IsAsLargeAsTheTextWithItsOutline) {
+    TextStyle style;
+    style.font.setPixelSize(20);
+    const QImage plain = PictureOfText("Hi", style);
+    const QImage longer = PictureOfText("Hi there", style);
+    style.outline_width = 3;
+    const QImage outlined = PictureOfText("Hi", style);
+
+    EXPECT_TRUE(PictureOfText("", style).isNull());
+    EXPECT_TRUE(PictureOfText(" ", style).isNull());
+    EXPECT_GT(longer.width(), plain.width());
+    EXPECT_EQ(outlined.width(), plain.width() + 6);
+    EXPECT_EQ(plain.pixelColor(0, 0).alpha(), 0);
+    EXPECT_EQ(plain.format(), QImage::Format_ARGB32);
 }
 
 // Whatever it is asked for, it writes PNG files.

@@ -58,6 +58,7 @@ TEST_F(FrameCommands, AskFirst) {
     EXPECT_EQ(ChosenBy(kMenuAdjustColors), "AdjustColors");
     EXPECT_EQ(ChosenBy(kMenuOpacity), "Opacity");
     EXPECT_EQ(ChosenBy(kMenuOverlay), "OverlayImage");
+    EXPECT_EQ(ChosenBy(kMenuText), "Text");
     EXPECT_EQ(ChosenBy(kMenuMakeTransparent), "MakeTransparent");
 }
 

@@ -100,6 +100,7 @@ TEST_F(MainMenu, HasTheItemsOfTheAnimationMenu) {
                                          item("Adjust Colors...||", kMenuAdjustColors),
                                          item("Opacity...||", kMenuOpacity),
                                          item("Overlay Image...||", kMenuOverlay),
+                                         item("Text...||", kMenuText),
                                          item("Make Transparent...||", kMenuMakeTransparent)}));
 }
 
@@ -213,7 +214,7 @@ TEST_F(MainMenu, DisablesWhatNeedsAFrameWithoutOne) {
 
     EXPECT_EQ(enabled(), without_frames);
     EnableFrameItems(*bar, true);
-    EXPECT_EQ(enabled().size(), 45u);
+    EXPECT_EQ(enabled().size(), 46u);
     EnableFrameItems(*bar, false);
     EXPECT_EQ(enabled(), without_frames);
 }
