@@ -134,6 +134,18 @@ class Arranging(EditorTest):
         self.assertLess(info["global_width"], 80)
         wait_until(lambda: info["frames"][0]["width"] == info["global_width"], "the frames to fit")
 
+    def test_draws_a_caption_on_some_frames_by_keyboard(self):
+        editor, path = self.open_ten()
+        self.key("ctrl+g")
+        self.in_dialog("Select Range", "5-9")
+        editor.wait_for_label("5 of 10 selected, 1.50 s of 3.00 s, 3.33 fps")
+        self.key("alt+a", "t")
+        self.in_dialog("Text", "Hello")
+        editor.wait_for_status(10, modified=True)
+        self.assertLessEqual(self.strokes, 8)
+        self.save(editor, 10)
+        self.assertEqual(self.colors(path), [*TEN[:5], *[None] * 5])
+
     def test_makes_a_small_animation_of_numbered_pictures_by_keyboard(self):
         colors = [TEN[i % 4] for i in range(30)]
         # As a file manager would hand them over that does not count.
