@@ -13,7 +13,7 @@ using Unit = PauseChange::Unit;
 double Changed(double pause, const PauseChange& change, double units_per_second) {
     switch (change.unit) {
         case Unit::kMilliseconds:
-            return change.value * units_per_second / 1000;
+            return change.value * units_per_second / kMillisecondsPerSecond;
         case Unit::kFramesPerSecond:
             return units_per_second / change.value;
         case Unit::kPercent:

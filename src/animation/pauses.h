@@ -19,6 +19,8 @@ struct PauseChange {
     bool own_pauses = true;
 };
 
+inline constexpr double kMillisecondsPerSecond = 1000;
+
 // Of a pause length that counts hundredths, or whole seconds.
 constexpr double PauseUnitsPerSecond(bool in_seconds) {
     return in_seconds ? 1 : 100;

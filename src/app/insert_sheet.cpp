@@ -17,7 +17,6 @@ namespace kirto {
 namespace {
 
 constexpr int64 kMostBytes = 1 << 24;  // of a text
-constexpr double kMillisecondsPerSecond = 1000;
 
 std::optional<SheetDescription> ReadDescription(const std::string& path) {
     BFile file(path, B_READ_ONLY);

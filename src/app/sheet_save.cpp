@@ -19,8 +19,6 @@ namespace kirto {
 
 namespace {
 
-constexpr double kMillisecondsPerSecond = 1000;
-
 // Cells side by side, all of one size.
 int64 SideOf(int64 cells, int64 size, const SheetSave::Layout& layout) {
     const int64 side = cells * size + (cells - 1) * layout.padding;

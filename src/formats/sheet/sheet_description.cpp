@@ -15,7 +15,7 @@ namespace {
 using WrittenJson = nlohmann::ordered_json;
 using Json = nlohmann::json;
 
-constexpr double kLongest = std::numeric_limits<int32>::max();  // milliseconds, 24 days
+constexpr double kLongestDuration = std::numeric_limits<int32>::max();  // milliseconds, 24 days
 
 WrittenJson RectJson(int32 x, int32 y, int32 width, int32 height) {
     return {{"x", x}, {"y", y}, {"w", width}, {"h", height}};
@@ -35,7 +35,7 @@ WrittenJson FrameJson(const SheetFrame& frame) {
         {"spriteSourceSize", RectJson(frame.x_offset, frame.y_offset, frame.width, frame.height)},
         {"sourceSize", SizeJson(frame.whole_width, frame.whole_height)}};
     if (frame.milliseconds) {
-        json["duration"] = std::llround(std::min(*frame.milliseconds, kLongest));
+        json["duration"] = std::llround(std::min(*frame.milliseconds, kLongestDuration));
     }
     return json;
 }
@@ -80,7 +80,7 @@ bool TakeDuration(const Json& json, SheetFrame* frame) {
     if (!duration) return true;
     if (!duration->is_number()) return false;
     const double milliseconds = duration->get<double>();
-    if (!(milliseconds >= 0 && milliseconds <= kLongest)) return false;
+    if (!(milliseconds >= 0 && milliseconds <= kLongestDuration)) return false;
     frame->milliseconds = milliseconds;
     return true;
 }

@@ -2,8 +2,11 @@
 
 #include <QDialogButtonBox>
 #include <QFormLayout>
+#include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
+#include <QSpinBox>
 #include <QVBoxLayout>
 
 namespace kirto {
@@ -32,6 +35,36 @@ FormDialog::FormDialog(const char* name, const QString& title, const QString& sc
 void FormDialog::AddField(const QString& label, QWidget* field) {
     form_->addRow(label, field);
     field->setAccessibleName(QString(label).remove(':').remove('&'));
+}
+
+QSpinBox* FormDialog::AddNumber(const char* name, const char* label, int first, int last,
+                                int value) {
+    auto* number = new QSpinBox(this);
+    number->setObjectName(name);
+    number->setRange(first, last);
+    number->setValue(value);
+    AddField(label, number);
+    return number;
+}
+
+QLineEdit* FormDialog::AddFile(const char* label, std::function<QString()> choose) {
+    auto* row = new QWidget(this);
+    auto* path = new QLineEdit(row);
+    path->setObjectName("File");
+    auto* button = new QPushButton("C&hoose...", row);
+    button->setAutoDefault(false);
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(path, 1);
+    layout->addWidget(button);
+    AddField(label, row);
+    path->setAccessibleName(row->accessibleName());
+    connect(path, &QLineEdit::textChanged, this, &FormDialog::Check);
+    connect(button, &QPushButton::clicked, this, [path, choose = std::move(choose)] {
+        const QString chosen = choose();
+        if (!chosen.isEmpty()) path->setText(chosen);
+    });
+    return path;
 }
 
 void FormDialog::AddWide(QWidget* field) {

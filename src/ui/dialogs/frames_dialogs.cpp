@@ -13,23 +13,11 @@ namespace kirto {
 
 namespace {
 
-QString ScopeOf(const Animation& shown) {
+QString AllOrSelected(const Animation& shown) {
     const int32 several = shown.several.Count();
     return several > 0 ? QString("Works on the %1 selected frames.").arg(several)
                        : QString("Works on all %1 frames, since only one is selected.")
                              .arg(shown.frames.Size());
-}
-
-QSpinBox* AddNumber(FormDialog& dialog, const char* name, const char* label, int first, int last,
-                    int value) {
-    auto* number = new QSpinBox(&dialog);
-    number->setObjectName(name);
-    number->setRange(first, last);
-    number->setValue(value);
-    dialog.AddField(label, number);
-    number->setFocus();
-    number->selectAll();
-    return number;
 }
 
 // The frames that are selected, to be typed over.
@@ -55,8 +43,8 @@ void AskForEveryNth(const Animation& shown, QWidget* parent, FormDialog::Receive
     const int last = shown.frames.Size() - 1;
     auto* dialog = new FormDialog("SelectEvery", "Select Every Nth",
                                   "Selects among all frames. The first frame is frame 0.", parent);
-    auto* first = AddNumber(*dialog, "First", "&Beginning with frame:", 0, last, 0);
-    auto* step = AddNumber(*dialog, "Step", "&Every:", 1, last + 1, 2);
+    auto* first = dialog->AddNumber("First", "&Beginning with frame:", 0, last, 0);
+    auto* step = dialog->AddNumber("Step", "&Every:", 1, last + 1, 2);
     const auto make = [=]() -> std::optional<BMessage> {
         BMessage message(kSelectFrames);
         message.AddString("frames", TextOf(FrameSet::Of(first->value(), last, step->value())));
@@ -87,10 +75,11 @@ void AskForRange(const Animation& shown, QWidget* parent, FormDialog::Receiver r
 void AskForDropping(const Animation& shown, QWidget* parent, FormDialog::Receiver receive) {
     auto* dialog = new FormDialog(
         "DropEvery", "Drop Every Nth",
-        ScopeOf(shown) + " The frame before each one that goes is shown for as long as both were.",
+        AllOrSelected(shown) +
+            " The frame before each one that goes is shown for as long as both were.",
         parent);
     auto* number =
-        AddNumber(*dialog, "Step", "&Drop every:", 2, std::max(shown.frames.Size(), 2), 2);
+        dialog->AddNumber("Step", "&Drop every:", 2, std::max(shown.frames.Size(), 2), 2);
     const auto make = [=]() -> std::optional<BMessage> {
         return WithNumber(kDropEveryNth, "number", number->value());
     };
@@ -99,11 +88,11 @@ void AskForDropping(const Animation& shown, QWidget* parent, FormDialog::Receive
 
 void AskForTolerance(const Animation& shown, QWidget* parent, FormDialog::Receiver receive) {
     auto* dialog = new FormDialog("RemoveDuplicates", "Remove Duplicates",
-                                  ScopeOf(shown) +
+                                  AllOrSelected(shown) +
                                       " A frame that shows what the one before shows "
                                       "is removed, and its pause added to that one.",
                                   parent);
-    auto* tolerance = AddNumber(*dialog, "Tolerance", "&Tolerance:", 0, 255, 0);
+    auto* tolerance = dialog->AddNumber("Tolerance", "&Tolerance:", 0, 255, 0);
     tolerance->setToolTip("By how much red, green and blue of a pixel may differ; 0: not at all");
     const auto make = [=]() -> std::optional<BMessage> {
         return WithNumber(kRemoveDuplicates, "tolerance", tolerance->value());
@@ -120,7 +109,7 @@ void AskForPlace(const Animation& shown, QWidget* parent, FormDialog::Receiver r
                            .arg(count),
                        parent);
     auto* frames = AddRange(*dialog, shown);
-    auto* place = AddNumber(*dialog, "Place", "&Before frame:", 0, count, 0);
+    auto* place = dialog->AddNumber("Place", "&Before frame:", 0, count, 0);
     frames->setFocus();
     const auto make = [=]() -> std::optional<BMessage> {
         const std::string text = frames->text().toStdString();
@@ -143,7 +132,8 @@ void AskForPause(const Animation& shown, bool in_seconds, QWidget* parent,
         parent);
     const double pause = shown.CurrentFrame() ? shown.PauseOf(*shown.CurrentFrame()) : 0;
     auto* value = new QLineEdit(
-        QString::number(pause * 1000 / PauseUnitsPerSecond(in_seconds)) + "ms", dialog);
+        QString::number(pause * kMillisecondsPerSecond / PauseUnitsPerSecond(in_seconds)) + "ms",
+        dialog);
     value->setObjectName("Value");
     dialog->AddField("&Pause:", value);
     const int32 several = shown.several.Count();

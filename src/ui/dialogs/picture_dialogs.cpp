@@ -2,11 +2,11 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QFile>
 #include <QFileDialog>
-#include <QHBoxLayout>
+#include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QSpinBox>
 #include <algorithm>
 
@@ -28,20 +28,10 @@ constexpr const char* kAnchorNames[] = {"top left",    "top",    "top right",
                                         "bottom left", "bottom", "bottom right"};
 constexpr int kCenter = 4;
 
-QString ScopeOf(const Animation& shown) {
+QString CurrentOrSelected(const Animation& shown) {
     const int32 several = shown.several.Count();
     return several > 0 ? QString("Works on the %1 selected frames.").arg(several)
                        : QString("Works on the current frame, the only one that is selected.");
-}
-
-QSpinBox* AddNumber(FormDialog& dialog, const char* name, const char* label, int first, int last,
-                    int value) {
-    auto* number = new QSpinBox(&dialog);
-    number->setObjectName(name);
-    number->setRange(first, last);
-    number->setValue(value);
-    dialog.AddField(label, number);
-    return number;
 }
 
 template <size_t Count>
@@ -81,9 +71,9 @@ void AskForSize(const Animation& shown, QWidget* parent, FormDialog::Receiver re
     auto* dialog = new FormDialog("ResizeAnimation", "Resize Animation", kAllFrames, parent);
     const int old_width = std::max(shown.width, 1);
     const int old_height = std::max(shown.height, 1);
-    auto* width = AddNumber(*dialog, "Width", "&Width:", 1, kLargestSide, old_width);
-    auto* height = AddNumber(*dialog, "Height", "&Height:", 1, kLargestSide, old_height);
-    auto* percent = AddNumber(*dialog, "Percent", "&Percent:", 1, 10000, 100);
+    auto* width = dialog->AddNumber("Width", "&Width:", 1, kLargestSide, old_width);
+    auto* height = dialog->AddNumber("Height", "&Height:", 1, kLargestSide, old_height);
+    auto* percent = dialog->AddNumber("Percent", "&Percent:", 1, 10000, 100);
     auto* ratio = new QCheckBox("&Keep the ratio", dialog);
     ratio->setObjectName("Ratio");
     ratio->setChecked(true);
@@ -109,9 +99,9 @@ void AskForCanvas(const Animation& shown, QWidget* parent, FormDialog::Receiver 
     auto* dialog = new FormDialog(
         "CanvasSize", "Canvas Size",
         "Pictures keep their size; what a smaller canvas has no room for is cut off.", parent);
-    auto* width = AddNumber(*dialog, "Width", "&Width:", 1, kLargestSide, std::max(shown.width, 1));
+    auto* width = dialog->AddNumber("Width", "&Width:", 1, kLargestSide, std::max(shown.width, 1));
     auto* height =
-        AddNumber(*dialog, "Height", "&Height:", 1, kLargestSide, std::max(shown.height, 1));
+        dialog->AddNumber("Height", "&Height:", 1, kLargestSide, std::max(shown.height, 1));
     auto* anchor = AddChoice(*dialog, "Anchor", "&Pictures stay at:", kAnchorNames, kCenter);
     StartAt(*width);
     const auto make = [=]() -> std::optional<BMessage> {
@@ -127,7 +117,8 @@ void AskForCanvas(const Animation& shown, QWidget* parent, FormDialog::Receiver 
 void AskForFit(const Animation& shown, QWidget* parent, FormDialog::Receiver receive) {
     constexpr const char* kWays[] = {"scaled to the canvas", "padded to the canvas",
                                      "cropped to the canvas"};
-    auto* dialog = new FormDialog("FitFrames", "Fit Frames to Animation", ScopeOf(shown), parent);
+    auto* dialog =
+        new FormDialog("FitFrames", "Fit Frames to Animation", CurrentOrSelected(shown), parent);
     auto* fit = AddChoice(*dialog, "Fit", "Pictures are &to be:", kWays, 0);
     auto* filter = AddChoice(*dialog, "Filter", "&Filter:", kFilters, kLanczos);
     QObject::connect(fit, &QComboBox::currentIndexChanged, filter,
@@ -143,10 +134,11 @@ void AskForFit(const Animation& shown, QWidget* parent, FormDialog::Receiver rec
 }
 
 void AskForColors(const Animation& shown, QWidget* parent, FormDialog::Receiver receive) {
-    auto* dialog = new FormDialog("AdjustColors", "Adjust Colors", ScopeOf(shown), parent);
-    auto* brightness = AddNumber(*dialog, "Brightness", "&Brightness:", -100, 100, 0);
-    auto* contrast = AddNumber(*dialog, "Contrast", "&Contrast:", -100, 100, 0);
-    auto* saturation = AddNumber(*dialog, "Saturation", "&Saturation:", -100, 100, 0);
+    auto* dialog =
+        new FormDialog("AdjustColors", "Adjust Colors", CurrentOrSelected(shown), parent);
+    auto* brightness = dialog->AddNumber("Brightness", "&Brightness:", -100, 100, 0);
+    auto* contrast = dialog->AddNumber("Contrast", "&Contrast:", -100, 100, 0);
+    auto* saturation = dialog->AddNumber("Saturation", "&Saturation:", -100, 100, 0);
     auto* greyscale = new QCheckBox("&Greyscale", dialog);
     greyscale->setObjectName("Greyscale");
     dialog->AddWide(greyscale);
@@ -163,8 +155,8 @@ void AskForColors(const Animation& shown, QWidget* parent, FormDialog::Receiver 
 }
 
 void AskForOpacity(const Animation& shown, QWidget* parent, FormDialog::Receiver receive) {
-    auto* dialog = new FormDialog("Opacity", "Opacity", ScopeOf(shown), parent);
-    auto* percent = AddNumber(*dialog, "Percent", "&Opacity in percent:", 0, 100, 100);
+    auto* dialog = new FormDialog("Opacity", "Opacity", CurrentOrSelected(shown), parent);
+    auto* percent = dialog->AddNumber("Percent", "&Opacity in percent:", 0, 100, 100);
     StartAt(*percent);
     const auto make = [=]() -> std::optional<BMessage> {
         BMessage message(kSetOpacity);
@@ -175,26 +167,13 @@ void AskForOpacity(const Animation& shown, QWidget* parent, FormDialog::Receiver
 }
 
 void AskForOverlay(const Animation& shown, QWidget* parent, FormDialog::Receiver receive) {
-    auto* dialog = new FormDialog("OverlayImage", "Overlay Image", ScopeOf(shown), parent);
-    auto* file = new QLineEdit(dialog);
-    file->setObjectName("File");
-    auto* choose = new QPushButton("C&hoose...", dialog);
-    choose->setAutoDefault(false);
-    auto* row = new QWidget(dialog);
-    auto* layout = new QHBoxLayout(row);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(file, 1);
-    layout->addWidget(choose);
-    dialog->AddField("&Image:", row);
-    file->setAccessibleName("Image");
-    auto* x = AddNumber(*dialog, "X", "&X offset:", -kLargestSide, kLargestSide, 0);
-    auto* y = AddNumber(*dialog, "Y", "&Y offset:", -kLargestSide, kLargestSide, 0);
-    auto* percent = AddNumber(*dialog, "Percent", "&Opacity in percent:", 0, 100, 100);
-    QObject::connect(file, &QLineEdit::textChanged, dialog, &FormDialog::Check);
-    QObject::connect(choose, &QPushButton::clicked, dialog, [=] {
-        const QString path = QFileDialog::getOpenFileName(dialog, "Overlay Image");
-        if (!path.isEmpty()) file->setText(path);
-    });
+    auto* dialog =
+        new FormDialog("OverlayImage", "Overlay Image", CurrentOrSelected(shown), parent);
+    QLineEdit* file = dialog->AddFile(
+        "&Image:", [dialog] { return QFileDialog::getOpenFileName(dialog, "Overlay Image"); });
+    auto* x = dialog->AddNumber("X", "&X offset:", -kLargestSide, kLargestSide, 0);
+    auto* y = dialog->AddNumber("Y", "&Y offset:", -kLargestSide, kLargestSide, 0);
+    auto* percent = dialog->AddNumber("Percent", "&Opacity in percent:", 0, 100, 100);
     const auto make = [=]() -> std::optional<BMessage> {
         if (!QFileInfo(file->text()).isFile()) return std::nullopt;
         BMessage message(kOverlayImage);

@@ -3,11 +3,8 @@
 #include <QCheckBox>
 #include <QFile>
 #include <QFileDialog>
-#include <QHBoxLayout>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QSpinBox>
-#include <algorithm>
 
 #include "document/command_codes.h"
 
@@ -27,28 +24,6 @@ translator_id PngWriter(const BTranslatorRoster& roster) {
     return 0;
 }
 
-// A field for a path, with a button that shows a file dialog.
-QLineEdit* AddPath(FormDialog& dialog) {
-    auto* row = new QWidget(&dialog);
-    auto* path = new QLineEdit(row);
-    path->setObjectName("File");
-    auto* choose = new QPushButton("C&hoose...", row);
-    choose->setAutoDefault(false);
-    auto* layout = new QHBoxLayout(row);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(path, 1);
-    layout->addWidget(choose);
-    dialog.AddField("&Image:", row);
-    path->setAccessibleName("Image");
-    QObject::connect(path, &QLineEdit::textChanged, &dialog, &FormDialog::Check);
-    QObject::connect(choose, &QPushButton::clicked, &dialog, [&dialog, path] {
-        const QString chosen =
-            QFileDialog::getSaveFileName(&dialog, "Export Sheet", path->text(), "PNG (*.png)");
-        if (!chosen.isEmpty()) path->setText(chosen);
-    });
-    return path;
-}
-
 }  // namespace
 
 void AskForSheet(const Animation& shown, const BTranslatorRoster& roster, QWidget* parent,
@@ -61,17 +36,12 @@ void AskForSheet(const Animation& shown, const BTranslatorRoster& roster, QWidge
                                       .arg(count)
                                       .arg(several > 0 ? "selected " : ""),
                                   parent);
-    QLineEdit* path = AddPath(*dialog);
-    const auto number = [dialog](const char* name, const char* label, int last) {
-        auto* field = new QSpinBox(dialog);
-        field->setObjectName(name);
-        field->setRange(0, last);
-        dialog->AddField(label, field);
-        return field;
-    };
-    QSpinBox* columns = number("Columns", "&Columns:", count);
+    QLineEdit* path = dialog->AddFile("&Image:", [dialog] {
+        return QFileDialog::getSaveFileName(dialog, "Export Sheet", {}, "PNG (*.png)");
+    });
+    QSpinBox* columns = dialog->AddNumber("Columns", "&Columns:", 0, count, 0);
     columns->setSpecialValueText("as many as rows");
-    QSpinBox* padding = number("Padding", "&Padding in pixels:", kMostPadding);
+    QSpinBox* padding = dialog->AddNumber("Padding", "&Padding in pixels:", 0, kMostPadding, 0);
     auto* power = new QCheckBox("Sides are powers of &two", dialog);
     power->setObjectName("PowerOfTwo");
     dialog->AddWide(power);

@@ -68,16 +68,6 @@ std::optional<BMessage> TextFields::Command() const {
     return message;
 }
 
-QSpinBox* AddNumber(FormDialog& dialog, const char* name, const char* label, int first, int last,
-                    int value) {
-    auto* number = new QSpinBox(&dialog);
-    number->setObjectName(name);
-    number->setRange(first, last);
-    number->setValue(value);
-    dialog.AddField(label, number);
-    return number;
-}
-
 QLineEdit* AddText(FormDialog& dialog, const char* name, const char* label, const char* text) {
     auto* field = new QLineEdit(text, &dialog);
     field->setObjectName(name);
@@ -94,15 +84,15 @@ TextFields AddFields(FormDialog& dialog, const Animation& shown) {
     fields.font = new QFontComboBox(&dialog);
     fields.font->setObjectName("Font");
     dialog.AddField("&Font:", fields.font);
-    fields.size = AddNumber(dialog, "Size", "&Size in pixels:", 4, 1000,
-                            std::clamp(shown.height / 8, 10, 200));
+    fields.size = dialog.AddNumber("Size", "&Size in pixels:", 4, 1000,
+                                   std::clamp(shown.height / 8, 10, 200));
     fields.color = AddText(dialog, "Color", "&Color:", "#ffffff");
-    fields.outline_width = AddNumber(dialog, "OutlineWidth", "&Outline in pixels:", 0, 50, 2);
+    fields.outline_width = dialog.AddNumber("OutlineWidth", "&Outline in pixels:", 0, 50, 2);
     fields.outline = AddText(dialog, "Outline", "Out&line color:", "#000000");
-    fields.x = AddNumber(dialog, "X", "&X offset:", -kLargestPlace, kLargestPlace, 0);
-    fields.y = AddNumber(dialog, "Y", "&Y offset:", -kLargestPlace, kLargestPlace, 0);
-    fields.fade_in = AddNumber(dialog, "FadeIn", "Frames to fade &in:", 0, frames, 0);
-    fields.fade_out = AddNumber(dialog, "FadeOut", "Frames to fade o&ut:", 0, frames, 0);
+    fields.x = dialog.AddNumber("X", "&X offset:", -kLargestPlace, kLargestPlace, 0);
+    fields.y = dialog.AddNumber("Y", "&Y offset:", -kLargestPlace, kLargestPlace, 0);
+    fields.fade_in = dialog.AddNumber("FadeIn", "Frames to fade &in:", 0, frames, 0);
+    fields.fade_out = dialog.AddNumber("FadeOut", "Frames to fade o&ut:", 0, frames, 0);
     return fields;
 }
 

@@ -9,7 +9,7 @@ namespace kirto {
 
 namespace {
 
-constexpr int kLargestSide = 8192;  // pixels; no text of a picture is larger
+constexpr int kLargestText = 8192;  // pixels; no text of a picture is larger
 
 QPainterPath PathOf(const QString& text, const QFont& font) {
     const QFontMetricsF metrics(font);
@@ -30,7 +30,7 @@ QImage PictureOfText(const QString& text, const TextStyle& style) {
     const int margin = style.outline_width + 1;
     const QRect area =
         path.boundingRect().toAlignedRect().adjusted(-margin, -margin, margin, margin);
-    if (area.width() > kLargestSide || area.height() > kLargestSide) return {};
+    if (area.width() > kLargestText || area.height() > kLargestText) return {};
     QImage image(area.size(), QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     QPainter painter(&image);

@@ -59,10 +59,11 @@ void FieldPanel::ShowPause(const Animation& animation) {
     const FramePointer frame = animation.CurrentFrame();
     double pause = animation.use_pause ? animation.pause_length : 0;
     if (ShowsFrame()) pause = frame ? animation.PauseOf(*frame) : 0;
-    const double milliseconds =
-        pause * 1000 / PauseUnitsPerSecond(shown_.Settings().global_pauseinseconds);
+    const double milliseconds = pause * kMillisecondsPerSecond /
+                                PauseUnitsPerSecond(shown_.Settings().global_pauseinseconds);
     QString text = QString("%1 ms").arg(milliseconds, 0, 'g', 6);
-    if (milliseconds > 0) text += QString(", %1 fps").arg(1000 / milliseconds, 0, 'g', 3);
+    if (milliseconds > 0)
+        text += QString(", %1 fps").arg(kMillisecondsPerSecond / milliseconds, 0, 'g', 3);
     kirto::ShowText(*pause_text_, text);
 }
 

@@ -9,6 +9,7 @@
 #include "app/frames_exchange.h"
 #include "ui/thumbnails/direct_save.h"
 #include "ui/thumbnails/file_urls.h"
+#include "ui/thumbnails/frames_mime_data.h"
 
 namespace kirto {
 
@@ -17,10 +18,6 @@ namespace {
 // The number of the process that the drag began in.
 constexpr char kProcessType[] = "application/x-kirto-process";
 constexpr char kFileListType[] = "text/uri-list";
-
-QByteArray BytesOf(const std::vector<uint8>& bytes) {
-    return {reinterpret_cast<const char*>(bytes.data()), static_cast<qsizetype>(bytes.size())};
-}
 
 QByteArray ThisProcess() {
     return QByteArray::number(QCoreApplication::applicationPid());

@@ -16,10 +16,6 @@ namespace {
 constexpr const char* kQtImageType = "application/x-qt-image";
 constexpr const char* kPngType = "image/png";
 
-QByteArray BytesOf(const std::vector<uint8>& bytes) {
-    return {reinterpret_cast<const char*>(bytes.data()), static_cast<qsizetype>(bytes.size())};
-}
-
 QByteArray PngOf(const QImage& image) {
     QByteArray bytes;
     QBuffer buffer(&bytes);
@@ -36,6 +32,10 @@ std::optional<BMessage> Pasting(const char* type, const QByteArray& bytes) {
 }
 
 }  // namespace
+
+QByteArray BytesOf(const std::vector<uint8>& bytes) {
+    return {reinterpret_cast<const char*>(bytes.data()), static_cast<qsizetype>(bytes.size())};
+}
 
 QStringList FramesMimeData::formats() const {
     return {kFramesType, kGifType, kQtImageType};

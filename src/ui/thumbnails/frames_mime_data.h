@@ -4,6 +4,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <vector>
 
 #include "app/frames_exchange.h"
 #include "document/document_state.h"
@@ -29,6 +30,9 @@ class FramesMimeData : public QMimeData {
     const std::shared_ptr<const DocumentState> state_;
     mutable std::map<QString, QByteArray> made_;
 };
+
+// As Qt has them.
+QByteArray BytesOf(const std::vector<uint8>& bytes);
 
 // The command that inserts what is there behind the current frame: frames, an animation, an image
 // or files. Empty for anything else.
