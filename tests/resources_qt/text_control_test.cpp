@@ -178,11 +178,11 @@ TEST_F(TextControls, LeaveTheShortcutsOfTheirWindowToIt) {
 }
 
 TEST_F(TextControls, KeepTheirTextFromShortcutsThatAreDisabled) {
-    AddShortcut(Qt::Key_X).setEnabled(false);
+    AddShortcut(Qt::Key_K).setEnabled(false);
     Type("12");
     field.selectAll();
 
-    Press(Qt::Key_X, Qt::ControlModifier);
+    Press(Qt::Key_K, Qt::ControlModifier);
 
     EXPECT_EQ(field.text(), "12");
 }
@@ -195,6 +195,19 @@ TEST_F(TextControls, KeepCtrlAForTheirText) {
     Press(Qt::Key_A, Qt::ControlModifier);
 
     EXPECT_EQ(field.selectedText(), "12");
+}
+
+TEST_F(TextControls, KeepTheKeysOfTheClipboardForTheirText) {
+    for (const Qt::Key key : {Qt::Key_X, Qt::Key_C, Qt::Key_V})
+        AddShortcut(key);
+    Type("12");
+    field.selectAll();
+
+    Press(Qt::Key_X, Qt::ControlModifier);
+    EXPECT_EQ(field.text(), "");
+    Press(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(field.text(), "12");
+    EXPECT_TRUE(Overrides(Qt::Key_C));
 }
 
 TEST_F(TextControls, OutliveTheirTarget) {

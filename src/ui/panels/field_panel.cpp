@@ -48,7 +48,7 @@ TextControl* FieldPanel::AddNumber(uint32 command, const char* tip, QCheckBox* b
 }
 
 void FieldPanel::AddPauseText() {
-    pause_text_ = MakeLabel("PauseText", "", this);
+    pause_text_ = MakeLabel("PauseText", "0 ms", this);
     pause_text_->setAlignment(Qt::AlignRight);
     pause_text_->setAccessibleDescription("What the pause is in other units");
     rows_->AddWide(pause_text_);

@@ -80,6 +80,7 @@ TEST_F(MainMenu, HasTheItemsOfTheAnimationMenu) {
 
     const auto item = [](const char* text, uint32 code) { return text + CodeText(code); };
     EXPECT_EQ(ItemsOf(MenuAt(4)), (Lines{item("Insert Animation...||", kMenuInsertAnimation),
+                                         item("Export Sheet...||", kMenuExportSheet),
                                          "-",
                                          item("Set Pause...|Ctrl+L|", kMenuSetPause),
                                          "-",
