@@ -90,7 +90,8 @@ class Recovery(EditorTest):
         server.kill()
         server.wait()
         self.assertNotEqual(editor.wait_for_end(), 0)
-        self.check_recovered("untitled", (RED, BLUE))
+        # In the order of the files' names.
+        self.check_recovered("untitled", (BLUE, RED))
 
     def test_recovers_after_the_request_to_end_what_was_not_written_yet(self):
         editor = self.modify_colors()

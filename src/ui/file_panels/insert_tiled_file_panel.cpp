@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
@@ -91,7 +92,7 @@ void InsertTiledFilePanel::Prepare(kirto::FileDialog& dialog) {
     layout->addWidget(columns, 1, 1);
     layout->addWidget(by_column, 1, 2);
     AddTileFields(*layout, controls);
-    layout->setColumnStretch(4, 1);
+    layout->setColumnStretch(3, 1);
     dialog.AddRow(controls);
 }
 
@@ -100,14 +101,23 @@ void InsertTiledFilePanel::AddTileFields(QGridLayout& layout, QWidget* controls)
                          int row, int column) {
         QLineEdit* field = MakeNumberField(name, text, controls);
         field->setToolTip(tip);
-        layout.addWidget(MakeLabelFor(field, label, controls), row, column);
-        layout.addWidget(field, row, column + 1);
+        QLabel* name_label = MakeLabelFor(field, label, controls);
+        if (column == 0) {
+            layout.addWidget(name_label, row, 0);
+            layout.addWidget(field, row, 1);
+            return;
+        }
+        auto* pair = new QHBoxLayout;
+        pair->addWidget(name_label);
+        pair->addWidget(field);
+        pair->addStretch();
+        layout.addLayout(pair, row, column);
     };
     constexpr const char* kTileTip =
         "Size of a tile in pixels, in place of rows and columns; 0: by rows and columns";
     add("TileWidth", "Tile width:", kTileTip, &tile_width_, 2, 0);
-    add("TileHeight", "Tile height:", kTileTip, &tile_height_, 2, 2);
-    add("Margin", "Margin:", "Pixels around all tiles", &margin_, 3, 0);
+    add("TileHeight", "Tile height:", kTileTip, &tile_height_, 3, 0);
+    add("Margin", "Margin:", "Pixels around all tiles", &margin_, 2, 2);
     add("Spacing", "Spacing:", "Pixels between two tiles", &spacing_, 3, 2);
     auto* skip = new QCheckBox("Skip empty tiles", controls);
     skip->setObjectName("SkipEmpty");
@@ -117,7 +127,7 @@ void InsertTiledFilePanel::AddTileFields(QGridLayout& layout, QWidget* controls)
         const std::lock_guard lock(mutex_);
         skip_empty_ = on;
     });
-    layout.addWidget(skip, 4, 0, 1, 4);
+    layout.addWidget(skip, 4, 0, 1, 3);
 }
 
 BMessage InsertTiledFilePanel::CommandFor(const QStringList& files) const {
