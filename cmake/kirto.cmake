@@ -26,6 +26,9 @@ endif()
 if(KIRTO_FUZZ)
     target_compile_options(kirto_flags INTERFACE -fsanitize=fuzzer-no-link)
 endif()
+# Presets that compile several sources at a time show GCC names of one file in front of another's.
+target_compile_options(kirto_flags INTERFACE
+    $<$<AND:$<CXX_COMPILER_ID:GNU>,$<BOOL:$<TARGET_PROPERTY:UNITY_BUILD>>>:-Wno-shadow>)
 if(KIRTO_COVERAGE)
     # Counters are shared by threads.
     target_compile_options(kirto_flags INTERFACE --coverage -fprofile-update=atomic -O0)
@@ -65,15 +68,14 @@ set(kirto_qt_headers
 
 # kirto_library(NAME SOURCES ... DEPENDS ... [FOREIGN_BYTES]): one static library a folder of src/.
 # DEPENDS names the layers it may include; the linker refuses what is not among them. FOREIGN_BYTES is
-# for those that take files apart. Sanitized builds compile several sources at a time.
+# for those that take files apart. Presets with KIRTO_UNITY compile several sources at a time.
 function(kirto_library name)
     cmake_parse_arguments(ARG "FOREIGN_BYTES" "" "SOURCES;DEPENDS" ${ARGN})
     add_library(${name} STATIC ${ARG_SOURCES})
     target_link_libraries(${name} PUBLIC kirto_flags ${ARG_DEPENDS})
     # As quickly compiled as without it, and the tests that start whole programs take half the time.
     target_compile_options(${name} PRIVATE $<$<CONFIG:Debug>:-Og>)
-    set_target_properties(${name} PROPERTIES FOREIGN_BYTES ${ARG_FOREIGN_BYTES})
-    if(KIRTO_SANITIZE AND NOT KIRTO_FUZZ)
-        set_target_properties(${name} PROPERTIES UNITY_BUILD ON)
-    endif()
+    set_target_properties(${name} PROPERTIES
+        FOREIGN_BYTES ${ARG_FOREIGN_BYTES}
+        UNITY_BUILD ${KIRTO_UNITY})
 endfunction()

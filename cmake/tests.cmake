@@ -70,6 +70,7 @@ function(kirto_test name)
         return()
     endif()
     add_executable(${name} ${ARG_SOURCES})
+    set_target_properties(${name} PROPERTIES UNITY_BUILD ${KIRTO_UNITY})
     target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
     target_link_libraries(${name} PRIVATE
         ${ARG_DEPENDS} kirto_test_support kirto_test_flags GTest::gmock GTest::gtest_main)

@@ -14,7 +14,7 @@ namespace {
 using NameList = std::vector<std::string>;
 
 // Of frames of the names, the given one of them current.
-Animation AnimationOf(const NameList& names, int32 current = 0) {
+Animation AnimationNamed(const NameList& names, int32 current = 0) {
     Animation animation;
     for (const std::string& name : names) {
         InsertFrame(animation, animation.frames.Size(),
@@ -24,7 +24,7 @@ Animation AnimationOf(const NameList& names, int32 current = 0) {
     return animation;
 }
 
-NameList Names(const Animation& animation) {
+NameList FrameNames(const Animation& animation) {
     NameList names;
     for (const FramePointer& frame : animation.frames)
         names.push_back(frame->name);
@@ -57,17 +57,17 @@ TEST(InsertFrame, MakesTheFirstFrameOfAllTheCurrentOne) {
 }
 
 TEST(InsertFrame, KeepsTheSelectedNumber) {
-    Animation animation = AnimationOf({"one", "two"}, 1);
+    Animation animation = AnimationNamed({"one", "two"}, 1);
 
     EXPECT_TRUE(InsertFrame(animation, 0, FrameOf("zero")));
     EXPECT_TRUE(InsertFrame(animation, 3, FrameOf("three")));
 
-    EXPECT_EQ(Names(animation), (NameList{"zero", "one", "two", "three"}));
+    EXPECT_EQ(FrameNames(animation), (NameList{"zero", "one", "two", "three"}));
     EXPECT_EQ(animation.selected, 1);
 }
 
 TEST(InsertFrame, OutsideTheListChangesNothing) {
-    const Animation before = AnimationOf({"one", "two"});
+    const Animation before = AnimationNamed({"one", "two"});
     for (const int32 position : {-1, 3}) {
         Animation animation = before;
 
@@ -78,7 +78,7 @@ TEST(InsertFrame, OutsideTheListChangesNothing) {
 }
 
 TEST(RemoveSelected, MakesTheFollowingFrameCurrentOrElseTheLast) {
-    Animation animation = AnimationOf({"one", "two", "three"}, 1);
+    Animation animation = AnimationNamed({"one", "two", "three"}, 1);
 
     EXPECT_TRUE(RemoveSelected(animation));
     EXPECT_EQ(animation.CurrentFrame()->name, "three");
@@ -91,21 +91,21 @@ TEST(RemoveSelected, MakesTheFollowingFrameCurrentOrElseTheLast) {
 }
 
 TEST(MoveSelected, SwapsNeighboursAndFollows) {
-    Animation animation = AnimationOf({"one", "two", "three"}, 1);
+    Animation animation = AnimationNamed({"one", "two", "three"}, 1);
 
     EXPECT_TRUE(MoveSelected(animation, true));
-    EXPECT_EQ(Names(animation), (NameList{"two", "one", "three"}));
+    EXPECT_EQ(FrameNames(animation), (NameList{"two", "one", "three"}));
     EXPECT_EQ(animation.selected, 0);
     EXPECT_TRUE(MoveSelected(animation, false));
     EXPECT_TRUE(MoveSelected(animation, false));
-    EXPECT_EQ(Names(animation), (NameList{"one", "three", "two"}));
+    EXPECT_EQ(FrameNames(animation), (NameList{"one", "three", "two"}));
     EXPECT_EQ(animation.selected, 2);
 }
 
 TEST(MoveSelected, PastTheEndsChangesNothing) {
     const Animation empty;
-    const Animation at_start = AnimationOf({"one", "two"}, 0);
-    const Animation at_end = AnimationOf({"one", "two"}, 1);
+    const Animation at_start = AnimationNamed({"one", "two"}, 0);
+    const Animation at_end = AnimationNamed({"one", "two"}, 1);
     for (const auto& [before, up] :
          {std::pair{&empty, true}, {&empty, false}, {&at_start, true}, {&at_end, false}}) {
         Animation animation = *before;
@@ -117,25 +117,25 @@ TEST(MoveSelected, PastTheEndsChangesNothing) {
 }
 
 TEST(ReverseSelected, KeepsTheSelectedNumber) {
-    Animation animation = AnimationOf({"one", "two", "three"}, 0);
+    Animation animation = AnimationNamed({"one", "two", "three"}, 0);
 
     EXPECT_TRUE(ReverseSelected(animation));
 
-    EXPECT_EQ(Names(animation), (NameList{"three", "two", "one"}));
+    EXPECT_EQ(FrameNames(animation), (NameList{"three", "two", "one"}));
     EXPECT_EQ(animation.selected, 0);
 }
 
 TEST(ReverseSelected, BelowTwoFramesChangesNothing) {
     Animation empty;
-    Animation single = AnimationOf({"one"});
+    Animation single = AnimationNamed({"one"});
 
     EXPECT_FALSE(ReverseSelected(empty));
     EXPECT_FALSE(ReverseSelected(single));
-    EXPECT_EQ(Names(single), NameList{"one"});
+    EXPECT_EQ(FrameNames(single), NameList{"one"});
 }
 
 TEST(SelectFrame, TakesOnlyAnotherFrameThatIsThere) {
-    Animation animation = AnimationOf({"one", "two", "three"}, 1);
+    Animation animation = AnimationNamed({"one", "two", "three"}, 1);
 
     EXPECT_FALSE(SelectFrame(animation, 1));
     EXPECT_FALSE(SelectFrame(animation, 3));
@@ -146,7 +146,7 @@ TEST(SelectFrame, TakesOnlyAnotherFrameThatIsThere) {
 }
 
 TEST(EditFrame, KeepsTheIdAndLeavesTheFrameThatOthersHold) {
-    Animation animation = AnimationOf({"one", "two"});
+    Animation animation = AnimationNamed({"one", "two"});
     const FramePointer before = animation.frames.At(1);
 
     EditFrame(animation, 1, [](Frame& frame) { frame.x_offset = 7; });
@@ -157,7 +157,7 @@ TEST(EditFrame, KeepsTheIdAndLeavesTheFrameThatOthersHold) {
 }
 
 TEST(EditFramePalette, ChangesTheFramesPaletteOnly) {
-    Animation animation = AnimationOf({"one", "two"});
+    Animation animation = AnimationNamed({"one", "two"});
     const Animation before = animation;
 
     EditFramePalette(animation, 0, [](Palette& palette) { palette.transparent_index = 9; });
@@ -180,7 +180,7 @@ TEST(EditPalette, LeavesThePaletteThatOthersHold) {
 }
 
 TEST(Animation, FindsTheFirstFrameThatIsLargerThanTheCanvas) {
-    Animation animation = AnimationOf({"one", "two", "three"});
+    Animation animation = AnimationNamed({"one", "two", "three"});
     animation.width = 5;
     animation.height = 5;
     EXPECT_EQ(animation.FrameLargerThanCanvas(), nullptr);
@@ -194,7 +194,7 @@ TEST(Animation, FindsTheFirstFrameThatIsLargerThanTheCanvas) {
 }
 
 TEST(Animation, EqualsACopyUntilAnyPartOfItChanges) {
-    const Animation animation = AnimationOf({"one", "two"});
+    const Animation animation = AnimationNamed({"one", "two"});
     const std::function<void(Animation&)> edits[] = {
         [](Animation& a) { a.width = 1; },
         [](Animation& a) { a.height = 1; },
@@ -214,7 +214,7 @@ TEST(Animation, EqualsACopyUntilAnyPartOfItChanges) {
 }
 
 TEST(Animation, EqualsOneOfTheSameContentInOtherPlaces) {
-    const Animation animation = AnimationOf({"one", "two"});
+    const Animation animation = AnimationNamed({"one", "two"});
     Animation copy = animation;
 
     EditPalette(copy, [](Palette&) {});
@@ -226,7 +226,7 @@ TEST(Animation, EqualsOneOfTheSameContentInOtherPlaces) {
 }
 
 TEST(SelectFrames, SelectsSeveralAndMakesTheNearestCurrent) {
-    Animation animation = AnimationOf({"a", "b", "c", "d", "e"}, 4);
+    Animation animation = AnimationNamed({"a", "b", "c", "d", "e"}, 4);
 
     EXPECT_TRUE(SelectFrames(animation, FrameSet::Of(1, 3), 0));
 
@@ -236,7 +236,7 @@ TEST(SelectFrames, SelectsSeveralAndMakesTheNearestCurrent) {
 }
 
 TEST(SelectFrames, OfOneFrameOrNoneSelectsThatFrameOrTheCurrentOne) {
-    Animation animation = AnimationOf({"a", "b", "c"}, 1);
+    Animation animation = AnimationNamed({"a", "b", "c"}, 1);
     ASSERT_TRUE(SelectFrames(animation, FrameSet::AllOf(3), 1));
 
     EXPECT_TRUE(SelectFrames(animation, {}, 0));
@@ -248,7 +248,7 @@ TEST(SelectFrames, OfOneFrameOrNoneSelectsThatFrameOrTheCurrentOne) {
 }
 
 TEST(SelectFrames, TakesNoFramesThatThereAreNot) {
-    Animation animation = AnimationOf({"a", "b", "c"}, 1);
+    Animation animation = AnimationNamed({"a", "b", "c"}, 1);
 
     EXPECT_FALSE(SelectFrames(animation, FrameSet::Of(1, 3), 1));
     EXPECT_EQ(animation.selected, 1);
@@ -256,7 +256,7 @@ TEST(SelectFrames, TakesNoFramesThatThereAreNot) {
 
 TEST(Animation, SelectsTheCurrentFrameAloneAfterEachEditOfTheList) {
     const auto selected = [](auto edit) {
-        Animation animation = AnimationOf({"a", "b", "c", "d"}, 1);
+        Animation animation = AnimationNamed({"a", "b", "c", "d"}, 1);
         SelectFrames(animation, FrameSet::Of(1, 2), 1);
         edit(animation);
         return animation.several.Empty();
@@ -273,7 +273,7 @@ TEST(Animation, HasNoSelectionWithoutFrames) {
 }
 
 TEST(Animation, GivesAFrameItsOwnPauseOrElseItsOwn) {
-    Animation animation = AnimationOf({"a"});
+    Animation animation = AnimationNamed({"a"});
     animation.pause_length = 7;
     EXPECT_EQ(animation.PauseOf(*animation.CurrentFrame()), 0);
 

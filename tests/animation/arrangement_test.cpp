@@ -61,7 +61,7 @@ bool HasDistinctIds(const Animation& animation) {
     return static_cast<int32>(ids.size()) == animation.frames.Size();
 }
 
-void SetPauses(Animation& animation, const std::vector<double>& pauses) {
+void SetFramePauses(Animation& animation, const std::vector<double>& pauses) {
     for (size_t i = 0; i < pauses.size(); ++i) {
         EditFrame(animation, static_cast<int32>(i), [&](Frame& frame) {
             frame.use_pause = true;
@@ -70,7 +70,7 @@ void SetPauses(Animation& animation, const std::vector<double>& pauses) {
     }
 }
 
-std::vector<double> Pauses(const Animation& animation) {
+std::vector<double> PausesOf(const Animation& animation) {
     std::vector<double> pauses;
     for (const FramePointer& frame : animation.frames)
         pauses.push_back(animation.PauseOf(*frame));
@@ -196,12 +196,12 @@ TEST(StartAtCurrent, LetsTheFramesBeforeFollowAfterTheLast) {
 
 TEST(DropEveryNth, GivesTheTimeOfWhatGoesToTheFrameBefore) {
     Animation animation = AnimationOf("abcde", "3");
-    SetPauses(animation, {1, 2, 3, 4, 5});
+    SetFramePauses(animation, {1, 2, 3, 4, 5});
 
     EXPECT_TRUE(DropEveryNth(animation, 2));
 
     EXPECT_EQ(State(animation), "ace C");
-    EXPECT_EQ(Pauses(animation), (std::vector<double>{3, 7, 5}));
+    EXPECT_EQ(PausesOf(animation), (std::vector<double>{3, 7, 5}));
 }
 
 TEST(DropEveryNth, AddsThePausesOfTheAnimationToo) {
@@ -212,7 +212,7 @@ TEST(DropEveryNth, AddsThePausesOfTheAnimationToo) {
     EXPECT_TRUE(DropEveryNth(animation, 3));
 
     EXPECT_EQ(Names(animation), "ab");
-    EXPECT_EQ(Pauses(animation), (std::vector<double>{10, 20}));
+    EXPECT_EQ(PausesOf(animation), (std::vector<double>{10, 20}));
     EXPECT_FALSE(animation.frames.At(0)->use_pause);
 }
 
@@ -236,12 +236,12 @@ TEST(RemoveDuplicates, MergesFramesThatShowWhatTheOneBeforeShows) {
     const std::vector<uint32> greys = {9, 9, 20, 9, 9};
     for (size_t i = 0; i < greys.size(); ++i)
         SetGrey(animation, static_cast<int32>(i), greys[i]);
-    SetPauses(animation, {1, 2, 3, 4, 5});
+    SetFramePauses(animation, {1, 2, 3, 4, 5});
 
     EXPECT_TRUE(RemoveDuplicates(animation, 0, nullptr));
 
     EXPECT_EQ(Names(animation), "acd");
-    EXPECT_EQ(Pauses(animation), (std::vector<double>{3, 3, 9}));
+    EXPECT_EQ(PausesOf(animation), (std::vector<double>{3, 3, 9}));
     EXPECT_FALSE(RemoveDuplicates(animation, 0, nullptr));
 }
 

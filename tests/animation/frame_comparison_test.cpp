@@ -4,15 +4,12 @@
 #include <gtest/gtest.h>
 #include <random>
 
+#include "support/colors.h"
 #include "support/test_support.h"
 
 namespace kirto::test {
 
 namespace {
-
-constexpr uint32 kRed = 0xFFFF0000;
-constexpr uint32 kBlue = 0xFF0000FF;
-constexpr uint32 kNone = 0x00000000;
 
 Frame FrameOf(int32 width, int32 height, const std::vector<uint32>& argb, int32 left = 0,
               int32 top = 0, color_space space = B_RGB32) {

@@ -4,14 +4,12 @@
 #include <gtest/gtest.h>
 
 #include "animation/gif_source.h"
+#include "support/colors.h"
 #include "support/test_support.h"
 
 namespace kirto::test {
 
 namespace {
-
-constexpr uint32 kRed = 0xFFFF0000;
-constexpr uint32 kBlue = 0xFF0000FF;
 
 // Reads every file that is there as one given picture, or fails with a given status.
 class OnePictureRoster : public BTranslatorRoster {

@@ -4,20 +4,17 @@
 
 #include "animation/gif_source.h"
 #include "base/thread_count.h"
+#include "support/colors.h"
 #include "support/test_support.h"
 
 namespace kirto::test {
 
 namespace {
 
-constexpr uint32 kRed = 0xFFFF0000;
-constexpr uint32 kBlue = 0xFF0000FF;
-constexpr uint32 kNone = 0;
-
 using Pair = SaveDifferences::Pair;
 
 // Of frames of one pixel each, on a screen of one pixel.
-Animation AnimationOf(const std::vector<uint32>& pixels, double pause = 10) {
+Animation AnimationPainted(const std::vector<uint32>& pixels, double pause = 10) {
     Animation animation;
     animation.width = 1;
     animation.height = 1;
@@ -56,8 +53,8 @@ SaveDifferences Compare(const Animation& saved, const Animation& read,
 
 int32 Repaused(const std::vector<double>& saved_pauses, const std::vector<double>& read_pauses) {
     const std::vector<uint32> pixels(saved_pauses.size(), kRed);
-    Animation saved = AnimationOf(pixels);
-    Animation read = AnimationOf(pixels);
+    Animation saved = AnimationPainted(pixels);
+    Animation read = AnimationPainted(pixels);
     SetPauses(saved, saved_pauses);
     SetPauses(read, read_pauses);
     return Compare(saved, read).repaused;
@@ -66,7 +63,8 @@ int32 Repaused(const std::vector<double>& saved_pauses, const std::vector<double
 }  // namespace
 
 TEST(SaveComparison, FindsNothingInTheSameAnimation) {
-    const SaveDifferences none = Compare(AnimationOf({kRed, kNone}), AnimationOf({kRed, kNone}));
+    const SaveDifferences none =
+        Compare(AnimationPainted({kRed, kNone}), AnimationPainted({kRed, kNone}));
 
     EXPECT_FALSE(none.Any());
     EXPECT_EQ(none.frames, 2);
@@ -75,10 +73,10 @@ TEST(SaveComparison, FindsNothingInTheSameAnimation) {
 }
 
 TEST(SaveComparison, PixelsThatWereLeftOutShowATrail) {
-    Animation read = AnimationOf({kRed, kRed, kRed});
+    Animation read = AnimationPainted({kRed, kRed, kRed});
     SetTransparentIndex(read, 0);
 
-    const SaveDifferences trails = Compare(AnimationOf({kRed, kNone, kNone}), read);
+    const SaveDifferences trails = Compare(AnimationPainted({kRed, kNone, kNone}), read);
 
     EXPECT_EQ(trails.trailing, 2);
     EXPECT_EQ(trails.filled, 0);
@@ -89,7 +87,7 @@ TEST(SaveComparison, PixelsThatWereLeftOutShowATrail) {
 Animation PartlyRed(int32 red) {
     std::vector<uint32> pixels(20000, kNone);
     std::fill_n(pixels.begin(), red, kRed);
-    Animation animation = AnimationOf({kNone});
+    Animation animation = AnimationPainted({kNone});
     animation.width = 200;
     animation.height = 100;
     EditFrame(animation, 0, [&](Frame& frame) {
@@ -111,40 +109,42 @@ TEST(SaveComparison, PixelsThatAreTooFewToBeSeenAreNoTrail) {
 
 TEST(SaveComparison, SumsUpHowFarColorsAreOff) {
     const SaveDifferences found =
-        Compare(AnimationOf({0xFF102030, kBlue}), AnimationOf({0xFF122F30, kBlue}));
+        Compare(AnimationPainted({0xFF102030, kBlue}), AnimationPainted({0xFF122F30, kBlue}));
     EXPECT_EQ(found.recolored, 1);
     EXPECT_EQ(found.distance, 2 + 15);
 }
 
 TEST(SaveComparison, CountsFramesThatBrowsersPlaySlower) {
-    EXPECT_EQ(Compare(AnimationOf({kRed, kBlue}, 1), AnimationOf({kRed, kBlue}, 1)).short_pauses,
+    EXPECT_EQ(Compare(AnimationPainted({kRed, kBlue}, 1), AnimationPainted({kRed, kBlue}, 1))
+                  .short_pauses,
               2);
-    EXPECT_EQ(Compare(AnimationOf({kRed, kBlue}, 2), AnimationOf({kRed, kBlue}, 2)).short_pauses,
+    EXPECT_EQ(Compare(AnimationPainted({kRed, kBlue}, 2), AnimationPainted({kRed, kBlue}, 2))
+                  .short_pauses,
               0);
-    EXPECT_EQ(Compare(AnimationOf({kRed}, 0), AnimationOf({kRed}, 0)).short_pauses, 0);
+    EXPECT_EQ(Compare(AnimationPainted({kRed}, 0), AnimationPainted({kRed}, 0)).short_pauses, 0);
 }
 
 TEST(SaveComparison, AThresholdSaysWhatWasLeftOut) {
-    const Animation saved = AnimationOf({0x40FF0000});
-    EXPECT_TRUE(Compare(saved, AnimationOf({kRed})).Any());
-    EXPECT_FALSE(Compare(saved, AnimationOf({kRed}), {.threshold = 50}).Any());
-    EXPECT_TRUE(Compare(saved, AnimationOf({kNone}), {.threshold = 50}).Any());
+    const Animation saved = AnimationPainted({0x40FF0000});
+    EXPECT_TRUE(Compare(saved, AnimationPainted({kRed})).Any());
+    EXPECT_FALSE(Compare(saved, AnimationPainted({kRed}), {.threshold = 50}).Any());
+    EXPECT_TRUE(Compare(saved, AnimationPainted({kNone}), {.threshold = 50}).Any());
 }
 
 TEST(SaveComparison, WithoutATransparentColorTheyAreFilled) {
-    Animation read = AnimationOf({kRed, kRed});
+    Animation read = AnimationPainted({kRed, kRed});
     SetTransparentIndex(read, -1);
 
-    const SaveDifferences filled = Compare(AnimationOf({kRed, kNone}), read);
+    const SaveDifferences filled = Compare(AnimationPainted({kRed, kNone}), read);
 
     EXPECT_EQ(filled.trailing, 0);
     EXPECT_EQ(filled.filled, 1);
 }
 
 TEST(SaveComparison, WhatShowsAroundAFrameIsATrail) {
-    Animation saved = AnimationOf({kRed});
+    Animation saved = AnimationPainted({kRed});
     saved.width = 2;
-    Animation read = AnimationOf({});
+    Animation read = AnimationPainted({});
     read.width = 2;
     read.height = 1;
     Frame wide("wide", 2, 1);
@@ -159,12 +159,12 @@ TEST(SaveComparison, WhatShowsAroundAFrameIsATrail) {
 }
 
 TEST(SaveComparison, CountsLostColorsAndNamesThePalettesSize) {
-    Animation saved = AnimationOf({kRed, kRed, kRed, kRed});
+    Animation saved = AnimationPainted({kRed, kRed, kRed, kRed});
     EditPalette(saved, [](Palette& palette) { palette.size = 216; });
     Animation local = saved;
     EditFrame(local, 1, [](Frame& frame) { frame.local_palette = true; });
     EditFramePalette(local, 1, [](Palette& palette) { palette.size = 8; });
-    const Animation read = AnimationOf({kRed, kBlue, kRed, kRed});
+    const Animation read = AnimationPainted({kRed, kBlue, kRed, kRed});
 
     const SaveDifferences differences = Compare(saved, read);
 
@@ -175,30 +175,31 @@ TEST(SaveComparison, CountsLostColorsAndNamesThePalettesSize) {
 }
 
 TEST(SaveComparison, NamesTheSizeOfAPaletteThatIsTheFilesOwn) {
-    Animation read = AnimationOf({kBlue});
+    Animation read = AnimationPainted({kBlue});
     auto source = std::make_shared<GifSource>();
     source->table = std::make_shared<const std::vector<rgb_color>>(64);
     EditFrame(read, 0, [&](Frame& frame) { frame.source = source; });
 
-    EXPECT_EQ(Compare(AnimationOf({kRed}), read, {.own_palettes = true}).most_colors, 64);
+    EXPECT_EQ(Compare(AnimationPainted({kRed}), read, {.own_palettes = true}).most_colors, 64);
 }
 
 TEST(SaveComparison, CountsFramesWithHoles) {
-    EXPECT_EQ(Compare(AnimationOf({kRed, kRed}), AnimationOf({kRed, kNone})).holed, 1);
+    EXPECT_EQ(Compare(AnimationPainted({kRed, kRed}), AnimationPainted({kRed, kNone})).holed, 1);
 }
 
 TEST(SaveComparison, OneFrameMayStandForSeveralThatShowTheSame) {
-    Animation read = AnimationOf({kRed, kBlue, kNone});
+    Animation read = AnimationPainted({kRed, kBlue, kNone});
     SetPauses(read, {10, 30, 10});
 
-    EXPECT_FALSE(Compare(AnimationOf({kRed, kBlue, kBlue, kBlue, kNone}), read).Any());
+    EXPECT_FALSE(Compare(AnimationPainted({kRed, kBlue, kBlue, kBlue, kNone}), read).Any());
 }
 
 TEST(SaveComparison, FramesThatStandForOthersCountAsThem) {
-    Animation read = AnimationOf({kRed, kBlue});
+    Animation read = AnimationPainted({kRed, kBlue});
     SetPauses(read, {10, 30});
 
-    const SaveDifferences differences = Compare(AnimationOf({kRed, kNone, kNone, kNone}), read);
+    const SaveDifferences differences =
+        Compare(AnimationPainted({kRed, kNone, kNone, kNone}), read);
 
     EXPECT_EQ(differences.trailing, 3);
     EXPECT_EQ(differences.pixels, 4);
@@ -206,8 +207,9 @@ TEST(SaveComparison, FramesThatStandForOthersCountAsThem) {
 }
 
 TEST(SaveComparison, TellsOfAnotherNumberOfFrames) {
-    const SaveDifferences fewer = Compare(AnimationOf({kRed, kBlue, kRed}), AnimationOf({kRed}));
-    const SaveDifferences none = Compare(AnimationOf({kRed}), Animation());
+    const SaveDifferences fewer =
+        Compare(AnimationPainted({kRed, kBlue, kRed}), AnimationPainted({kRed}));
+    const SaveDifferences none = Compare(AnimationPainted({kRed}), Animation());
 
     EXPECT_EQ(fewer.other_frames, 1);
     EXPECT_FALSE(fewer.other_size);
@@ -217,8 +219,8 @@ TEST(SaveComparison, TellsOfAnotherNumberOfFrames) {
 }
 
 TEST(SaveComparison, TellsOfAnotherSizeAndAnotherLoop) {
-    const Animation saved = AnimationOf({kRed});
-    Animation read = AnimationOf({kRed});
+    const Animation saved = AnimationPainted({kRed});
+    Animation read = AnimationPainted({kRed});
     read.width = 3;
     read.use_loop = true;
 
@@ -229,14 +231,14 @@ TEST(SaveComparison, TellsOfAnotherSizeAndAnotherLoop) {
 }
 
 TEST(SaveComparison, PausesOfTheAnimationAreThoseOfItsFrames) {
-    Animation saved = AnimationOf({kRed});
+    Animation saved = AnimationPainted({kRed});
     EditFrame(saved, 0, [](Frame& frame) { frame.use_pause = false; });
     saved.pause_length = 0.1;
 
-    EXPECT_EQ(Compare(saved, AnimationOf({kRed}), {.pauses_in_seconds = true}).repaused, 1);
+    EXPECT_EQ(Compare(saved, AnimationPainted({kRed}), {.pauses_in_seconds = true}).repaused, 1);
     saved.use_pause = true;
-    EXPECT_EQ(Compare(saved, AnimationOf({kRed}), {.pauses_in_seconds = true}).repaused, 0);
-    EXPECT_EQ(Compare(saved, AnimationOf({kRed})).repaused, 1);
+    EXPECT_EQ(Compare(saved, AnimationPainted({kRed}), {.pauses_in_seconds = true}).repaused, 0);
+    EXPECT_EQ(Compare(saved, AnimationPainted({kRed})).repaused, 1);
 }
 
 TEST(SaveComparison, SpreadPausesAreRightAsLongAsFramesBeginWhenTheyShould) {
@@ -260,7 +262,7 @@ TEST(SaveComparison, IsTheSameForAnyNumberOfThreads) {
     std::vector<SaveDifferences> all;
     for (const int32 threads : {1, 2, 3, 16}) {
         SetThreadCount(threads);
-        all.push_back(Compare(AnimationOf(saved), AnimationOf(read)));
+        all.push_back(Compare(AnimationPainted(saved), AnimationPainted(read)));
     }
     SetThreadCount(before);
 
@@ -273,8 +275,8 @@ TEST(SaveComparison, IsTheSameForAnyNumberOfThreads) {
 TEST(SaveComparison, KnowsNothingWhereTheWorkIsStopped) {
     Work work;
     work.StopAll();
-    const Animation saved = AnimationOf({kRed});
-    const Animation read = AnimationOf({kBlue});
+    const Animation saved = AnimationPainted({kRed});
+    const Animation read = AnimationPainted({kBlue});
 
     EXPECT_EQ(SaveComparison(saved, read, {}, &work).Compare(), SaveDifferences());
 }

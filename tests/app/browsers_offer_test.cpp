@@ -17,8 +17,8 @@ constexpr const char* kOffer =
     "WARNING [] The animation can't be opened because it was corrupted or unreadable. | Open as "
     "Browsers Do | Salvage | OK";
 constexpr int32 kAsBrowsers = 0;
-constexpr int32 kSalvage = 1;
-constexpr int32 kOk = 2;
+constexpr int32 kSalvageButton = 1;
+constexpr int32 kOkButton = 2;
 
 const std::vector<uint32> kFourColors = {0x000000, 0xFF0000, 0x00FF00, 0x0000FF};
 const std::vector<uint32> kEightColors(8, 0xFF0000);
@@ -59,7 +59,7 @@ class BrowsersOfferTest : public testing::Test {
         std::string alert;
     };
     // Refused, with that answer.
-    Answered Open(AnimationType type, const std::vector<uint8>& bytes, int32 answer = kOk) {
+    Answered Open(AnimationType type, const std::vector<uint8>& bytes, int32 answer = kOkButton) {
         const AlertRecorder alerts({answer});
         BrowsersOffer offer;
         AnimationDocument& document = fixture_.document;
@@ -117,10 +117,10 @@ TEST_F(BrowsersOfferTest, TheUserChooses) {
     EXPECT_EQ(browsers.alert, kOffer);
     EXPECT_EQ(fixture_.document.FrameCount(), 1);
 
-    EXPECT_FALSE(Open(AnimationType::kGif, WithoutTrailer(), kSalvage).accepted);
+    EXPECT_FALSE(Open(AnimationType::kGif, WithoutTrailer(), kSalvageButton).accepted);
     EXPECT_EQ(fixture_.document.FrameCount(), 2);
 
-    EXPECT_FALSE(Open(AnimationType::kGif, WithoutTrailer(), kOk).accepted);
+    EXPECT_FALSE(Open(AnimationType::kGif, WithoutTrailer(), kOkButton).accepted);
     EXPECT_EQ(fixture_.document.FrameCount(), 0);
 }
 

@@ -11,7 +11,7 @@ constexpr int32 kSalvage = 0;
 constexpr const char* kDamaged =
     "WARNING [] The animation can't be opened because it was corrupted or unreadable. | Salvage | "
     "OK";
-constexpr const char* kPaletteUnreadable =
+constexpr const char* kNoPalette =
     "The palette can't be loaded because the file was corrupted or unreadable.";
 
 class KirtoOpen : public KirtoFixture {
@@ -238,7 +238,7 @@ TEST_F(KirtoOpen, PutsAPaletteBackThatCantBeLoaded) {
         const auto palette = global ? app_->Current()->palette : app_->FirstFrame()->palette;
         EXPECT_EQ(palette->mode, kPaletteWebSafe);
         EXPECT_TRUE(app_->Modified());
-        EXPECT_EQ(TakeLines(), Lines{WarningLine(kPaletteUnreadable)});
+        EXPECT_EQ(TakeLines(), Lines{WarningLine(kNoPalette)});
     }
     EXPECT_EQ(Names(), Lines{"[old]"});
 }

@@ -13,7 +13,7 @@ constexpr const char* kSaveQuestion =
     "WARNING [] Do you want to save your changes? | Cancel | Discard | Save";
 constexpr int32 kCancelButton = 0;
 constexpr int32 kOpenButton = 1;
-constexpr int32 kInsertButton = 2;
+constexpr int32 kInsert = 2;
 constexpr int32 kDiscardButton = 1;
 constexpr int32 kSaveButton = 2;
 
@@ -180,7 +180,7 @@ TEST_F(KirtoRefs, InsertsADroppedAnimationIntoTheCurrentOne) {
     Write("anim.gif", GifOf({10, 20}));
     Start();
     Append({"first", "second"});
-    desktop_.Answer({kInsertButton});
+    desktop_.Answer({kInsert});
     BMessage drop = Files(B_SIMPLE_DATA, {"anim.gif"});
     drop.AddInt32("position", 1);
 
@@ -197,7 +197,7 @@ TEST_F(KirtoRefs, AsksAnewForAMessageThatSaysResetAlready) {
     Write("anim.gif", GifOf({10}));
     Start();
     Append({"old"});
-    desktop_.Answer({kInsertButton});
+    desktop_.Answer({kInsert});
     BMessage drop = Files(B_SIMPLE_DATA, {"anim.gif"});
     drop.AddBool("reset", true);
 

@@ -12,7 +12,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr const char* kNotCreated =
+constexpr const char* kFileNotCreated =
     "The animation can't be saved because the file could not be created at this location.";
 constexpr const char* kAbandoned = "pending command abandoned";
 
@@ -137,7 +137,7 @@ TEST_F(KirtoSave, ForgetsANameThatCantBeCreated) {
 
     EXPECT_EQ(Do(SaveTo(File("missing"), "out.gif")), "auda");
 
-    EXPECT_EQ(TakeLines(), (Lines{WarningLine(kNotCreated), kAbandoned}));
+    EXPECT_EQ(TakeLines(), (Lines{WarningLine(kFileNotCreated), kAbandoned}));
     EXPECT_EQ(app_->CurrentState()->file_name, "untitled");
     EXPECT_EQ(app_->CurrentState()->file_directory, "");
     EXPECT_TRUE(app_->Modified());
@@ -160,7 +160,7 @@ TEST_F(KirtoSave, AgainWithoutADirectoryWritesNothing) {
 
     fs::current_path(before);
     Lines lines = TakeLines();
-    EXPECT_EQ(std::count(lines.begin(), lines.end(), WarningLine(kNotCreated)), 3);
+    EXPECT_EQ(std::count(lines.begin(), lines.end(), WarningLine(kFileNotCreated)), 3);
     EXPECT_TRUE(app_->Modified());
     EXPECT_EQ(app_->CurrentState()->file_name, "untitled");
     EXPECT_EQ(FolderContent(), Lines{});
@@ -178,7 +178,7 @@ TEST_F(KirtoSave, KeepsTheOldFileWhenTheNewOneCantBeWritten) {
     }
 
     EXPECT_EQ(transcript, "svup(Status: writing frame 1 of 1...) auda");
-    EXPECT_EQ(TakeLines(), (Lines{WarningLine(kNotCreated), kAbandoned}));
+    EXPECT_EQ(TakeLines(), (Lines{WarningLine(kFileNotCreated), kAbandoned}));
     EXPECT_EQ(ReadBytes(File("out.gif")), (std::vector<uint8>{'o', 'l', 'd'}));
     EXPECT_EQ(FolderContent(), Lines{"out.gif"});
     EXPECT_EQ(app_->CurrentState()->file_name, "untitled");

@@ -6,6 +6,7 @@
 #include <sys/resource.h>
 
 #include "app/open_animation.h"
+#include "support/colors.h"
 #include "support/test_support.h"
 
 namespace kirto::test {
@@ -13,9 +14,6 @@ namespace kirto::test {
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr uint32 kRed = 0xFFFF0000;
-constexpr uint32 kBlue = 0xFF0000FF;
 
 const std::vector<uint8> kOldBytes = {'o', 'l', 'd'};
 

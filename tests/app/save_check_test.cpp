@@ -5,6 +5,7 @@
 #include <thread>
 
 #include "app/save_animation.h"
+#include "support/colors.h"
 #include "support/test_support.h"
 
 namespace kirto::test {
@@ -12,7 +13,6 @@ namespace kirto::test {
 namespace {
 
 constexpr uint64 kEnough = uint64{64} << 20;
-constexpr uint32 kRed = 0xFFFF0000;
 constexpr uint32 kOffPalette = 0xFF123456;
 
 class SaveCheckTest : public testing::Test {

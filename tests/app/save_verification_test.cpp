@@ -4,6 +4,7 @@
 #include <thread>
 
 #include "app/save_animation.h"
+#include "support/colors.h"
 #include "support/gif_builder.h"
 #include "support/test_support.h"
 
@@ -13,9 +14,7 @@ namespace {
 
 using Result = SaveVerification::Result;
 
-constexpr uint64 kEnough = uint64{64} << 20;
-constexpr uint32 kRed = 0xFFFF0000;
-constexpr uint32 kGreen = 0xFF00FF00;
+constexpr uint64 kEnoughMemory = uint64{64} << 20;
 
 class SaveVerificationTest : public testing::Test {
   protected:
@@ -41,7 +40,7 @@ class SaveVerificationTest : public testing::Test {
 
 TEST_F(SaveVerificationTest, FindsNothingWhereTheFileShowsTheSame) {
     const auto saved = Save(kRed, kGreen);
-    SaveVerification verification(kEnough);
+    SaveVerification verification(kEnoughMemory);
 
     EXPECT_EQ(verification.Run(Path(), *saved, {}), Result::kEqual);
     EXPECT_EQ(verification.Read()->frames.Size(), 2);
@@ -50,7 +49,7 @@ TEST_F(SaveVerificationTest, FindsNothingWhereTheFileShowsTheSame) {
 
 TEST_F(SaveVerificationTest, FindsWhatTheFileShowsOtherwise) {
     const auto saved = Save(kRed, 0);
-    SaveVerification verification(kEnough);
+    SaveVerification verification(kEnoughMemory);
 
     EXPECT_EQ(verification.Run(Path(), *saved, {}), Result::kDifferent);
     EXPECT_EQ(verification.Differences().filled, 1);
@@ -62,7 +61,7 @@ TEST_F(SaveVerificationTest, ComparesAFileThatBreaksOffAsFarAsItGoes) {
     std::vector<uint8> bytes = ReadBytes(Path());
     bytes.resize(bytes.size() - 8);
     WriteBytes(Path(), bytes);
-    SaveVerification verification(kEnough);
+    SaveVerification verification(kEnoughMemory);
 
     EXPECT_EQ(verification.Run(Path(), *saved, {}), Result::kDifferent);
     EXPECT_TRUE(alerts_.Lines().empty());
@@ -70,7 +69,7 @@ TEST_F(SaveVerificationTest, ComparesAFileThatBreaksOffAsFarAsItGoes) {
 
 TEST_F(SaveVerificationTest, CantTellWithoutTheFileOrWithoutMemory) {
     const auto saved = Save(kRed, kGreen);
-    SaveVerification missing(kEnough);
+    SaveVerification missing(kEnoughMemory);
     SaveVerification cramped(PixelBudget::kFrameCost);
 
     EXPECT_EQ(missing.Run(folder_.File("missing.gif"), *saved, {}), Result::kUnreadable);
@@ -80,11 +79,11 @@ TEST_F(SaveVerificationTest, CantTellWithoutTheFileOrWithoutMemory) {
 
 TEST_F(SaveVerificationTest, EndsWhereItIsStopped) {
     const auto saved = Save(kRed, 0);
-    SaveVerification before(kEnough);
+    SaveVerification before(kEnoughMemory);
     before.RequestStop();
     EXPECT_EQ(before.Run(Path(), *saved, {}), Result::kStopped);
 
-    SaveVerification meanwhile(kEnough);
+    SaveVerification meanwhile(kEnoughMemory);
     std::thread stopper([&meanwhile] { meanwhile.RequestStop(); });
     const Result result = meanwhile.Run(Path(), *saved, {});
     stopper.join();

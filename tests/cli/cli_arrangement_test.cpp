@@ -34,7 +34,7 @@ struct ArrangementHome : CliHome {
     }
 };
 
-void ExpectRefused(const Arguments& edits, const std::string& line, int status = 2) {
+void ExpectArrangementRefused(const Arguments& edits, const std::string& line, int status = 2) {
     const ArrangementHome home;
     const RunResult result = home.Run(ArrangementHome::Opened(edits));
     EXPECT_EQ(result.status, status) << edits.front() << " " << edits.back();
@@ -60,9 +60,11 @@ TEST(KirtoCli, MovesAndCopiesFramesToAPlace) {
 
     EXPECT_EQ(home.Order({"--select", "1-2", "--move-to", "0"}), "120");
     EXPECT_EQ(home.Order({"--select", "0", "--copy-to", "3"}), "0120");
-    ExpectRefused({"--move-to", "4"}, "There is no place 4; the animation has 3 frame(s).", 1);
-    ExpectRefused({"--copy-to", "-1"}, "There is no place -1; the animation has 3 frame(s).", 1);
-    ExpectRefused({"--move-to", "x"}, "--move-to: \"x\" is not a number.");
+    ExpectArrangementRefused({"--move-to", "4"},
+                             "There is no place 4; the animation has 3 frame(s).", 1);
+    ExpectArrangementRefused({"--copy-to", "-1"},
+                             "There is no place -1; the animation has 3 frame(s).", 1);
+    ExpectArrangementRefused({"--move-to", "x"}, "--move-to: \"x\" is not a number.");
 }
 
 TEST(KirtoCli, PlaysForwardAndBack) {
@@ -76,7 +78,7 @@ TEST(KirtoCli, DropsFramesAndKeepsTheDuration) {
     const ArrangementHome home;
 
     EXPECT_EQ(home.Pauses({"--delay", "4", "--every", "2"}), (Numbers{8, 4}));
-    ExpectRefused({"--every", "1"}, "--every: \"1\" is not a number from 2 up.");
+    ExpectArrangementRefused({"--every", "1"}, "--every: \"1\" is not a number from 2 up.");
 }
 
 TEST(KirtoCli, MergesDuplicates) {
@@ -84,8 +86,8 @@ TEST(KirtoCli, MergesDuplicates) {
 
     EXPECT_EQ(home.Order({"--duplicate", "--duplicate", "--remove-duplicates"}), "012");
     EXPECT_EQ(home.Order({"--remove-duplicates", "255"}), "0");
-    ExpectRefused({"--remove-duplicates", "256"},
-                  "--remove-duplicates: \"256\" is not a number from 0 to 255.");
+    ExpectArrangementRefused({"--remove-duplicates", "256"},
+                             "--remove-duplicates: \"256\" is not a number from 0 to 255.");
 }
 
 TEST(KirtoCli, SetsPausesInTheUnitsOfPeople) {
@@ -99,11 +101,14 @@ TEST(KirtoCli, SetsPausesInTheUnitsOfPeople) {
 }
 
 TEST(KirtoCli, RefusesWhatIsNoPause) {
-    ExpectRefused({"--delay", "x"}, "--delay: \"x\": expected [FRAMES:]PAUSE, such as 3-9:40ms.");
-    ExpectRefused({"--delay", "3-4:2"},
-                  "There are not all frames of \"3-4\"; the animation has 3 frame(s).", 1);
-    ExpectRefused({"--fps", "0"}, "--fps: \"0\" is not a number above 0.");
-    ExpectRefused({"--speed", "2"}, "--speed: \"2\": expected a percentage such as 150%.");
+    ExpectArrangementRefused({"--delay", "x"},
+                             "--delay: \"x\": expected [FRAMES:]PAUSE, such as 3-9:40ms.");
+    ExpectArrangementRefused({"--delay", "3-4:2"},
+                             "There are not all frames of \"3-4\"; the animation has 3 frame(s).",
+                             1);
+    ExpectArrangementRefused({"--fps", "0"}, "--fps: \"0\" is not a number above 0.");
+    ExpectArrangementRefused({"--speed", "2"},
+                             "--speed: \"2\": expected a percentage such as 150%.");
 }
 
 }  // namespace kirto::test

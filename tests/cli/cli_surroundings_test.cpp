@@ -13,7 +13,7 @@ std::vector<uint8> BytesOf(const std::string& text) {
     return {text.begin(), text.end()};
 }
 
-std::string TextOf(const std::string& path) {
+std::string FileText(const std::string& path) {
     const std::vector<uint8> bytes = ReadBytes(path);
     return {bytes.begin(), bytes.end()};
 }
@@ -23,7 +23,7 @@ std::vector<uint8> GifWithComment() {
 }
 
 // The arguments are refused with exactly this line.
-void ExpectRefused(const Arguments& arguments, const std::string& line) {
+void ExpectUsageRefused(const Arguments& arguments, const std::string& line) {
     const RunResult result = CliHome().Run(arguments);
     EXPECT_EQ(result.status, 2);
     EXPECT_EQ(result.err, "kirto-cli: " + line + "\n");
@@ -69,26 +69,26 @@ TEST(KirtoCli, TakesSettingsWhoseValueHoldsAnEqualsSign) {
 }
 
 TEST(KirtoCli, RefusesSettingsThatAreNone) {
-    ExpectRefused({"--set", "global_width"}, "--set: \"global_width\": expected KEY=VALUE.");
-    ExpectRefused({"--set", "=5"}, "--set: There is no setting named \"\".");
-    ExpectRefused({"--set", "speed=5"}, "--set: There is no setting named \"speed\".");
-    ExpectRefused({"--set", "global_width=wide"},
-                  "--set: global_width: \"wide\" is not a whole number.");
-    ExpectRefused({"--set", "palette_dither=on"},
-                  "--set: palette_dither: \"on\" is neither true nor false.");
+    ExpectUsageRefused({"--set", "global_width"}, "--set: \"global_width\": expected KEY=VALUE.");
+    ExpectUsageRefused({"--set", "=5"}, "--set: There is no setting named \"\".");
+    ExpectUsageRefused({"--set", "speed=5"}, "--set: There is no setting named \"speed\".");
+    ExpectUsageRefused({"--set", "global_width=wide"},
+                       "--set: global_width: \"wide\" is not a whole number.");
+    ExpectUsageRefused({"--set", "palette_dither=on"},
+                       "--set: palette_dither: \"on\" is neither true nor false.");
 }
 
 TEST(KirtoCli, ReadsTheUsersSettings) {
     const CliHome home;
     home.Info({});
-    std::string settings = TextOf(home.ConfigFile());
+    std::string settings = FileText(home.ConfigFile());
     const size_t width = settings.find("320");
     ASSERT_NE(width, std::string::npos) << settings;
     settings.replace(width, 3, "111");
     WriteBytes(home.ConfigFile(), BytesOf(settings));
 
     EXPECT_EQ(home.Info({})["global_width"], 111);
-    EXPECT_EQ(TextOf(home.ConfigFile()), settings);
+    EXPECT_EQ(FileText(home.ConfigFile()), settings);
 }
 
 TEST(KirtoCli, PutsADamagedSettingsFileAsideAndGoesOn) {
@@ -103,7 +103,7 @@ TEST(KirtoCli, PutsADamagedSettingsFileAsideAndGoesOn) {
     EXPECT_EQ(result.err, "kirto-cli: The settings file was damaged. It has been put aside as \"" +
                               home.ConfigFile() +
                               ".damaged\", and default values will be used instead.\n");
-    EXPECT_EQ(TextOf(home.ConfigFile() + ".damaged"), damaged);
+    EXPECT_EQ(FileText(home.ConfigFile() + ".damaged"), damaged);
     EXPECT_EQ(home.Run({"--info"}).err, "");
 }
 

@@ -5,13 +5,13 @@ namespace kirto::test {
 
 namespace {
 
-constexpr uint32 kRed = 0xFF0000;
-constexpr uint32 kBlue = 0x0000FF;
+constexpr uint32 kOverlayRed = 0xFF0000;
+constexpr uint32 kOverlayBlue = 0x0000FF;
 
 struct Overlays : ImageHome {
     Overlays() {
-        Write("red.ppm", Ppm(3, 1, {kRed, kRed, kRed}));
-        Write("dot.ppm", Ppm(1, 1, {kBlue}));
+        Write("red.ppm", Ppm(3, 1, {kOverlayRed, kOverlayRed, kOverlayRed}));
+        Write("dot.ppm", Ppm(1, 1, {kOverlayBlue}));
     }
 };
 
@@ -24,21 +24,23 @@ TEST(KirtoCliImages, DrawsAnImageOverTheSelectedFrames) {
         edits.insert(edits.begin(), two.begin(), two.end());
         return home.Frames(edits);
     };
-    const Colors red = {kRed, kRed, kRed};
+    const Colors red = {kOverlayRed, kOverlayRed, kOverlayRed};
 
-    EXPECT_EQ(frames({"--overlay", "dot.ppm"}), (std::vector<Colors>{red, {kBlue, kRed, kRed}}));
+    EXPECT_EQ(frames({"--overlay", "dot.ppm"}),
+              (std::vector<Colors>{red, {kOverlayBlue, kOverlayRed, kOverlayRed}}));
     EXPECT_EQ(frames({"--select", "all", "--overlay", "dot.ppm@2,0"}),
-              (std::vector<Colors>{{kRed, kRed, kBlue}, {kRed, kRed, kBlue}}));
+              (std::vector<Colors>{{kOverlayRed, kOverlayRed, kOverlayBlue},
+                                   {kOverlayRed, kOverlayRed, kOverlayBlue}}));
     EXPECT_EQ(frames({"--overlay", "dot.ppm@1,0:50%"}),
-              (std::vector<Colors>{red, {kRed, 0x7F0080, kRed}}));
+              (std::vector<Colors>{red, {kOverlayRed, 0x7F0080, kOverlayRed}}));
     EXPECT_EQ(frames({"--overlay", "dot.ppm@1,0", "--undo"}), (std::vector<Colors>{red, red}));
 }
 
 TEST(KirtoCliImages, TellsAtSignsInNamesFromPlacesOfOverlays) {
     const Overlays home;
-    home.Write("a@1,0", Ppm(1, 1, {kBlue}));
+    home.Write("a@1,0", Ppm(1, 1, {kOverlayBlue}));
     EXPECT_EQ(home.Frames({"--insert", "red.ppm", "--overlay", "a@1,0"}),
-              (std::vector<Colors>{{kBlue, kRed, kRed}}));
+              (std::vector<Colors>{{kOverlayBlue, kOverlayRed, kOverlayRed}}));
 }
 
 TEST(KirtoCliImages, EndsAtAnOverlayThatCanNotBeRead) {

@@ -5,15 +5,15 @@ namespace kirto::test {
 
 namespace {
 
-constexpr uint32 kRed = 0xFF0000;
-constexpr uint32 kGreen = 0x00FF00;
-constexpr uint32 kBlue = 0x0000FF;
+constexpr uint32 kSheetRed = 0xFF0000;
+constexpr uint32 kSheetGreen = 0x00FF00;
+constexpr uint32 kSheetBlue = 0x0000FF;
 
 struct SheetHome : ImageHome {
     SheetHome() {
-        Write("red.ppm", Ppm(2, 1, {kRed, kRed}));
-        Write("green.ppm", Ppm(2, 1, {kGreen, kGreen}));
-        Write("blue.ppm", Ppm(2, 1, {kBlue, kBlue}));
+        Write("red.ppm", Ppm(2, 1, {kSheetRed, kSheetRed}));
+        Write("green.ppm", Ppm(2, 1, {kSheetGreen, kSheetGreen}));
+        Write("blue.ppm", Ppm(2, 1, {kSheetBlue, kSheetBlue}));
     }
     Arguments Three(const Arguments& edits) const {
         Arguments all = {"--insert", "red.ppm", "--insert", "green.ppm", "--insert", "blue.ppm"};
@@ -22,7 +22,8 @@ struct SheetHome : ImageHome {
     }
 };
 
-const std::vector<Colors> kFrames = {{kRed, kRed}, {kGreen, kGreen}, {kBlue, kBlue}};
+const std::vector<Colors> kFrames = {
+    {kSheetRed, kSheetRed}, {kSheetGreen, kSheetGreen}, {kSheetBlue, kSheetBlue}};
 
 }  // namespace
 

@@ -26,7 +26,7 @@ std::shared_ptr<const Picture> Square(const std::vector<uint32>& argb,
     return FramePictureOf(512, 512, argb, space);
 }
 
-std::vector<rgb_color> OptimalColors(const Picture& picture) {
+std::vector<rgb_color> OptimalPaletteColors(const Picture& picture) {
     Palette palette;
     return palette.MakeNearestColorPalette(&picture).value_or(std::vector<rgb_color>{});
 }
@@ -51,7 +51,7 @@ TEST(ColorSlices, MakeThePaletteThatSortingMakes) {
     for (const uint32 mask : {0xFFFFFFU, 0xFF0FFFU, 0xFFFF00U, 0x3F3F3FU, 0x7F00FFU, 0x00FFFFU}) {
         const auto picture = Square(RandomPixels(++seed, mask));
         ASSERT_NE(picture->AllStrips().front()->Pixels(), nullptr);
-        EXPECT_EQ(OptimalColors(*picture), ReferenceOptimal(*picture)) << std::hex << mask;
+        EXPECT_EQ(OptimalPaletteColors(*picture), ReferenceOptimal(*picture)) << std::hex << mask;
         EXPECT_EQ(Palette().CountUniqueColors(picture.get()),
                   static_cast<int32>(ReferenceColors(*picture).size()));
     }
@@ -60,7 +60,8 @@ TEST(ColorSlices, MakeThePaletteThatSortingMakes) {
 TEST(ColorSlices, MakeTheSamePaletteOfBytesInTheOtherOrder) {
     const std::vector<uint32> argb = RandomPixels(7, 0x7F7F7F);
 
-    EXPECT_EQ(OptimalColors(*Square(argb, B_RGB32_BIG)), OptimalColors(*Square(argb)));
+    EXPECT_EQ(OptimalPaletteColors(*Square(argb, B_RGB32_BIG)),
+              OptimalPaletteColors(*Square(argb)));
 }
 
 TEST(ColorSlices, CountColorsThatComeLateInAPictureOfFew) {
@@ -68,7 +69,7 @@ TEST(ColorSlices, CountColorsThatComeLateInAPictureOfFew) {
     std::fill(argb.begin(), argb.begin() + 512 * 100 + 17, 0xFF010203);
     const auto picture = Square(argb);
 
-    EXPECT_EQ(OptimalColors(*picture), ReferenceOptimal(*picture));
+    EXPECT_EQ(OptimalPaletteColors(*picture), ReferenceOptimal(*picture));
 }
 
 TEST(ColorSlices, AreDoneWithoutWhereMemoryIsShort) {
@@ -78,7 +79,7 @@ TEST(ColorSlices, AreDoneWithoutWhereMemoryIsShort) {
     int64 calls = 1;
     for (int64 failing = 1; failing <= calls + 1; ++failing) {
         const AllocationFault fault(failing);
-        const std::vector<rgb_color> colors = OptimalColors(*picture);
+        const std::vector<rgb_color> colors = OptimalPaletteColors(*picture);
         calls = std::max(calls, fault.Calls());
         ASSERT_TRUE(colors.empty() || colors == wanted) << failing;
         if (failing > fault.Calls()) {

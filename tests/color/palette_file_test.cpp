@@ -10,7 +10,7 @@ namespace {
 
 using Bytes = std::vector<uint8>;
 
-constexpr rgb_color kBlack{0, 0, 0, 255};
+constexpr rgb_color kFileBlack{0, 0, 0, 255};
 
 Bytes operator+(Bytes left, const Bytes& right) {
     left.insert(left.end(), right.begin(), right.end());
@@ -82,7 +82,7 @@ Bytes ColorChunk(const Bytes& data) {
 
 bool IsAllBlack(const Palette& palette) {
     return std::all_of(palette.colors.begin(), palette.colors.end(),
-                       [](const rgb_color& color) { return color == kBlack; });
+                       [](const rgb_color& color) { return color == kFileBlack; });
 }
 
 const Bytes kGifFile = GifHeader(0x80) + Triples(2);
@@ -217,7 +217,7 @@ TEST(StripFli, ReadsTheColorChunkWithoutWideningItsComponents) {
     EXPECT_EQ(palette.colors[0], (rgb_color{63, 0, 1, 255}));
     EXPECT_EQ(palette.colors[1], (rgb_color{2, 63, 200, 255}));
     for (size_t i = 2; i < 256; ++i)
-        EXPECT_EQ(palette.colors[i], kBlack) << "entry " << i;
+        EXPECT_EQ(palette.colors[i], kFileBlack) << "entry " << i;
 }
 
 TEST(StripFli, AddsSkipsToTheRunningIndex) {
@@ -227,7 +227,7 @@ TEST(StripFli, AddsSkipsToTheRunningIndex) {
         palette, FliHeaders(1) + ColorChunk({2, 0, 3, 1, 1, 1, 1, 10, 2, 2, 2, 2, 3, 3, 3})));
 
     EXPECT_EQ(palette.colors[3], (rgb_color{1, 1, 1, 255}));
-    EXPECT_EQ(palette.colors[4], kBlack);
+    EXPECT_EQ(palette.colors[4], kFileBlack);
     EXPECT_EQ(palette.colors[14], (rgb_color{2, 2, 2, 255}));
     EXPECT_EQ(palette.colors[15], (rgb_color{3, 3, 3, 255}));
 }
@@ -247,7 +247,7 @@ TEST(StripFli, DropsEntriesPastTheLast) {
                                                               255, 1, 3,   3, 3, 0, 1, 4, 4, 4})));
 
     for (size_t i = 0; i < 255; ++i)
-        EXPECT_EQ(palette.colors[i], kBlack) << "entry " << i;
+        EXPECT_EQ(palette.colors[i], kFileBlack) << "entry " << i;
     EXPECT_EQ(palette.colors[255], (rgb_color{1, 1, 1, 255}));
 }
 
@@ -274,7 +274,7 @@ TEST(StripFli, ReadsTheLongestChunkThatCanMatter) {
     EXPECT_TRUE(StripFli(palette, FliHeaders(1) + ColorChunk(data + Bytes(100000))));
 
     EXPECT_EQ(palette.colors[255], (rgb_color{7, 8, 9, 255}));
-    EXPECT_EQ(palette.colors[254], kBlack);
+    EXPECT_EQ(palette.colors[254], kFileBlack);
 }
 
 TEST(StripFli, EndsWherePacketsAskForMoreThanWasRead) {
@@ -285,7 +285,7 @@ TEST(StripFli, EndsWherePacketsAskForMoreThanWasRead) {
                                       Bytes{9, 0, 0, 5} + Triples(3) + Bytes{1}));
 
     ExpectTriples(palette, 3);
-    EXPECT_EQ(palette.colors[3], kBlack);
+    EXPECT_EQ(palette.colors[3], kFileBlack);
 }
 
 TEST(StripFli, EndsWherePacketsAreMissing) {
@@ -294,7 +294,7 @@ TEST(StripFli, EndsWherePacketsAreMissing) {
     EXPECT_TRUE(StripFli(palette, FliHeaders(1) + ChunkHeader(7, 11) + Bytes{2, 0, 0, 1, 5, 6, 7}));
 
     EXPECT_EQ(palette.colors[0], (rgb_color{5, 6, 7, 255}));
-    EXPECT_EQ(palette.colors[1], kBlack);
+    EXPECT_EQ(palette.colors[1], kFileBlack);
 }
 
 TEST(StripFli, NeedsTheSixBytesBehindTheChunk) {

@@ -11,7 +11,7 @@ namespace kirto::test {
 
 namespace {
 
-constexpr rgb_color kBlack{0, 0, 0, 255};
+constexpr rgb_color kOpaqueBlack{0, 0, 0, 255};
 
 ColorTable GreyRamp() {
     ColorTable colors;
@@ -119,10 +119,10 @@ TEST(Palette, KeepsItsEncodingSettingsWhenTheKindChanges) {
 TEST(Palette, YieldsOpaqueBlackForIndicesOutside0To255) {
     const Palette palette(kPaletteSystem);
 
-    EXPECT_EQ(palette.ColorForIndex(-1), kBlack);
-    EXPECT_EQ(palette.ColorForIndex(256), kBlack);
-    EXPECT_EQ(palette.ColorForIndex(INT32_MIN), kBlack);
-    EXPECT_EQ(palette.ColorForIndex(INT32_MAX), kBlack);
+    EXPECT_EQ(palette.ColorForIndex(-1), kOpaqueBlack);
+    EXPECT_EQ(palette.ColorForIndex(256), kOpaqueBlack);
+    EXPECT_EQ(palette.ColorForIndex(INT32_MIN), kOpaqueBlack);
+    EXPECT_EQ(palette.ColorForIndex(INT32_MAX), kOpaqueBlack);
 }
 
 TEST(Palette, YieldsEntriesPastItsSizeToo) {

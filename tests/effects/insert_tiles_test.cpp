@@ -16,11 +16,11 @@ using Lines = std::vector<std::string>;
 using Pixels = std::vector<uint32>;
 
 constexpr int32 kHuge = std::numeric_limits<int32>::max();
-constexpr const char* kOutOfMemory = "WARNING [] Out of memory. | OK";
+constexpr const char* kTilesOutOfMemory = "WARNING [] Out of memory. | OK";
 constexpr const char* kIllegalGrid =
     "WARNING [] This frame can't be inserted because the number of rows or columns is illegal. | "
     "OK";
-constexpr color_space kSpaces[] = {B_RGB32, B_RGBA32, B_RGB32_BIG, B_RGBA32_BIG};
+constexpr color_space kSheetSpaces[] = {B_RGB32, B_RGBA32, B_RGB32_BIG, B_RGBA32_BIG};
 
 // A picture whose pixels are numbered from 0 in reading order.
 std::shared_ptr<BBitmap> NumberedPicture(int32 width, int32 height, color_space space = B_RGB32) {
@@ -255,7 +255,7 @@ TEST(InsertTiles, AgreesWithAPlainCutInEveryColourSpace) {
     for (int round = 0; round < 24; ++round) {
         const int32 width = choices.Between(1, 30);
         const int32 height = choices.Between(1, 30);
-        const color_space space = kSpaces[round % 4];
+        const color_space space = kSheetSpaces[round % 4];
         TileGrid grid;
         grid.rows = choices.Between(1, std::min(5, height));
         grid.columns = choices.Between(1, std::min(5, width));
@@ -309,7 +309,7 @@ TEST(InsertTiles, StopsWithOutOfMemoryAndKeepsTheTilesInsertedSoFar) {
         // the picture.
         if (failing <= 2) continue;
         for (const std::string& line : lines)
-            ASSERT_EQ(line, kOutOfMemory);
+            ASSERT_EQ(line, kTilesOutOfMemory);
         if (inserted < 3) ++stopped;
     }
     // Palette and pixels of three tiles; too little memory to count colours is no reason to stop.
@@ -325,7 +325,7 @@ TEST(InsertTiles, StopsWhereTheDocumentsPixelMemoryEnds) {
 
     EXPECT_EQ(fixture.Names(), (Lines{"tiled0000", "tiled0001"}));
     EXPECT_FALSE(fixture.document.Modified());
-    EXPECT_EQ(fixture.alerts.Lines(), Lines{kOutOfMemory});
+    EXPECT_EQ(fixture.alerts.Lines(), Lines{kTilesOutOfMemory});
     EXPECT_EQ(fixture.port->Transcript(),
               "svup(Status: loading tile 1 of 4...) tvff auns "
               "svup(Status: loading tile 2 of 4...) auns "
@@ -339,7 +339,7 @@ TEST(InsertTiles, CallsAPictureBeyondTheMemoryNoUnsupportedOne) {
     fixture.Insert(NumberedPicture(4, 1), {1, 4});
 
     EXPECT_EQ(fixture.Names(), Lines{});
-    EXPECT_EQ(fixture.alerts.Lines(), Lines{kOutOfMemory});
+    EXPECT_EQ(fixture.alerts.Lines(), Lines{kTilesOutOfMemory});
 }
 
 TEST(InsertTiles, EndsBeforeTheNextTileWhenAskedToStop) {

@@ -31,12 +31,12 @@ std::string TextOf(const std::string& path) {
     return {bytes.begin(), bytes.end()};
 }
 
-void WriteText(const std::string& path, const std::string& text) {
+void WriteSettings(const std::string& path, const std::string& text) {
     WriteBytes(path, {text.begin(), text.end()});
 }
 
 template <typename T>
-std::string BytesOf(const T& value) {
+std::string ValueBytes(const T& value) {
     std::string bytes(sizeof(T), '\0');
     std::memcpy(bytes.data(), &value, sizeof(T));
     return bytes;
@@ -70,7 +70,7 @@ std::string PrintedValue(const Attribute& attribute) {
 }
 
 std::string PrintedDouble(double value) {
-    return PrintedValue({B_DOUBLE_TYPE, BytesOf(value)});
+    return PrintedValue({B_DOUBLE_TYPE, ValueBytes(value)});
 }
 
 int64 WriteInt(AttributeFile& file, std::string_view name, int32 value) {
@@ -101,11 +101,11 @@ class ReadOnlyFolder {
 
 TEST(AttributeFile, PrintsOneAttributeALineInTheOrderOfTheNames) {
     const Attributes attributes{
-        {"global_width", {B_INT32_TYPE, BytesOf<int32>(320)}},
-        {"global_usepause", {B_BOOL_TYPE, BytesOf<uint8>(1)}},
-        {"global_pauselength", {B_DOUBLE_TYPE, BytesOf(100.0)}},
+        {"global_width", {B_INT32_TYPE, ValueBytes<int32>(320)}},
+        {"global_usepause", {B_BOOL_TYPE, ValueBytes<uint8>(1)}},
+        {"global_pauselength", {B_DOUBLE_TYPE, ValueBytes(100.0)}},
         {"palette_filename", {B_STRING_TYPE, "/home/ann/colours.gif"}},
-        {"misc_windowdimensions", {B_RECT_TYPE, BytesOf(BRect(100, 80, 649, 479))}},
+        {"misc_windowdimensions", {B_RECT_TYPE, ValueBytes(BRect(100, 80, 649, 479))}},
         {"odd", {B_INT32_TYPE, "\x40\x01"}},
     };
 
@@ -127,24 +127,24 @@ TEST(AttributeFile, AnEmptyTextHoldsNoAttributes) {
 
 TEST(AttributeFile, IntegersOfThirtyTwoBitsAreLongs) {
     EXPECT_EQ(ParsedValue("-2147483648"),
-              (Attribute{B_INT32_TYPE, BytesOf(std::numeric_limits<int32>::min())}));
+              (Attribute{B_INT32_TYPE, ValueBytes(std::numeric_limits<int32>::min())}));
     EXPECT_EQ(ParsedValue("2147483647"),
-              (Attribute{B_INT32_TYPE, BytesOf(std::numeric_limits<int32>::max())}));
+              (Attribute{B_INT32_TYPE, ValueBytes(std::numeric_limits<int32>::max())}));
 }
 
 TEST(AttributeFile, LargerIntegersBecomeEightByteAttributes) {
-    EXPECT_EQ(ParsedValue("2147483648"), (Attribute{B_INT64_TYPE, BytesOf<int64>(2147483648)}));
-    EXPECT_EQ(PrintedValue({B_INT64_TYPE, BytesOf<int64>(-2147483649)}), "-2147483649");
+    EXPECT_EQ(ParsedValue("2147483648"), (Attribute{B_INT64_TYPE, ValueBytes<int64>(2147483648)}));
+    EXPECT_EQ(PrintedValue({B_INT64_TYPE, ValueBytes<int64>(-2147483649)}), "-2147483649");
 }
 
 TEST(AttributeFile, AnEightByteAttributeOfASmallIntegerKeepsItsType) {
-    EXPECT_EQ(PrintedValue({B_INT64_TYPE, BytesOf<int64>(1)}),
+    EXPECT_EQ(PrintedValue({B_INT64_TYPE, ValueBytes<int64>(1)}),
               "{ type = \"LLNG\", bytes = \"0100000000000000\" }");
 }
 
 TEST(AttributeFile, BooleansAreWords) {
-    EXPECT_EQ(PrintedValue({B_BOOL_TYPE, BytesOf<uint8>(0)}), "false");
-    EXPECT_EQ(PrintedValue({B_BOOL_TYPE, BytesOf<uint8>(1)}), "true");
+    EXPECT_EQ(PrintedValue({B_BOOL_TYPE, ValueBytes<uint8>(0)}), "false");
+    EXPECT_EQ(PrintedValue({B_BOOL_TYPE, ValueBytes<uint8>(1)}), "true");
 }
 
 TEST(AttributeFile, ABooleanOfAnotherByteIsKeptAsItIs) {
@@ -168,10 +168,10 @@ TEST(AttributeFile, SpecialDoublesReadBackExactly) {
 }
 
 TEST(AttributeFile, ANanWithAPayloadIsKeptAsItIs) {
-    EXPECT_EQ(PrintedValue({B_DOUBLE_TYPE, BytesOf<uint64>(0x7FF8000000000001)}),
+    EXPECT_EQ(PrintedValue({B_DOUBLE_TYPE, ValueBytes<uint64>(0x7FF8000000000001)}),
               "{ type = \"DBLE\", bytes = \"010000000000f87f\" }");
     const std::array<uint32, 4> edges{0, 0, 0x7FC00001, 0};
-    EXPECT_EQ(PrintedValue({B_RECT_TYPE, BytesOf(edges)}),
+    EXPECT_EQ(PrintedValue({B_RECT_TYPE, ValueBytes(edges)}),
               "{ type = \"RECT\", bytes = \"00000000000000000100c07f00000000\" }");
 }
 
@@ -179,23 +179,23 @@ TEST(AttributeFile, RandomDoublesAndRectanglesReadBackExactly) {
     std::mt19937_64 random(7);
     for (int i = 0; i < 20000; ++i) {
         const std::array<uint64, 2> bits{random(), random()};
-        PrintedValue({B_DOUBLE_TYPE, BytesOf(bits[0])});
-        PrintedValue({B_RECT_TYPE, BytesOf(bits)});
+        PrintedValue({B_DOUBLE_TYPE, ValueBytes(bits[0])});
+        PrintedValue({B_RECT_TYPE, ValueBytes(bits)});
     }
 }
 
 TEST(AttributeFile, RectanglesOfSpecialEdgesReadBackExactly) {
     const float infinity = std::numeric_limits<float>::infinity();
-    EXPECT_EQ(PrintedValue({B_RECT_TYPE, BytesOf(BRect(-0.0F, 0.1F, infinity, -infinity))}),
+    EXPECT_EQ(PrintedValue({B_RECT_TYPE, ValueBytes(BRect(-0.0F, 0.1F, infinity, -infinity))}),
               "[-0.0, 0.1, inf, -inf]");
     const float nan = std::numeric_limits<float>::quiet_NaN();
-    EXPECT_EQ(PrintedValue({B_RECT_TYPE, BytesOf(BRect(nan, 1e-45F, 3e38F, 0))}),
+    EXPECT_EQ(PrintedValue({B_RECT_TYPE, ValueBytes(BRect(nan, 1e-45F, 3e38F, 0))}),
               "[nan, 1e-45, 3e+38, 0.0]");
 }
 
 TEST(AttributeFile, ARectangleMayBeWrittenInWholeNumbers) {
     EXPECT_EQ(ParsedValue("[100, 80, 649, 479]"),
-              (Attribute{B_RECT_TYPE, BytesOf(BRect(100, 80, 649, 479))}));
+              (Attribute{B_RECT_TYPE, ValueBytes(BRect(100, 80, 649, 479))}));
 }
 
 TEST(AttributeFile, StringsAreEscaped) {
@@ -222,7 +222,7 @@ TEST(AttributeFile, UnusualSizesAndTypesAreKeptAsTheyAre) {
 }
 
 TEST(AttributeFile, NamesThatAreNoBareKeysAreQuoted) {
-    const Attribute one{B_INT32_TYPE, BytesOf<int32>(1)};
+    const Attribute one{B_INT32_TYPE, ValueBytes<int32>(1)};
     const Attributes attributes{{"", one}, {"a.b", one}, {"gr\xC3\xB6\xC3\x9F", one}, {"x\n", one}};
 
     const std::string text = AttributeFile::Print(attributes);
@@ -326,7 +326,7 @@ TEST(AttributeFile, AttributesComeBackFromTheFile) {
 
 TEST(AttributeFile, AReadTakesAtMostTheBytesAskedFor) {
     const TemporaryFolder folder;
-    WriteText(folder.File("settings"), "name = \"abcdef\"\n");
+    WriteSettings(folder.File("settings"), "name = \"abcdef\"\n");
     AttributeFile file(folder.File("settings"));
 
     std::string name = "------";
@@ -336,9 +336,9 @@ TEST(AttributeFile, AReadTakesAtMostTheBytesAskedFor) {
 
 TEST(AttributeFile, NumbersAreReadAsTheTypeAskedFor) {
     const TemporaryFolder folder;
-    WriteText(folder.File("settings"),
-              "pause = 5\nlarge = 5000000000\nwidth = 320.0\npart = -7.9\nfar = -1e300\n"
-              "not_a_number = nan\n");
+    WriteSettings(folder.File("settings"),
+                  "pause = 5\nlarge = 5000000000\nwidth = 320.0\npart = -7.9\nfar = -1e300\n"
+                  "not_a_number = nan\n");
     AttributeFile file(folder.File("settings"));
     const auto as_double = [&](const char* name) {
         double value = 0;
@@ -361,7 +361,7 @@ TEST(AttributeFile, NumbersAreReadAsTheTypeAskedFor) {
 
 TEST(AttributeFile, OnlyNumbersAreConverted) {
     const TemporaryFolder folder;
-    WriteText(folder.File("settings"), "text = \"5\"\n");
+    WriteSettings(folder.File("settings"), "text = \"5\"\n");
     AttributeFile file(folder.File("settings"));
     double value = 0;
     EXPECT_EQ(file.ReadAttr("text", B_DOUBLE_TYPE, &value, sizeof(value)), 1);
@@ -371,7 +371,7 @@ TEST(AttributeFile, BytesAreReadAsTheyAreWhateverTheirType) {
     const TemporaryFolder folder;
     const std::string text =
         std::string(kHeading) + "pause = { type = \"LONG\", bytes = \"05000000\" }\n";
-    WriteText(folder.File("settings"), text);
+    WriteSettings(folder.File("settings"), text);
     for (int i = 0; i < 2; ++i) {
         AttributeFile file(folder.File("settings"));
         std::array<uint8, 8> bytes{9, 9, 9, 9, 9, 9, 9, 9};
@@ -395,7 +395,7 @@ TEST(AttributeFile, AMissingAttributeIsNotFound) {
 TEST(AttributeFile, WritesStayInMemoryUntilTheSync) {
     const TemporaryFolder folder;
     const std::string path = folder.File("settings");
-    WriteText(path, "width = 1\n");
+    WriteSettings(path, "width = 1\n");
     AttributeFile file(path);
 
     WriteInt(file, "width", 2);
@@ -423,7 +423,7 @@ TEST(AttributeFile, AnEmptyAttributeIsKept) {
 TEST(AttributeFile, WithoutAChangeTheSyncLeavesTheFileAlone) {
     const TemporaryFolder folder;
     const std::string path = folder.File("settings");
-    WriteText(path, "width = 1 # mine\n");
+    WriteSettings(path, "width = 1 # mine\n");
     AttributeFile file(path);
 
     EXPECT_EQ(WriteInt(file, "width", 1), 4);
@@ -470,7 +470,7 @@ TEST(AttributeFile, MissingFoldersAreMadeForTheUserOnly) {
 
 TEST(AttributeFile, ALinkToTheFileStaysALink) {
     const TemporaryFolder folder;
-    WriteText(folder.File("real"), "width = 1\n");
+    WriteSettings(folder.File("real"), "width = 1\n");
     std::filesystem::create_symlink("real", folder.File("settings"));
     AttributeFile file(folder.File("settings"));
 
@@ -484,7 +484,7 @@ TEST(AttributeFile, ALinkToTheFileStaysALink) {
 TEST(AttributeFile, ADamagedFileIsPutAsideAndTheAttributesStartEmpty) {
     const TemporaryFolder folder;
     const std::string path = folder.File("settings");
-    WriteText(path, "y = 2\nx = [1]\n");
+    WriteSettings(path, "y = 2\nx = [1]\n");
     const DebugRecorder debug;
 
     AttributeFile file(path);
@@ -507,7 +507,7 @@ TEST(AttributeFile, ADamagedFileIsPutAsideAndTheAttributesStartEmpty) {
 TEST(AttributeFile, AHealthyFileStaysWhereItIsWhenMemoryIsShort) {
     const TemporaryFolder folder;
     const std::string path = folder.File("settings");
-    WriteText(path, "width = 1\n");
+    WriteSettings(path, "width = 1\n");
     {
         const AllocationFault fault(1);
         AttributeFile file(path);
@@ -530,7 +530,7 @@ TEST(AttributeFile, EarlierDamagedCopiesAreNeverOverwritten) {
     const std::string path = folder.File("settings");
     const DebugRecorder debug;
     for (const char* text : {"first", "second", "third"}) {
-        WriteText(path, text);
+        WriteSettings(path, text);
         const AttributeFile file(path);
     }
 
@@ -542,7 +542,7 @@ TEST(AttributeFile, EarlierDamagedCopiesAreNeverOverwritten) {
 TEST(AttributeFile, BehindALinkTheFileItselfIsPutAside) {
     const TemporaryFolder folder;
     std::filesystem::create_directory(folder.File("dots"));
-    WriteText(folder.File("dots/real"), "damaged");
+    WriteSettings(folder.File("dots/real"), "damaged");
     std::filesystem::create_symlink("dots/real", folder.File("settings"));
     const DebugRecorder debug;
 
@@ -559,9 +559,9 @@ TEST(AttributeFile, AFileOfMoreThanOneMebibyteCountsAsDamaged) {
     const TemporaryFolder folder;
     const std::string path = folder.File("settings");
     const DebugRecorder debug;
-    WriteText(path, std::string(1024 * 1024, '\n'));
+    WriteSettings(path, std::string(1024 * 1024, '\n'));
     EXPECT_EQ(AttributeFile(path).DamagedCopy(), "");
-    WriteText(path, std::string(1024 * 1024 + 1, '\n'));
+    WriteSettings(path, std::string(1024 * 1024 + 1, '\n'));
 
     EXPECT_EQ(AttributeFile(path).DamagedCopy(), path + ".damaged");
     EXPECT_THAT(debug.Text(), HasSubstr("(larger than 1 MiB)"));
@@ -570,7 +570,7 @@ TEST(AttributeFile, AFileOfMoreThanOneMebibyteCountsAsDamaged) {
 TEST(AttributeFile, AFileThatWouldCountAsDamagedIsNotWritten) {
     const TemporaryFolder folder;
     const std::string path = folder.File("settings");
-    WriteText(path, "x = 1\n");
+    WriteSettings(path, "x = 1\n");
     AttributeFile file(path);
     const std::string large(1024 * 1024, 'a');
     file.WriteAttr("large", B_STRING_TYPE, large.data(), large.size());
@@ -592,7 +592,7 @@ TEST(AttributeFile, AFolderInPlaceOfTheFileCanNotBeUsed) {
 
 TEST(AttributeFile, AFileThatCanNotBeMadeDoesNotLookLikeOneWithoutAttributes) {
     const TemporaryFolder folder;
-    WriteText(folder.File("file"), "");
+    WriteSettings(folder.File("file"), "");
     AttributeFile file(folder.File("file/settings"));
 
     int32 value = 1;
@@ -602,7 +602,7 @@ TEST(AttributeFile, AFileThatCanNotBeMadeDoesNotLookLikeOneWithoutAttributes) {
 
 TEST(AttributeFile, AWriteFailsAtOnceWhereTheFolderIsReadOnly) {
     const TemporaryFolder folder;
-    WriteText(folder.File("settings"), "x = 1\n");
+    WriteSettings(folder.File("settings"), "x = 1\n");
     const ReadOnlyFolder read_only(folder.Path());
     if (!read_only.Done()) GTEST_SKIP() << "this user can't give up its rights";
     AttributeFile file(folder.File("settings"));
@@ -619,7 +619,7 @@ TEST(AttributeFile, AWriteFailsAtOnceWhereTheFolderIsReadOnly) {
 TEST(AttributeFile, ADamagedFileThatCanNotBePutAsideCanNotBeUsed) {
     const TemporaryFolder folder;
     const std::string path = folder.File("settings");
-    WriteText(path, "damaged");
+    WriteSettings(path, "damaged");
     const ReadOnlyFolder read_only(folder.Path());
     if (!read_only.Done()) GTEST_SKIP() << "this user can't give up its rights";
     const DebugRecorder debug;

@@ -3,12 +3,11 @@
 #include <algorithm>
 #include <gtest/gtest.h>
 
+#include "support/colors.h"
 #include "support/test_support.h"
 
 namespace kirto::test {
 namespace {
-
-constexpr uint32 kRed = 0xFFFF0000;
 
 TEST(PictureImage, SharesPixelsInTheOrderThatPaintingTakes) {
     const auto picture = PictureOf(2, 1, {0xFF102030, 0xFF405060});

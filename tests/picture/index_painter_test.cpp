@@ -10,10 +10,6 @@ namespace kirto::test {
 
 namespace {
 
-int32 Below(int32 limit, std::mt19937& random) {
-    return std::uniform_int_distribution<int32>(0, limit - 1)(random);
-}
-
 // An image of indices with what it needs.
 struct OwnedImage {
     std::vector<uint8> indices;
@@ -31,21 +27,21 @@ SharedPixelTable RandomTable(std::mt19937& random) {
 OwnedImage RandomImage(int32 width, int32 height, SharedPixelTable table, std::mt19937& random) {
     OwnedImage owned;
     IndexImage& image = owned.image;
-    const bool whole = Below(3, random) == 0;
-    image.width = whole ? width : 1 + Below(width + 5, random);
-    image.height = whole ? height : 1 + Below(height + 5, random);
-    image.left = whole ? 0 : Below(width + 2, random);
-    image.top = whole ? 0 : Below(height + 2, random);
-    const int32 different = 1 << Below(9, random);
+    const bool whole = RandomBelow(3, random) == 0;
+    image.width = whole ? width : 1 + RandomBelow(width + 5, random);
+    image.height = whole ? height : 1 + RandomBelow(height + 5, random);
+    image.left = whole ? 0 : RandomBelow(width + 2, random);
+    image.top = whole ? 0 : RandomBelow(height + 2, random);
+    const int32 different = 1 << RandomBelow(9, random);
     owned.indices.resize(static_cast<size_t>(image.width) * static_cast<size_t>(image.height));
     for (uint8& index : owned.indices)
-        index = static_cast<uint8>(Below(different, random));
+        index = static_cast<uint8>(RandomBelow(different, random));
     image.table = std::move(table);
-    if (Below(2, random) == 0) image.skipped = Below(different, random);
-    if (Below(4, random) == 0) {
+    if (RandomBelow(2, random) == 0) image.skipped = RandomBelow(different, random);
+    if (RandomBelow(4, random) == 0) {
         owned.row_lengths.resize(static_cast<size_t>(image.height));
         for (int32& length : owned.row_lengths)
-            length = Below(image.width + 1, random);
+            length = RandomBelow(image.width + 1, random);
     }
     image.indices = owned.indices;
     image.row_lengths = owned.row_lengths;
@@ -84,14 +80,14 @@ IndexImage OnePixel(const SharedPixelTable& table, const uint8& index, int32 lef
 TEST(IndexPainter, PaintsWhatAPainterOfSinglePixelsPaints) {
     std::mt19937 random(11);
     for (int32 round = 0; round < 60; ++round) {
-        const int32 width = 1 + Below(200, random);
-        const int32 height = 1 + Below(200, random);
-        PlainPicture plain = RandomPicture(width, height, 1 << Below(11, random), random);
+        const int32 width = 1 + RandomBelow(200, random);
+        const int32 height = 1 + RandomBelow(200, random);
+        PlainPicture plain = RandomPicture(width, height, 1 << RandomBelow(11, random), random);
         std::shared_ptr<const Picture> picture = Built(plain);
         IndexPainter painter(nullptr);
         SharedPixelTable table = RandomTable(random);
         for (int32 image = 0; image < 12; ++image) {
-            if (Below(4, random) == 0) table = RandomTable(random);
+            if (RandomBelow(4, random) == 0) table = RandomTable(random);
             const OwnedImage owned = RandomImage(width, height, table, random);
             PaintPlainly(plain, owned.image);
             picture = painter.Paint(picture, owned.image);

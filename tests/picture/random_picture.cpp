@@ -4,13 +4,9 @@
 
 namespace kirto::test {
 
-namespace {
-
-int32 Below(int32 limit, std::mt19937& random) {
+int32 RandomBelow(int32 limit, std::mt19937& random) {
     return std::uniform_int_distribution<int32>(0, limit - 1)(random);
 }
-
-}  // namespace
 
 PlainPicture PlainOf(const Picture& picture) {
     PlainPicture plain{picture.Width(), picture.Height(), {}};
@@ -27,9 +23,9 @@ PlainPicture RandomPicture(int32 width, int32 height, int32 colors, std::mt19937
     PlainPicture plain{width, height, {}};
     const size_t size = static_cast<size_t>(width) * static_cast<size_t>(height);
     while (plain.pixels.size() < size) {
-        const size_t run = static_cast<size_t>(Below(4, random)) + 1;
+        const size_t run = static_cast<size_t>(RandomBelow(4, random)) + 1;
         plain.pixels.insert(plain.pixels.end(), run,
-                            table[static_cast<size_t>(Below(colors, random))]);
+                            table[static_cast<size_t>(RandomBelow(colors, random))]);
     }
     plain.pixels.resize(size);
     return plain;

@@ -20,6 +20,9 @@ struct PlainPicture {
     }
 };
 
+// A number from 0 to less than the limit.
+int32 RandomBelow(int32 limit, std::mt19937& random);
+
 // All pixels of the picture.
 PlainPicture PlainOf(const Picture& picture);
 

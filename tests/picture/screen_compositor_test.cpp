@@ -10,10 +10,6 @@ namespace kirto::test {
 
 namespace {
 
-int32 Below(int32 limit, std::mt19937& random) {
-    return std::uniform_int_distribution<int32>(0, limit - 1)(random);
-}
-
 // An image of indices with what it needs, and what becomes of it.
 struct Drawn {
     std::vector<uint8> indices;
@@ -22,7 +18,7 @@ struct Drawn {
     Disposal disposal = Disposal::kNone;
 };
 
-SharedPixelTable RandomTable(std::mt19937& random) {
+SharedPixelTable RandomScreenTable(std::mt19937& random) {
     auto table = std::make_shared<PixelTable>();
     for (uint32& pixel : table->pixels)
         pixel = 0xFF000000 | static_cast<uint32>(random());
@@ -32,24 +28,24 @@ SharedPixelTable RandomTable(std::mt19937& random) {
 Drawn RandomDrawn(int32 width, int32 height, SharedPixelTable table, std::mt19937& random) {
     Drawn drawn;
     IndexImage& image = drawn.image;
-    const bool whole = Below(3, random) == 0;
-    image.width = whole ? width : Below(width + 5, random);
-    image.height = whole ? height : Below(height + 5, random);
-    image.left = whole ? 0 : Below(width + 2, random);
-    image.top = whole ? 0 : Below(height + 2, random);
+    const bool whole = RandomBelow(3, random) == 0;
+    image.width = whole ? width : RandomBelow(width + 5, random);
+    image.height = whole ? height : RandomBelow(height + 5, random);
+    image.left = whole ? 0 : RandomBelow(width + 2, random);
+    image.top = whole ? 0 : RandomBelow(height + 2, random);
     image.table = std::move(table);
-    const int32 different = 1 << Below(9, random);
-    if (Below(2, random) == 0) image.skipped = Below(different, random);
+    const int32 different = 1 << RandomBelow(9, random);
+    if (RandomBelow(2, random) == 0) image.skipped = RandomBelow(different, random);
     drawn.indices.resize(static_cast<size_t>(image.width) * static_cast<size_t>(image.height));
     for (uint8& index : drawn.indices)
-        index = static_cast<uint8>(Below(different, random));
-    if (Below(4, random) == 0) {
+        index = static_cast<uint8>(RandomBelow(different, random));
+    if (RandomBelow(4, random) == 0) {
         for (int32 row = 0; row < image.height; ++row)
-            drawn.row_lengths.push_back(Below(image.width + 1, random));
+            drawn.row_lengths.push_back(RandomBelow(image.width + 1, random));
     }
     image.indices = drawn.indices;
     image.row_lengths = drawn.row_lengths;
-    drawn.disposal = static_cast<Disposal>(Below(4, random));
+    drawn.disposal = static_cast<Disposal>(RandomBelow(4, random));
     return drawn;
 }
 
@@ -109,7 +105,7 @@ Drawn OneColor(int32 left, int32 top, int32 width, int32 height, Disposal dispos
     drawn.image.width = width;
     drawn.image.height = height;
     drawn.image.indices = drawn.indices;
-    drawn.image.table = RandomTable(random);
+    drawn.image.table = RandomScreenTable(random);
     drawn.disposal = disposal;
     return drawn;
 }
@@ -119,13 +115,13 @@ Drawn OneColor(int32 left, int32 top, int32 width, int32 height, Disposal dispos
 TEST(ScreenCompositor, ShowsWhatAScreenOfPlainPixelsShows) {
     std::mt19937 random(21);
     for (int32 round = 0; round < 250; ++round) {
-        const int32 width = 1 + Below(round % 10 == 0 ? 400 : 40, random);
-        const int32 height = 1 + Below(round % 10 == 0 ? 200 : 40, random);
+        const int32 width = 1 + RandomBelow(round % 10 == 0 ? 400 : 40, random);
+        const int32 height = 1 + RandomBelow(round % 10 == 0 ? 200 : 40, random);
         ScreenCompositor compositor(width, height, nullptr);
         PlainScreen plain(width, height);
-        SharedPixelTable table = RandomTable(random);
+        SharedPixelTable table = RandomScreenTable(random);
         for (int32 number = 0; number < 16; ++number) {
-            if (Below(4, random) == 0) table = RandomTable(random);
+            if (RandomBelow(4, random) == 0) table = RandomScreenTable(random);
             const Drawn drawn = RandomDrawn(width, height, table, random);
             const auto shown = compositor.Draw(drawn.image, drawn.disposal);
             ASSERT_TRUE(shown);
@@ -136,7 +132,7 @@ TEST(ScreenCompositor, ShowsWhatAScreenOfPlainPixelsShows) {
 
 TEST(ScreenCompositor, GoesOnInACopyFromWhereTheOriginalIs) {
     std::mt19937 random(22);
-    const SharedPixelTable table = RandomTable(random);
+    const SharedPixelTable table = RandomScreenTable(random);
     ScreenCompositor compositor(30, 20, nullptr);
     for (int32 number = 0; number < 40; ++number) {
         const Drawn drawn = RandomDrawn(30, 20, table, random);
@@ -164,7 +160,7 @@ TEST(ScreenCompositor, KeepsIndicesWhenItDisposesOfATransparentImage) {
 TEST(ScreenCompositor, SharesTheRowsThatAnImageAndItsDisposalLeaveAlone) {
     std::mt19937 random(23);
     ScreenCompositor compositor(64, 640, nullptr);
-    Drawn first = RandomDrawn(64, 640, RandomTable(random), random);
+    Drawn first = RandomDrawn(64, 640, RandomScreenTable(random), random);
     first.indices.assign(64 * 640, 0);
     for (uint8& index : first.indices)
         index = static_cast<uint8>(random());

@@ -14,14 +14,14 @@ using ::testing::IsEmpty;
 
 namespace {
 
-constexpr type_code kText = FourCharCode("TEXT");
-constexpr type_code kOther = FourCharCode("OTHR");
+constexpr type_code kTextType = FourCharCode("TEXT");
+constexpr type_code kOtherType = FourCharCode("OTHR");
 
 // A resource file with one text of the name.
 entry_ref FileWith(const TemporaryFolder& folder, const std::string& leaf, std::string_view name,
                    std::string_view text) {
     ResourcesWriter writer;
-    writer.Add(kText, 1, name, {text.begin(), text.end()});
+    writer.Add(kTextType, 1, name, {text.begin(), text.end()});
     WriteBytes(folder.File(leaf), writer.Container());
     return entry_ref(folder.File(leaf));
 }
@@ -32,7 +32,7 @@ std::string Found(const IEResourceHandler& handler, std::string_view name, type_
 }
 
 // A handler of one file, and its application.
-struct Fixture {
+struct HandlerFixture {
     TemporaryFolder folder;
     RecordingApplication<BApplication> app{"application/x-test"};
     IEResourceHandler handler{FileWith(folder, "first", "both", "of the first"), &app};
@@ -42,29 +42,29 @@ struct Fixture {
 
 TEST(IEResourceHandler, FindsResourcesByNameAndType) {
     const AlertRecorder alerts;
-    const Fixture fixture;
+    const HandlerFixture fixture;
     EXPECT_EQ(fixture.handler.Error(), 0);
-    EXPECT_EQ(Found(fixture.handler, "both", kText), "of the first");
-    EXPECT_EQ(Found(fixture.handler, "neither", kText), "nothing");
+    EXPECT_EQ(Found(fixture.handler, "both", kTextType), "of the first");
+    EXPECT_EQ(Found(fixture.handler, "neither", kTextType), "nothing");
     EXPECT_THAT(alerts.Lines(), IsEmpty());
 }
 
 TEST(IEResourceHandler, ANameThatExistsWithAnotherTypeFindsNothing) {
-    const Fixture fixture;
-    EXPECT_EQ(Found(fixture.handler, "both", kOther), "nothing");
+    const HandlerFixture fixture;
+    EXPECT_EQ(Found(fixture.handler, "both", kOtherType), "nothing");
 }
 
 TEST(IEResourceHandler, TheFirstFileThatHoldsTheNameWins) {
-    Fixture fixture;
+    HandlerFixture fixture;
     fixture.handler.AddResourceFile(FileWith(fixture.folder, "second", "both", "of the second"));
-    EXPECT_EQ(Found(fixture.handler, "both", kText), "of the first");
+    EXPECT_EQ(Found(fixture.handler, "both", kTextType), "of the first");
 }
 
 TEST(IEResourceHandler, LaterFilesAreAskedForWhatTheFirstLacks) {
-    Fixture fixture;
+    HandlerFixture fixture;
     fixture.handler.AddResourceFile(FileWith(fixture.folder, "second", "new", "of the second"));
     fixture.handler.AddResourceFile(FileWith(fixture.folder, "third", "new", "of the third"));
-    EXPECT_EQ(Found(fixture.handler, "new", kText), "of the second");
+    EXPECT_EQ(Found(fixture.handler, "new", kTextType), "of the second");
 }
 
 TEST(IEResourceHandler, AFileThatCantBeOpenedIsAnAlertAndAnError) {
@@ -72,30 +72,30 @@ TEST(IEResourceHandler, AFileThatCantBeOpenedIsAnAlertAndAnError) {
     const IEResourceHandler handler(entry_ref("/nowhere/kirto.rsrc"), nullptr);
     EXPECT_EQ(handler.Error(), -1);
     EXPECT_THAT(alerts.Lines(), ElementsAre("STOP [] Resource file open error!\n | Cancel"));
-    EXPECT_EQ(Found(handler, "both", kText), "nothing");
+    EXPECT_EQ(Found(handler, "both", kTextType), "nothing");
 }
 
 TEST(IEResourceHandler, ADamagedFileCantBeOpened) {
     const AlertRecorder alerts;
-    Fixture fixture;
+    HandlerFixture fixture;
     WriteBytes(fixture.folder.File("damaged"), std::vector<uint8>(2000, 7));
     fixture.handler.AddResourceFile(entry_ref(fixture.folder.File("damaged")));
     EXPECT_EQ(fixture.handler.Error(), -1);
     EXPECT_THAT(alerts.Lines(), ElementsAre("STOP [] Resource file open error!\n | Cancel"));
-    EXPECT_EQ(Found(fixture.handler, "both", kText), "of the first");
+    EXPECT_EQ(Found(fixture.handler, "both", kTextType), "of the first");
 }
 
 TEST(IEResourceHandler, TheErrorStaysWhenALaterFileIsFine) {
     const AlertRecorder alerts;
-    Fixture fixture;
+    HandlerFixture fixture;
     fixture.handler.AddResourceFile(entry_ref(fixture.folder.File("absent")));
     fixture.handler.AddResourceFile(FileWith(fixture.folder, "second", "new", "of the second"));
     EXPECT_EQ(fixture.handler.Error(), -1);
-    EXPECT_EQ(Found(fixture.handler, "new", kText), "of the second");
+    EXPECT_EQ(Found(fixture.handler, "new", kTextType), "of the second");
 }
 
 TEST(IEResourceHandler, RemovingAListedWindowNeverAsksToQuit) {
-    Fixture fixture;
+    HandlerFixture fixture;
     const PortWindow window;
     fixture.handler.AddToWindowList(&window.window);
     fixture.handler.RemoveFromWindowList(&window.window);
@@ -103,7 +103,7 @@ TEST(IEResourceHandler, RemovingAListedWindowNeverAsksToQuit) {
 }
 
 TEST(IEResourceHandler, RemovingTheLastWindowTwiceAsksToQuit) {
-    Fixture fixture;
+    HandlerFixture fixture;
     const PortWindow window;
     fixture.handler.AddToWindowList(&window.window);
     fixture.handler.RemoveFromWindowList(&window.window);
@@ -112,7 +112,7 @@ TEST(IEResourceHandler, RemovingTheLastWindowTwiceAsksToQuit) {
 }
 
 TEST(IEResourceHandler, RemovingAWindowTwiceAsksNothingWhileAnotherIsListed) {
-    Fixture fixture;
+    HandlerFixture fixture;
     const PortWindow window;
     const PortWindow other;
     fixture.handler.AddToWindowList(&window.window);
@@ -123,7 +123,7 @@ TEST(IEResourceHandler, RemovingAWindowTwiceAsksNothingWhileAnotherIsListed) {
 }
 
 TEST(IEResourceHandler, RemovingAWindowThatWasNeverListedAsksToQuit) {
-    Fixture fixture;
+    HandlerFixture fixture;
     const PortWindow window;
     fixture.handler.RemoveFromWindowList(&window.window);
     EXPECT_THAT(fixture.app.HandleAll(), ElementsAre("quit"));
@@ -139,7 +139,7 @@ TEST(IEResourceHandler, WithoutAnApplicationNobodyIsAsked) {
 }
 
 TEST(IEResourceHandler, AWindowIsListedOnce) {
-    Fixture fixture;
+    HandlerFixture fixture;
     const PortWindow window;
     fixture.handler.AddToWindowList(&window.window);
     fixture.handler.AddToWindowList(&window.window);
@@ -149,7 +149,7 @@ TEST(IEResourceHandler, AWindowIsListedOnce) {
 }
 
 TEST(IEResourceHandler, ModalWindowsNeverEnterTheList) {
-    Fixture fixture;
+    HandlerFixture fixture;
     const PortWindow modal(true);
     const PortWindow window;
     fixture.handler.AddToWindowList(&modal.window);
@@ -159,14 +159,14 @@ TEST(IEResourceHandler, ModalWindowsNeverEnterTheList) {
 }
 
 TEST(IEResourceHandler, RemovingAModalWindowNeverAsksToQuit) {
-    Fixture fixture;
+    HandlerFixture fixture;
     const PortWindow modal(true);
     fixture.handler.RemoveFromWindowList(&modal.window);
     EXPECT_THAT(fixture.app.HandleAll(), IsEmpty());
 }
 
 TEST(IEResourceHandler, WindowsThatAreGoneAreDroppedWhenOneIsRemoved) {
-    Fixture fixture;
+    HandlerFixture fixture;
     const PortWindow gone;
     const PortWindow window;
     fixture.handler.AddToWindowList(&gone.window);
@@ -176,7 +176,7 @@ TEST(IEResourceHandler, WindowsThatAreGoneAreDroppedWhenOneIsRemoved) {
 }
 
 TEST(IEResourceHandler, WindowsThatAreGoneAreDroppedWhenOneIsAdded) {
-    Fixture fixture;
+    HandlerFixture fixture;
     const PortWindow gone;
     const PortWindow window;
     fixture.handler.AddToWindowList(&gone.window);

@@ -12,8 +12,8 @@ namespace fs = std::filesystem;
 namespace {
 
 // A folder "bin" with a program's surroundings.
-struct Fixture {
-    Fixture() {
+struct ResourceFolders {
+    ResourceFolders() {
         fs::create_directories(program_folder);
         fs::create_directories(folder.File("share/kirto"));
     }
@@ -27,20 +27,20 @@ struct Fixture {
 }  // namespace
 
 TEST(ResourceFilePath, IsBesideTheProgramWhereThatIs) {
-    const Fixture fixture;
+    const ResourceFolders fixture;
     WriteBytes(fixture.beside, {1});
     WriteBytes(fixture.installed, {2});
     EXPECT_EQ(ResourceFilePath(fixture.program_folder), fixture.beside);
 }
 
 TEST(ResourceFilePath, IsWhereProgramsAreInstalledOtherwise) {
-    const Fixture fixture;
+    const ResourceFolders fixture;
     WriteBytes(fixture.installed, {2});
     EXPECT_EQ(ReadBytes(ResourceFilePath(fixture.program_folder)), (std::vector<uint8>{2}));
 }
 
 TEST(ResourceFilePath, IsBesideTheProgramWhereThereIsNone) {
-    const Fixture fixture;
+    const ResourceFolders fixture;
     EXPECT_EQ(ResourceFilePath(fixture.program_folder), fixture.beside);
 }
 

@@ -13,7 +13,7 @@ namespace {
 
 using Bytes = std::vector<uint8>;
 
-uint32 WordAt(const Bytes& bytes, size_t offset) {
+uint32 WrittenWordAt(const Bytes& bytes, size_t offset) {
     return ReadLittle32(bytes.data() + offset);
 }
 
@@ -35,49 +35,49 @@ ResourcesWriter EightResources() {
 
 TEST(ResourcesWriter, LaysOutTheHeader) {
     const Bytes bytes = EightResources().Container();
-    EXPECT_EQ(WordAt(bytes, 0), 0x444F1000u);
-    EXPECT_EQ(WordAt(bytes, 4), 8u);
-    EXPECT_EQ(WordAt(bytes, 8), 0x44u);
-    EXPECT_EQ(WordAt(bytes, 12), 0x644u);
+    EXPECT_EQ(WrittenWordAt(bytes, 0), 0x444F1000u);
+    EXPECT_EQ(WrittenWordAt(bytes, 4), 8u);
+    EXPECT_EQ(WrittenWordAt(bytes, 8), 0x44u);
+    EXPECT_EQ(WrittenWordAt(bytes, 12), 0x644u);
     for (size_t i = 16; i < 0x44; ++i)
         EXPECT_EQ(bytes[i], 0) << i;
 }
 
 TEST(ResourcesWriter, LaysOutTheIndex) {
     const Bytes bytes = EightResources().Container();
-    EXPECT_EQ(WordAt(bytes, 0x44), 0x44u);
-    EXPECT_EQ(WordAt(bytes, 0x48), 0x600u);
-    EXPECT_EQ(WordAt(bytes, 0x4C), 0x3E9u);
-    EXPECT_EQ(WordAt(bytes, 0x50), 0x644u);
-    EXPECT_EQ(WordAt(bytes, 0x54), 0x168u);
-    EXPECT_EQ(WordAt(bytes, 0x58 + 25 * 4), 0x723Au);
-    EXPECT_EQ(WordAt(bytes, 0x58 + 26 * 4), 0x125u);
+    EXPECT_EQ(WrittenWordAt(bytes, 0x44), 0x44u);
+    EXPECT_EQ(WrittenWordAt(bytes, 0x48), 0x600u);
+    EXPECT_EQ(WrittenWordAt(bytes, 0x4C), 0x3E9u);
+    EXPECT_EQ(WrittenWordAt(bytes, 0x50), 0x644u);
+    EXPECT_EQ(WrittenWordAt(bytes, 0x54), 0x168u);
+    EXPECT_EQ(WrittenWordAt(bytes, 0x58 + 25 * 4), 0x723Au);
+    EXPECT_EQ(WrittenWordAt(bytes, 0x58 + 26 * 4), 0x125u);
     const size_t entries = 0x58 + 28 * 4;
-    EXPECT_EQ(WordAt(bytes, entries), 0x7ACu);
-    EXPECT_EQ(WordAt(bytes, entries + 4), 25170u);
-    EXPECT_EQ(WordAt(bytes, entries + 8), 0u);
-    EXPECT_EQ(WordAt(bytes, entries + 12), 0x7ACu + 25170u);
-    EXPECT_EQ(WordAt(bytes, entries + 16), 1024u);
-    EXPECT_EQ(WordAt(bytes, entries + 8 * 12), 0u);
+    EXPECT_EQ(WrittenWordAt(bytes, entries), 0x7ACu);
+    EXPECT_EQ(WrittenWordAt(bytes, entries + 4), 25170u);
+    EXPECT_EQ(WrittenWordAt(bytes, entries + 8), 0u);
+    EXPECT_EQ(WrittenWordAt(bytes, entries + 12), 0x7ACu + 25170u);
+    EXPECT_EQ(WrittenWordAt(bytes, entries + 16), 1024u);
+    EXPECT_EQ(WrittenWordAt(bytes, entries + 8 * 12), 0u);
 }
 
 TEST(ResourcesWriter, LaysOutTheInfoTable) {
     const Bytes bytes = EightResources().Container();
     ASSERT_EQ(bytes.size(), 0x723Au + 0x125u);
     size_t at = 0x723A;
-    EXPECT_EQ(WordAt(bytes, at), FourCharCode("ARCV"));
-    EXPECT_EQ(WordAt(bytes, at + 4), 0u);
-    EXPECT_EQ(WordAt(bytes, at + 8), 1u);
+    EXPECT_EQ(WrittenWordAt(bytes, at), FourCharCode("ARCV"));
+    EXPECT_EQ(WrittenWordAt(bytes, at + 4), 0u);
+    EXPECT_EQ(WrittenWordAt(bytes, at + 8), 1u);
     EXPECT_EQ(ReadLittle16(&bytes[at + 12]), 18);
     EXPECT_STREQ(reinterpret_cast<const char*>(&bytes[at + 14]), "PreferencesWindow");
     at += 14 + 18;
-    EXPECT_EQ(WordAt(bytes, at), 0xFFFFFFFFu);
-    EXPECT_EQ(WordAt(bytes, at + 4), 0xFFFFFFFFu);
-    EXPECT_EQ(WordAt(bytes, at + 8), FourCharCode("ICON"));
+    EXPECT_EQ(WrittenWordAt(bytes, at), 0xFFFFFFFFu);
+    EXPECT_EQ(WrittenWordAt(bytes, at + 4), 0xFFFFFFFFu);
+    EXPECT_EQ(WrittenWordAt(bytes, at + 8), FourCharCode("ICON"));
     const Bytes blocks(bytes.begin() + 0x723A, bytes.end() - 8);
-    EXPECT_EQ(WordAt(bytes, bytes.size() - 12), 0xFFFFFFFFu);
-    EXPECT_EQ(WordAt(bytes, bytes.size() - 8), InfoTableCheck(blocks));
-    EXPECT_EQ(WordAt(bytes, bytes.size() - 4), 0u);
+    EXPECT_EQ(WrittenWordAt(bytes, bytes.size() - 12), 0xFFFFFFFFu);
+    EXPECT_EQ(WrittenWordAt(bytes, bytes.size() - 8), InfoTableCheck(blocks));
+    EXPECT_EQ(WrittenWordAt(bytes, bytes.size() - 4), 0u);
 }
 
 TEST(ResourcesWriter, TheCheckWordIsTheSumOfWords) {
@@ -90,11 +90,11 @@ TEST(ResourcesWriter, AnIndexGrowsInSteps) {
     ResourcesWriter writer;
     for (int32 id = 0; id < 117; ++id)
         writer.Add(FourCharCode("TEXT"), id, "name", {static_cast<uint8>(id)});
-    EXPECT_EQ(WordAt(writer.Container(), 0x48), 0x600u);
+    EXPECT_EQ(WrittenWordAt(writer.Container(), 0x48), 0x600u);
     writer.Add(FourCharCode("TEXT"), 117, "last", {117});
     const Bytes bytes = writer.Container();
-    EXPECT_EQ(WordAt(bytes, 0x48), 0xC00u);
-    EXPECT_EQ(WordAt(bytes, 12), 0xC44u);
+    EXPECT_EQ(WrittenWordAt(bytes, 0x48), 0xC00u);
+    EXPECT_EQ(WrittenWordAt(bytes, 12), 0xC44u);
     const auto file = BFile::OnMemory(bytes);
     const BResources resources(file.get());
     ASSERT_EQ(resources.InitCheck(), B_OK);

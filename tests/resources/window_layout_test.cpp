@@ -45,7 +45,7 @@ float FloatOf(const BMessage& archive, const char* field, int32 index = 0) {
     return number;
 }
 
-BRect FrameOf(const BMessage& archive) {
+BRect LayoutFrameOf(const BMessage& archive) {
     BRect frame;
     archive.FindRect(kArchiveFrame, &frame);
     return frame;
@@ -76,7 +76,7 @@ TEST(WindowLayout, ArchivesAWindowWithWhatItSaysOfItself) {
     EXPECT_EQ(TextOf(layout.archive, "class"), "BWindow");
     EXPECT_EQ(TextOf(layout.archive, "_name"), "Plain");
     EXPECT_EQ(TextOf(layout.archive, "_title"), "A plain window");
-    EXPECT_EQ(FrameOf(layout.archive), BRect(1, 2, 30, 40));
+    EXPECT_EQ(LayoutFrameOf(layout.archive), BRect(1, 2, 30, 40));
     EXPECT_EQ(NumberOf(layout.archive, "_type"), 1);
     EXPECT_EQ(NumberOf(layout.archive, "_wlook"), 1);
     EXPECT_EQ(NumberOf(layout.archive, "_wfeel"), 0);
@@ -123,7 +123,7 @@ TEST(WindowLayout, NestsViewsInTheirParents) {
     EXPECT_EQ(TextOf(field, "class"), "BTextControl");
     EXPECT_EQ(TextOf(field, "_label"), "Width:");
     EXPECT_EQ(FloatOf(field, "_divide"), 7.5f);
-    EXPECT_EQ(FrameOf(field), BRect(1, 1, 8, 8));
+    EXPECT_EQ(LayoutFrameOf(field), BRect(1, 1, 8, 8));
     EXPECT_EQ(MessageOf(field, "_msg").what, 0x70776777u);
 }
 
@@ -213,7 +213,7 @@ TEST(WindowLayout, MakesThePreferencesWindowOfItsSource) {
         << error;
 
     EXPECT_EQ(TextOf(archive, "_title"), "Preferences");
-    EXPECT_EQ(FrameOf(archive), BRect(171, 21, 571, 334));
+    EXPECT_EQ(LayoutFrameOf(archive), BRect(171, 21, 571, 334));
     EXPECT_EQ(FloatOf(archive, "minWidth"), 400);
     EXPECT_EQ(FloatOf(archive, "maxHeight"), 313);
     const BMessage top = MessageOf(archive, "_views");

@@ -17,7 +17,7 @@ namespace {
 
 using Bytes = std::vector<uint8>;
 
-const std::string kManifest = SourceFolder() / "resources/kirto.toml";
+const std::string kManifestPath = SourceFolder() / "resources/kirto.toml";
 
 // kirto.rsrc, opened once a test.
 class ResourceFile : public ::testing::Test {
@@ -128,7 +128,7 @@ TEST_F(ResourceFile, HoldsTheFlags) {
 TEST(ResourceTool, MakesTheSameFileAgain) {
     const TemporaryFolder folder;
     const std::string target = folder.File("again.rsrc");
-    EXPECT_EQ(RunTool("'" + kManifest + "' '" + target + "'"), 0);
+    EXPECT_EQ(RunTool("'" + kManifestPath + "' '" + target + "'"), 0);
     EXPECT_EQ(ReadBytes(target), ReadBytes(KIRTO_RSRC_FILE));
 }
 
@@ -143,7 +143,7 @@ TEST(ResourceTool, FailsWithoutTouchingTheTargetWhereTheSourcesAreWrong) {
 TEST(ResourceTool, FailsWhereTheTargetCantBeWritten) {
     const TemporaryFolder folder;
     const std::string target = folder.File("absent/kirto.rsrc");
-    EXPECT_EQ(RunTool("'" + kManifest + "' '" + target + "'"), 1);
+    EXPECT_EQ(RunTool("'" + kManifestPath + "' '" + target + "'"), 1);
     EXPECT_FALSE(std::filesystem::exists(target));
 }
 

@@ -51,7 +51,7 @@ class RecordingTarget : public RecoveryTarget {
     std::vector<std::string> done_;
 };
 
-std::shared_ptr<DocumentState> StateNamed(const std::string& name, bool modified = true) {
+std::shared_ptr<DocumentState> EmptyStateNamed(const std::string& name, bool modified = true) {
     auto state = std::make_shared<DocumentState>();
     state->animation = std::make_shared<const Animation>();
     state->file_name = name;
@@ -63,7 +63,7 @@ TEST(RecoveryWriter, WritesAChangeWhenItIsDue) {
     RecordingTarget target;
     RecoveryWriter writer(target, kAtOnce);
 
-    writer.Update(StateNamed("one"));
+    writer.Update(EmptyStateNamed("one"));
     target.ended.acquire();
 
     EXPECT_THAT(target.Done(), ElementsAre("one"));
@@ -73,7 +73,7 @@ TEST(RecoveryWriter, WritesNothingBeforeItIsDue) {
     RecordingTarget target;
     {
         RecoveryWriter writer(target, kFarAway);
-        writer.Update(StateNamed("one"));
+        writer.Update(EmptyStateNamed("one"));
     }
     EXPECT_THAT(target.Done(), IsEmpty());
 }
@@ -81,8 +81,8 @@ TEST(RecoveryWriter, WritesNothingBeforeItIsDue) {
 TEST(RecoveryWriter, WritesTheNewestStateAtOnceWhenAsked) {
     RecordingTarget target;
     RecoveryWriter writer(target, kFarAway);
-    writer.Update(StateNamed("one"));
-    writer.Update(StateNamed("two"));
+    writer.Update(EmptyStateNamed("one"));
+    writer.Update(EmptyStateNamed("two"));
 
     EXPECT_EQ(writer.WriteNow(), B_OK);
 
@@ -93,7 +93,7 @@ TEST(RecoveryWriter, HasNothingToWriteTwice) {
     RecordingTarget target;
     RecoveryWriter writer(target, kFarAway);
     EXPECT_EQ(writer.WriteNow(), B_OK);
-    const auto state = StateNamed("one");
+    const auto state = EmptyStateNamed("one");
     writer.Update(state);
     writer.WriteNow();
 
@@ -109,7 +109,7 @@ TEST(RecoveryWriter, HasNothingToWriteTwice) {
 TEST(RecoveryWriter, WritesAgainWhenAnythingInTheCopyHasChanged) {
     RecordingTarget target;
     RecoveryWriter writer(target, kFarAway);
-    const auto state = StateNamed("one");
+    const auto state = EmptyStateNamed("one");
     writer.Update(state);
     writer.WriteNow();
     const auto other_frames = std::make_shared<DocumentState>(*state);
@@ -128,11 +128,11 @@ TEST(RecoveryWriter, NeverBlocksWhoHandsOverDuringAWrite) {
     RecordingTarget target;
     target.held = true;
     RecoveryWriter writer(target, kAtOnce);
-    writer.Update(StateNamed("one"));
+    writer.Update(EmptyStateNamed("one"));
     target.begun.acquire();
 
-    writer.Update(StateNamed("two"));
-    writer.Update(StateNamed("three"));
+    writer.Update(EmptyStateNamed("two"));
+    writer.Update(EmptyStateNamed("three"));
     target.go_on.release(2);
     target.ended.acquire();
     target.ended.acquire();
@@ -145,13 +145,13 @@ TEST(RecoveryWriter, LetsGoOfAStateOnTheWayToTheNextOne) {
     RecoveryWriter writer(target, kFarAway);
     std::weak_ptr<const DocumentState> first;
     {
-        const auto state = StateNamed("one");
+        const auto state = EmptyStateNamed("one");
         first = state;
         writer.Update(state);
     }
     EXPECT_FALSE(first.expired());
 
-    writer.Update(StateNamed("two"));
+    writer.Update(EmptyStateNamed("two"));
 
     EXPECT_TRUE(first.expired());
 }
@@ -159,10 +159,10 @@ TEST(RecoveryWriter, LetsGoOfAStateOnTheWayToTheNextOne) {
 TEST(RecoveryWriter, RemovesTheCopyOfADocumentThatIsSaved) {
     RecordingTarget target;
     RecoveryWriter writer(target, kFarAway);
-    writer.Update(StateNamed("one"));
+    writer.Update(EmptyStateNamed("one"));
     writer.WriteNow();
 
-    writer.Update(StateNamed("one", false));
+    writer.Update(EmptyStateNamed("one", false));
     EXPECT_EQ(writer.WriteNow(), B_OK);
 
     EXPECT_THAT(target.Done(), ElementsAre("one", "removed"));
@@ -171,8 +171,8 @@ TEST(RecoveryWriter, RemovesTheCopyOfADocumentThatIsSaved) {
 TEST(RecoveryWriter, RemovesTheCopyWithoutTheDelay) {
     RecordingTarget target;
     RecoveryWriter writer(target, kFarAway);
-    writer.Update(StateNamed("one"));
-    writer.Update(StateNamed("one", false));
+    writer.Update(EmptyStateNamed("one"));
+    writer.Update(EmptyStateNamed("one", false));
     target.ended.acquire();
 
     EXPECT_THAT(target.Done(), ElementsAre("removed"));
@@ -182,9 +182,9 @@ TEST(RecoveryWriter, ADocumentThatIsSavedDuringAWriteHasNoCopyInTheEnd) {
     RecordingTarget target;
     target.held = true;
     RecoveryWriter writer(target, kAtOnce);
-    writer.Update(StateNamed("one"));
+    writer.Update(EmptyStateNamed("one"));
     target.begun.acquire();
-    writer.Update(StateNamed("one", false));
+    writer.Update(EmptyStateNamed("one", false));
     target.go_on.release();
 
     EXPECT_EQ(writer.WriteNow(), B_OK);
@@ -196,11 +196,11 @@ TEST(RecoveryWriter, AnOldCopyGoesThoughTheNextChangeComesSoon) {
     RecordingTarget target;
     target.held = true;
     RecoveryWriter writer(target, kFarAway);
-    writer.Update(StateNamed("one"));
+    writer.Update(EmptyStateNamed("one"));
     std::thread first([&writer] { writer.WriteNow(); });
     target.begun.acquire();
-    writer.Update(StateNamed("one", false));
-    writer.Update(StateNamed("two"));
+    writer.Update(EmptyStateNamed("one", false));
+    writer.Update(EmptyStateNamed("two"));
     target.held = false;
     target.go_on.release();
     first.join();
@@ -212,8 +212,8 @@ TEST(RecoveryWriter, AnOldCopyGoesThoughTheNextChangeComesSoon) {
 TEST(RecoveryWriter, ANewDocumentHasNothingToRemove) {
     RecordingTarget target;
     RecoveryWriter writer(target, kAtOnce);
-    writer.Update(StateNamed("untitled", false));
-    writer.Update(StateNamed("other", false));
+    writer.Update(EmptyStateNamed("untitled", false));
+    writer.Update(EmptyStateNamed("other", false));
 
     EXPECT_EQ(writer.WriteNow(), B_OK);
 
@@ -225,7 +225,7 @@ TEST(RecoveryWriter, AFailedWriteIsReportedAndTriedAgainWhenAsked) {
     RecordingTarget target;
     target.status = B_IO_ERROR;
     RecoveryWriter writer(target, kFarAway);
-    writer.Update(StateNamed("one"));
+    writer.Update(EmptyStateNamed("one"));
 
     EXPECT_EQ(writer.WriteNow(), B_IO_ERROR);
     EXPECT_EQ(writer.WriteNow(), B_IO_ERROR);
@@ -244,11 +244,11 @@ TEST(RecoveryWriter, AFailedWriteIsTriedAgainAtTheNextChange) {
     RecordingTarget target;
     target.status = B_IO_ERROR;
     RecoveryWriter writer(target, kAtOnce);
-    writer.Update(StateNamed("one"));
+    writer.Update(EmptyStateNamed("one"));
     target.ended.acquire();
     target.status = B_OK;
 
-    writer.Update(StateNamed("two"));
+    writer.Update(EmptyStateNamed("two"));
     EXPECT_EQ(writer.WriteNow(), B_OK);
 
     EXPECT_THAT(target.Done(), ElementsAre("one", "two"));
@@ -259,10 +259,10 @@ TEST(RecoveryWriter, AFailureIsForgottenWithTheChangeThatItWasOf) {
     RecordingTarget target;
     target.status = B_IO_ERROR;
     RecoveryWriter writer(target, kFarAway);
-    writer.Update(StateNamed("one"));
+    writer.Update(EmptyStateNamed("one"));
     writer.WriteNow();
 
-    writer.Update(StateNamed("one", false));
+    writer.Update(EmptyStateNamed("one", false));
 
     EXPECT_EQ(writer.WriteNow(), B_OK);
     EXPECT_THAT(target.Done(), ElementsAre("one", "removed"));
@@ -275,14 +275,14 @@ TEST(RecoveryWriter, TakesChangesFromSeveralThreads) {
     for (int i = 0; i < 4; ++i) {
         threads.emplace_back([&writer, i] {
             for (int n = 0; n < 50; ++n) {
-                writer.Update(StateNamed("some", (n + i) % 7 != 0));
+                writer.Update(EmptyStateNamed("some", (n + i) % 7 != 0));
                 if (n % 10 == 0) writer.WriteNow();
             }
         });
     }
     for (std::thread& thread : threads)
         thread.join();
-    writer.Update(StateNamed("last"));
+    writer.Update(EmptyStateNamed("last"));
 
     EXPECT_EQ(writer.WriteNow(), B_OK);
 

@@ -13,7 +13,7 @@ using Bytes = std::vector<uint8>;
 using Codes = std::vector<std::pair<uint32, uint32>>;  // with their sizes
 
 // Runs of indices below 2^bits, and stretches of noise between them.
-Bytes Drawing(uint32 seed, size_t count, int32 bits) {
+Bytes RandomDrawing(uint32 seed, size_t count, int32 bits) {
     std::mt19937 random(seed);
     Bytes indices;
     while (indices.size() < count) {
@@ -57,7 +57,7 @@ TEST(LzwParser, FindsTheStringsThatStepByStepSearchFinds) {
     const auto parser = std::make_unique<LzwParser>();
     for (uint32 seed = 0; seed < 60; ++seed) {
         const int32 bits = 2 + static_cast<int32>(seed) % 7;
-        const Bytes indices = Drawing(seed, 100 + seed * 900, bits);
+        const Bytes indices = RandomDrawing(seed, 100 + seed * 900, bits);
         parser->Start({indices, {}, 0, bits}, 0, 0);
         ASSERT_EQ(ParsedCodes(*parser), PlainCodes(indices, bits)) << seed;
     }
@@ -73,7 +73,7 @@ TEST(LzwParser, AFlatImageIsRunsThatGrowByAPixel) {
 
 TEST(LzwParser, StartsAnywhereWithNothingButSingleIndices) {
     const auto parser = std::make_unique<LzwParser>();
-    const Bytes indices = Drawing(3, 9000, 5);
+    const Bytes indices = RandomDrawing(3, 9000, 5);
     parser->Start({indices, {}, 0, 5}, 0, 0);
     ParsedCodes(*parser);
     parser->Start({indices, {}, 0, 5}, 0, 4000);
@@ -84,7 +84,7 @@ TEST(LzwParser, StartsAnywhereWithNothingButSingleIndices) {
 
 TEST(LzwParser, CountsTheBitsOfItsCodes) {
     const auto parser = std::make_unique<LzwParser>();
-    const Bytes indices = Drawing(5, 3000, 4);
+    const Bytes indices = RandomDrawing(5, 3000, 4);
     parser->Start({indices, {}, 0, 4}, 0, 0);
     uint64 bits = 0;
     for (const auto& [code, size] : ParsedCodes(*parser))

@@ -8,18 +8,13 @@
 #include <vector>
 
 #include "formats/fli/fli_load.h"
+#include "support/colors.h"
 #include "support/fli_builder.h"
 #include "support/test_support.h"
 
 namespace kirto::test {
 
 using Pixels = std::vector<uint32>;
-
-inline constexpr uint32 kBlack = 0xFF000000;
-inline constexpr uint32 kRed = 0xFFFF0000;
-inline constexpr uint32 kGreen = 0xFF00FF00;
-inline constexpr uint32 kBlue = 0xFF0000FF;
-inline constexpr uint32 kWhite = 0xFFFFFFFF;
 
 // Entries 0 to 4: black, red, green, blue, white.
 inline const std::vector<FliColorPacket> kColors = {

@@ -27,7 +27,7 @@ class GifBrowserLoad : public GifLoadTest {
     std::shared_ptr<const Animation> animation_;
 };
 
-GifBuilder::Image WithCodeSize(GifBuilder::Image image, int32 size) {
+GifBuilder::Image OfCodeSize(GifBuilder::Image image, int32 size) {
     image.min_code_size = size;
     return image;
 }
@@ -41,12 +41,12 @@ Bytes Without(Bytes bytes, size_t count) {
 
 TEST_F(GifBrowserLoad, TakesCodeSizesBelowAndAboveThePalettesDepth) {
     GifBuilder gif(2, 1, std::vector<uint32>(256, 0xFF0000));
-    gif.Add(WithCodeSize(ImageOf(2, 1, {1, 0}), 2));
+    gif.Add(OfCodeSize(ImageOf(2, 1, {1, 0}), 2));
     ASSERT_TRUE(Load(gif.Trailer()));
     EXPECT_EQ(Pixels(0), std::vector<uint32>(2, kRed));
 
     GifBuilder wide = FourColorGif(2, 1);
-    wide.Add(WithCodeSize(ImageOf(2, 1, {1, 200}), 8));
+    wide.Add(OfCodeSize(ImageOf(2, 1, {1, 200}), 8));
     ASSERT_TRUE(Load(wide.Trailer()));
     // An index without an entry is black.
     EXPECT_EQ(Pixels(0), (std::vector<uint32>{kRed, kBlack}));
@@ -55,19 +55,19 @@ TEST_F(GifBrowserLoad, TakesCodeSizesBelowAndAboveThePalettesDepth) {
 
 TEST_F(GifBrowserLoad, ReadsACodeSizeOfOneAsOne) {
     GifBuilder gif(1, 1, {0x000000, 0xFF0000});
-    gif.AddData(WithCodeSize(ImageOf(1, 1, {}), 1), {kClearRedEndAtOne, kRestAtOne});
+    gif.AddData(OfCodeSize(ImageOf(1, 1, {}), 1), {kClearRedEndAtOne, kRestAtOne});
     ASSERT_TRUE(Load(gif.Trailer()));
     EXPECT_EQ(Pixels(0), std::vector<uint32>{kRed});
 }
 
 TEST_F(GifBrowserLoad, EndsBeforeAnImageOfALargerCodeSizeThanEight) {
     GifBuilder gif = FourColorGif(1, 1);
-    gif.Add(ImageOf(1, 1, {1})).Add(WithCodeSize(ImageOf(1, 1, {2}), 9)).Trailer();
+    gif.Add(ImageOf(1, 1, {1})).Add(OfCodeSize(ImageOf(1, 1, {2}), 9)).Trailer();
     EXPECT_TRUE(Load(gif));
     EXPECT_EQ(document.FrameCount(), 1);
 
     GifBuilder only = FourColorGif(1, 1);
-    only.Add(WithCodeSize(ImageOf(1, 1, {2}), 9)).Trailer();
+    only.Add(OfCodeSize(ImageOf(1, 1, {2}), 9)).Trailer();
     EXPECT_FALSE(Load(only));
 }
 

@@ -6,15 +6,12 @@
 #include <vector>
 
 #include "formats/gif/gif_load.h"
+#include "support/colors.h"
 #include "support/gif_builder.h"
 #include "support/test_support.h"
 
 namespace kirto::test {
 
-inline constexpr uint32 kBlack = 0xFF000000;
-inline constexpr uint32 kRed = 0xFFFF0000;
-inline constexpr uint32 kGreen = 0xFF00FF00;
-inline constexpr uint32 kBlue = 0xFF0000FF;
 inline constexpr uint32 kUnpainted = 0;
 
 // Index 0 black, 1 red, 2 green, 3 blue.

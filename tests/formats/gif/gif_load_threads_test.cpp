@@ -17,7 +17,7 @@ namespace {
 using Bytes = std::vector<uint8>;
 
 // All that comes of loading a file.
-struct Loaded {
+struct LoadedByThreads {
     std::shared_ptr<const Animation> animation;
     bool failed = false;
     bool out_of_memory = false;
@@ -26,8 +26,8 @@ struct Loaded {
     std::vector<std::string> alerts;
 };
 
-Loaded Load(const Bytes& bytes, int32 thread_count, bool full_frame, uint64 limit,
-            const std::string& stop_at) {
+LoadedByThreads LoadBy(const Bytes& bytes, int32 thread_count, bool full_frame, uint64 limit,
+                       const std::string& stop_at) {
     const ScopedThreads threads(thread_count);
     Prefs prefs{Prefs::BuiltIn{}};
     prefs.animation_gifloadfullframe = full_frame;
@@ -45,12 +45,12 @@ Loaded Load(const Bytes& bytes, int32 thread_count, bool full_frame, uint64 limi
             port->TakeTranscript(), debug.Text(), alerts.Lines()};
 }
 
-void ExpectTheSameOfAnyNumberOfThreads(const Bytes& bytes, bool full_frame = true,
-                                       uint64 limit = PixelBudget::DefaultLimit(),
-                                       const std::string& stop_at = "") {
-    const Loaded alone = Load(bytes, 1, full_frame, limit, stop_at);
+void ExpectTheSameLoadOfAnyNumberOfThreads(const Bytes& bytes, bool full_frame = true,
+                                           uint64 limit = PixelBudget::DefaultLimit(),
+                                           const std::string& stop_at = "") {
+    const LoadedByThreads alone = LoadBy(bytes, 1, full_frame, limit, stop_at);
     for (const int32 threads : kThreadCounts) {
-        const Loaded loaded = Load(bytes, threads, full_frame, limit, stop_at);
+        const LoadedByThreads loaded = LoadBy(bytes, threads, full_frame, limit, stop_at);
         ASSERT_TRUE(SameAnimation(*loaded.animation, *alone.animation)) << threads;
         ASSERT_EQ(loaded.failed, alone.failed) << threads;
         ASSERT_EQ(loaded.out_of_memory, alone.out_of_memory) << threads;
@@ -73,7 +73,8 @@ TEST(GifLoadThreads, TheirNumberMakesNoDifference) {
     for (uint32 seed = 1; seed <= 30; ++seed) {
         const Bytes bytes = RandomFile(seed);
         for (const bool full_frame : {true, false})
-            ASSERT_NO_FATAL_FAILURE(ExpectTheSameOfAnyNumberOfThreads(bytes, full_frame)) << seed;
+            ASSERT_NO_FATAL_FAILURE(ExpectTheSameLoadOfAnyNumberOfThreads(bytes, full_frame))
+                << seed;
     }
 }
 
@@ -84,7 +85,7 @@ TEST(GifLoadThreads, TheirNumberMakesNoDifferenceToDamagedFiles) {
         for (int32 change = 0; change < 5; ++change)
             bytes[13 + random() % (bytes.size() - 13)] = static_cast<uint8>(random());
         if (seed % 2 == 0) bytes.resize(13 + random() % (bytes.size() - 13));
-        ASSERT_NO_FATAL_FAILURE(ExpectTheSameOfAnyNumberOfThreads(bytes)) << seed;
+        ASSERT_NO_FATAL_FAILURE(ExpectTheSameLoadOfAnyNumberOfThreads(bytes)) << seed;
     }
 }
 
@@ -92,7 +93,8 @@ TEST(GifLoadThreads, TheirNumberMakesNoDifferenceWhereMemoryEnds) {
     for (uint32 seed = 1; seed <= 10; ++seed) {
         const Bytes bytes = RandomFile(seed);
         for (const uint64 limit : {0U, 3000U, 9000U, 20000U})
-            ASSERT_NO_FATAL_FAILURE(ExpectTheSameOfAnyNumberOfThreads(bytes, true, limit)) << seed;
+            ASSERT_NO_FATAL_FAILURE(ExpectTheSameLoadOfAnyNumberOfThreads(bytes, true, limit))
+                << seed;
     }
 }
 
@@ -109,7 +111,7 @@ TEST(GifLoadThreads, TheirNumberMakesNoDifferenceToAFileOfManyBlocks) {
         added.min_code_size = 2 + image % 2 * 7;
         gif.Add(added);
     }
-    ExpectTheSameOfAnyNumberOfThreads(gif.Trailer());
+    ExpectTheSameLoadOfAnyNumberOfThreads(gif.Trailer());
 }
 
 TEST(GifLoadThreads, TheirNumberMakesNoDifferenceToImagesThatCoverTheScreen) {
@@ -130,18 +132,18 @@ TEST(GifLoadThreads, TheirNumberMakesNoDifferenceToImagesThatCoverTheScreen) {
         }
         const Bytes bytes = gif.Trailer();
         for (const bool full_frame : {true, false})
-            ASSERT_NO_FATAL_FAILURE(ExpectTheSameOfAnyNumberOfThreads(bytes, full_frame));
+            ASSERT_NO_FATAL_FAILURE(ExpectTheSameLoadOfAnyNumberOfThreads(bytes, full_frame));
     }
 }
 
 TEST(GifLoadThreads, AStopKeepsTheFramesBeforeIt) {
     const Bytes bytes = RandomFile(7);
-    const Loaded whole = Load(bytes, 1, true, PixelBudget::DefaultLimit(), "");
+    const LoadedByThreads whole = LoadBy(bytes, 1, true, PixelBudget::DefaultLimit(), "");
     const int32 count = whole.animation->frames.Size();
     ASSERT_GT(count, 3);
     for (const int32 threads : kThreadCounts) {
-        const Loaded stopped =
-            Load(bytes, threads, true, PixelBudget::DefaultLimit(), "Status: loading frame 3...");
+        const LoadedByThreads stopped =
+            LoadBy(bytes, threads, true, PixelBudget::DefaultLimit(), "Status: loading frame 3...");
         EXPECT_TRUE(stopped.failed);
         EXPECT_EQ(stopped.animation->frames.Size(), 2) << threads;
     }

@@ -4,15 +4,13 @@
 
 #include "formats/gif/plain_document.h"
 #include "formats/gif/reference_gif_encoder.h"
+#include "support/colors.h"
 
 namespace kirto::test {
 
 namespace {
 
 using Bytes = std::vector<uint8>;
-
-constexpr uint32 kBlack = 0xFF000000;
-constexpr uint32 kWhite = 0xFFFFFFFF;
 
 std::vector<uint32> GreyNoise(size_t count) {
     std::mt19937 engine(1);

@@ -14,7 +14,7 @@ namespace {
 
 using Indices = std::vector<uint8>;
 
-constexpr uint8 kTransparent = 7;
+constexpr uint8 kTransparentIndex = 7;
 constexpr int32 kWidth = 61;
 constexpr int32 kHeight = 40;
 
@@ -69,7 +69,7 @@ class PlainMapper {
                     errors->Clear();
             }
             const rgb_color color = PixelColor(&bitmap, x, y);
-            indices.push_back(color.alpha < 255 ? kTransparent : Map(color, x));
+            indices.push_back(color.alpha < 255 ? kTransparentIndex : Map(color, x));
         }
         return indices;
     }
@@ -133,7 +133,7 @@ void ExpectPlain(PixelMapper& mapper, const Palette& palette, bool dither, bool 
 
 void ExpectPlainPictures(bool dither) {
     std::mt19937 random(61);
-    PixelMapper mapper(kTransparent, dither, kWidth + 2);
+    PixelMapper mapper(kTransparentIndex, dither, kWidth + 2);
     for (const int32 size : {1, 2, 3, 16, 40, 216, 255, 256}) {
         for (const color_space space : {B_RGB32, B_RGBA32, B_RGB32_BIG, B_RGBA32_BIG}) {
             const uint32 mask = random() % 2 == 0 ? 0xFFFFFF : 0xC0E0C0;
@@ -160,7 +160,7 @@ TEST(PixelMapper, EqualsThePlainOneOnRandomDitheredPictures) {
 TEST(PixelMapper, EqualsThePlainOneWithBuiltInPalettes) {
     std::mt19937 random(62);
     for (const bool dither : {false, true}) {
-        PixelMapper mapper(kTransparent, dither, kWidth);
+        PixelMapper mapper(kTransparentIndex, dither, kWidth);
         for (const int32 kind : {kPaletteWebSafe, kPaletteSystem, kPaletteGreyscale}) {
             const Palette palette(kind);
             for (const uint32 mask : {0xFFFFFFU, 0x0F0F0FU}) {

@@ -32,8 +32,8 @@ Indices Row(PixelMapper& mapper, const kirto::Picture& bitmap, int32 y = 0) {
 }
 
 // The rows of one picture, from the top.
-Indices Picture(PixelMapper& mapper, const Palette& palette, const kirto::Picture& bitmap,
-                bool unconnected_rows = false) {
+Indices MapPicture(PixelMapper& mapper, const Palette& palette, const kirto::Picture& bitmap,
+                   bool unconnected_rows = false) {
     mapper.StartPicture(palette, unconnected_rows);
     Indices all;
     for (int32 y = 0; y < bitmap.Height(); ++y) {
@@ -77,7 +77,7 @@ TEST(PixelMapper, MapsColoursToTheNearestEntry) {
     const Palette palette = BlackAndWhite();
     PixelMapper mapper(kTransparent, false, 4);
     const auto picture = FramePictureOf(4, 1, {0xFF000000, 0xFF7F7F7F, 0xFF808080, 0xFFFFFFFF});
-    EXPECT_EQ(Picture(mapper, palette, *picture), (Indices{0, 0, 1, 1}));
+    EXPECT_EQ(MapPicture(mapper, palette, *picture), (Indices{0, 0, 1, 1}));
 }
 
 TEST(PixelMapper, AnyAlphaBelow255IsTheTransparentIndex) {
@@ -87,7 +87,8 @@ TEST(PixelMapper, AnyAlphaBelow255IsTheTransparentIndex) {
         for (uint32 alpha = 0; alpha < 256; ++alpha) {
             const auto picture = FramePictureOf(1, 1, {alpha << 24 | 0xFFFFFF});
             const uint8 expected = alpha < 255 ? kTransparent : 1;
-            EXPECT_EQ(Picture(mapper, palette, *picture), Indices{expected}) << "alpha " << alpha;
+            EXPECT_EQ(MapPicture(mapper, palette, *picture), Indices{expected})
+                << "alpha " << alpha;
         }
     }
 }
@@ -111,28 +112,28 @@ TEST(PixelMapper, ForgetsThePaletteBeforeWithEachPicture) {
     std::swap(reversed.colors[0], reversed.colors[1]);
     PixelMapper mapper(kTransparent, false, 1);
     const auto picture = Grey(1, 1, 255);
-    EXPECT_EQ(Picture(mapper, palette, *picture), Indices{1});
-    EXPECT_EQ(Picture(mapper, reversed, *picture), Indices{0});
+    EXPECT_EQ(MapPicture(mapper, palette, *picture), Indices{1});
+    EXPECT_EQ(MapPicture(mapper, reversed, *picture), Indices{0});
 }
 
 TEST(PixelMapper, DitheringCarriesTheErrorAlongTheRow) {
     // 100 is black and leaves 44 to the next one, 144 is white.
     const Palette palette = BlackAndWhite();
     PixelMapper mapper(kTransparent, true, 2);
-    EXPECT_EQ(Picture(mapper, palette, *Grey(2, 1, 100)), (Indices{0, 1}));
+    EXPECT_EQ(MapPicture(mapper, palette, *Grey(2, 1, 100)), (Indices{0, 1}));
 }
 
 TEST(PixelMapper, DitheringStartsEachRowWithNothingCarried) {
     const Palette palette = BlackAndWhite();
     PixelMapper mapper(kTransparent, true, 1);
-    EXPECT_EQ(Picture(mapper, palette, *Grey(1, 3, 100)), (Indices{0, 0, 0}));
+    EXPECT_EQ(MapPicture(mapper, palette, *Grey(1, 3, 100)), (Indices{0, 0, 0}));
 }
 
 TEST(PixelMapper, DitheringPassesTransparentPixelsOver) {
     const Palette palette = BlackAndWhite();
     PixelMapper mapper(kTransparent, true, 3);
     const auto picture = FramePictureOf(3, 1, {0xFF646464, 0xFEFFFFFF, 0xFF646464});
-    EXPECT_EQ(Picture(mapper, palette, *picture), (Indices{0, kTransparent, 1}));
+    EXPECT_EQ(MapPicture(mapper, palette, *picture), (Indices{0, kTransparent, 1}));
 }
 
 TEST(PixelMapper, DitheringHandsErrorsDownToTheNextRow) {
@@ -140,7 +141,7 @@ TEST(PixelMapper, DitheringHandsErrorsDownToTheNextRow) {
     const Palette palette = BlackAndWhite();
     PixelMapper mapper(kTransparent, true, 2);
     const auto picture = FramePictureOf(2, 2, {0xFF000000, 0xFF7F7F7F, 0xFF000000, 0xFF606060});
-    EXPECT_EQ(Picture(mapper, palette, *picture), (Indices{0, 0, 0, 1}));
+    EXPECT_EQ(MapPicture(mapper, palette, *picture), (Indices{0, 0, 0, 1}));
 }
 
 TEST(PixelMapper, RowsThatAreNoNeighboursGetNothingButTheLastPixelsOwnError) {
@@ -149,11 +150,11 @@ TEST(PixelMapper, RowsThatAreNoNeighboursGetNothingButTheLastPixelsOwnError) {
     PixelMapper mapper(kTransparent, true, 3);
     const auto inner = FramePictureOf(
         3, 2, {0xFF000000, 0xFF7F7F7F, 0xFF000000, 0xFF000000, 0xFF606060, 0xFF000000});
-    EXPECT_EQ(Picture(mapper, palette, *inner, false), (Indices{0, 0, 0, 0, 1, 0}));
-    EXPECT_EQ(Picture(mapper, palette, *inner, true), (Indices{0, 0, 0, 0, 0, 0}));
+    EXPECT_EQ(MapPicture(mapper, palette, *inner, false), (Indices{0, 0, 0, 0, 1, 0}));
+    EXPECT_EQ(MapPicture(mapper, palette, *inner, true), (Indices{0, 0, 0, 0, 0, 0}));
     const auto last = FramePictureOf(
         3, 2, {0xFF000000, 0xFF000000, 0xFF7F7F7F, 0xFF000000, 0xFF000000, 0xFF606060});
-    EXPECT_EQ(Picture(mapper, palette, *last, true), (Indices{0, 0, 0, 0, 0, 1}));
+    EXPECT_EQ(MapPicture(mapper, palette, *last, true), (Indices{0, 0, 0, 0, 0, 1}));
 }
 
 TEST(PixelMapper, ATransparentLastPixelClearsTheRowsAllTheSame) {
@@ -161,34 +162,34 @@ TEST(PixelMapper, ATransparentLastPixelClearsTheRowsAllTheSame) {
     PixelMapper mapper(kTransparent, true, 3);
     const auto picture = FramePictureOf(
         3, 2, {0xFF000000, 0xFF7F7F7F, 0x00000000, 0xFF000000, 0xFF606060, 0xFF000000});
-    EXPECT_EQ(Picture(mapper, palette, *picture, true), (Indices{0, 0, kTransparent, 0, 0, 0}));
+    EXPECT_EQ(MapPicture(mapper, palette, *picture, true), (Indices{0, 0, kTransparent, 0, 0, 0}));
 }
 
 TEST(PixelMapper, EachPictureStartsWithoutErrors) {
     const Palette palette = BlackAndWhite();
     PixelMapper mapper(kTransparent, true, 8);
     const auto picture = Grey(8, 1, 90);
-    const Indices first = Picture(mapper, palette, *picture);
-    EXPECT_EQ(Picture(mapper, palette, *picture), first);
+    const Indices first = MapPicture(mapper, palette, *picture);
+    EXPECT_EQ(MapPicture(mapper, palette, *picture), first);
 }
 
 TEST(PixelMapper, TheGreyRampIsNeverDithered) {
     const Palette grey(kPaletteGreyscale);
     PixelMapper mapper(kTransparent, true, 4);
     const auto picture = FramePictureOf(4, 1, {0xFF0000FF, 0xFF0000FF, 0xFF0000FF, 0xFF0000FF});
-    EXPECT_EQ(Picture(mapper, grey, *picture), (Indices{63, 63, 63, 63}));
+    EXPECT_EQ(MapPicture(mapper, grey, *picture), (Indices{63, 63, 63, 63}));
 }
 
 TEST(PixelMapper, WithoutMemoryForTheCacheItMapsTheSame) {
     Palette palette(kPaletteWebSafe);
     const auto picture = FramePictureOf(3, 1, {0xFF123456, 0xFFABCDEF, 0xFF123456});
     PixelMapper plenty(kTransparent, false, 3);
-    const Indices expected = Picture(plenty, palette, *picture);
+    const Indices expected = MapPicture(plenty, palette, *picture);
     // The memo's two blocks and the three rows, and none for the colours themselves.
     for (int32 call = 1; call <= 7; ++call) {
         const AllocationFault fault(call);
         PixelMapper mapper(kTransparent, false, 3);
-        EXPECT_EQ(Picture(mapper, palette, *picture), expected) << "allocation " << call;
+        EXPECT_EQ(MapPicture(mapper, palette, *picture), expected) << "allocation " << call;
     }
 }
 
@@ -201,7 +202,7 @@ TEST(PixelMapper, AsksForMemoryAFewTimesWhateverTheNumberOfColours) {
     const AllocationFault fault(1000);
     PixelMapper mapper(kTransparent, false, 10000);
 
-    const Indices indices = Picture(mapper, palette, *picture);
+    const Indices indices = MapPicture(mapper, palette, *picture);
 
     EXPECT_LT(fault.Calls(), 20);
     for (uint32 i = 0; i < 10000; ++i) {
@@ -217,7 +218,7 @@ TEST(PixelMapper, WithoutMemoryForTheErrorsItDoesNotDither) {
         const AllocationFault fault(call);
         PixelMapper mapper(kTransparent, true, 2);
         const Indices expected = call <= 3 ? Indices{0, 0} : Indices{0, 1};
-        EXPECT_EQ(Picture(mapper, palette, *picture), expected) << "allocation " << call;
+        EXPECT_EQ(MapPicture(mapper, palette, *picture), expected) << "allocation " << call;
     }
 }
 

@@ -9,9 +9,9 @@ namespace {
 constexpr int32 kNoMoreBits = -1;
 
 // Takes bytes off the front; after the first short take everything fails.
-class Bytes {
+class GifBytes {
   public:
-    explicit Bytes(std::vector<uint8> bytes) : bytes_(std::move(bytes)) {}
+    explicit GifBytes(std::vector<uint8> bytes) : bytes_(std::move(bytes)) {}
 
     bool Ok() const { return ok_; }
     int32 Take() {
@@ -54,7 +54,7 @@ struct Bits {
     size_t position = 0;
     bool terminated = false;  // the zero-length sub-block was there
 
-    explicit Bits(Bytes* bytes) {
+    explicit Bits(GifBytes* bytes) {
         for (;;) {
             const int32 size = bytes->Take();
             terminated = bytes->Ok() && size == 0;
@@ -119,7 +119,7 @@ std::vector<int32> PlacePixels(const ReferenceImage& image, const std::vector<ui
     return indices;
 }
 
-void SkipSubBlocks(Bytes* bytes) {
+void SkipSubBlocks(GifBytes* bytes) {
     while (bytes->Ok()) {
         const int32 size = bytes->Take();
         if (size == 0) return;
@@ -128,7 +128,7 @@ void SkipSubBlocks(Bytes* bytes) {
 }
 
 // Reads an extension; of a control block the fields go into what the next image starts from.
-void TakeExtension(Bytes* bytes, ReferenceImage* control) {
+void TakeExtension(GifBytes* bytes, ReferenceImage* control) {
     if (bytes->Take() == 0xF9) {
         bytes->Take();
         const int32 packed = bytes->Take();
@@ -141,7 +141,7 @@ void TakeExtension(Bytes* bytes, ReferenceImage* control) {
 }
 
 // Completes an image from its descriptor on. False when it can't be decoded.
-bool TakeImage(Bytes* bytes, const ReferenceGif& gif, ReferenceImage* image) {
+bool TakeImage(GifBytes* bytes, const ReferenceGif& gif, ReferenceImage* image) {
     image->x = bytes->Take16();
     image->y = bytes->Take16();
     image->width = bytes->Take16();
@@ -155,14 +155,14 @@ bool TakeImage(Bytes* bytes, const ReferenceGif& gif, ReferenceImage* image) {
     const ReferencePixels pixels = DecodeReferenceLzw(bytes->Rest(), std::max(image->code_size, 2));
     if (!pixels.success) return false;
     image->indices = PlacePixels(*image, pixels.indices);
-    *bytes = Bytes(pixels.leftover);
+    *bytes = GifBytes(pixels.leftover);
     return true;
 }
 
 }  // namespace
 
 ReferencePixels DecodeReferenceLzw(const std::vector<uint8>& data, int32 min_code_size) {
-    Bytes bytes(data);
+    GifBytes bytes(data);
     Bits bits(&bytes);
     ReferencePixels result;
     result.leftover = bytes.Rest();
@@ -207,7 +207,7 @@ ReferencePixels DecodeReferenceLzw(const std::vector<uint8>& data, int32 min_cod
 
 ReferenceGif DecodeReferenceGif(const std::vector<uint8>& data) {
     ReferenceGif gif;
-    Bytes bytes(data);
+    GifBytes bytes(data);
     bytes.Take(6);
     gif.width = bytes.Take16();
     gif.height = bytes.Take16();

@@ -290,7 +290,7 @@ std::vector<uint8> ReferenceImageData(const std::vector<uint8>& indices, int32 m
     return out;
 }
 
-std::vector<uint8> ReferenceGif(const AnimationDocument& document) {
+std::vector<uint8> EncodeReferenceGif(const AnimationDocument& document) {
     Bytes out;
     PutHeader(&out, document);
     for (const FramePointer& frame : document.Current()->frames) {

@@ -9,7 +9,7 @@
 namespace kirto::test {
 
 // The whole file for the document. Every frame has a bitmap of its own size, of at least one pixel.
-std::vector<uint8> ReferenceGif(const AnimationDocument& document);
+std::vector<uint8> EncodeReferenceGif(const AnimationDocument& document);
 
 // The image data of a picture of these palette indices, at least one: code size byte, data
 // sub-blocks, terminator.

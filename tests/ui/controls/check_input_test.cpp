@@ -7,9 +7,9 @@
 
 namespace kirto::test {
 
-namespace {
-
 using Lines = std::vector<std::string>;
+
+namespace {
 
 Lines AlertOf(const std::string& text) {
     return {"WARNING [] " + text + " | OK"};

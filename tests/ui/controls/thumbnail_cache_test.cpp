@@ -2,12 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include "support/colors.h"
 #include "support/test_support.h"
 
 namespace kirto::test {
 namespace {
-
-constexpr uint32 kRed = 0xFFFF0000;
 
 TEST(ThumbnailCache, ScalesOnceAndTellsPicturesAndSizesApart) {
     ThumbnailCache cache;

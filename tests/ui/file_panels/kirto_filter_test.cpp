@@ -6,38 +6,38 @@ namespace kirto::test {
 
 namespace {
 
-bool Offers(const std::string& path, const std::string& type) {
+bool FilterOffers(const std::string& path, const std::string& type) {
     return KirtoFilter().Filter(entry_ref(path), [&] { return type; });
 }
 
 }  // namespace
 
 TEST(KirtoFilter, OffersAFileNamedClipInCapitalsOfUnknownTypeButNotInMixedCase) {
-    EXPECT_TRUE(Offers("/a/clip.GIF", ""));
-    EXPECT_FALSE(Offers("/a/clip.Gif", ""));
+    EXPECT_TRUE(FilterOffers("/a/clip.GIF", ""));
+    EXPECT_FALSE(FilterOffers("/a/clip.Gif", ""));
 }
 
 TEST(KirtoFilter, OffersFilesByNamePartsAnywhereInTheName) {
     for (const char* name :
          {"/a.gif", "/a.GIF", "/a.fli", "/a.FLI", "/a.flc", "/a.FLC", "/a.gif.png", "/.gif"}) {
-        EXPECT_TRUE(Offers(name, "text/plain")) << name;
+        EXPECT_TRUE(FilterOffers(name, "text/plain")) << name;
     }
     for (const char* name : {"/gif", "/a.Fli", "/a.png", "/a.gif/b"}) {
-        EXPECT_FALSE(Offers(name, "text/plain")) << name;
+        EXPECT_FALSE(FilterOffers(name, "text/plain")) << name;
     }
 }
 
 TEST(KirtoFilter, OffersFilesByType) {
     for (const char* type : {"image/gif", "image/x-gif", "video/x-fli", "video/x-flc"})
-        EXPECT_TRUE(Offers("/a", type)) << type;
+        EXPECT_TRUE(FilterOffers("/a", type)) << type;
     for (const char* type : {"image/png", "image/gif2", "video/x-flic", ""})
-        EXPECT_FALSE(Offers("/a", type)) << type;
+        EXPECT_FALSE(FilterOffers("/a", type)) << type;
 }
 
 TEST(KirtoFilter, OffersVolumesFoldersAndLinks) {
-    EXPECT_TRUE(Offers("/", "application/x-vnd.Be-volume"));
-    EXPECT_TRUE(Offers("/a", "application/x-vnd.Be-directory"));
-    EXPECT_TRUE(Offers("/a", "application/x-vnd.Be-symlink"));
+    EXPECT_TRUE(FilterOffers("/", "application/x-vnd.Be-volume"));
+    EXPECT_TRUE(FilterOffers("/a", "application/x-vnd.Be-directory"));
+    EXPECT_TRUE(FilterOffers("/a", "application/x-vnd.Be-symlink"));
 }
 
 TEST(KirtoFilter, AsksForNoTypeWhereTheNameTells) {

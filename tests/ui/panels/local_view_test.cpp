@@ -6,9 +6,9 @@
 
 namespace kirto::test {
 
-namespace {
-
 using Lines = std::vector<std::string>;
+
+namespace {
 
 class LocalViewTest : public ViewFixture {
   protected:

@@ -7,9 +7,9 @@
 
 namespace kirto::test {
 
-namespace {
-
 using Lines = std::vector<std::string>;
+
+namespace {
 
 class PaletteViewTest : public ViewFixture {
   protected:

@@ -19,8 +19,6 @@ namespace kirto::test {
 
 namespace {
 
-using Lines = std::vector<std::string>;
-
 class KirtoWindowDocument : public ::testing::Test {
   protected:
     KirtoWindowDocument() {

@@ -11,9 +11,9 @@
 
 namespace kirto::test {
 
-namespace {
-
 using Lines = std::vector<std::string>;
+
+namespace {
 
 class MainMenu : public ::testing::Test {
   protected:

@@ -5,14 +5,12 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
+#include "support/colors.h"
 #include "support/test_support.h"
 
 namespace kirto::test {
 
 namespace {
-
-constexpr uint32 kRed = 0xFFFF0000;
-constexpr uint32 kBlue = 0xFF0000FF;
 
 // Three frames, two of them other ones in the file. The last lies at the right of the screen.
 std::shared_ptr<const SaveCheck::Finding> MakeFinding() {

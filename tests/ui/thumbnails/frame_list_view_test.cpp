@@ -62,7 +62,7 @@ std::vector<FramePointer> FramesNamed(const std::string& names) {
     return frames;
 }
 
-void Press(QWidget& widget, int key) {
+void PressOn(QWidget& widget, int key) {
     QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
     QApplication::sendEvent(&widget, &event);
 }
@@ -181,7 +181,7 @@ TEST(FrameList, TouchesNoRowForAnEditThatItDoesNotShow) {
 
 TEST(FrameList, TellsTheWindowWhichRowTheUserSelects) {
     ListFixture fixture(SameFrames(3, 1, 1));
-    Press(fixture.List(), Qt::Key_Down);
+    PressOn(fixture.List(), Qt::Key_Down);
     EXPECT_EQ(fixture.List().CurrentSelection(), 1);
     EXPECT_EQ(fixture.window->TakeTranscript(), "flsl");
     fixture.List().clearSelection();
@@ -191,8 +191,8 @@ TEST(FrameList, TellsTheWindowWhichRowTheUserSelects) {
 
 TEST(FrameList, InsertsAndRemovesWithTheirKeys) {
     ListFixture fixture(SameFrames(3, 1, 1));
-    Press(fixture.List(), Qt::Key_Insert);
-    Press(fixture.List(), Qt::Key_Delete);
+    PressOn(fixture.List(), Qt::Key_Insert);
+    PressOn(fixture.List(), Qt::Key_Delete);
     EXPECT_EQ(fixture.window->Transcript(), "awfi awfr");
 }
 
