@@ -12,12 +12,12 @@
 #include <gtest/gtest.h>
 
 #include "document/command_codes.h"
+#include "kit/qt/text_picture.h"
 #include "support/fake_roster.h"
 #include "ui/controls/picture_area.h"
 #include "ui/dialogs/picture_area_dialogs.h"
 #include "ui/dialogs/sheet_dialog.h"
 #include "ui/dialogs/text_dialog.h"
-#include "ui/dialogs/text_picture.h"
 #include "ui/thumbnails/frame_area_fixture.h"
 #include "ui/widget_tools.h"
 
