@@ -47,6 +47,13 @@ void FileDialog::AddRow(QWidget* controls) {
     resize(width(), height() + controls->sizeHint().height());
 }
 
+void FileDialog::WatchChosenFile(std::function<void(const QString& path)> watch) {
+    connect(name_field_, &QLineEdit::textChanged, this,
+            [this, watch = std::move(watch)](const QString& text) {
+                watch(text.isEmpty() ? QString() : ChosenFiles().value(0));
+            });
+}
+
 void FileDialog::Restart(const QString& name) {
     if (proxy_) proxy_->ForgetTypes();
     for (auto* view : findChildren<QAbstractItemView*>()) {
