@@ -38,6 +38,7 @@ class FileDialog : public QFileDialog {
   protected:
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     // Shows the folder typed into the name field; returns false if there is none.

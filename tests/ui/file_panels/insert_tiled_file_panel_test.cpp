@@ -153,6 +153,14 @@ TEST_F(InsertTiledFilePanelTest, ShowsHowTheChosenFileIsCut) {
     EXPECT_TRUE(shows("6 × 4 pixels: 2 rows and 3 columns of 2 × 2 pixels."));
     Type("Spacing", "1");
     EXPECT_TRUE(shows("6 × 4 pixels: 1 row and 2 columns of 2 × 2 pixels."));
+    NameField()->setText("a.raw6");
+    EXPECT_TRUE(shows(""));
+    NameField()->setText("a.raw");
+    EXPECT_TRUE(shows("6 × 4 pixels: 1 row and 2 columns of 2 × 2 pixels."));
+    NameField()->setText("/a.raw6");
+    EXPECT_TRUE(shows(""));
+    NameField()->setText("a.raw");
+    EXPECT_TRUE(shows("6 × 4 pixels: 1 row and 2 columns of 2 × 2 pixels."));
     NameField()->setText("");
     EXPECT_EQ(text->text(), "");
 }
