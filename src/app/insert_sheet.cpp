@@ -2,13 +2,10 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <optional>
-#include <string>
 
 #include "animation/pauses.h"
 #include "app/save_animation.h"
 #include "effects/cut_sheet.h"
-#include "formats/sheet/sheet_description.h"
 #include "kit/alert.h"
 #include "kit/file.h"
 
@@ -17,21 +14,6 @@ namespace kirto {
 namespace {
 
 constexpr int64 kMostBytes = 1 << 24;  // of a text
-
-std::optional<SheetDescription> ReadDescription(const std::string& path) {
-    BFile file(path, B_READ_ONLY);
-    if (file.InitCheck() != B_OK || file.Size() > kMostBytes) return std::nullopt;
-    std::string text(static_cast<size_t>(file.Size()), '\0');
-    if (!file.ReadExactly(text.data(), text.size())) return std::nullopt;
-    return ReadSheetDescription(text);
-}
-
-// Beside the text, whatever path it has: it is not to name files of anywhere else.
-entry_ref PictureOf(const entry_ref& ref, const SheetDescription& description) {
-    const std::filesystem::path named = std::filesystem::path(description.image).filename();
-    const std::string same = std::filesystem::path(ref.Leaf()).replace_extension(".png").string();
-    return entry_ref(PathIn(ref.Directory(), named.empty() ? same : named.string()));
-}
 
 bool IsOn(const BBitmap& sheet, const SheetFrame& frame) {
     return int64{frame.left} + frame.width <= sheet.Width() &&
@@ -60,13 +42,28 @@ bool IsSheetDescription(const entry_ref& ref) {
     return ref.Leaf().ends_with(".json");
 }
 
+std::optional<SheetDescription> ReadSheetText(const entry_ref& ref) {
+    BFile file(ref.path, B_READ_ONLY);
+    if (file.InitCheck() != B_OK || file.Size() > kMostBytes) return std::nullopt;
+    std::string text(static_cast<size_t>(file.Size()), '\0');
+    if (!file.ReadExactly(text.data(), text.size())) return std::nullopt;
+    return ReadSheetDescription(text);
+}
+
+// Beside the text, whatever path it has: it is not to name files of anywhere else.
+entry_ref PictureOfSheet(const entry_ref& ref, const SheetDescription& description) {
+    const std::filesystem::path named = std::filesystem::path(description.image).filename();
+    const std::string same = std::filesystem::path(ref.Leaf()).replace_extension(".png").string();
+    return entry_ref(PathIn(ref.Directory(), named.empty() ? same : named.string()));
+}
+
 bool InsertSheet(AnimationDocument& document, const entry_ref& ref, BTranslatorRoster& roster) {
-    const std::optional<SheetDescription> description = ReadDescription(ref.path);
+    const std::optional<SheetDescription> description = ReadSheetText(ref);
     if (!description) {
         Warn("This file can't be inserted because it does not describe a sheet: " + ref.Leaf());
         return true;
     }
-    const auto sheet = ReadSheet(document, PictureOf(ref, *description), roster);
+    const auto sheet = ReadSheet(document, PictureOfSheet(ref, *description), roster);
     if (!sheet) return !document.StopRequested();
     const auto& frames = description->frames;
     if (!std::all_of(frames.begin(), frames.end(),

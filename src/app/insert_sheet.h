@@ -1,7 +1,11 @@
 // Frames from a sheet that a JSON text describes.
 #pragma once
 
+#include <optional>
+#include <string>
+
 #include "document/animation_document.h"
+#include "formats/sheet/sheet_description.h"
 #include "kit/entry_ref.h"
 #include "kit/translator_roster.h"
 
@@ -9,6 +13,12 @@ namespace kirto {
 
 // Whether the file is such a text, by its name.
 bool IsSheetDescription(const entry_ref& ref);
+
+// The text; nothing where it can't be read or describes no sheet. Any thread.
+std::optional<SheetDescription> ReadSheetText(const entry_ref& ref);
+// The picture that a text in that place is about: the one it names, or the one of the same name as
+// PNG.
+entry_ref PictureOfSheet(const entry_ref& ref, const SheetDescription& description);
 
 // Reads the text, and the picture beside it that it names (or the one of the same name, as PNG),
 // and inserts its frames after the current one, with their names, places and durations. Texts and

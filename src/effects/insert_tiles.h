@@ -2,25 +2,11 @@
 #pragma once
 
 #include "document/animation_document.h"
+#include "effects/tile_layout.h"
 #include "kit/entry_ref.h"
 #include "kit/translator_roster.h"
 
 namespace kirto {
-
-struct TileGrid {
-    int32 rows = 0;
-    int32 columns = 0;
-    bool column_by_column = false;  // order of the tiles; else row by row
-    // In pixels, 0 or more. Of all sides of the picture, and between tiles.
-    int32 margin = 0;
-    int32 spacing = 0;
-    // A tile's size; 0: of the rows and columns there are. Where it is given, there are as many
-    // rows and columns as have room, whatever stands above; the margin counts at the left and the
-    // top only.
-    int32 tile_width = 0;
-    int32 tile_height = 0;
-    bool skip_empty = false;  // no frames of tiles that are transparent everywhere
-};
 
 // Cuts the file's picture into rows x columns tiles of equal size (what is left over at the right
 // and the bottom belongs to no tile) and inserts each as a frame after the current one. Grids

@@ -54,6 +54,7 @@ TEST(KirtoCli, NamesEveryOptionInItsHelp) {
                              "--greyscale",
                              "--opacity N%",
                              "--overlay FILE[@X,Y[:N%]]",
+                             "--text TEXT[,NAME=VALUE...]",
                              "--make-transparent RRGGBB[:TOLERANCE]",
                              "--save-sheet FILE.png[,columns=N][,padding=N][,pot]",
                              "--pause X|off",

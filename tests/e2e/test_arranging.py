@@ -1,5 +1,6 @@
+import compare_in_browser
 from desktop_session import wait_until
-from editor_test import BLUE, EditorTest, GREEN, RED, WHITE
+from editor_test import BLUE, EditorTest, GREEN, NAMES, RED, WHITE
 
 TEN = (RED, GREEN, BLUE, WHITE, RED, GREEN, BLUE, WHITE, RED, GREEN)
 
@@ -42,6 +43,17 @@ class Arranging(EditorTest):
         editor.choose("File", "Save")
         editor.wait_for_status(frames, modified=False)
 
+    def expect_in_browser(self, path, colors, milliseconds):
+        """The browser shows frames of one colour each, all for as long."""
+        missing = compare_in_browser.missing_programs()
+        if missing:
+            self.skipTest(f"{', '.join(missing)} is missing; ./dev test installs it")
+        shown = compare_in_browser.browser_frames(path)
+        self.assertEqual([frame.rgba for frame in shown],
+                         [bytes(color) * (frame.width * frame.height)
+                          for frame, color in zip(shown, colors, strict=True)])
+        self.assertEqual([frame.milliseconds for frame in shown], [milliseconds] * len(colors))
+
     def pauses(self, path):
         info = self.info(path)
         return [frame["pause_length"] if frame["use_pause"] else info["pause_length_global"]
@@ -61,6 +73,7 @@ class Arranging(EditorTest):
         self.save(editor, 5)
         self.assertEqual(self.colors(path), [RED, GREEN, BLUE, RED, GREEN])
         self.assertEqual(self.pauses(path), [4] * 5)
+        self.expect_in_browser(path, [RED, GREEN, BLUE, RED, GREEN], 40)
 
     def test_plays_forward_and_back_by_keyboard(self):
         editor, path = self.open_ten()
@@ -69,6 +82,7 @@ class Arranging(EditorTest):
         self.assertLessEqual(self.strokes, 2)
         self.save(editor, 18)
         self.assertEqual(self.colors(path), list(TEN) + list(TEN[-2:0:-1]))
+        self.expect_in_browser(path, list(TEN) + list(TEN[-2:0:-1]), 300)
 
     def test_drops_every_second_frame_and_keeps_the_duration_by_keyboard(self):
         editor, path = self.open_ten()
@@ -80,6 +94,7 @@ class Arranging(EditorTest):
         self.save(editor, 5)
         self.assertEqual(self.colors(path), list(TEN[::2]))
         self.assertEqual(self.pauses(path), [60] * 5)
+        self.expect_in_browser(path, list(TEN[::2]), 600)
 
     def test_moves_frames_to_a_place_by_keyboard(self):
         editor, path = self.open_ten()
@@ -88,6 +103,15 @@ class Arranging(EditorTest):
         editor.wait_for_status(10, modified=True)
         self.save(editor, 10)
         self.assertEqual(self.colors(path), [*TEN[:3], *TEN[8:], *TEN[3:8]])
+
+    def test_moves_frames_that_are_typed_with_their_place(self):
+        editor, path = self.open_ten()
+        self.key("ctrl+b")
+        self.in_dialog("Move To", "7-9>3")
+        editor.wait_for_status(10, modified=True)
+        self.assertLessEqual(self.strokes, 4)
+        self.save(editor, 10)
+        self.expect_in_browser(path, [*TEN[:3], *TEN[7:], *TEN[3:7]], 300)
 
     def test_moves_frames_to_a_place_by_dragging_them(self):
         editor, path = self.open_ten()
@@ -116,6 +140,43 @@ class Arranging(EditorTest):
         path = self.folder / "copied.gif"
         other.save_as(path)
         self.assertEqual(self.colors(path), list(TEN[:5]))
+
+    def test_copies_frames_that_are_typed_into_another_editor(self):
+        editor, _ = self.open_ten()
+        self.type("0-4")
+        self.key("Return")
+        editor.wait_for_label("5 of 10 selected, 1.50 s of 3.00 s, 3.33 fps")
+        self.key("ctrl+c")
+        other = self.start_editor()
+        self.key("ctrl+v")
+        other.wait_for_status(5, modified=True)
+        self.assertLessEqual(self.strokes, 4)
+        path = self.folder / "copied.gif"
+        other.save_as(path)
+        self.expect_in_browser(path, TEN[:5], 300)
+
+    def test_cuts_a_sheet_of_tiles_with_spaces_between_them_by_keyboard(self):
+        colors = [RED, GREEN, BLUE, WHITE, RED, GREEN]
+        sheet = self.folder / "sheet.png"
+        self.session.call("montage", "-size", "64x64", *(f"xc:{NAMES[color]}" for color in colors),
+                          "-tile", "3x2", "-geometry", "64x64+1+1", "-background", "black",
+                          f"png24:{sheet}")
+        self.session.call("mogrify", "-shave", "1x1", sheet)
+        editor = self.start_editor()
+        self.key("ctrl+t")
+        self.session.wait_until_active("^Insert Tiled Frame$")
+        self.type(str(sheet))
+        self.key("alt+w")
+        self.type("64+2")
+        editor.wait_for_label("196 × 130 pixels: 2 rows and 3 columns of 64 × 64 pixels.")
+        self.key("Return")
+        editor.wait_for_status(6, modified=True)
+        self.assertLessEqual(self.strokes, 6)
+        path = self.folder / "tiles.gif"
+        editor.save_as(path)
+        info = self.info(path)
+        self.assertEqual((info["global_width"], info["global_height"]), (64, 64))
+        self.expect_in_browser(path, colors, 1000)
 
     def test_crops_to_a_drawn_rectangle(self):
         editor, path = self.open_ten()
@@ -167,3 +228,5 @@ class Arranging(EditorTest):
         self.assertEqual((info["global_width"], info["global_height"]), (480, 360))
         self.assertEqual([frame["name"] for frame in info["frames"]][:1], ["frame0000"])
         self.assertEqual(self.colors(path), colors)
+        # Whole hundredths, unless animations are saved as browsers show them.
+        self.expect_in_browser(path, colors, 60)

@@ -6,6 +6,8 @@
 #include <QApplication>
 #include <QDialog>
 #include <QElapsedTimer>
+#include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
@@ -35,6 +37,7 @@ constexpr int kEditMenu = 1;
 constexpr int kAnimationMenu = 4;
 constexpr int32 kThumbnailHeight = 96;
 constexpr const char* kSavedName = "notice.gif";
+constexpr const char* kSheetName = "wheel-4x3.tga";
 
 void SettleFor(int milliseconds) {
     QElapsedTimer timer;
@@ -98,7 +101,7 @@ class Pictures {
         GrabDialog(kirto::kMenuCrop, "Crop", "crop");
         GrabDialog(kirto::kMenuResize, "Resize Animation", "resize");
         GrabDialog(kirto::kMenuSetPause, "Set Pause", "set-pause");
-        GrabDialog(kirto::kMenuInsertTiled, "Insert Tiled Frame", "insert-tiled");
+        GrabSheet();
         GrabDialog(kirto::kMenuSaveAs, "Save Animation", "save");
         GrabPreferences();
         GrabWork();
@@ -148,6 +151,22 @@ class Pictures {
         QWidget* window = OpenWindow(command, title);
         if (!window) return;
         Grab(*window, name);
+        window->close();
+        SettleFor(kSettle);
+    }
+
+    // The panel that cuts an image, with one of those that kirto-sample draws, if it is there.
+    void GrabSheet() {
+        QWidget* window = OpenWindow(kirto::kMenuInsertTiled, "Insert Tiled Frame");
+        if (!window) return;
+        window->findChild<QLineEdit*>("fileNameEdit")->setText(kSheetName);
+        window->findChild<QLineEdit*>("Rows")->setText("3");
+        window->findChild<QLineEdit*>("Columns")->setText("4");
+        if (std::filesystem::exists(kSheetName)) {
+            const auto* text = window->findChild<QLabel*>("SheetText");
+            WaitUntil([text] { return text->text().contains("4 columns"); });
+        }
+        Grab(*window, "insert-tiled");
         window->close();
         SettleFor(kSettle);
     }

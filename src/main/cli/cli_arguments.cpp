@@ -74,6 +74,9 @@ constexpr OptionText kOperations[] = {
     {"--greyscale", nullptr, "Make the selected frames grey"},
     {"--opacity", "N%", "Make the selected frames translucent"},
     {"--overlay", "FILE[@X,Y[:N%]]", "Draw an image over the selected frames"},
+    {"--text", "TEXT[,NAME=VALUE...]",
+     "Draw a text on the selected frames: [,font=NAME] [,size=N] [,color=RRGGBB] "
+     "[,outline=N:RRGGBB] [,at=ANCHOR] or [,x=N] [,y=N], [,fade-in=N] [,fade-out=N] in frames"},
     {"--make-transparent", "RRGGBB[:TOLERANCE]",
      "Make a color, and those near it, transparent in the selected frames"},
     {"--undo", "[N]", "Undo the last change, or the last N"},

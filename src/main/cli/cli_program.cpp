@@ -20,8 +20,8 @@ void StopOnInterrupt(int) {
     if (CliSession* session = g_session) session->RequestStop();
 }
 
-int RunSession(CliArguments arguments, BTranslatorRoster& roster) {
-    CliSession session(std::move(arguments), roster);
+int RunSession(CliArguments arguments, BTranslatorRoster& roster, CaptionDrawer draw_caption) {
+    CliSession session(std::move(arguments), roster, std::move(draw_caption));
     g_session = &session;
     struct sigaction action = {};
     action.sa_handler = StopOnInterrupt;
@@ -48,8 +48,9 @@ void PrepareCliProcess() {
     std::signal(SIGXFSZ, SIG_IGN);
 }
 
-int RunCliProgram(CliArguments arguments, BTranslatorRoster& roster) {
-    const int status = ExitStatus(RunSession(std::move(arguments), roster));
+int RunCliProgram(CliArguments arguments, BTranslatorRoster& roster, CaptionDrawer draw_caption) {
+    const int status =
+        ExitStatus(RunSession(std::move(arguments), roster, std::move(draw_caption)));
     if (std::fflush(stdout) == 0 && !std::ferror(stdout)) return status;
     std::fputs("kirto-cli: standard output can't be written.\n", stderr);
     return kExitFailed;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "kit/translator_roster.h"
+#include "main/cli/caption.h"
 #include "main/cli/cli_arguments.h"
 
 namespace kirto {
@@ -9,6 +10,8 @@ namespace kirto {
 void PrepareCliProcess();
 // Does what the command line asks for, with the roster's image formats, and returns the process's
 // exit status. Ctrl-C and SIGTERM end the work in hand; a second one ends the process.
-int RunCliProgram(CliArguments arguments, BTranslatorRoster& roster);
+// draw_caption: called on the caller's thread, if a text is asked for at all.
+int RunCliProgram(CliArguments arguments, BTranslatorRoster& roster,
+                  CaptionDrawer draw_caption = {});
 
 }  // namespace kirto

@@ -16,9 +16,11 @@ bool ChangesSettings(const CliOperation& operation) {
 
 }  // namespace
 
-CliSession::CliSession(CliArguments arguments, BTranslatorRoster& roster)
+CliSession::CliSession(CliArguments arguments, BTranslatorRoster& roster,
+                       CaptionDrawer draw_caption)
     : arguments_(std::move(arguments)),
       roster_(roster),
+      draw_caption_(std::move(draw_caption)),
       desktop_(arguments_.salvage, arguments_.quiet),
       previous_presenter_(InstallAlertPresenter(&desktop_)) {}
 
@@ -114,6 +116,7 @@ CliSession::Handler CliSession::HandlerFor(const std::string& option) {
         {"--greyscale", &CliSession::MakeGreyscale},
         {"--opacity", &CliSession::SetOpacity},
         {"--overlay", &CliSession::Overlay},
+        {"--text", &CliSession::DrawText},
         {"--make-transparent", &CliSession::MakeTransparent},
         {"--undo", &CliSession::Undo},
         {"--redo", &CliSession::Redo},

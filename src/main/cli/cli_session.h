@@ -10,6 +10,7 @@
 #include "kit/entry_ref.h"
 #include "kit/idle_barrier.h"
 #include "kit/translator_roster.h"
+#include "main/cli/caption.h"
 #include "main/cli/cli_arguments.h"
 #include "main/cli/headless_desktop.h"
 #include "settings/prefs.h"
@@ -21,8 +22,8 @@ namespace kirto {
 // user on standard error; results go to standard output.
 class CliSession {
   public:
-    // The roster outlives the session.
-    CliSession(CliArguments arguments, BTranslatorRoster& roster);
+    // The roster outlives the session. draw_caption: empty in a program without texts.
+    CliSession(CliArguments arguments, BTranslatorRoster& roster, CaptionDrawer draw_caption);
     ~CliSession();
 
     // Runs to the end or to the first operation that fails; the program's exit status.
@@ -99,6 +100,7 @@ class CliSession {
     Outcome MakeGreyscale(const std::string& value);
     Outcome SetOpacity(const std::string& value);
     Outcome Overlay(const std::string& value);
+    Outcome DrawText(const std::string& value);
     Outcome MakeTransparent(const std::string& value);
 
     static entry_ref AbsoluteRef(const std::string& path);
@@ -151,6 +153,7 @@ class CliSession {
     const CliArguments arguments_;
     std::span<const CliOperation> following_;  // those after the operation in hand
     BTranslatorRoster& roster_;
+    const CaptionDrawer draw_caption_;
     HeadlessDesktop desktop_;
     AlertPresenter* previous_presenter_;
     Prefs prefs_;

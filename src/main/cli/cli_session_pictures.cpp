@@ -13,8 +13,6 @@ namespace kirto {
 namespace {
 
 constexpr const char* kFilters = "nearest bilinear lanczos";
-constexpr const char* kAnchors =
-    "top-left top top-right left center right bottom-left bottom bottom-right";
 
 void AddSize(const CanvasSize& size, BMessage* message) {
     message->AddInt32("width", size.width);
@@ -122,7 +120,7 @@ CliSession::Outcome CliSession::Crop(const std::string& value) {
 CliSession::Outcome CliSession::SetCanvas(const std::string& value) {
     if (CheckCanvas() != Outcome::kDone) return Outcome::kFailed;
     std::string text = value;
-    const int32 anchor = PositionIn(kAnchors, TakeBehind(&text, ':').value_or("center"));
+    const int32 anchor = PositionIn(kAnchorNames, TakeBehind(&text, ':').value_or("center"));
     const auto size = ParseSize(text);
     if (!size || anchor < 0) {
         return Refuse("--canvas: \"" + value + "\": expected WxH[:ANCHOR].");
@@ -198,6 +196,28 @@ CliSession::Outcome CliSession::Overlay(const std::string& value) {
     desktop_.SetSubject(path);
     message.AddRef("refs", AbsoluteRef(path));
     return PostPictureEdit(message);
+}
+
+CliSession::Outcome CliSession::DrawText(const std::string& value) {
+    std::string reason;
+    std::optional<Caption> caption = ParseCaption(value, &reason);
+    if (!caption) return Refuse("--text: " + reason);
+    if (CheckCurrentFrame() != Outcome::kDone || CheckCanvas() != Outcome::kDone)
+        return Outcome::kFailed;
+    const auto animation = app_->Current();
+    if (!caption->size) caption->size = UsualCaptionSize(*animation);
+    const CaptionPicture picture = draw_caption_(*caption);
+    if (picture.png.empty())
+        return Fail("--text: the text shows nothing, or is larger than 8192 pixels.");
+    const CaptionPlace place =
+        PlaceCaption(*animation, picture.width, picture.height, caption->anchor);
+    BMessage message(kDrawText);
+    message.AddData("image", B_RAW_TYPE, picture.png.data(), picture.png.size());
+    message.AddInt32("x", caption->x.value_or(place.x));
+    message.AddInt32("y", caption->y.value_or(place.y));
+    message.AddInt32("fade_in", caption->fade_in);
+    message.AddInt32("fade_out", caption->fade_out);
+    return Post(message);
 }
 
 CliSession::Outcome CliSession::MakeTransparent(const std::string& value) {

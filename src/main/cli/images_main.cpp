@@ -1,10 +1,11 @@
-// kirto-cli-images: kirto-cli with the image formats of Qt.
+// kirto-cli-images: kirto-cli with the image formats of Qt, and its fonts.
 #include <QGuiApplication>
 #include <clocale>
 #include <memory>
 #include <utility>
 
 #include "kit/qt/qt_translator_roster.h"
+#include "kit/qt/text_picture.h"
 #include "main/cli/cli_program.h"
 
 namespace {
@@ -33,6 +34,17 @@ class ImageSupport {
     std::unique_ptr<QGuiApplication> application_;
 };
 
+kirto::CaptionPicture DrawCaption(const kirto::Caption& caption) {
+    kirto::TextStyle style;
+    if (!caption.font.empty()) style.font.setFamily(QString::fromStdString(caption.font));
+    style.font.setPixelSize(caption.size.value_or(kirto::kSmallestCaption));
+    style.color = QColor::fromRgb(caption.color);
+    style.outline = QColor::fromRgb(caption.outline_color);
+    style.outline_width = caption.outline;
+    const QImage image = kirto::PictureOfText(QString::fromStdString(caption.text), style);
+    return {kirto::PngOf(image), image.width(), image.height()};
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -41,5 +53,5 @@ int main(int argc, char** argv) {
     if (const auto status = kirto::ParseArguments(argc, argv, &arguments)) return *status;
     const ImageSupport image_support;
     kirto::QtTranslatorRoster roster;
-    return kirto::RunCliProgram(std::move(arguments), roster);
+    return kirto::RunCliProgram(std::move(arguments), roster, DrawCaption);
 }

@@ -16,9 +16,9 @@
 namespace {
 
 bool UsesImages(const kirto::CliArguments& arguments) {
-    static const std::set<std::string> kImageOptions = {"--insert",     "--insert-tiled",
-                                                        "--overlay",    "--save-sequence",
-                                                        "--save-sheet", "--list-formats"};
+    static const std::set<std::string> kImageOptions = {
+        "--insert",        "--insert-tiled", "--overlay",     "--text",
+        "--save-sequence", "--save-sheet",   "--list-formats"};
     return std::any_of(
         arguments.operations.begin(), arguments.operations.end(),
         [](const auto& operation) { return kImageOptions.contains(operation.option); });

@@ -9,6 +9,10 @@
 
 namespace kirto {
 
+// The nine places of a canvas, row by row, with blanks between them.
+inline constexpr std::string_view kAnchorNames =
+    "top-left top top-right left center right bottom-left bottom bottom-right";
+
 struct CanvasSize {
     int32 width = 0;
     int32 height = 0;

@@ -83,15 +83,19 @@ void FadeWindow::Arrange(QWidget* panel) {
         return label;
     };
     auto* layout = new QGridLayout(panel);
-    layout->addWidget(label_for("ModeMenuLabel", "Fade mode:", mode_), 0, 0);
-    layout->addWidget(mode_, 0, 1, 1, 2, Qt::AlignLeft);
-    layout->addWidget(label_for("FrameCountLabel", "Frame count:", frame_count_), 1, 0);
-    layout->addWidget(frame_count_, 1, 1, 1, 2, Qt::AlignLeft);
-    layout->addWidget(color_, 2, 0, 2, 2);
-    layout->addWidget(label_for("PreviewString", "Preview:", preview_), 2, 2);
-    layout->addWidget(preview_, 3, 2);
+    QLabel* scope = kirto::MakeLabel(
+        "Scope", "Blends the current frame alone, whatever else is selected.", panel);
+    scope->setWordWrap(true);
+    layout->addWidget(scope, 0, 0, 1, 3);
+    layout->addWidget(label_for("ModeMenuLabel", "Fade mode:", mode_), 1, 0);
+    layout->addWidget(mode_, 1, 1, 1, 2, Qt::AlignLeft);
+    layout->addWidget(label_for("FrameCountLabel", "Frame count:", frame_count_), 2, 0);
+    layout->addWidget(frame_count_, 2, 1, 1, 2, Qt::AlignLeft);
+    layout->addWidget(color_, 3, 0, 2, 2);
+    layout->addWidget(label_for("PreviewString", "Preview:", preview_), 3, 2);
+    layout->addWidget(preview_, 4, 2);
     layout->setColumnStretch(1, 1);
-    layout->setRowStretch(3, 1);
+    layout->setRowStretch(4, 1);
 
     auto* buttons = new QDialogButtonBox(panel);
     QPushButton* ok = kirto::MakeButton("OK", "OK", kirto::kFadeOk, Messenger(), panel);
@@ -103,7 +107,7 @@ void FadeWindow::Arrange(QWidget* panel) {
     // A click takes the count as it is typed; only leaving the field confirms it.
     ok->setFocusPolicy(Qt::TabFocus);
     cancel->setFocusPolicy(Qt::TabFocus);
-    layout->addWidget(buttons, 4, 0, 1, 3);
+    layout->addWidget(buttons, 5, 0, 1, 3);
 }
 
 void FadeWindow::MessageReceived(BMessage* message) {

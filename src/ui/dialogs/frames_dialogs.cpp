@@ -8,6 +8,7 @@
 
 #include "animation/pauses.h"
 #include "document/command_codes.h"
+#include "ui/controls/leading_key.h"
 
 namespace kirto {
 
@@ -104,12 +105,14 @@ void AskForPlace(const Animation& shown, QWidget* parent, FormDialog::Receiver r
     const int32 count = shown.frames.Size();
     auto* dialog =
         new FormDialog("MoveTo", "Move To",
-                       QString("Frames are numbered from 0 to %1; %2 is behind the last.")
+                       QString("Frames are numbered from 0 to %1; %2 is behind the last. Both at "
+                               "once: 3-7>12.")
                            .arg(count - 1)
                            .arg(count),
                        parent);
     auto* frames = AddRange(*dialog, shown);
     auto* place = dialog->AddNumber("Place", "&Before frame:", 0, count, 0);
+    new LeadingKey(frames, '>', place);
     frames->setFocus();
     const auto make = [=]() -> std::optional<BMessage> {
         const std::string text = frames->text().toStdString();

@@ -98,7 +98,9 @@ void AskForSize(const Animation& shown, QWidget* parent, FormDialog::Receiver re
 void AskForCanvas(const Animation& shown, QWidget* parent, FormDialog::Receiver receive) {
     auto* dialog = new FormDialog(
         "CanvasSize", "Canvas Size",
-        "Pictures keep their size; what a smaller canvas has no room for is cut off.", parent);
+        "Works on all frames. Pictures keep their size; what a smaller canvas has no room for is "
+        "cut off.",
+        parent);
     auto* width = dialog->AddNumber("Width", "&Width:", 1, kLargestSide, std::max(shown.width, 1));
     auto* height =
         dialog->AddNumber("Height", "&Height:", 1, kLargestSide, std::max(shown.height, 1));

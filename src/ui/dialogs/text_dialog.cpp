@@ -1,14 +1,14 @@
 #include "ui/dialogs/text_dialog.h"
 
-#include <QBuffer>
 #include <QFontComboBox>
 #include <QLineEdit>
 #include <QSpinBox>
 #include <algorithm>
 
+#include "app/caption_layout.h"
 #include "document/command_codes.h"
+#include "kit/qt/text_picture.h"
 #include "ui/controls/picture_area.h"
-#include "ui/dialogs/text_picture.h"
 
 namespace kirto {
 
@@ -49,18 +49,17 @@ QImage TextFields::Image() const {
 
 void TextFields::Center(const Animation& shown) const {
     const QImage image = Image();
-    x->setValue((shown.width - image.width()) / 2);
-    y->setValue(shown.height - image.height() - shown.height / 20);
+    const CaptionPlace place =
+        PlaceCaption(shown, image.width(), image.height(), kUsualCaptionAnchor);
+    x->setValue(place.x);
+    y->setValue(place.y);
 }
 
 std::optional<BMessage> TextFields::Command() const {
-    const QImage image = Image();
-    if (image.isNull()) return std::nullopt;
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    if (!image.save(&buffer, "PNG")) return std::nullopt;
+    const std::string bytes = PngOf(Image());
+    if (bytes.empty()) return std::nullopt;
     BMessage message(kDrawText);
-    message.AddData("image", B_RAW_TYPE, bytes.constData(), static_cast<size_t>(bytes.size()));
+    message.AddData("image", B_RAW_TYPE, bytes.data(), bytes.size());
     message.AddInt32("x", x->value());
     message.AddInt32("y", y->value());
     message.AddInt32("fade_in", fade_in->value());
@@ -84,10 +83,11 @@ TextFields AddFields(FormDialog& dialog, const Animation& shown) {
     fields.font = new QFontComboBox(&dialog);
     fields.font->setObjectName("Font");
     dialog.AddField("&Font:", fields.font);
-    fields.size = dialog.AddNumber("Size", "&Size in pixels:", 4, 1000,
-                                   std::clamp(shown.height / 8, 10, 200));
+    fields.size = dialog.AddNumber("Size", "&Size in pixels:", kSmallestCaption, kLargestCaption,
+                                   UsualCaptionSize(shown));
     fields.color = AddText(dialog, "Color", "&Color:", "#ffffff");
-    fields.outline_width = dialog.AddNumber("OutlineWidth", "&Outline in pixels:", 0, 50, 2);
+    fields.outline_width =
+        dialog.AddNumber("OutlineWidth", "&Outline in pixels:", 0, kWidestOutline, kUsualOutline);
     fields.outline = AddText(dialog, "Outline", "Out&line color:", "#000000");
     fields.x = dialog.AddNumber("X", "&X offset:", -kLargestPlace, kLargestPlace, 0);
     fields.y = dialog.AddNumber("Y", "&Y offset:", -kLargestPlace, kLargestPlace, 0);

@@ -4,6 +4,7 @@
 #include <QCompleter>
 #include <QDir>
 #include <QFileInfo>
+#include <QFocusEvent>
 #include <QGridLayout>
 #include <QLineEdit>
 #include <algorithm>
@@ -23,6 +24,7 @@ FileDialog::FileDialog(QWidget* parent) : QFileDialog(parent) {
     }
     name_field_ = findChild<QLineEdit*>("fileNameEdit");
     completer_ = name_field_->completer();
+    name_field_->installEventFilter(this);
 }
 
 void FileDialog::SetFilter(std::unique_ptr<BRefFilter> filter) {
@@ -45,6 +47,13 @@ void FileDialog::AddRow(QWidget* controls) {
     if (place >= 0) grid->getItemPosition(place, &row, &column, &rows, &columns);
     grid->addWidget(controls, row, 0, 1, column + columns);
     resize(width(), height() + controls->sizeHint().height());
+}
+
+void FileDialog::WatchChosenFile(std::function<void(const QString& path)> watch) {
+    connect(name_field_, &QLineEdit::textChanged, this,
+            [this, watch = std::move(watch)](const QString& text) {
+                watch(text.isEmpty() ? QString() : ChosenFiles().value(0));
+            });
 }
 
 void FileDialog::Restart(const QString& name) {
@@ -85,6 +94,16 @@ void FileDialog::showEvent(QShowEvent* event) {
 void FileDialog::hideEvent(QHideEvent* event) {
     QFileDialog::hideEvent(event);
     name_field_->setCompleter(nullptr);
+}
+
+// What completes the name hands all keys to the name field, also when a label's key has led to
+// another one.
+bool FileDialog::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == name_field_ && event->type() == QEvent::FocusOut &&
+        static_cast<const QFocusEvent*>(event)->reason() == Qt::ShortcutFocusReason) {
+        completer_->popup()->hide();
+    }
+    return QFileDialog::eventFilter(watched, event);
 }
 
 // The toolkit would take a folder's name for one that lacks its extension.

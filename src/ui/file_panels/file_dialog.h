@@ -26,6 +26,8 @@ class FileDialog : public QFileDialog {
     void SetReplaceCheck(std::function<bool(const QString& path)> may_write);
     // Puts the controls below the name field and makes room for them.
     void AddRow(QWidget* controls);
+    // Called with the path that the name field names, whenever that changes; empty for none.
+    void WatchChosenFile(std::function<void(const QString& path)> watch);
     // Starts over in the same folder, with the text in the name field.
     void Restart(const QString& name);
     // The absolute paths of the files that are chosen or typed.
@@ -36,6 +38,7 @@ class FileDialog : public QFileDialog {
   protected:
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     // Shows the folder typed into the name field; returns false if there is none.

@@ -1,6 +1,7 @@
 #include "ui/file_panels/insert_tiled_file_panel.h"
 
 #include <QCheckBox>
+#include <QFile>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -10,6 +11,7 @@
 
 #include "base/number.h"
 #include "document/command_codes.h"
+#include "ui/controls/leading_key.h"
 #include "ui/file_panels/image_filter.h"
 
 namespace {
@@ -19,7 +21,7 @@ constexpr int kMaxDigits = 5;
 QLabel* MakeLabelFor(QWidget* field, const char* text, QWidget* parent) {
     auto* label = new QLabel(QString::fromUtf8(text), parent);
     label->setBuddy(field);
-    field->setAccessibleName(label->text());
+    field->setAccessibleName(label->text().remove('&'));
     return label;
 }
 
@@ -31,11 +33,12 @@ QRadioButton* MakeOrder(const char* name, const char* label, QWidget* parent) {
 
 }  // namespace
 
-InsertTiledFilePanel::InsertTiledFilePanel(BMessenger target, const BTranslatorRoster& roster,
+InsertTiledFilePanel::InsertTiledFilePanel(BMessenger target, BTranslatorRoster& roster,
                                            QPointer<QWidget> parent)
     : OpenFilePanel({"Insert Tiled Frame", kirto::kInsertTiledFile, "Insert", false,
                      [&roster] { return std::make_unique<ImageFilter>(roster); }},
-                    std::move(target), std::move(parent)) {}
+                    std::move(target), std::move(parent)),
+      roster_(roster) {}
 
 std::string InsertTiledFilePanel::RowsText() const {
     const std::lock_guard lock(mutex_);
@@ -62,8 +65,11 @@ QLineEdit* InsertTiledFilePanel::MakeNumberField(const char* name, std::string* 
     field->setAlignment(Qt::AlignRight);
     field->setFixedWidth(field->fontMetrics().horizontalAdvance("0") * (kMaxDigits + 3));
     QObject::connect(field, &QLineEdit::textChanged, [this, text](const QString& changed) {
-        const std::lock_guard lock(mutex_);
-        *text = changed.toStdString();
+        {
+            const std::lock_guard lock(mutex_);
+            *text = changed.toStdString();
+        }
+        Preview();
     });
     return field;
 }
@@ -93,7 +99,45 @@ void InsertTiledFilePanel::Prepare(kirto::FileDialog& dialog) {
     layout->addWidget(by_column, 1, 2);
     AddTileFields(*layout, controls);
     layout->setColumnStretch(3, 1);
+    view_ = new kirto::SheetView(roster_, controls);
+    layout->addWidget(view_, 5, 0, 1, 4);
     dialog.AddRow(controls);
+    dialog.WatchChosenFile([this](const QString& path) {
+        shown_path_ = QFile::encodeName(path).toStdString();
+        Preview();
+    });
+}
+
+kirto::TileGrid InsertTiledFilePanel::Grid() const {
+    const std::lock_guard lock(mutex_);
+    kirto::TileGrid grid;
+    grid.rows = kirto::LeadingInteger(rows_);
+    grid.columns = kirto::LeadingInteger(columns_);
+    grid.column_by_column = column_by_column_;
+    grid.margin = kirto::LeadingInteger(margin_);
+    grid.spacing = kirto::LeadingInteger(spacing_);
+    grid.tile_width = kirto::LeadingInteger(tile_width_);
+    grid.tile_height = kirto::LeadingInteger(tile_height_);
+    grid.skip_empty = skip_empty_;
+    return grid;
+}
+
+void InsertTiledFilePanel::Preview() {
+    if (view_) view_->ShowSheet(shown_path_, Grid());
+}
+
+void InsertTiledFilePanel::Closed(bool) {
+    // The file may be another one when the panel is shown again.
+    shown_path_.clear();
+    Preview();
+}
+
+void InsertTiledFilePanel::KeepSquare(QLineEdit* width, QLineEdit* height) {
+    const auto followed = std::make_shared<QString>(width->text());
+    QObject::connect(width, &QLineEdit::textChanged, height, [=](const QString& text) {
+        if (height->text() == *followed) height->setText(text);
+        *followed = text;
+    });
 }
 
 void InsertTiledFilePanel::AddTileFields(QGridLayout& layout, QWidget* controls) {
@@ -105,27 +149,36 @@ void InsertTiledFilePanel::AddTileFields(QGridLayout& layout, QWidget* controls)
         if (column == 0) {
             layout.addWidget(name_label, row, 0);
             layout.addWidget(field, row, 1);
-            return;
+            return field;
         }
         auto* pair = new QHBoxLayout;
         pair->addWidget(name_label);
         pair->addWidget(field);
         pair->addStretch();
         layout.addLayout(pair, row, column);
+        return field;
     };
     constexpr const char* kTileTip =
-        "Size of a tile in pixels, in place of rows and columns; 0: by rows and columns";
-    add("TileWidth", "Tile width:", kTileTip, &tile_width_, 2, 0);
-    add("TileHeight", "Tile height:", kTileTip, &tile_height_, 3, 0);
-    add("Margin", "Margin:", "Pixels around all tiles", &margin_, 2, 2);
-    add("Spacing", "Spacing:", "Pixels between two tiles", &spacing_, 3, 2);
-    auto* skip = new QCheckBox("Skip empty tiles", controls);
+        "Size of a tile in pixels, in place of rows and columns; 0: by rows and columns. Width, "
+        "height and spacing may be typed at once: 64x48+2, or 64+2 for squares";
+    QLineEdit* width = add("TileWidth", "Tile &width:", kTileTip, &tile_width_, 2, 0);
+    QLineEdit* height = add("TileHeight", "Tile &height:", kTileTip, &tile_height_, 3, 0);
+    add("Margin", "&Margin:", "Pixels around all tiles", &margin_, 2, 2);
+    QLineEdit* spacing = add("Spacing", "&Spacing:", "Pixels between two tiles", &spacing_, 3, 2);
+    KeepSquare(width, height);
+    new kirto::LeadingKey(width, 'x', height);
+    for (QLineEdit* field : {width, height})
+        new kirto::LeadingKey(field, '+', spacing);
+    auto* skip = new QCheckBox("Skip &empty tiles", controls);
     skip->setObjectName("SkipEmpty");
     skip->setToolTip("Makes no frames of tiles that are transparent everywhere");
     skip->setChecked(skip_empty_);
     QObject::connect(skip, &QCheckBox::toggled, [this](bool on) {
-        const std::lock_guard lock(mutex_);
-        skip_empty_ = on;
+        {
+            const std::lock_guard lock(mutex_);
+            skip_empty_ = on;
+        }
+        Preview();
     });
     layout.addWidget(skip, 4, 0, 1, 3);
 }

@@ -18,6 +18,7 @@ ThumbDrawingView::ThumbDrawingView(const kirto::ShownDocument& shown, const kirt
       editor_(editor),
       window_(std::move(window)),
       scroll_view_(*scroll_view),
+      range_entry_(new kirto::RangeEntry(shown, editor.application, this)),
       start_drag_([this](std::unique_ptr<kirto::FrameDrag> drag, const QImage& image, BPoint grab) {
           kirto::RunFrameDrag(this, std::move(drag), image, grab);
       }) {

@@ -15,14 +15,15 @@
 #include "ui/controls/thumbnail_cache.h"
 #include "ui/thumbnails/frame_drag.h"
 #include "ui/thumbnails/frame_selector.h"
+#include "ui/thumbnails/range_entry.h"
 #include "ui/thumbnails/thumb_scroll_view.h"
 #include "ui/thumbnails/thumbnail_layout.h"
 
 class QHelpEvent;
 
 // The grid of thumbnails. Frames can be selected, several of them by Shift, Ctrl or a frame drawn
-// around them, dragged out as files or to another place, and have a context menu; dropped files are
-// sent to the window with the position of the drop. GUI thread.
+// around them or by typing their numbers, dragged out as files or to another place, and have a
+// context menu; dropped files are sent to the window with the position of the drop. GUI thread.
 class ThumbDrawingView : public QWidget {
   public:
     using DragStarter = std::function<void(std::unique_ptr<kirto::FrameDrag> drag,
@@ -104,6 +105,7 @@ class ThumbDrawingView : public QWidget {
     int32 kept_in_sight_ = -1;  // the frame that KeepCurrentInSight looked for last
     QMenu menu_;                // what can be done with a frame
 
+    kirto::RangeEntry* range_entry_;
     kirto::FrameSelector selector_;
     QRubberBand band_{QRubberBand::Rectangle, this};
     QPoint band_start_;

@@ -167,7 +167,11 @@ void ThumbDrawingView::keyPressEvent(QKeyEvent* event) {
             window_.SendMessage(kirto::kRemoveFrame);
             break;
         default:
-            QWidget::keyPressEvent(event);
+            if (plain && range_entry_->Begins(event->text())) {
+                range_entry_->Begin(event->text());
+            } else {
+                QWidget::keyPressEvent(event);
+            }
     }
 }
 

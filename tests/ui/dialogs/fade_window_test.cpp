@@ -70,6 +70,11 @@ struct FadeWindowTest : testing::Test {
 
 }  // namespace
 
+TEST_F(FadeWindowTest, SaysThatItWorksOnTheCurrentFrame) {
+    EXPECT_EQ(Named<QLabel>(*window, "Scope")->text(),
+              "Blends the current frame alone, whatever else is selected.");
+}
+
 TEST_F(FadeWindowTest, ShowsItsControls) {
     EXPECT_EQ(window->windowTitle(), "Fade Effects");
     EXPECT_FALSE(window->isModal());

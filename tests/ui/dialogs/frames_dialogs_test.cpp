@@ -7,6 +7,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSpinBox>
+#include <QTest>
 #include <gtest/gtest.h>
 
 #include "document/command_codes.h"
@@ -108,6 +109,18 @@ TEST_F(FramesDialogs, MoveFramesToAPlace) {
     Ok().click();
 
     EXPECT_EQ(received.what, kMoveFramesTo);
+    EXPECT_EQ(Text("frames"), "7-9");
+    EXPECT_EQ(Number("position"), 3);
+}
+
+TEST_F(FramesDialogs, MoveFramesThatAreTypedWithTheirPlace) {
+    AskForPlace(animation, &parent, receive);
+    QWidget& dialog = *Find<QLineEdit>("Range").window();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
+    for (const char key : std::string("7-9>3"))
+        QTest::keyClick(dialog.focusWidget(), key);
+    Ok().click();
+
     EXPECT_EQ(Text("frames"), "7-9");
     EXPECT_EQ(Number("position"), 3);
 }

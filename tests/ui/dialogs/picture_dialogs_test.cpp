@@ -17,7 +17,6 @@
 #include "ui/dialogs/picture_area_dialogs.h"
 #include "ui/dialogs/sheet_dialog.h"
 #include "ui/dialogs/text_dialog.h"
-#include "ui/dialogs/text_picture.h"
 #include "ui/thumbnails/frame_area_fixture.h"
 #include "ui/widget_tools.h"
 
@@ -230,22 +229,6 @@ TEST_F(PictureDialogs, DrawNoTextInAColorThatIsNone) {
     Find<QLineEdit>("Color").setText("#12");
 
     EXPECT_FALSE(Ok().isEnabled());
-}
-
-TEST(PictureOfText, IsAsLargeAsTheTextWithItsOutline) {
-    TextStyle style;
-    style.font.setPixelSize(20);
-    const QImage plain = PictureOfText("Hi", style);
-    const QImage longer = PictureOfText("Hi there", style);
-    style.outline_width = 3;
-    const QImage outlined = PictureOfText("Hi", style);
-
-    EXPECT_TRUE(PictureOfText("", style).isNull());
-    EXPECT_TRUE(PictureOfText(" ", style).isNull());
-    EXPECT_GT(longer.width(), plain.width());
-    EXPECT_EQ(outlined.width(), plain.width() + 6);
-    EXPECT_EQ(plain.pixelColor(0, 0).alpha(), 0);
-    EXPECT_EQ(plain.format(), QImage::Format_ARGB32);
 }
 
 // Whatever it is asked for, it writes PNG files.

@@ -114,6 +114,57 @@ TEST_F(InsertTiledFilePanelTest, SendsWhatElseSaysHowItIsCut) {
     EXPECT_TRUE(skip);
 }
 
+TEST_F(InsertTiledFilePanelTest, TakesAWholeGridTypedIntoOneField) {
+    Show(FilePanelKind::kInsertTiled);
+    EXPECT_TRUE(QTest::qWaitForWindowActive(Dialog()));
+    Field("TileWidth")->setFocus(Qt::TabFocusReason);
+    for (const char* key : {"6", "4", "x", "4", "8", "+", "2"})
+        QTest::keyClicks(Dialog()->focusWidget(), key);
+
+    EXPECT_EQ(Field("TileWidth")->text(), "64");
+    EXPECT_EQ(Field("TileHeight")->text(), "48");
+    EXPECT_EQ(Field("Spacing")->text(), "2");
+}
+
+TEST_F(InsertTiledFilePanelTest, TakesTilesForSquaresUntilTheirHeightIsGiven) {
+    Show(FilePanelKind::kInsertTiled);
+    Type("TileWidth", "64");
+    EXPECT_EQ(Field("TileHeight")->text(), "64");
+    Type("TileHeight", "48");
+    Type("TileWidth", "32");
+    EXPECT_EQ(Field("TileHeight")->text(), "48");
+}
+
+TEST_F(InsertTiledFilePanelTest, ShowsHowTheChosenFileIsCut) {
+    const std::vector<uint8> sheet = RawPicture(*PictureOf(6, 4, std::vector<uint32>(24, 0)));
+    WriteBytes(folder.File("a.raw"), sheet);
+    Show(FilePanelKind::kInsertTiled);
+    const auto* text = Named<QLabel>(*Dialog(), "SheetText");
+    EXPECT_EQ(text->text(), "");
+    const auto shows = [text](const char* sentence) {
+        return WaitFor([=] { return text->text() == sentence; });
+    };
+
+    EXPECT_TRUE(QTest::qWaitForWindowActive(Dialog()));
+    NameField()->setFocus();
+    NameField()->setText("a.raw");
+    EXPECT_TRUE(shows("6 × 4 pixels: 3 rows and 3 columns of 2 × 1 pixels."));
+    Type("TileWidth", "2");
+    EXPECT_TRUE(shows("6 × 4 pixels: 2 rows and 3 columns of 2 × 2 pixels."));
+    Type("Spacing", "1");
+    EXPECT_TRUE(shows("6 × 4 pixels: 1 row and 2 columns of 2 × 2 pixels."));
+    NameField()->setText("a.raw6");
+    EXPECT_TRUE(shows(""));
+    NameField()->setText("a.raw");
+    EXPECT_TRUE(shows("6 × 4 pixels: 1 row and 2 columns of 2 × 2 pixels."));
+    NameField()->setText("/a.raw6");
+    EXPECT_TRUE(shows(""));
+    NameField()->setText("a.raw");
+    EXPECT_TRUE(shows("6 × 4 pixels: 1 row and 2 columns of 2 × 2 pixels."));
+    NameField()->setText("");
+    EXPECT_EQ(text->text(), "");
+}
+
 TEST_F(InsertTiledFilePanelTest, KeepsItsFieldsWhenItsParentGoes) {
     Show(FilePanelKind::kInsertTiled);
     Type("Rows", "7");

@@ -1,5 +1,6 @@
-#include "ui/dialogs/text_picture.h"
+#include "kit/qt/text_picture.h"
 
+#include <QBuffer>
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QPainterPath>
@@ -45,6 +46,13 @@ QImage PictureOfText(const QString& text, const TextStyle& style) {
     painter.fillPath(path, style.color);
     painter.end();
     return image.convertToFormat(QImage::Format_ARGB32);
+}
+
+std::string PngOf(const QImage& image) {
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    if (!image.save(&buffer, "PNG")) return {};
+    return bytes.toStdString();
 }
 
 }  // namespace kirto

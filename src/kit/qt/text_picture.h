@@ -5,6 +5,7 @@
 #include <QFont>
 #include <QImage>
 #include <QString>
+#include <string>
 
 namespace kirto {
 
@@ -19,5 +20,9 @@ struct TextStyle {
 // premultiplied; lines are broken where it has line breaks. Null for text that shows nothing. GUI
 // thread.
 QImage PictureOfText(const QString& text, const TextStyle& style);
+
+// The image as a PNG file, the form in which commands carry pictures. Empty for a null image, or
+// when memory is short.
+std::string PngOf(const QImage& image);
 
 }  // namespace kirto
