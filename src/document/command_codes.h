@@ -205,6 +205,9 @@ inline constexpr uint32 kMenuOverlay = FourCharCode("wpov");
 inline constexpr uint32 kMenuText = FourCharCode("wptx");
 inline constexpr uint32 kMenuMakeTransparent = FourCharCode("wpmt");
 
+inline constexpr uint32 kShowPlayer = FourCharCode("wvpl");  // or hides it
+inline constexpr uint32 kPlay = FourCharCode("wply");        // or pauses
+
 // Panels to main window. No fields; the window reads the control that sent the command.
 inline constexpr uint32 kThumbnailMode = FourCharCode("lvtm");
 inline constexpr uint32 kFrameListMode = FourCharCode("lvfm");

@@ -96,6 +96,11 @@ class Pictures {
         SettleFor(kSettle);
         Grab(*Main(), "framelist");
         Send(kirto::kToggleMode);
+        Send(kirto::kShowPlayer);
+        SettleFor(2 * kSettle);
+        Grab(*Main(), "player");
+        Send(kirto::kShowPlayer);
+        SettleFor(kSettle);
         GrabDialog(kirto::kMenuFadeEffects, "Fade Effects", "fade");
         GrabSelection();
         GrabDialog(kirto::kMenuCrop, "Crop", "crop");

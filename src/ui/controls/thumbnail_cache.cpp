@@ -15,6 +15,7 @@ QImage ThumbnailCache::Scaled(const std::shared_ptr<const Picture>& picture, QSi
     QImage image = Find(picture, size);
     if (!image.isNull()) return image;
     const QImage source = ImageOf(picture, size);
+    if (source.isNull()) return {};
     // What is scaled is first made premultiplied, so that the colors below transparent pixels do
     // not bleed into their neighbors.
     image = source.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);

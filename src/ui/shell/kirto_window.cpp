@@ -23,6 +23,7 @@
 #include "ui/panels/notice_bar.h"
 #include "ui/panels/palette_view.h"
 #include "ui/panels/status_view.h"
+#include "ui/player/player_view.h"
 #include "ui/shell/main_menu.h"
 #include "ui/shell/window_state.h"
 #include "ui/thumbnails/file_urls.h"
@@ -97,6 +98,7 @@ void KirtoWindow::MakePanels() {
     kirto::Editor editor = editor_;
     editor.application = window;
     thumbnail_view_ = new ThumbnailView(shown_, editor, window);
+    player_view_ = new kirto::PlayerView(shown_, window);
     for (const QWidget* panel : panels_) {
         for (const QLineEdit* field : panel->findChildren<QLineEdit*>())
             connect(field, &QLineEdit::textEdited, this, [this] { ShowHistory(); });
@@ -122,14 +124,10 @@ void KirtoWindow::ArrangePanels() {
     panel_area_->setMinimumWidth(column->minimumSizeHint().width() +
                                  panel_area_->verticalScrollBar()->sizeHint().width());
 
-    frame_area_ = new QStackedWidget;
-    frame_area_->addWidget(thumbnail_view_);
-    frame_area_->addWidget(frame_list_view_);
-
     splitter_ = new QSplitter;
     splitter_->setChildrenCollapsible(false);
     splitter_->addWidget(panel_area_);
-    splitter_->addWidget(frame_area_);
+    splitter_->addWidget(ArrangeFrames());
     splitter_->setStretchFactor(1, 1);
 
     auto* content = new QWidget;
@@ -178,7 +176,9 @@ void KirtoWindow::Place(const BRect& frame) {
         place.moveCenter(screen.center());
     }
     setGeometry(place);
-    if (shown_.Settings().misc_savewindowdimensions) kirto::RestoreSplitter(*splitter_);
+    if (!shown_.Settings().misc_savewindowdimensions) return;
+    kirto::RestoreSplitter(*splitter_);
+    ShowPlayer(kirto::RestorePlayer(*player_splitter_));
 }
 
 BRect KirtoWindow::ScreenPlace() const {
@@ -196,6 +196,7 @@ void KirtoWindow::ResetDisplay() {
     thumbnail_view_->ResetDisplay();
     frame_list_view_->ResetDisplay();
     status_view_->ResetDisplay();
+    player_view_->UpdateDisplay();
     ShowHistory();
     kirto::EnableFrameItems(*menuBar(), false);
 }
@@ -225,6 +226,7 @@ void KirtoWindow::ShowParts(uint32 parts) {
         frame_list_view_->UpdateDisplay();
     }
     if (parts & kStatus) status_view_->UpdateDisplay();
+    player_view_->UpdateDisplay();
     ShowHistory();
     kirto::ShowReversing(*menuBar(), !shown_.Current().several.Empty());
     kirto::EnableFrameItems(*menuBar(), !shown_.Frames().Empty());
@@ -280,6 +282,7 @@ bool KirtoWindow::QuitRequested() {
     settings.AddRect("window_frame", ScreenPlace());
     PostToApplication(settings);
     kirto::StoreSplitter(*splitter_);
+    kirto::StorePlayer(*player_splitter_, ShowsPlayer());
     PostToApplication(BMessage(B_QUIT_REQUESTED));
     return true;
 }

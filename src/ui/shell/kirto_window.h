@@ -12,6 +12,7 @@
 
 namespace kirto {
 class FieldPanel;
+class PlayerView;
 class TextControl;
 }  // namespace kirto
 
@@ -55,6 +56,7 @@ class KirtoWindow : public QMainWindow, public BWindow {
     // The command that waits for a save; 0 for none.
     uint32 PendingCommand() const { return pending_command_; }
     bool ShowsFrameList() const;
+    bool ShowsPlayer() const;
     // The window's rectangle on the screen, as the settings store it.
     BRect ScreenPlace() const;
     const kirto::ShownDocument& Shown() const { return shown_; }
@@ -63,6 +65,8 @@ class KirtoWindow : public QMainWindow, public BWindow {
     void closeEvent(QCloseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
+    // Keys that mean nothing where the keyboard is.
+    void keyPressEvent(QKeyEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
 
@@ -76,6 +80,7 @@ class KirtoWindow : public QMainWindow, public BWindow {
     static const Command* CommandFor(uint32 code);
     void MakePanels();
     void ArrangePanels();
+    QWidget* ArrangeFrames();
     void LimitSize();
     QSize RoomySize() const;
     void Place(const BRect& frame);
@@ -98,6 +103,7 @@ class KirtoWindow : public QMainWindow, public BWindow {
     void StartNew();
     void ShowOpenPanel(const char* title);
     void ShowMode(bool frame_list);
+    void ShowPlayer(bool shown);
     void PostToApplication(const BMessage& message);
     // True when a panel posted the edit that the command of its control stands for.
     bool PostEdit(uint32 command);
@@ -121,6 +127,8 @@ class KirtoWindow : public QMainWindow, public BWindow {
     void RequestQuit(BMessage* message);
     void Preview(BMessage* message);
     void ToggleMode(BMessage* message);
+    void TogglePlayer(BMessage* message);
+    void Play(BMessage* message);
     void OpenPreferences(BMessage* message);
     void Insert(BMessage* message);
     void InsertTiled(BMessage* message);
@@ -153,5 +161,7 @@ class KirtoWindow : public QMainWindow, public BWindow {
     QStackedWidget* frame_area_ = nullptr;
     QScrollArea* panel_area_ = nullptr;
     QSplitter* splitter_ = nullptr;
+    kirto::PlayerView* player_view_ = nullptr;
+    QSplitter* player_splitter_ = nullptr;  // the player above the frames
     QPointer<PreferencesWindow> preferences_window_;
 };

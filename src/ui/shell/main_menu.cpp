@@ -19,6 +19,7 @@ struct Item {
 
 constexpr const char* kNeedsFrame = "needs_frame";
 constexpr const char* kReverse = "Reverse";
+constexpr const char* kPlayer = "Player";
 
 constexpr Item kFileItems[] = {
     {"&New", 'N', kMenuNew},
@@ -53,6 +54,9 @@ constexpr Item kViewItems[] = {
     {"Toggle &Mode", 'M', kToggleMode},
     {},
     {"P&references...", 0, kMenuPreferences},
+    {},
+    {"Show Pla&yer", 'P', kShowPlayer, false, true},
+    {"Pl&ay or Pause", 'K', kPlay, true},
 };
 
 constexpr Item kFrameItems[] = {
@@ -114,6 +118,7 @@ void AddItems(QMenu& menu, const Item (&items)[Count], const MenuCommand& choose
         if (item.key != 0) action->setShortcut(QKeyCombination(keys, Qt::Key(item.key)));
         action->setProperty(kNeedsFrame, item.needs_frame);
         if (item.command == kReverseFrames) action->setObjectName(kReverse);
+        if (item.command == kShowPlayer) action->setObjectName(kPlayer);
     }
 }
 
@@ -168,6 +173,10 @@ void EnableUndo(QMenuBar& menu_bar) {
 void ShowReversing(QMenuBar& menu_bar, bool selected) {
     menu_bar.findChild<QAction*>(kReverse)->setText(selected ? "Re&verse Selected"
                                                              : "Re&verse All");
+}
+
+void ShowPlayer(QMenuBar& menu_bar, bool shown) {
+    menu_bar.findChild<QAction*>(kPlayer)->setText(shown ? "Hide Pla&yer" : "Show Pla&yer");
 }
 
 void EnableFrameItems(QMenuBar& menu_bar, bool enable) {

@@ -24,6 +24,9 @@ void EnableUndo(QMenuBar& menu_bar);
 // Says whether "Reverse" is about the selected frames or about all.
 void ShowReversing(QMenuBar& menu_bar, bool selected);
 
+// Says whether the player is hidden or shown by its item.
+void ShowPlayer(QMenuBar& menu_bar, bool shown);
+
 // Enables the items that need a frame, or disables them.
 void EnableFrameItems(QMenuBar& menu_bar, bool enable);
 

@@ -17,6 +17,8 @@ QString StatePath() {
 }
 
 constexpr const char* kSplitterKey = "main/splitter";
+constexpr const char* kPlayerSplitterKey = "main/player_splitter";
+constexpr const char* kPlayerKey = "main/player";
 
 }  // namespace
 
@@ -28,6 +30,18 @@ void RestoreSplitter(QSplitter& splitter) {
 void StoreSplitter(const QSplitter& splitter) {
     QSettings state(StatePath(), QSettings::IniFormat);
     state.setValue(kSplitterKey, splitter.saveState());
+}
+
+bool RestorePlayer(QSplitter& splitter) {
+    const QSettings state(StatePath(), QSettings::IniFormat);
+    splitter.restoreState(state.value(kPlayerSplitterKey).toByteArray());
+    return state.value(kPlayerKey, false).toBool();
+}
+
+void StorePlayer(const QSplitter& splitter, bool shown) {
+    QSettings state(StatePath(), QSettings::IniFormat);
+    state.setValue(kPlayerSplitterKey, splitter.saveState());
+    state.setValue(kPlayerKey, shown);
 }
 
 }  // namespace kirto

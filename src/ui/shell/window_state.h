@@ -9,4 +9,9 @@ namespace kirto {
 void RestoreSplitter(QSplitter& splitter);
 void StoreSplitter(const QSplitter& splitter);
 
+// The same of the splitter between the player and the frames. Returns whether the player was shown
+// when it was stored; false if it was never.
+bool RestorePlayer(QSplitter& splitter);
+void StorePlayer(const QSplitter& splitter, bool shown);
+
 }  // namespace kirto

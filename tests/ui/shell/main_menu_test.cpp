@@ -114,6 +114,15 @@ TEST_F(MainMenu, SaysWhetherAllOrTheSelectedFramesAreReversed) {
     EXPECT_EQ(reverse->text(), "Re&verse All");
 }
 
+TEST_F(MainMenu, SaysWhetherThePlayerIsShown) {
+    const QAction* player = bar->findChild<QAction*>("Player");
+
+    ShowPlayer(*bar, true);
+    EXPECT_EQ(player->text(), "Hide Pla&yer");
+    ShowPlayer(*bar, false);
+    EXPECT_EQ(player->text(), "Show Pla&yer");
+}
+
 TEST_F(MainMenu, RedoesWithTheKeysOfEitherHabit) {
     const QAction* redo = MenuAt(1).actions().at(1);
 
@@ -154,8 +163,9 @@ TEST_F(MainMenu, EnablesUndoForAnEditThatTheHistoryDoesNotHaveYet) {
 TEST_F(MainMenu, HasTheItemsOfTheViewMenu) {
     EnableFrameItems(*bar, true);
 
-    EXPECT_EQ(ItemsOf(MenuAt(2)), (Lines{"Preview|Ctrl+P|awvp", "Toggle Mode|Ctrl+M|awvm", "-",
-                                         "Preferences...||awvr"}));
+    EXPECT_EQ(ItemsOf(MenuAt(2)),
+              (Lines{"Preview|Ctrl+P|awvp", "Toggle Mode|Ctrl+M|awvm", "-", "Preferences...||awvr",
+                     "-", "Show Player|Ctrl+Shift+P|wvpl", "Play or Pause|Ctrl+K|wply"}));
 }
 
 TEST_F(MainMenu, HasTheItemsOfTheFrameMenu) {
@@ -209,13 +219,14 @@ TEST_F(MainMenu, DisablesWhatNeedsAFrameWithoutOne) {
                                   "Paste",
                                   "Toggle Mode",
                                   "Preferences...",
+                                  "Show Player",
                                   "Insert...",
                                   "Insert Tiled...",
                                   "Insert Animation..."};
 
     EXPECT_EQ(enabled(), without_frames);
     EnableFrameItems(*bar, true);
-    EXPECT_EQ(enabled().size(), 46u);
+    EXPECT_EQ(enabled().size(), 48u);
     EnableFrameItems(*bar, false);
     EXPECT_EQ(enabled(), without_frames);
 }

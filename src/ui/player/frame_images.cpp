@@ -1,0 +1,141 @@
+#include "ui/player/frame_images.h"
+
+#include <algorithm>
+#include <new>
+#include <system_error>
+
+#include "app/saved_picture.h"
+#include "base/thread_count.h"
+#include "ui/controls/image_of.h"
+
+namespace kirto {
+
+namespace {
+
+constexpr int32 kWorkers = 2;
+constexpr qsizetype kBytesPerPixel = 4;
+
+}  // namespace
+
+FrameImages::FrameImages(std::function<void()> ready) : ready_(std::move(ready)) {}
+
+FrameImages::~FrameImages() {
+    {
+        const Lock lock(mutex_);
+        ending_ = true;
+        queue_.clear();
+    }
+    wake_.notify_all();
+    for (std::thread& thread : threads_)
+        thread.join();
+}
+
+int32 FrameImages::RoomFor(QSize size) {
+    constexpr int32 kFewest = 3;
+    constexpr int32 kMost = 32;
+    const qsizetype bytes = qsizetype{size.width()} * size.height() * kBytesPerPixel;
+    const qsizetype count = kMaxBytes / std::max(bytes, qsizetype{1});
+    return std::clamp(static_cast<int32>(std::min(count, qsizetype{kMost})), kFewest, kMost);
+}
+
+// A player without a thread for its pictures shows none, and nothing else goes wrong.
+void FrameImages::StartThreads() {
+    if (!threads_.empty()) return;
+    const int32 count = std::clamp(ThreadCount(), 1, kWorkers);
+    try {
+        for (int32 i = 0; i < count; ++i)
+            threads_.emplace_back([this] { Work(); });
+    } catch (const std::system_error&) {
+    }
+}
+
+bool FrameImages::IsThere(const Wanted& wanted) const {
+    return std::any_of(entries_.begin(), entries_.end(),
+                       [&](const Entry& entry) { return entry.wanted == wanted; });
+}
+
+void FrameImages::Want(std::vector<Wanted> wanted) {
+    {
+        const Lock lock(mutex_);
+        std::erase_if(wanted, [this](const Wanted& each) {
+            return IsThere(each) ||
+                   std::find(making_.begin(), making_.end(), each) != making_.end();
+        });
+        queue_ = std::move(wanted);
+        if (queue_.empty()) return;
+    }
+    StartThreads();
+    wake_.notify_all();
+}
+
+QImage FrameImages::Find(const Wanted& wanted, bool* made) {
+    const Lock lock(mutex_);
+    const auto found = std::find_if(entries_.begin(), entries_.end(),
+                                    [&](const Entry& entry) { return entry.wanted == wanted; });
+    if (made) *made = found != entries_.end();
+    if (found == entries_.end()) return {};
+    entries_.splice(entries_.begin(), entries_, found);
+    return found->image;
+}
+
+void FrameImages::Clear() {
+    const Lock lock(mutex_);
+    queue_.clear();
+    entries_.clear();
+    bytes_ = 0;
+}
+
+void FrameImages::Keep(Entry entry) {
+    bytes_ += entry.image.sizeInBytes();
+    entries_.push_front(std::move(entry));
+    const size_t fewest = static_cast<size_t>(RoomFor(entries_.front().image.size()));
+    while (bytes_ > kMaxBytes && entries_.size() > fewest) {
+        bytes_ -= entries_.back().image.sizeInBytes();
+        entries_.pop_back();
+    }
+}
+
+// Premultiplied where there is alpha, as that is painted fastest, and as the colors below
+// transparent pixels must not bleed into their neighbors when it is scaled.
+QImage FrameImages::Make(const Wanted& wanted) {
+    try {
+        const std::shared_ptr<const Picture> picture =
+            wanted.saved ? SavedPicture(*wanted.saved, wanted.position) : wanted.picture;
+        QImage image = ImageOf(picture, wanted.size);
+        if (image.hasAlphaChannel()) image.convertTo(QImage::Format_ARGB32_Premultiplied);
+        if (wanted.size.isValid() && !image.isNull() && image.size() != wanted.size)
+            return image.scaled(wanted.size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        return image;
+    } catch (const std::bad_alloc&) {
+        return {};
+    }
+}
+
+void FrameImages::Work() {
+    Lock lock(mutex_);
+    while (true) {
+        wake_.wait(lock, [this] { return ending_ || !queue_.empty(); });
+        if (ending_) return;
+        const Wanted wanted = std::move(queue_.front());
+        queue_.erase(queue_.begin());
+        making_.push_back(wanted);
+        lock.unlock();
+        QImage image = Make(wanted);
+        lock.lock();
+        std::erase(making_, wanted);
+        Keep({wanted, std::move(image)});
+        if (ending_ || std::exchange(told_, true)) continue;
+        QMetaObject::invokeMethod(
+            this,
+            [this] {
+                {
+                    const Lock looking(mutex_);
+                    told_ = false;
+                }
+                ready_();
+            },
+            Qt::QueuedConnection);
+    }
+}
+
+}  // namespace kirto

@@ -1,0 +1,54 @@
+// The part of the main window that shows and hides the player.
+#include <QKeyEvent>
+#include <QSplitter>
+#include <QStackedWidget>
+
+#include "ui/player/player_view.h"
+#include "ui/shell/kirto_window.h"
+#include "ui/shell/main_menu.h"
+#include "ui/thumbnails/frame_list_view.h"
+#include "ui/thumbnails/thumbnail_view.h"
+
+// The frames in all the room, or below the player.
+QWidget* KirtoWindow::ArrangeFrames() {
+    frame_area_ = new QStackedWidget;
+    frame_area_->addWidget(thumbnail_view_);
+    frame_area_->addWidget(frame_list_view_);
+    player_splitter_ = new QSplitter(Qt::Vertical);
+    player_splitter_->setObjectName("PlayerSplitter");
+    player_splitter_->setChildrenCollapsible(false);
+    player_splitter_->addWidget(player_view_);
+    player_splitter_->addWidget(frame_area_);
+    player_splitter_->setStretchFactor(0, 3);
+    player_splitter_->setStretchFactor(1, 2);
+    player_view_->hide();
+    return player_splitter_;
+}
+
+bool KirtoWindow::ShowsPlayer() const {
+    return !player_view_->isHidden();
+}
+
+// The window may have to grow with it.
+void KirtoWindow::ShowPlayer(bool shown) {
+    player_view_->setVisible(shown);
+    kirto::ShowPlayer(*menuBar(), shown);
+    LimitSize();
+}
+
+void KirtoWindow::TogglePlayer(BMessage*) {
+    ShowPlayer(!ShowsPlayer());
+}
+
+void KirtoWindow::Play(BMessage*) {
+    if (!ShowsPlayer()) ShowPlayer(true);
+    player_view_->Playback().Toggle();
+}
+
+void KirtoWindow::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Space && event->modifiers() == Qt::NoModifier) {
+        if (!event->isAutoRepeat()) Play(nullptr);
+        return;
+    }
+    QMainWindow::keyPressEvent(event);
+}
