@@ -179,7 +179,7 @@ bool ColorCounts::CountRest(size_t place, size_t done) {
     ManyPixels rest = RestFrom(place, done);
     const size_t colors = values_.Items().size();
     if (CountOf(rest) >= kManyCubePixels && colors <= kirto::ColorCube::kMostColors &&
-        looked_up_ >= 2 * colors && CountInCube(&rest)) {
+        looked_up_ >= colors + colors / 4 && CountInCube(&rest)) {
         if (CountOf(rest) == 0 || CountInSlices(rest)) return true;
         cube_.reset();
         return false;
