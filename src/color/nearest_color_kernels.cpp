@@ -12,8 +12,20 @@ void ColorColumns::Set(const ColorTable& table, int32 size) {
         red[i] = color.red;
         green[i] = color.green;
         blue[i] = color.blue;
+        SetGroup(i);
     }
     blocks = std::max<size_t>((count + kBlock - 1) / kBlock, 1);
+}
+
+void ColorColumns::SetGroup(size_t entry) {
+    const size_t place = entry % 4;
+    const bool outer = place == 0 || place == 3;
+    const size_t four = entry % kBlock / 4;
+    uint8* const group = &groups[(entry / kBlock * 4 * kBlock) + (outer ? 0 : 2 * kBlock) +
+                                 four * 8 + (place < 2 ? 0 : 4)];
+    const uint8 components[4] = {red[entry], green[entry], blue[entry], 0};
+    for (size_t i = 0; i < 4; ++i)
+        group[i] = components[(i + place) % 4];
 }
 
 uint8 NearestColorPlain(const ColorColumns& columns, uint8 red, uint8 green, uint8 blue) {
@@ -32,6 +44,8 @@ uint8 NearestColorPlain(const ColorColumns& columns, uint8 red, uint8 green, uin
 
 NearestColorSearch FastestNearestColorSearch() {
 #ifdef __x86_64__
+    if (__builtin_cpu_supports("avx512f") && __builtin_cpu_supports("avx512bw"))
+        return NearestColorAvx512;
     if (__builtin_cpu_supports("avx2")) return NearestColorAvx2;
 #endif
 #ifdef __SSE2__

@@ -11,6 +11,7 @@
 #include "base/allocation.h"
 #include "base/byte_order.h"
 #include "base/debug_line.h"
+#include "color/color_cube.h"
 #include "color/color_slices.h"
 #include "color/color_values.h"
 #include "color/commonest_colors.h"
@@ -85,7 +86,29 @@ bool AddCounts(std::span<const kirto::PixelCount> pixels, bool big_endian,
 // less work than looking for each one's color there.
 constexpr size_t kManyColors = 1 << 14;
 constexpr size_t kManyPixels = 1 << 17;
+// The same for a counter of each color. It takes that pixels have come with colors that were known.
+constexpr size_t kManyCubeColors = 1 << 12;
+constexpr size_t kManyCubePixels = 1 << 19;
 constexpr size_t kPixelsAtOnce = 1 << 13;  // between two looks at that
+
+using ManyPixels = std::vector<kirto::ColorSlices::Pixels>;
+
+size_t CountOf(const ManyPixels& pixels) {
+    size_t bytes = 0;
+    for (const kirto::ColorSlices::Pixels& part : pixels)
+        bytes += part.size();
+    return bytes / 4;
+}
+
+// Takes away so many pixels from the front.
+void Skip(size_t count, ManyPixels* pixels) {
+    size_t bytes = count * 4;
+    for (kirto::ColorSlices::Pixels& part : *pixels) {
+        const size_t here = std::min(bytes, part.size());
+        part = part.subspan(here);
+        bytes -= here;
+    }
+}
 
 // The colors of a picture with their numbers of pixels. Colors of the same green and blue are in
 // the order in which they appear.
@@ -101,7 +124,8 @@ class ColorCounts {
     // Counts every pixel of a 32-bit picture. False when memory is short or the work was stopped.
     bool Count();
     std::span<const kirto::ColorValues::Item> Items() const {
-        return slices_ ? slices_->Items() : values_.Items();
+        if (slices_) return slices_->Items();
+        return cube_ ? cube_->Items() : values_.Items();
     }
 
   private:
@@ -109,19 +133,28 @@ class ColorCounts {
         return static_cast<size_t>(picture_.Width()) * static_cast<size_t>(strip.Rows());
     }
     bool CountStrip(size_t place);
-    // Counts the strip's pixels from that one on, and the strips that follow, in slices. False
-    // where that is not worth it, or can't be done.
+    // Counts the strip's pixels from that one on, and the strips that follow, in a cube or slices.
+    // False where that is not worth it, or can't be done.
     bool CountRest(size_t place, size_t done);
+    // The strip's pixels from that one on, and those of the strips that follow; nothing where some
+    // of these are indices.
+    ManyPixels RestFrom(size_t place, size_t done) const;
+    // Counts some of the pixels, or all of them, and takes them away. False where that can't be
+    // done.
+    bool CountInCube(ManyPixels* rest);
+    bool CountInSlices(const ManyPixels& rest);
 
     const kirto::Picture& picture_;
     const kirto::Work* const work_;
     const bool big_endian_;
     kirto::ColorValues values_;
+    size_t looked_up_ = 0;                      // pixels
+    std::optional<kirto::ColorCube> cube_;      // once it has counted what follows
     std::optional<kirto::ColorSlices> slices_;  // once it has counted the rest
 };
 
 bool ColorCounts::Count() {
-    for (size_t i = 0; i < picture_.AllStrips().size() && !slices_; ++i) {
+    for (size_t i = 0; i < picture_.AllStrips().size() && !cube_ && !slices_; ++i) {
         if (kirto::IsStopped(work_) || !CountStrip(i)) return false;
     }
     return true;
@@ -133,27 +166,52 @@ bool ColorCounts::CountStrip(size_t place) {
     const auto count_pixels = big_endian_ ? CountPixels<true> : CountPixels<false>;
     const size_t size = SizeOf(strip);
     for (size_t done = 0; done < size;) {
-        if (values_.Items().size() >= kManyColors && CountRest(place, done)) return true;
+        if (values_.Items().size() >= kManyCubeColors && CountRest(place, done)) return true;
         const size_t count = std::min(size - done, kPixelsAtOnce);
         if (!count_pixels(strip.Pixels() + done * 4, count, values_)) return false;
+        looked_up_ += count;
         done += count;
     }
     return true;
 }
 
 bool ColorCounts::CountRest(size_t place, size_t done) {
-    std::vector<kirto::ColorSlices::Pixels> rest;
-    size_t pixels = 0;
+    ManyPixels rest = RestFrom(place, done);
+    const size_t colors = values_.Items().size();
+    if (CountOf(rest) >= kManyCubePixels && colors <= kirto::ColorCube::kMostColors &&
+        looked_up_ >= colors + colors / 4 && CountInCube(&rest)) {
+        if (CountOf(rest) == 0 || CountInSlices(rest)) return true;
+        cube_.reset();
+        return false;
+    }
+    return colors >= kManyColors && CountOf(rest) >= kManyPixels && CountInSlices(rest);
+}
+
+ManyPixels ColorCounts::RestFrom(size_t place, size_t done) const {
+    ManyPixels rest;
     for (size_t i = place; i < picture_.AllStrips().size(); ++i, done = 0) {
         const kirto::Strip& strip = *picture_.AllStrips()[i];
-        if (!strip.Pixels()) return false;
-        const size_t count = SizeOf(strip) - done;
-        rest.emplace_back(strip.Pixels() + done * 4, count * 4);
-        pixels += count;
+        if (!strip.Pixels()) return {};
+        rest.emplace_back(strip.Pixels() + done * 4, (SizeOf(strip) - done) * 4);
     }
-    if (pixels < kManyPixels) return false;
+    return rest;
+}
+
+bool ColorCounts::CountInCube(ManyPixels* rest) {
+    cube_.emplace(big_endian_, work_);
+    const bool counted = cube_->Count(values_.Items(), *rest);
+    if (counted) {
+        Skip(cube_->Done(), rest);
+    } else {
+        cube_.reset();
+    }
+    return counted;
+}
+
+bool ColorCounts::CountInSlices(const ManyPixels& rest) {
+    const std::span<const kirto::ColorValues::Item> before = Items();
     slices_.emplace(big_endian_, work_);
-    const bool counted = slices_->Count(values_.Items(), rest);
+    const bool counted = slices_->Count(before, rest);
     if (!counted) slices_.reset();
     return counted;
 }

@@ -15,6 +15,9 @@ std::vector<NearestColorSearch> Searches() {
 #ifdef __SSE2__
     searches.push_back(NearestColorSse2);
 #endif
+#ifdef __x86_64__
+    if (__builtin_cpu_supports("avx2")) searches.push_back(NearestColorAvx2);
+#endif
     if (FastestNearestColorSearch() != searches.back())
         searches.push_back(FastestNearestColorSearch());
     return searches;
