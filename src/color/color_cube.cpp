@@ -11,7 +11,7 @@ namespace kirto {
 namespace {
 
 constexpr size_t kColors = size_t{1} << 24;
-constexpr size_t kPixelsAtOnce = 1 << 14;  // between two looks at the work and the colors
+constexpr size_t kPixelsOfABlock = 1 << 14;  // between two looks at the work and the colors
 constexpr uint16 kFull = 0xFFFF;
 
 // The bits of a component, each with two zeros above it.
@@ -35,11 +35,6 @@ uint32 Place(uint32 key) {
     return kSpread[key >> 16] << 2 | kSpread[key >> 8 & 0xFF] << 1 | kSpread[key & 0xFF];
 }
 
-template <bool kBigEndian>
-uint32 KeyAt(const uint8* pixel) {
-    return kBigEndian ? ColorKey(pixel[1], pixel[2], pixel[3]) : ReadLittle32(pixel) & 0xFFFFFF;
-}
-
 }  // namespace
 
 bool ColorCube::Count(std::span<const Item> counted, const std::vector<Pixels>& pixels) {
@@ -52,11 +47,11 @@ bool ColorCube::Count(std::span<const Item> counted, const std::vector<Pixels>& 
     for (Pixels part : pixels) {
         while (few && !part.empty()) {
             if (IsStopped(work_)) return false;
-            const size_t block = std::min(part.size() / 4, kPixelsAtOnce);
+            const size_t block = std::min(part.size() / 4, kPixelsOfABlock);
             const size_t before = size_;
             big_endian_ ? CountBlock<true>(part.data(), block)
                         : CountBlock<false>(part.data(), block);
-            few = size_ <= kMostColors && size_ - before <= kPixelsAtOnce / 2;
+            few = size_ <= kMostColors && size_ - before <= kPixelsOfABlock / 2;
             done_ += block;
             part = part.subspan(block * 4);
         }
@@ -73,7 +68,7 @@ bool ColorCube::Allocate(const std::vector<Pixels>& pixels) {
     counts_ = AllocateArray<uint16>(kColors);
     full_ = AllocateArray<uint32>(count / kFull + 1);
     // Each pixel writes an item, new or not.
-    items_ = AllocateUnfilledArray<Item>(kMostColors + kPixelsAtOnce + 1);
+    items_ = AllocateUnfilledArray<Item>(kMostColors + kPixelsOfABlock + 1);
     return counts_ && full_ && items_;
 }
 

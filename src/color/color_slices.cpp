@@ -14,11 +14,6 @@ constexpr size_t kReds = 256;
 constexpr size_t kBlues = 256;
 constexpr size_t kPixelsAtOnce = 1 << 16;  // between two looks at the work
 
-template <bool kBigEndian>
-uint32 KeyAt(const uint8* pixel) {
-    return kBigEndian ? ColorKey(pixel[1], pixel[2], pixel[3]) : ReadLittle32(pixel) & 0xFFFFFF;
-}
-
 constexpr uint32 GreenOf(uint32 key) {
     return key >> 8 & 0xFF;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/byte_order.h"
 #include "base/types.h"
 
 // An entry of an SFHash chain. The table that it was added to owns it.
@@ -23,6 +24,12 @@ namespace kirto {
 // The key of a color: red * 65536 + green * 256 + blue.
 constexpr uint32 ColorKey(uint8 red, uint8 green, uint8 blue) {
     return static_cast<uint32>(red) << 16 | static_cast<uint32>(green) << 8 | blue;
+}
+
+// The key of a pixel of four bytes.
+template <bool kBigEndian>
+uint32 KeyAt(const uint8* pixel) {
+    return kBigEndian ? ColorKey(pixel[1], pixel[2], pixel[3]) : ReadLittle32(pixel) & 0xFFFFFF;
 }
 
 }  // namespace kirto

@@ -89,7 +89,7 @@ constexpr size_t kManyPixels = 1 << 17;
 // The same for a counter of each color. It takes that pixels have come with colors that were known.
 constexpr size_t kManyCubeColors = 1 << 12;
 constexpr size_t kManyCubePixels = 1 << 19;
-constexpr size_t kPixelsAtOnce = 1 << 13;  // between two looks at that
+constexpr size_t kPixelsOfAStep = 1 << 13;  // between two looks at that
 
 using ManyPixels = std::vector<kirto::ColorSlices::Pixels>;
 
@@ -167,7 +167,7 @@ bool ColorCounts::CountStrip(size_t place) {
     const size_t size = SizeOf(strip);
     for (size_t done = 0; done < size;) {
         if (values_.Items().size() >= kManyCubeColors && CountRest(place, done)) return true;
-        const size_t count = std::min(size - done, kPixelsAtOnce);
+        const size_t count = std::min(size - done, kPixelsOfAStep);
         if (!count_pixels(strip.Pixels() + done * 4, count, values_)) return false;
         looked_up_ += count;
         done += count;

@@ -12,12 +12,12 @@ using std::chrono::hours;
 using std::chrono::milliseconds;
 using Instant = PlaybackClock::Instant;
 using Moment = PlaybackClock::Moment;
-using Frames = std::vector<int32>;
+using Numbers = std::vector<int32>;
 
 constexpr Instant kStart = hours(77);
 
 // Of frames with those pauses, in hundredths of a second.
-Animation WithPauses(const std::vector<double>& pauses) {
+Animation AnimationOfPauses(const std::vector<double>& pauses) {
     Animation animation;
     for (const double pause : pauses) {
         Frame frame("frame", 1, 1);
@@ -28,13 +28,13 @@ Animation WithPauses(const std::vector<double>& pauses) {
     return animation;
 }
 
-PlaybackSchedule OfAll(const Animation& animation) {
+PlaybackSchedule ScheduleOf(const Animation& animation) {
     return {animation, FrameSet::AllOf(animation.frames.Size()), {}};
 }
 
 PlaybackClock Started(const std::vector<double>& pauses, int64 rounds, int32 place = 0) {
     PlaybackClock clock;
-    clock.Start(OfAll(WithPauses(pauses)), place, rounds, kStart);
+    clock.Start(ScheduleOf(AnimationOfPauses(pauses)), place, rounds, kStart);
     return clock;
 }
 
@@ -43,8 +43,8 @@ int32 PlaceAfter(const PlaybackClock& clock, Instant time) {
 }
 
 // The places that a player shows who asks again just when it is told to; as many at most.
-Frames Shown(const PlaybackClock& clock, size_t most, Instant from = kStart) {
-    Frames places;
+Numbers Shown(const PlaybackClock& clock, size_t most, Instant from = kStart) {
+    Numbers places;
     for (std::optional<Instant> now = from; now && places.size() < most;) {
         const Moment moment = clock.At(*now);
         places.push_back(moment.place);
@@ -94,13 +94,13 @@ TEST(PlaybackClock, EndsAfterItsRoundsWithTheLastFrame) {
 TEST(PlaybackClock, BeginsAtAnyPlaceAndCountsThatRoundAsTheFirst) {
     const PlaybackClock clock = Started({4, 10, 2}, 2, 1);
 
-    EXPECT_EQ(Shown(clock, 10), (Frames{1, 2, 0, 1, 2, 2}));
+    EXPECT_EQ(Shown(clock, 10), (Numbers{1, 2, 0, 1, 2, 2}));
 }
 
 TEST(PlaybackClock, PlaysPausesOfZeroInTheirOrderAllTheSame) {
     const PlaybackClock clock = Started({0, 0, 0}, 1);
 
-    EXPECT_EQ(Shown(clock, 10), (Frames{0, 1, 2, 2}));
+    EXPECT_EQ(Shown(clock, 10), (Numbers{0, 1, 2, 2}));
 }
 
 TEST(PlaybackClock, LetsASingleFrameStandForeverWithoutAsking) {
@@ -197,13 +197,13 @@ TEST(PlaybackClock, CountsNewRoundsFromTheOneThatIsPlayed) {
 }
 
 TEST(PlaybackClock, KeepsTheFrameThatIsShownWhenOthersAreEdited) {
-    Animation animation = WithPauses({10, 10, 10});
+    Animation animation = AnimationOfPauses({10, 10, 10});
     PlaybackClock clock;
-    clock.Start(OfAll(animation), 0, PlaybackClock::kForever, kStart);
+    clock.Start(ScheduleOf(animation), 0, PlaybackClock::kForever, kStart);
     const Instant now = kStart + milliseconds(440);  // 40 into the second frame of round 1
 
     InsertFrame(animation, 0, std::make_shared<const Frame>(Frame("new", 1, 1)));
-    clock.Replace(OfAll(animation), now);
+    clock.Replace(ScheduleOf(animation), now);
 
     EXPECT_EQ(clock.At(now).place, 2);
     EXPECT_EQ(clock.At(now).round, 1);
@@ -211,13 +211,13 @@ TEST(PlaybackClock, KeepsTheFrameThatIsShownWhenOthersAreEdited) {
 }
 
 TEST(PlaybackClock, EndsAFrameThatIsShortenedBelowWhatItWasShown) {
-    Animation animation = WithPauses({100, 10});
+    Animation animation = AnimationOfPauses({100, 10});
     PlaybackClock clock;
-    clock.Start(OfAll(animation), 0, PlaybackClock::kForever, kStart);
+    clock.Start(ScheduleOf(animation), 0, PlaybackClock::kForever, kStart);
     EditFrame(animation, 0, [](Frame& frame) { frame.pause_length = 20; });
     const Instant now = kStart + milliseconds(600);
 
-    clock.Replace(OfAll(animation), now);
+    clock.Replace(ScheduleOf(animation), now);
 
     EXPECT_EQ(clock.At(now).place, 0);
     EXPECT_EQ(clock.At(now).next, now + Instant(1));
@@ -225,9 +225,9 @@ TEST(PlaybackClock, EndsAFrameThatIsShortenedBelowWhatItWasShown) {
 }
 
 TEST(PlaybackClock, BeginsTheNextFrameWhenTheOneThatIsShownIsGone) {
-    Animation animation = WithPauses({10, 10, 10});
+    Animation animation = AnimationOfPauses({10, 10, 10});
     PlaybackClock clock;
-    clock.Start(OfAll(animation), 2, PlaybackClock::kForever, kStart);
+    clock.Start(ScheduleOf(animation), 2, PlaybackClock::kForever, kStart);
     const Instant now = kStart + milliseconds(50);
 
     clock.Replace({animation, FrameSet::Of(0, 1), {}}, now);
@@ -236,7 +236,7 @@ TEST(PlaybackClock, BeginsTheNextFrameWhenTheOneThatIsShownIsGone) {
 
     clock.Replace({}, now);
     EXPECT_TRUE(clock.At(now).over);
-    clock.Replace(OfAll(animation), now);
+    clock.Replace(ScheduleOf(animation), now);
     EXPECT_EQ(clock.At(now).place, 0) << "a new animation begins at its start";
 }
 
@@ -252,13 +252,13 @@ TEST(PlaybackClock, SurvivesAnyOrderOfChanges) {
         now += Instant(below(1'000'000'000));
         const int32 size = animation.frames.Size();
         if (below(3) == 0 && size < 40) {
-            const Animation another = WithPauses({static_cast<double>(below(20))});
+            const Animation another = AnimationOfPauses({static_cast<double>(below(20))});
             InsertFrame(animation, below(size + 1), another.FirstFrame());
         }
         if (below(4) == 0 && size > 0) animation.frames.Remove(below(size));
         if (below(5) == 0) clock.SetSpeed(below(500) / 100.0, now);
         if (below(5) == 0) clock.SetRounds(below(4), now);
-        clock.Replace(OfAll(animation), now);
+        clock.Replace(ScheduleOf(animation), now);
         const Moment moment = clock.At(now);
         ASSERT_EQ(moment.place == -1, animation.frames.Empty());
         ASSERT_LT(moment.place, animation.frames.Size());

@@ -12,7 +12,7 @@ using std::chrono::milliseconds;
 using Duration = PlaybackSchedule::Duration;
 using Times = std::vector<int64>;
 
-Animation WithPauses(const std::vector<double>& pauses) {
+Animation FramesOfPauses(const std::vector<double>& pauses) {
     Animation animation;
     for (const double pause : pauses) {
         Frame frame("frame", 1, 1);
@@ -38,7 +38,7 @@ Times PausesOf(const PlaybackSchedule& schedule) {
 }  // namespace
 
 TEST(PlaybackSchedule, HasFramesForAsLongAsTheirPausesSay) {
-    const PlaybackSchedule schedule = OfAll(WithPauses({4, 10, 2.5}));
+    const PlaybackSchedule schedule = OfAll(FramesOfPauses({4, 10, 2.5}));
 
     EXPECT_EQ(PausesOf(schedule), (Times{40, 100, 25}));
     EXPECT_EQ(schedule.Length(), milliseconds(165));
@@ -46,12 +46,12 @@ TEST(PlaybackSchedule, HasFramesForAsLongAsTheirPausesSay) {
 }
 
 TEST(PlaybackSchedule, CountsInSecondsWherePausesDo) {
-    EXPECT_EQ(PausesOf(OfAll(WithPauses({0.04, 2}), {.pauses_in_seconds = true})),
+    EXPECT_EQ(PausesOf(OfAll(FramesOfPauses({0.04, 2}), {.pauses_in_seconds = true})),
               (Times{40, 2000}));
 }
 
 TEST(PlaybackSchedule, TakesTheAnimationsPauseForFramesWithoutTheirOwn) {
-    Animation animation = WithPauses({4, 4});
+    Animation animation = FramesOfPauses({4, 4});
     EditFrame(animation, 1, [](Frame& frame) { frame.use_pause = false; });
     animation.use_pause = true;
     animation.pause_length = 7;
@@ -63,21 +63,21 @@ TEST(PlaybackSchedule, ShowsEachFrameForAHundredthAtLeastAndAnHourAtMost) {
     const double none = std::numeric_limits<double>::quiet_NaN();
     const double endless = std::numeric_limits<double>::infinity();
 
-    EXPECT_EQ(PausesOf(OfAll(WithPauses({0, -5, 0.3, none, 1e300, endless}))),
+    EXPECT_EQ(PausesOf(OfAll(FramesOfPauses({0, -5, 0.3, none, 1e300, endless}))),
               (Times{10, 10, 10, 10, 3600000, 3600000}));
 }
 
 TEST(PlaybackSchedule, PlaysLikeABrowserBelowTwoHundredths) {
     EXPECT_EQ(
-        PausesOf(OfAll(WithPauses({0, 1, 1.99, 2, 3.9, 28.9999999}), {.like_a_browser = true})),
+        PausesOf(OfAll(FramesOfPauses({0, 1, 1.99, 2, 3.9, 28.9999999}), {.like_a_browser = true})),
         (Times{100, 100, 100, 20, 30, 290}));
-    EXPECT_EQ(PausesOf(OfAll(WithPauses({0.01, 0.29}),
+    EXPECT_EQ(PausesOf(OfAll(FramesOfPauses({0.01, 0.29}),
                              {.pauses_in_seconds = true, .like_a_browser = true})),
               (Times{100, 290}));
 }
 
 TEST(PlaybackSchedule, FindsThePlaceThatIsShownAtATime) {
-    const PlaybackSchedule schedule = OfAll(WithPauses({4, 10, 2}));
+    const PlaybackSchedule schedule = OfAll(FramesOfPauses({4, 10, 2}));
 
     EXPECT_EQ(schedule.PlaceAt(milliseconds(0)), 0);
     EXPECT_EQ(schedule.PlaceAt(milliseconds(40) - Duration(1)), 0);
@@ -88,7 +88,7 @@ TEST(PlaybackSchedule, FindsThePlaceThatIsShownAtATime) {
 }
 
 TEST(PlaybackSchedule, OfSomeFramesKnowsWhereTheyStand) {
-    const Animation animation = WithPauses({4, 4, 4, 4, 4});
+    const Animation animation = FramesOfPauses({4, 4, 4, 4, 4});
     FrameSet frames = FrameSet::Of(1, 1);
     frames.Add({3, 3});
     const PlaybackSchedule schedule(animation, frames, {});

@@ -11,14 +11,14 @@ namespace {
 
 constexpr int32 kCount = 3000;
 
-struct NamedNumber {
+struct NamedValue {
     const char* name;
     int32 number;
 };
 
-BMessage With(uint32 code, const std::vector<NamedNumber>& numbers) {
+BMessage With(uint32 code, const std::vector<NamedValue>& numbers) {
     BMessage message(code);
-    for (const NamedNumber& each : numbers)
+    for (const NamedValue& each : numbers)
         message.AddInt32(each.name, each.number);
     return message;
 }
@@ -105,7 +105,7 @@ TEST_F(ManyFrames, GetOtherPixelsInOneStep) {
     const std::vector<uint8> dot = RawPicture(*PictureOf(1, 1, {0xFF102030}));
     Write("dot.raw", dot);
     BMessage overlay = Files(kOverlayImage, {"dot.raw"});
-    for (const NamedNumber each : {NamedNumber{"x", 1}, {"y", 0}, {"percent", 50}})
+    for (const NamedValue each : {NamedValue{"x", 1}, {"y", 0}, {"percent", 50}})
         overlay.AddInt32(each.name, each.number);
     BMessage text =
         With(kDrawText, {{"x", 1}, {"y", 0}, {"fade_in", kCount / 2}, {"fade_out", kCount / 2}});

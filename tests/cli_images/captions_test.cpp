@@ -10,8 +10,8 @@ namespace {
 constexpr int32 kWidth = 80;
 constexpr int32 kHeight = 60;
 constexpr uint32 kGrey = 0x808080;
-constexpr uint32 kRed = 0xFF0000;
-constexpr uint32 kBlue = 0x0000FF;
+constexpr uint32 kCaptionRed = 0xFF0000;
+constexpr uint32 kCaptionBlue = 0x0000FF;
 
 // Frames of one grey.
 struct Captions : ImageHome {
@@ -83,9 +83,9 @@ TEST(KirtoCliImages, DrawsATextInItsSizeAndColors) {
 
     const Area area = DrawnArea(large);
     EXPECT_GT(area.bottom - area.top, 2 * (DrawnArea(small).bottom - DrawnArea(small).top));
-    EXPECT_GT(CountOf(large, kRed), 100u);
-    EXPECT_EQ(CountOf(large, kBlue), 0u);
-    EXPECT_GT(CountOf(outlined, kBlue), 100u);
+    EXPECT_GT(CountOf(large, kCaptionRed), 100u);
+    EXPECT_EQ(CountOf(large, kCaptionBlue), 0u);
+    EXPECT_GT(CountOf(outlined, kCaptionBlue), 100u);
     EXPECT_LT(DrawnArea(outlined).left, area.left);
 }
 
@@ -112,12 +112,12 @@ TEST(KirtoCliImages, LetsATextComeAndGo) {
         home.Drawn(5, {"--select", "all", "--text", "H,size=40,color=ff0000,fade-in=2,fade-out=1"});
 
     ASSERT_EQ(frames.size(), 5u);
-    EXPECT_EQ(CountOf(frames[0], kRed), 0u);
+    EXPECT_EQ(CountOf(frames[0], kCaptionRed), 0u);
     EXPECT_FALSE(DrawnArea(frames[0]).Empty());
     EXPECT_NE(frames[0], frames[1]);
-    EXPECT_GT(CountOf(frames[2], kRed), 100u);
+    EXPECT_GT(CountOf(frames[2], kCaptionRed), 100u);
     EXPECT_EQ(frames[2], frames[3]);
-    EXPECT_EQ(CountOf(frames[4], kRed), 0u);
+    EXPECT_EQ(CountOf(frames[4], kCaptionRed), 0u);
 }
 
 TEST(KirtoCliImages, UndoesATextExactly) {

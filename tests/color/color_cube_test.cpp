@@ -46,20 +46,20 @@ std::vector<uint32> Repeated(uint32 seed, size_t colors, uint32 mask) {
     return argb;
 }
 
-std::shared_ptr<const Picture> Square(const std::vector<uint32>& argb,
-                                      color_space space = B_RGB32) {
+std::shared_ptr<const Picture> CubeSquare(const std::vector<uint32>& argb,
+                                          color_space space = B_RGB32) {
     return FramePictureOf(kSide, kSide, argb, space);
 }
 
-std::vector<rgb_color> OptimalColors(const Picture& picture) {
+std::vector<rgb_color> CubeColors(const Picture& picture) {
     Palette palette;
     return palette.MakeNearestColorPalette(&picture).value_or(std::vector<rgb_color>{});
 }
 
 void ExpectPaletteOfSorting(const std::vector<uint32>& argb) {
-    const auto picture = Square(argb);
+    const auto picture = CubeSquare(argb);
     ASSERT_NE(picture->AllStrips().front()->Pixels(), nullptr);
-    EXPECT_EQ(OptimalColors(*picture), ReferenceOptimal(*picture));
+    EXPECT_EQ(CubeColors(*picture), ReferenceOptimal(*picture));
     EXPECT_EQ(Palette().CountUniqueColors(picture.get()),
               static_cast<int32>(ReferenceColors(*picture).size()));
 }
@@ -130,7 +130,7 @@ TEST(ColorCube, MakesThePaletteThatSortingMakes) {
 TEST(ColorCube, MakesTheSamePaletteOfBytesInTheOtherOrder) {
     const std::vector<uint32> argb = Repeated(7, 20000, 0x7F7F7F);
 
-    EXPECT_EQ(OptimalColors(*Square(argb, B_RGB32_BIG)), OptimalColors(*Square(argb)));
+    EXPECT_EQ(CubeColors(*CubeSquare(argb, B_RGB32_BIG)), CubeColors(*CubeSquare(argb)));
 }
 
 TEST(ColorCube, LeavesTheRestOfAPictureToSlicesWhereItBringsNewColors) {
@@ -143,12 +143,12 @@ TEST(ColorCube, LeavesTheRestOfAPictureToSlicesWhereItBringsNewColors) {
 }
 
 TEST(ColorCube, IsDoneWithoutWhereMemoryIsShort) {
-    const auto picture = Square(Repeated(10, 30000, 0x7F7F7F));
+    const auto picture = CubeSquare(Repeated(10, 30000, 0x7F7F7F));
     const std::vector<rgb_color> wanted = ReferenceOptimal(*picture);
     const AlertRecorder alerts;
     for (int64 failing = 1;; ++failing) {
         const AllocationFault fault(failing);
-        const std::vector<rgb_color> colors = OptimalColors(*picture);
+        const std::vector<rgb_color> colors = CubeColors(*picture);
         ASSERT_TRUE(colors.empty() || colors == wanted) << failing;
         if (failing > fault.Calls()) {
             ASSERT_EQ(colors, wanted);

@@ -16,12 +16,12 @@ namespace kirto {
 
 namespace {
 
-constexpr int kMargin = 6;  // around a fitted canvas, units of the widget
+constexpr int kPaneMargin = 6;  // around a fitted canvas, units of the widget
 constexpr double kMostFittedZoom = 8;
 constexpr double kZooms[] = {0.02, 0.05, 0.1, 0.25, 0.5, 0.75, 1,  1.5, 2,
                              3,    4,    6,   8,    12,  16,   24, 32};
 
-BRect RectOf(const QRectF& rectangle) {
+BRect ExactRectOf(const QRectF& rectangle) {
     return {static_cast<float>(rectangle.left()), static_cast<float>(rectangle.top()),
             static_cast<float>(rectangle.right()) - 1, static_cast<float>(rectangle.bottom()) - 1};
 }
@@ -59,8 +59,8 @@ void PicturePane::SetLayers(std::vector<Layer> layers) {
 
 double PicturePane::FittingZoom() const {
     if (canvas_.isEmpty()) return 1;
-    const double across = static_cast<double>(width() - 2 * kMargin) / canvas_.width();
-    const double down = static_cast<double>(height() - 2 * kMargin) / canvas_.height();
+    const double across = static_cast<double>(width() - 2 * kPaneMargin) / canvas_.width();
+    const double down = static_cast<double>(height() - 2 * kPaneMargin) / canvas_.height();
     const double zoom = std::min(across, down);
     // Pixels of whole or half units look alike.
     const double crisp = zoom > 1 ? std::floor(zoom * 2) / 2 : zoom;
@@ -150,7 +150,8 @@ void PicturePane::PaintCanvas(QPainter& painter) {
     const Layer& lowest = layers_.front();
     const bool covered = lowest.place == QRect(QPoint(), canvas_) && !lowest.image.isNull() &&
                          !lowest.image.hasAlphaChannel();
-    if (!covered) PicturePainter(painter, palette(), true, backdrop_).Draw(nullptr, RectOf(canvas));
+    if (!covered)
+        PicturePainter(painter, palette(), true, backdrop_).Draw(nullptr, ExactRectOf(canvas));
     painter.save();
     painter.setClipRect(canvas);
     for (const Layer& layer : layers_) {

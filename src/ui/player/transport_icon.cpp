@@ -11,7 +11,7 @@ namespace kirto {
 namespace {
 
 // In a square of 16 units.
-constexpr int kSide = 16;
+constexpr int kIconSide = 16;
 constexpr double kTop = 3;
 constexpr double kBottom = 13;
 constexpr double kMiddle = 8;
@@ -65,8 +65,8 @@ class TransportIconEngine : public QIconEngine {
         painter->save();
         painter->setRenderHint(QPainter::Antialiasing);
         painter->translate(rect.topLeft());
-        painter->scale(static_cast<double>(rect.width()) / kSide,
-                       static_cast<double>(rect.height()) / kSide);
+        painter->scale(static_cast<double>(rect.width()) / kIconSide,
+                       static_cast<double>(rect.height()) / kIconSide);
         painter->fillPath(PathOf(symbol_),
                           QGuiApplication::palette().color(group, QPalette::ButtonText));
         painter->restore();

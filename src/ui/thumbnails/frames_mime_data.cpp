@@ -1,10 +1,10 @@
 #include "ui/thumbnails/frames_mime_data.h"
 
-#include <QBuffer>
 #include <QImage>
 #include <vector>
 
 #include "document/command_codes.h"
+#include "kit/qt/text_picture.h"
 #include "ui/controls/image_of.h"
 #include "ui/thumbnails/file_urls.h"
 
@@ -15,13 +15,6 @@ namespace {
 // What Qt makes the image formats of other programs of.
 constexpr const char* kQtImageType = "application/x-qt-image";
 constexpr const char* kPngType = "image/png";
-
-QByteArray PngOf(const QImage& image) {
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    image.save(&buffer, "PNG");
-    return bytes;
-}
 
 std::optional<BMessage> Pasting(const char* type, const QByteArray& bytes) {
     if (bytes.isEmpty()) return std::nullopt;
@@ -66,7 +59,9 @@ std::optional<BMessage> PasteCommand(const QMimeData& data) {
         return AddRefs(data, &files) ? std::optional(files) : std::nullopt;
     }
     if (data.hasFormat(kPngType)) return Pasting(kPngType, data.data(kPngType));
-    if (data.hasImage()) return Pasting(kPngType, PngOf(qvariant_cast<QImage>(data.imageData())));
+    if (data.hasImage())
+        return Pasting(kPngType,
+                       QByteArray::fromStdString(PngOf(qvariant_cast<QImage>(data.imageData()))));
     return std::nullopt;
 }
 

@@ -14,7 +14,7 @@ namespace kirto::test {
 
 namespace {
 
-constexpr uint32 kGreen = 0xFF00C000;
+constexpr uint32 kSheetGreen = 0xFF00C000;
 
 // Reads nothing until it is let.
 struct WaitingRoster : FakeRoster {
@@ -48,7 +48,7 @@ struct WaitingRoster : FakeRoster {
 
 struct SheetViewTest : ::testing::Test {
     SheetViewTest() {
-        std::vector<uint32> pixels(20 * 8, kGreen);
+        std::vector<uint32> pixels(20 * 8, kSheetGreen);
         // The last tile of 8 x 8 pixels with a spacing of 4 is empty.
         for (size_t i = 0; i < pixels.size(); ++i)
             if (i % 20 >= 12) pixels[i] = 0;
@@ -110,11 +110,11 @@ TEST_F(SheetViewTest, DrawsLinesAroundTilesAndDarkensWhatIsBetweenThem) {
 
     const QImage image = Grabbed();
 
-    EXPECT_EQ(PaintedAt(image, {4, 4, 1, 1}), kGreen);
+    EXPECT_EQ(PaintedAt(image, {4, 4, 1, 1}), kSheetGreen);
     const QPoint corner =
         (view->PlaceOf({0, 0, 8, 8}).topLeft() * image.devicePixelRatio()).toPoint();
     EXPECT_EQ(image.pixel(corner), view->palette().highlight().color().rgb());
-    EXPECT_LT(qGreen(PaintedAt(image, {9, 4, 1, 1})), qGreen(kGreen) / 2 + 1);
+    EXPECT_LT(qGreen(PaintedAt(image, {9, 4, 1, 1})), qGreen(kSheetGreen) / 2 + 1);
     EXPECT_GT(qGreen(PaintedAt(image, {9, 4, 1, 1})), 0);
 }
 
@@ -150,7 +150,7 @@ TEST_F(SheetViewTest, FollowsTheGrid) {
     view->ShowSheet(folder.File("sheet.raw"), grid);
 
     EXPECT_TRUE(WaitFor([this] { return Text().contains("1 row and 2 columns"); }));
-    EXPECT_TRUE(WaitFor([this] { return PaintedAt(Grabbed(), {9, 4, 1, 1}) == kGreen; }));
+    EXPECT_TRUE(WaitFor([this] { return PaintedAt(Grabbed(), {9, 4, 1, 1}) == kSheetGreen; }));
 }
 
 TEST_F(SheetViewTest, TellsThoseWhoCanNotSeeIt) {
@@ -176,7 +176,7 @@ TEST_F(SheetViewTest, WaitsForNoImageThatIsBeingRead) {
 }
 
 TEST_F(SheetViewTest, ShowsTheLatestOfSeveralFiles) {
-    WriteBytes(folder.File("last.raw"), RawPicture(*PictureOf(1, 1, {kGreen}, B_RGBA32)));
+    WriteBytes(folder.File("last.raw"), RawPicture(*PictureOf(1, 1, {kSheetGreen}, B_RGBA32)));
     WaitingRoster roster;
     Make(roster);
     view->ShowSheet(folder.File("sheet.raw"), grid);

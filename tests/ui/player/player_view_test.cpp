@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include "document/command_codes.h"
+#include "support/colors.h"
 #include "ui/thumbnails/frame_area_fixture.h"
 #include "ui/widget_tools.h"
 
@@ -15,9 +16,7 @@ namespace kirto::test {
 
 namespace {
 
-constexpr uint32 kRed = 0xFFFA0502;
-constexpr uint32 kGreen = 0xFF00FF00;
-constexpr uint32 kBlue = 0xFF0000FF;
+constexpr uint32 kFirstColor = 0xFFFA0502;
 
 // A red, a green and a blue frame of 8 x 4 pixels.
 class PlayerViewTest : public ::testing::Test {
@@ -29,7 +28,7 @@ class PlayerViewTest : public ::testing::Test {
             animation.use_pause = true;
             animation.pause_length = 2;
         });
-        frames = {FrameOf(8, 4, kRed), FrameOf(8, 4, kGreen), FrameOf(8, 4, kBlue)};
+        frames = {FrameOf(8, 4, kFirstColor), FrameOf(8, 4, kGreen), FrameOf(8, 4, kBlue)};
         ShowFrames(shown, fixture.document, frames, 0);
         view.resize(500, 400);
     }
@@ -70,7 +69,7 @@ class PlayerViewTest : public ::testing::Test {
 
 TEST_F(PlayerViewTest, ShowsTheCurrentFrameWithItsNumberAndTime) {
     Open();
-    EXPECT_TRUE(Shows(kRed));
+    EXPECT_TRUE(Shows(kFirstColor));
     EXPECT_EQ(Text("PlayerTime"), "#0 of 3, 0.00 s of 0.06 s");
 
     QTest::keyClick(&view.Pane(), Qt::Key_Right);
@@ -146,12 +145,12 @@ TEST_F(PlayerViewTest, LetsTheFramesBesideItBeSeen) {
 
 TEST_F(PlayerViewTest, ShowsTheColorsThatASaveWouldHave) {
     Open();
-    EXPECT_TRUE(Shows(kRed));
+    EXPECT_TRUE(Shows(kFirstColor));
     auto* saved = Named<QCheckBox>(view, "SavedColors");
     saved->setChecked(true);
     EXPECT_TRUE(Shows(0xFFFF0000)) << "web safe";
     saved->setChecked(false);
-    EXPECT_TRUE(Shows(kRed));
+    EXPECT_TRUE(Shows(kFirstColor));
 }
 
 TEST_F(PlayerViewTest, TellsWhatIsBelowThePointer) {
