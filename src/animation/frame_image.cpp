@@ -42,12 +42,12 @@ FrameImage ReadFrameImage(const std::string& path, BTranslatorRoster& roster,
     return Make(read, budget, work);
 }
 
-FrameImage ReadFrameImage(BFile& file, BTranslatorRoster& roster,
-                          const std::shared_ptr<PixelBudget>& budget) {
+FrameImage ReadFrameImage(const std::shared_ptr<BFile>& file, BTranslatorRoster& roster,
+                          const std::shared_ptr<PixelBudget>& budget, Work* work) {
     const auto read = [&](std::shared_ptr<BBitmap>* bitmap) {
-        return roster.Translate(file, budget, bitmap);
+        return ReadPicture(file, roster, budget, work, bitmap);
     };
-    return Make(read, budget, nullptr);
+    return Make(read, budget, work);
 }
 
 FrameImage ReadFrameImageAhead(const std::string& path, BTranslatorRoster& roster,

@@ -30,9 +30,9 @@ struct FrameImage {
 FrameImage ReadFrameImage(const std::string& path, BTranslatorRoster& roster,
                           const std::shared_ptr<PixelBudget>& budget, Work* work);
 
-// The same from a file that is open, and can't be stopped.
-FrameImage ReadFrameImage(BFile& file, BTranslatorRoster& roster,
-                          const std::shared_ptr<PixelBudget>& budget);
+// The same from a file that is open.
+FrameImage ReadFrameImage(const std::shared_ptr<BFile>& file, BTranslatorRoster& roster,
+                          const std::shared_ptr<PixelBudget>& budget, Work* work);
 
 // Reads it on another thread while there may be less memory than at its turn: B_NO_MEMORY also
 // where that has kept the picture from being packed. given_up: asked every now and then, on this

@@ -69,17 +69,25 @@ void PasteAnimation(AnimationDocument& document, BFile& file, int32 position) {
     if (InsertCopies(next, position, frames)) document.CommitModified(std::move(next));
 }
 
-void PasteGif(AnimationDocument& document, BFile& file, int32 position) {
+// False when the work was stopped.
+bool PasteGif(AnimationDocument& document, BFile& file, int32 position) {
     const int32 before = document.FrameCount();
-    OpenGif(&file, position, document);
+    const bool complete = OpenGif(&file, position, document);
     if (document.FrameCount() > before) document.SetModified(true);
+    return complete || !document.StopRequested();
 }
 
-void PasteImage(AnimationDocument& document, BFile& file, int32 position,
+// The same.
+bool PasteImage(AnimationDocument& document, const std::shared_ptr<BFile>& file, int32 position,
                 BTranslatorRoster& roster) {
-    FrameImage image = ReadFrameImage(file, roster, document.pixel_budget);
-    if (image.status != B_OK) return Refuse(image.status);
-    document.InsertFrameAsCurrent(position, Frame("pasted", std::move(image)));
+    FrameImage image = ReadFrameImage(file, roster, document.pixel_budget, &document.work);
+    if (image.status == B_CANCELED) return false;
+    if (image.status != B_OK) {
+        Refuse(image.status);
+    } else {
+        document.InsertFrameAsCurrent(position, Frame("pasted", std::move(image)));
+    }
+    return true;
 }
 
 }  // namespace
@@ -105,20 +113,17 @@ std::vector<uint8> PackAsGif(const DocumentState& state) {
     return file->WriteStatus() == B_OK ? file->Memory() : std::vector<uint8>();
 }
 
-void PasteFrames(AnimationDocument& document, const BMessage& message, BTranslatorRoster& roster) {
+bool PasteFrames(AnimationDocument& document, const BMessage& message, BTranslatorRoster& roster) {
     std::string_view bytes;
     std::string type;
-    if (message.FindData("bytes", B_RAW_TYPE, 0, &bytes) != B_OK) return;
-    if (message.FindString("type", &type) != B_OK) return;
-    const std::unique_ptr<BFile> file = BFile::OnMemory({bytes.begin(), bytes.end()});
+    if (message.FindData("bytes", B_RAW_TYPE, 0, &bytes) != B_OK) return true;
+    if (message.FindString("type", &type) != B_OK) return true;
+    const std::shared_ptr<BFile> file = BFile::OnMemory({bytes.begin(), bytes.end()});
     const int32 position = PositionIn(message, document);
-    if (type == kFramesType) {
-        PasteAnimation(document, *file, position);
-    } else if (type == kGifType) {
-        PasteGif(document, *file, position);
-    } else {
-        PasteImage(document, *file, position, roster);
-    }
+    if (type == kGifType) return PasteGif(document, *file, position);
+    if (type != kFramesType) return PasteImage(document, file, position, roster);
+    PasteAnimation(document, *file, position);
+    return true;
 }
 
 }  // namespace kirto

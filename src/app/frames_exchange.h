@@ -24,7 +24,8 @@ std::vector<uint8> PackFrames(const DocumentState& state);
 std::vector<uint8> PackAsGif(const DocumentState& state);
 
 // Carries out kPasteFrames: tells the user when the bytes are nothing that can be read, or memory
-// runs out. On the application's thread.
-void PasteFrames(AnimationDocument& document, const BMessage& message, BTranslatorRoster& roster);
+// runs out. On the application's thread. False when the document's work was stopped; what was
+// complete stays.
+bool PasteFrames(AnimationDocument& document, const BMessage& message, BTranslatorRoster& roster);
 
 }  // namespace kirto

@@ -54,8 +54,7 @@ const Kirto::Command* Kirto::CommandFor(uint32 code) {
         {kirto::kInsertAnimations,
          [](Kirto& app, BMessage* message) { app.InsertAnimations(*message); }, kUpdateAll,
          kInsertion, "Insert Animation"},
-        {kirto::kPasteFrames,
-         [](Kirto& app, BMessage* message) { kirto::PasteFrames(app, *message, app.roster_); },
+        {kirto::kPasteFrames, [](Kirto& app, BMessage* message) { app.PasteFrames(*message); },
          kUpdateAll, kInsertion, "Paste"},
         {kirto::kInsertFiles, [](Kirto& app, BMessage* message) { app.InsertFrame(message); },
          kUpdateAll, kInsertion, "Insert"},
@@ -324,6 +323,11 @@ void Kirto::StoreTranslatorSettings(const BMessage& message) {
 void Kirto::InsertFrame(BMessage* message) {
     const int32 before = FrameCount();
     if (!kirto::InsertImages(*this, *message, images_ahead_)) SayCanceled(before);
+}
+
+void Kirto::PasteFrames(const BMessage& message) {
+    const int32 before = FrameCount();
+    if (!kirto::PasteFrames(*this, message, roster_)) SayCanceled(before);
 }
 
 // To be called where the work was stopped before it was done.

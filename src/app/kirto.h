@@ -90,6 +90,8 @@ class Kirto : public IEApplication, public AnimationDocument, public kirto::File
     void InsertTiledFrame(BMessage* message);
     // 'apsh': the selected frames, or all where one alone is selected, side by side in one picture.
     void SaveSheet(BMessage* message);
+    // 'apst': frames, an animation or an image from the clipboard.
+    void PasteFrames(const BMessage& message);
     // One of the four fade commands.
     void Fade(BMessage* message);
 

@@ -10,8 +10,8 @@ namespace kirto {
 
 namespace {
 
-constexpr uint64 kMostMemory = uint64{512} << 20;  // of a picture
-constexpr int64 kMostTiles = 1 << 14;              // that are shown
+constexpr uint64 kMostPictureBytes = uint64{512} << 20;  // of a picture
+constexpr int64 kMostTiles = 1 << 14;                    // that are shown
 
 // "1 frame", "2 frames".
 std::string Counted(int64 count, const char* noun) {
@@ -62,7 +62,7 @@ std::optional<PreviewedSheet> ReadSheetToShow(const entry_ref& ref, BTranslatorR
     if (file.InitCheck() != B_OK) return std::nullopt;
     std::shared_ptr<BBitmap> picture;
     const status_t status =
-        roster.Translate(file, std::make_shared<PixelBudget>(kMostMemory), &picture);
+        roster.Translate(file, std::make_shared<PixelBudget>(kMostPictureBytes), &picture);
     if (status == B_NO_MEMORY) *text = "This image is too large to be shown here.";
     if (status != B_OK || !Is32Bit(picture->ColorSpace()) || picture->Width() == 0)
         return std::nullopt;

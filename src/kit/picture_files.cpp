@@ -14,9 +14,7 @@ struct Reading {
     std::shared_ptr<BBitmap> picture;
 };
 
-Reading Read(const std::string& path, BTranslatorRoster& roster,
-             std::shared_ptr<PixelBudget> budget) {
-    BFile file(path, B_READ_ONLY);
+Reading Read(BFile& file, BTranslatorRoster& roster, std::shared_ptr<PixelBudget> budget) {
     Reading reading;
     reading.status = roster.Translate(file, std::move(budget), &reading.picture);
     return reading;
@@ -31,12 +29,24 @@ bool FinishQuietly(const std::function<bool()>& given_up, std::function<void()> 
     return !given_up() && FinishOrAbandon(given_up, std::move(task));
 }
 
-// The task is given to finish, which returns false when it was not to be finished.
-template <typename FinishTask>
-status_t ReadBy(const FinishTask& finish, const std::string& path, BTranslatorRoster& roster,
+auto Opener(const std::string& path) {
+    return [path] { return std::make_unique<BFile>(path, B_READ_ONLY); };
+}
+
+// As Finish, also where nobody can stop the work.
+bool FinishIfWatched(Work* work, const std::function<void()>& task) {
+    if (work) return Finish(*work, task);
+    task();
+    return true;
+}
+
+// The task is given to finish, which returns false when it was not to be finished. open: gives the
+// file, as part of the task.
+template <typename FinishTask, typename OpenFile>
+status_t ReadBy(const FinishTask& finish, const OpenFile& open, BTranslatorRoster& roster,
                 const std::shared_ptr<PixelBudget>& budget, std::shared_ptr<BBitmap>* result) {
     const auto reading = std::make_shared<Reading>();
-    if (!finish([=, &roster] { *reading = Read(path, roster, budget); })) return B_CANCELED;
+    if (!finish([=, &roster] { *reading = Read(*open(), roster, budget); })) return B_CANCELED;
     *result = std::move(reading->picture);
     return reading->status;
 }
@@ -57,12 +67,16 @@ status_t WriteBy(const FinishTask& finish, const std::shared_ptr<const BBitmap>&
 status_t ReadPicture(const std::string& path, BTranslatorRoster& roster,
                      const std::shared_ptr<PixelBudget>& budget, Work* work,
                      std::shared_ptr<BBitmap>* result) {
-    const auto finish = [work](const std::function<void()>& task) {
-        if (work) return Finish(*work, task);
-        task();
-        return true;
-    };
-    return ReadBy(finish, path, roster, budget, result);
+    const auto finish = [work](const auto& task) { return FinishIfWatched(work, task); };
+    return ReadBy(finish, Opener(path), roster, budget, result);
+}
+
+status_t ReadPicture(const std::shared_ptr<BFile>& file, BTranslatorRoster& roster,
+                     const std::shared_ptr<PixelBudget>& budget, Work* work,
+                     std::shared_ptr<BBitmap>* result) {
+    const auto finish = [work](const auto& task) { return FinishIfWatched(work, task); };
+    return ReadBy(
+        finish, [file] { return file; }, roster, budget, result);
 }
 
 status_t ReadPictureQuietly(const std::string& path, BTranslatorRoster& roster,
@@ -72,7 +86,7 @@ status_t ReadPictureQuietly(const std::string& path, BTranslatorRoster& roster,
     const auto finish = [&](const std::function<void()>& task) {
         return FinishQuietly(given_up, task);
     };
-    return ReadBy(finish, path, roster, budget, result);
+    return ReadBy(finish, Opener(path), roster, budget, result);
 }
 
 status_t WritePicture(const std::shared_ptr<const BBitmap>& picture, BTranslatorRoster& roster,

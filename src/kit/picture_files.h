@@ -19,6 +19,11 @@ status_t ReadPicture(const std::string& path, BTranslatorRoster& roster,
                      const std::shared_ptr<PixelBudget>& budget, Work* work,
                      std::shared_ptr<BBitmap>* result);
 
+// The same from a file that is open.
+status_t ReadPicture(const std::shared_ptr<BFile>& file, BTranslatorRoster& roster,
+                     const std::shared_ptr<PixelBudget>& budget, Work* work,
+                     std::shared_ptr<BBitmap>* result);
+
 // The same for a thread that is not to tell how far the work is. given_up: asked every now and
 // then, on this thread, whether to end early with B_CANCELED.
 status_t ReadPictureQuietly(const std::string& path, BTranslatorRoster& roster,

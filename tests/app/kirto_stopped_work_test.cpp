@@ -345,6 +345,21 @@ TEST_F(KirtoWorkOfOthers, AnImageThatIsStillBeingReadIsLeftOut) {
     EXPECT_EQ(Names(), Lines{"[a]"});
 }
 
+TEST_F(KirtoWorkOfOthers, AnImageThatIsStillBeingPastedIsLeftOut) {
+    StartStuck();
+    const std::vector<uint8> image = RawPicture(*PictureOf(2, 2, {1, 2, 3, 4}));
+    BMessage paste(kPasteFrames);
+    paste.AddData("bytes", B_RAW_TYPE, image.data(), image.size());
+    paste.AddString("type", "image/png");
+
+    const std::string transcript = DoAndStop(paste);
+
+    EXPECT_TRUE(transcript.ends_with("svup(Status: canceled, 0 new frame(s) kept)")) << transcript;
+    EXPECT_EQ(TakeLines(), Lines{});
+    EXPECT_EQ(Names(), Lines{});
+    EXPECT_FALSE(app_->Modified());
+}
+
 TEST_F(KirtoWorkOfOthers, ATileSheetThatIsStillBeingReadIsLeftOut) {
     WritePictures({"sheet"});
     desktop_.fields.rows = "2";

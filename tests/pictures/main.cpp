@@ -105,6 +105,7 @@ class Pictures {
         GrabSelection();
         GrabDialog(kirto::kMenuCrop, "Crop", "crop");
         GrabDialog(kirto::kMenuResize, "Resize Animation", "resize");
+        GrabText();
         GrabDialog(kirto::kMenuSetPause, "Set Pause", "set-pause");
         GrabSheet();
         GrabDialog(kirto::kMenuSaveAs, "Save Animation", "save");
@@ -172,6 +173,16 @@ class Pictures {
             WaitUntil([text] { return text->text().contains("4 columns"); });
         }
         Grab(*window, "insert-tiled");
+        window->close();
+        SettleFor(kSettle);
+    }
+
+    // A text as it would be drawn.
+    void GrabText() {
+        QWidget* window = OpenWindow(kirto::kMenuText, "Text");
+        if (!window) return;
+        window->findChild<QLineEdit*>("Text")->setText("Look, it rolls!");
+        Grab(*window, "text");
         window->close();
         SettleFor(kSettle);
     }
