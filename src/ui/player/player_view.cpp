@@ -50,6 +50,7 @@ void PlayerView::AddBelow(QWidget* widget) {
 
 void PlayerView::UpdateDisplay() {
     if (!isVisible()) return;
+    if (updated_) updated_();
     pane_->SetCanvas(CanvasSize());
     player_.UpdateDisplay();
 }

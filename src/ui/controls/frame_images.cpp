@@ -1,4 +1,4 @@
-#include "ui/player/frame_images.h"
+#include "ui/controls/frame_images.h"
 
 #include <algorithm>
 #include <new>
@@ -89,7 +89,7 @@ void FrameImages::Keep(Entry entry) {
     bytes_ += entry.image.sizeInBytes();
     entries_.push_front(std::move(entry));
     const size_t fewest = static_cast<size_t>(RoomFor(entries_.front().image.size()));
-    while (bytes_ > kMaxBytes && entries_.size() > fewest) {
+    while (entries_.size() > kMaxImages || (bytes_ > kMaxBytes && entries_.size() > fewest)) {
         bytes_ -= entries_.back().image.sizeInBytes();
         entries_.pop_back();
     }
