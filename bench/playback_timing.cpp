@@ -28,11 +28,12 @@ std::shared_ptr<const kirto::Picture> PictureOf(int32 width, int32 height, int32
     auto bitmap = std::make_shared<BBitmap>(BRect::OfSize(width, height), B_RGB32);
     uint32 noise = static_cast<uint32>(step) + 1;
     for (int32 y = 0; y < height; ++y) {
-        uint8* pixel = static_cast<uint8*>(bitmap->Bits()) + y * bitmap->BytesPerRow();
+        uint8* pixel = static_cast<uint8*>(bitmap->Bits()) +
+                       static_cast<size_t>(y) * static_cast<size_t>(bitmap->BytesPerRow());
         for (int32 x = 0; x < width; ++x, pixel += 4) {
             noise = noise * 1664525 + 1013904223;
             const uint32 grain = noise >> (many_colors ? 26 : 30);
-            pixel[0] = static_cast<uint8>((x + 13 * step) / 32 * 8 + grain);
+            pixel[0] = static_cast<uint8>(static_cast<uint32>((x + 13 * step) / 32 * 8) + grain);
             pixel[1] = static_cast<uint8>(y / 200 * 40);
             pixel[2] = static_cast<uint8>(many_colors ? (noise >> 12) & 63 : 30);
             pixel[3] = 255;

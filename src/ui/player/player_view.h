@@ -54,7 +54,9 @@ class PlayerView : public QWidget {
     QSize CanvasSize() const;
     QRect PlaceOf(int32 frame) const;
     FrameImages::Wanted ImageOf(int32 frame) const;
-    std::vector<FrameImages::Wanted> WantedImages() const;
+    bool IsReady(int32 frame);
+    int32 FrameToPaint();
+    std::vector<FrameImages::Wanted> WantedImages();
     std::vector<int32> OnionFrames() const;
 
     const ShownDocument& shown_;
