@@ -27,6 +27,12 @@ class Accessibility(EditorTest):
         editor.node("push button", "Move Up")
         self.check(editor.main_window())
 
+    def test_names_the_player(self):
+        editor = self.open_colors()
+        editor.choose("View", "Show Player")
+        editor.node("list", "Timeline")
+        self.check(editor.main_window())
+
     def test_names_the_fade_dialog(self):
         editor = self.open_colors()
         editor.choose("Frame", "Fade Effects...")

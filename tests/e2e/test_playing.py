@@ -2,6 +2,7 @@ import os
 import pathlib
 import time
 
+import walk_accessibility as accessibility
 from desktop_session import wait_until
 from editor_test import EditorTest
 
@@ -54,3 +55,33 @@ class Playing(EditorTest):
         self.editor.node("push button", "Play")
         self.session.key("ctrl+shift+p")
         wait_until(lambda: not self.position(), "the player to be folded away")
+
+    def test_moves_frames_and_sets_pauses_in_the_timeline(self):
+        self.session.key("ctrl+shift+p")
+        names = [f"Frame {number}, 0.30 s" for number in range(3)]
+        blocks = [self.editor.node("list item", name) for name in names]
+        places = [block.get_extents(accessibility.Atspi.CoordType.SCREEN) for block in blocks]
+        middle = places[0].y + places[0].height // 2
+
+        # The right edge of the second block, to two thirds of its width.
+        edge = places[1].x + places[1].width - 1
+        self.drag_by((edge, middle), -places[1].width // 3)
+        self.editor.wait_for_history("Set Pause", "")
+        self.editor.node("list item", "Frame 1, 0.20 s")
+        self.session.key("ctrl+z")
+        self.editor.wait_for_history("", "Set Pause")
+        self.editor.node("list item", "Frame 1, 0.30 s")
+
+        # The first frame, to behind the second.
+        start = places[0].x + places[0].width // 2, middle
+        self.drag_by(start, places[0].width + places[0].width // 4)
+        self.editor.wait_for_history("Move Frames", "")
+        self.session.key("ctrl+z")
+        self.editor.wait_for_history("", "Move Frames")
+
+    def drag_by(self, start, distance):
+        x, y = start
+        self.session.press(x, y)
+        for part in range(1, 5):
+            self.session.move(x + distance * part // 4, y)
+        self.session.release()

@@ -20,6 +20,19 @@ int32 StepFor(const Picture& picture, QSize shown) {
     return std::max(std::min(across, down), 1);
 }
 
+// One pixel of so many.
+void Thin(const std::vector<uint8>& row, int32 step, uchar* target, int width) {
+    const size_t apart = static_cast<size_t>(step) * 4;
+    const uint8* source = row.data();
+    for (int x = 0; x < width; ++x, source += apart, target += 4)
+        std::memcpy(target, source, 4);
+}
+
+void TurnPixels(uchar* pixels, int width) {
+    for (int x = 0; x < width; ++x, pixels += 4)
+        std::reverse(pixels, pixels + 4);
+}
+
 }  // namespace
 
 QImage ImageOf(const std::shared_ptr<const Picture>& picture, QSize shown) {
@@ -30,15 +43,17 @@ QImage ImageOf(const std::shared_ptr<const Picture>& picture, QSize shown) {
                  picture->IsOpaque() ? QImage::Format_RGB32 : QImage::Format_ARGB32);
     if (image.isNull()) return image;
     const bool turned = IsBigEndian(picture->ColorSpace());
-    std::vector<uint8> row(static_cast<size_t>(picture->Width()) * 4);
+    const int width = image.width();
+    std::vector<uint8> row(step == 1 ? 0 : static_cast<size_t>(picture->Width()) * 4);
     for (int32 y = 0; y < image.height(); ++y) {
-        picture->ReadRow(y * step, row.data());
         uchar* target = image.scanLine(y);
-        for (int32 x = 0; x < image.width(); ++x, target += 4) {
-            std::memcpy(target, row.data() + static_cast<size_t>(x) * static_cast<size_t>(step) * 4,
-                        4);
-            if (turned) std::reverse(target, target + 4);
+        if (step == 1) {
+            picture->ReadRow(y, target);
+        } else {
+            picture->ReadRow(y * step, row.data());
+            Thin(row, step, target, width);
         }
+        if (turned) TurnPixels(target, width);
     }
     return image;
 }

@@ -50,6 +50,7 @@ void PlayerView::AddBelow(QWidget* widget) {
 
 void PlayerView::UpdateDisplay() {
     if (!isVisible()) return;
+    if (updated_) updated_();
     pane_->SetCanvas(CanvasSize());
     player_.UpdateDisplay();
 }
@@ -98,31 +99,56 @@ std::vector<int32> PlayerView::OnionFrames() const {
     return frames;
 }
 
-// While it plays, some ahead; else those that a step leads to.
-std::vector<FrameImages::Wanted> PlayerView::WantedImages() const {
+// While it plays, some ahead; else those that a step leads to. What is late already comes last, or
+// what comes next would be late, too.
+std::vector<FrameImages::Wanted> PlayerView::WantedImages() {
     std::vector<FrameImages::Wanted> wanted;
     const auto add = [&](int32 frame) {
         if (shown_.Frames().At(frame)->bitmap) wanted.push_back(ImageOf(frame));
     };
     constexpr int32 kStill = 2;
-    add(player_.Frame());
+    const bool behind = player_.IsPlaying() && !IsReady(player_.Frame());
+    if (!behind) add(player_.Frame());
     for (const int32 frame : OnionFrames())
         add(frame);
     const QSize size = pane_->PixelsOf({QPoint(), CanvasSize()}).boundedTo(CanvasSize());
     const int32 most = player_.IsPlaying() ? FrameImages::RoomFor(size) - 1 : kStill;
     for (const int32 frame : player_.Upcoming(most))
         if (frame != player_.Frame()) add(frame);
+    if (behind) add(player_.Frame());
     return wanted;
+}
+
+bool PlayerView::IsReady(int32 frame) {
+    bool made = !shown_.Frames().At(frame)->bitmap;
+    if (!made) images_.Find(ImageOf(frame), &made);
+    return made;
+}
+
+// The frame that is due; where it is late, the last one before it that is there and has not been
+// painted yet: better late than never.
+int32 PlayerView::FrameToPaint() {
+    constexpr int32 kMostLate = 8;
+    const int32 due = player_.Frame();
+    if (!player_.IsPlaying()) return due;
+    const PlaybackSchedule& schedule = player_.Schedule();
+    const int32 place = schedule.PlaceOf(due);
+    for (int32 i = 0; i < std::min(kMostLate, schedule.Count()); ++i) {
+        const int32 frame = schedule.FrameAt((place - i + schedule.Count()) % schedule.Count());
+        if (frame == painted_frame_) break;
+        if (IsReady(frame)) return frame;
+    }
+    return due;
 }
 
 // A picture that is not ready leaves the one before it where it is.
 void PlayerView::ShowPictures() {
-    const int32 frame = player_.Frame();
-    if (frame < 0 || frame >= shown_.FrameCount()) {
+    if (player_.Frame() < 0 || player_.Frame() >= shown_.FrameCount()) {
         painted_frame_ = -1;
         return pane_->SetLayers({});
     }
     images_.Want(WantedImages());
+    const int32 frame = FrameToPaint();
     std::vector<PicturePane::Layer> layers;
     bool all_made = true;
     const auto add = [&](int32 number, double opacity) {

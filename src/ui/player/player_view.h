@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "kit/messenger.h"
+#include "ui/controls/frame_images.h"
 #include "ui/controls/shown_document.h"
-#include "ui/player/frame_images.h"
 #include "ui/player/picture_pane.h"
 #include "ui/player/player.h"
 
@@ -35,6 +35,8 @@ class PlayerView : public QWidget {
     int32 PaintedFrame() const { return painted_frame_; }
     // Below the picture.
     void AddBelow(QWidget* widget);
+    // Called when the document is shown anew, before the frame of it is.
+    void WhenUpdated(std::function<void()> updated) { updated_ = std::move(updated); }
     // Called when another frame is seen, or playing begins or ends.
     void WhenFrameChanges(std::function<void()> changed) { frame_changed_ = std::move(changed); }
 
@@ -52,7 +54,9 @@ class PlayerView : public QWidget {
     QSize CanvasSize() const;
     QRect PlaceOf(int32 frame) const;
     FrameImages::Wanted ImageOf(int32 frame) const;
-    std::vector<FrameImages::Wanted> WantedImages() const;
+    bool IsReady(int32 frame);
+    int32 FrameToPaint();
+    std::vector<FrameImages::Wanted> WantedImages();
     std::vector<int32> OnionFrames() const;
 
     const ShownDocument& shown_;
@@ -61,6 +65,7 @@ class PlayerView : public QWidget {
     PicturePane* pane_;
     LookBar* look_;
     TransportBar* transport_;
+    std::function<void()> updated_;
     std::function<void()> frame_changed_;
     int32 painted_frame_ = -1;
 };

@@ -8,6 +8,7 @@
 #include "ui/shell/main_menu.h"
 #include "ui/thumbnails/frame_list_view.h"
 #include "ui/thumbnails/thumbnail_view.h"
+#include "ui/timeline/timeline_view.h"
 
 // The frames in all the room, or below the player.
 QWidget* KirtoWindow::ArrangeFrames() {
@@ -17,6 +18,19 @@ QWidget* KirtoWindow::ArrangeFrames() {
     player_splitter_ = new QSplitter(Qt::Vertical);
     player_splitter_->setObjectName("PlayerSplitter");
     player_splitter_->setChildrenCollapsible(false);
+    auto* timeline = new kirto::TimelineView(shown_, Messenger());
+    player_view_->AddBelow(timeline);
+    player_view_->WhenFrameChanges(
+        [this, timeline] { timeline->SetPlayhead(player_view_->Playback().Frame()); });
+    timeline->WhenDragged([this](int32 frame, bool last) {
+        kirto::Player& player = player_view_->Playback();
+        if (last) {
+            player.ShowFrame(frame);
+        } else {
+            player.Peek(frame);
+        }
+    });
+    player_view_->WhenUpdated([timeline] { timeline->UpdateDisplay(); });
     player_splitter_->addWidget(player_view_);
     player_splitter_->addWidget(frame_area_);
     player_splitter_->setStretchFactor(0, 3);

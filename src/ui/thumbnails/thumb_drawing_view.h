@@ -10,11 +10,11 @@
 
 #include "kit/message.h"
 #include "ui/controls/editor.h"
+#include "ui/controls/frame_selector.h"
 #include "ui/controls/picture_painter.h"
 #include "ui/controls/shown_document.h"
 #include "ui/controls/thumbnail_cache.h"
 #include "ui/thumbnails/frame_drag.h"
-#include "ui/thumbnails/frame_selector.h"
 #include "ui/thumbnails/range_entry.h"
 #include "ui/thumbnails/thumb_scroll_view.h"
 #include "ui/thumbnails/thumbnail_layout.h"

@@ -1,4 +1,4 @@
-#include "ui/thumbnails/frame_selector.h"
+#include "ui/controls/frame_selector.h"
 
 #include <algorithm>
 

@@ -22,6 +22,7 @@ class FrameImages : public QObject {
   public:
     // What is kept, in bytes. What is wanted now may take more, if it is large.
     static constexpr qsizetype kMaxBytes = qsizetype{192} << 20;
+    static constexpr size_t kMaxImages = 512;
 
     // The image of a frame's picture in its own size, or smoothly scaled down.
     struct Wanted {

@@ -1,5 +1,6 @@
-#include "ui/player/frame_images.h"
+#include "ui/controls/frame_images.h"
 
+#include <QPainter>
 #include <algorithm>
 #include <new>
 #include <system_error>
@@ -14,6 +15,19 @@ namespace {
 
 constexpr int32 kWorkers = 2;
 constexpr qsizetype kBytesPerPixel = 4;
+
+// Down to half the size the four pixels about each place have it all; that takes a third of the
+// time that counting every pixel does.
+QImage Smaller(const QImage& image, QSize size) {
+    const bool to_half = size.width() * 2 >= image.width() && size.height() * 2 >= image.height();
+    if (!to_half) return image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    QImage smaller(size, image.format());
+    QPainter painter(&smaller);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    painter.drawImage(QRect(QPoint(), size), image);
+    return smaller;
+}
 
 }  // namespace
 
@@ -89,7 +103,7 @@ void FrameImages::Keep(Entry entry) {
     bytes_ += entry.image.sizeInBytes();
     entries_.push_front(std::move(entry));
     const size_t fewest = static_cast<size_t>(RoomFor(entries_.front().image.size()));
-    while (bytes_ > kMaxBytes && entries_.size() > fewest) {
+    while (entries_.size() > kMaxImages || (bytes_ > kMaxBytes && entries_.size() > fewest)) {
         bytes_ -= entries_.back().image.sizeInBytes();
         entries_.pop_back();
     }
@@ -104,7 +118,7 @@ QImage FrameImages::Make(const Wanted& wanted) {
         QImage image = ImageOf(picture, wanted.size);
         if (image.hasAlphaChannel()) image.convertTo(QImage::Format_ARGB32_Premultiplied);
         if (wanted.size.isValid() && !image.isNull() && image.size() != wanted.size)
-            return image.scaled(wanted.size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+            return Smaller(image, wanted.size);
         return image;
     } catch (const std::bad_alloc&) {
         return {};

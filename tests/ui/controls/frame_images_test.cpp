@@ -1,4 +1,4 @@
-#include "ui/player/frame_images.h"
+#include "ui/controls/frame_images.h"
 
 #include <gtest/gtest.h>
 
@@ -68,10 +68,9 @@ TEST_F(FrameImagesTest, ForgetsWhatIsNoLongerWantedWhereMemoryIsBounded) {
     const QSize size(2000, 2000);
     const int32 room = FrameImages::RoomFor(size);
     ASSERT_LT(room, 20);
-    const std::vector<uint32> pixels(size_t{2000} * 2000, 0xFF123456);
     std::vector<Wanted> wanted;
     for (int i = 0; i < 20; ++i) {
-        wanted.push_back({FramePictureOf(2000, 2000, pixels), {}});
+        wanted.push_back({Picture::Solid(0xFF123456, 2000, 2000, B_RGB32, nullptr), {}});
         Await(wanted.back());
     }
     bool made = false;
