@@ -32,6 +32,16 @@ inline void AddFour(uint32 indices, Lanes& lanes) {
     ++lanes[3][indices >> 24];
 }
 
+// Adds eight; those that are equal at once.
+inline void AddGroup(uint64 group, Lanes& lanes) {
+    if (group == std::rotl(group, 8)) {
+        lanes[0][group & 0xFF] = static_cast<uint16>(lanes[0][group & 0xFF] + kGroup);
+        return;
+    }
+    AddFour(static_cast<uint32>(group), lanes);
+    AddFour(static_cast<uint32>(group >> 32), lanes);
+}
+
 inline uint32 SumOf(const Lanes& lanes, size_t index) {
     return uint32{lanes[0][index]} + lanes[1][index] + lanes[2][index] + lanes[3][index];
 }
@@ -108,10 +118,8 @@ void IndexCounts::ChangeBlock(std::span<const uint8> before, const uint8* after)
             const uint64 old_group = GroupAt(before.data() + i);
             const uint64 new_group = GroupAt(after + i);
             if (old_group == new_group) continue;
-            AddFour(static_cast<uint32>(old_group), fewer);
-            AddFour(static_cast<uint32>(old_group >> 32), fewer);
-            AddFour(static_cast<uint32>(new_group), more);
-            AddFour(static_cast<uint32>(new_group >> 32), more);
+            AddGroup(old_group, fewer);
+            AddGroup(new_group, more);
         }
     }
     for (; at < before.size(); ++at) {

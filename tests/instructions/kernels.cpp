@@ -5,9 +5,12 @@
 #include <valgrind/callgrind.h>
 #include <vector>
 
+#include "color/color_cube.h"
 #include "color/nearest_color.h"
 #include "color/palette.h"
 #include "effects/fade_kernels.h"
+#include "effects/pictures/scale_picture.h"
+#include "formats/faithful/choice_lzw_encoder.h"
 #include "formats/gif/gif_image_data.h"
 #include "formats/gif/gif_index_writer.h"
 #include "formats/gif/gif_lzw_decoder.h"
@@ -84,6 +87,18 @@ void CountLzw() {
     Count("lzw_decode", [&] { decoder.Decode(writer, work, 0); });
 }
 
+// Strings that are found with care, and then with the table cleared where it pays.
+void CountChoices() {
+    const std::vector<uint8> indices = IndicesOf(PaintPhoto, Reduction::kDithered);
+    const ChoiceImage image{indices, {}, 0, 8};
+    constexpr size_t kShorter = 1;
+    const Work work;
+    ChoiceLzwEncoder encoder(work);
+    Count("lzw_choose", [&] { encoder.Encode(image, kShorter, {}); });
+    const LzwPace pace = encoder.Pace();
+    Count("lzw_clear", [&] { encoder.EncodeWell(image, kShorter, pace, indices.size() * 2); });
+}
+
 std::vector<uint8> FirstRow(const Frame& frame) {
     std::vector<uint8> row(size_t{kWidth} * 4);
     ReadPixels(frame, 0, row.data());
@@ -93,6 +108,12 @@ std::vector<uint8> FirstRow(const Frame& frame) {
 void CountColors(const Frame& photo) {
     const Palette palette(PictureOf(photo));
     Count("color_count", [&] { palette.CountUniqueColors(PictureOf(photo)); });
+
+    std::vector<uint8> pixels(size_t{kWidth} * kHeight * 4);
+    for (int32 y = 0; y < kHeight; ++y)
+        ReadPixels(photo, y, pixels.data() + size_t{kWidth} * 4 * static_cast<size_t>(y));
+    ColorCube cube(false, nullptr);
+    Count("color_cube", [&] { cube.Count({}, {pixels}); });
 
     const std::vector<uint8> row = FirstRow(photo);
     NearestColor nearest;
@@ -120,6 +141,14 @@ void CountFade(const Frame& photo) {
     });
 }
 
+void CountScaling(const Frame& photo) {
+    const ScalePlan plan =
+        ScaleTo(kWidth, kHeight, kWidth * 2 / 3, kHeight * 2 / 3, ScaleFilter::kLanczos);
+    const auto budget = std::make_shared<PixelBudget>(PixelBudget::DefaultLimit());
+    const Work work;
+    Count("scale", [&] { ScalePicture(*PictureOf(photo), plan, budget, work); });
+}
+
 }  // namespace
 
 }  // namespace kirto::bench
@@ -129,7 +158,9 @@ int main() {
     HideProcessorFeatures();
     const Frame photo = PaintedFrame(PaintPhoto, kWidth, kHeight, 0);
     CountLzw();
+    CountChoices();
     CountColors(photo);
     CountFade(photo);
+    CountScaling(photo);
     return 0;
 }

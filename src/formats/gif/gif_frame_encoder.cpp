@@ -13,6 +13,8 @@ namespace kirto {
 
 namespace {
 
+constexpr int32 kPixelsAtOnce = 1 << 12;  // between two reports
+
 // The integer part of a delay in hundredths. A value a hair below a whole number counts as that
 // number, so that 0.29 seconds stays 29 through any number of saves.
 int64 WholeHundredths(double hundredths) {
@@ -70,11 +72,17 @@ ByteWriter GifFrameEncoder::Encode(const Frame& frame, SharedProgress& progress)
     AddImageHeader(frame, encoding, bytes);
     mapper_.StartPicture(*encoding.palette, options_.interlaced);
     GifLzwEncoder encoder(bytes, std::max(encoding.bits, 2));
+    // Short rows are told of several at a time, as that asks for the time.
+    const int64 rows_at_once = kPixelsAtOnce / std::max(frame.width, 1) + 1;
+    int64 untold = 0;
     for (GifRowOrder order(frame.height, options_.interlaced); !order.Done(); order.Next()) {
         if (progress.StopRequested()) return bytes;
         encoder.Add(mapper_.MapRow(frame.bitmap.get(), order.Row(), frame.width));
-        progress.Add(1);
+        if (++untold < rows_at_once) continue;
+        progress.Add(untold);
+        untold = 0;
     }
+    progress.Add(untold);
     encoder.Finish();
     return bytes;
 }

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstring>
 
+#include "base/byte_order.h"
+
 namespace kirto {
 
 namespace {
@@ -43,24 +45,70 @@ void GifLzwEncoder::Add(std::span<const uint8> indices) {
     if (strings >= kFewStrings && taken_ < strings * kLongStrings) follows_runs_ = false;
     taken_ += indices.size();
     if (prefix_ == kNoPrefix) next = StartString(next, end);
-    for (;;) {
+    while (next != end)
+        next = follows_runs_ ? AddFollowingRuns(next, end) : AddShort(next, end);
+}
+
+// Goes on with the prefix until the end, or until a string has begun after the table was cleared.
+// Returns where that is.
+inline const uint8* GifLzwEncoder::AddFollowingRuns(const uint8* next, const uint8* end) {
+    for (bool cleared = false; !cleared;) {
         if (run_length_ > 0) next = ExtendRun(next, end);
         size_t slot = 0;
         next = ExtendPrefix(next, end, &slot);
-        if (next == end) return;
+        if (next == end) return end;
         // A code of more than 12 bits is never looked up: the table is cleared at once.
         slots_[slot] = prefix_ << 20 | uint32{*next} << 12 | (next_free_ & 0xFFF);
         if (run_length_ > 0) AddRun(next_free_);
         OutputCode(prefix_, code_size_);
-        if (next_free_ >> code_size_ != 0 && ++code_size_ > kMaxCodeSize) {
-            OutputCode(clear_code_, kMaxCodeSize);
-            ResetTable();
+        cleared = next_free_ >> code_size_ != 0 && ++code_size_ > kMaxCodeSize;
+        if (cleared) {
+            ClearTable();
             taken_ = static_cast<size_t>(end - next);
         } else {
             ++next_free_;
         }
         next = StartString(next, end);
     }
+    return next;
+}
+
+// The same without a look at runs. All that changes with each string is kept in registers.
+inline const uint8* GifLzwEncoder::AddShort(const uint8* next, const uint8* end) {
+    Packer packer = packer_;
+    uint32 prefix = prefix_;
+    uint32 next_free = next_free_;
+    uint32 code_size = code_size_;
+    bool cleared = false;
+    for (; next != end && !cleared; ++next) {
+        const uint32 string = prefix << 8 | *next;
+        size_t slot = 0;
+        if (Find(string, &slot)) {
+            prefix = slots_[slot] & 0xFFF;
+            continue;
+        }
+        slots_[slot] = string << 12 | (next_free & 0xFFF);
+        packer.Add(prefix, code_size);
+        if (HasBlocks(packer)) {
+            packer_ = packer;
+            WriteBlocks();
+            packer = packer_;
+        }
+        cleared = next_free >> code_size != 0 && ++code_size > kMaxCodeSize;
+        ++next_free;
+        prefix = *next;
+    }
+    packer_ = packer;
+    prefix_ = prefix;
+    next_free_ = next_free;
+    code_size_ = code_size;
+    run_length_ = 0;
+    if (cleared) {
+        ClearTable();
+        next = StartString(next - 1, end);
+        taken_ = static_cast<size_t>(end - next) + 1;
+    }
+    return next;
 }
 
 // The string of one index. Returns where it ends.
@@ -95,7 +143,7 @@ const uint8* GifLzwEncoder::ExtendRun(const uint8* next, const uint8* end) {
 }
 
 // The table's longest run of the index has become longer by one.
-void GifLzwEncoder::AddRun(uint32 code) {
+inline void GifLzwEncoder::AddRun(uint32 code) {
     Run& run = runs_[run_index_];
     ++run.longest;
     run.code = static_cast<uint16>(code);
@@ -104,18 +152,14 @@ void GifLzwEncoder::AddRun(uint32 code) {
 
 // Makes the prefix longer as long as the table has it. Returns where that ends, with the free slot
 // for the string that the table has not.
-const uint8* GifLzwEncoder::ExtendPrefix(const uint8* next, const uint8* end, size_t* free_slot) {
+inline const uint8* GifLzwEncoder::ExtendPrefix(const uint8* next, const uint8* end,
+                                                size_t* free_slot) {
     uint32 prefix = prefix_;
     for (; next != end; ++next) {
-        const uint32 string = prefix << 8 | *next;
-        size_t slot = Slot(string);
-        while (slots_[slot] >> 12 != string) {
-            if (slots_[slot] == empty_slot_) {
-                prefix_ = prefix;
-                *free_slot = slot;
-                return next;
-            }
-            slot = (slot + 1) % slots_.size();
+        size_t slot = 0;
+        if (!Find(prefix << 8 | *next, &slot)) {
+            *free_slot = slot;
+            break;
         }
         prefix = slots_[slot] & 0xFFF;
     }
@@ -123,9 +167,26 @@ const uint8* GifLzwEncoder::ExtendPrefix(const uint8* next, const uint8* end, si
     return next;
 }
 
-inline uint32 GifLzwEncoder::Slot(uint32 string) {
+// Whether the table has the string. Its slot, or else the free one where it belongs.
+inline bool GifLzwEncoder::Find(uint32 string, size_t* slot) const {
+    size_t place = Slot(string);
+    for (;; place = (place + 1) % slots_.size()) {
+        const uint32 found = slots_[place];
+        *slot = place;
+        if (found >> 12 == string) return true;
+        if (found == empty_slot_) return false;
+    }
+}
+
+inline size_t GifLzwEncoder::Slot(uint32 string) {
     // The multiplication spreads neighboring strings, of which there are many.
     return (string * 0x9E3779B1U) >> (32 - kHashBits);
+}
+
+// Says so, with the code of a table that is full.
+void GifLzwEncoder::ClearTable() {
+    OutputCode(clear_code_, kMaxCodeSize);
+    ResetTable();
 }
 
 void GifLzwEncoder::ResetTable() {
@@ -139,36 +200,40 @@ void GifLzwEncoder::ResetTable() {
     next_free_ = clear_code_ + 2;
 }
 
-// Packs codes least significant bit first.
+inline void GifLzwEncoder::Packer::Add(uint32 code, uint32 size) {
+    // Numbers of its own, so that the bytes become one store.
+    const uint64 waiting = bits | uint64{code} << count;
+    uint8* const bytes = next;
+    WriteLittle16(bytes, static_cast<int64>(waiting));
+    WriteLittle16(bytes + 2, static_cast<int64>(waiting >> 16));
+    count += size;
+    next = bytes + count / 8;
+    bits = waiting >> count / 8 * 8;
+    count %= 8;
+}
+
 void GifLzwEncoder::OutputCode(uint32 code, uint32 size) {
-    bit_buffer_ |= uint64{code} << bit_count_;
-    bit_count_ += size;
-    if (bit_count_ < 32) return;
-    for (size_t i = 0; i < 4; ++i)
-        data_[data_size_ + i] = static_cast<uint8>(bit_buffer_ >> 8 * i);
-    bit_buffer_ >>= 32;
-    bit_count_ -= 32;
-    data_size_ += 4;
-    if (data_size_ >= kBlocks * kBlockSize) WriteBlocks();
+    packer_.Add(code, size);
+    if (HasBlocks(packer_)) WriteBlocks();
 }
 
 void GifLzwEncoder::FlushCodes(uint32 size) {
-    bit_count_ += size;
-    for (uint32 bits = 0; bits < bit_count_; bits += 8)
-        data_[data_size_++] = static_cast<uint8>(bit_buffer_ >> bits);
-    while (data_size_ > 0)
+    packer_.Add(0, size);
+    if (packer_.count > 0) ++packer_.next;
+    while (packer_.next != data_.data())
         WriteBlocks();
 }
 
 void GifLzwEncoder::WriteBlocks() {
-    const size_t now = std::min(data_size_, kBlocks * kBlockSize);
+    const size_t size = static_cast<size_t>(packer_.next - data_.data());
+    const size_t now = std::min(size, kBlocks * kBlockSize);
     for (size_t start = 0; start < now; start += kBlockSize) {
         const size_t block = std::min(now - start, kBlockSize);
         output_.U8(static_cast<uint8>(block));
         output_.Bytes({data_.data() + start, block});
     }
-    data_size_ -= now;
-    std::memmove(data_.data(), data_.data() + now, data_size_);
+    std::memmove(data_.data(), data_.data() + now, size - now);
+    packer_.next = data_.data() + (size - now);
 }
 
 void GifLzwEncoder::Finish() {

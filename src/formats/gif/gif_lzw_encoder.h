@@ -15,6 +15,8 @@ class GifLzwEncoder {
   public:
     // min_code_size: 2 to 8; every index is below 2^min_code_size. The output outlives this.
     GifLzwEncoder(ByteWriter& output, int32 min_code_size);
+    GifLzwEncoder(const GifLzwEncoder&) = delete;
+    GifLzwEncoder& operator=(const GifLzwEncoder&) = delete;
 
     // Takes the image's next indices, best a row at once.
     void Add(std::span<const uint8> indices);
@@ -42,14 +44,30 @@ class GifLzwEncoder {
         std::array<uint16, (1U << kMaxCodeSize) / kRunStep> codes;
     };
 
+    // Packs codes, least significant bit first.
+    struct Packer {
+        uint64 bits;   // that are not in the bytes yet
+        uint32 count;  // of them, below 8 between two codes
+        uint8* next;   // byte; four are written at a time
+
+        void Add(uint32 code, uint32 size);
+    };
+
+    const uint8* AddFollowingRuns(const uint8* next, const uint8* end);
+    const uint8* AddShort(const uint8* next, const uint8* end);
     const uint8* StartString(const uint8* next, const uint8* end);
     const uint8* ExtendRun(const uint8* next, const uint8* end);
     void AddRun(uint32 code);
-    static uint32 Slot(uint32 string);
+    static size_t Slot(uint32 string);
+    bool Find(uint32 string, size_t* slot) const;
     const uint8* ExtendPrefix(const uint8* next, const uint8* end, size_t* free_slot);
+    void ClearTable();
     void ResetTable();
     void OutputCode(uint32 code, uint32 size);
     void FlushCodes(uint32 size);
+    bool HasBlocks(const Packer& packer) const {
+        return packer.next >= data_.data() + kBlocks * kBlockSize;
+    }
     void WriteBlocks();
 
     ByteWriter& output_;
@@ -70,10 +88,8 @@ class GifLzwEncoder {
     std::array<uint32, size_t{1} << kHashBits> slots_;
     std::array<Run, 256> runs_;
 
-    uint64 bit_buffer_ = 0;  // bits that are not in data_ yet
-    uint32 bit_count_ = 0;
     std::array<uint8, kBlocks * kBlockSize + 8> data_;  // of sub-blocks, joined
-    size_t data_size_ = 0;
+    Packer packer_{0, 0, data_.data()};
 };
 
 }  // namespace kirto

@@ -85,8 +85,11 @@ void PixelMapper::MapIndices(const PixelRow& row, bool big_endian, int32 count, 
         return;
     }
     if (*row.table != table_ || table_big_endian_ != big_endian) MapTable(*row.table, big_endian);
+    // In registers: as far as the compiler knows, what is written might change the members.
+    const uint8* const from = row.indices;
+    const uint8* const to = table_indices_.data();
     for (int32 x = 0; x < count; ++x)
-        indices[x] = table_indices_[row.indices[x]];
+        indices[x] = to[from[x]];
 }
 
 void PixelMapper::MapTable(const SharedPixelTable& table, bool big_endian) {
