@@ -64,8 +64,12 @@ class Record {
     }
 
     void Start() {
-        start_ = Clock::now();
         running_ = true;
+        view_.Playback().SetNow([this] {
+            const auto now = Clock::now();
+            if (start_ == Clock::time_point()) start_ = now;
+            return now.time_since_epoch();
+        });
         view_.Playback().Play();
     }
 

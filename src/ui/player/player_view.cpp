@@ -55,9 +55,11 @@ void PlayerView::UpdateDisplay() {
     player_.UpdateDisplay();
 }
 
+// While it plays the picture comes first, at once.
 void PlayerView::ShowPlayer() {
-    transport_->UpdateDisplay(shown_.FrameCount());
     ShowPictures();
+    if (player_.IsPlaying()) pane_->repaint();
+    transport_->UpdateDisplay(shown_.FrameCount());
     if (frame_changed_) frame_changed_();
 }
 

@@ -1,5 +1,6 @@
 // The part of the main window that shows and hides the player.
 #include <QKeyEvent>
+#include <QLayout>
 #include <QSplitter>
 #include <QStackedWidget>
 
@@ -47,6 +48,11 @@ bool KirtoWindow::ShowsPlayer() const {
 void KirtoWindow::ShowPlayer(bool shown) {
     player_view_->setVisible(shown);
     kirto::ShowPlayer(*menuBar(), shown);
+    // From inside out, or the window would not know yet what its content needs.
+    player_splitter_->refresh();
+    splitter_->refresh();
+    centralWidget()->layout()->invalidate();
+    centralWidget()->updateGeometry();
     LimitSize();
 }
 

@@ -42,8 +42,12 @@ TimelineView::TimelineView(const ShownDocument& shown, BMessenger commands, QWid
     viewport()->setBackgroundRole(QPalette::Base);
 }
 
+int TimelineView::RulerHeight() const {
+    return fontMetrics().height() + 3;
+}
+
 QSize TimelineView::sizeHint() const {
-    return {400, kRulerHeight + kBlockHeight + 2 * frameWidth() +
+    return {400, RulerHeight() + kBlockHeight + 2 * frameWidth() +
                      horizontalScrollBar()->sizeHint().height()};
 }
 
@@ -66,7 +70,7 @@ int TimelineView::InViewport(double x) const {
 QRect TimelineView::PlaceOf(int32 frame) const {
     const int left = InViewport(layout_.LeftOf(frame));
     const int right = InViewport(layout_.RightOf(frame));
-    return {left, kRulerHeight, right - left, kBlockHeight - kGap};
+    return {left, RulerHeight(), right - left, kBlockHeight - kGap};
 }
 
 QString TimelineView::NameOf(int32 frame) const {
@@ -237,7 +241,7 @@ void TimelineView::PaintThumbnail(QPainter& painter, int32 frame, const QRect& b
 
 // Times stand where frames begin, as far apart as they can be read.
 void TimelineView::PaintRuler(QPainter& painter, const QRect& area) {
-    painter.fillRect(QRect(area.left(), 0, area.width(), kRulerHeight - 1),
+    painter.fillRect(QRect(area.left(), 0, area.width(), RulerHeight() - 1),
                      palette().color(QPalette::Window));
     const int apart = fontMetrics().horizontalAdvance("00.00 s") * 3 / 2;
     painter.setPen(palette().color(QPalette::WindowText));
@@ -247,9 +251,9 @@ void TimelineView::PaintRuler(QPainter& painter, const QRect& area) {
         const int x = InViewport(layout_.LeftOf(i));
         if (x < free_from) continue;
         free_from = x + apart;
-        painter.drawLine(x, kRulerHeight - 6, x, kRulerHeight - 2);
-        painter.drawText(QRect(x + 3, 0, apart, kRulerHeight - 2), Qt::AlignLeft | Qt::AlignVCenter,
-                         SecondsText(layout_.StartOf(i)));
+        painter.drawLine(x, RulerHeight() - 6, x, RulerHeight() - 2);
+        painter.drawText(QRect(x + 3, 0, apart, RulerHeight() - 2),
+                         Qt::AlignLeft | Qt::AlignVCenter, SecondsText(layout_.StartOf(i)));
     }
 }
 
@@ -272,7 +276,7 @@ void TimelineView::PaintDragging(QPainter& painter) {
     if (drop_position_ >= 0) {
         const bool at_end = drop_position_ == layout_.Count();
         const double x = at_end ? layout_.Width() : layout_.LeftOf(drop_position_);
-        painter.fillRect(InViewport(x) - 2, kRulerHeight, 3, kBlockHeight,
+        painter.fillRect(InViewport(x) - 2, RulerHeight(), 3, kBlockHeight,
                          palette().color(QPalette::Highlight));
     }
     if (drag_ != Drag::kEdge) return;

@@ -19,7 +19,6 @@ class TimelineView : public QAbstractScrollArea {
   public:
     static constexpr double kLeastScale = 1;  // units for a second
     static constexpr double kMostScale = 20000;
-    static constexpr int kRulerHeight = 18;
 
     // commands: where frames are selected and edited. shown outlives the view.
     TimelineView(const ShownDocument& shown, BMessenger commands, QWidget* parent = nullptr);
@@ -31,6 +30,8 @@ class TimelineView : public QAbstractScrollArea {
     // Units for a second; what is in the middle stays there, or what is at that place.
     void SetScale(double scale, std::optional<int> x = std::nullopt);
     double Scale() const { return scale_; }
+    // Of the ruler above the blocks, units.
+    int RulerHeight() const;
 
     // Called while the playhead is dragged, and with the last when it is let go.
     void WhenDragged(std::function<void(int32 frame, bool last)> dragged) {

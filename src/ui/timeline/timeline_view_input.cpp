@@ -30,7 +30,7 @@ void TimelineView::mousePressEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton || layout_.Count() == 0) return;
     pressed_at_ = pointer_ = event->position().toPoint();
     const double x = AtContent(pointer_.x());
-    if (pointer_.y() < kRulerHeight) {
+    if (pointer_.y() < RulerHeight()) {
         drag_ = Drag::kPlayhead;
         return DragPlayhead(pointer_.x(), false);
     }
@@ -61,7 +61,7 @@ void TimelineView::mouseMoveEvent(QMouseEvent* event) {
     pointer_ = event->position().toPoint();
     switch (drag_) {
         case Drag::kNone: {
-            const bool at_edge = pointer_.y() >= kRulerHeight &&
+            const bool at_edge = pointer_.y() >= RulerHeight() &&
                                  layout_.EdgeAt(AtContent(pointer_.x()), kEdgeDistance) >= 0;
             viewport()->setCursor(at_edge ? Qt::SplitHCursor : Qt::ArrowCursor);
             return;

@@ -30,6 +30,18 @@ TEST_F(KirtoWindowPlayer, IsFoldedAwayUntilItIsAskedFor) {
     EXPECT_FALSE(View().isVisible());
 }
 
+TEST_F(KirtoWindowPlayer, MakesTheWindowLargeEnoughForWhatItNeeds) {
+    Open(BRect(100, 80, 649, 479));
+
+    Do(kShowPlayer);
+
+    EXPECT_GE(View().width(), View().minimumSizeHint().width());
+    EXPECT_GE(View().height(), View().minimumSizeHint().height());
+    const QSize with_player = window->minimumSize();
+    Do(kShowPlayer);
+    EXPECT_LT(window->minimumHeight(), with_player.height());
+}
+
 TEST_F(KirtoWindowPlayer, PlaysBySpaceFromTheFramesAndUnfolds) {
     Open();
     auto& grid = Find<ThumbDrawingView>("ThumbDrawingView");

@@ -14,7 +14,7 @@ namespace kirto::test {
 namespace {
 
 constexpr uint32 kRed = 0xFFFF0000;
-constexpr int kRow = TimelineView::kRulerHeight + 40;
+constexpr int kRow = 60;  // through the blocks
 
 // Ten frames of 100 ms, each 100 units wide, of which the first is current.
 class TimelineViewTest : public ::testing::Test {
