@@ -65,7 +65,7 @@ void FrameImages::StartThreads() {
 
 bool FrameImages::IsThere(const Wanted& wanted) const {
     return std::any_of(entries_.begin(), entries_.end(),
-                       [&](const Entry& entry) { return entry.wanted == wanted; });
+                       [&](const Entry& entry) { return entry.IsOf(wanted); });
 }
 
 void FrameImages::Want(std::vector<Wanted> wanted) {
@@ -85,24 +85,25 @@ void FrameImages::Want(std::vector<Wanted> wanted) {
 QImage FrameImages::Find(const Wanted& wanted, bool* made) {
     const Lock lock(mutex_);
     const auto found = std::find_if(entries_.begin(), entries_.end(),
-                                    [&](const Entry& entry) { return entry.wanted == wanted; });
+                                    [&](const Entry& entry) { return entry.IsOf(wanted); });
     if (made) *made = found != entries_.end();
     if (found == entries_.end()) return {};
     entries_.splice(entries_.begin(), entries_, found);
     return found->image;
 }
 
-void FrameImages::Clear() {
-    const Lock lock(mutex_);
-    queue_.clear();
-    entries_.clear();
-    bytes_ = 0;
+// Another picture may later have the place in memory of one that is gone.
+bool FrameImages::Entry::IsOf(const Wanted& wanted) const {
+    return picture.lock() == wanted.picture && size == wanted.size &&
+           is_saved == (wanted.saved != nullptr) && saved.lock() == wanted.saved &&
+           position == wanted.position;
 }
 
-void FrameImages::Keep(Entry entry) {
-    bytes_ += entry.image.sizeInBytes();
-    entries_.push_front(std::move(entry));
-    const size_t fewest = static_cast<size_t>(RoomFor(entries_.front().image.size()));
+void FrameImages::Keep(const Wanted& wanted, QImage image) {
+    bytes_ += image.sizeInBytes();
+    const auto fewest = static_cast<size_t>(RoomFor(image.size()));
+    entries_.push_front({wanted.picture, wanted.size, wanted.saved != nullptr, wanted.saved,
+                         wanted.position, std::move(image)});
     while (entries_.size() > kMaxImages || (bytes_ > kMaxBytes && entries_.size() > fewest)) {
         bytes_ -= entries_.back().image.sizeInBytes();
         entries_.pop_back();
@@ -137,7 +138,7 @@ void FrameImages::Work() {
         QImage image = Make(wanted);
         lock.lock();
         std::erase(making_, wanted);
-        Keep({wanted, std::move(image)});
+        Keep(wanted, std::move(image));
         if (ending_ || std::exchange(told_, true)) continue;
         QMetaObject::invokeMethod(
             this,

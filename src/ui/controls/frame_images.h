@@ -44,23 +44,27 @@ class FrameImages : public QObject {
     void Want(std::vector<Wanted> wanted);
     // The image if it is there; else null. Null also for one that can't be made: then made is true.
     QImage Find(const Wanted& wanted, bool* made = nullptr);
-    // Forgets all images.
-    void Clear();
-
     // So many images of that size may be wanted at once without others having to go.
     static int32 RoomFor(QSize size);
 
   private:
     using Lock = std::unique_lock<std::mutex>;
+    // Keeps neither pictures nor documents alive.
     struct Entry {
-        Wanted wanted;
+        std::weak_ptr<const Picture> picture;
+        QSize size;
+        bool is_saved;
+        std::weak_ptr<const DocumentState> saved;
+        int32 position;
         QImage image;
+
+        bool IsOf(const Wanted& wanted) const;
     };
 
     static QImage Make(const Wanted& wanted);
     void Work();
     bool IsThere(const Wanted& wanted) const;
-    void Keep(Entry entry);
+    void Keep(const Wanted& wanted, QImage image);
     void StartThreads();
 
     const std::function<void()> ready_;

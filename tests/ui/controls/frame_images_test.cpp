@@ -80,6 +80,16 @@ TEST_F(FrameImagesTest, ForgetsWhatIsNoLongerWantedWhereMemoryIsBounded) {
     EXPECT_FALSE(made);
 }
 
+TEST_F(FrameImagesTest, KeepsNoPictureAlive) {
+    auto picture = FramePictureOf(2, 1, {0x80FF0000, 0xFF00FF00}, B_RGBA32);
+    const std::weak_ptr<const Picture> watched = picture;
+    Await({picture, {}});
+
+    picture = nullptr;
+
+    EXPECT_TRUE(WaitFor([&] { return watched.expired(); }));
+}
+
 TEST_F(FrameImagesTest, HasRoomForSomeImagesOfAnySize) {
     EXPECT_EQ(FrameImages::RoomFor({1, 1}), 32);
     EXPECT_EQ(FrameImages::RoomFor({1920, 1080}), 24);
