@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "document/command_codes.h"
+#include "support/colors.h"
 #include "ui/thumbnails/frame_area_fixture.h"
 #include "ui/widget_tools.h"
 
@@ -13,7 +14,6 @@ namespace kirto::test {
 
 namespace {
 
-constexpr uint32 kRed = 0xFFFF0000;
 constexpr int kRow = 60;  // through the blocks
 
 // Ten frames of 100 ms, each 100 units wide, of which the first is current.
