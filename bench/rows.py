@@ -259,7 +259,7 @@ def resizing(files):
         "-frames:v", str(frames), "-vf", "scale=1280:720:flags=lanczos", "-f", "null", "-"),
         whole=True)
     return Row(18, f"resize {frames} of 1920 x 1080 to 1280 x 720", files.job("resize", str(frames)),
-               ffmpeg, (1, 1))
+               ffmpeg, (1, 1), rounds=3)
 
 
 def large_pictures(files):
