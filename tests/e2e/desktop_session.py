@@ -17,6 +17,8 @@ import subprocess
 import tempfile
 import time
 
+from gi.repository import GLib
+
 DEADLINE = 60.0  # seconds; long enough for a machine that builds at the same time
 POLL = 0.05
 
@@ -33,10 +35,14 @@ def missing_programs():
 
 
 def wait_until(condition, what, deadline=DEADLINE):
-    """Returns the first true value of condition(); fails when none comes in time."""
+    """Returns the first true value of condition(); fails when none comes in time. A program that is
+    too busy to tell what its window shows is asked again."""
     end = time.monotonic() + deadline
     while True:
-        value = condition()
+        try:
+            value = condition()
+        except GLib.GError:
+            value = None
         if value:
             return value
         if time.monotonic() > end:

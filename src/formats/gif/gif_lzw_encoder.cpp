@@ -192,21 +192,21 @@ void GifLzwEncoder::ClearTable() {
 void GifLzwEncoder::ResetTable() {
     slots_.fill(empty_slot_);
     follows_runs_ = true;
-    for (uint16 index = 0; index < runs_.size(); ++index) {
+    for (size_t index = 0; index < runs_.size(); ++index) {
         runs_[index].longest = 1;
-        runs_[index].code = index;
+        runs_[index].code = static_cast<uint16>(index);
     }
     code_size_ = min_code_size_ + 1;
     next_free_ = clear_code_ + 2;
 }
 
-inline void GifLzwEncoder::Packer::Add(uint32 code, uint32 size) {
+inline void GifLzwEncoder::Packer::Add(uint32 code, uint32 code_size) {
     // Numbers of its own, so that the bytes become one store.
     const uint64 waiting = bits | uint64{code} << count;
     uint8* const bytes = next;
     WriteLittle16(bytes, static_cast<int64>(waiting));
     WriteLittle16(bytes + 2, static_cast<int64>(waiting >> 16));
-    count += size;
+    count += code_size;
     next = bytes + count / 8;
     bits = waiting >> count / 8 * 8;
     count %= 8;

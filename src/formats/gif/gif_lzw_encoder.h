@@ -50,7 +50,7 @@ class GifLzwEncoder {
         uint32 count;  // of them, below 8 between two codes
         uint8* next;   // byte; four are written at a time
 
-        void Add(uint32 code, uint32 size);
+        void Add(uint32 code, uint32 code_size);
     };
 
     const uint8* AddFollowingRuns(const uint8* next, const uint8* end);

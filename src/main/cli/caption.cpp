@@ -5,6 +5,7 @@
 #include <set>
 
 #include "base/number.h"
+#include "base/text.h"
 #include "main/cli/picture_values.h"
 
 namespace kirto {
@@ -100,7 +101,8 @@ std::optional<Caption> ParseCaption(const std::string& value, std::string* reaso
         const CaptionItem* item = content ? ItemNamed(name) : nullptr;
         if (!item) break;
         if (!names.insert(name).second || !item->read(*content, caption)) {
-            *reason = "\"" + whole + "\": expected " + name + "=" + item->expected + ", once.";
+            *reason = Format("\"%s\": expected %s=%s, once.", whole.c_str(), name.c_str(),
+                             item->expected);
             return std::nullopt;
         }
         caption.text.resize(comma);
