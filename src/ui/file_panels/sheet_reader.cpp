@@ -15,7 +15,7 @@ namespace {
 constexpr int kMostSide = 2048;  // of an image that is painted, device pixels
 
 QImage ImageToPaint(const PreviewedSheet& sheet) {
-    const QImage image = ImageOfPicture(sheet.picture);
+    QImage image = ImageOfPicture(sheet.picture);
     if (image.width() <= kMostSide && image.height() <= kMostSide) return image;
     const QSize size = image.size().scaled(kMostSide, kMostSide, Qt::KeepAspectRatio);
     return image.scaled(size.expandedTo({1, 1}), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
