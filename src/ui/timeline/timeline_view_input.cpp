@@ -179,7 +179,7 @@ void TimelineView::keyPressEvent(QKeyEvent* event) {
         default:
             break;
     }
-    QWidget::keyPressEvent(event);
+    event->ignore();  // the scroll area would scroll
 }
 
 }  // namespace kirto
