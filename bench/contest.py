@@ -24,6 +24,8 @@ class Entrant:
     name: str
     command: tuple
     whole: bool = False  # the whole process is timed
+    # False: it never has more than one, so that a run tells its times on any number of cores.
+    threads: bool = True
 
 
 @dataclass(frozen=True)
@@ -84,13 +86,25 @@ class Track:
             figures = json.loads(output.read())
             return Sample(figures["processor"], figures["wall"], figures)
 
-    def contest(self, entrants, cores, rounds):
-        """Lets the entrants run in turns, A B A B and so on."""
-        samples = [[] for _ in entrants]
+    def contest(self, runs, rounds):
+        """Lets entrants, each with its number of cores, run in turns, A B A B and so on."""
+        samples = [[] for _ in runs]
         for _ in range(rounds):
-            for entrant, taken in zip(entrants, samples):
+            for (entrant, cores), taken in zip(runs, samples):
                 taken.append(self.run(entrant, cores))
         return [Result(statistics.median(sample.processor for sample in taken),
                        statistics.median(sample.wall for sample in taken),
                        [sample.figures for sample in taken])
                 for taken in samples]
+
+    def compare(self, ours, peer, all_cores, rounds):
+        """Our result and the peer's, if there is one, by the number of cores."""
+        if peer and not peer.threads and len(all_cores) > 1:
+            runs = [(ours, cores) for cores in all_cores] + [(peer, all_cores[-1])]
+            *results, of_peer = self.contest(runs, rounds)
+            return {cores: (result, of_peer) for cores, result in zip(all_cores, results)}
+        compared = {}
+        for cores in all_cores:
+            runs = [(entrant, cores) for entrant in (ours, peer) if entrant]
+            compared[cores] = (*self.contest(runs, rounds), None)[:2]
+        return compared

@@ -56,5 +56,5 @@ def all_series(files):
 def measure(track, series):
     """The processor time of a unit, in nanoseconds, for each point."""
     return [(point.size,
-             track.contest([point.entrant], 1, point.rounds)[0].processor / point.units * 1e9)
+             track.contest([(point.entrant, 1)], point.rounds)[0].processor / point.units * 1e9)
             for point in series.points]

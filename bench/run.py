@@ -56,19 +56,15 @@ def make_files(files):
 def measure(row, track, files):
     """Compares what comes of a row, then times it on one core and on two. A line, and another one
     where sizes count, too."""
-    entrants = [entrant for entrant in (row.ours, row.peer) if entrant]
-    rounds = row.rounds or files.rounds
-    results = {}
     try:
         note = row.check(track) if row.check else None
-        for cores in row.cores:
-            timed = track.contest(entrants, cores, rounds)
-            results[cores] = (timed[0], timed[1] if row.peer else None)
+        results = track.compare(row.ours, row.peer, row.cores, row.rounds or files.rounds)
     except Failed as failure:
         return [report.Line(each, error=str(failure)) for each in (row, row.sizes) if each]
     lines = [report.Line(row, results, note=note)]
     if row.sizes:
-        sizes = tuple(Path(entrant.command[-1]).stat().st_size for entrant in entrants)
+        sizes = tuple(Path(entrant.command[-1]).stat().st_size
+                      for entrant in (row.ours, row.peer))
         lines.append(report.Line(row.sizes, {1: sizes}))
     return lines
 

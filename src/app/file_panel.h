@@ -31,6 +31,9 @@ class FilePanel {
     virtual void SetDirectory(const std::string&) {}
     // The save panel's field for the file's name.
     virtual void SetSaveText(const std::string&) {}
+    // A name for the user to take or to type over, with the extension of the chosen format in place
+    // of that of another animation. Until the next SetSaveText.
+    virtual void ProposeName(const std::string&) {}
     // Shows the panel, or brings it to the front. Returns at once.
     virtual void Show() {}
 };

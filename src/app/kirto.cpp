@@ -8,6 +8,7 @@
 #include "app/arrangement_commands.h"
 #include "app/command_port.h"
 #include "app/document_edits.h"
+#include "app/fade_preview.h"
 #include "app/frames_exchange.h"
 #include "app/picture_commands.h"
 #include "base/text.h"
@@ -138,19 +139,6 @@ const char* NameOfEdit(uint32 code) {
 bool ApplyFromTables(AnimationDocument& document, const BMessage& message) {
     return std::any_of(std::begin(kEditTables), std::end(kEditTables),
                        [&](const EditTable& table) { return table.apply(document, message); });
-}
-
-kirto::FadeMode FadeModeOf(uint32 code) {
-    switch (code) {
-        case kirto::kFadeToColor:
-            return kirto::FadeMode::kToColor;
-        case kirto::kFadeFromColor:
-            return kirto::FadeMode::kFromColor;
-        case kirto::kFadeToNext:
-            return kirto::FadeMode::kToNext;
-        default:
-            return kirto::FadeMode::kFromPrevious;
-    }
 }
 
 }  // namespace
@@ -345,7 +333,7 @@ void Kirto::Fade(BMessage* message) {
                              static_cast<uint8>(packed_color >> 16),
                              static_cast<uint8>(packed_color >> 8), 255};
     const int32 before = FrameCount();
-    if (!kirto::Fade(*this, FadeModeOf(message->what), count, color, &fade_name_base_)) {
+    if (!kirto::Fade(*this, kirto::FadeModeOf(message->what), count, color, &fade_name_base_)) {
         SayCanceled(before);
     }
 }

@@ -186,6 +186,7 @@ inline constexpr uint32 kMenuSelectNone = FourCharCode("wsno");  // but the curr
 inline constexpr uint32 kMenuInvertSelection = FourCharCode("wsiv");
 inline constexpr uint32 kMenuSelectEvery = FourCharCode("wsev");
 inline constexpr uint32 kMenuSelectRange = FourCharCode("wsrg");
+inline constexpr uint32 kMenuGoToFrame = FourCharCode("wsgt");
 inline constexpr uint32 kMenuSetPause = FourCharCode("wspa");
 inline constexpr uint32 kMenuDropEvery = FourCharCode("wdev");
 inline constexpr uint32 kMenuRemoveDuplicates = FourCharCode("wrdu");
@@ -207,6 +208,8 @@ inline constexpr uint32 kMenuMakeTransparent = FourCharCode("wpmt");
 
 inline constexpr uint32 kShowPlayer = FourCharCode("wvpl");  // or hides it
 inline constexpr uint32 kPlay = FourCharCode("wply");        // or pauses
+inline constexpr uint32 kShowLabels = FourCharCode("wvlb");  // of the thumbnails, or hides them
+inline constexpr uint32 kShowColors = FourCharCode("wvco");  // in a window
 
 // Panels to main window. No fields; the window reads the control that sent the command.
 inline constexpr uint32 kThumbnailMode = FourCharCode("lvtm");
@@ -214,6 +217,7 @@ inline constexpr uint32 kFrameListMode = FourCharCode("lvfm");
 inline constexpr uint32 kThumbnailSlider = FourCharCode("tvsl");
 inline constexpr uint32 kThumbnailCurrentHalf = FourCharCode("tvch");
 inline constexpr uint32 kThumbnailCurrentFull = FourCharCode("tvcf");
+inline constexpr uint32 kThumbnailFit = FourCharCode("tvft");  // as high as all of them fit
 inline constexpr uint32 kFrameListSelection = FourCharCode("flsl");
 
 // Thumbnails to themselves: the button is still held. Point "point": the grab offset.

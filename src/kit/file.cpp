@@ -144,6 +144,13 @@ std::unique_ptr<BFile> BFile::OnMemory(std::vector<uint8> bytes) {
     return file;
 }
 
+std::unique_ptr<BFile> BFile::ThatCounts() {
+    std::unique_ptr<BFile> file(new BFile);
+    file->counts_only_ = true;
+    file->status_ = B_OK;
+    return file;
+}
+
 status_t BFile::OpenTemporary(bool for_owner_only) {
     if (path_.empty()) return B_ENTRY_NOT_FOUND;
     const std::filesystem::path target = for_owner_only ? path_ : ResolveLinks(path_);
@@ -176,6 +183,7 @@ void BFile::RemoveLeftovers() {
 }
 
 int64 BFile::Size() const {
+    if (counts_only_) return size_;
     if (descriptor_ < 0) return static_cast<int64>(buffer_.size());
     if (!buffer_dirty_) return size_;
     return std::max(size_, buffer_start_ + static_cast<int64>(buffer_.size()));
@@ -237,6 +245,11 @@ int64 BFile::Write(const void* buffer, size_t size) {
     if (status_ != B_OK) return status_;
     if (write_status_ == B_OK) write_status_ = PrepareWrite(size);
     if (write_status_ != B_OK) return write_status_;
+    if (counts_only_) {
+        position_ += static_cast<int64>(size);
+        if (size > 0) size_ = std::max(size_, position_);
+        return static_cast<int64>(size);
+    }
     if (size > 0) {
         const size_t offset = static_cast<size_t>(position_ - buffer_start_);
         std::memcpy(buffer_.data() + offset, buffer, size);
@@ -252,8 +265,9 @@ int64 BFile::Write(const void* buffer, size_t size) {
 // Makes the buffer reach from the position over size bytes.
 status_t BFile::PrepareWrite(size_t size) {
     if (descriptor_ >= 0 && !uncommitted_) return B_NOT_ALLOWED;
-    const int64 limit = descriptor_ >= 0 ? kMaxPosition : kMaxMemory;
+    const int64 limit = descriptor_ >= 0 || counts_only_ ? kMaxPosition : kMaxMemory;
     if (position_ > limit || size > static_cast<size_t>(limit - position_)) return B_NO_MEMORY;
+    if (counts_only_) return B_OK;
     const int64 buffer_end = buffer_start_ + static_cast<int64>(buffer_.size());
     const bool continues = position_ >= buffer_start_ && position_ <= buffer_end;
     if (descriptor_ >= 0 && (!continues || !buffer_dirty_)) {

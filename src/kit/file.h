@@ -19,8 +19,8 @@ enum seek_mode : int32 {
 // A file of bytes with one position and a buffer of its own; the file is never mapped, so a file
 // that shrinks while it is read gives short reads, not signals. Used by one thread at a time.
 //
-// Three kinds: a file opened for reading; a file written beside its target, which takes the
-// target's place only when Commit() succeeds; and bytes in memory.
+// Four kinds: a file opened for reading; a file written beside its target, which takes the target's
+// place only when Commit() succeeds; bytes in memory; and a file that only counts them.
 class BFile {
   public:
     // Opens an existing file for reading. Folders and other entries that are not regular files are
@@ -41,6 +41,9 @@ class BFile {
     static std::unique_ptr<BFile> CreatePrivate(const std::string& path);
     // A file over the given bytes, for reading and writing, up to 2 GiB.
     static std::unique_ptr<BFile> OnMemory(std::vector<uint8> bytes = {});
+
+    // A file that keeps nothing of what is written but its size.
+    static std::unique_ptr<BFile> ThatCounts();
 
     // B_OK, or why the file can't be used.
     status_t InitCheck() const { return status_; }
@@ -101,7 +104,8 @@ class BFile {
     status_t status_ = B_NO_INIT;
     status_t write_status_ = B_OK;
     int descriptor_ = -1;  // -1 for memory
-    int64 size_ = 0;       // size of the file behind the descriptor
+    int64 size_ = 0;       // size of the file behind the descriptor, or of what is counted
+    bool counts_only_ = false;
     int64 position_ = 0;
     std::vector<uint8> buffer_;  // memory: the bytes; else a window of the file
     int64 buffer_start_ = 0;     // file offset of the window's first byte

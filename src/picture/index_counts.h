@@ -8,9 +8,10 @@
 
 namespace kirto {
 
-// How often an index occurs.
+// How often an index occurs, and where it does first: so many others are before it.
 struct IndexCount {
     uint32 count = 0;
+    uint32 first = 0;
     uint8 index = 0;
 };
 
@@ -34,17 +35,24 @@ class IndexCounts {
     std::vector<IndexCount> Listed() const;
 
   private:
+    struct Passed;
+
     void AddBlock(std::span<const uint8> block);
-    void ChangeBlock(std::span<const uint8> before, const uint8* after);
+    void ChangeBlock(std::span<const uint8> before, const uint8* after, uint32 place,
+                     Passed& passed);
+    void Pass(const uint8* after, size_t count, uint32 place, Passed& passed);
+    void FindLost(std::span<const uint8> indices);
+    void Sort();
     void Append(std::span<const uint8> indices);
-    void AppendFew(std::span<const uint8> indices);
-    bool AreKnown(const uint8* group) const;
-    void Know(uint8 index);
+    void AppendFew(std::span<const uint8> indices, uint32 place);
+    void Know(uint8 index, uint32 first);
 
     std::array<uint32, 256> counts_{};
-    std::array<uint8, 256> known_{};  // 1: it is in the order
+    std::array<uint32, 256> first_{};  // places; only of those in the order
+    std::array<uint8, 256> known_{};   // 1: it is in the order
     std::array<uint8, 256> order_{};
     size_t order_size_ = 0;
+    uint32 added_ = 0;  // indices
 };
 
 // Whether as many indices are the same in so many places, by a few samples, that Change() takes

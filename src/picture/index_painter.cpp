@@ -64,13 +64,34 @@ int32 IndexOf(uint32 pixel, const PixelTable& table) {
     return place == table.pixels.end() ? -1 : static_cast<int32>(place - table.pixels.begin());
 }
 
-// Writes indices into the table for a row that has none of 4-byte pixels.
-void CopyBelow(const PixelRow& below, size_t width, const PixelTable& table, uint8* target) {
-    if (below.indices) {
-        std::memcpy(target, below.indices, width);
-    } else {
-        std::memset(target, IndexOf(below.solid, table), width);
+// Calls what with each of the picture's strips that has rows from first on, up to end, the first of
+// these in the strip and the number of them. It returns whether to go on.
+template <typename What>
+void ForStrips(const Picture& picture, int32 first, int32 end, const What& what) {
+    for (size_t i = picture.StripAt(first); first < end; ++i) {
+        const Strip& strip = *picture.AllStrips()[i];
+        const int32 skipped = first - picture.FirstRows()[i];
+        const int32 rows = std::min(strip.Rows() - skipped, end - first);
+        if (!what(strip, skipped, rows)) return;
+        first += rows;
     }
+}
+
+// Writes indices into the table for rows that have none of 4-byte pixels.
+void CopyBelow(const Picture& picture, int32 first, int32 end, const PixelTable& table,
+               uint8* target) {
+    const size_t width = static_cast<size_t>(picture.Width());
+    ForStrips(picture, first, end, [&](const Strip& strip, int32 skipped, int32 rows) {
+        const PixelRow below = strip.Row(skipped);
+        const size_t size = width * static_cast<size_t>(rows);
+        if (below.indices) {
+            std::memcpy(target, below.indices, size);
+        } else {
+            std::memset(target, IndexOf(below.solid, table), size);
+        }
+        target += size;
+        return true;
+    });
 }
 
 // Whether the image's indices mean in that table what they mean in its own.
@@ -193,20 +214,23 @@ SharedPixelTable IndexPainter::TableFor(const Picture& base, const IndexImage& i
                                         const Band& band) {
     if (Covers(image, band.first, band.end, base.Width())) return image.table;
     SharedPixelTable table;
-    for (int32 y = band.first; y < band.end; ++y) {
-        const PixelRow row = base.Row(y);
-        if (row.pixels) return nullptr;
-        if (!row.indices || *row.table == table) continue;
-        if (table || !Agree(*row.table, image)) return nullptr;
-        table = *row.table;
-    }
-    for (int32 y = band.first; y < band.end; ++y) {
-        const PixelRow row = base.Row(y);
-        if (row.indices) continue;
-        if (!table) table = WithPixel(image, row.solid);
-        if (!table || IndexOf(row.solid, *table) < 0) return nullptr;
-    }
-    return table;
+    bool possible = true;
+    ForStrips(base, band.first, band.end, [&](const Strip& strip, int32, int32) {
+        const SharedPixelTable& below = strip.Table();
+        if (strip.Pixels() || (below && below != table && (table || !Agree(below, image))))
+            possible = false;
+        if (below) table = below;
+        return possible;
+    });
+    if (!possible) return nullptr;
+    ForStrips(base, band.first, band.end, [&](const Strip& strip, int32, int32) {
+        if (strip.Indices()) return true;
+        const uint32 solid = strip.Row(0).solid;
+        if (!table) table = WithPixel(image, solid);
+        possible = table && IndexOf(solid, *table) >= 0;
+        return possible;
+    });
+    return possible ? table : nullptr;
 }
 
 // The image's table, or one that has the pixel in the place of the index that is skipped; null
@@ -229,7 +253,8 @@ const IndexCounts* IndexPainter::CountsOf(const Picture& base, const IndexImage&
     return &image.counts[static_cast<size_t>(band.first / Strip::RowsFor(base.Width()))];
 }
 
-// The band's indices into the table, where the image has them or in work_.
+// The band's indices into the table, where the image has them or in storage_; none when memory is
+// short.
 std::span<const uint8> IndexPainter::PaintIndices(const Picture& base, const IndexImage& image,
                                                   const Band& band, const PixelTable& table) {
     const size_t width = static_cast<size_t>(base.Width());
@@ -237,11 +262,12 @@ std::span<const uint8> IndexPainter::PaintIndices(const Picture& base, const Ind
     const bool covered = Covers(image, band.first, band.end, base.Width());
     if (covered && image.width == base.Width() && !image.repeats)
         return {PartOf(image, band.first, base.Width()).indices, size};
-    work_.resize(size);
-    uint8* target = work_.data();
+    if (!ProvideStorage(size)) return {};
+    uint8* target = storage_->Bytes();
+    const std::span<const uint8> painted{target, size};
+    if (!covered) CopyBelow(base, band.first, band.end, table, target);
     for (int32 y = band.first; y < band.end; ++y, target += width) {
         const RowPart part = PartOf(image, y, base.Width());
-        if (!covered) CopyBelow(base.Row(y), width, table, target);
         if (image.skipped < 0) {
             std::memcpy(target + part.left, part.indices, part.count);
         } else {
@@ -249,14 +275,20 @@ std::span<const uint8> IndexPainter::PaintIndices(const Picture& base, const Ind
                        target + part.left);
         }
     }
-    return work_;
+    return painted;
+}
+
+bool IndexPainter::ProvideStorage(size_t size) {
+    if (!storage_ || storage_->Size() != size) storage_ = PixelStorage::MakeUnfilled(size, nullptr);
+    return storage_ != nullptr;
 }
 
 // The band of these indices; the base's own strip where it is the same. Null when memory is short.
 std::shared_ptr<const Strip> IndexPainter::MakeStrip(const Picture& base, const Band& band,
                                                      const SharedPixelTable& table,
                                                      std::span<const uint8> indices,
-                                                     const IndexCounts* counts) const {
+                                                     const IndexCounts* counts) {
+    if (indices.empty()) return nullptr;
     const int32 rows = band.end - band.first;
     if (std::memcmp(indices.data(), indices.data() + 1, indices.size() - 1) == 0)
         return Strip::Solid(table->pixels[indices[0]], base.Width(), rows);
@@ -265,11 +297,19 @@ std::shared_ptr<const Strip> IndexPainter::MakeStrip(const Picture& base, const 
     const bool similar =
         base.FirstRows()[place] == band.first && below->Rows() == rows && below->Table() == table;
     if (similar && std::memcmp(below->Indices(), indices.data(), indices.size()) == 0) return below;
-    const std::shared_ptr<PixelStorage> storage =
-        PixelStorage::MakeUnfilled(indices.size(), budget_);
+    std::shared_ptr<PixelStorage> storage = TakeStorage(indices);
     if (!storage) return nullptr;
-    std::memcpy(storage->Bytes(), indices.data(), indices.size());
-    return Strip::Indexed(storage, table, base.Width(), rows, counts, similar ? below : nullptr);
+    return Strip::Indexed(std::move(storage), table, base.Width(), rows, counts,
+                          similar ? below : nullptr);
+}
+
+// The indices in storage of their own; null when memory is short.
+std::shared_ptr<PixelStorage> IndexPainter::TakeStorage(std::span<const uint8> indices) {
+    if (storage_ && storage_->Bytes() == indices.data())
+        return storage_->LetCount(budget_) ? std::move(storage_) : nullptr;
+    std::shared_ptr<PixelStorage> storage = PixelStorage::MakeUnfilled(indices.size(), budget_);
+    if (storage) std::memcpy(storage->Bytes(), indices.data(), indices.size());
+    return storage;
 }
 
 // The band where there is no such table: pixel by pixel.

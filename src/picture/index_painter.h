@@ -70,14 +70,17 @@ class IndexPainter {
     std::shared_ptr<const Strip> MakeStrip(const Picture& base, const Band& band,
                                            const SharedPixelTable& table,
                                            std::span<const uint8> indices,
-                                           const IndexCounts* counts) const;
+                                           const IndexCounts* counts);
+    std::shared_ptr<PixelStorage> TakeStorage(std::span<const uint8> indices);
+    bool ProvideStorage(size_t size);
     bool AddPixels(const Picture& base, const IndexImage& image, const Band& band,
                    PictureBuilder& builder);
 
     const std::shared_ptr<PixelBudget> budget_;
     // The last image's table with a pixel of the base in the place of the index that is skipped.
     SharedPixelTable extended_;
-    std::vector<uint8> work_;  // a band's indices or a row's pixels
+    std::shared_ptr<PixelStorage> storage_;  // of a band's indices; a strip may take it
+    std::vector<uint8> work_;                // a row's pixels
 };
 
 }  // namespace kirto

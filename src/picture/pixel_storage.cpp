@@ -34,4 +34,10 @@ PixelStorage::~PixelStorage() {
     if (budget_) budget_->Release(size_);
 }
 
+bool PixelStorage::LetCount(std::shared_ptr<PixelBudget> budget) {
+    if (budget && !budget->Reserve(size_)) return false;
+    budget_ = std::move(budget);
+    return true;
+}
+
 }  // namespace kirto

@@ -18,9 +18,12 @@ class PixelStorage {
     static std::shared_ptr<PixelStorage> MakeUnfilled(size_t bytes,
                                                       std::shared_ptr<PixelBudget> budget);
     ~PixelStorage();
+    // Has the budget, if any, count what none counts yet. False when it refuses.
+    bool LetCount(std::shared_ptr<PixelBudget> budget);
     PixelStorage(const PixelStorage&) = delete;
     PixelStorage& operator=(const PixelStorage&) = delete;
 
+    size_t Size() const { return size_; }
     uint8* Bytes() { return bytes_.get(); }
     const uint8* Bytes() const { return bytes_.get(); }
 
@@ -33,7 +36,7 @@ class PixelStorage {
 
     const AllocatedArray<uint8> bytes_;
     const size_t size_;
-    const std::shared_ptr<PixelBudget> budget_;
+    std::shared_ptr<PixelBudget> budget_;
 };
 
 }  // namespace kirto

@@ -1,24 +1,15 @@
 #include "resources/resource_file_path.h"
 
-#include <filesystem>
+#include "base/program_files.h"
 
 namespace kirto {
 
-namespace fs = std::filesystem;
-
 std::string ResourceFilePath() {
-    std::error_code error;
-    const fs::path program = fs::read_symlink("/proc/self/exe", error);
-    return ResourceFilePath(error ? std::string(".") : program.parent_path().string());
+    return ResourceFilePath(ProgramFolder().value_or("."));
 }
 
 std::string ResourceFilePath(const std::string& program_folder) {
-    const fs::path folder = program_folder;
-    const fs::path beside = folder / "kirto.rsrc";
-    const fs::path installed = folder / ".." / "share" / "kirto" / "kirto.rsrc";
-    std::error_code error;
-    const bool is_installed = !fs::exists(beside, error) && fs::exists(installed, error);
-    return (is_installed ? installed : beside).string();
+    return ProgramFile(program_folder, "kirto.rsrc", KIRTO_DATA_FOLDER);
 }
 
 }  // namespace kirto

@@ -56,6 +56,7 @@ TEST(KirtoCli, NamesEveryOptionInItsHelp) {
                              "--overlay FILE[@X,Y[:N%]]",
                              "--text TEXT[,NAME=VALUE...]",
                              "--make-transparent RRGGBB[:TOLERANCE]",
+                             "--save-frame FILE.EXT",
                              "--save-sheet FILE.png[,columns=N][,padding=N][,pot]",
                              "--pause X|off",
                              "--palette web-safe|system|greyscale|first-frame|current-frame|FILE",
@@ -66,6 +67,9 @@ TEST(KirtoCli, NamesEveryOptionInItsHelp) {
                              "--frame-pause X|off",
                              "--frame-palette off|web-safe|system|greyscale|optimal|FILE",
                              "--salvage",
+                             "--if-newer",
+                             "--json-errors",
+                             "--retry-status N",
                              "--verify",
                              "--save FILE.gif",
                              "--info",
@@ -133,7 +137,7 @@ TEST(KirtoCli, AcceptsValuesThatLookLikeOptions) {
 TEST(KirtoCli, TakesFileNamesAsTheyAre) {
     const CliHome home;
     for (const char* name : {"[1,2].gif", "[1,2]", "{}", "a=b.gif", "a b.gif", "%%", "\"q\".gif",
-                             "'q'.gif", "a,b.gif", "\xFF.gif", "-"}) {
+                             "'q'.gif", "a,b.gif", "\xFF.gif", "./-"}) {
         home.Write(name, ThreeFrameGif());
         EXPECT_EQ(home.Info({"--open", name})["frame_count"], 3) << name;
     }

@@ -87,7 +87,8 @@ struct Samples : Shell {
     }
 };
 
-// Runs the line beside its files, and looks for what it is to write.
+// Runs the line beside its files, and looks for what it is to write, where that has a name of its
+// own and is no stream.
 void Try(const std::string& line) {
     static const Samples samples;
     const Shell shell;
@@ -100,7 +101,7 @@ void Try(const std::string& line) {
     const RunResult result = shell.Type(line);
 
     EXPECT_EQ(result.status, 0) << line << '\n' << result.err;
-    static const std::regex kSaved("--save(-sheet)? ([^ ,|]+)");
+    static const std::regex kSaved("--save(-sheet)? ([^- ,|{][^ ,|{]*)(?=[ ,|]|$)");
     for (std::sregex_iterator match(line.begin(), line.end(), kSaved), end; match != end; ++match) {
         const std::string path = shell.File((*match)[2]);
         EXPECT_TRUE(fs::exists(path) && fs::last_write_time(path) > long_ago) << line;

@@ -142,4 +142,34 @@ TEST(KirtoCliImages, FailsOnPicturesThatTheFormatCanNotHold) {
     EXPECT_FALSE(std::filesystem::exists(home.File("out0000.webp")));
 }
 
+TEST(KirtoCliImages, SavesTheCurrentFrameAloneUnderTheNameThatIsGiven) {
+    const SequenceHome home;
+    home.Write("small.ppm", Ppm(1, 1, {0x102030}));
+    home.Succeed({"--insert", "small.ppm", "--insert", "square.ppm", "--select", "1",
+                  "--save-frame", "one.png"});
+
+    EXPECT_EQ(home.Frames({"--insert", "one.png"}), home.Frames({"--insert", "square.ppm"}));
+    EXPECT_FALSE(std::filesystem::exists(home.File("one0000.png")));
+}
+
+TEST(KirtoCliImages, SavesAFrameWithoutAnExtensionInTheFormatThatIsNamed) {
+    const SequenceHome home;
+    home.Succeed({"--insert", "square.ppm", "--format", "PNG", "--save-frame", "thumbnail"});
+
+    const std::vector<uint8> bytes = ReadBytes(home.File("thumbnail"));
+    ASSERT_GE(bytes.size(), 4u);
+    EXPECT_EQ(std::string(bytes.begin() + 1, bytes.begin() + 4), "PNG");
+}
+
+TEST(KirtoCliImages, SavesNoFrameThatThereIsNot) {
+    const SequenceHome home;
+    home.Fail({"--save-frame", "none.png"}, "There is no current frame.", 1);
+    home.Fail({"--insert", "square.ppm", "--save-frame", "none"},
+              "--save-frame: There is no format \"\" to write; --list-formats names them.", 2);
+    home.Fail({"--insert", "square.ppm", "--save-frame", "nowhere/one.png"},
+              "nowhere/one.png: The animation can't be saved because the file could not be created "
+              "at this location.",
+              1);
+}
+
 }  // namespace kirto::test

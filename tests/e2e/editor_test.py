@@ -96,10 +96,12 @@ class Editor:
         wait_until(lambda: self.field(name, root) == value, f"{value!r} in the field {name!r}")
 
     def seen(self):
-        """All that the main window shows, line by line, but for the menus, the status line and what
-        has the keyboard. It tells two states of a document apart."""
+        """All that the main window shows, line by line, but for the menus and the buttons that
+        follow them, the status line with the memory taken, which steps that can be made again take
+        as well, and what has the keyboard. It tells two states of a document apart."""
+        aside = ("label 'Status: ", "(tool bar)", " in memory")
         return [line for line in accessibility.contents(self.main_window())
-                if not line.startswith("label 'Status: ")]
+                if not any(part in line for part in aside)]
 
     def wait_for_seen(self, lines, what):
         """Waits until the main window shows what was seen earlier."""

@@ -671,6 +671,27 @@ TEST(BFile, OnMemoryFillsAGapWithZeros) {
     EXPECT_EQ(file->Memory(), (std::vector<uint8>{0, 0, 0, 'b'}));
 }
 
+TEST(BFile, ThatCountsKnowsTheSizeOfWhatIsWrittenAndKeepsNothing) {
+    const auto file = BFile::ThatCounts();
+    const std::vector<uint8> bytes(1000);
+
+    EXPECT_EQ(file->InitCheck(), B_OK);
+    EXPECT_EQ(file->Write(bytes.data(), bytes.size()), 1000);
+    EXPECT_EQ(file->Write(bytes.data(), 0), 0);
+    EXPECT_EQ(file->Write(bytes.data(), 1), 1);
+    EXPECT_EQ(file->Size(), 1001);
+    EXPECT_EQ(file->Position(), 1001);
+    EXPECT_TRUE(file->Memory().empty());
+
+    file->Seek(5, SEEK_FROM_START);
+    EXPECT_EQ(file->Write(bytes.data(), 10), 10);
+    EXPECT_EQ(file->Size(), 1001);
+    uint8 byte = 0;
+    EXPECT_EQ(file->Read(&byte, 1), 0);
+    EXPECT_EQ(file->WriteStatus(), B_OK);
+    EXPECT_EQ(file->Commit(), B_NOT_ALLOWED);
+}
+
 TEST(BFile, OnMemoryGrowsToTwoGiBOnly) {
     const auto file = BFile::OnMemory(BytesOf("abc"));
     file->Seek(int64{1} << 31, SEEK_FROM_START);

@@ -24,6 +24,8 @@ struct PlainCounts {
 void ExpectPlain(const IndexCounts& counts, const std::vector<uint8>& indices) {
     const PlainCounts plain(indices);
     EXPECT_TRUE(std::ranges::equal(counts.InOrder(), plain.order));
+    for (const IndexCount& each : counts.Listed())
+        ASSERT_EQ(each.first, std::ranges::find(indices, each.index) - indices.begin());
     for (size_t index = 0; index < 256; ++index)
         ASSERT_EQ(counts.Of(static_cast<uint8>(index)), plain.counts[index]);
 }
@@ -91,12 +93,37 @@ TEST(IndexCounts, FollowChangesOfTheIndices) {
     }
 }
 
+TEST(IndexCounts, FollowOneChangeAfterTheOther) {
+    std::mt19937 random(13);
+    for (const uint32 colors : {2U, 40U, 256U}) {
+        std::vector<uint8> before(20000);
+        IndexCounts counts;
+        counts.Add(before);
+        for (int32 change = 0; change < 200; ++change) {
+            std::vector<uint8> after = before;
+            const size_t first = random() % after.size();
+            const size_t size = std::min<size_t>(random() % 3000, after.size() - first);
+            for (size_t i = first; i < first + size; i += 1 + random() % 9)
+                after[i] = static_cast<uint8>(random() % colors);
+            counts = IndexCounts(counts.Listed());
+            counts.Change(before, after);
+
+            ExpectPlain(counts, after);
+            before = std::move(after);
+        }
+    }
+}
+
 TEST(IndexCounts, AreWhatWasListed) {
     const std::vector<uint8> indices = {4, 4, 2, 9, 2};
     IndexCounts counts;
     counts.Add(indices);
 
     ExpectPlain(IndexCounts(counts.Listed()), indices);
+
+    IndexCounts more(counts.Listed());
+    more.Add(std::vector<uint8>{9, 1});
+    ExpectPlain(more, {4, 4, 2, 9, 2, 9, 1});
 }
 
 TEST(AreMostlySame, TellsIndicesThatDifferLittle) {

@@ -16,6 +16,8 @@ bool IsPercentage(int32 number) {
 }
 
 uint8 Rounded(float component) {
+    // Nothing is negative here, and a call a component would take longer than all else.
+    // NOLINTNEXTLINE(bugprone-incorrect-roundings)
     return static_cast<uint8>(std::clamp(component, 0.0f, 255.0f) + 0.5f);
 }
 
@@ -42,7 +44,7 @@ AdjustmentMap::AdjustmentMap(const ColorAdjustment& adjustment)
         const double bright =
             Brightened(static_cast<double>(i) / 255, adjustment.brightness / 100.0);
         const double stretched = (bright - 0.5) * slope + 0.5;
-        components_[i] = static_cast<uint8>(std::clamp(stretched, 0.0, 1.0) * 255 + 0.5);
+        components_[i] = static_cast<uint8>(std::lround(std::clamp(stretched, 0.0, 1.0) * 255));
     }
 }
 

@@ -38,6 +38,8 @@ const LightTables& Tables() {
 }
 
 size_t StepOf(float light) {
+    // Nothing is negative here, and a call a component would take longer than all else.
+    // NOLINTNEXTLINE(bugprone-incorrect-roundings)
     return static_cast<size_t>(std::clamp(light, 0.0f, 1.0f) * (kSteps - 1) + 0.5f);
 }
 
@@ -67,6 +69,7 @@ void ToLight(const uint8* pixels, int32 count, bool big_endian, float* target) {
 void FromLight(const float* source, int32 count, uint8* target) {
     const std::array<uint8, kSteps>& components = Tables().components;
     for (int32 i = 0; i < count; ++i, source += 4, target += 4) {
+        // As in StepOf. NOLINTNEXTLINE(bugprone-incorrect-roundings)
         target[3] = static_cast<uint8>(std::clamp(source[3], 0.0f, 1.0f) * 255 + 0.5f);
         if (target[3] == 0) {
             std::memset(target, 0, 4);

@@ -87,6 +87,7 @@ std::shared_ptr<const Picture> Nearest(const Picture& picture, const ScalePlan& 
                                        const Work& work) {
     const int32 width = plan.across.target;
     std::vector<size_t> sources;  // a byte of the row
+    sources.reserve(static_cast<size_t>(width));
     for (int32 x = 0; x < width; ++x)
         sources.push_back(static_cast<size_t>(NearestSource(plan.across, x)) * 4);
     PictureBuilder builder(width, plan.down.target, picture.ColorSpace(), budget);

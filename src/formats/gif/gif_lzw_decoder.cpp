@@ -65,7 +65,9 @@ inline GifLzwDecoder::String GifLzwDecoder::Extended(String string, uint32 code,
     return length < kLong ? string + kOneLonger : string;
 }
 
-void GifLzwDecoder::ExtendLong(String string, uint32 code, uint8 suffix, uint32 extended_code) {
+// Never inlined, as below: the loops over codes need their registers for short strings.
+[[gnu::noinline]] void GifLzwDecoder::ExtendLong(String string, uint32 code, uint8 suffix,
+                                                 uint32 extended_code) {
     LongString& extended = long_strings_[extended_code];
     if (LengthOf(string) < kLong) {
         extended = {string << 8 >> 8 | uint64{suffix} << 56, 0, kLong};
@@ -91,7 +93,7 @@ inline uint8* GifLzwDecoder::Expand(const Growth& growth, uint8* target) const {
     return target + length;
 }
 
-uint8* GifLzwDecoder::ExpandLong(uint32 code, uint8* target) const {
+[[gnu::noinline]] uint8* GifLzwDecoder::ExpandLong(uint32 code, uint8* target) const {
     const LongString* string = &long_strings_[code];
     const uint32 length = string->length;
     uint8* position = target + size_t{(length - 1) / kChunk} * kChunk;

@@ -164,8 +164,9 @@ bool GifParser::ReadImage(GifImage* image) {
     ReadColorTable(header[8], &image->table);
     image->min_code_size = 0;
     input_.Read(&image->min_code_size, 1);
-    data_.Read(input_, max_data_, rules_ == GifRules::kBrowsers);
-    image->data = data_;
+    image->data.bytes.reserve(expected_data_);
+    image->data.Read(input_, max_data_, rules_ == GifRules::kBrowsers);
+    expected_data_ = image->data.bytes.size() + image->data.bytes.size() / 8;
     return true;
 }
 

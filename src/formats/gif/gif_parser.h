@@ -86,7 +86,7 @@ class GifParser {
     WatchedInput& input_;
     const uint64 max_data_;
     const GifRules rules_;
-    GifImageData data_;  // of the last image, kept for its room
+    size_t expected_data_ = 0;  // bytes that the next image probably has, at most
 };
 
 }  // namespace kirto

@@ -1,102 +1,28 @@
 #include "main/cli/cli_arguments.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <map>
+#include <set>
+#include <string_view>
 #include <unistd.h>
 
 #include "base/terminal_text.h"
 #include "base/thread_count.h"
+#include "main/cli/cli_options.h"
+#include "main/cli/error_lines.h"
+#include "main/cli/standard_streams.h"
+#include "main/cli/up_to_date.h"
 
 namespace kirto {
 
 namespace {
 
-struct OptionText {
-    const char* name;
-    const char* value;  // what the value stands for, in brackets where it may be left out; null for
-                        // an option without one
-    const char* help;
-};
+constexpr int kLargestStatus = 125;  // above it, shells have meanings of their own
 
-constexpr OptionText kOperations[] = {
-    {"--set", "KEY=VALUE", "Change a setting for the rest of this run"},
-    {"--faithful", nullptr, "From here on, read and save animations as browsers do"},
-    {"--open", "FILE", "Open a GIF, FLI or FLC animation in place of the current one"},
-    {"--insert-animation", "FILE@N", "Insert an animation's frames before frame N"},
-    {"--insert", "FILE[@N]", "Insert an image as frame N, or after the current frame"},
-    {"--insert-tiled", "FILE,ROWS,COLUMNS[,by-column]",
-     "Cut an image into frames; [,margin=N] around and [,spacing=N] between them, [,skip-empty] "
-     "without those that are transparent; FILE,tile=WxH by their size, FILE.json as it says"},
-    {"--fade", "MODE:COUNT[:RRGGBB]",
-     "Fade the current frame: to-color, from-color, to-next or from-previous"},
-    {"--select", "FRAMES",
-     "Select frames: 3, 0-9, 0-20/2, 0,4,7, -1 or all (the first is 0, the last -1)"},
-    {"--remove", nullptr, "Remove the selected frames"},
-    {"--move-up", nullptr, "Move the selected frames one place toward the start"},
-    {"--move-down", nullptr, "Move the selected frames one place toward the end"},
-    {"--reverse", nullptr, "Reverse the order of all frames, or of several that are selected"},
-    {"--move-to", "N", "Move the selected frames before frame N"},
-    {"--copy-to", "N", "Copy the selected frames before frame N"},
-    {"--duplicate", nullptr, "Copy the selected frames behind the last of them"},
-    {"--ping-pong", nullptr, "Play forward and back again*"},
-    {"--shift-start", nullptr, "Begin with the current frame"},
-    {"--every", "N", "Drop every N-th frame and keep the duration*"},
-    {"--remove-duplicates", "[TOLERANCE]",
-     "Merge frames that show the same, or channels no more than 0 to 255 apart*"},
-    {"--delay", "[FRAMES:]PAUSE", "Set the pause: 4, 40ms, 25fps or 150%*"},
-    {"--fps", "X", "Show so many frames a second*"},
-    {"--speed", "X%", "Play so much faster or slower*"},
-    {"--width", "N", "Set the animation's width in pixels"},
-    {"--height", "N", "Set the animation's height in pixels"},
-    {"--loop", "N|off", "Play N times (0 = forever, off = play once)"},
-    {"--pause", "X|off", "Set the pause of frames that have none of their own"},
-    {"--palette", "web-safe|system|greyscale|first-frame|current-frame|FILE",
-     "Choose the animation's palette"},
-    {"--dither", "on|off", "Approximate missing colors by dithering"},
-    {"--transparent", "N|off", "Set the palette index of the transparent color"},
-    {"--background", "N", "Set the palette index of the background color"},
-    {"--frame-offset", "X,Y", "Set the current frame's offset in pixels"},
-    {"--frame-pause", "X|off", "Give the current frame its own pause"},
-    {"--frame-palette", "off|web-safe|system|greyscale|optimal|FILE",
-     "Give the current frame its own palette"},
-    {"--resize", "WxH|Wx|xH|N%[:FILTER]",
-     "Scale the animation: nearest, bilinear or lanczos (the rule)"},
-    {"--crop", "WxH+X+Y|transparent|changes",
-     "Cut the animation to a rectangle, to what is not transparent, or to what changes"},
-    {"--canvas", "WxH[:ANCHOR]",
-     "Change the canvas around the animation: top-left, top, top-right, left, center (the rule), "
-     "right, bottom-left, bottom or bottom-right"},
-    {"--rotate", "90|180|270", "Turn the animation clockwise"},
-    {"--flip", "h|v", "Mirror the animation"},
-    {"--fit", "scale|pad|crop", "Make the selected frames fit the canvas"},
-    {"--adjust", "NAME=N[,...]",
-     "Change the selected frames' brightness, contrast or saturation by -100 to 100"},
-    {"--greyscale", nullptr, "Make the selected frames grey"},
-    {"--opacity", "N%", "Make the selected frames translucent"},
-    {"--overlay", "FILE[@X,Y[:N%]]", "Draw an image over the selected frames"},
-    {"--text", "TEXT[,NAME=VALUE...]",
-     "Draw a text on the selected frames: [,font=NAME] [,size=N] [,color=RRGGBB] "
-     "[,outline=N:RRGGBB] [,at=ANCHOR] or [,x=N] [,y=N], [,fade-in=N] [,fade-out=N] in frames"},
-    {"--make-transparent", "RRGGBB[:TOLERANCE]",
-     "Make a color, and those near it, transparent in the selected frames"},
-    {"--undo", "[N]", "Undo the last change, or the last N"},
-    {"--redo", "[N]", "Redo the last undone change, or the last N"},
-    {"--save", "FILE.gif", "Save as an animated GIF"},
-    {"--save-sequence", "NAME.EXT", "Save each frame as an image NAME0000.EXT, NAME0001.EXT, ..."},
-    {"--save-sheet", "FILE.png[,columns=N][,padding=N][,pot]",
-     "Save frames side by side in one image, and FILE.json, which says where they are*"},
-    {"--list-formats", nullptr, "List the image formats that can be read and written"},
-    {"--preview", nullptr, "Show the animation in the web browser"},
-    {"--info", nullptr, "Describe the animation"},
-    {"--info-json", nullptr, "Describe the animation as one JSON object"},
-};
-
-constexpr const char* kFooter =
-    "\nOptions are carried out in the order given, on one animation. Pauses are in hundredths of "
-    "a\n"
-    "second, or in seconds after --set global_pauseinseconds=true.\n"
-    "* Of the selected frames, or of all where only one is selected.\n"
-    "Exit status: 0 success, 1 failure, 2 wrong usage.\n";
+std::string HelpOf(const std::string& name) {
+    return HelpIn(CliSettings(), name);
+}
 
 std::vector<CliOperation> InOrder(const CLI::App& app) {
     std::vector<CliOperation> operations;
@@ -117,16 +43,69 @@ std::string UsageError(const CLI::App*, const CLI::Error& error) {
     return (terminal ? TerminalText(text) : text) + "\nRun with --help for more information.\n";
 }
 
+void SayUsage(const std::string& reason, bool json) {
+    if (json) {
+        std::cerr << ErrorLine("", reason) << StatusLine(kExitUsage, false);
+    } else {
+        std::cerr << "kirto-cli: " << reason << '\n';
+    }
+}
+
+// Help and the version were asked for, or the usage is wrong.
+int EndOfParse(const CLI::App& app, const CLI::ParseError& error, int argc,
+               const char* const* argv) {
+    const bool usage = error.get_exit_code() != 0;
+    const bool json = std::any_of(argv + 1, argv + argc, [](std::string_view argument) {
+        return argument == "--json-errors";
+    });
+    if (usage && json) {
+        SayUsage(error.what(), true);
+        return kExitUsage;
+    }
+    app.exit(error);
+    return usage ? kExitUsage : kExitDone;
+}
+
+// Whether an animation goes to standard output and something else would get in its way there.
+bool MixesStandardOutput(const CliArguments& arguments) {
+    static const std::set<std::string> kPrinters = {"--info", "--info-json", "--list-formats"};
+    int animations = 0;
+    int texts = arguments.verify ? 1 : 0;
+    for (const CliOperation& operation : arguments.operations) {
+        if (operation.option == "--save" && IsStandardStream(operation.value)) ++animations;
+        if (kPrinters.contains(operation.option)) ++texts;
+    }
+    return animations > 1 || (animations == 1 && texts > 0);
+}
+
+std::optional<int> EndBeforeOperations(const CLI::App& app, const CliArguments& arguments) {
+    if (arguments.operations.empty()) {
+        if (arguments.json_errors) {
+            SayUsage("There is nothing to do.", true);
+        } else {
+            std::cerr << app.help();
+        }
+        return kExitUsage;
+    }
+    if (MixesStandardOutput(arguments)) {
+        SayUsage("--save - needs standard output for itself.", arguments.json_errors);
+        return kExitUsage;
+    }
+    if (arguments.if_newer && IsUpToDate(arguments.operations)) return kExitDone;
+    return std::nullopt;
+}
+
 }  // namespace
 
 std::optional<int> ParseArguments(int argc, const char* const* argv, CliArguments* arguments) {
-    CLI::App app("Edits frame animations from the command line.", "kirto-cli");
-    app.footer(kFooter);
+    CLI::App app(kCliPurpose, "kirto-cli");
+    app.footer("\n" + std::string(kCliOrder) +
+               "Exit status: 0 success, 1 failure, 2 wrong usage.\n");
     app.failure_message(UsageError);
-    app.set_version_flag("--version", "kirto-cli " KIRTO_VERSION, "Print the version");
-    app.set_help_flag("--help", "Print this help");
+    app.set_version_flag("--version", "kirto-cli " KIRTO_VERSION, HelpOf("--version"));
+    app.set_help_flag("--help", HelpOf("--help"));
     app.get_formatter()->column_width(36);
-    for (const OptionText& text : kOperations) {
+    for (const OptionText& text : CliOperations()) {
         if (text.value) {
             app.add_option(text.name, text.help)
                 ->type_name(text.value)
@@ -138,34 +117,31 @@ std::optional<int> ParseArguments(int argc, const char* const* argv, CliArgument
             app.add_flag(text.name)->description(text.help)->group("Operations");
         }
     }
-    app.add_flag("--salvage", arguments->salvage,
-                 "Keep the frames before the damage when an animation is damaged");
-    app.add_flag("--verify", arguments->verify,
-                 "After each --save, tell how browsers will show the animation otherwise");
-    app.add_flag("--quiet", arguments->quiet, "Show no progress and no debug lines");
-    app.add_option("--format", arguments->format,
-                   "Write image sequences in this format, whatever their extension")
-        ->type_name("NAME");
+    app.add_flag("--salvage", arguments->salvage, HelpOf("--salvage"));
+    app.add_flag("--verify", arguments->verify, HelpOf("--verify"));
+    app.add_flag("--if-newer", arguments->if_newer, HelpOf("--if-newer"));
+    app.add_flag("--json-errors", arguments->json_errors, HelpOf("--json-errors"));
+    app.add_option("--retry-status", arguments->retry_status, HelpOf("--retry-status"))
+        ->type_name("N")
+        ->check(CLI::Range(1, kLargestStatus));
+    app.add_flag("--quiet", arguments->quiet, HelpOf("--quiet"));
+    app.add_option("--format", arguments->format, HelpOf("--format"))->type_name("NAME");
     uint64 mebibytes = 0;
-    const CLI::Option* limit =
-        app.add_option("--memory-limit", mebibytes, "Limit the memory of the frames")
-            ->type_name("MIB")
-            ->check(CLI::Range(uint64{1}, uint64{1} << 30));
-    app.add_option("--threads", arguments->threads, "Work with so many threads at a time")
+    const CLI::Option* limit = app.add_option("--memory-limit", mebibytes, HelpOf("--memory-limit"))
+                                   ->type_name("MIB")
+                                   ->check(CLI::Range(uint64{1}, uint64{1} << 30));
+    app.add_option("--threads", arguments->threads, HelpOf("--threads"))
         ->type_name("N")
         ->check(CLI::Range(1, kMostThreads));
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
-        return app.exit(error) == 0 ? kExitDone : kExitUsage;
+        return EndOfParse(app, error, argc, argv);
     }
     arguments->operations = InOrder(app);
+    arguments->quiet = arguments->quiet || arguments->json_errors;
     if (limit->count() > 0) arguments->memory_limit = mebibytes << 20;
-    if (arguments->operations.empty()) {
-        std::cerr << app.help();
-        return kExitUsage;
-    }
-    return std::nullopt;
+    return EndBeforeOperations(app, *arguments);
 }
 
 }  // namespace kirto

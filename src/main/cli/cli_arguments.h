@@ -25,10 +25,13 @@ struct CliArguments {
     std::vector<CliOperation> operations;
     bool salvage = false;
     bool quiet = false;
+    bool if_newer = false;               // than what was saved before
+    bool json_errors = false;            // on standard error
+    int retry_status = kExitFailed;      // where another try may succeed
     bool verify = false;                 // animations that were saved
     std::optional<uint64> memory_limit;  // bytes
     std::optional<int32> threads;        // 1 to kMostThreads
-    std::string format;                  // of image sequences; empty: by their extension
+    std::string format;                  // of frames as images; empty: by their extension
 };
 
 // Reads the command line. An exit status means that the program ends with it at once: help or the

@@ -21,6 +21,7 @@ void StopOnInterrupt(int) {
 }
 
 int RunSession(CliArguments arguments, BTranslatorRoster& roster, CaptionDrawer draw_caption) {
+    const int retry_status = arguments.retry_status;
     CliSession session(std::move(arguments), roster, std::move(draw_caption));
     g_session = &session;
     struct sigaction action = {};
@@ -34,6 +35,7 @@ int RunSession(CliArguments arguments, BTranslatorRoster& roster, CaptionDrawer 
         status = session.Run();
     } catch (const std::bad_alloc&) {
         std::fputs("kirto-cli: Out of memory.\n", stderr);
+        status = retry_status;
     }
     g_session = nullptr;
     return status;

@@ -1,9 +1,11 @@
 #include "main/cli/cli_session.h"
 
+#include <cstdio>
 #include <map>
 
 #include "base/thread_count.h"
 #include "kit/alert.h"
+#include "main/cli/error_lines.h"
 
 namespace kirto {
 
@@ -21,7 +23,7 @@ CliSession::CliSession(CliArguments arguments, BTranslatorRoster& roster,
     : arguments_(std::move(arguments)),
       roster_(roster),
       draw_caption_(std::move(draw_caption)),
-      desktop_(arguments_.salvage, arguments_.quiet),
+      desktop_(arguments_.salvage, arguments_.quiet, arguments_.json_errors),
       previous_presenter_(InstallAlertPresenter(&desktop_)) {}
 
 CliSession::~CliSession() {
@@ -41,10 +43,20 @@ int CliSession::Run() {
         Outcome outcome = (this->*HandlerFor(operation.option))(operation.value);
         desktop_.ClearProgress();
         if (stopped_) outcome = Fail("Stopped.");
-        if (outcome == Outcome::kFailed) return kExitFailed;
-        if (outcome == Outcome::kUsage) return kExitUsage;
+        if (outcome == Outcome::kFailed) return EndFailed();
+        if (outcome == Outcome::kUsage) return End(kExitUsage, false);
     }
-    return differs_ ? kExitFailed : kExitDone;
+    return differs_ ? End(kExitFailed, false) : kExitDone;
+}
+
+int CliSession::EndFailed() {
+    const bool temporary = stopped_ || desktop_.LacksMemory() || write_failed_;
+    return End(temporary ? arguments_.retry_status : kExitFailed, temporary);
+}
+
+int CliSession::End(int status, bool temporary) const {
+    if (arguments_.json_errors) std::fputs(StatusLine(status, temporary).c_str(), stderr);
+    return status;
 }
 
 void CliSession::RequestStop() {
@@ -122,6 +134,7 @@ CliSession::Handler CliSession::HandlerFor(const std::string& option) {
         {"--redo", &CliSession::Redo},
         {"--save", &CliSession::Save},
         {"--save-sequence", &CliSession::SaveSequence},
+        {"--save-frame", &CliSession::SaveFrame},
         {"--save-sheet", &CliSession::SaveSheet},
         {"--list-formats", &CliSession::ListFormats},
         {"--preview", &CliSession::Preview},

@@ -13,6 +13,7 @@
 #include "main/cli/caption.h"
 #include "main/cli/cli_arguments.h"
 #include "main/cli/headless_desktop.h"
+#include "main/cli/standard_streams.h"
 #include "settings/prefs.h"
 
 namespace kirto {
@@ -38,6 +39,10 @@ class CliSession {
 
     static Handler HandlerFor(const std::string& option);
     void StartApplication();
+    // The exit status of a run whose last operation has failed.
+    int EndFailed();
+    // Tells programs that listen how the run ends, and returns the status.
+    int End(int status, bool temporary) const;
 
     // Operations on files (cli_session_files.cpp).
     Outcome Open(const std::string& value);
@@ -45,6 +50,7 @@ class CliSession {
     Outcome InsertImages(const std::string& value);
     Outcome Save(const std::string& value);
     Outcome SaveSequence(const std::string& value);
+    Outcome SaveFrame(const std::string& value);
     Outcome ListFormats(const std::string& value);
     Outcome Preview(const std::string& value);
 
@@ -103,6 +109,12 @@ class CliSession {
     Outcome DrawText(const std::string& value);
     Outcome MakeTransparent(const std::string& value);
 
+    // The file that the path stands for: all of standard input for "-". Empty, with the reason
+    // told, where that can't be had.
+    std::string InputFile(const std::string& path);
+    Outcome SaveToStandardOutput();
+    // The document as it is described: what came from standard input is named "-".
+    DocumentState DescribedState() const;
     static entry_ref AbsoluteRef(const std::string& path);
     // Posts the command and waits until the application is idle; fails when an alert told of a
     // failure.
@@ -114,6 +126,11 @@ class CliSession {
     // Fails, with the reason, when the file can't be opened for reading.
     Outcome CheckReadable(const std::string& path);
     Outcome SaveAs(const std::string& path, translator_id translator);
+    // The translator for the images of an option: by --format or else by the file's extension. 0
+    // where there is none, which was said.
+    translator_id ImageWriterFor(const char* option, const std::string& path);
+    // Writes the picture into the file.
+    Outcome WriteImage(const Picture& picture, translator_id translator, const std::string& path);
     // Prints how browsers will show what was saved otherwise.
     Outcome Verify(const std::string& path);
     // Posts the command that makes a palette wait for a file, then the file. True as Post.
@@ -163,7 +180,9 @@ class CliSession {
     std::atomic<AnimationDocument*> running_ = nullptr;      // app_, for RequestStop
     std::atomic<SaveVerification*> verification_ = nullptr;  // that runs, for the same
     std::atomic<bool> stopped_ = false;
-    bool differs_ = false;  // what was saved and verified from what was shown
+    StandardInput input_;
+    bool write_failed_ = false;  // where files may be written: for want of space
+    bool differs_ = false;       // what was saved and verified from what was shown
 };
 
 }  // namespace kirto

@@ -195,15 +195,21 @@ CliSession::Outcome CliSession::PostAlongHistory(uint32 command, const char* ver
 CliSession::Outcome CliSession::PrintInfo(const std::string&) {
     const bool for_terminal = isatty(STDOUT_FILENO) != 0;
     std::fputs(
-        DescribeDocument(*app_->CurrentState(), prefs_.global_pauseinseconds, for_terminal).c_str(),
+        DescribeDocument(DescribedState(), prefs_.global_pauseinseconds, for_terminal).c_str(),
         stdout);
     return Outcome::kDone;
 }
 
 CliSession::Outcome CliSession::PrintInfoJson(const std::string&) {
     const bool for_terminal = isatty(STDOUT_FILENO) != 0;
-    std::fputs(DescribeDocumentAsJson(*app_->CurrentState(), for_terminal).c_str(), stdout);
+    std::fputs(DescribeDocumentAsJson(DescribedState(), for_terminal).c_str(), stdout);
     return Outcome::kDone;
+}
+
+DocumentState CliSession::DescribedState() const {
+    DocumentState state = *app_->CurrentState();
+    if (state.file_directory == kStandardInputFolder) state.file_name = "-";
+    return state;
 }
 
 CliSession::Outcome CliSession::PostSwitch(uint32 command, bool on) {

@@ -1,19 +1,24 @@
 // The operations that read and write files.
 #include <algorithm>
 #include <cctype>
+#include <cerrno>
 #include <cstdio>
+#include <cstring>
 #include <filesystem>
 #include <unistd.h>
 
 #include "app/open_animation.h"
 #include "app/save_animation.h"
 #include "app/save_verification.h"
+#include "app/sequence_save.h"
 #include "base/number.h"
 #include "base/terminal_text.h"
 #include "base/text.h"
 #include "document/command_codes.h"
 #include "effects/images_ahead.h"
+#include "kit/alert.h"
 #include "kit/entry_ref.h"
+#include "kit/picture_files.h"
 #include "main/cli/cli_session.h"
 
 namespace kirto {
@@ -65,9 +70,10 @@ CliSession::Outcome CliSession::CheckReadable(const std::string& path) {
 }
 
 CliSession::Outcome CliSession::Open(const std::string& value) {
-    if (CheckReadable(value) != Outcome::kDone) return Outcome::kFailed;
     desktop_.SetSubject(value);
-    const entry_ref ref = AbsoluteRef(value);
+    const std::string path = InputFile(value);
+    if (path.empty() || CheckReadable(path) != Outcome::kDone) return Outcome::kFailed;
+    const entry_ref ref = AbsoluteRef(path);
     BMessage message(kOpenFile);
     message.AddRef("refs", ref);
     const Outcome outcome = PostOpen(value, message);
@@ -91,10 +97,11 @@ CliSession::Outcome CliSession::InsertAnimation(const std::string& value) {
     int32 position = -1;
     const std::string path = SplitPosition(value, &position);
     if (path == value) return Refuse("--insert-animation: \"" + value + "\": expected FILE@N.");
-    if (CheckReadable(path) != Outcome::kDone) return Outcome::kFailed;
     desktop_.SetSubject(path);
+    const std::string file = InputFile(path);
+    if (file.empty() || CheckReadable(file) != Outcome::kDone) return Outcome::kFailed;
     BMessage message(kOpenFile);
-    message.AddRef("refs", AbsoluteRef(path));
+    message.AddRef("refs", AbsoluteRef(file));
     message.AddBool("reset", false);
     message.AddInt32("position", position);
     return PostOpen(path, message);
@@ -104,19 +111,38 @@ CliSession::Outcome CliSession::InsertImages(const std::string& value) {
     int32 position = -1;
     const std::string path = SplitImage(value, &position);
     desktop_.SetSubject(path);
+    const std::string file = InputFile(path);
+    if (file.empty()) return Outcome::kFailed;
     BMessage message(kInsertFiles);
-    message.AddRef("refs", AbsoluteRef(path));
+    message.AddRef("refs", AbsoluteRef(file));
     message.AddInt32("position", position);
     for (const CliOperation& next :
          following_.first(std::min(following_.size(), ImagesAhead::MostFollowing()))) {
-        if (next.option != "--insert") break;
+        if (next.option != "--insert" || IsStandardStream(next.value)) break;
         int32 next_position = -1;
         message.AddRef("following", AbsoluteRef(SplitImage(next.value, &next_position)));
     }
     return Post(message);
 }
 
+std::string CliSession::InputFile(const std::string& path) {
+    if (path != "-") return path;
+    const std::optional<std::string> file = input_.Path();
+    if (!file) Fail(Format("Standard input can't be read: %s.", std::strerror(errno)));
+    return file.value_or("");
+}
+
+CliSession::Outcome CliSession::SaveToStandardOutput() {
+    if (isatty(STDOUT_FILENO)) return Fail("--save -: Standard output is a terminal.");
+    const StandardOutput output;
+    if (output.Path().empty()) return Fail(std::string("-: ") + kFileNotCreatedText);
+    const Outcome outcome = SaveAs(output.Path(), 0);
+    if (outcome != Outcome::kDone) return outcome;
+    return output.Send() ? outcome : Fail(std::string("-: ") + kFileNotCreatedText);
+}
+
 CliSession::Outcome CliSession::Save(const std::string& value) {
+    if (IsStandardStream(value)) return SaveToStandardOutput();
     const Outcome outcome = SaveAs(value, 0);
     if (outcome != Outcome::kDone) return outcome;
     const std::string cut_short = NumbersCutShort(*app_->Current(), prefs_.global_pauseinseconds);
@@ -154,14 +180,44 @@ CliSession::Outcome CliSession::Verify(const std::string& path) {
 }
 
 CliSession::Outcome CliSession::SaveSequence(const std::string& value) {
-    const std::string extension = std::filesystem::path(value).extension().string();
+    const translator_id translator = ImageWriterFor("--save-sequence", value);
+    return translator == 0 ? Outcome::kUsage : SaveAs(value, translator);
+}
+
+CliSession::Outcome CliSession::SaveFrame(const std::string& value) {
+    const translator_id translator = ImageWriterFor("--save-frame", value);
+    if (translator == 0) return Outcome::kUsage;
+    desktop_.SetSubject(value);
+    const FramePointer frame = app_->CurrentFrame();
+    if (!frame) return Fail("There is no current frame.");
+    return WriteImage(*frame->bitmap, translator, value);
+}
+
+CliSession::Outcome CliSession::WriteImage(const Picture& picture, translator_id translator,
+                                           const std::string& path) {
+    const std::shared_ptr<const BBitmap> bitmap = picture.ToBitmap();
+    if (bitmap->InitCheck() != B_OK) return Fail(path + ": " + kOutOfMemory);
+    const std::shared_ptr<BFile> file = BFile::CreateReplacing(AbsoluteRef(path).path);
+    if (file->InitCheck() != B_OK) return Fail(path + ": " + kFileNotCreatedText);
+    file->RemoveLeftovers();
+    const std::vector<translation_format> formats = roster_.OutputFormats(translator);
+    const status_t status = WritePictureQuietly(
+        bitmap, roster_, translator, FileFormatOf(formats)->type,
+        roster_.DefaultSettings(translator), file, [this] { return stopped_.load(); });
+    if (status == B_CANCELED) return Outcome::kFailed;
+    if (status == B_OK && file->Commit() == B_OK) return Outcome::kDone;
+    const bool unwritten = status == B_OK || file->WriteStatus() != B_OK;
+    return Fail(path + ": " + (unwritten ? kFileNotCreatedText : kInvalidTranslatorText));
+}
+
+translator_id CliSession::ImageWriterFor(const char* option, const std::string& path) {
+    const std::string extension = std::filesystem::path(path).extension().string();
     const std::string wanted = arguments_.format.empty() ? extension : arguments_.format;
     const translator_id translator = WriterNamed(wanted);
-    if (translator == 0) {
-        return Refuse("--save-sequence: There is no format \"" + wanted +
-                      "\" to write; --list-formats names them.");
-    }
-    return SaveAs(value, translator);
+    if (translator != 0) return translator;
+    Refuse(std::string(option) + ": There is no format \"" + wanted +
+           "\" to write; --list-formats names them.");
+    return 0;
 }
 
 CliSession::Outcome CliSession::SaveAs(const std::string& path, translator_id translator) {
@@ -175,7 +231,10 @@ CliSession::Outcome CliSession::SaveAs(const std::string& path, translator_id tr
     message.AddInt64("translator_id", translator);
     message.AddRef("directory", entry_ref(ref.Directory()));
     message.AddString("name", ref.Leaf());
-    return Post(message);
+    const Outcome outcome = Post(message);
+    // Where the folder lets files be made, the disk is what fails.
+    if (outcome == Outcome::kFailed) write_failed_ = access(ref.Directory().c_str(), W_OK) == 0;
+    return outcome;
 }
 
 translator_id CliSession::WriterNamed(const std::string& name) const {

@@ -8,6 +8,7 @@
 #include "base/terminal_text.h"
 #include "kit/entry_ref.h"
 #include "kit/file.h"
+#include "main/cli/error_lines.h"
 #include "main/cli/viewer.h"
 
 namespace kirto {
@@ -28,8 +29,9 @@ class HeadlessPanel : public FilePanel {
 
 }  // namespace
 
-HeadlessDesktop::HeadlessDesktop(bool salvage, bool quiet)
+HeadlessDesktop::HeadlessDesktop(bool salvage, bool quiet, bool json)
     : salvage_(salvage),
+      json_(json),
       progress_(std::make_shared<ProgressLine>(!quiet)),
       previous_sink_(InstallDebugSink([this, quiet](const std::string& text) {
           if (quiet) return;
@@ -43,7 +45,8 @@ HeadlessDesktop::~HeadlessDesktop() {
 
 int32 HeadlessDesktop::Present(const BAlert& alert) {
     std::string text = alert.Text();
-    if (text == kOutOfMemory) text += " Use --memory-limit to let frames take more.";
+    lacks_memory_ = text == kOutOfMemory;
+    if (lacks_memory_) text += " Use --memory-limit to let frames take more.";
     Complain(subject_.empty() ? text : subject_ + ": " + text);
     const std::vector<std::string>& buttons = alert.Buttons();
     const auto salvage = std::find(buttons.begin(), buttons.end(), "Salvage");
@@ -102,6 +105,14 @@ void HeadlessDesktop::OpenInBrowser(const std::string& path) {
 void HeadlessDesktop::Complain(const std::string& text) {
     ClearProgress();
     lines_.EndLine();
+    if (json_) {
+        const std::string opening = subject_.empty() ? "" : subject_ + ": ";
+        const bool about = !opening.empty() && text.starts_with(opening);
+        const std::string line =
+            about ? ErrorLine(subject_, text.substr(opening.size())) : ErrorLine("", text);
+        std::fputs(line.c_str(), stderr);
+        return;
+    }
     const std::string shown = lines_.IsTerminal() ? TerminalText(text) : text;
     std::fprintf(stderr, "kirto-cli: %s\n", shown.c_str());
 }

@@ -24,7 +24,8 @@ struct TileChoice {
 // line says. The command line's thread writes the values while the application is idle.
 class HeadlessDesktop : public Desktop {
   public:
-    HeadlessDesktop(bool salvage, bool quiet);
+    // json: complaints are lines of JSON.
+    HeadlessDesktop(bool salvage, bool quiet, bool json);
     ~HeadlessDesktop() override;
 
     int32 Present(const BAlert& alert) override;
@@ -41,17 +42,21 @@ class HeadlessDesktop : public Desktop {
     void SetTiles(const TileChoice& tiles) { tiles_ = tiles; }
     // True when an alert has told of a failure since the last call. Salvaging is no failure.
     bool TakeFailure() { return failure_.exchange(false); }
+    // True when what has failed was for want of memory, which may be there another time.
+    bool LacksMemory() const { return lacks_memory_; }
     // Writes a line on standard error, opening with the program's name.
     void Complain(const std::string& text);
     void ClearProgress() { progress_->Clear(); }
 
   private:
     const bool salvage_;
+    const bool json_;
     LineOutput lines_{stderr};
     std::shared_ptr<ProgressLine> progress_;
     std::string subject_;
     TileChoice tiles_;
     std::atomic<bool> failure_ = false;
+    std::atomic<bool> lacks_memory_ = false;
     DebugSink previous_sink_;
 };
 

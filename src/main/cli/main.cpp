@@ -4,35 +4,39 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
-#include <filesystem>
 #include <set>
 #include <string>
 #include <unistd.h>
 #include <utility>
 
+#include "base/program_files.h"
 #include "main/cli/cli_program.h"
 #include "main/cli/no_translators.h"
 
 namespace {
 
+constexpr const char* kImageProgram = "kirto-cli-images";
+
 bool UsesImages(const kirto::CliArguments& arguments) {
     static const std::set<std::string> kImageOptions = {
-        "--insert",        "--insert-tiled", "--overlay",     "--text",
-        "--save-sequence", "--save-sheet",   "--list-formats"};
+        "--insert",        "--insert-tiled", "--overlay",    "--text",
+        "--save-sequence", "--save-sheet",   "--save-frame", "--list-formats"};
     return std::any_of(
         arguments.operations.begin(), arguments.operations.end(),
         [](const auto& operation) { return kImageOptions.contains(operation.option); });
 }
 
-// Becomes the program with the image formats, which lies beside this one. Returns only where that
+// Becomes the program with the image formats, which belongs to this one. Returns only where that
 // can't be started.
 int BecomeImageProgram(char** argv) {
-    std::error_code error;
-    const std::filesystem::path self = std::filesystem::read_symlink("/proc/self/exe", error);
-    const std::string program = self.parent_path() / "kirto-cli-images";
-    if (!error) execv(program.c_str(), argv);
+    std::string program = kImageProgram;
+    // Not looked for in the working folder, where somebody else may have put one.
+    if (const auto folder = kirto::ProgramFolder()) {
+        program = kirto::ProgramFile(*folder, kImageProgram, KIRTO_HELPER_FOLDER);
+        execv(program.c_str(), argv);
+    }
     std::fprintf(stderr, "kirto-cli: %s can't be started: %s\n", program.c_str(),
-                 error ? error.message().c_str() : std::strerror(errno));
+                 std::strerror(errno));
     return kirto::kExitFailed;
 }
 

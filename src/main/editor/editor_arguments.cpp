@@ -2,7 +2,10 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <string>
 #include <string_view>
+
+#include "main/editor/editor_options.h"
 
 namespace kirto {
 
@@ -11,21 +14,19 @@ namespace {
 constexpr int kExitDone = 0;
 constexpr int kExitUsage = 2;
 
-constexpr const char* kFooter =
-    "A file that is an animation (GIF, FLI, FLC) is opened; images are inserted as frames.\n"
-    "The toolkit's options, such as -style NAME and -platform NAME, are understood as well.";
+std::string HelpOf(const std::string& name) {
+    return HelpIn(EditorOptions(), name);
+}
 
 }  // namespace
 
 std::optional<int> ParseArguments(int argc, const char* const* argv, EditorArguments* arguments) {
-    CLI::App app("Edits frame animations.", "kirto");
-    app.footer(kFooter);
-    app.set_version_flag("--version", "kirto " KIRTO_VERSION, "Print the version");
-    app.set_help_flag("--help", "Print this help");
+    CLI::App app(kEditorPurpose, "kirto");
+    app.footer(kEditorFiles);
+    app.set_version_flag("--version", "kirto " KIRTO_VERSION, HelpOf("--version"));
+    app.set_help_flag("--help", HelpOf("--help"));
     app.get_formatter()->column_width(36);
-    app.add_option("--screenshot", arguments->screenshot,
-                   "Write a picture of the window with the files, and exit")
-        ->type_name("PNG");
+    app.add_option("--screenshot", arguments->screenshot, HelpOf("--screenshot"))->type_name("PNG");
     app.add_option("files", arguments->files, "Files to open")->type_name("FILE");
     try {
         app.parse(argc, argv);

@@ -112,7 +112,7 @@ int main(int argc, char** argv) {
     QApplication::setStyle(new kirto::EditorStyle(QApplication::style()->name()));
     QApplication::setApplicationName("kirto");
     QApplication::setApplicationVersion(KIRTO_VERSION);
-    QApplication::setDesktopFileName("kirto");
+    QApplication::setDesktopFileName("org.kirto.Kirto");
     // Reading the drawing takes half as long as everything else; the window comes first.
     QTimer::singleShot(kIconDelayMilliseconds, qApp,
                        [] { QApplication::setWindowIcon(QIcon(":/kirto.svg")); });

@@ -6,6 +6,8 @@
 #include <QSlider>
 #include <QSpinBox>
 
+#include "ui/controls/screen_color_button.h"
+
 namespace {
 
 constexpr int kMaxLevel = 255;
@@ -16,6 +18,11 @@ int LevelOf(int32 value, int shift) {
     return static_cast<int>(static_cast<uint32>(value) >> shift) & kMaxLevel;
 }
 
+int32 ValueOf(const QColor& color) {
+    const auto channels = static_cast<uint32>(color.rgb());
+    return static_cast<int32>(channels << 8);
+}
+
 }  // namespace
 
 RTColorControl::RTColorControl(const char* name, QWidget* parent) : QWidget(parent) {
@@ -24,6 +31,9 @@ RTColorControl::RTColorControl(const char* name, QWidget* parent) : QWidget(pare
     layout->setContentsMargins(0, 0, 0, 0);
     channels_ = {MakeChannel("Red", 24, *layout), MakeChannel("Green", 16, *layout),
                  MakeChannel("Blue", 8, *layout)};
+    auto* pick = new kirto::ScreenColorButton(this);
+    pick->WhenPicked([this](const QColor& color) { SetValue(ValueOf(color)); });
+    layout->addWidget(pick, layout->rowCount(), 1, 1, 2, Qt::AlignRight);
 }
 
 RTColorControl::Channel RTColorControl::MakeChannel(const char* name, int shift,

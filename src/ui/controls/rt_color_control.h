@@ -11,7 +11,8 @@ class QSlider;
 class QSpinBox;
 
 // Three sliders, each with a field for its number, that mix a color of red, green and blue. While
-// one of them is moved, the view "Preview" of the same window follows. Black at first. GUI thread.
+// one of them is moved, or a color is picked from the screen, the view "Preview" of the same window
+// follows. Black at first. GUI thread.
 class RTColorControl : public QWidget {
   public:
     RTColorControl(const char* name, QWidget* parent);

@@ -8,10 +8,10 @@
 #include "base/number.h"
 #include "document/command_codes.h"
 #include "kit/alert.h"
-#include "ui/controls/color_swatch.h"
 #include "ui/controls/controls.h"
 #include "ui/controls/rt_color_control.h"
 #include "ui/controls/toolbar.h"
+#include "ui/dialogs/fade_strip.h"
 
 namespace {
 
@@ -70,8 +70,14 @@ void FadeWindow::MakeControls() {
     frame_count_->installEventFilter(this);
     color_ = new RTColorControl("ColorControl", panel);
     color_->setToolTip("The color to fade to or from");
-    preview_ = new kirto::ColorSwatch(
-        "Preview", [this] { return color_->Color(); }, panel);
+    preview_ = new kirto::FadeStrip(
+        "Preview",
+        [this]() -> kirto::FadeStrip::Choice {
+            return {mode_->currentData().toUInt(), Count(), static_cast<uint32>(color_->Value())};
+        },
+        panel);
+    connect(mode_, &QComboBox::currentIndexChanged, preview_, [this] { preview_->update(); });
+    connect(frame_count_, &QLineEdit::textChanged, preview_, [this] { preview_->update(); });
     Arrange(panel);
 }
 
@@ -91,9 +97,9 @@ void FadeWindow::Arrange(QWidget* panel) {
     layout->addWidget(mode_, 1, 1, 1, 2, Qt::AlignLeft);
     layout->addWidget(label_for("FrameCountLabel", "Frame count:", frame_count_), 2, 0);
     layout->addWidget(frame_count_, 2, 1, 1, 2, Qt::AlignLeft);
-    layout->addWidget(color_, 3, 0, 2, 2);
-    layout->addWidget(label_for("PreviewString", "Preview:", preview_), 3, 2);
-    layout->addWidget(preview_, 4, 2);
+    layout->addWidget(color_, 3, 0, 1, 3);
+    layout->addWidget(label_for("PreviewString", "Preview:", preview_), 4, 0, Qt::AlignTop);
+    layout->addWidget(preview_, 4, 1, 1, 2);
     layout->setColumnStretch(1, 1);
     layout->setRowStretch(4, 1);
 
@@ -108,6 +114,10 @@ void FadeWindow::Arrange(QWidget* panel) {
     ok->setFocusPolicy(Qt::TabFocus);
     cancel->setFocusPolicy(Qt::TabFocus);
     layout->addWidget(buttons, 5, 0, 1, 3);
+}
+
+void FadeWindow::ShowFadeOf(std::shared_ptr<const kirto::Animation> animation) {
+    preview_->SetAnimation(std::move(animation));
 }
 
 void FadeWindow::MessageReceived(BMessage* message) {

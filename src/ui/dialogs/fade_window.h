@@ -12,8 +12,10 @@ class QComboBox;
 class RTColorControl;
 
 namespace kirto {
+class FadeStrip;
 class TextControl;
-}
+struct Animation;
+}  // namespace kirto
 
 // The window "Fade Effects", in which a fade is chosen: its kind, its number of frames and its
 // color. Opens beside its parent window and deletes itself when it is closed. GUI thread.
@@ -23,6 +25,8 @@ class FadeWindow : public QDialog, public BWindow {
     FadeWindow(BMessenger application, QWidget* parent);
     ~FadeWindow() override;
 
+    // Shows what the fade would make of the current frame.
+    void ShowFadeOf(std::shared_ptr<const kirto::Animation> animation);
     // The commands of the window's own controls.
     void MessageReceived(BMessage* message) override;
     // Asks the application for the fade, with the count as it stands.
@@ -48,5 +52,5 @@ class FadeWindow : public QDialog, public BWindow {
     QComboBox* mode_ = nullptr;
     kirto::TextControl* frame_count_ = nullptr;
     RTColorControl* color_ = nullptr;
-    QWidget* preview_ = nullptr;
+    kirto::FadeStrip* preview_ = nullptr;
 };

@@ -73,6 +73,21 @@ void AskForRange(const Animation& shown, QWidget* parent, FormDialog::Receiver r
     dialog->Open(make, std::move(receive));
 }
 
+void AskForFrame(const Animation& shown, QWidget* parent, FormDialog::Receiver receive) {
+    const int32 last = shown.frames.Size() - 1;
+    auto* dialog = new FormDialog(
+        "GoToFrame", "Go to Frame",
+        QString("Makes a frame the current one. They are numbered from 0 to %1.").arg(last),
+        parent);
+    auto* number = dialog->AddNumber("Number", "&Frame:", 0, last, shown.selected);
+    number->setFocus();
+    number->selectAll();
+    const auto make = [=]() -> std::optional<BMessage> {
+        return WithNumber(kSelectFrame, "number", number->value());
+    };
+    dialog->Open(make, std::move(receive));
+}
+
 void AskForDropping(const Animation& shown, QWidget* parent, FormDialog::Receiver receive) {
     auto* dialog = new FormDialog(
         "DropEvery", "Drop Every Nth",

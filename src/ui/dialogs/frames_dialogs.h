@@ -11,6 +11,7 @@ namespace kirto {
 // shown: what the user sees while the dialog opens; it may differ later.
 void AskForEveryNth(const Animation& shown, QWidget* parent, FormDialog::Receiver receive);
 void AskForRange(const Animation& shown, QWidget* parent, FormDialog::Receiver receive);
+void AskForFrame(const Animation& shown, QWidget* parent, FormDialog::Receiver receive);
 void AskForDropping(const Animation& shown, QWidget* parent, FormDialog::Receiver receive);
 void AskForTolerance(const Animation& shown, QWidget* parent, FormDialog::Receiver receive);
 void AskForPlace(const Animation& shown, QWidget* parent, FormDialog::Receiver receive);

@@ -63,6 +63,12 @@ void FileDialog::Restart(const QString& name) {
     }
     name_field_->setText(name);
     name_field_->setFocus();
+    // Another name is just typed.
+    name_field_->selectAll();
+}
+
+void FileDialog::Rename(const QString& from, const QString& to) {
+    if (name_field_->text() == from) name_field_->setText(to);
 }
 
 // Of several quoted names the toolkit takes only those that the filter offers, if there are any. A

@@ -30,6 +30,8 @@ class FileDialog : public QFileDialog {
     void WatchChosenFile(std::function<void(const QString& path)> watch);
     // Starts over in the same folder, with the text in the name field.
     void Restart(const QString& name);
+    // Puts another name into the name field where it still holds the first.
+    void Rename(const QString& from, const QString& to);
     // The absolute paths of the files that are chosen or typed.
     QStringList ChosenFiles() const;
 

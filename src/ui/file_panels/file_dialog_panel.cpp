@@ -29,6 +29,11 @@ void FileDialogPanel::SetSaveText(const std::string& text) {
     if (dialog_) dialog_->Restart(QString::fromStdString(text));
 }
 
+void FileDialogPanel::ChangeSaveText(const std::string& text) {
+    if (dialog_) dialog_->Rename(QString::fromStdString(save_text_), QString::fromStdString(text));
+    save_text_ = text;
+}
+
 void FileDialogPanel::Show() {
     if (!dialog_) MakeDialog();
     if (!dialog_->isVisible()) dialog_->Restart(QString::fromStdString(save_text_));

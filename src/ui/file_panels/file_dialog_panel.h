@@ -20,6 +20,7 @@ class FileDialogPanel : public FilePanel {
     void SetTitle(const std::string& title) override;
     void SetDirectory(const std::string& path) override;
     void SetSaveText(const std::string& text) override;
+    void ProposeName(const std::string& name) override { SetSaveText(name); }
     void Show() override;
 
     // The dialog; null before it is first shown, and once its parent is gone. GUI thread.
@@ -36,6 +37,12 @@ class FileDialogPanel : public FilePanel {
 
     // Called when the dialog was closed, with or without files.
     virtual void Closed(bool) {}
+
+    // What the name field starts with.
+    const std::string& SaveText() const { return save_text_; }
+    // Starts with another text from now on; in a dialog that is shown only where the user has left
+    // the old one alone.
+    void ChangeSaveText(const std::string& text);
 
     void SendToTarget(const BMessage& message) const { target_.SendMessage(message); }
 

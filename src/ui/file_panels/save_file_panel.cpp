@@ -168,7 +168,17 @@ void SaveFilePanel::UseUsualExtension() {
             if (has_one) extension = format.extensions.front();
         }
     }
+    ProposeExtension(QString::fromStdString(extension));
     Dialog()->setDefaultSuffix(QString::fromStdString(extension));
+}
+
+// In place of that of an animation or of the format before; any other is part of the name.
+void SaveFilePanel::ProposeExtension(const QString& extension) {
+    const QFileInfo name(QString::fromStdString(SaveText()));
+    const QString now = name.suffix().toLower();
+    const QStringList replaced = {"gif", "fli", "flc", Dialog()->defaultSuffix()};
+    if (extension.isEmpty() || now.isEmpty() || now == extension || !replaced.contains(now)) return;
+    ChangeSaveText((name.completeBaseName() + "." + extension).toStdString());
 }
 
 void SaveFilePanel::MessageReceived(BMessage* message) {

@@ -55,8 +55,9 @@ class SaveFilePanel : public kirto::FileDialogPanel, public BHandler {
     int RowOf(uint32 format) const;
     // Uses the marked format for the message that a chosen place sends.
     void UseMarkedFormat();
-    // The extension added to names without one.
+    // The extension added to names without one, and that of the proposed name.
     void UseUsualExtension();
+    void ProposeExtension(const QString& extension);
     void ShowSettings(int32 translator);
     // Asks before an existing file is replaced.
     bool MayWrite(const QString& path) const;

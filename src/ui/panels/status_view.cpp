@@ -1,11 +1,19 @@
 #include "ui/panels/status_view.h"
 
 #include <QHBoxLayout>
+#include <QLocale>
 #include <algorithm>
 
 #include "animation/pauses.h"
 #include "document/command_codes.h"
 #include "ui/controls/controls.h"
+#include "ui/panels/size_text.h"
+
+namespace {
+
+constexpr int kSizesIndent = 8;  // tells them from what stands before
+
+}  // namespace
 
 StatusView::StatusView(const kirto::ShownDocument& shown, const BMessenger& window, QWidget* parent)
     : QWidget(parent), shown_(shown) {
@@ -14,6 +22,8 @@ StatusView::StatusView(const kirto::ShownDocument& shown, const BMessenger& wind
     // Long names in the text must not widen the window.
     status->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     selection = kirto::MakeLabel("Selection", "", this);
+    sizes = kirto::MakeLabel("Sizes", "", this);
+    sizes->setIndent(kSizesIndent);
     progress = new QProgressBar(this);
     progress->setObjectName("Progress");
     progress->setAccessibleName("Progress");
@@ -28,6 +38,7 @@ StatusView::StatusView(const kirto::ShownDocument& shown, const BMessenger& wind
     layout->setContentsMargins(8, 2, 8, 4);
     layout->addWidget(status, 1);
     layout->addWidget(selection);
+    layout->addWidget(sizes);
     layout->addWidget(progress);
     layout->addWidget(cancel);
     // The line keeps its height when the bar comes and goes.
@@ -40,11 +51,64 @@ void StatusView::UpdateDisplay(const char* text) {
     ShowSelection();
     if (text) {
         kirto::ShowText(*status, QString::fromUtf8(text));
-        return;
+    } else {
+        kirto::ShowText(*status, QString("Status: %1 frame(s), %2")
+                                     .arg(shown_.FrameCount())
+                                     .arg(shown_.State().modified ? "modified" : "unmodified"));
     }
-    kirto::ShowText(*status, QString("Status: %1 frame(s), %2")
-                                 .arg(shown_.FrameCount())
-                                 .arg(shown_.State().modified ? "modified" : "unmodified"));
+    if (meter_) meter_->Measure(shown_.StatePointer());
+    UpdateSizes();
+}
+
+void StatusView::ShowSizes(std::shared_ptr<const kirto::PixelBudget> memory) {
+    memory_ = std::move(memory);
+    meter_ = std::make_unique<kirto::SavedSizeMeter>([this] {
+        QMetaObject::invokeMethod(
+            this, [this] { UpdateSizes(); }, Qt::QueuedConnection);
+    });
+    UpdateDisplay();
+}
+
+// What is left beside everything else.
+int StatusView::RoomForSizes() const {
+    const QMargins margins = layout()->contentsMargins();
+    int room = width() - margins.left() - margins.right() - kSizesIndent;
+    for (const QWidget* widget : std::initializer_list<QWidget*>{selection, progress, cancel})
+        if (!widget->isHidden()) room -= widget->sizeHint().width() + layout()->spacing();
+    return room - status->fontMetrics().horizontalAdvance(status->text()) - layout()->spacing();
+}
+
+// As much of it as there is room for; all of it where the pointer rests.
+void StatusView::UpdateSizes() {
+    if (!memory_ || shown_.Frames().Empty()) {
+        kirto::ShowText(*sizes, {});
+        return sizes->setToolTip({});
+    }
+    constexpr int kDigits = 3;
+    const QString memory =
+        kirto::SizeText(static_cast<int64>(memory_->Used()), kDigits) + " in memory";
+    QString file;
+    QString bytes = "The size of the file is not known yet.";
+    if (const auto size = meter_->Last()) {
+        file = (size->is_exact ? "file " : "file about ") +
+               kirto::SizeText(size->bytes, size->is_exact ? kDigits : kDigits - 1);
+        bytes = QString("Saved as a GIF file, it has %1%2 bytes.")
+                    .arg(size->is_exact ? "" : "about ")
+                    .arg(QLocale::c().toString(qlonglong{size->bytes}));
+    }
+    const QString all = file.isEmpty() ? memory : memory + ", " + file;
+    const int room = RoomForSizes();
+    const QFontMetrics metrics = sizes->fontMetrics();
+    QString text;
+    for (const QString& choice : {file, all})
+        if (metrics.horizontalAdvance(choice) <= room) text = choice;
+    kirto::ShowText(*sizes, text);
+    sizes->setToolTip("The animation and what can be undone take " + memory + ".\n" + bytes);
+}
+
+void StatusView::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    UpdateSizes();
 }
 
 // "5 of 30 selected, 0.20 s of 3.00 s, 10 fps", or the end of it.
@@ -73,6 +137,7 @@ void StatusView::ResetDisplay() {
     kirto::ShowText(*selection, {});
     kirto::ShowText(*status, "Status: 0 frame(s), unmodified");
     HideWork();
+    if (meter_) meter_->Measure(shown_.StatePointer());
 }
 
 void StatusView::ShowWork(int64 done, int64 total) {
@@ -83,9 +148,11 @@ void StatusView::ShowWork(int64 done, int64 total) {
     progress->setValue(static_cast<int>(std::clamp(share, 0.0, 1.0) * kParts));
     progress->setVisible(true);
     cancel->setVisible(true);
+    UpdateSizes();
 }
 
 void StatusView::HideWork() {
     progress->setVisible(false);
     cancel->setVisible(false);
+    UpdateSizes();
 }

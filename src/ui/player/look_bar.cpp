@@ -64,7 +64,7 @@ QLayout* LookBar::MakeLooks(const std::function<void()>& changed) {
     onion_->setAccessibleName("Onion skin");
     onion_->setToolTip("Let the frames beside this one be seen through it");
     onion_->addItems({"No onion skin", "Previous frame", "Next frame", "Both frames"});
-    connect(onion_, &QComboBox::activated, this, changed);
+    connect(onion_, &QComboBox::currentIndexChanged, this, changed);
     opacity_ = new QSlider(Qt::Horizontal, this);
     opacity_->setObjectName("OnionOpacity");
     opacity_->setAccessibleName("Opacity of the onion skin");
@@ -74,7 +74,7 @@ QLayout* LookBar::MakeLooks(const std::function<void()>& changed) {
     opacity_->setFixedWidth(fontMetrics().horizontalAdvance("0") * 10);
     opacity_->setEnabled(false);
     connect(opacity_, &QSlider::valueChanged, this, changed);
-    connect(onion_, &QComboBox::activated, opacity_,
+    connect(onion_, &QComboBox::currentIndexChanged, opacity_,
             [this](int choice) { opacity_->setEnabled(choice != kNone); });
     saved_ = new QCheckBox("Saved colors", this);
     saved_->setObjectName("SavedColors");

@@ -71,7 +71,7 @@ QComboBox* TransportBar::MakeLoopMenu() {
     loop->setAccessibleName("Repeat");
     loop->setToolTip("How often the animation is played");
     loop->addItems({"As saved", "Always", "Once"});
-    connect(loop, &QComboBox::activated, this,
+    connect(loop, &QComboBox::currentIndexChanged, this,
             [this](int choice) { player_.SetLoop(static_cast<Player::Loop>(choice)); });
     return loop;
 }

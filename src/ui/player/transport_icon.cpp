@@ -1,10 +1,9 @@
 #include "ui/player/transport_icon.h"
 
-#include <QGuiApplication>
-#include <QIconEngine>
 #include <QPainter>
 #include <QPainterPath>
-#include <QPalette>
+
+#include "ui/controls/painted_icon.h"
 
 namespace kirto {
 
@@ -55,30 +54,15 @@ QPainterPath PathOf(TransportSymbol symbol) {
     return path;
 }
 
-// Asks for the colors whenever it is painted, so that it follows the desktop from light to dark.
-class TransportIconEngine : public QIconEngine {
+class TransportIcon : public PaintedIcon {
   public:
-    explicit TransportIconEngine(TransportSymbol symbol) : symbol_(symbol) {}
+    explicit TransportIcon(TransportSymbol symbol) : PaintedIcon(kIconSide), symbol_(symbol) {}
+    QIconEngine* clone() const override { return new TransportIcon(symbol_); }
 
-    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override {
-        const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
-        painter->save();
-        painter->setRenderHint(QPainter::Antialiasing);
-        painter->translate(rect.topLeft());
-        painter->scale(static_cast<double>(rect.width()) / kIconSide,
-                       static_cast<double>(rect.height()) / kIconSide);
-        painter->fillPath(PathOf(symbol_),
-                          QGuiApplication::palette().color(group, QPalette::ButtonText));
-        painter->restore();
+  protected:
+    void Draw(QPainter& painter, const QColor& color) const override {
+        painter.fillPath(PathOf(symbol_), color);
     }
-    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
-        QPixmap picture(size);
-        picture.fill(Qt::transparent);
-        QPainter painter(&picture);
-        paint(&painter, QRect(QPoint(), size), mode, state);
-        return picture;
-    }
-    QIconEngine* clone() const override { return new TransportIconEngine(symbol_); }
 
   private:
     const TransportSymbol symbol_;
@@ -87,7 +71,7 @@ class TransportIconEngine : public QIconEngine {
 }  // namespace
 
 QIcon MakeTransportIcon(TransportSymbol symbol) {
-    return QIcon(new TransportIconEngine(symbol));
+    return QIcon(new TransportIcon(symbol));
 }
 
 }  // namespace kirto

@@ -20,6 +20,7 @@ struct DialogRow {
 constexpr DialogRow kDialogs[] = {
     {kMenuSelectEvery, AskForEveryNth},
     {kMenuSelectRange, AskForRange},
+    {kMenuGoToFrame, AskForFrame},
     {kMenuDropEvery, AskForDropping},
     {kMenuRemoveDuplicates, AskForTolerance},
     {kMenuMoveTo, AskForPlace},

@@ -11,12 +11,13 @@
 #include <QShortcut>
 #include <QSplitter>
 #include <QStackedWidget>
+#include <QStyle>
 #include <QVBoxLayout>
 #include <algorithm>
-#include <cmath>
 
 #include "document/command_codes.h"
 #include "kit/alert.h"
+#include "ui/dialogs/colors_window.h"
 #include "ui/dialogs/preferences_window.h"
 #include "ui/panels/global_view.h"
 #include "ui/panels/local_view.h"
@@ -24,7 +25,10 @@
 #include "ui/panels/palette_view.h"
 #include "ui/panels/status_view.h"
 #include "ui/player/player_view.h"
+#include "ui/shell/help_menu.h"
 #include "ui/shell/main_menu.h"
+#include "ui/shell/tool_bar.h"
+#include "ui/shell/window_place.h"
 #include "ui/shell/window_state.h"
 #include "ui/thumbnails/file_urls.h"
 #include "ui/thumbnails/frame_drag.h"
@@ -47,17 +51,6 @@ const std::vector<uint32>& RefreshCodes() {
     return kCodes;
 }
 
-// The settings may hold any numbers; no screen reaches farther than this, in pixels.
-int PixelAt(double coordinate) {
-    constexpr double kFarthest = 1 << 20;
-    return std::isfinite(coordinate) ? qRound(std::clamp(coordinate, -kFarthest, kFarthest)) : 0;
-}
-
-QRect RectOf(const BRect& frame) {
-    const QPoint corner(PixelAt(frame.left), PixelAt(frame.top));
-    return {corner, QSize(PixelAt(frame.PixelWidth()), PixelAt(frame.PixelHeight()))};
-}
-
 }  // namespace
 
 KirtoWindow::KirtoWindow(BRect frame, const char* title, const kirto::Editor& editor)
@@ -71,7 +64,10 @@ KirtoWindow::KirtoWindow(BRect frame, const char* title, const kirto::Editor& ed
     setAcceptDrops(true);
 
     shown_.Take(editor_.document);
-    setMenuBar(kirto::MakeMainMenu(this, [this](uint32 command) { ChooseCommand(command); }));
+    const auto choose = [this](uint32 command) { ChooseCommand(command); };
+    setMenuBar(kirto::MakeMainMenu(this, choose));
+    kirto::AddToolBar(*this);
+    kirto::AddHelpMenu(*menuBar(), choose);
     MakePanels();
     ArrangePanels();
     stop_work_ = new QShortcut(Qt::Key_Escape, this, [this] { StopWork(nullptr); });
@@ -91,6 +87,7 @@ void KirtoWindow::MakePanels() {
     local_view_ = new LocalView(shown_, window);
     panels_ = {new GlobalView(shown_, window), new PaletteView(shown_, window), local_view_};
     status_view_ = new StatusView(shown_, window);
+    status_view_->ShowSizes(editor_.document.pixel_budget);
     notice_bar_ = new NoticeBar(window);
     frame_list_view_ = new FrameListView(shown_, window);
     // Thumbnails select by way of the window, so that an edit of the frame that was current goes
@@ -156,13 +153,14 @@ QSize KirtoWindow::RoomySize() const {
 }
 
 void KirtoWindow::Place(const BRect& frame) {
-    QRect place = RectOf(frame);
+    QRect place = kirto::PixelsOf(frame);
     const QScreen* on = QGuiApplication::screenAt(place.center());
     const QRect screen = (on ? on : QGuiApplication::primaryScreen())->availableGeometry();
-    // Nobody has chosen a size yet where it is the very smallest; the corner stays.
+    // Nobody has chosen a size yet where it is the very smallest.
     if (place.size() == QSize(kMinimumWidth + 1, kMinimumHeight + 1)) {
-        place.setBottomRight(screen.bottomRight());
-        place.setSize(place.size().boundedTo(RoomySize()));
+        const int title = style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this);
+        const int border = style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth, nullptr, this);
+        place = kirto::FirstPlace(RoomySize(), screen, {border, title, border, border});
     }
     const QSize desktop = QGuiApplication::primaryScreen()->availableVirtualSize();
     place.setSize(place.size().boundedTo(desktop).expandedTo(minimumSize()));
@@ -176,9 +174,11 @@ void KirtoWindow::Place(const BRect& frame) {
         place.moveCenter(screen.center());
     }
     setGeometry(place);
+    ShowLabels(true);
     if (!shown_.Settings().misc_savewindowdimensions) return;
     kirto::RestoreSplitter(*splitter_);
-    ShowPlayer(kirto::RestorePlayer(*player_splitter_));
+    ShowPlayer(kirto::RestorePlayer(*player_splitter_, *player_view_));
+    ShowLabels(kirto::RestoreLabels());
 }
 
 BRect KirtoWindow::ScreenPlace() const {
@@ -227,6 +227,7 @@ void KirtoWindow::ShowParts(uint32 parts) {
     }
     if (parts & kStatus) status_view_->UpdateDisplay();
     player_view_->UpdateDisplay();
+    if (colors_window_) colors_window_->UpdateDisplay();
     ShowHistory();
     kirto::ShowReversing(*menuBar(), !shown_.Current().several.Empty());
     kirto::EnableFrameItems(*menuBar(), !shown_.Frames().Empty());
@@ -282,7 +283,8 @@ bool KirtoWindow::QuitRequested() {
     settings.AddRect("window_frame", ScreenPlace());
     PostToApplication(settings);
     kirto::StoreSplitter(*splitter_);
-    kirto::StorePlayer(*player_splitter_, ShowsPlayer());
+    kirto::StorePlayer(*player_splitter_, *player_view_);
+    kirto::StoreLabels(thumbnail_view_->DrawingView()->ShowsLabels());
     PostToApplication(BMessage(B_QUIT_REQUESTED));
     return true;
 }

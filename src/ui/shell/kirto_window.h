@@ -16,6 +16,7 @@ class PlayerView;
 class TextControl;
 }  // namespace kirto
 
+class ColorsWindow;
 class FrameListView;
 class LocalView;
 class NoticeBar;
@@ -98,12 +99,14 @@ class KirtoWindow : public QMainWindow, public BWindow {
     // Whether the application does something that may take long, or is about to.
     bool IsWorking() const;
     void ApplyPreset(uint32 preset);
+    void FitThumbnails();
     void SaveOrAsk();
     void ShowSavePanel();
     void StartNew();
     void ShowOpenPanel(const char* title);
     void ShowMode(bool frame_list);
     void ShowPlayer(bool shown);
+    void ShowLabels(bool shown);
     void PostToApplication(const BMessage& message);
     // True when a panel posted the edit that the command of its control stands for.
     bool PostEdit(uint32 command);
@@ -129,6 +132,8 @@ class KirtoWindow : public QMainWindow, public BWindow {
     void ToggleMode(BMessage* message);
     void TogglePlayer(BMessage* message);
     void Play(BMessage* message);
+    void ToggleLabels(BMessage* message);
+    void ShowColors(BMessage* message);
     void OpenPreferences(BMessage* message);
     void Insert(BMessage* message);
     void InsertTiled(BMessage* message);
@@ -164,4 +169,5 @@ class KirtoWindow : public QMainWindow, public BWindow {
     kirto::PlayerView* player_view_ = nullptr;
     QSplitter* player_splitter_ = nullptr;  // the player above the frames
     QPointer<PreferencesWindow> preferences_window_;
+    ColorsWindow* colors_window_ = nullptr;  // null before it was asked for
 };

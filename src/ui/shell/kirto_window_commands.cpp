@@ -21,6 +21,13 @@
 #include "ui/thumbnails/frames_mime_data.h"
 #include "ui/thumbnails/thumbnail_view.h"
 
+namespace {
+
+// The name of a document without a file.
+constexpr const char* kUntitled = "untitled";
+
+}  // namespace
+
 // One row of the command table.
 struct KirtoWindow::Command {
     uint32 code;
@@ -57,6 +64,8 @@ const KirtoWindow::Command* KirtoWindow::CommandFor(uint32 code) {
         {kirto::kToggleMode, &KirtoWindow::ToggleMode},
         {kirto::kShowPlayer, &KirtoWindow::TogglePlayer},
         {kirto::kPlay, &KirtoWindow::Play},
+        {kirto::kShowLabels, &KirtoWindow::ToggleLabels},
+        {kirto::kShowColors, &KirtoWindow::ShowColors},
         {kirto::kMenuPreferences, &KirtoWindow::OpenPreferences},
         {kirto::kMenuInsert, &KirtoWindow::Insert},
         {kirto::kMenuInsertTiled, &KirtoWindow::InsertTiled},
@@ -71,6 +80,7 @@ const KirtoWindow::Command* KirtoWindow::CommandFor(uint32 code) {
         {kirto::kMenuInvertSelection, &KirtoWindow::ChooseFrames},
         {kirto::kMenuSelectEvery, &KirtoWindow::ChooseFrames},
         {kirto::kMenuSelectRange, &KirtoWindow::ChooseFrames},
+        {kirto::kMenuGoToFrame, &KirtoWindow::ChooseFrames},
         {kirto::kMenuSetPause, &KirtoWindow::ChooseFrames},
         {kirto::kMenuDropEvery, &KirtoWindow::ChooseFrames},
         {kirto::kMenuRemoveDuplicates, &KirtoWindow::ChooseFrames},
@@ -105,6 +115,7 @@ const KirtoWindow::Command* KirtoWindow::CommandFor(uint32 code) {
         {kirto::kThumbnailCurrentHalf, &KirtoWindow::PresetThumbnails},
         {kirto::kThumbnailFirstFull, &KirtoWindow::PresetThumbnails},
         {kirto::kThumbnailCurrentFull, &KirtoWindow::PresetThumbnails},
+        {kirto::kThumbnailFit, &KirtoWindow::PresetThumbnails},
         {kirto::kThumbnailPreset, &KirtoWindow::PresetThumbnails},
         {kirto::kFrameListSelection, &KirtoWindow::SelectInList},
         {kirto::kSelectFrame, &KirtoWindow::Forward},
@@ -240,7 +251,7 @@ void KirtoWindow::Save(BMessage*) {
 }
 
 void KirtoWindow::SaveOrAsk() {
-    if (shown_.State().file_name == "untitled") {
+    if (shown_.State().file_name == kUntitled) {
         ShowSavePanel();
     } else {
         PostToApplication(BMessage(kirto::kSaveAgain));
@@ -255,7 +266,9 @@ void KirtoWindow::ShowSavePanel() {
     kirto::FilePanel* panel = editor_.panels.GetPanel(kirto::FilePanelKind::kSave);
     const std::string& directory = shown_.State().file_directory;
     if (!directory.empty()) panel->SetDirectory(directory);
+    const std::string& name = shown_.State().file_name;
     panel->SetSaveText("");
+    if (name != kUntitled) panel->ProposeName(name);
     panel->Show();
 }
 
@@ -302,6 +315,7 @@ void KirtoWindow::InsertAnimation(BMessage*) {
 void KirtoWindow::FadeEffects(BMessage*) {
     if (!shown_.CurrentFrame()) return;
     auto* window = new FadeWindow(editor_.application, this);
+    window->ShowFadeOf(shown_.State().animation);
     QRect place = window->frameGeometry();
     place.moveCenter(QGuiApplication::primaryScreen()->geometry().center());
     window->move(place.topLeft());
@@ -365,6 +379,7 @@ void KirtoWindow::ApplyPreset(uint32 preset) {
         SetThumbnailHeight(shown_.Settings().thumbnail_heightvalue);
         return;
     }
+    if (preset == kirto::kThumbnailFit) return FitThumbnails();
     const bool first = preset == kirto::kThumbnailFirstHalf || preset == kirto::kThumbnailFirstFull;
     const bool half =
         preset == kirto::kThumbnailFirstHalf || preset == kirto::kThumbnailCurrentHalf;

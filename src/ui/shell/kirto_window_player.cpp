@@ -1,13 +1,16 @@
-// The part of the main window that shows and hides the player.
+// The part of the main window that shows and hides the player and what else can be hidden, and
+// arranges the frames.
 #include <QKeyEvent>
 #include <QLayout>
 #include <QSplitter>
 #include <QStackedWidget>
 
+#include "ui/dialogs/colors_window.h"
 #include "ui/player/player_view.h"
 #include "ui/shell/kirto_window.h"
 #include "ui/shell/main_menu.h"
 #include "ui/thumbnails/frame_list_view.h"
+#include "ui/thumbnails/thumb_drawing_view.h"
 #include "ui/thumbnails/thumbnail_view.h"
 #include "ui/timeline/timeline_view.h"
 
@@ -63,6 +66,29 @@ void KirtoWindow::TogglePlayer(BMessage*) {
 void KirtoWindow::Play(BMessage*) {
     if (!ShowsPlayer()) ShowPlayer(true);
     player_view_->Playback().Toggle();
+}
+
+void KirtoWindow::ShowLabels(bool shown) {
+    thumbnail_view_->DrawingView()->ShowLabels(shown);
+    kirto::ShowLabels(*menuBar(), shown);
+}
+
+void KirtoWindow::ToggleLabels(BMessage*) {
+    ShowLabels(!thumbnail_view_->DrawingView()->ShowsLabels());
+}
+
+void KirtoWindow::ShowColors(BMessage*) {
+    if (!colors_window_) colors_window_ = new ColorsWindow(shown_, editor_.application, this);
+    colors_window_->show();
+    colors_window_->raise();
+    colors_window_->activateWindow();
+}
+
+void KirtoWindow::FitThumbnails() {
+    if (shown_.Frames().Empty()) return;
+    const Prefs& settings = shown_.Settings();
+    SetThumbnailHeight(thumbnail_view_->DrawingView()->FittingHeight(settings.thumbnail_minheight,
+                                                                     settings.thumbnail_maxheight));
 }
 
 void KirtoWindow::keyPressEvent(QKeyEvent* event) {

@@ -20,6 +20,7 @@ struct Item {
 constexpr const char* kNeedsFrame = "needs_frame";
 constexpr const char* kReverse = "Reverse";
 constexpr const char* kPlayer = "Player";
+constexpr const char* kLabels = "Labels";
 
 constexpr Item kFileItems[] = {
     {"&New", 'N', kMenuNew},
@@ -47,6 +48,7 @@ constexpr Item kEditItems[] = {
     {"&Invert Selection", 'I', kMenuInvertSelection, true, true},
     {"Select &Every Nth...", 0, kMenuSelectEvery, true},
     {"Select Ran&ge...", 'G', kMenuSelectRange, true},
+    {"Go to &Frame...", 'J', kMenuGoToFrame, true},
 };
 
 constexpr Item kViewItems[] = {
@@ -57,6 +59,8 @@ constexpr Item kViewItems[] = {
     {},
     {"Show Pla&yer", 'P', kShowPlayer, false, true},
     {"Pl&ay or Pause", 'K', kPlay, true},
+    {"Hide Frame &Labels", 0, kShowLabels},
+    {"&Colors...", 0, kShowColors},
 };
 
 constexpr Item kFrameItems[] = {
@@ -119,6 +123,7 @@ void AddItems(QMenu& menu, const Item (&items)[Count], const MenuCommand& choose
         action->setProperty(kNeedsFrame, item.needs_frame);
         if (item.command == kReverseFrames) action->setObjectName(kReverse);
         if (item.command == kShowPlayer) action->setObjectName(kPlayer);
+        if (item.command == kShowLabels) action->setObjectName(kLabels);
     }
 }
 
@@ -177,6 +182,11 @@ void ShowReversing(QMenuBar& menu_bar, bool selected) {
 
 void ShowPlayer(QMenuBar& menu_bar, bool shown) {
     menu_bar.findChild<QAction*>(kPlayer)->setText(shown ? "Hide Pla&yer" : "Show Pla&yer");
+}
+
+void ShowLabels(QMenuBar& menu_bar, bool shown) {
+    menu_bar.findChild<QAction*>(kLabels)->setText(shown ? "Hide Frame &Labels"
+                                                         : "Show Frame &Labels");
 }
 
 void EnableFrameItems(QMenuBar& menu_bar, bool enable) {

@@ -27,6 +27,9 @@ void ShowReversing(QMenuBar& menu_bar, bool selected);
 // Says whether the player is hidden or shown by its item.
 void ShowPlayer(QMenuBar& menu_bar, bool shown);
 
+// The same of the labels of the thumbnails.
+void ShowLabels(QMenuBar& menu_bar, bool shown);
+
 // Enables the items that need a frame, or disables them.
 void EnableFrameItems(QMenuBar& menu_bar, bool enable);
 

@@ -5,6 +5,8 @@
 #include <filesystem>
 
 #include "settings/prefs.h"
+#include "ui/player/player_view.h"
+#include "ui/shell/player_state.h"
 
 namespace kirto {
 
@@ -19,6 +21,8 @@ QString StatePath() {
 constexpr const char* kSplitterKey = "main/splitter";
 constexpr const char* kPlayerSplitterKey = "main/player_splitter";
 constexpr const char* kPlayerKey = "main/player";
+constexpr const char* kLabelsKey = "main/labels";
+constexpr const char* kToolBarKey = "main/tool_bar";
 
 }  // namespace
 
@@ -32,16 +36,38 @@ void StoreSplitter(const QSplitter& splitter) {
     state.setValue(kSplitterKey, splitter.saveState());
 }
 
-bool RestorePlayer(QSplitter& splitter) {
+bool RestorePlayer(QSplitter& splitter, PlayerView& player) {
     const QSettings state(StatePath(), QSettings::IniFormat);
     splitter.restoreState(state.value(kPlayerSplitterKey).toByteArray());
+    RestorePlayerChoices(state, player);
     return state.value(kPlayerKey, false).toBool();
 }
 
-void StorePlayer(const QSplitter& splitter, bool shown) {
+void StorePlayer(const QSplitter& splitter, PlayerView& player) {
     QSettings state(StatePath(), QSettings::IniFormat);
     state.setValue(kPlayerSplitterKey, splitter.saveState());
-    state.setValue(kPlayerKey, shown);
+    state.setValue(kPlayerKey, !player.isHidden());
+    StorePlayerChoices(state, player);
+}
+
+bool RestoreLabels() {
+    const QSettings state(StatePath(), QSettings::IniFormat);
+    return state.value(kLabelsKey, true).toBool();
+}
+
+void StoreLabels(bool shown) {
+    QSettings state(StatePath(), QSettings::IniFormat);
+    state.setValue(kLabelsKey, shown);
+}
+
+bool RestoreToolBar() {
+    const QSettings state(StatePath(), QSettings::IniFormat);
+    return state.value(kToolBarKey, true).toBool();
+}
+
+void StoreToolBar(bool shown) {
+    QSettings state(StatePath(), QSettings::IniFormat);
+    state.setValue(kToolBarKey, shown);
 }
 
 }  // namespace kirto

@@ -20,6 +20,7 @@ RangeEntry::RangeEntry(const ShownDocument& shown, BMessenger application, QWidg
     setObjectName("RangeEntry");
     setAccessibleName("Select frames");
     setPlaceholderText("Select frames");
+    setToolTip("Frames as 3-7, 0-20/2 or 0,4,7; Return selects them, Escape leaves the selection");
     setFixedWidth(fontMetrics().horizontalAdvance("0") * kCharacters);
     hide();
 }

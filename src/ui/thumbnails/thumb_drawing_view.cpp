@@ -6,6 +6,7 @@
 #include <QToolTip>
 
 #include "base/text.h"
+#include "ui/thumbnails/frame_label.h"
 
 BPoint ThumbDrawingView::PointOf(const QPoint& point) {
     return {static_cast<float>(point.x()), static_cast<float>(point.y())};
@@ -57,6 +58,16 @@ void ThumbDrawingView::SetThumbnailHeight(int32 height) {
     ResetDisplay();
 }
 
+int32 ThumbDrawingView::FittingHeight(int32 least, int32 most) const {
+    return kirto::ThumbnailLayout::FittingHeight(shown_.Frames(), static_cast<float>(width() - 1),
+                                                 scroll_view_.viewport()->height(), least, most);
+}
+
+void ThumbDrawingView::ShowLabels(bool shown) {
+    shows_labels_ = shown;
+    update();
+}
+
 void ThumbDrawingView::KeepCurrentInSight() {
     if (shown_.Selected() == kept_in_sight_) return;
     kept_in_sight_ = shown_.Selected();
@@ -100,8 +111,12 @@ void ThumbDrawingView::ShowToolTip(const QHelpEvent& event) {
         return;
     }
     const Frame& frame = *shown_.Frames().At(index);
-    const std::string text = kirto::Format("frame #%04d    %s\n%d x %d", index, frame.name.c_str(),
-                                           frame.width, frame.height);
+    std::string text = kirto::Format("frame #%04d    %s\n%d x %d", index, frame.name.c_str(),
+                                     frame.width, frame.height);
+    const std::string marks =
+        kirto::FrameLabel::Of(shown_.Current(), index, shown_.Settings().global_pauseinseconds)
+            .Marks();
+    if (!marks.empty()) text += "\n" + marks;
     // Escaped, as a name may look like markup.
     QToolTip::showText(
         event.globalPos(),
@@ -138,6 +153,7 @@ void ThumbDrawingView::DrawThumbnails(QPainter& painter, const QRect& area) {
         layout.Between(static_cast<float>(area.top()), static_cast<float>(area.bottom()));
     for (int32 i = first; i < last; ++i) {
         pictures.Draw(shown_.Frames().At(i)->bitmap, layout.At(i));
+        if (shows_labels_) DrawLabel(painter, i);
         if (drop_position_ < 0) DrawSelection(painter, i);
     }
     if (pictures.WasCoarse()) update();
@@ -164,6 +180,12 @@ void ThumbDrawingView::DrawSelection(QPainter& painter, int32 index) {
     if (index != shown_.Selected()) DrawOutline(painter, index, color);
     color.setAlphaF(kTint);
     painter.fillRect(kirto::OnPixels(layout_.At(index), devicePixelRatioF()), color);
+}
+
+void ThumbDrawingView::DrawLabel(QPainter& painter, int32 index) {
+    const bool in_seconds = shown_.Settings().global_pauseinseconds;
+    kirto::FrameLabel::Of(shown_.Current(), index, in_seconds)
+        .Paint(painter, kirto::OnPixels(layout_.At(index), devicePixelRatioF()), palette());
 }
 
 void ThumbDrawingView::DrawOutline(QPainter& painter, int32 index, const QColor& color) {

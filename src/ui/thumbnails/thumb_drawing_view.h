@@ -41,6 +41,12 @@ class ThumbDrawingView : public QWidget {
     // Pixels, 1 or more.
     void SetThumbnailHeight(int32 height);
     int32 ThumbnailHeight() const { return thumbnail_height_; }
+    // The largest height between the two at which all thumbnails are in sight at once; the smaller
+    // one if there is none.
+    int32 FittingHeight(int32 least, int32 most) const;
+    // Whether thumbnails that are high enough have a label at their foot. Not unless told.
+    void ShowLabels(bool shown);
+    bool ShowsLabels() const { return shows_labels_; }
     // Scrolls to the current frame, if it is not the one that was kept in sight last.
     void KeepCurrentInSight();
 
@@ -82,6 +88,7 @@ class ThumbDrawingView : public QWidget {
     void DrawThumbnails(QPainter& painter, const QRect& area);
     void DrawInvitation(QPainter& painter);
     void DrawSelection(QPainter& painter, int32 index);
+    void DrawLabel(QPainter& painter, int32 index);
     void DrawOutline(QPainter& painter, int32 index, const QColor& color);
     void PressOn(int32 index, kirto::FrameSelector::Mode mode, bool left);
     void SelectAt(const QKeyEvent& event, int32 number);
@@ -99,6 +106,7 @@ class ThumbDrawingView : public QWidget {
     const BMessenger window_;
     kirto::ThumbScrollView& scroll_view_;
     int32 thumbnail_height_ = 100;
+    bool shows_labels_ = false;
     kirto::ThumbnailLayout layout_;
     kirto::ThumbnailCache cache_;
     int32 drop_position_ = -1;

@@ -61,6 +61,27 @@ bool ThumbnailLayout::Update(const FrameSequence& frames, int32 height, float ri
     return true;
 }
 
+// A greater height never takes fewer rows, so halving finds it.
+int32 ThumbnailLayout::FittingHeight(const FrameSequence& frames, float right_edge,
+                                     int32 view_height, int32 least, int32 most) {
+    ThumbnailLayout layout;
+    while (least < most) {
+        const int32 middle = most - (most - least) / 2;
+        layout.Update(frames, middle, right_edge);
+        if (layout.ContentHeight() <= view_height && layout.IsWithin(right_edge)) {
+            least = middle;
+        } else {
+            most = middle - 1;
+        }
+    }
+    return least;
+}
+
+bool ThumbnailLayout::IsWithin(float right_edge) const {
+    return std::all_of(rectangles_.begin(), rectangles_.end(),
+                       [=](const BRect& each) { return each.right <= right_edge; });
+}
+
 BRect ThumbnailLayout::OutlineAt(int32 index) const {
     // One further out at the left and top than at the right and bottom, as the line is thick
     // towards the right and the bottom.

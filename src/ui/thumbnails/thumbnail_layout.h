@@ -23,6 +23,11 @@ class ThumbnailLayout {
     // every thumbnail, pixels, 1 or more; right_edge: of the grid, inclusive.
     bool Update(const FrameSequence& frames, int32 height, float right_edge);
 
+    // The largest height between the two at which the content is no higher than view_height; the
+    // smaller one if there is none.
+    static int32 FittingHeight(const FrameSequence& frames, float right_edge, int32 view_height,
+                               int32 least, int32 most);
+
     int32 Count() const { return static_cast<int32>(rectangles_.size()); }
     // Of thumbnail index, 0 to Count() - 1.
     BRect At(int32 index) const { return rectangles_[static_cast<size_t>(index)]; }
@@ -43,6 +48,7 @@ class ThumbnailLayout {
     BRect DropBar(int32 position) const;
 
   private:
+    bool IsWithin(float right_edge) const;
     bool IsOf(const FrameSequence& frames) const;
 
     FrameSequence frames_;  // that are laid out

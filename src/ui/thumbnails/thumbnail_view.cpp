@@ -2,6 +2,7 @@
 
 #include <QAbstractItemView>
 #include <QHBoxLayout>
+#include <QPushButton>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
@@ -27,9 +28,26 @@ ThumbnailView::ThumbnailView(const kirto::ShownDocument& shown, const kirto::Edi
     auto* scroll_view = new kirto::ThumbScrollView(this);
     drawing_view_ = new ThumbDrawingView(shown, editor, window, scroll_view);
     setFocusProxy(drawing_view_);
+    MakeBeginning(window);
     MakeFaithfulChoice(window);
     MakeControls(window);
     UpdateDisplay();
+}
+
+void ThumbnailView::MakeBeginning(const BMessenger& window) {
+    beginning_ = new QWidget(this);
+    QPushButton* open =
+        kirto::MakeButton("BeginByOpening", "Open...", kirto::kMenuOpen, window, beginning_);
+    open->setToolTip("Open an animation");
+    QPushButton* insert = kirto::MakeButton("BeginByInserting", "Insert Images...",
+                                            kirto::kMenuInsert, window, beginning_);
+    insert->setToolTip("Make an animation of images");
+    auto* layout = new QHBoxLayout(beginning_);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addStretch();
+    layout->addWidget(open);
+    layout->addWidget(insert);
+    layout->addStretch();
 }
 
 // The setting is changed as the preferences do it.
@@ -60,16 +78,16 @@ void ThumbnailView::MakeControls(const BMessenger& window) {
     connect(slider_, &QSlider::valueChanged, this,
             [window] { window.SendMessage(kirto::kThumbnailSlider); });
     QLabel* menu_label = kirto::MakeLabel("HeightLabel", "Use frame:", this);
-    QComboBox* menu =
-        kirto::MakePopUpMenu("HeightField",
-                             {{"first half sized", kirto::kThumbnailFirstHalf, 0},
-                              {"current half sized", kirto::kThumbnailCurrentHalf, 1},
-                              {"first full sized", kirto::kThumbnailFirstFull, 2},
-                              {"current full sized", kirto::kThumbnailCurrentFull, 3}},
-                             window, this);
+    QComboBox* menu = kirto::MakePopUpMenu("HeightField",
+                                           {{"first half sized", kirto::kThumbnailFirstHalf, 0},
+                                            {"current half sized", kirto::kThumbnailCurrentHalf, 1},
+                                            {"first full sized", kirto::kThumbnailFirstFull, 2},
+                                            {"current full sized", kirto::kThumbnailCurrentFull, 3},
+                                            {"Fit", kirto::kThumbnailFit, 4}},
+                                           window, this);
     menu->view()->setObjectName("HeightMenu");
     menu->setAccessibleName("Use frame:");
-    menu->setToolTip("Set the thumbnail height from a frame");
+    menu->setToolTip("Set the thumbnail height from a frame, or so that all frames fit");
     menu_label->setBuddy(menu);
 
     auto* height = new QHBoxLayout;
@@ -81,12 +99,18 @@ void ThumbnailView::MakeControls(const BMessenger& window) {
     preset->addWidget(menu, 1);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(drawing_view_->parentWidget()->parentWidget(), 1);
+    layout->addWidget(beginning_);
     layout->addWidget(faithful_, 0, Qt::AlignHCenter);
     layout->addWidget(new kirto::FoldingRow(height, preset, this));
     // The slider keeps its place while the number beside it grows.
     const QString widest = HeightText(8888);
     height_label_->setMinimumWidth(height_label_->fontMetrics().horizontalAdvance(widest));
-    setTabOrder(drawing_view_, faithful_);
+    QWidget* before = drawing_view_;
+    for (QPushButton* button : beginning_->findChildren<QPushButton*>()) {
+        setTabOrder(before, button);
+        before = button;
+    }
+    setTabOrder(before, faithful_);
     setTabOrder(faithful_, slider_);
     setTabOrder(slider_, menu);
 }
@@ -111,6 +135,7 @@ void ThumbnailView::ResetDisplay() {
 void ThumbnailView::ShowFaithfulChoice() {
     faithful_->setChecked(shown_.Settings().animation_faithful);
     faithful_->setVisible(shown_.Frames().Empty());
+    beginning_->setVisible(shown_.Frames().Empty());
 }
 
 void ThumbnailView::SetHeight(int32 pixels) {

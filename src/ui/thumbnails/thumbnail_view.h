@@ -33,6 +33,8 @@ class ThumbnailView : public QWidget {
 
   private:
     void MakeControls(const BMessenger& window);
+    // What a user begins with: shown while there are no frames.
+    void MakeBeginning(const BMessenger& window);
     void MakeFaithfulChoice(const BMessenger& window);
     void ShowFaithfulChoice();
 
@@ -40,5 +42,6 @@ class ThumbnailView : public QWidget {
     ThumbDrawingView* drawing_view_;
     QLabel* height_label_;
     QSlider* slider_;
+    QWidget* beginning_;
     QCheckBox* faithful_;
 };

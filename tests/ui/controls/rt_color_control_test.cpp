@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "ui/controls/color_swatch.h"
+#include "ui/controls/screen_color_button.h"
 #include "ui/widget_tools.h"
 
 namespace kirto::test {
@@ -85,6 +86,11 @@ TEST_F(RTColorControlTest, HasThePreviewFollowEveryChange) {
 
     EXPECT_TRUE(WaitFor([this] { return painted > 0; }));
     EXPECT_EQ(preview.grab().toImage().pixelColor(10, 10), QColor(255, 0, 0));
+}
+
+TEST_F(RTColorControlTest, TakesAColorFromTheScreenWhereTheDesktopAllowsIt) {
+    const auto* pick = Named<ScreenColorButton>(control, "PickFromScreen");
+    EXPECT_EQ(pick->isEnabled(), ScreenColorButton::EyeOfDesktop() != nullptr);
 }
 
 TEST_F(RTColorControlTest, DoesWithoutAPreview) {

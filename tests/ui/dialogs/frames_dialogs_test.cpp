@@ -53,6 +53,17 @@ class FramesDialogs : public ::testing::Test {
     FormDialog::Receiver receive = [this](const BMessage& command) { received = command; };
 };
 
+TEST_F(FramesDialogs, MakeAFrameCurrentByItsNumber) {
+    animation.selected = 3;
+    AskForFrame(animation, &parent, receive);
+    EXPECT_EQ(Find<QSpinBox>("Number").value(), 3);
+    EXPECT_EQ(Find<QSpinBox>("Number").maximum(), 9);
+    Find<QSpinBox>("Number").setValue(7);
+    Ok().click();
+    EXPECT_EQ(received.what, kSelectFrame);
+    EXPECT_EQ(Number("number"), 7);
+}
+
 TEST_F(FramesDialogs, SelectEveryNthFrame) {
     AskForEveryNth(animation, &parent, receive);
     Find<QSpinBox>("First").setValue(1);

@@ -96,6 +96,40 @@ TEST_F(SaveFilePanelTest, WritesAnimatedGifUntilAnotherFormatIsChosen) {
     EXPECT_EQ(Panel().GetOutputFormat(), 0);
 }
 
+TEST_F(SaveFilePanelTest, ProposesANameReadyToBeTypedOver) {
+    Make(FilePanelKind::kSave);
+    panel->ProposeName("my.walk.gif");
+    panel->Show();
+
+    EXPECT_EQ(NameField()->text(), "my.walk.gif");
+    EXPECT_EQ(NameField()->selectedText(), "my.walk.gif");
+}
+
+TEST_F(SaveFilePanelTest, ProposesTheExtensionOfTheFormatInPlaceOfThatOfAnAnimation) {
+    Make(FilePanelKind::kSave);
+    panel->ProposeName("walk.FLI");
+    panel->Show();
+    EXPECT_EQ(NameField()->text(), "walk.gif");
+
+    ChooseFormat("PNG image sequence");
+    EXPECT_EQ(NameField()->text(), "walk.png");
+    ChooseFormat("Animated GIF");
+    EXPECT_EQ(NameField()->text(), "walk.gif");
+}
+
+TEST_F(SaveFilePanelTest, LeavesANameThatWasTypedAndAnEndThatIsNoExtensionAlone) {
+    Make(FilePanelKind::kSave);
+    panel->ProposeName("walk v1.2");
+    panel->Show();
+    ChooseFormat("PNG image sequence");
+    EXPECT_EQ(NameField()->text(), "walk v1.2");
+
+    NameField()->setText("run.gif");
+    ChooseFormat("Animated GIF");
+    ChooseFormat("PNG image sequence");
+    EXPECT_EQ(NameField()->text(), "run.gif");
+}
+
 TEST_F(SaveFilePanelTest, TellsTheChosenFormatToAnyThread) {
     Show(FilePanelKind::kSave);
     ChooseFormat("Two sequence");

@@ -1,5 +1,8 @@
 #include "ui/panels/status_view.h"
 
+#include <QTest>
+
+#include "app/saved_size.h"
 #include "ui/panels/view_fixture.h"
 
 namespace kirto::test {
@@ -103,6 +106,46 @@ TEST_F(StatusViewTest, KeepsItsHeightWhenTheBarComesAndItsWidthWithLongTexts) {
     EXPECT_EQ(line.minimumSizeHint().width(), width);
     line.ShowWork(5, 20);
     EXPECT_EQ(line.sizeHint().expandedTo(line.minimumSize()).height(), height);
+}
+
+TEST_F(StatusViewTest, TellsSizesOnceItIsToldTo) {
+    AddFrames(3);
+    EditOf(document)->width = 1;
+    EditOf(document)->height = 1;
+    Take();
+    line.resize(2000, 30);
+    line.UpdateDisplay();
+    EXPECT_EQ(line.sizes->text(), "");
+
+    line.ShowSizes(document.pixel_budget);
+    EXPECT_TRUE(line.sizes->text().endsWith(" in memory")) << line.sizes->text().toStdString();
+    const QString exact =
+        QString(", file %1 bytes").arg(*SavedSize(*document.CurrentState()).Exact());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return line.sizes->text().endsWith(exact); }));
+    EXPECT_TRUE(line.sizes->toolTip().contains("Saved as a GIF file, it has "));
+}
+
+TEST_F(StatusViewTest, LeavesOutSizesWhereThereIsNoRoom) {
+    AddFrames(3);
+    EditOf(document)->width = 1;
+    EditOf(document)->height = 1;
+    Take();
+    line.resize(2000, 30);
+    line.ShowSizes(document.pixel_budget);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return line.sizes->text().contains(", file "); }));
+    const QString all = line.sizes->text();
+
+    const auto narrow_while = [&](auto holds) {
+        for (int width = line.width(); width > 0 && holds(); width -= 10) {
+            line.resize(width, 30);
+            line.UpdateDisplay();
+        }
+    };
+    narrow_while([&] { return line.sizes->text() == all; });
+    EXPECT_TRUE(line.sizes->text().startsWith("file ")) << line.sizes->text().toStdString();
+    narrow_while([&] { return !line.sizes->text().isEmpty(); });
+    EXPECT_EQ(line.sizes->text(), "");
+    EXPECT_GT(line.width(), 100);
 }
 
 }  // namespace

@@ -52,6 +52,26 @@ TEST_F(PicturePaneTest, ShowsCrispPixelsHoweverLargeTheyAre) {
     EXPECT_EQ(image.pixel(middle - 64, 50), kRed);
 }
 
+TEST_F(PicturePaneTest, ZoomsByFingersAboutThePlaceBetweenThem) {
+    pane.SetCanvas({100, 100});
+    pane.SetZoom(8);
+    const QPointF at(90, 45);
+    const std::optional<QPoint> before = pane.PixelAt(at);
+    const auto pinch = [&](Qt::NativeGestureType type, double value) {
+        QNativeGestureEvent event(type, QPointingDevice::primaryPointingDevice(), 2, at, at,
+                                  pane.mapToGlobal(at), value, {});
+        QCoreApplication::sendEvent(&pane, &event);
+    };
+    pinch(Qt::ZoomNativeGesture, 0.5);
+    EXPECT_EQ(pane.Zoom(), 12);
+    EXPECT_EQ(pane.PixelAt(at), before);
+    pinch(Qt::ZoomNativeGesture, -0.5);
+    EXPECT_EQ(pane.Zoom(), 6);
+    EXPECT_EQ(pane.PixelAt(at), before);
+    pinch(Qt::RotateNativeGesture, 0.5);
+    EXPECT_EQ(pane.Zoom(), 6);
+}
+
 TEST_F(PicturePaneTest, ZoomsAboutThePointer) {
     pane.SetCanvas({100, 100});
     pane.SetZoom(8);

@@ -47,6 +47,7 @@ TEST_F(FrameCommands, SelectAtOnce) {
 TEST_F(FrameCommands, AskFirst) {
     EXPECT_EQ(ChosenBy(kMenuSelectEvery), "SelectEvery");
     EXPECT_EQ(ChosenBy(kMenuSelectRange), "SelectRange");
+    EXPECT_EQ(ChosenBy(kMenuGoToFrame), "GoToFrame");
     EXPECT_EQ(ChosenBy(kMenuDropEvery), "DropEvery");
     EXPECT_EQ(ChosenBy(kMenuRemoveDuplicates), "RemoveDuplicates");
     EXPECT_EQ(ChosenBy(kMenuSetPause), "SetPause");

@@ -7,6 +7,8 @@
 #include <QScreen>
 #include <QSlider>
 
+#include "support/environment.h"
+#include "ui/dialogs/colors_window.h"
 #include "ui/dialogs/fade_window.h"
 #include "ui/dialogs/preferences_window.h"
 #include "ui/shell/kirto_window_fixture.h"
@@ -88,14 +90,14 @@ TEST_F(KirtoWindowCommands, SaveAsShowsTheSavePanelWithAnEmptyNameAlsoForAnUnmod
     EXPECT_EQ(panels.TakeLines(), (Lines{"save text=", "save shown"}));
 }
 
-TEST_F(KirtoWindowCommands, SaveAsShowsTheSavePanelInTheDocumentsFolder) {
+TEST_F(KirtoWindowCommands, SaveAsShowsTheSavePanelInTheDocumentsFolderAndProposesItsName) {
     document.SetFile("/some/folder", "some.gif");
     OpenWithFrames(1);
 
     Do(kMenuSaveAs);
 
-    EXPECT_EQ(panels.TakeLines(),
-              (Lines{"save directory=/some/folder", "save text=", "save shown"}));
+    EXPECT_EQ(panels.TakeLines(), (Lines{"save directory=/some/folder",
+                                         "save text=", "save proposed=some.gif", "save shown"}));
 }
 
 TEST_F(KirtoWindowCommands, SaveAsDoesNothingWithoutFrames) {
@@ -391,6 +393,58 @@ TEST_F(KirtoWindowCommands, PresetsOfFramesDoNothingWithoutFrames) {
         Do(code);
         EXPECT_EQ(Height(), 150) << CodeText(code);
     }
+}
+
+TEST_F(KirtoWindowCommands, FitMakesThumbnailsAsHighAsAllOfThemAreInSight) {
+    prefs.thumbnail_maxheight = 4000;
+    for (int i = 0; i < 5; ++i)
+        AddFrame(4, 3);
+    Open();
+
+    Do(kThumbnailFit);
+
+    auto& grid = Find<ThumbDrawingView>("ThumbDrawingView");
+    const int sight = grid.parentWidget()->height();
+    EXPECT_LE(grid.Layout().ContentHeight(), sight);
+    EXPECT_EQ(grid.height(), sight);
+    window->SetThumbnailHeight(Height() + 1);
+    EXPECT_GT(grid.Layout().ContentHeight(), sight);
+}
+
+TEST_F(KirtoWindowCommands, HidesTheLabelsOfThumbnailsAndShowsThemAgain) {
+    Open();
+    const auto& grid = Find<ThumbDrawingView>("ThumbDrawingView");
+    EXPECT_TRUE(grid.ShowsLabels());
+    Do(kShowLabels);
+    EXPECT_FALSE(grid.ShowsLabels());
+    EXPECT_EQ(window->menuBar()->findChild<QAction*>("Labels")->text(), "Show Frame &Labels");
+    Do(kShowLabels);
+    EXPECT_TRUE(grid.ShowsLabels());
+}
+
+TEST_F(KirtoWindowCommands, ShowsTheColorsInOneWindowThatFollowsTheDocument) {
+    Open();
+    Do(kShowColors);
+    Do(kShowColors);
+    EXPECT_EQ(window->findChildren<ColorsWindow*>().size(), 1);
+    const auto& colors = Find<ColorsWindow>("ColorsWindow");
+    EXPECT_TRUE(colors.isVisible());
+    EXPECT_EQ(colors.swatches->Count(), 0);
+    AddFrame();
+    Do(kUpdateAll);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return colors.swatches->Count() == 256; }));
+}
+
+TEST_F(KirtoWindowCommands, RemembersWhetherThumbnailsHaveLabelsWithThePlaceOfTheWindow) {
+    const ScopedEnvironment configuration("XDG_CONFIG_HOME", folder.Path().c_str());
+    prefs.misc_savewindowdimensions = true;
+    Open();
+    Do(kShowLabels);
+    Do(B_QUIT_REQUESTED);
+
+    Open();
+
+    EXPECT_FALSE(Find<ThumbDrawingView>("ThumbDrawingView").ShowsLabels());
 }
 
 TEST_F(KirtoWindowCommands, ThePresetOfTheSettingsNeedsNoFrame) {

@@ -13,6 +13,7 @@ class RecordedPanels::Panel : public FilePanel {
     void SetTitle(const std::string& title) override { Record("title=" + title); }
     void SetDirectory(const std::string& path) override { Record("directory=" + path); }
     void SetSaveText(const std::string& text) override { Record("text=" + text); }
+    void ProposeName(const std::string& name) override { Record("proposed=" + name); }
     void Show() override { Record("shown"); }
 
   private:

@@ -1,6 +1,11 @@
 #include "ui/shell/kirto_window.h"
 
+#include <QAbstractButton>
+#include <QAbstractSlider>
+#include <QAbstractSpinBox>
+#include <QComboBox>
 #include <QGroupBox>
+#include <QLineEdit>
 #include <QMenuBar>
 #include <QProgressBar>
 #include <QScreen>
@@ -71,11 +76,32 @@ TEST_F(KirtoWindowTest, IsAtLeast550By400Pixels) {
     EXPECT_GE(window->height(), 400);
 }
 
-TEST_F(KirtoWindowTest, HasRoomForAllPanelsAtTheCornerOfTheDefaultPlace) {
+TEST_F(KirtoWindowTest, SaysOfEachControlWhatItDoes) {
+    AddFrame();
+    Open();
+    Do(kShowPlayer);
+    for (const QWidget* control : window->findChildren<QWidget*>()) {
+        // What shows frames has tips of its own for each of them; the fields in other controls are
+        // named by the toolkit.
+        const bool is_part = control->objectName().startsWith("qt_");
+        const bool is_view = !qobject_cast<const QAbstractButton*>(control) &&
+                             !qobject_cast<const QAbstractSlider*>(control) &&
+                             !qobject_cast<const QAbstractSpinBox*>(control) &&
+                             !qobject_cast<const QComboBox*>(control) &&
+                             !qobject_cast<const QLineEdit*>(control);
+        if (control->focusPolicy() == Qt::NoFocus || is_part || is_view) continue;
+        EXPECT_NE(control->toolTip(), "") << control->objectName().toStdString();
+    }
+}
+
+TEST_F(KirtoWindowTest, HasRoomForAllPanelsInTheMiddleOfTheScreenWhereNobodyHasPlacedIt) {
     Open(Prefs(Prefs::BuiltIn{}).misc_windowdimensions);
 
     const QScrollArea& area = Find<QScrollArea>("Panels");
-    EXPECT_EQ(window->geometry().topLeft(), QPoint(100, 80));
+    const QPoint middle = window->screen()->availableGeometry().center();
+    const int title =
+        window->style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, window.get());
+    EXPECT_LE((window->geometry().center() - middle).manhattanLength(), title);
     EXPECT_TRUE(window->screen()->availableGeometry().contains(window->geometry()));
     EXPECT_GE(area.viewport()->height(), area.widget()->minimumSizeHint().height());
     EXPECT_GT(Find<QWidget>("ThumbnailView").width(), area.width());

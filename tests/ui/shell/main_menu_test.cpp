@@ -72,7 +72,8 @@ TEST_F(MainMenu, HasTheItemsOfTheEditMenu) {
                item("Select None||", kMenuSelectNone),
                item("Invert Selection|Ctrl+Shift+I|", kMenuInvertSelection),
                item("Select Every Nth...||", kMenuSelectEvery),
-               item("Select Range...|Ctrl+G|", kMenuSelectRange)}));
+               item("Select Range...|Ctrl+G|", kMenuSelectRange),
+               item("Go to Frame...|Ctrl+J|", kMenuGoToFrame)}));
 }
 
 TEST_F(MainMenu, HasTheItemsOfTheAnimationMenu) {
@@ -123,6 +124,15 @@ TEST_F(MainMenu, SaysWhetherThePlayerIsShown) {
     EXPECT_EQ(player->text(), "Show Pla&yer");
 }
 
+TEST_F(MainMenu, SaysWhetherThumbnailsHaveLabels) {
+    const QAction* labels = bar->findChild<QAction*>("Labels");
+
+    ShowLabels(*bar, false);
+    EXPECT_EQ(labels->text(), "Show Frame &Labels");
+    ShowLabels(*bar, true);
+    EXPECT_EQ(labels->text(), "Hide Frame &Labels");
+}
+
 TEST_F(MainMenu, RedoesWithTheKeysOfEitherHabit) {
     const QAction* redo = MenuAt(1).actions().at(1);
 
@@ -165,7 +175,8 @@ TEST_F(MainMenu, HasTheItemsOfTheViewMenu) {
 
     EXPECT_EQ(ItemsOf(MenuAt(2)),
               (Lines{"Preview|Ctrl+P|awvp", "Toggle Mode|Ctrl+M|awvm", "-", "Preferences...||awvr",
-                     "-", "Show Player|Ctrl+Shift+P|wvpl", "Play or Pause|Ctrl+K|wply"}));
+                     "-", "Show Player|Ctrl+Shift+P|wvpl", "Play or Pause|Ctrl+K|wply",
+                     "Hide Frame Labels||wvlb", "Colors...||wvco"}));
 }
 
 TEST_F(MainMenu, HasTheItemsOfTheFrameMenu) {
@@ -220,13 +231,15 @@ TEST_F(MainMenu, DisablesWhatNeedsAFrameWithoutOne) {
                                   "Toggle Mode",
                                   "Preferences...",
                                   "Show Player",
+                                  "Hide Frame Labels",
+                                  "Colors...",
                                   "Insert...",
                                   "Insert Tiled...",
                                   "Insert Animation..."};
 
     EXPECT_EQ(enabled(), without_frames);
     EnableFrameItems(*bar, true);
-    EXPECT_EQ(enabled().size(), 48u);
+    EXPECT_EQ(enabled().size(), 51u);
     EnableFrameItems(*bar, false);
     EXPECT_EQ(enabled(), without_frames);
 }

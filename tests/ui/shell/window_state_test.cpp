@@ -56,6 +56,12 @@ TEST_F(WindowState, LeavesASplitterAsItIsWhenTheFileIsDamaged) {
     EXPECT_EQ(restored.sizes(), before);
 }
 
+TEST_F(WindowState, KeepsWhetherThumbnailsHaveLabels) {
+    EXPECT_TRUE(RestoreLabels());
+    StoreLabels(false);
+    EXPECT_FALSE(RestoreLabels());
+}
+
 TEST_F(WindowState, IsKeptBesideTheSettingsFile) {
     StoreSplitter(stored);
 

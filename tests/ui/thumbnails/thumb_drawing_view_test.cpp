@@ -313,6 +313,26 @@ TEST(ThumbDrawingView, TellsTheNameOfTheFrameBelowThePointer) {
     QToolTip::hideText();
 }
 
+TEST(ThumbDrawingView, TellsWhatTheMarksOfThatFrameMean) {
+    auto frame = std::make_shared<Frame>(*FrameOf(100, 50));
+    frame->local_palette = true;
+    ThumbnailFixture fixture({frame});
+    const QPoint point = fixture.MiddleOf(0);
+    QHelpEvent event(QEvent::ToolTip, point, fixture.Grid().mapToGlobal(point));
+    QApplication::sendEvent(&fixture.Grid(), &event);
+    EXPECT_TRUE(QToolTip::text().contains("100 x 50\nown palette"));
+    QToolTip::hideText();
+}
+
+TEST(ThumbDrawingView, LabelsThumbnailsOnceItIsToldTo) {
+    ThumbnailFixture fixture(SameFrames(1, 100, 100));
+    const QImage bare = fixture.Grid().grab().toImage();
+    fixture.Grid().ShowLabels(true);
+    EXPECT_NE(fixture.Grid().grab().toImage(), bare);
+    fixture.Grid().ShowLabels(false);
+    EXPECT_EQ(fixture.Grid().grab().toImage(), bare);
+}
+
 TEST(ThumbDrawingView, TakesTheFocusWhenItIsClicked) {
     ThumbnailFixture fixture(SameFrames(1, 10, 10));
     fixture.view->activateWindow();

@@ -40,6 +40,33 @@ std::vector<BRect> PlainRectangles(const FrameSequence& frames, int32 height, fl
     return table;
 }
 
+TEST(ThumbnailLayout, FindsTheLargestHeightAtWhichAllFit) {
+    std::mt19937 random(8);
+    const auto number = [&](int32 first, int32 last) {
+        return std::uniform_int_distribution<int32>(first, last)(random);
+    };
+    for (int round = 0; round < 50; ++round) {
+        FrameSequence frames;
+        for (int32 count = number(1, 30); count > 0; --count)
+            frames.Insert(0, std::make_shared<Frame>("", number(1, 900), number(1, 700)));
+        const int32 view_height = number(50, 900);
+        const auto right_edge = static_cast<float>(number(50, 900));
+        constexpr int32 kLeast = 30;
+        constexpr int32 kMost = 300;
+        int32 plain = kLeast;
+        for (int32 height = kLeast; height <= kMost; ++height) {
+            const ThumbnailLayout layout = LayoutOf(frames, height, right_edge);
+            bool fits = layout.ContentHeight() <= view_height;
+            for (int32 i = 0; i < layout.Count(); ++i)
+                fits = fits && layout.At(i).right <= right_edge;
+            if (fits) plain = height;
+        }
+        EXPECT_EQ(ThumbnailLayout::FittingHeight(frames, right_edge, view_height, kLeast, kMost),
+                  plain)
+            << "round " << round;
+    }
+}
+
 TEST(ThumbnailLayout, EqualsAPlainLoopOnFramesOfAnySize) {
     std::mt19937 random(7);
     const auto number = [&](int32 first, int32 last) {

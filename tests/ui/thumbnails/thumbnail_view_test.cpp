@@ -1,6 +1,7 @@
 #include "ui/thumbnails/thumbnail_view.h"
 
 #include <QComboBox>
+#include <QPushButton>
 #include <gtest/gtest.h>
 
 #include "document/command_codes.h"
@@ -69,8 +70,8 @@ TEST(ThumbnailView, OffersTheHeightsOfFrames) {
         emit menu.activated(i);
     }
     EXPECT_EQ(labels, (QStringList{"first half sized", "current half sized", "first full sized",
-                                   "current full sized"}));
-    EXPECT_EQ(fixture.window->Transcript(), "tvfh tvch tvff tvcf");
+                                   "current full sized", "Fit"}));
+    EXPECT_EQ(fixture.window->Transcript(), "tvfh tvch tvff tvcf tvft");
 }
 
 TEST(ThumbnailView, ForgetsItsThumbnailsWhenItIsReset) {
@@ -99,6 +100,19 @@ TEST(ThumbnailView, OffersToReadAsBrowsersDoWhereThereIsNoFrame) {
     EXPECT_FALSE(Named<QCheckBox>(empty, "FaithfulChoice").isHidden());
     EXPECT_FALSE(Named<QCheckBox>(empty, "FaithfulChoice").isChecked());
     EXPECT_TRUE(Named<QCheckBox>(full, "FaithfulChoice").isHidden());
+}
+
+TEST(ThumbnailView, OffersToOpenAnAnimationOrToInsertImagesWhileThereAreNoFrames) {
+    ThumbnailFixture empty({});
+    ThumbnailFixture full(SameFrames(1, 10, 10));
+    EXPECT_TRUE(Named<QPushButton>(full, "BeginByOpening").parentWidget()->isHidden());
+
+    for (const char* name : {"BeginByOpening", "BeginByInserting"}) {
+        QPushButton& button = Named<QPushButton>(empty, name);
+        EXPECT_FALSE(button.parentWidget()->isHidden());
+        button.click();
+    }
+    EXPECT_EQ(empty.window->Transcript(), "awfo awfi");
 }
 
 TEST(ThumbnailView, ThatChoiceStoresTheSetting) {

@@ -1,0 +1,75 @@
+#include "ui/controls/screen_color_button.h"
+
+#include <QGuiApplication>
+#include <QImage>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPixmap>
+#include <QScreen>
+#include <utility>
+
+namespace kirto {
+
+namespace {
+
+QColor ColorOnScreen(const QPoint& place) {
+    QScreen* screen = QGuiApplication::screenAt(place);
+    if (!screen) return {};
+    const QPoint on_it = place - screen->geometry().topLeft();
+    const QImage image = screen->grabWindow(0, on_it.x(), on_it.y(), 1, 1).toImage();
+    return image.isNull() ? QColor() : image.pixelColor(0, 0);
+}
+
+}  // namespace
+
+ScreenColorButton::ScreenColorButton(QWidget* parent, Eye eye)
+    : QPushButton("Pick from &Screen", parent), eye_(std::move(eye)) {
+    setObjectName("PickFromScreen");
+    setAutoDefault(false);
+    setFocusPolicy(Qt::TabFocus);
+    setEnabled(eye_ != nullptr);
+    setToolTip(eye_ ? "Takes the color that is clicked next, anywhere on the screen"
+                    : "This desktop lets no program see the screen");
+    connect(this, &QPushButton::clicked, this, [this] { StartPicking(); });
+}
+
+void ScreenColorButton::WhenPicked(std::function<void(const QColor& color)> picked) {
+    picked_ = std::move(picked);
+}
+
+// Only an X server shows programs more than their own windows.
+ScreenColorButton::Eye ScreenColorButton::EyeOfDesktop() {
+    return QGuiApplication::platformName() == "xcb" ? Eye(ColorOnScreen) : nullptr;
+}
+
+void ScreenColorButton::StartPicking() {
+    if (picking_) return;
+    picking_ = true;
+    grabMouse(Qt::CrossCursor);
+    grabKeyboard();
+}
+
+void ScreenColorButton::StopPicking() {
+    picking_ = false;
+    releaseMouse();
+    releaseKeyboard();
+}
+
+void ScreenColorButton::mousePressEvent(QMouseEvent* event) {
+    if (!picking_) QPushButton::mousePressEvent(event);
+}
+
+// The button is let go here as well, so that whatever is below the pointer sees no half of a click.
+void ScreenColorButton::mouseReleaseEvent(QMouseEvent* event) {
+    if (!picking_) return QPushButton::mouseReleaseEvent(event);
+    StopPicking();
+    const QColor color = eye_(event->globalPosition().toPoint());
+    if (event->button() == Qt::LeftButton && color.isValid() && picked_) picked_(color);
+}
+
+void ScreenColorButton::keyPressEvent(QKeyEvent* event) {
+    if (!picking_) return QPushButton::keyPressEvent(event);
+    StopPicking();
+}
+
+}  // namespace kirto
