@@ -90,24 +90,21 @@ void FileDialog::accept() {
     QFileDialog::accept();
 }
 
-void FileDialog::showEvent(QShowEvent* event) {
-    name_field_->setCompleter(completer_);
-    QFileDialog::showEvent(event);
-}
-
-// Keys that were typed after the one that closes the dialog still reach the field, and a folder
-// may only now have been read; neither may bring up what completes the name.
+// Keys that were typed after the one that closes the dialog still reach the field; they may not
+// bring up what completes the name.
 void FileDialog::hideEvent(QHideEvent* event) {
     QFileDialog::hideEvent(event);
     name_field_->setCompleter(nullptr);
 }
 
-// What completes the name hands all keys to the name field, also when a label's key has led to
-// another one.
+// What completes the name hands all keys to the name field, and may show itself only once a folder
+// has been read. So it is there while the field has the keyboard, and no longer.
 bool FileDialog::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == name_field_ && event->type() == QEvent::FocusIn)
+        name_field_->setCompleter(completer_);
     if (watched == name_field_ && event->type() == QEvent::FocusOut &&
-        static_cast<const QFocusEvent*>(event)->reason() == Qt::ShortcutFocusReason) {
-        completer_->popup()->hide();
+        static_cast<const QFocusEvent*>(event)->reason() != Qt::PopupFocusReason) {
+        name_field_->setCompleter(nullptr);
     }
     return QFileDialog::eventFilter(watched, event);
 }

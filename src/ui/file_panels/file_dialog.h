@@ -38,7 +38,6 @@ class FileDialog : public QFileDialog {
     void accept() override;
 
   protected:
-    void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -47,7 +46,7 @@ class FileDialog : public QFileDialog {
     bool EntersFolder();
 
     QLineEdit* name_field_;
-    QCompleter* completer_;  // of the name field, while the dialog is shown
+    QCompleter* completer_;  // of the name field, while that has the keyboard
     FilterProxy* proxy_ = nullptr;
     std::function<bool(const QString& path)> may_write_;
 };

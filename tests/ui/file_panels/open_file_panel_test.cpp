@@ -1,5 +1,6 @@
 #include "ui/file_panels/open_file_panel.h"
 
+#include <QCompleter>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
@@ -218,6 +219,27 @@ TEST_F(OpenFilePanelTest, SurvivesKeysTypedBehindTheOneThatClosesIt) {
 
         EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
     }
+}
+
+TEST_F(OpenFilePanelTest, CompletesNoNameOnceTheKeyboardHasLeftIt) {
+    AddFile("m.gif");
+    Show(FilePanelKind::kOpen);
+    ASSERT_EQ(Offered(1), "m.gif");
+    ASSERT_TRUE(QTest::qWaitForWindowActive(Dialog()));
+    NameField()->setFocus();
+    QCompleter* completer = NameField()->completer();
+    QTest::keyClicks(NameField(), "m");
+    ASSERT_TRUE(WaitFor([] { return QApplication::activePopupWidget() != nullptr; }));
+
+    AcceptButton()->setFocus(Qt::ShortcutFocusReason);
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+    // The same holds where the folder of what was typed has been read only now.
+    completer->complete();
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+
+    NameField()->setFocus(Qt::ShortcutFocusReason);
+    QTest::keyClicks(NameField(), ".");
+    EXPECT_TRUE(WaitFor([] { return QApplication::activePopupWidget() != nullptr; }));
 }
 
 TEST_F(OpenFilePanelTest, CompletesNamesAgainWhenItIsShownAgain) {
