@@ -1,10 +1,10 @@
 #include "ui/file_panels/file_dialog.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QCompleter>
 #include <QDir>
 #include <QFileInfo>
-#include <QFocusEvent>
 #include <QGridLayout>
 #include <QLineEdit>
 #include <algorithm>
@@ -24,7 +24,12 @@ FileDialog::FileDialog(QWidget* parent) : QFileDialog(parent) {
     }
     name_field_ = findChild<QLineEdit*>("fileNameEdit");
     completer_ = name_field_->completer();
-    name_field_->installEventFilter(this);
+    connect(qApp, &QApplication::focusChanged, this, &FileDialog::FollowKeyboard);
+}
+
+// The toolkit moves the keyboard once more while it takes the dialog apart.
+FileDialog::~FileDialog() {
+    disconnect(qApp, nullptr, this, nullptr);
 }
 
 void FileDialog::SetFilter(std::unique_ptr<BRefFilter> filter) {
@@ -99,14 +104,12 @@ void FileDialog::hideEvent(QHideEvent* event) {
 
 // What completes the name hands all keys to the name field, and may show itself only once a folder
 // has been read. So it is there while the field has the keyboard, and no longer.
-bool FileDialog::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == name_field_ && event->type() == QEvent::FocusIn)
+void FileDialog::FollowKeyboard(const QWidget* old, const QWidget* now) {
+    if (now == name_field_) {
         name_field_->setCompleter(completer_);
-    if (watched == name_field_ && event->type() == QEvent::FocusOut &&
-        static_cast<const QFocusEvent*>(event)->reason() != Qt::PopupFocusReason) {
+    } else if (old == name_field_) {
         name_field_->setCompleter(nullptr);
     }
-    return QFileDialog::eventFilter(watched, event);
 }
 
 // The toolkit would take a folder's name for one that lacks its extension.

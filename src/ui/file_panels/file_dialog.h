@@ -19,6 +19,7 @@ class FileDialog : public QFileDialog {
   public:
     // parent: the window that can't be used meanwhile; null for none.
     explicit FileDialog(QWidget* parent);
+    ~FileDialog() override;
 
     // Shows only the entries that the filter offers. Names that are typed are accepted anyway.
     void SetFilter(std::unique_ptr<BRefFilter> filter);
@@ -39,9 +40,9 @@ class FileDialog : public QFileDialog {
 
   protected:
     void hideEvent(QHideEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
+    void FollowKeyboard(const QWidget* old, const QWidget* now);
     // Shows the folder typed into the name field; returns false if there is none.
     bool EntersFolder();
 
