@@ -32,7 +32,7 @@ bool IsGif(uint32 format) {
 void Kirto::RefsReceived(BMessage* message) {
     entry_ref ref;
     if (message->FindRef("refs", &ref) != B_OK) return;
-    const bool animation = kirto::ClassifyAnimation(ref.Leaf(), desktop_.MimeTypeOf(ref.path)) !=
+    const bool animation = kirto::ClassifyFile(ref.path, desktop_.MimeTypeOf(ref.path)) !=
                            kirto::AnimationType::kNone;
     const bool dropped = message->what == B_SIMPLE_DATA;
     BMessage command = *message;
@@ -91,7 +91,7 @@ void Kirto::InsertAnimations(const BMessage& message) {
 // reset: in place of a document that was emptied.
 void Kirto::Load(const entry_ref& ref, int32 position, bool reset) {
     const kirto::AnimationType type =
-        kirto::ClassifyAnimation(ref.Leaf(), desktop_.MimeTypeOf(ref.path));
+        kirto::ClassifyFile(ref.path, desktop_.MimeTypeOf(ref.path));
     if (type == kirto::AnimationType::kNone)
         return kirto::Warn("The animation can't be opened because this file type is unsupported.");
     // What a reset leaves is where the history starts. A load that is stopped is its first edit.

@@ -5,6 +5,9 @@
 #include "base/text.h"
 #include "color/sf_hash.h"
 #include "formats/fli/fli_load.h"
+#include "formats/full_color/apng_reader.h"
+#include "formats/full_color/full_color_load.h"
+#include "formats/full_color/webp_reader.h"
 #include "formats/gif/gif_load.h"
 #include "kit/alert.h"
 
@@ -80,6 +83,10 @@ void ShareOutPauses(Animation& animation, FrameRange range, bool in_seconds) {
     animation.pause_length /= unit;
 }
 
+bool HasFullColor(AnimationType type) {
+    return type == AnimationType::kWebp || type == AnimationType::kApng;
+}
+
 BAlert DamageAlert(bool offers_browsers) {
     const char* text = "The animation can't be opened because it was corrupted or unreadable.";
     if (offers_browsers) return BAlert("", text, kAsBrowsersLabel, kSalvageLabel, kOkLabel);
@@ -127,7 +134,17 @@ AnimationType ClassifyContent(BFile* file) {
     file->Seek(0, SEEK_FROM_START);
     if (start[0] == 'G' && start[1] == 'I' && start[2] == 'F') return AnimationType::kGif;
     const bool flic_magic = (start[4] == 0x11 || start[4] == 0x12) && start[5] == 0xAF;
-    return flic_magic ? AnimationType::kFli : AnimationType::kNone;
+    if (flic_magic) return AnimationType::kFli;
+    if (WebpReader::Knows(*file)) return AnimationType::kWebp;
+    return ApngReader::Knows(*file) ? AnimationType::kApng : AnimationType::kNone;
+}
+
+AnimationType ClassifyFile(const std::string& path, const std::string& mime_type) {
+    const AnimationType named = ClassifyAnimation(entry_ref(path).Leaf(), mime_type);
+    if (named != AnimationType::kNone) return named;
+    BFile file(path, B_READ_ONLY);
+    const AnimationType found = ClassifyContent(&file);
+    return HasFullColor(found) ? found : AnimationType::kNone;
 }
 
 const char* TextOf(HarmlessCause cause) {
@@ -175,8 +192,19 @@ bool OpenFli(BFile* file, int32 position, AnimationDocument& document, BrowsersO
     return !stopped;
 }
 
+bool OpenFullColor(AnimationType type, BFile* file, int32 position, AnimationDocument& document,
+                   BrowsersOffer* offer) {
+    const auto format =
+        type == AnimationType::kWebp ? FullColorFormat::kWebp : FullColorFormat::kApng;
+    const FullColorLoad loader(format, file, position, document);
+    if (!loader.failed) return true;
+    if (!document.StopRequested()) AskAboutDamage(loader, position, document, offer);
+    return false;
+}
+
 bool OpenAnimation(AnimationType type, BFile* file, int32 position, AnimationDocument& document,
                    BrowsersOffer* offer) {
+    if (HasFullColor(type)) return OpenFullColor(type, file, position, document, offer);
     return type == AnimationType::kGif ? OpenGif(file, position, document, offer)
                                        : OpenFli(file, position, document, offer);
 }

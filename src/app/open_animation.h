@@ -9,13 +9,17 @@
 
 namespace kirto {
 
-enum class AnimationType { kNone, kGif, kFli };
+enum class AnimationType { kNone, kGif, kFli, kWebp, kApng };
 
 // What kind of animation the name or the MIME type says a file is. The name parts match anywhere in
 // the leaf name, case-sensitively; GIF is tested first.
 AnimationType ClassifyAnimation(const std::string& leaf_name, const std::string& mime_type);
-// Looks at the file's first bytes only, and sets the position back to the start.
+// Looks at the file's first bytes only, and sets the position back to the start. A WebP or PNG counts
+// when it is animated.
 AnimationType ClassifyContent(BFile* file);
+// By name and type, or, where these tell nothing, as an animated WebP or PNG by its first bytes: those
+// have the names of still images.
+AnimationType ClassifyFile(const std::string& path, const std::string& mime_type);
 
 // The cause as a clause: "an image is larger than the screen"; null for kNone.
 const char* TextOf(HarmlessCause cause);
@@ -37,7 +41,11 @@ bool OpenGif(BFile* file, int32 position, AnimationDocument& document,
 bool OpenFli(BFile* file, int32 position, AnimationDocument& document,
              BrowsersOffer* offer = nullptr);
 
-// Either of them. type: not kNone.
+// An animated WebP or PNG, as above.
+bool OpenFullColor(AnimationType type, BFile* file, int32 position, AnimationDocument& document,
+                   BrowsersOffer* offer = nullptr);
+
+// Any of them. type: not kNone.
 bool OpenAnimation(AnimationType type, BFile* file, int32 position, AnimationDocument& document,
                    BrowsersOffer* offer);
 
