@@ -5,10 +5,8 @@
 #include "base/text.h"
 #include "color/sf_hash.h"
 #include "formats/fli/fli_load.h"
-#include "formats/full_color/apng_reader.h"
-#include "formats/full_color/full_color_load.h"
-#include "formats/full_color/webp_reader.h"
 #include "formats/gif/gif_load.h"
+#include "formats/images/animated_image_load.h"
 #include "kit/alert.h"
 
 namespace kirto {
@@ -83,10 +81,6 @@ void ShareOutPauses(Animation& animation, FrameRange range, bool in_seconds) {
     animation.pause_length /= unit;
 }
 
-bool HasFullColor(AnimationType type) {
-    return type == AnimationType::kWebp || type == AnimationType::kApng;
-}
-
 BAlert DamageAlert(bool offers_browsers) {
     const char* text = "The animation can't be opened because it was corrupted or unreadable.";
     if (offers_browsers) return BAlert("", text, kAsBrowsersLabel, kSalvageLabel, kOkLabel);
@@ -116,6 +110,10 @@ void AskAboutDamage(const Load& load, int32 position, AnimationDocument& documen
 
 }  // namespace
 
+bool IsAnimatedImage(AnimationType type) {
+    return type == AnimationType::kWebp || type == AnimationType::kApng;
+}
+
 AnimationType ClassifyAnimation(const std::string& leaf_name, const std::string& mime_type) {
     if (mime_type == "image/gif" || ContainsAny(leaf_name, {".gif", ".GIF"})) {
         return AnimationType::kGif;
@@ -135,8 +133,15 @@ AnimationType ClassifyContent(BFile* file) {
     if (start[0] == 'G' && start[1] == 'I' && start[2] == 'F') return AnimationType::kGif;
     const bool flic_magic = (start[4] == 0x11 || start[4] == 0x12) && start[5] == 0xAF;
     if (flic_magic) return AnimationType::kFli;
-    if (WebpReader::Knows(*file)) return AnimationType::kWebp;
-    return ApngReader::Knows(*file) ? AnimationType::kApng : AnimationType::kNone;
+    switch (AnimatedImageFormatOf(*file)) {
+        case AnimatedImageFormat::kWebp:
+            return AnimationType::kWebp;
+        case AnimatedImageFormat::kApng:
+            return AnimationType::kApng;
+        case AnimatedImageFormat::kNone:
+            break;
+    }
+    return AnimationType::kNone;
 }
 
 AnimationType ClassifyFile(const std::string& path, const std::string& mime_type) {
@@ -144,7 +149,7 @@ AnimationType ClassifyFile(const std::string& path, const std::string& mime_type
     if (named != AnimationType::kNone) return named;
     BFile file(path, B_READ_ONLY);
     const AnimationType found = ClassifyContent(&file);
-    return HasFullColor(found) ? found : AnimationType::kNone;
+    return IsAnimatedImage(found) ? found : AnimationType::kNone;
 }
 
 const char* TextOf(HarmlessCause cause) {
@@ -192,19 +197,18 @@ bool OpenFli(BFile* file, int32 position, AnimationDocument& document, BrowsersO
     return !stopped;
 }
 
-bool OpenFullColor(AnimationType type, BFile* file, int32 position, AnimationDocument& document,
-                   BrowsersOffer* offer) {
+bool OpenAnimatedImage(AnimationType type, BFile* file, int32 position, AnimationDocument& document,
+                       const BTranslatorRoster& roster) {
     const auto format =
-        type == AnimationType::kWebp ? FullColorFormat::kWebp : FullColorFormat::kApng;
-    const FullColorLoad loader(format, file, position, document);
+        type == AnimationType::kWebp ? AnimatedImageFormat::kWebp : AnimatedImageFormat::kApng;
+    const AnimatedImageLoad loader(format, file, position, document, roster);
     if (!loader.failed) return true;
-    if (!document.StopRequested()) AskAboutDamage(loader, position, document, offer);
+    if (!document.StopRequested()) AskAboutDamage(loader, position, document, nullptr);
     return false;
 }
 
 bool OpenAnimation(AnimationType type, BFile* file, int32 position, AnimationDocument& document,
                    BrowsersOffer* offer) {
-    if (HasFullColor(type)) return OpenFullColor(type, file, position, document, offer);
     return type == AnimationType::kGif ? OpenGif(file, position, document, offer)
                                        : OpenFli(file, position, document, offer);
 }

@@ -1,10 +1,7 @@
-#include "formats/full_color/webp_reader.h"
+#include "kit/qt/webp_reader.h"
 
-#include <webp/demux.h>
-
-#include <array>
-#include <cstring>
 #include <limits>
+#include <webp/demux.h>
 
 namespace kirto {
 
@@ -19,23 +16,12 @@ void WebpReader::Deleter::operator()(WebPAnimDecoder* decoder) const {
     WebPAnimDecoderDelete(decoder);
 }
 
-bool WebpReader::Knows(BFile& file) {
-    // The chunk VP8X comes first in every file that has more than a still image.
-    constexpr uint8 kAnimation = 0x02;
-    std::array<uint8, 21> start{};
-    file.Seek(0, SEEK_FROM_START);
-    const bool whole = file.ReadExactly(start.data(), start.size());
-    file.Seek(0, SEEK_FROM_START);
-    return whole && std::memcmp(start.data(), "RIFF", 4) == 0 &&
-           std::memcmp(&start[8], "WEBPVP8X", 8) == 0 && (start[20] & kAnimation) != 0;
-}
-
 WebpReader::WebpReader(std::span<const uint8> file, uint64 pixel_bytes)
     : file_(file), pixel_bytes_(pixel_bytes) {}
 
 WebpReader::~WebpReader() = default;
 
-FullColorReader::Result WebpReader::ReadHeader(FullColorHeader* header) {
+AnimatedImageReader::Result WebpReader::ReadHeader(AnimatedImageHeader* header) {
     const WebPData data{file_.data(), file_.size()};
     WebPBitstreamFeatures features;
     if (WebPGetFeatures(data.bytes, data.size, &features) != VP8_STATUS_OK) return Result::kBroken;
@@ -57,7 +43,7 @@ FullColorReader::Result WebpReader::ReadHeader(FullColorHeader* header) {
     return Result::kFrame;
 }
 
-FullColorReader::Result WebpReader::Next() {
+AnimatedImageReader::Result WebpReader::Next() {
     if (frames_left_ == 0) return Result::kEnd;
     uint8* canvas = nullptr;
     int until = 0;

@@ -1,9 +1,7 @@
-#include "formats/full_color/apng_reader.h"
+#include "kit/qt/apng_reader.h"
 
-#include <png.h>
-
-#include <array>
 #include <cstring>
+#include <png.h>
 
 namespace kirto {
 
@@ -11,8 +9,6 @@ namespace {
 
 // The canvas, an image as large, and what it covers.
 constexpr uint64 kCanvasBytes = 12;
-// More chunks than that stand in front of no image.
-constexpr int kMostChunks = 1000;
 
 size_t RowBytes(const ApngControl& control) {
     return static_cast<size_t>(control.width) * 4;
@@ -41,28 +37,12 @@ void BlendOver(const uint8* source, uint8* target) {
 
 }  // namespace
 
-bool ApngReader::Knows(BFile& file) {
-    std::array<uint8, 8> bytes{};
-    file.Seek(0, SEEK_FROM_START);
-    bool known = file.ReadExactly(bytes.data(), bytes.size()) &&
-                 std::memcmp(bytes.data(), "\x89PNG\r\n\x1A\n", bytes.size()) == 0;
-    for (int i = 0; known; ++i) {
-        known = i < kMostChunks && file.ReadExactly(bytes.data(), bytes.size()) &&
-                std::memcmp(&bytes[4], "IDAT", 4) != 0;
-        if (known && std::memcmp(&bytes[4], "acTL", 4) == 0) break;
-        const int64 length = int64{bytes[0]} << 24 | bytes[1] << 16 | bytes[2] << 8 | bytes[3];
-        file.Seek(length + 4, SEEK_FROM_CURRENT);
-    }
-    file.Seek(0, SEEK_FROM_START);
-    return known;
-}
-
 size_t ApngReader::Offset(int32 x, int32 y) const {
     return (static_cast<size_t>(y) * static_cast<size_t>(start_.width) + static_cast<size_t>(x)) *
            4;
 }
 
-FullColorReader::Result ApngReader::ReadHeader(FullColorHeader* header) {
+AnimatedImageReader::Result ApngReader::ReadHeader(AnimatedImageHeader* header) {
     const std::optional<ApngStart> start = chunks_.ReadStart();
     if (!start) return Result::kBroken;
     start_ = *start;
@@ -74,7 +54,7 @@ FullColorReader::Result ApngReader::ReadHeader(FullColorHeader* header) {
     return Result::kFrame;
 }
 
-FullColorReader::Result ApngReader::Next() {
+AnimatedImageReader::Result ApngReader::Next() {
     if (frames_ == start_.frame_count) return Result::kEnd;
     const std::optional<ApngControl> next = chunks_.NextImage();
     if (!next) return Result::kBroken;
@@ -88,7 +68,7 @@ FullColorReader::Result ApngReader::Next() {
     return Result::kFrame;
 }
 
-FullColorReader::Result ApngReader::Decode() {
+AnimatedImageReader::Result ApngReader::Decode() {
     const std::span<const uint8> bytes = chunks_.Image();
     png_image image{};
     image.version = PNG_IMAGE_VERSION;
@@ -103,7 +83,7 @@ FullColorReader::Result ApngReader::Decode() {
         return Result::kNoMemory;
     }
     return png_image_finish_read(&image, nullptr, image_.get(), 0, nullptr) ? Result::kFrame
-                                                                           : Result::kBroken;
+                                                                            : Result::kBroken;
 }
 
 void ApngReader::Dispose() {

@@ -1,4 +1,4 @@
-#include "formats/full_color/full_color_load.h"
+#include "formats/images/animated_image_load.h"
 
 #include <algorithm>
 #include <cstring>
@@ -6,33 +6,32 @@
 
 #include "base/run_in_order.h"
 #include "base/text.h"
-#include "formats/full_color/apng_reader.h"
-#include "formats/full_color/webp_reader.h"
 #include "kit/watched_input.h"
 #include "picture/picture_builder.h"
 
 namespace kirto {
 
-using Result = FullColorReader::Result;
+using Result = AnimatedImageReader::Result;
 
-struct FullColorLoad::Piece {
+struct AnimatedImageLoad::Piece {
     Result result = Result::kBroken;
     std::shared_ptr<const Picture> picture;
     double pause = 0.0;  // in the unit of the settings
 };
 
 // What a piece becomes on any thread.
-struct FullColorLoad::Finished {
+struct AnimatedImageLoad::Finished {
     Palette palette;
     status_t status = B_OK;
 };
 
-FullColorLoad::FullColorLoad(FullColorFormat format, BFile* file, int32 start,
-                             AnimationDocument& document)
+AnimatedImageLoad::AnimatedImageLoad(AnimatedImageFormat format, BFile* file, int32 start,
+                                     AnimationDocument& document, const BTranslatorRoster& roster)
     : document_(document), position_(start) {
     if (!ReadFile(*file)) return;
-    reader_ = MakeReader(format);
-    const Result result = reader_->ReadHeader(&header_);
+    const uint64 room = document_.pixel_budget->Left() + PixelBudget::kWorkingRoom;
+    reader_ = roster.ReadAnimatedImage(format, {bytes_.get(), size_}, room);
+    const Result result = reader_ ? reader_->ReadHeader(&header_) : Result::kBroken;
     if (result != Result::kFrame) {
         Fail(result);
         return;
@@ -42,7 +41,7 @@ FullColorLoad::FullColorLoad(FullColorFormat format, BFile* file, int32 start,
     if (!failed) ShareOutPause(start);
 }
 
-bool FullColorLoad::ReadFile(BFile& file) {
+bool AnimatedImageLoad::ReadFile(BFile& file) {
     const int64 size = file.InitCheck() == B_OK ? file.Size() : -1;
     if (size < 0) {
         Fail(Result::kBroken);
@@ -60,14 +59,7 @@ bool FullColorLoad::ReadFile(BFile& file) {
     return !failed;
 }
 
-std::unique_ptr<FullColorReader> FullColorLoad::MakeReader(FullColorFormat format) const {
-    const std::span<const uint8> bytes(bytes_.get(), size_);
-    const uint64 room = document_.pixel_budget->Left() + PixelBudget::kWorkingRoom;
-    if (format == FullColorFormat::kWebp) return std::make_unique<WebpReader>(bytes, room);
-    return std::make_unique<ApngReader>(bytes, room);
-}
-
-void FullColorLoad::TakeHeader() {
+void AnimatedImageLoad::TakeHeader() {
     const bool empty = document_.FrameCount() == 0;
     document_.Change([&](Animation& animation) {
         animation.width = empty ? header_.width : std::max(animation.width, header_.width);
@@ -78,7 +70,7 @@ void FullColorLoad::TakeHeader() {
     });
 }
 
-void FullColorLoad::ReadFrames() {
+void AnimatedImageLoad::ReadFrames() {
     OrderedSteps<Piece, Finished> steps;
     steps.next = [this] { return Draw(); };
     steps.begin = [this](const Piece&) {
@@ -99,15 +91,15 @@ void FullColorLoad::ReadFrames() {
     RunInOrder(steps);
 }
 
-std::optional<FullColorLoad::Piece> FullColorLoad::Draw() {
+std::optional<AnimatedImageLoad::Piece> AnimatedImageLoad::Draw() {
     if (over_ || document_.StopRequested()) return std::nullopt;
     Piece piece{reader_->Next(), nullptr, 0.0};
     if (piece.result == Result::kEnd) return std::nullopt;
     if (piece.result == Result::kFrame) {
         piece.picture = last_ = PictureOfCanvas();
         if (!piece.picture) piece.result = Result::kNoMemory;
-        piece.pause = reader_->Milliseconds() /
-                      (document_.prefs.global_pauseinseconds ? 1000.0 : 10.0);
+        piece.pause =
+            reader_->Milliseconds() / (document_.prefs.global_pauseinseconds ? 1000.0 : 10.0);
     }
     over_ = piece.result != Result::kFrame;
     ++drawn_;
@@ -116,7 +108,7 @@ std::optional<FullColorLoad::Piece> FullColorLoad::Draw() {
 }
 
 // What is transparent has no color: files have any there, and palettes would be made of them.
-std::shared_ptr<const Picture> FullColorLoad::PictureOfCanvas() {
+std::shared_ptr<const Picture> AnimatedImageLoad::PictureOfCanvas() {
     PictureBuilder builder(header_.width, header_.height, B_RGBA32, document_.pixel_budget, last_);
     row_.resize(static_cast<size_t>(header_.width));
     for (int32 y = 0; y < header_.height; ++y) {
@@ -128,7 +120,7 @@ std::shared_ptr<const Picture> FullColorLoad::PictureOfCanvas() {
     return builder.Take();
 }
 
-bool FullColorLoad::Take(const Piece& piece, std::optional<Finished> finished) {
+bool AnimatedImageLoad::Take(const Piece& piece, std::optional<Finished> finished) {
     if (piece.result != Result::kFrame || !finished) {
         Fail(finished ? piece.result : Result::kNoMemory);
         return false;
@@ -149,13 +141,13 @@ bool FullColorLoad::Take(const Piece& piece, std::optional<Finished> finished) {
 }
 
 // Frames that all wait equally long in a document of their own follow the animation.
-void FullColorLoad::ShareOutPause(int32 start) {
+void AnimatedImageLoad::ShareOutPause(int32 start) {
     if (document_.FrameCount() != position_ - start || position_ == start) return;
     const auto current = document_.Current();
     const double pause = current->frames.At(start)->pause_length;
-    const bool equal = std::all_of(
-        current->frames.begin(), current->frames.end(),
-        [pause](const FramePointer& frame) { return frame->pause_length == pause; });
+    const bool equal =
+        std::all_of(current->frames.begin(), current->frames.end(),
+                    [pause](const FramePointer& frame) { return frame->pause_length == pause; });
     if (!equal) return;
     document_.Change([&](Animation& animation) {
         animation.use_pause = true;
@@ -169,7 +161,7 @@ void FullColorLoad::ShareOutPause(int32 start) {
     });
 }
 
-void FullColorLoad::Fail(Result result) {
+void AnimatedImageLoad::Fail(Result result) {
     failed = true;
     out_of_memory = result == Result::kNoMemory;
 }

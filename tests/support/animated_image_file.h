@@ -7,7 +7,7 @@
 
 namespace kirto::test {
 
-struct FullColorFile {
+struct AnimatedImageFile {
     enum class Dispose : uint8 { kNone, kBackground, kPrevious };
 
     struct Image {
@@ -38,6 +38,6 @@ struct FullColorFile {
 
 // A sound file for either format: frames of any size within the canvas, every disposal, pixels of
 // any alpha where they take the place of others. The same for the same seed.
-FullColorFile RandomFullColorFile(uint32 seed, bool webp);
+AnimatedImageFile RandomAnimatedImageFile(uint32 seed, bool webp);
 
 }  // namespace kirto::test

@@ -1,22 +1,30 @@
+// Image files that move: WebP and PNG files of several frames, which have any colors.
 #pragma once
 
-#include <span>
-
 #include "base/types.h"
+#include "kit/file.h"
 
 namespace kirto {
 
-// What an animation in full color says of itself in front of its frames.
-struct FullColorHeader {
+enum class AnimatedImageFormat { kNone, kWebp, kApng };
+
+// What the file's first bytes say it is; a WebP or PNG that does not move is none. Sets the
+// position back to the start.
+// Formats: the container specification of WebP, "Extended file format"; PNG specification, third
+// edition, "11.3.6.1 acTL".
+AnimatedImageFormat AnimatedImageFormatOf(BFile& file);
+
+// What an animated image says of itself in front of its frames.
+struct AnimatedImageHeader {
     int32 width = 0;  // of the canvas, pixels
     int32 height = 0;
     int32 frame_count = 0;  // as announced; there may be fewer
     int32 plays = 0;        // how often it is played; 0: for ever
 };
 
-// Draws the frames of an animation in full color, one after the other, each on a canvas that shows
+// Draws the frames of an animated image, one after the other, each on a canvas that shows
 // what a viewer shows. Used by one thread at a time.
-class FullColorReader {
+class AnimatedImageReader {
   public:
     enum class Result {
         kFrame,
@@ -25,10 +33,10 @@ class FullColorReader {
         kNoMemory  // it is too large for the memory that is left
     };
 
-    virtual ~FullColorReader() = default;
+    virtual ~AnimatedImageReader() = default;
 
     // kFrame when there are frames to draw. Called once, first.
-    virtual Result ReadHeader(FullColorHeader* header) = 0;
+    virtual Result ReadHeader(AnimatedImageHeader* header) = 0;
     // Draws the next frame.
     virtual Result Next() = 0;
     // A row of the canvas after kFrame: blue, green, red and alpha of each pixel, the colors not

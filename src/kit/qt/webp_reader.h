@@ -1,9 +1,9 @@
 #pragma once
 
 #include <memory>
+#include <span>
 
-#include "formats/full_color/full_color_reader.h"
-#include "kit/file.h"
+#include "kit/animated_image.h"
 
 struct WebPAnimDecoder;
 
@@ -11,17 +11,13 @@ namespace kirto {
 
 // Reads an animated WebP by libwebp, which puts the frames on the canvas.
 // Format: the container specification of WebP, "Extended file format".
-class WebpReader : public FullColorReader {
+class WebpReader : public AnimatedImageReader {
   public:
-    // Whether the file's first bytes are those of an animated WebP. Sets the position back to the
-    // start.
-    static bool Knows(BFile& file);
-
     // file: all of its bytes, which outlive this. pixel_bytes: what the canvas may take.
     WebpReader(std::span<const uint8> file, uint64 pixel_bytes);
     ~WebpReader() override;
 
-    Result ReadHeader(FullColorHeader* header) override;
+    Result ReadHeader(AnimatedImageHeader* header) override;
     Result Next() override;
     const uint8* Row(int32 y) const override;
     double Milliseconds() const override { return milliseconds_; }

@@ -1,13 +1,12 @@
-#include "support/full_color_file.h"
-
-#include <webp/encode.h>
-#include <webp/mux.h>
-#include <zlib.h>
+#include "support/animated_image_file.h"
 
 #include <array>
 #include <span>
 #include <stdexcept>
 #include <string>
+#include <webp/encode.h>
+#include <webp/mux.h>
+#include <zlib.h>
 
 #include "support/random_document.h"
 
@@ -27,11 +26,11 @@ void AppendChunk(Bytes* file, const std::string& type, const Bytes& content) {
     Bytes checked(type.begin(), type.end());
     checked.insert(checked.end(), content.begin(), content.end());
     file->insert(file->end(), checked.begin(), checked.end());
-    AppendBig(file, static_cast<uint32>(crc32(0, checked.data(), static_cast<uInt>(checked.size()))),
-              4);
+    AppendBig(file,
+              static_cast<uint32>(crc32(0, checked.data(), static_cast<uInt>(checked.size()))), 4);
 }
 
-Bytes Rgba(const FullColorFile::Image& image) {
+Bytes Rgba(const AnimatedImageFile::Image& image) {
     Bytes bytes;
     for (const uint32 pixel : image.pixels) {
         for (const int shift : {16, 8, 0, 24})
@@ -41,7 +40,7 @@ Bytes Rgba(const FullColorFile::Image& image) {
 }
 
 // The image's data as PNG has them: rows without a filter, deflated.
-Bytes Deflated(const FullColorFile::Image& image) {
+Bytes Deflated(const AnimatedImageFile::Image& image) {
     const Bytes pixels = Rgba(image);
     const size_t row = static_cast<size_t>(image.width) * 4;
     Bytes rows;
@@ -56,7 +55,7 @@ Bytes Deflated(const FullColorFile::Image& image) {
     return deflated;
 }
 
-Bytes ControlOf(const FullColorFile::Image& image, uint32 sequence) {
+Bytes ControlOf(const AnimatedImageFile::Image& image, uint32 sequence) {
     Bytes control;
     AppendBig(&control, sequence, 4);
     for (const int32 value : {image.width, image.height, image.x, image.y})
@@ -72,26 +71,26 @@ void Require(bool done) {
     if (!done) throw std::runtime_error("libwebp has refused a frame");
 }
 
-WebPMuxFrameInfo FrameInfo(const FullColorFile::Image& image, const WebPData& bitstream) {
+WebPMuxFrameInfo FrameInfo(const AnimatedImageFile::Image& image, const WebPData& bitstream) {
     WebPMuxFrameInfo info{};
     info.bitstream = bitstream;
     info.id = WEBP_CHUNK_ANMF;
     info.x_offset = image.x;
     info.y_offset = image.y;
     info.duration = image.milliseconds;
-    const bool clears = image.dispose == FullColorFile::Dispose::kBackground;
+    const bool clears = image.dispose == AnimatedImageFile::Dispose::kBackground;
     info.dispose_method = clears ? WEBP_MUX_DISPOSE_BACKGROUND : WEBP_MUX_DISPOSE_NONE;
     info.blend_method = image.over ? WEBP_MUX_BLEND : WEBP_MUX_NO_BLEND;
     return info;
 }
 
-void PushFrame(WebPMux* mux, const FullColorFile::Image& image) {
+void PushFrame(WebPMux* mux, const AnimatedImageFile::Image& image) {
     const Bytes pixels = Rgba(image);
     WebPData bitstream;
     WebPDataInit(&bitstream);
     uint8_t* encoded = nullptr;
-    bitstream.size = WebPEncodeLosslessRGBA(pixels.data(), image.width, image.height,
-                                            image.width * 4, &encoded);
+    bitstream.size =
+        WebPEncodeLosslessRGBA(pixels.data(), image.width, image.height, image.width * 4, &encoded);
     bitstream.bytes = encoded;
     const WebPMuxFrameInfo info = FrameInfo(image, bitstream);
     const bool pushed = WebPMuxPushFrame(mux, &info, 1) == WEBP_MUX_OK;
@@ -99,7 +98,7 @@ void PushFrame(WebPMux* mux, const FullColorFile::Image& image) {
     Require(pushed);
 }
 
-void Paint(const FullColorFile::Image& image, int32 canvas_width, std::vector<uint32>* canvas) {
+void Paint(const AnimatedImageFile::Image& image, int32 canvas_width, std::vector<uint32>* canvas) {
     for (int32 y = 0; y < image.height; ++y) {
         for (int32 x = 0; x < image.width; ++x) {
             const uint32 pixel = image.pixels[static_cast<size_t>(y * image.width + x)];
@@ -113,7 +112,7 @@ void Paint(const FullColorFile::Image& image, int32 canvas_width, std::vector<ui
 
 }  // namespace
 
-std::vector<uint8> FullColorFile::Apng(bool still) const {
+std::vector<uint8> AnimatedImageFile::Apng(bool still) const {
     Bytes file{0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n'};
     Bytes header;
     AppendBig(&header, static_cast<uint32>(width), 4);
@@ -146,7 +145,7 @@ std::vector<uint8> FullColorFile::Apng(bool still) const {
     return file;
 }
 
-std::vector<uint8> FullColorFile::Webp() const {
+std::vector<uint8> AnimatedImageFile::Webp() const {
     WebPMux* mux = WebPMuxNew();
     const WebPMuxAnimParams parameters{0, plays};
     Require(WebPMuxSetAnimationParams(mux, &parameters) == WEBP_MUX_OK);
@@ -162,7 +161,7 @@ std::vector<uint8> FullColorFile::Webp() const {
     return file;
 }
 
-std::vector<std::vector<uint32>> FullColorFile::Shown() const {
+std::vector<std::vector<uint32>> AnimatedImageFile::Shown() const {
     std::vector<std::vector<uint32>> shown;
     std::vector<uint32> canvas(static_cast<size_t>(width) * static_cast<size_t>(height));
     for (const Image& image : frames) {
@@ -179,15 +178,15 @@ std::vector<std::vector<uint32>> FullColorFile::Shown() const {
     return shown;
 }
 
-FullColorFile RandomFullColorFile(uint32 seed, bool webp) {
+AnimatedImageFile RandomAnimatedImageFile(uint32 seed, bool webp) {
     SeededChoices choices(seed);
-    FullColorFile file;
+    AnimatedImageFile file;
     file.width = choices.Between(1, 30);
     file.height = choices.Between(1, 30);
     file.plays = choices.Between(0, 3);
     const int32 count = choices.Between(2, 6);
     for (int32 i = 0; i < count; ++i) {
-        FullColorFile::Image image;
+        AnimatedImageFile::Image image;
         if (webp || i > 0) {
             image.x = choices.Between(0, file.width - 1) / 2 * 2;
             image.y = choices.Between(0, file.height - 1) / 2 * 2;
@@ -200,7 +199,7 @@ FullColorFile RandomFullColorFile(uint32 seed, bool webp) {
         }
         image.milliseconds = choices.Between(11, 500);
         image.over = choices.OneIn(2);
-        image.dispose = static_cast<FullColorFile::Dispose>(choices.Below(webp ? 2 : 3));
+        image.dispose = static_cast<AnimatedImageFile::Dispose>(choices.Below(webp ? 2 : 3));
         for (int32 j = 0; j < image.width * image.height; ++j) {
             const uint32 alpha = choices.OneIn(3) ? 0 : 255;
             const uint32 any = image.over ? alpha : choices.Below(256);

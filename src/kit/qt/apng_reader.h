@@ -1,27 +1,23 @@
 #pragma once
 
+#include <span>
 #include <vector>
 
 #include "base/allocation.h"
-#include "formats/full_color/apng_chunks.h"
-#include "formats/full_color/full_color_reader.h"
-#include "kit/file.h"
+#include "kit/animated_image.h"
+#include "kit/qt/apng_chunks.h"
 
 namespace kirto {
 
 // Reads an animated PNG: libpng decodes its images, which are put on the canvas here.
 // Format: PNG specification, third edition, "11.3.6.2 fcTL".
-class ApngReader : public FullColorReader {
+class ApngReader : public AnimatedImageReader {
   public:
-    // Whether the file is a PNG that says of itself in front of its image that it is animated. Sets
-    // the position back to the start.
-    static bool Knows(BFile& file);
-
     // file: all of its bytes, which outlive this. pixel_bytes: what the canvas may take.
     ApngReader(std::span<const uint8> file, uint64 pixel_bytes)
         : chunks_(file), pixel_bytes_(pixel_bytes) {}
 
-    Result ReadHeader(FullColorHeader* header) override;
+    Result ReadHeader(AnimatedImageHeader* header) override;
     Result Next() override;
     const uint8* Row(int32 y) const override { return canvas_.get() + Offset(0, y); }
     double Milliseconds() const override { return control_.milliseconds; }

@@ -1,12 +1,11 @@
-#include "formats/full_color/apng_chunks.h"
-
-#include <zlib.h>
+#include "kit/qt/apng_chunks.h"
 
 #include <algorithm>
 #include <array>
 #include <cstring>
 #include <limits>
 #include <utility>
+#include <zlib.h>
 
 namespace kirto {
 
@@ -170,9 +169,8 @@ std::optional<ApngControl> ApngChunks::TakeControl(std::span<const uint8> conten
     const uint32 numerator = ReadBig16(&content[20]);
     const uint32 denominator = ReadBig16(&content[22]);
     const double seconds = static_cast<double>(numerator) / (denominator == 0 ? 100 : denominator);
-    return ApngControl{*width,           *height,
-                       *x,               *y,
-                       seconds * 1000.0, static_cast<ApngControl::Dispose>(dispose),
+    return ApngControl{*width,    *height,          *x,
+                       *y,        seconds * 1000.0, static_cast<ApngControl::Dispose>(dispose),
                        blend == 1};
 }
 
