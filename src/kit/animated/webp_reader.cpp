@@ -1,4 +1,4 @@
-#include "kit/qt/webp_reader.h"
+#include "kit/animated/webp_reader.h"
 
 #include <limits>
 #include <webp/demux.h>
@@ -48,6 +48,8 @@ AnimatedImageReader::Result WebpReader::Next() {
     uint8* canvas = nullptr;
     int until = 0;
     if (!WebPAnimDecoderGetNext(decoder_.get(), &canvas, &until)) return Result::kBroken;
+    // The sum of the times may be more than the library can count.
+    if (until < shown_until_) return Result::kBroken;
     --frames_left_;
     canvas_ = canvas;
     milliseconds_ = static_cast<double>(until) - shown_until_;

@@ -1,4 +1,4 @@
-#include "kit/qt/apng_reader.h"
+#include "kit/animated/apng_reader.h"
 
 #include <cstring>
 #include <png.h>

@@ -5,7 +5,7 @@
 
 #include "base/allocation.h"
 #include "kit/animated_image.h"
-#include "kit/qt/apng_chunks.h"
+#include "kit/animated/apng_chunks.h"
 
 namespace kirto {
 

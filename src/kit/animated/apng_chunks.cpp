@@ -1,4 +1,4 @@
-#include "kit/qt/apng_chunks.h"
+#include "kit/animated/apng_chunks.h"
 
 #include <algorithm>
 #include <array>

@@ -1,10 +1,11 @@
 // Animated WebP and PNG files, frame by frame.
 #include <cstring>
 #include <gtest/gtest.h>
+#include <memory>
 #include <random>
 
-#include "kit/animated_image.h"
-#include "kit/qt/qt_translator_roster.h"
+#include "kit/animated/apng_reader.h"
+#include "kit/animated/webp_reader.h"
 #include "support/animated_image_file.h"
 
 namespace kirto::test {
@@ -32,10 +33,15 @@ AnimatedImageFile TwoFrames() {
     return file;
 }
 
+std::unique_ptr<AnimatedImageReader> ReaderOf(Format format, const Bytes& bytes, uint64 room) {
+    if (format == Format::kWebp) return std::make_unique<WebpReader>(bytes, room);
+    return std::make_unique<ApngReader>(bytes, room);
+}
+
 // All that a reader makes of a file.
 struct Read {
     explicit Read(Format format, Bytes bytes, uint64 room = kRoom) {
-        const auto reader = QtTranslatorRoster().ReadAnimatedImage(format, bytes, room);
+        const std::unique_ptr<AnimatedImageReader> reader = ReaderOf(format, bytes, room);
         end = reader->ReadHeader(&header);
         while (end == Result::kFrame && (end = reader->Next()) == Result::kFrame) {
             Canvas canvas(static_cast<size_t>(header.width) * static_cast<size_t>(header.height));
