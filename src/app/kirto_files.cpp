@@ -1,5 +1,6 @@
 // Moving whole animations between the document and files.
 #include <algorithm>
+#include <filesystem>
 #include <utility>
 
 #include "app/command_port.h"
@@ -23,6 +24,18 @@ constexpr int32 kSaveFirstButton = 2;
 constexpr int32 kOverwriteButton = 0;
 constexpr int32 kSaveAsButton = 1;
 
+// What a save writes is no WebP or PNG, so it must not take the file's place, nor that of another
+// one: a GIF of the same name, or none.
+std::string NameBeside(const entry_ref& ref) {
+    const std::filesystem::path leaf(ref.Leaf());
+    const std::string name = leaf.stem().string() + ".gif";
+    std::error_code error;
+    const bool taken =
+        std::filesystem::symlink_status(kirto::PathIn(ref.Directory(), name), error).type() !=
+        std::filesystem::file_type::not_found;
+    return taken ? "untitled" : name;
+}
+
 bool IsGif(uint32 format) {
     return format == 0 || format == kAnimatedGif;
 }
@@ -32,8 +45,8 @@ bool IsGif(uint32 format) {
 void Kirto::RefsReceived(BMessage* message) {
     entry_ref ref;
     if (message->FindRef("refs", &ref) != B_OK) return;
-    const bool animation = kirto::ClassifyAnimation(ref.Leaf(), desktop_.MimeTypeOf(ref.path)) !=
-                           kirto::AnimationType::kNone;
+    const bool animation =
+        kirto::ClassifyFile(ref.path, desktop_.MimeTypeOf(ref.path)) != kirto::AnimationType::kNone;
     const bool dropped = message->what == B_SIMPLE_DATA;
     BMessage command = *message;
     command.what = animation ? kirto::kOpenFile : kirto::kInsertFiles;
@@ -90,8 +103,7 @@ void Kirto::InsertAnimations(const BMessage& message) {
 
 // reset: in place of a document that was emptied.
 void Kirto::Load(const entry_ref& ref, int32 position, bool reset) {
-    const kirto::AnimationType type =
-        kirto::ClassifyAnimation(ref.Leaf(), desktop_.MimeTypeOf(ref.path));
+    const kirto::AnimationType type = kirto::ClassifyFile(ref.path, desktop_.MimeTypeOf(ref.path));
     if (type == kirto::AnimationType::kNone)
         return kirto::Warn("The animation can't be opened because this file type is unsupported.");
     // What a reset leaves is where the history starts. A load that is stopped is its first edit.
@@ -101,17 +113,21 @@ void Kirto::Load(const entry_ref& ref, int32 position, bool reset) {
     const std::optional<kirto::FileStamp> stamp = kirto::FileStamp::Of(ref.path);
     BFile file(ref.path, B_READ_ONLY);
     kirto::BrowsersOffer offer;
-    bool opened = kirto::OpenAnimation(type, &file, position, *this, &offer);
+    bool opened = kirto::IsAnimatedImage(type)
+                      ? kirto::OpenAnimatedImage(type, &file, position, *this, roster_)
+                      : kirto::OpenAnimation(type, &file, position, *this, &offer);
     refusal_ = offer.cause;
     if (offer.accepted) opened = OpenAsBrowsersDo(type, &file, position, *before_load);
     if (!opened && StopRequested()) return KeepStopped(reset, before);
     if (reset) AbandonStep();
     if (!opened) return;
     if (offer.accepted) notices_.ShowOpened(!reset);
-    if (reset) {
+    if (!reset) {
+        SetModified(true);
+    } else if (!kirto::IsAnimatedImage(type)) {
         SetFile(ref.Directory(), ref.Leaf(), stamp);
     } else {
-        SetModified(true);
+        SetFile(ref.Directory(), NameBeside(ref), std::nullopt);
     }
 }
 

@@ -6,6 +6,7 @@
 #include "color/sf_hash.h"
 #include "formats/fli/fli_load.h"
 #include "formats/gif/gif_load.h"
+#include "formats/images/animated_image_load.h"
 #include "kit/alert.h"
 
 namespace kirto {
@@ -109,6 +110,10 @@ void AskAboutDamage(const Load& load, int32 position, AnimationDocument& documen
 
 }  // namespace
 
+bool IsAnimatedImage(AnimationType type) {
+    return type == AnimationType::kWebp || type == AnimationType::kApng;
+}
+
 AnimationType ClassifyAnimation(const std::string& leaf_name, const std::string& mime_type) {
     if (mime_type == "image/gif" || ContainsAny(leaf_name, {".gif", ".GIF"})) {
         return AnimationType::kGif;
@@ -127,7 +132,24 @@ AnimationType ClassifyContent(BFile* file) {
     file->Seek(0, SEEK_FROM_START);
     if (start[0] == 'G' && start[1] == 'I' && start[2] == 'F') return AnimationType::kGif;
     const bool flic_magic = (start[4] == 0x11 || start[4] == 0x12) && start[5] == 0xAF;
-    return flic_magic ? AnimationType::kFli : AnimationType::kNone;
+    if (flic_magic) return AnimationType::kFli;
+    switch (AnimatedImageFormatOf(*file)) {
+        case AnimatedImageFormat::kWebp:
+            return AnimationType::kWebp;
+        case AnimatedImageFormat::kApng:
+            return AnimationType::kApng;
+        case AnimatedImageFormat::kNone:
+            break;
+    }
+    return AnimationType::kNone;
+}
+
+AnimationType ClassifyFile(const std::string& path, const std::string& mime_type) {
+    const AnimationType named = ClassifyAnimation(entry_ref(path).Leaf(), mime_type);
+    if (named != AnimationType::kNone) return named;
+    BFile file(path, B_READ_ONLY);
+    const AnimationType found = ClassifyContent(&file);
+    return IsAnimatedImage(found) ? found : AnimationType::kNone;
 }
 
 const char* TextOf(HarmlessCause cause) {
@@ -173,6 +195,16 @@ bool OpenFli(BFile* file, int32 position, AnimationDocument& document, BrowsersO
         animation.loop_count = 0;
     });
     return !stopped;
+}
+
+bool OpenAnimatedImage(AnimationType type, BFile* file, int32 position, AnimationDocument& document,
+                       const BTranslatorRoster& roster) {
+    const auto format =
+        type == AnimationType::kWebp ? AnimatedImageFormat::kWebp : AnimatedImageFormat::kApng;
+    const AnimatedImageLoad loader(format, file, position, document, roster);
+    if (!loader.failed) return true;
+    if (!document.StopRequested()) AskAboutDamage(loader, position, document, nullptr);
+    return false;
 }
 
 bool OpenAnimation(AnimationType type, BFile* file, int32 position, AnimationDocument& document,

@@ -6,16 +6,24 @@
 #include "document/animation_document.h"
 #include "formats/gif/harmless_cause.h"
 #include "kit/file.h"
+#include "kit/translator_roster.h"
 
 namespace kirto {
 
-enum class AnimationType { kNone, kGif, kFli };
+enum class AnimationType { kNone, kGif, kFli, kWebp, kApng };
+
+// Whether it is a WebP or PNG.
+bool IsAnimatedImage(AnimationType type);
 
 // What kind of animation the name or the MIME type says a file is. The name parts match anywhere in
 // the leaf name, case-sensitively; GIF is tested first.
 AnimationType ClassifyAnimation(const std::string& leaf_name, const std::string& mime_type);
-// Looks at the file's first bytes only, and sets the position back to the start.
+// Looks at the file's first bytes only, and sets the position back to the start. A WebP or PNG
+// counts when it is animated.
 AnimationType ClassifyContent(BFile* file);
+// By name and type, or, where these tell nothing, as an animated WebP or PNG by its first bytes:
+// those have the names of still images.
+AnimationType ClassifyFile(const std::string& path, const std::string& mime_type);
 
 // The cause as a clause: "an image is larger than the screen"; null for kNone.
 const char* TextOf(HarmlessCause cause);
@@ -37,7 +45,11 @@ bool OpenGif(BFile* file, int32 position, AnimationDocument& document,
 bool OpenFli(BFile* file, int32 position, AnimationDocument& document,
              BrowsersOffer* offer = nullptr);
 
-// Either of them. type: not kNone.
+// An animated WebP or PNG, as above, read by the roster.
+bool OpenAnimatedImage(AnimationType type, BFile* file, int32 position, AnimationDocument& document,
+                       const BTranslatorRoster& roster);
+
+// A GIF, FLI or FLC.
 bool OpenAnimation(AnimationType type, BFile* file, int32 position, AnimationDocument& document,
                    BrowsersOffer* offer);
 

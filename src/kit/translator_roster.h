@@ -1,10 +1,12 @@
 #pragma once
 
 #include <memory>
+#include <span>
 #include <string>
 #include <vector>
 
 #include "base/types.h"
+#include "kit/animated_image.h"
 #include "kit/bitmap.h"
 #include "kit/file.h"
 #include "kit/message.h"
@@ -35,6 +37,13 @@ class BTranslatorRoster {
     // when the budget refuses it. The result is null on failure.
     virtual status_t Translate(BFile& source, std::shared_ptr<kirto::PixelBudget> budget,
                                std::shared_ptr<BBitmap>* result) = 0;
+
+    // What reads the frames of an animated image; null when nothing does. file: all of its bytes,
+    // which outlive the result. pixel_bytes: what its canvas may take.
+    virtual std::unique_ptr<kirto::AnimatedImageReader> ReadAnimatedImage(
+        kirto::AnimatedImageFormat, std::span<const uint8> /*file*/, uint64 /*pixel_bytes*/) const {
+        return nullptr;
+    }
 
     // Writes the picture in one of the translator's output formats. settings: the translator's own
     // named values, absent ones at their defaults.

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "app/kirto_fixture.h"
+#include "support/animated_image_file.h"
 
 namespace kirto::test {
 
@@ -16,6 +17,12 @@ constexpr int32 kOpenButton = 1;
 constexpr int32 kInsert = 2;
 constexpr int32 kDiscardButton = 1;
 constexpr int32 kSaveButton = 2;
+
+AnimatedImageFile TwoFrames() {
+    AnimatedImageFile file;
+    file.frames = {{0, 0, 1, 1, {0xFFFFFFFF}}, {0, 0, 1, 1, {0xFF000000}}};
+    return file;
+}
 
 class KirtoRefs : public KirtoFixture {
   protected:
@@ -226,6 +233,20 @@ TEST_F(KirtoRefs, TakesMixedCaseEndingsForImages) {
                                     "unsupported: " +
                                     name)});
     }
+}
+
+TEST_F(KirtoRefs, TakesAWebpOrPngForAnAnimationOnlyWhereItMoves) {
+    Write("walk.png", TwoFrames().Apng());
+    Write("walk.webp", TwoFrames().Webp());
+    Write("still.png", {0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n'});
+    Start();
+    for (const std::string name : {"walk.png", "walk.webp"}) {
+        desktop_.Answer({kCancelButton});
+        EXPECT_EQ(Do(Files(B_SIMPLE_DATA, {name})), "auda") << name;
+        EXPECT_EQ(TakeLines(), Lines{kQuestion}) << name;
+    }
+    EXPECT_EQ(Do(Files(B_SIMPLE_DATA, {"still.png"})),
+              "auda svup(Status: loading frame 1 of 1...) auda");
 }
 
 TEST_F(KirtoRefs, LooksForTheEndingInTheLeafNameOnly) {

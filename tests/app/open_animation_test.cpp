@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "base/text.h"
+#include "support/animated_image_file.h"
 #include "support/fli_builder.h"
 #include "support/gif_builder.h"
 #include "support/test_support.h"
@@ -142,6 +143,10 @@ TEST(ClassifyContent, KnowsAnimationsByTheirFirstBytes) {
     EXPECT_EQ(classify({'G', 'I', 'F'}), AnimationType::kGif);
     EXPECT_EQ(classify(FliBuilder(1, 1, FliBuilder::kFli)), AnimationType::kFli);
     EXPECT_EQ(classify(FliBuilder(1, 1, FliBuilder::kFlc)), AnimationType::kFli);
+    AnimatedImageFile file;
+    file.frames = {{0, 0, 1, 1, {0xFFFFFFFF}}, {0, 0, 1, 1, {0xFF000000}}};
+    EXPECT_EQ(classify(file.Webp()), AnimationType::kWebp);
+    EXPECT_EQ(classify(file.Apng()), AnimationType::kApng);
     EXPECT_EQ(classify({0, 0, 0, 0, 0x13, 0xAF}), AnimationType::kNone);
     EXPECT_EQ(classify({0, 0, 0, 0, 0x11}), AnimationType::kNone);
     EXPECT_EQ(classify({'G', 'I'}), AnimationType::kNone);

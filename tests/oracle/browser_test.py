@@ -99,7 +99,7 @@ def main():
         else:
             subprocess.run([program, "--make", str(ANIMATIONS), made], check=True)
             subprocess.run([program, "--save", str(SAVED), made], check=True)
-            paths = sorted(pathlib.Path(made).glob("*.gif")) + corpus_animations()
+            paths = sorted(pathlib.Path(made).iterdir()) + corpus_animations()
         ours, theirs = decode(program, paths)
     right = sum(expected(*each) for each in zip(paths, ours, theirs))
     frames = sum(len(each.frames) for each in theirs)

@@ -1,4 +1,4 @@
-"""What a web browser makes of GIF files: every frame, pixel by pixel, with its duration.
+"""What a web browser makes of GIF, WebP and PNG files: every frame, pixel by pixel, with its duration.
 
 The browser is Chromium, without a window; the files and the page that decodes them come from a server
 on this machine.
@@ -72,8 +72,8 @@ class _Handler(http.server.BaseHTTPRequestHandler):
         if folder == "":
             self._answer(200, "text/html", self.server.page)
         elif folder == "animation" and int(rest[0]) < len(self.server.paths):
-            content = pathlib.Path(self.server.paths[int(rest[0])]).read_bytes()
-            self._answer(200, "image/gif", content)
+            path = pathlib.Path(self.server.paths[int(rest[0])])
+            self._answer(200, f"image/{path.suffix[1:]}", path.read_bytes())
         else:
             self._answer(404, "text/plain", b"")
 
@@ -126,7 +126,7 @@ def is_missing():
 
 
 def decode(paths, keep=digest_of):
-    """Each of the GIF files as the browser decodes it, in order."""
+    """Each of the files as the browser decodes it, in order."""
     server = _Server(paths, keep)
     threading.Thread(target=server.serve_forever, daemon=True).start()
     decoded = []

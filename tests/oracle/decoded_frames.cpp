@@ -4,6 +4,7 @@
 //   decoded_frames FILE...          one JSON object a line: {"repetitions", "frames": [[width,
 //                                   height, microseconds, MD5 of the pixels], ...], "failed"}
 //   decoded_frames --make N FOLDER  writes N animations made at random, 0.gif, 1.gif, ...
+//                                   and a quarter as many animated PNG and WebP files each
 //   decoded_frames --save N FOLDER  saves N animations faithfully, saved0.gif, saved1.gif, ...
 #include <cmath>
 #include <cstdio>
@@ -14,6 +15,8 @@
 #include "base/md5.h"
 #include "base/text.h"
 #include "formats/faithful/faithful_gif_save.h"
+#include "kit/qt/qt_translator_roster.h"
+#include "support/animated_image_file.h"
 #include "support/random_gif.h"
 #include "support/shown_animation.h"
 #include "support/test_support.h"
@@ -44,13 +47,19 @@ int64 MicrosecondsOf(const Animation& animation, const Frame& frame) {
     return std::llround(hundredths * 10000);
 }
 
+bool Open(BFile* file, AnimationDocument& document) {
+    const AnimationType type = ClassifyContent(file);
+    if (!IsAnimatedImage(type)) return OpenGif(file, 0, document);
+    return OpenAnimatedImage(type, file, 0, document, QtTranslatorRoster());
+}
+
 void PrintFrames(const std::string& path) {
     const DebugRecorder debug;
     const AlertRecorder salvages({0});
     DocumentFixture fixture;
     fixture.prefs.animation_faithful = true;
     BFile file(path, B_READ_ONLY);
-    const bool opened = OpenGif(&file, 0, fixture.document);
+    const bool opened = Open(&file, fixture.document);
     const auto animation = fixture.document.Current();
     std::string frames;
     for (const FramePointer& frame : animation->frames) {
@@ -61,6 +70,11 @@ void PrintFrames(const std::string& path) {
     }
     std::printf("{\"repetitions\": \"%s\", \"frames\": [%s], \"failed\": %s}\n",
                 RepetitionsOf(*animation).c_str(), frames.c_str(), opened ? "false" : "true");
+}
+
+void MakeAnimatedImages(uint32 seed, const std::string& path) {
+    WriteBytes(path + ".png", RandomAnimatedImageFile(seed, false).Apng());
+    WriteBytes(path + ".webp", RandomAnimatedImageFile(seed, true).Webp());
 }
 
 void SaveScenes(uint32 seed, const std::string& path) {
@@ -84,6 +98,8 @@ int main(int argc, char** argv) {
         for (uint32 i = 0; i < std::stoul(arguments[1]); ++i) {
             kirto::test::WriteBytes(arguments[2] + "/" + std::to_string(i) + ".gif",
                                     kirto::test::RandomGif(i));
+            if (i % 4 == 0)
+                kirto::test::MakeAnimatedImages(i, arguments[2] + "/" + std::to_string(i));
         }
         return 0;
     }

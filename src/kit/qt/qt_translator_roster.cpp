@@ -10,12 +10,14 @@
 #include <functional>
 
 #include "kit/image_header.h"
+#include "kit/animated/apng_reader.h"
 #include "kit/qt/file_device.h"
 #include "kit/qt/image_bitmap.h"
 #include "kit/qt/picture_image.h"
 #include "kit/qt/png_device.h"
 #include "kit/qt/safe_drawing.h"
 #include "kit/qt/straight_tiff.h"
+#include "kit/animated/webp_reader.h"
 #include "kit/targa.h"
 
 namespace kirto {
@@ -232,6 +234,19 @@ status_t QtTranslatorRoster::Translate(const BBitmap& source, translator_id tran
     ApplySettings(settings, *entry->format, &writer);
     if (!writer.write(image)) return B_IO_ERROR;
     return destination.WriteStatus();
+}
+
+std::unique_ptr<AnimatedImageReader> QtTranslatorRoster::ReadAnimatedImage(
+    AnimatedImageFormat format, std::span<const uint8> file, uint64 pixel_bytes) const {
+    switch (format) {
+        case AnimatedImageFormat::kWebp:
+            return std::make_unique<WebpReader>(file, pixel_bytes);
+        case AnimatedImageFormat::kApng:
+            return std::make_unique<ApngReader>(file, pixel_bytes);
+        case AnimatedImageFormat::kNone:
+            break;
+    }
+    return nullptr;
 }
 
 std::vector<translator_id> QtTranslatorRoster::Translators() const {

@@ -18,6 +18,9 @@ class QtTranslatorRoster : public BTranslatorRoster {
                        std::shared_ptr<BBitmap>* result) override;
     status_t Translate(const BBitmap& source, translator_id translator, uint32 format,
                        const BMessage& settings, BFile& destination) override;
+    std::unique_ptr<AnimatedImageReader> ReadAnimatedImage(AnimatedImageFormat format,
+                                                           std::span<const uint8> file,
+                                                           uint64 pixel_bytes) const override;
     std::vector<translator_id> Translators() const override;
     bool GetTranslatorInfo(translator_id translator, std::string* name) const override;
     std::vector<translation_format> InputFormats(translator_id translator) const override;

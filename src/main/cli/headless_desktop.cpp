@@ -80,6 +80,8 @@ std::string HeadlessDesktop::MimeTypeOf(const std::string& path) {
             return "image/gif";
         case AnimationType::kFli:
             return "video/x-fli";
+        case AnimationType::kWebp:
+        case AnimationType::kApng:
         case AnimationType::kNone:
             break;
     }

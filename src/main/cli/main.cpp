@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "base/program_files.h"
+#include "kit/animated_image.h"
 #include "main/cli/cli_program.h"
 #include "main/cli/no_translators.h"
 
@@ -17,13 +18,26 @@ namespace {
 
 constexpr const char* kImageProgram = "kirto-cli-images";
 
+// Whether it may be an animated WebP or PNG. What comes through a pipe may.
+bool OpensAnimatedImage(const kirto::CliOperation& operation) {
+    const bool inserts = operation.option == "--insert-animation";
+    if (!inserts && operation.option != "--open") return false;
+    const size_t end = inserts ? operation.value.rfind('@') : std::string::npos;
+    const std::string name = operation.value.substr(0, end);
+    const bool standard_input = name == "-";
+    BFile file(standard_input ? "/dev/stdin" : name, B_READ_ONLY);
+    if (file.InitCheck() != B_OK) return standard_input;
+    return kirto::AnimatedImageFormatOf(file) != kirto::AnimatedImageFormat::kNone;
+}
+
 bool UsesImages(const kirto::CliArguments& arguments) {
     static const std::set<std::string> kImageOptions = {
         "--insert",        "--insert-tiled", "--overlay",    "--text",
         "--save-sequence", "--save-sheet",   "--save-frame", "--list-formats"};
     return std::any_of(
-        arguments.operations.begin(), arguments.operations.end(),
-        [](const auto& operation) { return kImageOptions.contains(operation.option); });
+        arguments.operations.begin(), arguments.operations.end(), [](const auto& operation) {
+            return kImageOptions.contains(operation.option) || OpensAnimatedImage(operation);
+        });
 }
 
 // Becomes the program with the image formats, which belongs to this one. Returns only where that
