@@ -8,7 +8,7 @@ namespace kirto {
 namespace {
 
 // The decoder has two canvases.
-constexpr uint64 kCanvasBytes = 8;
+constexpr uint64 kBytesOfCanvases = 8;
 
 }  // namespace
 
@@ -27,7 +27,7 @@ AnimatedImageReader::Result WebpReader::ReadHeader(AnimatedImageHeader* header) 
     if (WebPGetFeatures(data.bytes, data.size, &features) != VP8_STATUS_OK) return Result::kBroken;
     const uint64 pixels =
         static_cast<uint64>(features.width) * static_cast<uint64>(features.height);
-    if (pixels > pixel_bytes_ / kCanvasBytes) return Result::kNoMemory;
+    if (pixels > pixel_bytes_ / kBytesOfCanvases) return Result::kNoMemory;
     WebPAnimDecoderOptions options;
     WebPAnimDecoderOptionsInit(&options);
     options.color_mode = MODE_BGRA;
