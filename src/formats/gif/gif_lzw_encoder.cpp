@@ -57,8 +57,7 @@ inline const uint8* GifLzwEncoder::AddFollowingRuns(const uint8* next, const uin
         size_t slot = 0;
         next = ExtendPrefix(next, end, &slot);
         if (next == end) return end;
-        // A code of more than 12 bits is never looked up: the table is cleared at once.
-        slots_[slot] = prefix_ << 20 | uint32{*next} << 12 | (next_free_ & 0xFFF);
+        Store(slot, prefix_, *next, next_free_);
         if (run_length_ > 0) AddRun(next_free_);
         OutputCode(prefix_, code_size_);
         cleared = next_free_ >> code_size_ != 0 && ++code_size_ > kMaxCodeSize;
@@ -81,13 +80,12 @@ inline const uint8* GifLzwEncoder::AddShort(const uint8* next, const uint8* end)
     uint32 code_size = code_size_;
     bool cleared = false;
     for (; next != end && !cleared; ++next) {
-        const uint32 string = prefix << 8 | *next;
         size_t slot = 0;
-        if (Find(string, &slot)) {
-            prefix = slots_[slot] & 0xFFF;
+        if (Find(prefix, *next, &slot)) {
+            prefix = CodeOf(slots_[slot]);
             continue;
         }
-        slots_[slot] = string << 12 | (next_free & 0xFFF);
+        Store(slot, prefix, *next, next_free);
         packer.Add(prefix, code_size);
         if (HasBlocks(packer)) {
             packer_ = packer;
@@ -157,30 +155,33 @@ inline const uint8* GifLzwEncoder::ExtendPrefix(const uint8* next, const uint8* 
     uint32 prefix = prefix_;
     for (; next != end; ++next) {
         size_t slot = 0;
-        if (!Find(prefix << 8 | *next, &slot)) {
+        if (!Find(prefix, *next, &slot)) {
             *free_slot = slot;
             break;
         }
-        prefix = slots_[slot] & 0xFFF;
+        prefix = CodeOf(slots_[slot]);
     }
     prefix_ = prefix;
     return next;
 }
 
 // Whether the table has the string. Its slot, or else the free one where it belongs.
-inline bool GifLzwEncoder::Find(uint32 string, size_t* slot) const {
-    size_t place = Slot(string);
+inline bool GifLzwEncoder::Find(uint32 prefix, uint8 last, size_t* slot) const {
+    // Strings with the same last index never meet, and the multiplication spreads the others. It
+    // doesn't wait for the prefix.
+    size_t place = (prefix << (kHashBits - kMaxCodeSize)) ^ (last * 0x2E35U % slots_.size());
+    const uint32 string = String(prefix, last);
     for (;; place = (place + 1) % slots_.size()) {
         const uint32 found = slots_[place];
         *slot = place;
-        if (found >> 12 == string) return true;
+        if ((found & ~(kMaxCode << 8)) == string) return true;
         if (found == empty_slot_) return false;
     }
 }
 
-inline size_t GifLzwEncoder::Slot(uint32 string) {
-    // The multiplication spreads neighboring strings, of which there are many.
-    return (string * 0x9E3779B1U) >> (32 - kHashBits);
+// A code of more than 12 bits is never looked up: the table is cleared at once.
+inline void GifLzwEncoder::Store(size_t slot, uint32 prefix, uint8 last, uint32 code) {
+    slots_[slot] = String(prefix, last) | (code & kMaxCode) << 8;
 }
 
 // Says so, with the code of a table that is full.

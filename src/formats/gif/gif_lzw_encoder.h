@@ -26,6 +26,7 @@ class GifLzwEncoder {
   private:
     static constexpr uint32 kMaxCodeSize = 12;
     static constexpr uint32 kNoPrefix = ~uint32{0};
+    static constexpr uint32 kMaxCode = (uint32{1} << kMaxCodeSize) - 1;
     static constexpr uint32 kHashBits = 14;
     static constexpr size_t kBlockSize = 255;
     // Sub-blocks that are put out at once.
@@ -58,8 +59,10 @@ class GifLzwEncoder {
     const uint8* StartString(const uint8* next, const uint8* end);
     const uint8* ExtendRun(const uint8* next, const uint8* end);
     void AddRun(uint32 code);
-    static size_t Slot(uint32 string);
-    bool Find(uint32 string, size_t* slot) const;
+    static uint32 String(uint32 prefix, uint8 last) { return prefix << 20 | last; }
+    static uint32 CodeOf(uint32 slot) { return slot >> 8 & kMaxCode; }
+    bool Find(uint32 prefix, uint8 last, size_t* slot) const;
+    void Store(size_t slot, uint32 prefix, uint8 last, uint32 code);
     const uint8* ExtendPrefix(const uint8* next, const uint8* end, size_t* free_slot);
     void ClearTable();
     void ResetTable();
@@ -82,8 +85,8 @@ class GifLzwEncoder {
     bool follows_runs_ = true;  // false until the table is cleared: runs_ lacks new strings
     size_t taken_ = 0;          // indices since the table was cleared
 
-    // Hash table of the strings. A slot is a string's prefix code (12 bits), its last index (8) and
-    // its own code (12). No string begins with the clear code, so that marks an empty slot.
+    // Hash table of the strings. A slot is a string's prefix code (12 bits), its own code (12) and
+    // its last index (8). No string begins with the clear code, so that marks an empty slot.
     const uint32 empty_slot_;
     std::array<uint32, size_t{1} << kHashBits> slots_;
     std::array<Run, 256> runs_;
