@@ -34,7 +34,8 @@ std::vector<std::string> CommandLines(const fs::path& document) {
     bool in_code = false;
     bool continues = false;
     for (const std::string& line : LinesOf(document)) {
-        if (line.starts_with("```")) in_code = !in_code;
+        // Blocks of a list's items are indented.
+        if (line.find("```") == line.find_first_not_of(' ')) in_code = !in_code;
         if (continues) {
             commands.back() += '\n' + line;
         } else if (in_code && line.find("kirto-cli ") != std::string::npos) {
