@@ -22,6 +22,11 @@ constexpr size_t PiecesInFlight(int32 threads) {
     return static_cast<size_t>(threads) * 2;
 }
 
+// The same for pieces that are small, which the first 16 show.
+constexpr size_t SmallPiecesInFlight(int32 threads) {
+    return 8 * PiecesInFlight(threads);
+}
+
 // Carries out the steps; see RunInOrder.
 template <typename Input, typename Output>
 class OrderedRun {
@@ -35,7 +40,11 @@ class OrderedRun {
     }
 
   private:
+    using Clock = std::chrono::steady_clock;
     static constexpr std::chrono::milliseconds kLook{20};
+    // Pieces that take less are small, once there were enough of them to tell.
+    static constexpr std::chrono::microseconds kSmall{100};
+    static constexpr int64 kEnough = 16;
 
     struct Piece : WorkerThreads::Task {
         Piece(const OrderedSteps<Input, Output>& all_steps, Input piece_input)
@@ -89,7 +98,24 @@ class OrderedRun {
         const std::unique_ptr<Piece> piece = std::move(pieces_.front());
         pieces_.pop_front();
         begun_ = false;
+        ++taken_;
         return steps_.take(piece->input, std::move(output));
+    }
+
+    bool ArePiecesSmall() const {
+        return taken_ >= kEnough && Clock::now() - start_ < taken_ * kSmall;
+    }
+
+    // Until the first piece is done. Being woken for each small one would take as long as the work
+    // on it: then later ones are waited for, too, so that the next ones are there without waiting.
+    void WaitForFirst(WorkerThreads& workers, bool small) {
+        const Piece& first = *pieces_.front();
+        if (small && !workers.WaitFor(first, {})) {
+            workers.WaitFor(*pieces_[pieces_.size() / 2], kLook);
+        }
+        while (!workers.WaitFor(first, kLook)) {
+            if (steps_.waiting) steps_.waiting();
+        }
     }
 
     // False when the calling thread is to do the rest alone.
@@ -103,14 +129,14 @@ class OrderedRun {
             if (!workers.Add(*piece)) return false;
         }
         for (;;) {
-            while (pieces_.size() < PiecesInFlight(threads_) && Fetch())
+            const bool small = ArePiecesSmall();
+            const size_t kept = small ? SmallPiecesInFlight(threads_) : PiecesInFlight(threads_);
+            while (pieces_.size() < kept && Fetch())
                 workers.Add(*pieces_.back());
             if (!HasPiece()) return true;
             Piece& piece = *pieces_.front();
             if (!Begin(piece)) return true;
-            while (!workers.WaitFor(piece, kLook)) {
-                if (steps_.waiting) steps_.waiting();
-            }
+            WaitForFirst(workers, small);
             if (piece.thrown) std::rethrow_exception(piece.thrown);
             // Alone, with the results of later pieces out of the way, there may be memory enough.
             if (!piece.output) return false;
@@ -129,6 +155,8 @@ class OrderedRun {
 
     const OrderedSteps<Input, Output>& steps_;
     const int32 threads_;
+    const Clock::time_point start_ = Clock::now();
+    int64 taken_ = 0;
     std::deque<std::unique_ptr<Piece>> pieces_;  // in their order
     bool begun_ = false;                         // the first of them
     bool over_ = false;                          // next() has no more

@@ -29,7 +29,10 @@ bool WorkerThreads::Add(Task& task) {
 
 bool WorkerThreads::WaitFor(const Task& task, std::chrono::milliseconds longest) {
     std::unique_lock lock(mutex_);
-    return done_.wait_for(lock, longest, [&] { return task.done_; });
+    awaited_ = &task;
+    const bool done = done_.wait_for(lock, longest, [&] { return task.done_; });
+    awaited_ = nullptr;
+    return done;
 }
 
 void WorkerThreads::StartThread() {
@@ -54,7 +57,7 @@ void WorkerThreads::CarryOutTasks(int32 worker) {
         task->Run(worker);
         lock.lock();
         task->done_ = true;
-        done_.notify_one();
+        if (task == awaited_) done_.notify_one();
     }
 }
 

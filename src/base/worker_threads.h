@@ -48,7 +48,8 @@ class WorkerThreads {
     std::condition_variable more_;
     std::condition_variable done_;
     std::deque<Task*> waiting_;
-    size_t idle_ = 0;  // threads that wait for a task
+    const Task* awaited_ = nullptr;  // by the owner
+    size_t idle_ = 0;                // threads that wait for a task
     bool over_ = false;
     std::vector<std::thread> threads_;  // the owner's
 };

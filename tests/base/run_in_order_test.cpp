@@ -90,27 +90,37 @@ TEST(RunInOrder, TakesAPieceThatIsDoneLateBeforeThoseAfterIt) {
     }
 }
 
-TEST(RunInOrder, KeepsABoundedNumberOfPieces) {
-    for (const int32 threads : kThreadCounts) {
-        Squares squares(200);
-        size_t kept = 0;
-        size_t most_kept = 0;
-        const auto next = squares.steps.next;
-        const auto take = squares.steps.take;
-        squares.steps.next = [&] {
-            most_kept = std::max(most_kept, ++kept);
-            return next();
-        };
-        squares.steps.take = [&](int32 i, std::optional<int32> result) {
-            --kept;
-            return take(i, result);
-        };
+// How many pieces were kept at a time, of so many.
+size_t MostKept(int32 count, int32 threads) {
+    Squares squares(count);
+    size_t kept = 0;
+    size_t most_kept = 0;
+    const auto next = squares.steps.next;
+    const auto take = squares.steps.take;
+    squares.steps.next = [&] {
+        most_kept = std::max(most_kept, ++kept);
+        return next();
+    };
+    squares.steps.take = [&](int32 i, std::optional<int32> result) {
+        --kept;
+        return take(i, result);
+    };
 
-        RunInOrder(squares.steps, threads);
+    RunInOrder(squares.steps, threads);
 
-        EXPECT_EQ(squares.log, Squares::LogOf(200));
-        EXPECT_EQ(most_kept, threads == 1 ? 1 : PiecesInFlight(threads));
-    }
+    EXPECT_EQ(squares.log, Squares::LogOf(count));
+    return most_kept;
+}
+
+TEST(RunInOrder, KeepsFewPiecesUntilTheyAreKnownToBeSmall) {
+    EXPECT_EQ(MostKept(200, 1), 1u);
+    EXPECT_EQ(MostKept(16, 2), PiecesInFlight(2));
+    EXPECT_EQ(MostKept(16, 3), PiecesInFlight(3));
+}
+
+TEST(RunInOrder, KeepsABoundedNumberOfSmallPieces) {
+    for (const int32 threads : {2, 3, 16})
+        EXPECT_LE(MostKept(2000, threads), SmallPiecesInFlight(threads));
 }
 
 TEST(RunInOrder, EndsWhereAPieceIsNotBegun) {
