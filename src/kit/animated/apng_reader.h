@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "base/allocation.h"
-#include "kit/animated_image.h"
 #include "kit/animated/apng_chunks.h"
+#include "kit/animated_image.h"
 
 namespace kirto {
 

@@ -9,15 +9,15 @@
 #include <cstring>
 #include <functional>
 
-#include "kit/image_header.h"
 #include "kit/animated/apng_reader.h"
+#include "kit/animated/webp_reader.h"
+#include "kit/image_header.h"
 #include "kit/qt/file_device.h"
 #include "kit/qt/image_bitmap.h"
 #include "kit/qt/picture_image.h"
 #include "kit/qt/png_device.h"
 #include "kit/qt/safe_drawing.h"
 #include "kit/qt/straight_tiff.h"
-#include "kit/animated/webp_reader.h"
 #include "kit/targa.h"
 
 namespace kirto {

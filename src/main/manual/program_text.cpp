@@ -39,7 +39,8 @@ ProgramText CliProgramText() {
     text.summary = "edit frame animations from the command line";
     text.synopsis = "OPTION...";
     text.description = {
-        "kirto-cli does what kirto does, without a window: it opens GIF, FLI, FLC, WebP and APNG animations "
+        "kirto-cli does what kirto does, without a window: it opens GIF, FLI, FLC, WebP and APNG "
+        "animations "
         "and images, edits them and saves them.",
         kCliOrder};
     text.options = {CliOperations(), CliSettings()};
