@@ -45,10 +45,12 @@ function(kirto_install_desktop_files)
     endforeach()
 endfunction()
 
-# The command line; what it becomes for image files is nothing that a user starts.
+# The command line; what it becomes to write image files, and what reads them for both programs, is
+# nothing that a user starts.
 function(kirto_install_cli)
     install(TARGETS kirto-cli COMPONENT kirto-cli)
-    install(TARGETS kirto-cli-images RUNTIME DESTINATION ${kirto_helpers} COMPONENT kirto-cli)
+    install(TARGETS kirto-cli-images kirto-decode
+        RUNTIME DESTINATION ${kirto_helpers} COMPONENT kirto-cli)
     install(FILES ${PROJECT_SOURCE_DIR}/packaging/kirto.thumbnailer
         DESTINATION ${CMAKE_INSTALL_DATADIR}/thumbnailers COMPONENT kirto-cli)
 endfunction()

@@ -42,6 +42,7 @@ cp "$packages/walk.gif" "$root/tmp/walk.gif"
 inside kirto-cli --quiet --open /tmp/walk.gif --reverse --save /tmp/back.gif
 inside kirto-cli --quiet --open /tmp/back.gif --select 0 --save-frame /tmp/frame.png
 inside test -s /tmp/frame.png
+inside kirto-cli --quiet --insert /tmp/frame.png --save /tmp/still.gif
 
 say "the editor"
 inside apt-get install -qq -y /packages/kirto.deb >/dev/null

@@ -31,7 +31,7 @@ bool AddPart(std::string_view part, int32 frames, FrameSet* set) {
         part = part.substr(0, slash);
     }
     // A sign is no dash between two numbers.
-    const size_t dash = part.empty() ? part.npos : part.find('-', 1);
+    const size_t dash = part.empty() ? std::string_view::npos : part.find('-', 1);
     const auto first = ParsePosition(part.substr(0, dash), frames);
     if (!first) return false;
     if (dash == std::string_view::npos) {

@@ -17,7 +17,7 @@ unsigned char Folded(char c) {
 
 // Takes the number that the text begins with, without the zeros before it.
 std::string_view TakeNumber(std::string_view* text) {
-    const auto end = std::find_if_not(text->begin(), text->end(), IsDigit);
+    const char* const end = std::find_if_not(text->begin(), text->end(), IsDigit);
     std::string_view digits(text->begin(), end);
     text->remove_prefix(digits.size());
     digits.remove_prefix(std::min(digits.find_first_not_of('0'), digits.size()));

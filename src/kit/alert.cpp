@@ -32,7 +32,7 @@ void WarnOutOfMemory() noexcept {
 
 BAlert::BAlert(std::string title, std::string text, std::string button0, std::string button1,
                std::string button2, alert_type type)
-    : title_(std::move(title)), text_(std::move(text)), type_(type), default_button_(0) {
+    : title_(std::move(title)), text_(std::move(text)), type_(type) {
     buttons_.push_back(std::move(button0));
     for (std::string* button : {&button1, &button2}) {
         if (!button->empty()) buttons_.push_back(std::move(*button));

@@ -57,7 +57,7 @@ class BAlert {
     std::string text_;
     std::vector<std::string> buttons_;
     alert_type type_;
-    int32 default_button_;
+    int32 default_button_ = 0;
 };
 
 namespace kirto {

@@ -32,6 +32,16 @@ size_t RowBytes(color_space space, int32 width) {
 }  // namespace
 
 BBitmap::BBitmap(BRect bounds, color_space space, std::shared_ptr<kirto::PixelBudget> budget)
+    : BBitmap(bounds, space, nullptr, std::move(budget)) {}
+
+std::shared_ptr<BBitmap> BBitmap::OnSealedFile(BRect bounds, color_space space,
+                                               const kirto::FileDescriptor& file,
+                                               std::shared_ptr<kirto::PixelBudget> budget) {
+    return std::shared_ptr<BBitmap>(new BBitmap(bounds, space, &file, std::move(budget)));
+}
+
+BBitmap::BBitmap(BRect bounds, color_space space, const kirto::FileDescriptor* file,
+                 std::shared_ptr<kirto::PixelBudget> budget)
     : bounds_(bounds), space_(space), budget_(std::move(budget)) {
     if (!bounds.IsValid()) return;
     width_ = bounds.PixelWidth();
@@ -41,16 +51,18 @@ BBitmap::BBitmap(BRect bounds, color_space space, std::shared_ptr<kirto::PixelBu
     // Both factors are below 2^31.
     const size_t bytes = bytes_per_row_ * static_cast<size_t>(height_);
     if (budget_ && !budget_->Reserve(bytes + kirto::PixelBudget::kFrameCost)) return;
-    bits_ = kirto::AllocateArray<uint8>(bytes);
-    if (bits_) {
-        bytes_ = bytes;
-    } else if (budget_) {
-        budget_->Release(bytes + kirto::PixelBudget::kFrameCost);
-    }
+    bytes_ = bytes;
+    bits_ = file ? kirto::BitmapMemory::OfSealedFile(*file, bytes)
+                 : kirto::BitmapMemory::Allocate(bytes);
+    if (!bits_) ReleaseBudget();
 }
 
 BBitmap::~BBitmap() {
-    if (budget_ && bits_) budget_->Release(bytes_ + kirto::PixelBudget::kFrameCost);
+    if (bits_) ReleaseBudget();
+}
+
+void BBitmap::ReleaseBudget() {
+    if (budget_) budget_->Release(bytes_ + kirto::PixelBudget::kFrameCost);
 }
 
 namespace kirto {

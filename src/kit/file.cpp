@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <limits>
 #include <new>
+#include <sys/mman.h>
 #include <sys/stat.h>
 #include <sys/xattr.h>
 #include <unistd.h>
@@ -102,8 +103,12 @@ BFile::BFile(const std::string& path, open_mode) : path_(path) {
     descriptor_ = open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
     if (descriptor_ < 0) {
         status_ = StatusFromErrno(errno);
-        return;
+    } else {
+        CheckOpened();
     }
+}
+
+void BFile::CheckOpened() {
     struct stat info;
     if (fstat(descriptor_, &info) != 0) {
         status_ = StatusFromErrno(errno);
@@ -119,6 +124,22 @@ BFile::~BFile() {
     DiscardTemporary();
     if (descriptor_ >= 0) close(descriptor_);
     if (directory_ >= 0) close(directory_);
+}
+
+std::unique_ptr<BFile> BFile::OnDescriptor(kirto::FileDescriptor descriptor) {
+    std::unique_ptr<BFile> file(new BFile);
+    file->descriptor_ = descriptor.Release();
+    file->CheckOpened();
+    return file;
+}
+
+kirto::FileDescriptor BFile::ForOtherProcess() const {
+    if (descriptor_ >= 0) {
+        return kirto::FileDescriptor(fcntl(descriptor_, F_DUPFD_CLOEXEC, 0));
+    }
+    kirto::FileDescriptor copy(memfd_create("kirto-file", MFD_CLOEXEC));
+    if (copy && WriteAll(copy.Get(), buffer_, 0) != B_OK) return {};
+    return copy;
 }
 
 std::unique_ptr<BFile> BFile::CreateReplacing(const std::string& path) {

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "base/file_descriptor.h"
 #include "base/types.h"
 
 enum open_mode : int32 {
@@ -41,6 +42,9 @@ class BFile {
     static std::unique_ptr<BFile> CreatePrivate(const std::string& path);
     // A file over the given bytes, for reading and writing, up to 2 GiB.
     static std::unique_ptr<BFile> OnMemory(std::vector<uint8> bytes = {});
+
+    // A file for reading, over what the descriptor refers to.
+    static std::unique_ptr<BFile> OnDescriptor(kirto::FileDescriptor descriptor);
 
     // A file that keeps nothing of what is written but its size.
     static std::unique_ptr<BFile> ThatCounts();
@@ -80,12 +84,17 @@ class BFile {
     // happens.
     void SetMimeType(const std::string& type);
 
+    // A descriptor for another process that is to read the file, from anywhere in it; none where
+    // the system gives none. Not for files that are being written.
+    kirto::FileDescriptor ForOtherProcess() const;
+
     // The bytes of a memory file.
     const std::vector<uint8>& Memory() const { return buffer_; }
 
   private:
     BFile() = default;
 
+    void CheckOpened();
     static std::unique_ptr<BFile> Create(const std::string& path, bool for_owner_only);
 
     status_t OpenTemporary(bool for_owner_only);

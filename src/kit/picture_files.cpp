@@ -1,5 +1,6 @@
 #include "kit/picture_files.h"
 
+#include <atomic>
 #include <functional>
 #include <utility>
 
@@ -12,13 +13,13 @@ namespace {
 struct Reading {
     status_t status = B_OK;
     std::shared_ptr<BBitmap> picture;
-};
+    std::atomic<bool> given_up = false;
 
-Reading Read(BFile& file, BTranslatorRoster& roster, std::shared_ptr<PixelBudget> budget) {
-    Reading reading;
-    reading.status = roster.Translate(file, std::move(budget), &reading.picture);
-    return reading;
-}
+    void Read(BFile& file, BTranslatorRoster& roster, std::shared_ptr<PixelBudget> budget) {
+        status = roster.TranslateUnless([this] { return given_up.load(); }, file, std::move(budget),
+                                        &picture);
+    }
+};
 
 // False when the work was stopped before the task was done.
 bool Finish(Work& work, std::function<void()> task) {
@@ -46,7 +47,10 @@ template <typename FinishTask, typename OpenFile>
 status_t ReadBy(const FinishTask& finish, const OpenFile& open, BTranslatorRoster& roster,
                 const std::shared_ptr<PixelBudget>& budget, std::shared_ptr<BBitmap>* result) {
     const auto reading = std::make_shared<Reading>();
-    if (!finish([=, &roster] { *reading = Read(*open(), roster, budget); })) return B_CANCELED;
+    if (!finish([=, &roster] { reading->Read(*open(), roster, budget); })) {
+        reading->given_up = true;
+        return B_CANCELED;
+    }
     *result = std::move(reading->picture);
     return reading->status;
 }

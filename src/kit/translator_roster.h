@@ -1,8 +1,10 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <span>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "base/types.h"
@@ -37,6 +39,14 @@ class BTranslatorRoster {
     // when the budget refuses it. The result is null on failure.
     virtual status_t Translate(BFile& source, std::shared_ptr<kirto::PixelBudget> budget,
                                std::shared_ptr<BBitmap>* result) = 0;
+
+    // The same for whoever may lose interest meanwhile. given_up: asked every now and then, on this
+    // thread, whether to end early with B_CANCELED, by a roster that can.
+    virtual status_t TranslateUnless(const std::function<bool()>& /*given_up*/, BFile& source,
+                                     std::shared_ptr<kirto::PixelBudget> budget,
+                                     std::shared_ptr<BBitmap>* result) {
+        return Translate(source, std::move(budget), result);
+    }
 
     // What reads the frames of an animated image; null when nothing does. file: all of its bytes,
     // which outlive the result. pixel_bytes: what its canvas may take.

@@ -47,7 +47,7 @@ Picture::Strips Borrowed(const std::shared_ptr<const BBitmap>& bitmap) {
 }  // namespace
 
 std::shared_ptr<const Picture> Picture::Of(std::shared_ptr<const BBitmap> bitmap,
-                                           std::shared_ptr<PixelBudget> budget) {
+                                           const std::shared_ptr<PixelBudget>& budget) {
     if (!bitmap) return nullptr;
     const color_space space = bitmap->ColorSpace();
     const int32 width = bitmap->Width();

@@ -22,7 +22,7 @@ class Picture {
     // counts what is packed; may be null. A bitmap that is not 32-bit has no rows here, but is
     // given back.
     static std::shared_ptr<const Picture> Of(std::shared_ptr<const BBitmap> bitmap,
-                                             std::shared_ptr<PixelBudget> budget = nullptr);
+                                             const std::shared_ptr<PixelBudget>& budget = nullptr);
     // Of strips of that width, in a 32-bit space. Null when the budget, if any, refuses what a
     // frame costs beside its pixels.
     static std::shared_ptr<const Picture> Of(Strips strips, int32 width, color_space space,

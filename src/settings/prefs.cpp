@@ -324,7 +324,10 @@ bool Prefs::SetFromText(const std::string& key, const std::string& text, std::st
         if (key != setting.key) continue;
         const char* const fault = std::visit(
             [&](auto member) { return ParseValue(text, &(this->*member)); }, setting.member);
-        if (fault) *reason = key + ": \"" + text + "\" " + fault + ".";
+        if (fault) {
+            *reason = key;
+            reason->append(": \"").append(text).append("\" ").append(fault).append(".");
+        }
         return !fault;
     }
     *reason = "There is no setting named \"" + key + "\".";

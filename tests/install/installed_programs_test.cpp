@@ -41,11 +41,15 @@ TEST(Installation, ProgramsFindTheirFilesWhereverTheTreeIsMoved) {
     const RunResult image =
         tree.RunProgram(tree.File("moved/bin/kirto-cli"),
                         {"--quiet", "--open", "three.gif", "--save-sequence", "image.png"});
+    const RunResult still =
+        tree.RunProgram(tree.File("moved/bin/kirto-cli"),
+                        {"--quiet", "--insert", "image0000.png", "--save", "still.gif"});
     const RunResult window =
         tree.RunProgram(tree.File("moved/bin/kirto"), {"--screenshot", "window.png", "three.gif"});
 
     EXPECT_EQ(image.status, 0) << image.err;
     EXPECT_TRUE(fs::exists(tree.File("image0002.png")));
+    EXPECT_EQ(still.status, 0) << still.err;
     EXPECT_EQ(window.status, 0) << window.err;
     EXPECT_TRUE(fs::exists(tree.File("window.png")));
 }
@@ -68,6 +72,7 @@ TEST(Installation, TheCommandLineIsAComponentOfItsOwn) {
 
     EXPECT_TRUE(tree.Has("bin/kirto-cli"));
     EXPECT_TRUE(tree.Has("libexec/kirto/kirto-cli-images"));
+    EXPECT_TRUE(tree.Has("libexec/kirto/kirto-decode"));
     EXPECT_FALSE(tree.Has("bin/kirto"));
     EXPECT_FALSE(tree.Has("share/kirto"));
 }

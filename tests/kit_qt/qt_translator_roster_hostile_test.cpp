@@ -131,6 +131,7 @@ TEST_F(QtTranslatorRosterTest, SurvivesDamagedFiles) {
                 const size_t reach = j < 2 ? std::min<size_t>(64, damaged.size()) : damaged.size();
                 damaged[random() % reach] = static_cast<uint8>(random());
             }
+            SCOPED_TRACE(extension);
             Read(damaged, budget);
         }
     }

@@ -4,6 +4,8 @@
 #include <filesystem>
 #include <random>
 
+#include "kit/decoding/decoding_roster.h"
+
 namespace kirto::test {
 
 namespace {
@@ -67,8 +69,10 @@ status_t QtTranslatorRosterTest::WriteTo(BFile& file, const std::string& extensi
 Reading QtTranslatorRosterTest::Read(const Bytes& bytes, std::shared_ptr<PixelBudget> budget) {
     Reading reading;
     const auto file = BFile::OnMemory(bytes);
+    const uint64 left = budget ? budget->Left() : PixelBudget::DefaultLimit();
     reading.status = roster_.Translate(*file, std::move(budget), &reading.bitmap);
     EXPECT_EQ(reading.status == B_OK, reading.bitmap != nullptr);
+    ExpectSameElsewhere(*file, left, reading);
     return reading;
 }
 
@@ -76,7 +80,22 @@ Reading QtTranslatorRosterTest::ReadFile(const std::string& path) {
     Reading reading;
     BFile file(path, B_READ_ONLY);
     reading.status = roster_.Translate(file, nullptr, &reading.bitmap);
+    ExpectSameElsewhere(file, PixelBudget::DefaultLimit(), reading);
     return reading;
+}
+
+void QtTranslatorRosterTest::ExpectSameElsewhere(BFile& file, uint64 bytes_left,
+                                                 const Reading& reading) {
+    // Its processes are kept from test to test.
+    static QtTranslatorRoster others;
+    static DecodingRoster roster(KIRTO_DECODE, others);
+    Reading elsewhere;
+    elsewhere.status =
+        roster.Translate(file, std::make_shared<PixelBudget>(bytes_left), &elsewhere.bitmap);
+    EXPECT_EQ(elsewhere.status, reading.status);
+    if (!reading.bitmap || !elsewhere.bitmap) return;
+    EXPECT_EQ(elsewhere.Space(), reading.Space());
+    EXPECT_TRUE(elsewhere.Argb() == reading.Argb());
 }
 
 Reading QtTranslatorRosterTest::Copy(const std::string& extension, const BBitmap& picture,

@@ -44,6 +44,10 @@ class QtTranslatorRosterTest : public testing::Test {
                  const BMessage& settings = {});
 
     QtTranslatorRoster roster_;
+
+  private:
+    // What a process of its own reads is the same.
+    void ExpectSameElsewhere(BFile& file, uint64 bytes_left, const Reading& reading);
 };
 
 // The image as a file that Qt itself writes.

@@ -169,7 +169,7 @@ inline const uint8* GifLzwEncoder::ExtendPrefix(const uint8* next, const uint8* 
 inline bool GifLzwEncoder::Find(uint32 prefix, uint8 last, size_t* slot) const {
     // Strings with the same last index never meet, and the multiplication spreads the others. It
     // doesn't wait for the prefix.
-    size_t place = (prefix << (kHashBits - kMaxCodeSize)) ^ (last * 0x2E35U % slots_.size());
+    size_t place = (prefix << (kHashBits - kMaxCodeSize)) ^ (size_t{last} * 0x2E35 % slots_.size());
     const uint32 string = String(prefix, last);
     for (;; place = (place + 1) % slots_.size()) {
         const uint32 found = slots_[place];

@@ -86,7 +86,7 @@ void AnimatedImageLoad::ReadFrames() {
     };
     steps.waiting = [this] { document_.work.ReportAgain(); };
     steps.take = [this](const Piece& piece, std::optional<Finished> finished) {
-        return Take(piece, std::move(finished));
+        return Take(piece, finished);
     };
     RunInOrder(steps);
 }
@@ -128,7 +128,7 @@ bool AnimatedImageLoad::Take(const Piece& piece, std::optional<Finished> finishe
     Frame frame(Format("frame%04d", position_), header_.width, header_.height);
     Palette::TellOfFailure(finished->status);
     frame.bitmap = piece.picture;
-    frame.palette = std::make_shared<const Palette>(std::move(finished->palette));
+    frame.palette = std::make_shared<const Palette>(finished->palette);
     frame.local_palette = true;
     frame.use_pause = true;
     frame.pause_length = piece.pause;

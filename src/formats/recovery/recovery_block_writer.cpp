@@ -55,7 +55,7 @@ status_t RecoveryBlockWriter::Write(uint32 kind, std::span<const uint8> first,
 
 void RecoveryBlockWriter::WriteHeader(uint32 kind, uint64 length, uint64 stored) {
     std::array<uint8, kRecoveryBlockHeader> header;
-    WriteLittle16(&header[0], kind);
+    WriteLittle16(header.data(), kind);
     WriteLittle16(&header[2], kind >> 16);
     WriteLittle64(&header[4], length);
     WriteLittle64(&header[12], stored);

@@ -33,6 +33,8 @@ bool DecodesInPlace(const QImageReader& reader) {
     // Those of Qt's decoders that fill the image they are handed.
     const QByteArray format = reader.format();
     if (format != "png" && format != "jpeg" && format != "bmp") return false;
+    // Of damaged files, some decoders tell no size, and a format that is anything.
+    if (!reader.size().isValid()) return false;
     if (reader.transformation() != QImageIOHandler::TransformationNone) return false;
     return reader.imageFormat() == QImage::Format_RGB32 ||
            reader.imageFormat() == QImage::Format_ARGB32;

@@ -47,7 +47,7 @@ QImage ImageOfPicture(const BBitmap& picture) {
 
 QImage ImageOfPicture(const SharedPicture& picture) {
     if (!picture) return {};
-    const QImage image = ImageOfPicture(*picture);
+    QImage image = ImageOfPicture(*picture);
     if (image.isNull() || image.constBits() != picture->Bits()) return image;
     return QImage(picture->Bits(), image.width(), image.height(), image.bytesPerLine(),
                   image.format(), Release, new SharedPicture(picture));

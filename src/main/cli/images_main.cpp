@@ -1,9 +1,11 @@
-// kirto-cli-images: kirto-cli with the image formats of Qt, and its fonts.
+// kirto-cli-images: kirto-cli that writes the image formats of Qt, and has its fonts.
 #include <QGuiApplication>
 #include <clocale>
 #include <memory>
 #include <utility>
 
+#include "kit/decoding/decoder_program.h"
+#include "kit/decoding/decoding_roster.h"
 #include "kit/qt/qt_translator_roster.h"
 #include "kit/qt/text_picture.h"
 #include "main/cli/cli_program.h"
@@ -52,6 +54,7 @@ int main(int argc, char** argv) {
     kirto::CliArguments arguments;
     if (const auto status = kirto::ParseArguments(argc, argv, &arguments)) return *status;
     const ImageSupport image_support;
-    kirto::QtTranslatorRoster roster;
+    kirto::QtTranslatorRoster writers;
+    kirto::DecodingRoster roster(kirto::DecoderProgram(), writers);
     return kirto::RunCliProgram(std::move(arguments), roster, DrawCaption);
 }

@@ -1,5 +1,5 @@
-// kirto-cli: edits frame animations without a window. What image files need takes longer to load
-// than most animations take to edit: command lines with images are carried out by kirto-cli-images.
+// kirto-cli: edits frame animations without a window. What writes images takes longer to load than
+// most animations take to edit: command lines that need it are carried out by kirto-cli-images.
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
@@ -10,7 +10,8 @@
 #include <utility>
 
 #include "base/program_files.h"
-#include "kit/animated_image.h"
+#include "kit/decoding/decoder_program.h"
+#include "kit/decoding/decoding_roster.h"
 #include "main/cli/cli_program.h"
 #include "main/cli/no_translators.h"
 
@@ -18,26 +19,12 @@ namespace {
 
 constexpr const char* kImageProgram = "kirto-cli-images";
 
-// Whether it may be an animated WebP or PNG. What comes through a pipe may.
-bool OpensAnimatedImage(const kirto::CliOperation& operation) {
-    const bool inserts = operation.option == "--insert-animation";
-    if (!inserts && operation.option != "--open") return false;
-    const size_t end = inserts ? operation.value.rfind('@') : std::string::npos;
-    const std::string name = operation.value.substr(0, end);
-    const bool standard_input = name == "-";
-    BFile file(standard_input ? "/dev/stdin" : name, B_READ_ONLY);
-    if (file.InitCheck() != B_OK) return standard_input;
-    return kirto::AnimatedImageFormatOf(file) != kirto::AnimatedImageFormat::kNone;
-}
-
 bool UsesImages(const kirto::CliArguments& arguments) {
-    static const std::set<std::string> kImageOptions = {
-        "--insert",        "--insert-tiled", "--overlay",    "--text",
-        "--save-sequence", "--save-sheet",   "--save-frame", "--list-formats"};
+    static const std::set<std::string> kImageOptions = {"--text", "--save-sequence", "--save-sheet",
+                                                        "--save-frame", "--list-formats"};
     return std::any_of(
-        arguments.operations.begin(), arguments.operations.end(), [](const auto& operation) {
-            return kImageOptions.contains(operation.option) || OpensAnimatedImage(operation);
-        });
+        arguments.operations.begin(), arguments.operations.end(),
+        [](const auto& operation) { return kImageOptions.contains(operation.option); });
 }
 
 // Becomes the program with the image formats, which belongs to this one. Returns only where that
@@ -61,6 +48,7 @@ int main(int argc, char** argv) {
     kirto::CliArguments arguments;
     if (const auto status = kirto::ParseArguments(argc, argv, &arguments)) return *status;
     if (UsesImages(arguments)) return BecomeImageProgram(argv);
-    kirto::NoTranslators roster;
+    kirto::NoTranslators none;
+    kirto::DecodingRoster roster(kirto::DecoderProgram(), none);
     return kirto::RunCliProgram(std::move(arguments), roster);
 }

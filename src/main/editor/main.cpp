@@ -19,6 +19,8 @@
 #include "base/natural_order.h"
 #include "base/number.h"
 #include "document/command_codes.h"
+#include "kit/decoding/decoder_program.h"
+#include "kit/decoding/decoding_roster.h"
 #include "kit/qt/qt_translator_roster.h"
 #include "main/editor/editor_arguments.h"
 #include "main/editor/printed_alerts.h"
@@ -49,7 +51,7 @@ std::chrono::milliseconds RecoveryDelay() {
 }
 
 // Runs until the application's loop has ended; the loop ends when the main window has agreed.
-int RunEditor(const kirto::EditorArguments& arguments, kirto::QtTranslatorRoster& roster) {
+int RunEditor(const kirto::EditorArguments& arguments, BTranslatorRoster& roster) {
     kirto::QtDesktop desktop(roster);
     // A picture is taken where nobody answers an alert.
     std::optional<kirto::PrintedAlerts> printed;
@@ -119,6 +121,7 @@ int main(int argc, char** argv) {
     // The main window's closing is a request; the application decides.
     QApplication::setQuitOnLastWindowClosed(false);
     if (const auto status = kirto::ParseArguments(argc, argv, &arguments)) return *status;
-    kirto::QtTranslatorRoster roster;
+    kirto::QtTranslatorRoster writers;
+    kirto::DecodingRoster roster(kirto::DecoderProgram(), writers);
     return kirto::ExitStatus(RunEditor(arguments, roster));
 }

@@ -45,7 +45,7 @@ void GuidePage::doSetSource(const QUrl& url, QTextDocument::ResourceType type) {
 }
 
 QVariant GuidePage::loadResource(int type, const QUrl& name) {
-    const QVariant loaded = QTextBrowser::loadResource(type, name);
+    QVariant loaded = QTextBrowser::loadResource(type, name);
     if (type != QTextDocument::ImageResource) return loaded;
     const QImage image = loaded.typeId() == QMetaType::QByteArray
                              ? QImage::fromData(loaded.toByteArray())

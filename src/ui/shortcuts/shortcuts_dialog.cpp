@@ -172,7 +172,7 @@ void ShortcutsDialog::Propose(const QKeySequence& key) {
         return;
     }
     proposed_ = key;
-    note_->setText(QString("%1 is the key of \"%2\" in the menu \"%3\".")
+    note_->setText(QString(R"(%1 is the key of "%2" in the menu "%3".)")
                        .arg(key.toString(QKeySequence::NativeText),
                             shortcuts_->Items()[*owner].label, shortcuts_->Items()[*owner].menu));
     take_->show();

@@ -45,7 +45,7 @@ BRect FramePreview::PictureArea() const {
 
 void FramePreview::ReportScale() {
     const BRect area = PictureArea();
-    if (area.IsValid()) scaled_(area.PixelWidth() * 100 / frame_->width);
+    if (frame_ && area.IsValid()) scaled_(area.PixelWidth() * 100 / frame_->width);
 }
 
 void FramePreview::resizeEvent(QResizeEvent* event) {

@@ -59,6 +59,10 @@ std::optional<BMessage> PasteCommand(const QMimeData& data) {
         return AddRefs(data, &files) ? std::optional(files) : std::nullopt;
     }
     if (data.hasFormat(kPngType)) return Pasting(kPngType, data.data(kPngType));
+    // The bytes as they are: Qt would decode them here, where a bad file could do harm.
+    for (const QString& type : data.formats()) {
+        if (type.startsWith("image/")) return Pasting(kPngType, data.data(type));
+    }
     if (data.hasImage())
         return Pasting(kPngType,
                        QByteArray::fromStdString(PngOf(qvariant_cast<QImage>(data.imageData()))));

@@ -52,6 +52,17 @@ TEST(PasteCommand, PrefersFramesToAnimationsAndThoseToImages) {
     EXPECT_EQ(TypeOf(PasteCommand(image)), "image/png");
 }
 
+TEST(PasteCommand, TakesTheBytesOfImagesAsTheyAre) {
+    QMimeData image;
+    image.setData("image/bmp", "BM, and what Qt makes nothing of");
+    const auto command = PasteCommand(image);
+
+    ASSERT_TRUE(command);
+    std::string_view bytes;
+    ASSERT_EQ(command->FindData("bytes", B_RAW_TYPE, 0, &bytes), B_OK);
+    EXPECT_EQ(bytes, "BM, and what Qt makes nothing of");
+}
+
 TEST(PasteCommand, TakesFilesAsIfTheyWereDropped) {
     QMimeData files;
     files.setUrls({QUrl("file:///b.png"), QUrl("file:///a.png")});
