@@ -29,6 +29,8 @@ class Desktop : public AlertPresenter {
     virtual std::unique_ptr<FilePanel> MakeFilePanel(FilePanelKind kind, BMessenger target) = 0;
     // The file's MIME type, or an empty string when it is unknown.
     virtual std::string MimeTypeOf(const std::string& path) = 0;
+    // The animation was opened, or the document saved there.
+    virtual void RememberFile(const std::string& /*path*/) {}
     // Shows the file in the user's web browser, or in the viewer for its kind.
     virtual void OpenInBrowser(const std::string& path) = 0;
 };

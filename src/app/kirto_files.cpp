@@ -122,6 +122,7 @@ void Kirto::Load(const entry_ref& ref, int32 position, bool reset) {
     if (reset) AbandonStep();
     if (!opened) return;
     if (offer.accepted) notices_.ShowOpened(!reset);
+    desktop_.RememberFile(ref.path);
     if (!reset) {
         SetModified(true);
     } else if (!kirto::IsAnimatedImage(type)) {
@@ -280,6 +281,7 @@ bool Kirto::SaveGif() {
     switch (kirto::SaveAnimatedGif(*this, path, &loss)) {
         case kirto::SaveResult::kSaved:
             file_stamp_ = kirto::FileStamp::Of(path);
+            desktop_.RememberFile(path);
             SayWhatDiffers(*state->animation, loss);
             CheckSave(state->animation, path);
             return true;

@@ -1,4 +1,5 @@
 // Every command line of kirto-cli that the documents show, run as a reader would run it.
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <regex>
@@ -35,7 +36,8 @@ std::vector<std::string> CommandLines(const fs::path& document) {
     bool continues = false;
     for (const std::string& line : LinesOf(document)) {
         // Blocks of a list's items are indented.
-        if (line.find("```") == line.find_first_not_of(' ')) in_code = !in_code;
+        if (line.substr(std::min(line.find_first_not_of(' '), line.size())).starts_with("```"))
+            in_code = !in_code;
         if (continues) {
             commands.back() += '\n' + line;
         } else if (in_code && line.find("kirto-cli ") != std::string::npos) {

@@ -32,3 +32,20 @@ class Opening(EditorTest):
         alert = self.session.wait_for_window("^Kirto$")
         self.assertTrue(alert)
         editor.wait_for_status(0, modified=False)
+
+    def test_opens_a_recent_animation_by_keyboard_from_the_empty_window_and_by_menu(self):
+        path = self.animation()
+        editor = self.start_editor(path)
+        editor.wait_for_title("Kirto - colors.gif")
+        self.session.key("ctrl+q")
+        editor.wait_for_end()
+
+        editor = self.start_editor()
+        editor.focus("list", "Recent animations")
+        self.session.key("Return")
+        editor.wait_for_title("Kirto - colors.gif")
+
+        self.session.key("ctrl+n")
+        editor.wait_for_title("Kirto - untitled")
+        self.session.key("alt+f", "r", "1")
+        editor.wait_for_title("Kirto - colors.gif")

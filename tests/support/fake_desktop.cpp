@@ -66,6 +66,16 @@ BMessenger FakeDesktop::OpenMainWindow(Kirto&, const BRect& frame, const std::st
     return BMessenger(window);
 }
 
+void FakeDesktop::RememberFile(const std::string& path) {
+    const std::lock_guard lock(mutex_);
+    remembered_.push_back(path);
+}
+
+std::vector<std::string> FakeDesktop::TakeRemembered() {
+    const std::lock_guard lock(mutex_);
+    return std::exchange(remembered_, {});
+}
+
 void FakeDesktop::AbandonPendingCommand() {
     AddLine("pending command abandoned");
 }

@@ -42,6 +42,8 @@ class FakeDesktop : public Desktop {
     // "browser PATH".
     std::vector<std::string> TakeLines();
     void AddLine(const std::string& line);
+    // The files that are to be remembered, which are forgotten.
+    std::vector<std::string> TakeRemembered();
 
     int32 Present(const BAlert& alert) override;
     BMessenger OpenMainWindow(Kirto& application, const BRect& frame,
@@ -50,12 +52,14 @@ class FakeDesktop : public Desktop {
     BRect ScreenFrame() override { return screen; }
     std::unique_ptr<FilePanel> MakeFilePanel(FilePanelKind kind, BMessenger target) override;
     std::string MimeTypeOf(const std::string& path) override;
+    void RememberFile(const std::string& path) override;
     void OpenInBrowser(const std::string& path) override;
 
   private:
     std::mutex mutex_;
     std::vector<int32> answers_;  // guarded by mutex_, like the lines
     std::vector<std::string> lines_;
+    std::vector<std::string> remembered_;
     AlertPresenter* previous_;
 };
 

@@ -18,6 +18,8 @@
 #include "base/abandonable.h"
 #include "base/natural_order.h"
 #include "base/number.h"
+#include "desktop/qt/desktop_recent_list.h"
+#include "desktop/qt/mime_types.h"
 #include "document/command_codes.h"
 #include "kit/decoding/decoder_program.h"
 #include "kit/decoding/decoding_roster.h"
@@ -50,18 +52,25 @@ std::chrono::milliseconds RecoveryDelay() {
     return std::chrono::milliseconds(kirto::LeadingInteger(milliseconds));
 }
 
+void TellDesktop(const std::string& path) {
+    kirto::TellDesktopOfRecentFile(path, kirto::MimeTypeOf(path));
+}
+
 // Runs until the application's loop has ended; the loop ends when the main window has agreed.
 int RunEditor(const kirto::EditorArguments& arguments, BTranslatorRoster& roster) {
-    kirto::QtDesktop desktop(roster);
+    const bool for_user = arguments.screenshot.empty();
+    std::optional<kirto::RecentList> recent;
+    if (for_user) recent.emplace(kirto::RecentFiles::DefaultFolder(), TellDesktop);
+    kirto::QtDesktop desktop(roster, recent ? &*recent : nullptr);
     // A picture is taken where nobody answers an alert.
     std::optional<kirto::PrintedAlerts> printed;
-    if (!arguments.screenshot.empty()) printed.emplace();
+    if (!for_user) printed.emplace();
     Prefs prefs;
     std::optional<kirto::CrashRecovery> recovery;
     std::optional<kirto::TerminationSignals> termination;
     Kirto application(prefs, desktop, roster, entry_ref(kirto::ResourceFilePath()));
     application.CheckSaves();
-    if (arguments.screenshot.empty()) {
+    if (for_user) {
         recovery.emplace(kirto::RecoveryStore::DefaultFolder(), RecoveryDelay());
         recovery->Watch(application);
         application.UseRecovery(*recovery);

@@ -13,6 +13,8 @@ class IEResourceHandler;
 
 namespace kirto {
 
+class RecentList;
+
 // What windows work on: the document they show, and the target of their commands (through a
 // CommandPort, so that changes count at once). Everything outlives every window. The document is
 // read only through ShownDocument::Take.
@@ -24,6 +26,7 @@ struct Editor {
     IEResourceHandler* resources;  // null if no window is built from resources
     // What was found in the last save; empty where saves are not checked.
     std::function<std::shared_ptr<const SaveCheck::Finding>()> finding = {};
+    RecentList* recent = nullptr;  // null where no files are remembered
 };
 
 }  // namespace kirto

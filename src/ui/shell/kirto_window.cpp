@@ -27,6 +27,7 @@
 #include "ui/player/player_view.h"
 #include "ui/shell/help_menu.h"
 #include "ui/shell/main_menu.h"
+#include "ui/shell/recent_menu.h"
 #include "ui/shell/tool_bar.h"
 #include "ui/shell/window_place.h"
 #include "ui/shell/window_state.h"
@@ -67,6 +68,9 @@ KirtoWindow::KirtoWindow(BRect frame, const char* title, const kirto::Editor& ed
     const auto choose = [this](uint32 command) { ChooseCommand(command); };
     setMenuBar(kirto::MakeMainMenu(this, choose));
     kirto::AddToolBar(*this);
+    if (editor_.recent) {
+        kirto::AddRecentMenu(*this, *editor_.recent, editor_.application);
+    }
     kirto::AddHelpMenu(*menuBar(), choose);
     MakePanels();
     ArrangePanels();

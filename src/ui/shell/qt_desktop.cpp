@@ -16,7 +16,8 @@ BMessenger QtDesktop::OpenMainWindow(Kirto& application, const BRect& frame,
                                      const std::string& title) {
     const Editor editor{
         application, application.Commands(),  application,
-        roster_,     application.Resources(), [&application] { return application.LastFinding(); }};
+        roster_,     application.Resources(), [&application] { return application.LastFinding(); },
+        recent_};
     window_ = std::make_unique<KirtoWindow>(frame, title.c_str(), editor);
     window_messenger_ = window_->Messenger();
     alerts_.SetParentWindow(window_.get());
@@ -47,6 +48,10 @@ std::unique_ptr<FilePanel> QtDesktop::MakeFilePanel(FilePanelKind kind, BMesseng
 
 std::string QtDesktop::MimeTypeOf(const std::string& path) {
     return kirto::MimeTypeOf(path);
+}
+
+void QtDesktop::RememberFile(const std::string& path) {
+    if (recent_) recent_->Remember(path);
 }
 
 void QtDesktop::OpenInBrowser(const std::string& path) {

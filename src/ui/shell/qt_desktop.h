@@ -5,6 +5,7 @@
 
 #include "app/desktop.h"
 #include "kit/translator_roster.h"
+#include "ui/controls/recent_list.h"
 #include "ui/dialogs/qt_alerts.h"
 #include "ui/shell/kirto_window.h"
 
@@ -14,8 +15,10 @@ namespace kirto {
 // thread; the application is constructed there as well and asks from its own thread later.
 class QtDesktop : public Desktop {
   public:
-    // The roster outlives the desktop.
-    explicit QtDesktop(BTranslatorRoster& roster) : roster_(roster) {}
+    // The roster outlives the desktop, and so does the list of recent files; null: none are
+    // remembered.
+    explicit QtDesktop(BTranslatorRoster& roster, RecentList* recent = nullptr)
+        : roster_(roster), recent_(recent) {}
 
     int32 Present(const BAlert& alert) override { return alerts_.Present(alert); }
     BMessenger OpenMainWindow(Kirto& application, const BRect& frame,
@@ -24,6 +27,7 @@ class QtDesktop : public Desktop {
     BRect ScreenFrame() override;
     std::unique_ptr<FilePanel> MakeFilePanel(FilePanelKind kind, BMessenger target) override;
     std::string MimeTypeOf(const std::string& path) override;
+    void RememberFile(const std::string& path) override;
     void OpenInBrowser(const std::string& path) override;
 
     // Null before the application has asked for it. GUI thread.
@@ -35,6 +39,7 @@ class QtDesktop : public Desktop {
   private:
     BTranslatorRoster& roster_;
     QtAlerts alerts_;
+    RecentList* const recent_;
     std::unique_ptr<KirtoWindow> window_;
     BMessenger window_messenger_;
 };

@@ -9,6 +9,7 @@
 #include "document/command_codes.h"
 #include "ui/controls/controls.h"
 #include "ui/controls/folding_row.h"
+#include "ui/thumbnails/recent_view.h"
 #include "ui/thumbnails/thumb_drawing_view.h"
 
 namespace {
@@ -25,9 +26,10 @@ ThumbnailView::ThumbnailView(const kirto::ShownDocument& shown, const kirto::Edi
                              const BMessenger& window, QWidget* parent)
     : QWidget(parent), shown_(shown) {
     setObjectName("ThumbnailView");
-    auto* scroll_view = new kirto::ThumbScrollView(this);
-    drawing_view_ = new ThumbDrawingView(shown, editor, window, scroll_view);
+    scroll_view_ = new kirto::ThumbScrollView(this);
+    drawing_view_ = new ThumbDrawingView(shown, editor, window, scroll_view_);
     setFocusProxy(drawing_view_);
+    MakeRecent(editor);
     MakeBeginning(window);
     MakeFaithfulChoice(window);
     MakeControls(window);
@@ -48,6 +50,15 @@ void ThumbnailView::MakeBeginning(const BMessenger& window) {
     layout->addWidget(open);
     layout->addWidget(insert);
     layout->addStretch();
+}
+
+// Files are opened as the menu opens them, by the application.
+void ThumbnailView::MakeRecent(const kirto::Editor& editor) {
+    if (!editor.recent) return;
+    recent_label_ = kirto::MakeLabel("RecentLabel", "Recent animations:", this);
+    recent_ = new kirto::RecentView(*editor.recent, editor.roster, editor.application, this);
+    recent_label_->setBuddy(recent_);
+    editor.recent->Watch(this, [this] { ShowBeginning(); });
 }
 
 // The setting is changed as the preferences do it.
@@ -98,7 +109,11 @@ void ThumbnailView::MakeControls(const BMessenger& window) {
     preset->addWidget(menu_label);
     preset->addWidget(menu, 1);
     auto* layout = new QVBoxLayout(this);
-    layout->addWidget(drawing_view_->parentWidget()->parentWidget(), 1);
+    layout->addWidget(scroll_view_, 1);
+    if (recent_) {
+        layout->addWidget(recent_label_);
+        layout->addWidget(recent_);
+    }
     layout->addWidget(beginning_);
     layout->addWidget(faithful_, 0, Qt::AlignHCenter);
     layout->addWidget(new kirto::FoldingRow(height, preset, this));
@@ -106,6 +121,10 @@ void ThumbnailView::MakeControls(const BMessenger& window) {
     const QString widest = HeightText(8888);
     height_label_->setMinimumWidth(height_label_->fontMetrics().horizontalAdvance(widest));
     QWidget* before = drawing_view_;
+    if (recent_) {
+        setTabOrder(before, recent_);
+        before = recent_;
+    }
     for (QPushButton* button : beginning_->findChildren<QPushButton*>()) {
         setTabOrder(before, button);
         before = button;
@@ -124,18 +143,24 @@ void ThumbnailView::UpdateDisplay() {
     // The new range may have moved the slider.
     if (SliderValue() != drawing_view_->ThumbnailHeight()) SetHeight(SliderValue());
     drawing_view_->UpdateDisplay();
-    ShowFaithfulChoice();
+    ShowBeginning();
 }
 
 void ThumbnailView::ResetDisplay() {
     drawing_view_->ResetDisplay();
-    ShowFaithfulChoice();
+    ShowBeginning();
 }
 
-void ThumbnailView::ShowFaithfulChoice() {
+void ThumbnailView::ShowBeginning() {
     faithful_->setChecked(shown_.Settings().animation_faithful);
-    faithful_->setVisible(shown_.Frames().Empty());
-    beginning_->setVisible(shown_.Frames().Empty());
+    const bool empty = shown_.Frames().Empty();
+    faithful_->setVisible(empty);
+    beginning_->setVisible(empty);
+    scroll_view_->setVerticalScrollBarPolicy(empty ? Qt::ScrollBarAlwaysOff
+                                                   : Qt::ScrollBarAlwaysOn);
+    if (!recent_) return;
+    recent_label_->setVisible(empty && recent_->count() > 0);
+    recent_->setVisible(empty && recent_->count() > 0);
 }
 
 void ThumbnailView::SetHeight(int32 pixels) {

@@ -10,8 +10,14 @@
 
 class ThumbDrawingView;
 
+namespace kirto {
+class RecentView;
+class ThumbScrollView;
+}
+
 // The frame area in thumbnail mode: the grid, and how high its thumbnails are; as long as there are
-// none, the choice whether animations are read and saved as browsers show them. GUI thread.
+// none, what a user begins with: recent animations, buttons, and the choice whether animations are
+// read and saved as browsers show them. GUI thread.
 class ThumbnailView : public QWidget {
   public:
     // shown outlives the view.
@@ -35,13 +41,17 @@ class ThumbnailView : public QWidget {
     void MakeControls(const BMessenger& window);
     // What a user begins with: shown while there are no frames.
     void MakeBeginning(const BMessenger& window);
+    void MakeRecent(const kirto::Editor& editor);
     void MakeFaithfulChoice(const BMessenger& window);
-    void ShowFaithfulChoice();
+    void ShowBeginning();
 
     const kirto::ShownDocument& shown_;
+    kirto::ThumbScrollView* scroll_view_;
     ThumbDrawingView* drawing_view_;
     QLabel* height_label_;
     QSlider* slider_;
     QWidget* beginning_;
+    QLabel* recent_label_ = nullptr;
+    kirto::RecentView* recent_ = nullptr;  // null where no files are remembered
     QCheckBox* faithful_;
 };
