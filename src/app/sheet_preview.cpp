@@ -49,6 +49,7 @@ void MarkEmptyTiles(const BBitmap& picture, SheetCutting* cutting) {
 }  // namespace
 
 std::optional<PreviewedSheet> ReadSheetToShow(const entry_ref& ref, BTranslatorRoster& roster,
+                                              const std::function<bool()>& given_up,
                                               std::string* text) {
     text->clear();
     PreviewedSheet sheet;
@@ -61,8 +62,8 @@ std::optional<PreviewedSheet> ReadSheetToShow(const entry_ref& ref, BTranslatorR
     BFile file(path, B_READ_ONLY);
     if (file.InitCheck() != B_OK) return std::nullopt;
     std::shared_ptr<BBitmap> picture;
-    const status_t status =
-        roster.Translate(file, std::make_shared<PixelBudget>(kMostPictureBytes), &picture);
+    const status_t status = roster.TranslateUnless(
+        given_up, file, std::make_shared<PixelBudget>(kMostPictureBytes), &picture);
     if (status == B_NO_MEMORY) *text = "This image is too large to be shown here.";
     if (status != B_OK || !Is32Bit(picture->ColorSpace()) || picture->Width() == 0)
         return std::nullopt;

@@ -1,6 +1,7 @@
 // How an image would be cut into frames, for showing it before that is done.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -35,8 +36,10 @@ struct SheetCutting {
 // These may be called on any thread; they take long for large pictures.
 
 // Reads the file, or the picture that a JSON text is about, within a bound of memory. Nothing where
-// there is none, or none that can be inserted; then the text, if any, tells why.
+// there is none, or none that can be inserted; then the text, if any, tells why. given_up: asked
+// every now and then, on this thread, whether nobody wants it anymore.
 std::optional<PreviewedSheet> ReadSheetToShow(const entry_ref& ref, BTranslatorRoster& roster,
+                                              const std::function<bool()>& given_up,
                                               std::string* text);
 
 // What the grid, or the description, makes of the sheet.

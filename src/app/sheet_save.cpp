@@ -107,8 +107,8 @@ bool SheetSave::DrawFrame(size_t i, BBitmap& sheet) const {
 }
 
 std::shared_ptr<BBitmap> SheetSave::Draw() const {
-    auto sheet = std::make_shared<BBitmap>(BRect::OfSize(sheet_.width, sheet_.height),
-                                                 B_RGBA32, document_.pixel_budget);
+    auto sheet = std::make_shared<BBitmap>(BRect::OfSize(sheet_.width, sheet_.height), B_RGBA32,
+                                           document_.pixel_budget);
     if (sheet->InitCheck() != B_OK) {
         WarnOutOfMemory();
         return nullptr;

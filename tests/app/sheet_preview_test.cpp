@@ -29,7 +29,8 @@ TileGrid Sized(int32 width, int32 height, int32 margin, int32 spacing) {
 
 struct PreviewFiles : TemporaryFolder {
     std::optional<PreviewedSheet> Read(const std::string& name) {
-        return ReadSheetToShow(entry_ref(File(name)), roster, &text);
+        return ReadSheetToShow(
+            entry_ref(File(name)), roster, [] { return false; }, &text);
     }
     void WriteText(const std::string& name, const std::string& content) const {
         WriteBytes(File(name), {content.begin(), content.end()});

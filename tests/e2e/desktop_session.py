@@ -55,13 +55,14 @@ def end_with_parent():
     _libc.prctl(_PR_SET_PDEATHSIG, signal.SIGKILL)
 
 
-def _children_of(pid):
+def _children_of(pid, ended=True):
+    """Those that have ended and that nobody has asked about since, too, unless told otherwise."""
     children = []
     for stat in pathlib.Path("/proc").glob("[0-9]*/stat"):
         with contextlib.suppress(OSError):
             # The name in brackets may itself hold brackets and spaces.
             fields = stat.read_text(errors="replace").rpartition(")")[2].split()
-            if int(fields[1]) == pid:
+            if int(fields[1]) == pid and (ended or fields[0] != "Z"):
                 children.append(int(stat.parent.name))
     return children
 
@@ -164,7 +165,7 @@ class DesktopSession:
 
     def processes(self):
         """The ids of what was started and still runs, and of what programs that have ended left."""
-        return set(_children_of(os.getpid()))
+        return set(_children_of(os.getpid(), ended=False))
 
     # Windows
 

@@ -1,5 +1,6 @@
 #include "ui/file_panels/sheet_reader.h"
 
+#include <atomic>
 #include <memory>
 #include <new>
 #include <system_error>
@@ -89,11 +90,16 @@ bool SheetReader::GivenUp(const std::string& path) {
 bool SheetReader::Read(const std::string& path) {
     kept_ = {};
     const auto reading = std::make_shared<Kept>();
-    const auto read = [reading, path, &roster = roster_] {
-        reading->sheet = ReadSheetToShow(entry_ref(path), roster, &reading->text);
+    const auto abandoned = std::make_shared<std::atomic<bool>>(false);
+    const auto read = [reading, abandoned, path, &roster = roster_] {
+        reading->sheet = ReadSheetToShow(
+            entry_ref(path), roster, [&] { return abandoned->load(); }, &reading->text);
         if (reading->sheet) reading->image = ImageToPaint(*reading->sheet);
     };
-    if (!path.empty() && !FinishOrAbandon([&] { return GivenUp(path); }, read)) return false;
+    if (!path.empty() && !FinishOrAbandon([&] { return GivenUp(path); }, read)) {
+        *abandoned = true;
+        return false;
+    }
     kept_ = std::move(*reading);
     kept_.path = path;
     return true;

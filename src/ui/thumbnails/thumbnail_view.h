@@ -13,7 +13,7 @@ class ThumbDrawingView;
 namespace kirto {
 class RecentView;
 class ThumbScrollView;
-}
+}  // namespace kirto
 
 // The frame area in thumbnail mode: the grid, and how high its thumbnails are; as long as there are
 // none, what a user begins with: recent animations, buttons, and the choice whether animations are
