@@ -4,24 +4,25 @@
 #include <cmath>
 #include <nlohmann/json.hpp>
 #include <string>
+#include <utility>
 
 namespace kirto {
 
 namespace {
 
-using Json = nlohmann::json;
+using ProbeJson = nlohmann::json;
 
-constexpr int64 kLargestSide = 65535;
+constexpr int64 kLargestVideoSide = 65535;
 // Parts of a rate beyond that are no rate.
 constexpr int64 kLargestRatePart = int64{1} << 31;
 
-const Json& Member(const Json& object, const char* name) {
-    static const Json kNone;
+const ProbeJson& Member(const ProbeJson& object, const char* name) {
+    static const ProbeJson kNone;
     const auto member = object.is_object() ? object.find(name) : object.end();
     return object.is_object() && member != object.end() ? *member : kNone;
 }
 
-int64 WholeNumber(const Json& value) {
+int64 WholeNumber(const ProbeJson& value) {
     return value.is_number_integer() ? value.get<int64>() : 0;
 }
 
@@ -32,7 +33,7 @@ bool ParseNumber(std::string_view text, Number* number) {
 }
 
 // "30000/1001"
-bool ParseRate(const Json& value, VideoProperties* video) {
+bool ParseRate(const ProbeJson& value, VideoProperties* video) {
     if (!value.is_string()) return false;
     const std::string text = value.get<std::string>();
     const size_t slash = text.find('/');
@@ -49,17 +50,17 @@ bool ParseRate(const Json& value, VideoProperties* video) {
 }
 
 // Whether it is shown on its side.
-bool LiesOnItsSide(const Json& stream) {
-    const Json& list = Member(stream, "side_data_list");
+bool LiesOnItsSide(const ProbeJson& stream) {
+    const ProbeJson& list = Member(stream, "side_data_list");
     if (!list.is_array()) return false;
-    for (const Json& data : list) {
+    for (const ProbeJson& data : list) {
         if (WholeNumber(Member(data, "rotation")) % 180 != 0) return true;
     }
     return false;
 }
 
-double Seconds(const Json& format) {
-    const Json& value = Member(format, "duration");
+double Seconds(const ProbeJson& format) {
+    const ProbeJson& value = Member(format, "duration");
     double seconds = 0;
     if (!value.is_string() || !ParseNumber(value.get_ref<const std::string&>(), &seconds)) return 0;
     return std::isfinite(seconds) && seconds > 0 ? seconds : 0;
@@ -68,14 +69,14 @@ double Seconds(const Json& format) {
 }  // namespace
 
 std::optional<VideoProperties> ParseVideoProbe(std::string_view json) {
-    const Json all = Json::parse(json, nullptr, false);
-    const Json& streams = Member(all, "streams");
+    const ProbeJson all = ProbeJson::parse(json, nullptr, false);
+    const ProbeJson& streams = Member(all, "streams");
     if (!streams.is_array() || streams.empty()) return std::nullopt;
-    const Json& stream = streams.front();
+    const ProbeJson& stream = streams.front();
     VideoProperties video;
     video.width = WholeNumber(Member(stream, "width"));
     video.height = WholeNumber(Member(stream, "height"));
-    const auto valid = [](int64 side) { return side >= 1 && side <= kLargestSide; };
+    const auto valid = [](int64 side) { return side >= 1 && side <= kLargestVideoSide; };
     if (!valid(video.width) || !valid(video.height)) return std::nullopt;
     if (LiesOnItsSide(stream)) std::swap(video.width, video.height);
     const bool rated = ParseRate(Member(stream, "avg_frame_rate"), &video) ||
