@@ -33,7 +33,7 @@ times, recolors and fades frames, and writes animated GIFs or images.
 This is the editor with its windows.")
 set(CPACK_DEBIAN_KIRTO_PACKAGE_DEPENDS
     "kirto-cli (= ${PROJECT_VERSION}), qt6-qpa-plugins, libqt6svg6, fonts-dejavu-core")
-set(CPACK_DEBIAN_KIRTO_PACKAGE_RECOMMENDS "qt6-image-formats-plugins, qt6-wayland")
+set(CPACK_DEBIAN_KIRTO_PACKAGE_RECOMMENDS "ffmpeg, qt6-image-formats-plugins, qt6-wayland")
 
 set(CPACK_DEBIAN_KIRTO-CLI_PACKAGE_NAME kirto-cli)
 set(CPACK_COMPONENT_KIRTO-CLI_DESCRIPTION
@@ -43,7 +43,7 @@ times, recolors and fades frames, and writes animated GIFs or images.
 .
 This is the program for scripts, without windows.")
 set(CPACK_DEBIAN_KIRTO-CLI_PACKAGE_DEPENDS "qt6-qpa-plugins, fonts-dejavu-core")
-set(CPACK_DEBIAN_KIRTO-CLI_PACKAGE_RECOMMENDS "qt6-image-formats-plugins, libqt6svg6")
+set(CPACK_DEBIAN_KIRTO-CLI_PACKAGE_RECOMMENDS "ffmpeg, qt6-image-formats-plugins, libqt6svg6")
 set(CPACK_DEBIAN_KIRTO-CLI_PACKAGE_SUGGESTS kirto)
 
 include(CPack)

@@ -24,8 +24,8 @@ constexpr int32 kSaveFirstButton = 2;
 constexpr int32 kOverwriteButton = 0;
 constexpr int32 kSaveAsButton = 1;
 
-// What a save writes is no WebP or PNG, so it must not take the file's place, nor that of another
-// one: a GIF of the same name, or none.
+// What a save writes is no WebP, PNG or video, so it must not take the file's place, nor that of
+// another one: a GIF of the same name, or none.
 std::string NameBeside(const entry_ref& ref) {
     const std::filesystem::path leaf(ref.Leaf());
     const std::string name = leaf.stem().string() + ".gif";
@@ -113,9 +113,14 @@ void Kirto::Load(const entry_ref& ref, int32 position, bool reset) {
     const std::optional<kirto::FileStamp> stamp = kirto::FileStamp::Of(ref.path);
     BFile file(ref.path, B_READ_ONLY);
     kirto::BrowsersOffer offer;
-    bool opened = kirto::IsAnimatedImage(type)
-                      ? kirto::OpenAnimatedImage(type, &file, position, *this, roster_)
-                      : kirto::OpenAnimation(type, &file, position, *this, &offer);
+    bool opened = false;
+    if (type == kirto::AnimationType::kVideo) {
+        opened = kirto::OpenVideo(ref.path, position, *this);
+    } else if (kirto::IsAnimatedImage(type)) {
+        opened = kirto::OpenAnimatedImage(type, &file, position, *this, roster_);
+    } else {
+        opened = kirto::OpenAnimation(type, &file, position, *this, &offer);
+    }
     refusal_ = offer.cause;
     if (offer.accepted) opened = OpenAsBrowsersDo(type, &file, position, *before_load);
     if (!opened && StopRequested()) return KeepStopped(reset, before);
@@ -125,7 +130,7 @@ void Kirto::Load(const entry_ref& ref, int32 position, bool reset) {
     desktop_.RememberFile(ref.path);
     if (!reset) {
         SetModified(true);
-    } else if (!kirto::IsAnimatedImage(type)) {
+    } else if (!kirto::IsAnimatedImage(type) && type != kirto::AnimationType::kVideo) {
         SetFile(ref.Directory(), ref.Leaf(), stamp);
     } else {
         SetFile(ref.Directory(), NameBeside(ref), std::nullopt);

@@ -7,6 +7,7 @@
 #include "formats/fli/fli_load.h"
 #include "formats/gif/gif_load.h"
 #include "formats/images/animated_image_load.h"
+#include "formats/video/video_reader.h"
 #include "kit/alert.h"
 
 namespace kirto {
@@ -22,6 +23,17 @@ constexpr const char* kOkLabel = "OK";
 bool ContainsAny(const std::string& text, std::initializer_list<const char*> parts) {
     for (const char* part : parts) {
         if (Contains(text, part)) return true;
+    }
+    return false;
+}
+
+bool IsVideoName(const std::string& leaf_name) {
+    std::string name = leaf_name;
+    for (char& byte : name) {
+        if (byte >= 'A' && byte <= 'Z') byte = static_cast<char>(byte - 'A' + 'a');
+    }
+    for (const char* extension : {".mp4", ".m4v", ".mov", ".webm", ".mkv", ".avi"}) {
+        if (name.ends_with(extension)) return true;
     }
     return false;
 }
@@ -122,6 +134,7 @@ AnimationType ClassifyAnimation(const std::string& leaf_name, const std::string&
         ContainsAny(leaf_name, {".fli", ".FLI", ".flc", ".FLC"})) {
         return AnimationType::kFli;
     }
+    if (IsVideoName(leaf_name)) return AnimationType::kVideo;
     return AnimationType::kNone;
 }
 
@@ -202,6 +215,23 @@ bool OpenAnimatedImage(AnimationType type, BFile* file, int32 position, Animatio
     const auto format =
         type == AnimationType::kWebp ? AnimatedImageFormat::kWebp : AnimatedImageFormat::kApng;
     const AnimatedImageLoad loader(format, file, position, document, roster);
+    if (!loader.failed) return true;
+    if (!document.StopRequested()) AskAboutDamage(loader, position, document, nullptr);
+    return false;
+}
+
+bool OpenVideo(const std::string& path, int32 position, AnimationDocument& document) {
+    const auto programs = FindVideoPrograms();
+    if (!programs) {
+        Warn(
+            "The video can't be opened because the program ffmpeg was not found. Install the "
+            "package \"ffmpeg\".");
+        return false;
+    }
+    const uint64 room = document.pixel_budget->Left() + PixelBudget::kWorkingRoom;
+    auto reader = std::make_unique<VideoReader>(*programs, path, room, ForeignProcess::Limits{},
+                                                [&document] { return document.StopRequested(); });
+    const AnimatedImageLoad loader(std::move(reader), position, document);
     if (!loader.failed) return true;
     if (!document.StopRequested()) AskAboutDamage(loader, position, document, nullptr);
     return false;

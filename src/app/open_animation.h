@@ -10,7 +10,7 @@
 
 namespace kirto {
 
-enum class AnimationType { kNone, kGif, kFli, kWebp, kApng };
+enum class AnimationType { kNone, kGif, kFli, kWebp, kApng, kVideo };
 
 // Whether it is a WebP or PNG.
 bool IsAnimatedImage(AnimationType type);
@@ -48,6 +48,10 @@ bool OpenFli(BFile* file, int32 position, AnimationDocument& document,
 // An animated WebP or PNG, as above, read by the roster.
 bool OpenAnimatedImage(AnimationType type, BFile* file, int32 position, AnimationDocument& document,
                        const BTranslatorRoster& roster);
+
+// A video, as above, read by the programs ffprobe and ffmpeg; where they are missing the user is
+// told which package has them.
+bool OpenVideo(const std::string& path, int32 position, AnimationDocument& document);
 
 // A GIF, FLI or FLC.
 bool OpenAnimation(AnimationType type, BFile* file, int32 position, AnimationDocument& document,

@@ -135,6 +135,13 @@ TEST(ClassifyAnimation, AsksForGifFirst) {
     EXPECT_EQ(ClassifyAnimation("a.gif", "video/x-flc"), AnimationType::kGif);
 }
 
+TEST(ClassifyAnimation, TellsVideosByTheEndOfTheirNames) {
+    for (const std::string name : {"a.mp4", "a.MOV", "a.webm", "a.mkv", "a.avi", "a.m4v"})
+        EXPECT_EQ(ClassifyAnimation(name, ""), AnimationType::kVideo) << name;
+    EXPECT_EQ(ClassifyAnimation("a.mp4.txt", ""), AnimationType::kNone);
+    EXPECT_EQ(ClassifyAnimation("a.gif.mp4", ""), AnimationType::kGif);
+}
+
 TEST(ClassifyContent, KnowsAnimationsByTheirFirstBytes) {
     const auto classify = [](std::vector<uint8> bytes) {
         return ClassifyContent(BFile::OnMemory(std::move(bytes)).get());

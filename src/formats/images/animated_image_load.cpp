@@ -31,6 +31,17 @@ AnimatedImageLoad::AnimatedImageLoad(AnimatedImageFormat format, BFile* file, in
     if (!ReadFile(*file)) return;
     const uint64 room = document_.pixel_budget->Left() + PixelBudget::kWorkingRoom;
     reader_ = roster.ReadAnimatedImage(format, {bytes_.get(), size_}, room);
+    Load();
+}
+
+AnimatedImageLoad::AnimatedImageLoad(std::unique_ptr<AnimatedImageReader> reader, int32 start,
+                                     AnimationDocument& document)
+    : document_(document), position_(start), reader_(std::move(reader)) {
+    Load();
+}
+
+void AnimatedImageLoad::Load() {
+    const int32 start = position_;
     const Result result = reader_ ? reader_->ReadHeader(&header_) : Result::kBroken;
     if (result != Result::kFrame) {
         Fail(result);

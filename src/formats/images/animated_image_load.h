@@ -29,6 +29,10 @@ class AnimatedImageLoad {
     AnimatedImageLoad(AnimatedImageFormat format, BFile* file, int32 start,
                       AnimationDocument& document, const BTranslatorRoster& roster);
 
+    // The same for frames that come from elsewhere.
+    AnimatedImageLoad(std::unique_ptr<AnimatedImageReader> reader, int32 start,
+                      AnimationDocument& document);
+
     // Position just past the last inserted frame.
     int32 End() const { return position_; }
 
@@ -37,6 +41,7 @@ class AnimatedImageLoad {
     struct Finished;
 
     bool ReadFile(BFile& file);
+    void Load();
     void TakeHeader();
     void ReadFrames();
     std::optional<Piece> Draw();

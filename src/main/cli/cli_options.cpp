@@ -7,7 +7,8 @@ namespace {
 constexpr OptionText kOperations[] = {
     {"--set", "KEY=VALUE", "Change a setting for the rest of this run"},
     {"--faithful", nullptr, "From here on, read and save animations as browsers do"},
-    {"--open", "FILE", "Open a GIF, FLI, FLC, WebP or APNG animation in place of the current one"},
+    {"--open", "FILE",
+     "Open a GIF, FLI, FLC, WebP or APNG animation, or a video, in place of the current one"},
     {"--insert-animation", "FILE@N", "Insert an animation's frames before frame N"},
     {"--insert", "FILE[@N]", "Insert an image as frame N, or after the current frame"},
     {"--insert-tiled", "FILE,ROWS,COLUMNS[,by-column]",

@@ -82,6 +82,7 @@ std::string HeadlessDesktop::MimeTypeOf(const std::string& path) {
             return "video/x-fli";
         case AnimationType::kWebp:
         case AnimationType::kApng:
+        case AnimationType::kVideo:
         case AnimationType::kNone:
             break;
     }
