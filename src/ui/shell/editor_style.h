@@ -4,11 +4,11 @@
 
 namespace kirto {
 
-// The desktop's style, with two exceptions. The arrow of a menu bar that is too narrow is drawn:
+// The desktop's style, with three exceptions. The arrow of a menu bar that is too narrow is drawn:
 // the desktop's styles read it from a picture, and for the first picture the toolkit opens each
 // image plugin there is, which takes a third of the startup time. And in dark colors check boxes
-// have an outline that is lighter than the window, since a darker one is invisible there. GUI
-// thread.
+// have an outline that is lighter than the window, since a darker one is invisible there. In
+// colors of high contrast, boxes, fields and lists have one in the color of texts. GUI thread.
 class EditorStyle : public QProxyStyle {
   public:
     // base: the style's name, as QStyle::name has it.
