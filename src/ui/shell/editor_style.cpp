@@ -89,4 +89,12 @@ void EditorStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* op
     DrawOutline(*option, round, *painter);
 }
 
+void EditorStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                                     QPainter* painter, const QWidget* widget) const {
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    if (control != CC_SpinBox && control != CC_ComboBox) return;
+    if (!IsHighContrast(option->palette) || (option->state & State_HasFocus)) return;
+    DrawOutline(*option, false, *painter);
+}
+
 }  // namespace kirto

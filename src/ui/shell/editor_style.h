@@ -8,7 +8,8 @@ namespace kirto {
 // the desktop's styles read it from a picture, and for the first picture the toolkit opens each
 // image plugin there is, which takes a third of the startup time. And in dark colors check boxes
 // have an outline that is lighter than the window, since a darker one is invisible there. In
-// colors of high contrast, boxes, fields and lists have one in the color of texts. GUI thread.
+// colors of high contrast, boxes, fields, menus and lists have one in the color of texts. GUI
+// thread.
 class EditorStyle : public QProxyStyle {
   public:
     // base: the style's name, as QStyle::name has it.
@@ -18,6 +19,8 @@ class EditorStyle : public QProxyStyle {
                        const QWidget* widget) const override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                            QPainter* painter, const QWidget* widget) const override;
 };
 
 }  // namespace kirto

@@ -67,6 +67,26 @@ TEST(EditorStyle, OutlinesFieldsListsAndBoxesLikeTextInHighContrast) {
     }
 }
 
+TEST(EditorStyle, OutlinesSpinBoxesAndMenusLikeTextInHighContrast) {
+    const EditorStyle style("fusion");
+    constexpr double kReadable = 7;
+    QStyleOptionSpinBox spin_box;
+    QStyleOptionComboBox menu;
+    const auto expect_outline = [&](QStyle::ComplexControl control, QStyleOptionComplex& option) {
+        option.rect = QRect(0, 0, 64, 24);
+        option.palette = kContrast;
+        option.state = QStyle::State_Enabled;
+        QImage image(64, 24, QImage::Format_RGB32);
+        image.fill(Qt::black);
+        QPainter painter(&image);
+        style.drawComplexControl(control, &option, &painter, nullptr);
+        for (const QPoint edge : {QPoint(32, 0), QPoint(0, 12), QPoint(32, 23), QPoint(63, 12)})
+            EXPECT_GE(Contrast(image.pixelColor(edge), Qt::black), kReadable) << control;
+    };
+    expect_outline(QStyle::CC_SpinBox, spin_box);
+    expect_outline(QStyle::CC_ComboBox, menu);
+}
+
 TEST(EditorStyle, DrawsFieldsAndListsAsTheDesktopDoesInOtherColors) {
     const EditorStyle style("fusion");
     for (const auto element : {QStyle::PE_FrameLineEdit, QStyle::PE_Frame}) {
