@@ -4,6 +4,7 @@
 #include <QIconEngine>
 #include <QPainter>
 #include <QStyleOption>
+#include <cstdlib>
 
 namespace kirto {
 
@@ -36,9 +37,18 @@ bool IsDark(const QPalette& palette) {
            palette.color(QPalette::WindowText).lightness();
 }
 
+// Nothing lies between the darkest and the lightest colors: the user has asked for lines.
+bool IsHighContrast(const QPalette& palette) {
+    constexpr int kNearlyAll = 250;  // of 255
+    const int window = palette.color(QPalette::Window).lightness();
+    const int text = palette.color(QPalette::WindowText).lightness();
+    return std::abs(window - text) >= kNearlyAll;
+}
+
 QColor OutlineOf(const QPalette& palette) {
     const QColor window = palette.color(QPalette::Window);
     const QColor text = palette.color(QPalette::WindowText);
+    if (IsHighContrast(palette)) return text;
     return {(window.red() + text.red()) / 2, (window.green() + text.green()) / 2,
             (window.blue() + text.blue()) / 2};
 }
@@ -69,11 +79,22 @@ void EditorStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* op
                                 QPainter* painter, const QWidget* widget) const {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
     const bool round = element == PE_IndicatorRadioButton;
-    if (!round && element != PE_IndicatorCheckBox) return;
-    // A box that has the keyboard shows it by an outline of the style's own.
-    const State focus = State_HasFocus | State_KeyboardFocusChange;
-    if (!IsDark(option->palette) || (option->state & focus) == focus) return;
+    const bool box = round || element == PE_IndicatorCheckBox;
+    const bool field = element == PE_FrameLineEdit || element == PE_Frame;
+    const bool contrast = IsHighContrast(option->palette);
+    if (!(box && (contrast || IsDark(option->palette))) && !(field && contrast)) return;
+    // What has the keyboard shows it by an outline of the style's own.
+    const State focus = box ? State_HasFocus | State_KeyboardFocusChange : State(State_HasFocus);
+    if ((option->state & focus) == focus) return;
     DrawOutline(*option, round, *painter);
+}
+
+void EditorStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                                     QPainter* painter, const QWidget* widget) const {
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    if (control != CC_SpinBox && control != CC_ComboBox) return;
+    if (!IsHighContrast(option->palette) || (option->state & State_HasFocus)) return;
+    DrawOutline(*option, false, *painter);
 }
 
 }  // namespace kirto

@@ -4,10 +4,11 @@
 
 namespace kirto {
 
-// The desktop's style, with two exceptions. The arrow of a menu bar that is too narrow is drawn:
+// The desktop's style, with three exceptions. The arrow of a menu bar that is too narrow is drawn:
 // the desktop's styles read it from a picture, and for the first picture the toolkit opens each
 // image plugin there is, which takes a third of the startup time. And in dark colors check boxes
-// have an outline that is lighter than the window, since a darker one is invisible there. GUI
+// have an outline that is lighter than the window, since a darker one is invisible there. In
+// colors of high contrast, boxes, fields, menus and lists have one in the color of texts. GUI
 // thread.
 class EditorStyle : public QProxyStyle {
   public:
@@ -18,6 +19,8 @@ class EditorStyle : public QProxyStyle {
                        const QWidget* widget) const override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                            QPainter* painter, const QWidget* widget) const override;
 };
 
 }  // namespace kirto

@@ -29,8 +29,7 @@ ThumbScrollView::ThumbScrollView(QWidget* parent) : QAbstractScrollArea(parent) 
     setObjectName("ScrollView");
     setFocusPolicy(Qt::NoFocus);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    // A bar that came and went would change the width, and with it how many rows there are.
-    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBar(new ProportionalBar(viewport()));
     verticalScrollBar()->setSingleStep(kSmallStep);
     verticalScrollBar()->setPageStep(kLargeStep);
@@ -46,6 +45,9 @@ void ThumbScrollView::SetContent(QWidget* content) {
 void ThumbScrollView::SetContentHeight(int32 height) {
     if (height == content_height_) return;
     content_height_ = height;
+    // A bar that came and went as the content fits would change the width, and with it how many
+    // rows there are. Nothing at all has no rows.
+    setVerticalScrollBarPolicy(height > 0 ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
     Arrange();
 }
 

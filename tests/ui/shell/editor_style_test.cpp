@@ -11,6 +11,7 @@ namespace kirto::test {
 namespace {
 
 const QPalette kDark(QColor(49, 54, 59), QColor(42, 46, 50));
+const QPalette kContrast(Qt::black, Qt::black);
 const QPalette kLight(QColor(239, 239, 239), QColor(239, 239, 239));
 
 // An unchecked box or radio button of 16 x 16 pixels on the window's color.
@@ -50,6 +51,47 @@ TEST(EditorStyle, OutlinesUncheckedBoxesAndRadioButtonsInDarkColors) {
             EXPECT_GE(Contrast(image.pixelColor(edge), kDark.color(QPalette::Window)), kVisible)
                 << element << ' ' << edge.x() << ' ' << edge.y();
         }
+    }
+}
+
+TEST(EditorStyle, OutlinesFieldsListsAndBoxesLikeTextInHighContrast) {
+    const EditorStyle style("fusion");
+    constexpr double kReadable = 7;
+    for (const auto element : {QStyle::PE_IndicatorCheckBox, QStyle::PE_IndicatorRadioButton,
+                               QStyle::PE_FrameLineEdit, QStyle::PE_Frame}) {
+        const QImage image = Drawn(style, element, kContrast);
+        for (const QPoint edge : {QPoint(8, 0), QPoint(0, 8), QPoint(8, 15), QPoint(15, 8)}) {
+            EXPECT_GE(Contrast(image.pixelColor(edge), Qt::black), kReadable)
+                << element << ' ' << edge.x() << ' ' << edge.y();
+        }
+    }
+}
+
+TEST(EditorStyle, OutlinesSpinBoxesAndMenusLikeTextInHighContrast) {
+    const EditorStyle style("fusion");
+    constexpr double kReadable = 7;
+    QStyleOptionSpinBox spin_box;
+    QStyleOptionComboBox menu;
+    const auto expect_outline = [&](QStyle::ComplexControl control, QStyleOptionComplex& option) {
+        option.rect = QRect(0, 0, 64, 24);
+        option.palette = kContrast;
+        option.state = QStyle::State_Enabled;
+        QImage image(64, 24, QImage::Format_RGB32);
+        image.fill(Qt::black);
+        QPainter painter(&image);
+        style.drawComplexControl(control, &option, &painter, nullptr);
+        for (const QPoint edge : {QPoint(32, 0), QPoint(0, 12), QPoint(32, 23), QPoint(63, 12)})
+            EXPECT_GE(Contrast(image.pixelColor(edge), Qt::black), kReadable) << control;
+    };
+    expect_outline(QStyle::CC_SpinBox, spin_box);
+    expect_outline(QStyle::CC_ComboBox, menu);
+}
+
+TEST(EditorStyle, DrawsFieldsAndListsAsTheDesktopDoesInOtherColors) {
+    const EditorStyle style("fusion");
+    for (const auto element : {QStyle::PE_FrameLineEdit, QStyle::PE_Frame}) {
+        for (const QPalette& colors : {kDark, kLight})
+            EXPECT_EQ(Drawn(style, element, colors), Drawn(*style.baseStyle(), element, colors));
     }
 }
 

@@ -200,6 +200,19 @@ TEST(ThumbDrawingView, HasAScrollRangeThatEndsAGapBelowTheLastRow) {
     EXPECT_EQ(bar->maximum(), 0);
 }
 
+TEST(ThumbDrawingView, HasAScrollBarOnlyWhileThereAreFrames) {
+    ThumbnailFixture fixture(SameFrames(1, 100, 100));
+    const QScrollBar* bar = fixture.Scroll().verticalScrollBar();
+    HandleEvents();
+    EXPECT_TRUE(bar->isVisible());
+    fixture.Show({});
+    HandleEvents();
+    EXPECT_FALSE(bar->isVisible());
+    fixture.Show(SameFrames(1, 100, 100));
+    HandleEvents();
+    EXPECT_TRUE(bar->isVisible());
+}
+
 TEST(ThumbDrawingView, FollowsTheWidthWithItsRows) {
     ThumbnailFixture fixture(SameFrames(60, 100, 100));
     const int before = fixture.Scroll().verticalScrollBar()->maximum();
