@@ -13,6 +13,8 @@ using namespace kirto::test;
 
 namespace {
 
+constexpr size_t kSettingsBytes = 64;  // the last of the input
+
 // Colors by their names, and now and then what is none.
 std::string ExactColors(ByteChoices& choices) {
     static constexpr char kDigits[] = "0123456789abcdefg";
@@ -50,7 +52,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     made.prefs.animation_dithering = choices.Between(0, 2);
     made.prefs.animation_gifinterlaced = choices.OneIn(2);
     FillWithScenes(choices, 20, made.document);
-    const ShownAlpha alpha = ChooseSettings(choices, made.prefs);
+    // Scenes may use up all bytes.
+    const size_t settings_size = std::min(size, kSettingsBytes);
+    ByteChoices settings(data + size - settings_size, settings_size);
+    const ShownAlpha alpha = ChooseSettings(settings, made.prefs);
     const std::shared_ptr<BFile> file = BFile::OnMemory();
     const kirto::FaithfulGifSave save(file, made.document);
 
