@@ -87,7 +87,7 @@ void CountLzw() {
     Count("lzw_decode", [&] { decoder.Decode(writer, work, 0); });
 }
 
-// Strings that are found with care, and then with the table cleared where it pays.
+// Strings that are found with care, and the places where it pays to clear the table.
 void CountChoices() {
     const std::vector<uint8> indices = IndicesOf(PaintPhoto, Reduction::kDithered);
     const ChoiceImage image{indices, {}, 0, 8};
@@ -96,7 +96,7 @@ void CountChoices() {
     ChoiceLzwEncoder encoder(work);
     Count("lzw_choose", [&] { encoder.Encode(image, kShorter, {}); });
     const LzwPace pace = encoder.Pace();
-    Count("lzw_clear", [&] { encoder.EncodeWell(image, kShorter, pace, indices.size() * 2); });
+    Count("lzw_clear", [&] { encoder.FindClearings(image, pace); });
 }
 
 std::vector<uint8> FirstRow(const Frame& frame) {

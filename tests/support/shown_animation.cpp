@@ -8,19 +8,20 @@ namespace {
 
 constexpr size_t kMostColors = 256;
 
-uint32 SeenPixel(const uint8* pixel, bool big_endian) {
+uint32 SeenPixel(const uint8* pixel, bool big_endian, const ShownAlpha& how) {
     const size_t alpha_at = big_endian ? 0 : 3;
     const int32 alpha = pixel[alpha_at];
-    if (alpha < 128) return 0;
+    if (alpha < how.threshold) return 0;
     uint32 seen = 0xFF;
     for (size_t i = 0; i < 3; ++i) {
         const int32 part = pixel[big_endian ? i + 1 : 2 - i];
-        seen = seen << 8 | static_cast<uint32>((part * alpha + 255 * (255 - alpha) + 127) / 255);
+        const auto below = static_cast<int32>(how.matte >> (16 - 8 * i) & 0xFF);
+        seen = seen << 8 | static_cast<uint32>((part * alpha + below * (255 - alpha) + 127) / 255);
     }
     return seen;
 }
 
-ShownPixels Shown(const Animation& animation, const Frame& frame) {
+ShownPixels Shown(const Animation& animation, const Frame& frame, const ShownAlpha& how) {
     ShownPixels pixels(static_cast<size_t>(animation.width * animation.height), 0);
     if (!frame.bitmap || !frame.bitmap->HasRows()) return pixels;
     const bool big_endian = IsBigEndian(frame.bitmap->ColorSpace());
@@ -31,7 +32,7 @@ ShownPixels Shown(const Animation& animation, const Frame& frame) {
         const int32 start = (y + frame.y_offset) * animation.width + frame.x_offset;
         for (int32 x = 0; x < columns; ++x) {
             pixels[static_cast<size_t>(start + x)] =
-                SeenPixel(row.data() + size_t{4} * static_cast<size_t>(x), big_endian);
+                SeenPixel(row.data() + size_t{4} * static_cast<size_t>(x), big_endian, how);
         }
     }
     return pixels;
@@ -148,11 +149,11 @@ class SceneMaker {
 
 }  // namespace
 
-std::vector<ShownFrame> ShownFrames(const Animation& animation) {
+std::vector<ShownFrame> ShownFrames(const Animation& animation, const ShownAlpha& how) {
     std::vector<ShownFrame> frames;
     for (const FramePointer& frame : animation.frames) {
         ShownFrame shown;
-        shown.pixels = Shown(animation, *frame);
+        shown.pixels = Shown(animation, *frame, how);
         shown.delay = PauseOf(animation, *frame);
         ShownFrame* const last = frames.empty() ? nullptr : &frames.back();
         shown.promised = IsPromised(shown.pixels, last);

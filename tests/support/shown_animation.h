@@ -21,10 +21,15 @@ struct ShownFrame {
     }
 };
 
-// What each frame shows on a screen as large as the animation. Pixels of alpha 128 and more are
-// seen, laid on white. Where frames are alike the first lasts as long as all of them, unless one
-// lasts less than 2 hundredths.
-std::vector<ShownFrame> ShownFrames(const Animation& animation);
+// What becomes of pixels with alpha.
+struct ShownAlpha {
+    int32 threshold = 128;    // pixels of less alpha show nothing
+    uint32 matte = 0xFFFFFF;  // what the others are laid on: 0xRRGGBB
+};
+
+// What each frame shows on a screen as large as the animation. Where frames are alike the first
+// lasts as long as all of them, unless one lasts less than 2 hundredths.
+std::vector<ShownFrame> ShownFrames(const Animation& animation, const ShownAlpha& how = {});
 
 // Fills an empty document with frames such as faithful saving has to deal with: each is new, or the
 // one before with a few rectangles painted over, cleared or shifted; with offsets, alpha,

@@ -7,24 +7,25 @@ namespace kirto {
 std::span<const uint8> ChoiceLzwEncoder::Encode(const Image& image, size_t shorter,
                                                 const Limits& limits) {
     Begin(image, shorter);
-    pace_ = {};
-    complete_ = TakeTable(limits);
+    const size_t pixels = image.indices.size();
+    complete_ = TakeUntil(pixels, true, limits);
     while (complete_ && !parser_.AtEnd()) {
         filled_ = true;
         ClearTable(shorter);
-        complete_ = TakeTable(limits);
+        complete_ = TakeUntil(pixels, true, limits);
     }
     return End();
 }
 
-std::span<const uint8> ChoiceLzwEncoder::EncodeWell(const Image& image, size_t shorter,
-                                                    const LzwPace& pace, size_t most) {
-    const std::vector<size_t> clearings = clearings_.Find(image, shorter, pace);
+std::span<const uint8> ChoiceLzwEncoder::EncodeCleared(const Image& image, size_t shorter,
+                                                       std::span<const size_t> clearings,
+                                                       const Limits& limits) {
     Begin(image, shorter);
     complete_ = true;
     for (size_t i = 0; complete_ && i <= clearings.size(); ++i) {
         if (i > 0) ClearTable(shorter);
-        complete_ = TakeUntil(i < clearings.size() ? clearings[i] : image.indices.size(), most);
+        const size_t end = i < clearings.size() ? clearings[i] : image.indices.size();
+        complete_ = TakeUntil(end, false, limits);
     }
     filled_ = !clearings.empty();
     return End();
@@ -36,18 +37,20 @@ void ChoiceLzwEncoder::Begin(const Image& image, size_t shorter) {
     bit_buffer_ = 0;
     bit_count_ = 0;
     filled_ = false;
+    pace_ = {};
     parser_.Start(image, shorter, 0);
     Put({static_cast<uint16>(1U << image.min_code_size), static_cast<uint16>(parser_.CodeSize())});
 }
 
-bool ChoiceLzwEncoder::TakeTable(const Limits& limits) {
+bool ChoiceLzwEncoder::TakeUntil(size_t end, bool full_ends, const Limits& limits) {
     const size_t pixels = image_.indices.size();
-    for (size_t strings = 0; !parser_.AtEnd() && !parser_.Full(); ++strings) {
+    for (size_t strings = 0; parser_.At() < end; ++strings) {
+        if (full_ends && parser_.Full()) break;
         if (strings % kStringsAtOnce == 0 && work_.StopRequested()) return false;
         Put(parser_.Take());
         pace_.Add(parser_.At(), bytes_.size(), pixels);
         if (bytes_.size() > limits.most) return false;
-        if (strings % kStringsAtOnce == 0 && !KeepsUp(limits)) return false;
+        if (strings % kStringsToCompare == 0 && !KeepsUp(limits)) return false;
     }
     return KeepsUp(limits);
 }
@@ -57,15 +60,6 @@ bool ChoiceLzwEncoder::KeepsUp(const Limits& limits) const {
     const double other = limits.pace->BytesFor(parser_.At(), image_.indices.size());
     const size_t may_be_behind = limits.most / kBehind + kAnyBehind;
     return static_cast<double>(bytes_.size()) <= other + static_cast<double>(may_be_behind);
-}
-
-bool ChoiceLzwEncoder::TakeUntil(size_t end, size_t most) {
-    for (size_t strings = 0; parser_.At() < end; ++strings) {
-        if (strings % kStringsAtOnce == 0 && work_.StopRequested()) return false;
-        Put(parser_.Take());
-        if (bytes_.size() > most) return false;
-    }
-    return true;
 }
 
 void ChoiceLzwEncoder::ClearTable(size_t shorter) {

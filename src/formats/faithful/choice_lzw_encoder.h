@@ -32,13 +32,18 @@ class ChoiceLzwEncoder {
     // LzwParser. The codes, first to last, as they go into sub-blocks; good until the next call.
     // Breaks off beyond the limits.
     std::span<const uint8> Encode(const Image& image, size_t shorter, const Limits& limits);
-    // The same, the table being cleared where it pays, which takes some times as long. pace: of
-    // Encode(). most: bytes.
-    std::span<const uint8> EncodeWell(const Image& image, size_t shorter, const LzwPace& pace,
-                                      size_t most);
+    // Where it pays to clear the table, with the longest strings; takes some times as long. pace:
+    // of Encode().
+    std::vector<size_t> FindClearings(const Image& image, const LzwPace& pace) {
+        return clearings_.Find(image, pace);
+    }
+    // The same as Encode(), the table being cleared at the first strings that start at or behind
+    // these pixels.
+    std::span<const uint8> EncodeCleared(const Image& image, size_t shorter,
+                                         std::span<const size_t> clearings, const Limits& limits);
     // Whether the last encoding is all of the image.
     bool Complete() const { return complete_; }
-    // Of the last Encode(), as far as it went.
+    // Of the last encoding, as far as it went.
     const LzwPace& Pace() const { return pace_; }
     // Whether the last encoding has had a full table.
     bool HasFilledTable() const { return filled_; }
@@ -46,15 +51,16 @@ class ChoiceLzwEncoder {
   private:
     // Strings between two looks at the work.
     static constexpr size_t kStringsAtOnce = 1024;
+    // Strings between two looks at the encoding that this one is compared with.
+    static constexpr size_t kStringsToCompare = 64;
     // What an encoding may be behind another one, and still come out ahead.
-    static constexpr size_t kBehind = 8;  // a part of the most bytes
-    static constexpr size_t kAnyBehind = 64;
+    static constexpr size_t kBehind = 16;  // a part of the most bytes
+    static constexpr size_t kAnyBehind = 32;
 
     void Begin(const Image& image, size_t shorter);
-    // Strings until the table is full, or up to that pixel; false where the encoding need not go
-    // on.
-    bool TakeTable(const Limits& limits);
-    bool TakeUntil(size_t end, size_t most);
+    // Strings up to that pixel, or until the table is full where that is the end; false where the
+    // encoding need not go on.
+    bool TakeUntil(size_t end, bool full_ends, const Limits& limits);
     void ClearTable(size_t shorter);
     std::span<const uint8> End();
     bool KeepsUp(const Limits& limits) const;

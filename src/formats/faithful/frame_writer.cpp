@@ -15,6 +15,8 @@ constexpr size_t kSubBlock = 255;
 constexpr size_t kWorthOwnTable = 1000;  // bytes of data
 // So many pixels a byte are strings so long that they gain nothing by ending early.
 constexpr size_t kShortStrings = 16;
+// Indices that strings give up for the next ones.
+constexpr size_t kShorter = 2;
 // Above those of any index.
 constexpr int32 kAnyBits = 9;
 
@@ -153,14 +155,19 @@ ChoiceLzwEncoder::Image FrameWriter::ImageOf(const ImageArea& area, const Encodi
 void FrameWriter::Refine(const ImageArea& area, Encoding* best) {
     const auto image = ImageOf(area, *best);
     const auto take = [&](std::span<const uint8> codes) {
-        if (encoder_.Complete() && codes.size() < best->data.size())
-            best->data.assign(codes.begin(), codes.end());
+        if (!encoder_.Complete() || codes.size() >= best->data.size()) return;
+        best->data.assign(codes.begin(), codes.end());
+        best->pace = encoder_.Pace();
     };
-    if (best->filled) take(encoder_.EncodeWell(image, 0, best->pace, best->data.size()));
-    if (best->data.size() * kShortStrings <= area.keys.size()) return;
-    if (!best->filled) take(encoder_.Encode(image, 1, {.most = best->data.size()}));
-    if (best->filled && best->drawing.chooses)
-        take(encoder_.EncodeWell(image, 1, best->pace, best->data.size()));
+    const auto limits = [&] { return ChoiceLzwEncoder::Limits{best->data.size(), &best->pace}; };
+    const bool short_strings = best->data.size() * kShortStrings > area.keys.size();
+    if (best->filled) {
+        const std::vector<size_t> clearings = encoder_.FindClearings(image, best->pace);
+        take(encoder_.EncodeCleared(image, 0, clearings, limits()));
+        if (short_strings) take(encoder_.EncodeCleared(image, kShorter, clearings, limits()));
+    } else if (short_strings) {
+        take(encoder_.Encode(image, kShorter, limits()));
+    }
 }
 
 }  // namespace kirto

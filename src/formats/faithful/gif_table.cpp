@@ -107,13 +107,6 @@ GifTable::GifTable(std::span<const uint32> keys) : GifTable() {
     }
 }
 
-size_t GifTable::SlotOf(uint32 key) const {
-    size_t slot = key * 0x9E3779B1U >> 22;
-    while (slots_[slot] != kNone && keys_[static_cast<size_t>(slots_[slot])] != key)
-        slot = (slot + 1) % kSlots;
-    return slot;
-}
-
 int32 GifTable::Bits() const {
     return std::max(1, static_cast<int32>(std::bit_width(size_ > 0 ? size_ - 1 : 0)));
 }

@@ -41,6 +41,13 @@ class GifTable {
     std::array<int16, kSlots> slots_;
 };
 
+inline size_t GifTable::SlotOf(uint32 key) const {
+    size_t slot = key * 0x9E3779B1U >> 22;
+    while (slots_[slot] != kNone && keys_[static_cast<size_t>(slots_[slot])] != key)
+        slot = (slot + 1) % kSlots;
+    return slot;
+}
+
 // Whether the table has all that the image needs: its colors, and an index that none of them has
 // where pixels are skipped.
 bool Serves(const GifTable& table, const FramePlan& plan);

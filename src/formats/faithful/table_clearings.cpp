@@ -5,11 +5,9 @@
 
 namespace kirto {
 
-std::vector<size_t> TableClearings::Find(const ChoiceImage& image, size_t shorter,
-                                         const LzwPace& pace) {
+std::vector<size_t> TableClearings::Find(const ChoiceImage& image, const LzwPace& pace) {
     if (!parser_) parser_ = std::make_unique<LzwParser>();
     image_ = image;
-    shorter_ = shorter;
     pace_ = &pace;
     places_.clear();
     open_.assign(1, Place());
@@ -30,7 +28,7 @@ std::vector<size_t> TableClearings::Find(const ChoiceImage& image, size_t shorte
 
 void TableClearings::GoOnFrom(size_t place) {
     const Place from = places_[place];
-    parser_->Start(image_, shorter_, from.at);
+    parser_->Start(image_, 0, from.at);
     size_t strings = 0;
     size_t filling = 0;  // strings that it took
     while (!parser_->AtEnd()) {

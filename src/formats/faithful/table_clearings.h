@@ -21,9 +21,9 @@ class TableClearings {
     // work: outlives this; what is found while it is stopped is of no use.
     explicit TableClearings(const Work& work) : work_(work) {}
 
-    // The pixels, by their positions, before which the table is to be cleared. pace: of an encoding
-    // of the image. shorter: as for LzwParser.
-    std::vector<size_t> Find(const ChoiceImage& image, size_t shorter, const LzwPace& pace);
+    // The pixels, by their positions, before which the table is to be cleared, all strings being as
+    // long as can be. pace: of an encoding of the image.
+    std::vector<size_t> Find(const ChoiceImage& image, const LzwPace& pace);
 
   private:
     // Strings between two places that a table may be cleared at.
@@ -44,7 +44,6 @@ class TableClearings {
 
     const Work& work_;
     ChoiceImage image_;
-    size_t shorter_ = 0;
     const LzwPace* pace_ = nullptr;
     std::unique_ptr<LzwParser> parser_;
     std::vector<Place> places_;

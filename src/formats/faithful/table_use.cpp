@@ -5,6 +5,7 @@
 #include <new>
 #include <utility>
 
+#include "base/byte_order.h"
 #include "color/color_values.h"
 #include "formats/faithful/screen_difference.h"
 
@@ -69,6 +70,22 @@ int32 BitsFor(int32 index) {
     return std::max(2, static_cast<int32>(std::bit_width(static_cast<uint32>(index))));
 }
 
+std::shared_ptr<const TableIndices> IndicesOf(const GifTable& table, const ImageArea& area) {
+    auto result = std::make_shared<TableIndices>();
+    const size_t size = area.keys.size();
+    result->indices.resize(size);
+    for (size_t i = 0; i < size;) {
+        const uint32 key = area.keys[i];
+        const int32 index = table.IndexOf(key);
+        const uint16 found =
+            index == GifTable::kNone ? TableIndices::kNone : static_cast<uint16>(index);
+        result->largest = std::max(result->largest, found);
+        for (; i < size && area.keys[i] == key; ++i)
+            result->indices[i] = found;
+    }
+    return result;
+}
+
 TableUse GlobalSkippingUse(const GifTable& table, const FramePlan& plan) {
     TableUse use;
     use.table = table;
@@ -85,25 +102,20 @@ TableUse GlobalSkippingUse(const GifTable& table, const FramePlan& plan) {
     return use;
 }
 
-// Nothing where a pixel has none of the colors.
-std::optional<TableUse> PlainUse(const GifTable& table, const ImageArea& area) {
-    int32 largest = 0;
-    for (size_t i = 0; i < area.keys.size();) {
-        const uint32 key = area.keys[i];
-        const int32 index = table.IndexOf(key);
-        if (index == GifTable::kNone) return std::nullopt;
-        largest = std::max(largest, index);
-        while (i < area.keys.size() && area.keys[i] == key)
-            ++i;
-    }
+// Draws all pixels; nothing where one has none of the colors.
+std::optional<TableUse> PlainUse(const GifTable& table,
+                                 std::shared_ptr<const TableIndices> indices) {
+    if (indices->largest == TableIndices::kNone) return std::nullopt;
     TableUse use;
     use.table = table;
-    use.bits = BitsFor(largest);
+    use.bits = BitsFor(indices->largest);
+    use.indices = std::move(indices);
     return use;
 }
 
 // What there is room for are colors of pixels that stay as they are: they may be drawn again.
-TableUse LocalSkippingUse(const FramePlan& plan, std::span<const ColorValues::Item> skipped) {
+TableUse LocalSkippingUse(const FramePlan& plan, const ImageArea& area,
+                          std::span<const ColorValues::Item> skipped) {
     TableUse use;
     use.local = true;
     std::vector<uint32> keys = KeysOf(plan.colors);
@@ -117,6 +129,7 @@ TableUse LocalSkippingUse(const FramePlan& plan, std::span<const ColorValues::It
         if (keys.size() < room && !known) keys.push_back(item.key);
     }
     use.table = GifTable(keys);
+    use.indices = IndicesOf(use.table, area);
     return use;
 }
 
@@ -128,7 +141,8 @@ std::optional<TableUse> LocalPlainUse(const FramePlan& plan, const ImageArea& ar
         if (std::find(keys.begin(), keys.end(), item.key) == keys.end()) keys.push_back(item.key);
         if (keys.size() > GifTable::kMostEntries) return std::nullopt;
     }
-    std::optional<TableUse> use = PlainUse(GifTable(keys), area);
+    const GifTable table(keys);
+    std::optional<TableUse> use = PlainUse(table, IndicesOf(table, area));
     if (use) use->local = true;
     return use;
 }
@@ -138,8 +152,12 @@ std::optional<TableUse> LocalPlainUse(const FramePlan& plan, const ImageArea& ar
 std::vector<TableUse> GlobalUses(const GifTable& table, const FramePlan& plan,
                                  const ImageArea& area) {
     std::vector<TableUse> uses;
-    if (plan.skips && Serves(table, plan)) uses.push_back(GlobalSkippingUse(table, plan));
-    if (std::optional<TableUse> plain = PlainUse(table, area)) uses.push_back(*plain);
+    const std::shared_ptr<const TableIndices> indices = IndicesOf(table, area);
+    if (plan.skips && Serves(table, plan)) {
+        uses.push_back(GlobalSkippingUse(table, plan));
+        uses.back().indices = indices;
+    }
+    if (std::optional<TableUse> plain = PlainUse(table, indices)) uses.push_back(*plain);
     return uses;
 }
 
@@ -148,7 +166,8 @@ std::vector<TableUse> LocalUses(const FramePlan& plan, const ImageArea& area, in
     const int32 colors = static_cast<int32>(plan.colors.size());
     if (BitsFor(colors - 1) >= below) return uses;
     const std::vector<ColorValues::Item> skipped = Skipped(area.keys, area.skippable);
-    if (plan.skips && BitsFor(colors) < below) uses.push_back(LocalSkippingUse(plan, skipped));
+    if (plan.skips && BitsFor(colors) < below)
+        uses.push_back(LocalSkippingUse(plan, area, skipped));
     std::optional<TableUse> plain = LocalPlainUse(plan, area, skipped);
     if (plain && plain->bits < below) uses.push_back(*plain);
     return uses;
@@ -157,17 +176,13 @@ std::vector<TableUse> LocalUses(const FramePlan& plan, const ImageArea& area, in
 std::vector<Drawing> DrawingsOf(const ImageArea& area, const TableUse& use) {
     const bool skips = use.transparent_index != GifTable::kNone;
     const int32 indices_end = 1 << use.bits;
+    const auto transparent = static_cast<uint8>(std::max(use.transparent_index, 0));
     std::vector<uint8> indices(area.keys.size());
-    for (size_t i = 0; i < area.keys.size();) {
-        const uint32 key = area.keys[i];
-        int32 index = use.table.IndexOf(key);
-        if (index == GifTable::kNone || index >= indices_end) index = use.transparent_index;
-        for (; i < area.keys.size() && area.keys[i] == key; ++i)
-            indices[i] = static_cast<uint8>(index);
-    }
+    std::transform(
+        use.indices->indices.begin(), use.indices->indices.end(), indices.begin(),
+        [=](uint16 index) { return index < indices_end ? LowByte(index) : transparent; });
     std::vector<Drawing> drawings;
     if (skips) {
-        const auto transparent = static_cast<uint8>(use.transparent_index);
         drawings.push_back({Skipping(indices, area.skippable, transparent, kLongStretch), false});
     }
     drawings.push_back({std::move(indices), skips});

@@ -1,6 +1,7 @@
 // How the pixels of an image become indices: of which table, and which pixels are skipped.
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -16,9 +17,18 @@ struct ImageArea {
     std::vector<uint8> skippable;  // 1 where the screen shows them already, else 0
 };
 
+// Of an area's pixels in a table.
+struct TableIndices {
+    static constexpr uint16 kNone = 0xFFFF;  // of colors that the table has not
+
+    std::vector<uint16> indices;
+    uint16 largest = 0;
+};
+
 // A table, and how many of its indices are made use of.
 struct TableUse {
     GifTable table;
+    std::shared_ptr<const TableIndices> indices;  // of the area that it is used for
     bool local = false;
     int32 transparent_index = GifTable::kNone;  // kNone: no pixel is skipped
     int32 bits = 2;                             // of the indices

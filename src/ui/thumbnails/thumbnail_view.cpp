@@ -156,8 +156,6 @@ void ThumbnailView::ShowBeginning() {
     const bool empty = shown_.Frames().Empty();
     faithful_->setVisible(empty);
     beginning_->setVisible(empty);
-    scroll_view_->setVerticalScrollBarPolicy(empty ? Qt::ScrollBarAlwaysOff
-                                                   : Qt::ScrollBarAlwaysOn);
     if (!recent_) return;
     recent_label_->setVisible(empty && recent_->count() > 0);
     recent_->setVisible(empty && recent_->count() > 0);

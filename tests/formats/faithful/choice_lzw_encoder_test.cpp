@@ -1,7 +1,6 @@
 #include "formats/faithful/choice_lzw_encoder.h"
 
 #include <gtest/gtest.h>
-#include <limits>
 #include <random>
 
 #include "formats/gif/gif_index_writer.h"
@@ -12,8 +11,6 @@ namespace kirto::test {
 namespace {
 
 using Bytes = std::vector<uint8>;
-
-constexpr size_t kAnySize = std::numeric_limits<size_t>::max();
 
 // How strings are found, and whether the places to clear the table at are looked for.
 struct Effort {
@@ -26,7 +23,10 @@ class ChoiceLzw : public testing::Test {
     Bytes Encode(const ChoiceLzwEncoder::Image& image, const Effort& effort) {
         std::span<const uint8> codes = encoder_->Encode(image, effort.shorter, {});
         const LzwPace pace = encoder_->Pace();
-        if (effort.well) codes = encoder_->EncodeWell(image, effort.shorter, pace, kAnySize);
+        if (effort.well) {
+            const auto clearings = encoder_->FindClearings(image, pace);
+            codes = encoder_->EncodeCleared(image, effort.shorter, clearings, {});
+        }
         EXPECT_TRUE(encoder_->Complete());
         return {codes.begin(), codes.end()};
     }
@@ -142,6 +142,19 @@ TEST_F(ChoiceLzw, BreaksOffOnceItIsLargerThanAsked) {
     const auto codes = encoder_->Encode(Plain(indices, 8), 0, {.most = 1000});
     EXPECT_FALSE(encoder_->Complete());
     EXPECT_GT(codes.size(), 1000u);
+    EXPECT_LT(codes.size(), 1100u);
+}
+
+TEST_F(ChoiceLzw, ClearingWhereItIsToldIsBoundByTheSameLimits) {
+    Random random(9);
+    const Bytes indices = Runs(random, 50000, 256, 1);
+    const auto image = Plain(indices, 8);
+    const std::vector<size_t> clearings = {100, 101, 20000};
+    const auto all = encoder_->EncodeCleared(image, 0, clearings, {});
+    EXPECT_TRUE(encoder_->Complete());
+    EXPECT_EQ(Decoded({all.begin(), all.end()}, 8, indices.size()), indices);
+    const auto codes = encoder_->EncodeCleared(image, 0, clearings, {.most = 1000});
+    EXPECT_FALSE(encoder_->Complete());
     EXPECT_LT(codes.size(), 1100u);
 }
 
