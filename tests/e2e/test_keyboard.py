@@ -35,7 +35,7 @@ class Keyboard(EditorTest):
 
         press("alt+f")
         editor.node("menu item", "Save As...")
-        press("Down", "Down", "Down", "Return")
+        press("a")
         target = self.folder / "by keyboard.gif"
         editor.name_file("Save Animation", target)
         editor.wait_for_status(5, modified=False)
