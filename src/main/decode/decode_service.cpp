@@ -65,7 +65,7 @@ void DecodeService::DecodePicture(const DecodeRequest& request, FileDescriptor f
     answer.status =
         roster_.Translate(*source, std::make_shared<PixelBudget>(request.pixel_bytes), &picture);
     if (answer.status == B_OK) {
-        answer.color_space = picture->ColorSpace();
+        answer.color_space = static_cast<uint32>(picture->ColorSpace());
         answer.width = picture->Width();
         answer.height = picture->Height();
         if (!Share({picture->Bits(), picture->BitsLength()})) answer.status = B_NO_MEMORY;

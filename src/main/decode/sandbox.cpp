@@ -96,6 +96,14 @@ constexpr int kAllowedToReadFiles[] = {
     SCMP_SYS(fstatfs), SCMP_SYS(getdents64), SCMP_SYS(readlink),   SCMP_SYS(readlinkat),
     SCMP_SYS(getcwd)};
 
+// Conditions: a call's argument, counted from 0, has the value, whole or in the bits of the mask.
+scmp_arg_cmp Equal(unsigned argument, scmp_datum_t value) {
+    return {argument, SCMP_CMP_EQ, value, 0};
+}
+scmp_arg_cmp Masked(unsigned argument, scmp_datum_t mask, scmp_datum_t value) {
+    return {argument, SCMP_CMP_MASKED_EQ, mask, value};
+}
+
 // Rules of the filter; once one could not be added, there is no filter.
 class Filter {
   public:
@@ -132,33 +140,33 @@ class Filter {
 // Threads, not processes. The newer call has its flags where no filter sees them; the older one is
 // used in its place where that is missing.
 void AllowThreads(Filter* filter) {
-    filter->Allow(SCMP_SYS(clone), SCMP_A0(SCMP_CMP_MASKED_EQ, CLONE_THREAD, CLONE_THREAD));
+    filter->Allow(SCMP_SYS(clone), Masked(0, CLONE_THREAD, CLONE_THREAD));
     filter->Refuse(SCMP_SYS(clone3), ENOSYS);
     // The names of threads, and of memory.
-    filter->Allow(SCMP_SYS(prctl), SCMP_A0(SCMP_CMP_EQ, PR_SET_NAME));
+    filter->Allow(SCMP_SYS(prctl), Equal(0, PR_SET_NAME));
     // Aborting is a signal to oneself.
-    filter->Allow(SCMP_SYS(tgkill), SCMP_A0(SCMP_CMP_EQ, static_cast<scmp_datum_t>(getpid())));
+    filter->Allow(SCMP_SYS(tgkill), Equal(0, static_cast<scmp_datum_t>(getpid())));
 }
 
 // What a descriptor is. The name that could be given beside it tells of a file, but opens none.
 void AllowDescriptions(Filter* filter) {
     constexpr scmp_datum_t kOfDescriptor = AT_EMPTY_PATH;
-    filter->Allow(SCMP_SYS(newfstatat), SCMP_A3(SCMP_CMP_MASKED_EQ, kOfDescriptor, kOfDescriptor));
-    filter->Allow(SCMP_SYS(statx), SCMP_A2(SCMP_CMP_MASKED_EQ, kOfDescriptor, kOfDescriptor));
+    filter->Allow(SCMP_SYS(newfstatat), Masked(3, kOfDescriptor, kOfDescriptor));
+    filter->Allow(SCMP_SYS(statx), Masked(2, kOfDescriptor, kOfDescriptor));
 }
 
 // No memory of data becomes code.
 void AllowMemory(Filter* filter) {
-    filter->Allow(SCMP_SYS(mmap), SCMP_A2(SCMP_CMP_MASKED_EQ, PROT_EXEC, 0));
-    filter->Allow(SCMP_SYS(mprotect), SCMP_A2(SCMP_CMP_MASKED_EQ, PROT_EXEC, 0));
+    filter->Allow(SCMP_SYS(mmap), Masked(2, PROT_EXEC, 0));
+    filter->Allow(SCMP_SYS(mprotect), Masked(2, PROT_EXEC, 0));
 }
 
 void AllowReadingFiles(Filter* filter) {
     for (const int call : kAllowedToReadFiles)
         filter->Allow(call);
     constexpr scmp_datum_t kChanges = O_ACCMODE | O_CREAT | O_TRUNC | O_APPEND;
-    filter->Allow(SCMP_SYS(openat), SCMP_A2(SCMP_CMP_MASKED_EQ, kChanges, O_RDONLY));
-    filter->Allow(SCMP_SYS(open), SCMP_A1(SCMP_CMP_MASKED_EQ, kChanges, O_RDONLY));
+    filter->Allow(SCMP_SYS(openat), Masked(2, kChanges, O_RDONLY));
+    filter->Allow(SCMP_SYS(open), Masked(1, kChanges, O_RDONLY));
 }
 
 }  // namespace

@@ -34,24 +34,33 @@ TextControl* FieldPanel::MakeNumber(uint32 command, const char* tip, QCheckBox* 
     return number;
 }
 
-TextControl* FieldPanel::AddNumber(uint32 command, const char* tip, const char* label,
+TextControl* FieldPanel::AddNumber(uint32 command, Unit unit, const char* tip, const char* label,
                                    QCheckBox* box) {
     TextControl* number = MakeNumber(command, tip, box);
-    rows_->AddField(label ? QString(label) : number->objectName() + ":", number);
+    const QString text = label ? QString(label) : number->objectName() + ":";
+    rows_->AddField(text, number, MakeUnit(unit));
     return number;
 }
 
-TextControl* FieldPanel::AddNumber(uint32 command, const char* tip, QCheckBox* box) {
+TextControl* FieldPanel::AddNumber(uint32 command, Unit unit, const char* tip, QCheckBox* box) {
     TextControl* number = MakeNumber(command, tip, box);
-    rows_->AddField(box, number);
+    rows_->AddField(box, number, MakeUnit(unit));
     return number;
+}
+
+QLabel* FieldPanel::MakeUnit(Unit unit) {
+    if (unit == Unit::kNone) return nullptr;
+    QLabel* label = MakeLabel("Unit", unit == Unit::kPixels ? "px" : "1/100 s", this);
+    if (unit == Unit::kPause) pause_unit_ = label;
+    return label;
 }
 
 void FieldPanel::AddPauseText() {
     pause_text_ = MakeLabel("PauseText", "0 ms", this);
-    pause_text_->setAlignment(Qt::AlignRight);
+    // It must not make the panel wider and narrower as the number changes.
+    pause_text_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     pause_text_->setAccessibleDescription("What the pause is in other units");
-    rows_->AddWide(pause_text_);
+    rows_->AddBelow(pause_text_);
 }
 
 // Of the frame that is shown, or of those without a pause of their own.
@@ -93,6 +102,8 @@ void FieldPanel::ResetDisplay() {
 
 void FieldPanel::Show(const Animation& animation, bool end_edits) {
     if (pause_text_) ShowPause(animation);
+    if (pause_unit_)
+        kirto::ShowText(*pause_unit_, shown_.Settings().global_pauseinseconds ? "s" : "1/100 s");
     const bool has_frame = animation.CurrentFrame() != nullptr;
     for (const Row& row : fields_) {
         const Field::Value value = row.field->In(animation);

@@ -20,6 +20,7 @@ class FieldPanel : public QGroupBox {
     // edit.
     bool PostEdit(uint32 command, const BMessenger& application);
 
+    PanelLayout& Rows() { return *rows_; }
     // True when the panel is about the current frame.
     bool ShowsFrame() const;
     // Shows the document's state; a number that the user is typing is left alone.
@@ -32,15 +33,18 @@ class FieldPanel : public QGroupBox {
     FieldPanel(const char* name, const QString& title, const ShownDocument& shown,
                const BMessenger& window, QWidget* parent);
 
+    // What a number counts. Pauses are in the unit of the settings.
+    enum class Unit { kNone, kPixels, kPause };
+
     // These make the controls of the field that the command sets, with the names that the field
     // table gives it.
 
     // In a row of its own, behind the label; without one, behind the field's name. The box switches
     // it, if there is one.
-    TextControl* AddNumber(uint32 command, const char* tip, const char* label = nullptr,
+    TextControl* AddNumber(uint32 command, Unit unit, const char* tip, const char* label = nullptr,
                            QCheckBox* box = nullptr);
     // Behind the box that switches it.
-    TextControl* AddNumber(uint32 command, const char* tip, QCheckBox* box);
+    TextControl* AddNumber(uint32 command, Unit unit, const char* tip, QCheckBox* box);
     // A line for what the pause is in milliseconds and frames per second.
     void AddPauseText();
     // Not placed yet. Without a label it is the field's name.
@@ -55,7 +59,6 @@ class FieldPanel : public QGroupBox {
 
     const BMessenger& Window() const { return window_; }
     const ShownDocument& Shown() const { return shown_; }
-    PanelLayout& Rows() { return *rows_; }
 
   private:
     // Of the controls one.
@@ -68,13 +71,15 @@ class FieldPanel : public QGroupBox {
 
     static void ShowMixed(const Row& row);
     TextControl* MakeNumber(uint32 command, const char* tip, QCheckBox* box);
+    QLabel* MakeUnit(Unit unit);
     BMessage Checked(const Row& row) const;
 
     const ShownDocument& shown_;
     BMessenger window_;
-    PanelLayout* rows_;
     void ShowPause(const Animation& animation);
 
+    PanelLayout* rows_;
+    QLabel* pause_unit_ = nullptr;       // null if there is none
     QLabel* pause_text_ = nullptr;       // null if there is none
     QComboBox* palette_menu_ = nullptr;  // null if there is none
     std::vector<Row> fields_;

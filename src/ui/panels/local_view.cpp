@@ -32,14 +32,14 @@ void LocalView::AddLabels() {
 
 void LocalView::AddFields() {
     x_offset =
-        AddNumber(kirto::kFrameSetXOffset,
+        AddNumber(kirto::kFrameSetXOffset, Unit::kPixels,
                   "Distance of the frame from the animation's left edge, in pixels", "X offset:");
     y_offset =
-        AddNumber(kirto::kFrameSetYOffset,
+        AddNumber(kirto::kFrameSetYOffset, Unit::kPixels,
                   "Distance of the frame from the animation's top edge, in pixels", "Y offset:");
     pause = MakeSwitch(kirto::kFrameUsePause, "Give the frame a pause of its own", "Use pause");
     Rows().AddWide(pause);
-    pause_length = AddNumber(kirto::kFrameSetPauseLength,
+    pause_length = AddNumber(kirto::kFrameSetPauseLength, Unit::kPause,
                              "Length of the frame's pause, in the unit chosen in the preferences",
                              "Length:", pause);
     AddPauseText();

@@ -17,10 +17,10 @@ PaletteView::PaletteView(const kirto::ShownDocument& shown, const BMessenger& wi
     dither = MakeSwitch(kirto::kSetDither, "Approximate missing colors by dithering");
     Rows().AddWide(dither);
     background_index =
-        AddNumber(kirto::kSetBackgroundIndex, "Palette index of the background color");
+        AddNumber(kirto::kSetBackgroundIndex, Unit::kNone, "Palette index of the background color");
     transparent = MakeSwitch(kirto::kUseTransparent, "Make one color of the palette transparent",
                              "Transparent index:");
-    transparent_index = AddNumber(kirto::kSetTransparentIndex,
+    transparent_index = AddNumber(kirto::kSetTransparentIndex, Unit::kNone,
                                   "Palette index of the transparent color", transparent);
 }
 

@@ -114,6 +114,7 @@ void KirtoWindow::ArrangePanels() {
     for (QWidget* panel : panels_)
         column_layout->addWidget(panel);
     column_layout->addStretch();
+    AlignFields();
 
     panel_area_ = new QScrollArea;
     panel_area_->setObjectName("Panels");
@@ -139,6 +140,15 @@ void KirtoWindow::ArrangePanels() {
     layout->addWidget(notice_bar_);
     layout->addWidget(status_view_);
     setCentralWidget(content);
+}
+
+// The fields of all panels stand below each other.
+void KirtoWindow::AlignFields() {
+    int widest = 0;
+    for (kirto::FieldPanel* panel : panels_)
+        widest = std::max(widest, panel->Rows().LabelWidth());
+    for (kirto::FieldPanel* panel : panels_)
+        panel->Rows().SetLabelWidth(widest);
 }
 
 // No smaller than what the controls need in the desktop's font.
@@ -365,7 +375,9 @@ void KirtoWindow::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
     const bool font_changed =
         event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange;
-    if (font_changed && splitter_) LimitSize();
+    if (!font_changed || !splitter_) return;
+    AlignFields();
+    LimitSize();
 }
 
 void KirtoWindow::dragEnterEvent(QDragEnterEvent* event) {

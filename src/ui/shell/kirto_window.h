@@ -82,6 +82,7 @@ class KirtoWindow : public QMainWindow, public BWindow {
     void MakePanels();
     void ArrangePanels();
     QWidget* ArrangeFrames();
+    void AlignFields();
     void LimitSize();
     QSize RoomySize() const;
     void Place(const BRect& frame);

@@ -12,14 +12,14 @@ class SomePanel : public FieldPanel {
     SomePanel(const ShownDocument& shown, const BMessenger& window)
         : FieldPanel("SomeView", "Some", shown, window, nullptr) {}
 
-    TextControl* width = AddNumber(kSetWidth, "the width");
+    TextControl* width = AddNumber(kSetWidth, Unit::kPixels, "the width");
     QCheckBox* pause = MakeSwitch(kUsePause, "the pause");
-    TextControl* pause_length = AddNumber(kSetPauseLength, "its length", pause);
-    TextControl* index = AddNumber(kSetBackgroundIndex, "the index", "Index:");
-    TextControl* x_offset = AddNumber(kFrameSetXOffset, "the offset");
+    TextControl* pause_length = AddNumber(kSetPauseLength, Unit::kPause, "its length", pause);
+    TextControl* index = AddNumber(kSetBackgroundIndex, Unit::kNone, "the index", "Index:");
+    TextControl* x_offset = AddNumber(kFrameSetXOffset, Unit::kPixels, "the offset");
     QCheckBox* frame_pause = MakeSwitch(kFrameUsePause, "the frame's pause", "Use pause");
     TextControl* frame_pause_length =
-        AddNumber(kFrameSetPauseLength, "its length", "Length:", frame_pause);
+        AddNumber(kFrameSetPauseLength, Unit::kNone, "its length", "Length:", frame_pause);
 };
 
 class FieldPanelTest : public ViewFixture {
@@ -54,6 +54,23 @@ class FieldPanelTest : public ViewFixture {
   private:
     size_t posted_ = 0;
 };
+
+TEST_F(FieldPanelTest, ShowsUnitsBehindNumbersAsTheSettingsHaveThem) {
+    const auto units = [this] {
+        QStringList texts;
+        for (const QLabel* label : panel.findChildren<QLabel*>("Unit"))
+            texts.append(label->text());
+        return texts;
+    };
+    panel.UpdateDisplay();
+    EXPECT_EQ(units(), (QStringList{"px", "1/100 s", "px"}));
+
+    document.prefs.global_pauseinseconds = true;
+    document.PublishSettings();
+    Take();
+    panel.UpdateDisplay();
+    EXPECT_EQ(units(), (QStringList{"px", "s", "px"}));
+}
 
 TEST_F(FieldPanelTest, NamesAndLabelsControlsByTheFieldTableUnlessToldOtherwise) {
     EXPECT_EQ(panel.width->objectName(), "Width");

@@ -30,7 +30,8 @@ TEST_F(GlobalViewTest, LabelsItsControls) {
     for (const QLabel* label : panel.findChildren<QLabel*>())
         labels.push_back(label->text().toStdString());
 
-    EXPECT_EQ(labels, (std::vector<std::string>{"Width:", "Height:", "0 ms"}));
+    EXPECT_EQ(labels,
+              (std::vector<std::string>{"px", "Width:", "px", "Height:", "1/100 s", "0 ms"}));
     EXPECT_EQ(panel.pause->text(), "Use pause:");
     EXPECT_EQ(panel.loop->text(), "Use loop:");
     for (const TextControl* field : panel.findChildren<TextControl*>())
