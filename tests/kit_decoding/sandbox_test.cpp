@@ -17,12 +17,6 @@ namespace kirto::test {
 
 namespace {
 
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-constexpr bool kSanitized = true;
-#else
-constexpr bool kSanitized = false;
-#endif
-
 // Whether the function is true in a process that has shut itself in before.
 bool HoldsInside(bool reads_files, const std::function<bool()>& function) {
     const pid_t child = fork();
@@ -42,7 +36,7 @@ bool Refused(long result) {
 class SandboxTest : public testing::TestWithParam<bool> {
   protected:
     void SetUp() override {
-        if (kSanitized) GTEST_SKIP() << "sanitizers make calls of their own";
+        if (KIRTO_IS_SANITIZED) GTEST_SKIP() << "sanitizers make calls of their own";
     }
 };
 
@@ -105,7 +99,7 @@ TEST_P(SandboxTest, RefusesMemoryAndFilesBeyondTheLimit) {
 INSTANTIATE_TEST_SUITE_P(WithAndWithoutFonts, SandboxTest, testing::Bool());
 
 TEST(Sandbox, LetsNothingBeReadButWhereFontsAreNeeded) {
-    if (kSanitized) GTEST_SKIP() << "sanitizers make calls of their own";
+    if (KIRTO_IS_SANITIZED) GTEST_SKIP() << "sanitizers make calls of their own";
     const auto opens = [] { return open("/etc/passwd", O_RDONLY) >= 0; };
 
     EXPECT_FALSE(HoldsInside(false, opens));

@@ -11,8 +11,9 @@ void LimitResources(uint64 memory);
 
 // From here on the process and its threads can compute, take memory, talk through what is open
 // already, and nothing else: no network, no other processes, no files, except, with reads_files,
-// to read some. Whatever else is asked for is refused by the kernel. False where the kernel
-// has no such filter; the limits alone hold then.
+// to read some. Whatever else is asked for is refused by the kernel. False where the kernel has no
+// such filter, and in programs with sanitizers, which make calls of their own; the limits alone
+// hold then.
 bool ForbidSystemCalls(bool reads_files);
 
 }  // namespace kirto
