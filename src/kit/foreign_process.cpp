@@ -185,7 +185,9 @@ std::optional<int> ForeignProcess::Finish() {
     pid_t ended = 0;
     while (child_ > 0 && (ended = waitpid(child_, &status, WNOHANG)) == 0 && !GiveUp(last))
         WaitFor(-1, 0);
-    DrainError();
+    // As much as a pipe may still hold of what it has said.
+    for (size_t held = 0; held < kMostInPipe && DrainError(); held += kMostErrorText) {
+    }
     if (child_ <= 0 || ended <= 0) {
         Kill();
         return std::nullopt;
@@ -216,14 +218,16 @@ ssize_t ForeignProcess::ReadNow(std::span<uint8> bytes) const {
     return count;
 }
 
-void ForeignProcess::DrainError() {
+// False when there is nothing now.
+bool ForeignProcess::DrainError() {
     std::array<char, kMostErrorText> text{};
     const ssize_t count = error_ >= 0 ? read(error_, text.data(), text.size()) : -1;
     if (count == 0) CloseDescriptor(&error_);
-    if (count <= 0) return;
+    if (count <= 0) return false;
     error_text_.append(text.data(), static_cast<size_t>(count));
     if (error_text_.size() > kMostErrorText)
         error_text_.erase(0, error_text_.size() - kMostErrorText);
+    return true;
 }
 
 bool ForeignProcess::KeepPending() {

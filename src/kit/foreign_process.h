@@ -62,6 +62,7 @@ class ForeignProcess {
 
     static constexpr size_t kMostPending = size_t{1} << 20;
     static constexpr size_t kMostErrorText = 4096;
+    static constexpr size_t kMostInPipe = size_t{1} << 20;
 
   private:
     using Clock = std::chrono::steady_clock;
@@ -72,7 +73,7 @@ class ForeignProcess {
     std::optional<Result> GiveUp(Clock::time_point last) const;
     // What comes from its output now: bytes read, 0 at its end, -1 for nothing yet.
     ssize_t ReadNow(std::span<uint8> bytes) const;
-    void DrainError();
+    bool DrainError();
     // False when it has written too much.
     bool KeepPending();
     void Kill();
