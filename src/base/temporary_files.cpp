@@ -79,10 +79,14 @@ int CreateTemporary(int directory, mode_t mode, std::string* name) {
     });
 }
 
-bool NameTemporary(int descriptor, int directory, std::string* name) {
+bool LinkTemporary(int descriptor, int directory, const std::string& name) {
     const std::string source = DescriptorPath(descriptor);
+    return linkat(AT_FDCWD, source.c_str(), directory, name.c_str(), AT_SYMLINK_FOLLOW) == 0;
+}
+
+bool NameTemporary(int descriptor, int directory, std::string* name) {
     const int linked = WithUniqueName(name, [&](const char* free_name) {
-        return linkat(AT_FDCWD, source.c_str(), directory, free_name, AT_SYMLINK_FOLLOW);
+        return LinkTemporary(descriptor, directory, free_name) ? 0 : -1;
     });
     if (linked != 0) name->clear();
     return linked == 0;

@@ -15,6 +15,9 @@ inline constexpr std::string_view kTemporaryPrefix = ".kirto-";
 // descriptor, or -1 with errno set.
 int CreateTemporary(int directory, mode_t mode, std::string* name);
 
+// Gives a file without a name that one, which must be free. False with errno set.
+bool LinkTemporary(int descriptor, int directory, const std::string& name);
+
 // Gives a file without a name a free one. False with errno set.
 bool NameTemporary(int descriptor, int directory, std::string* name);
 

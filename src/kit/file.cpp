@@ -332,14 +332,7 @@ status_t BFile::Commit() {
     }
     if (!uncommitted_) return B_NOT_ALLOWED;
     if (FlushBuffer() == B_OK && fsync(descriptor_) != 0) write_status_ = StatusFromErrno(errno);
-    if (write_status_ == B_OK && temporary_.empty() &&
-        !kirto::NameTemporary(descriptor_, directory_, &temporary_)) {
-        write_status_ = StatusFromErrno(errno);
-    }
-    if (write_status_ == B_OK &&
-        renameat(directory_, temporary_.c_str(), directory_, target_.c_str()) != 0) {
-        write_status_ = StatusFromErrno(errno);
-    }
+    if (write_status_ == B_OK) write_status_ = TakeTargetsPlace();
     if (write_status_ != B_OK) {
         DiscardTemporary();
         return write_status_;
@@ -347,6 +340,19 @@ status_t BFile::Commit() {
     temporary_.clear();
     uncommitted_ = false;
     SyncDirectory(directory_);
+    return B_OK;
+}
+
+// A target that is not there yet is the first name of the file, so that no moment of a kill leaves
+// a file of another name. What is there can only be replaced by a rename.
+status_t BFile::TakeTargetsPlace() {
+    if (temporary_.empty()) {
+        if (kirto::LinkTemporary(descriptor_, directory_, target_)) return B_OK;
+        if (errno != EEXIST || !kirto::NameTemporary(descriptor_, directory_, &temporary_))
+            return StatusFromErrno(errno);
+    }
+    if (renameat(directory_, temporary_.c_str(), directory_, target_.c_str()) != 0)
+        return StatusFromErrno(errno);
     return B_OK;
 }
 

@@ -103,6 +103,7 @@ class BFile {
     bool MakeReadBuffer();
     status_t PrepareWrite(size_t size);
     status_t FlushBuffer();
+    status_t TakeTargetsPlace();
     void DiscardTemporary();
 
     std::string path_;
