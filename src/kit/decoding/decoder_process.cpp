@@ -7,8 +7,7 @@
 #include <spawn.h>
 #include <string>
 #include <sys/wait.h>
-
-extern char** environ;
+#include <unistd.h>
 
 namespace kirto {
 

@@ -83,7 +83,7 @@ int main(int argc, char** argv) {
     const bool draws = std::string(argv[1]) == "svg";
 
     EndWithTheChannel();
-    const auto application = MakeApplication(draws);
+    [[maybe_unused]] const auto application = MakeApplication(draws);
     LoadPlugin(argv[1]);
     // Drawings have pictures, too.
     for (const char* format : {"jpeg", "gif", "webp"}) {

@@ -15,6 +15,9 @@ namespace kirto {
 
 namespace {
 
+// Sanitizers need more address space and other calls than the program does.
+constexpr bool kIsSanitized = KIRTO_IS_SANITIZED;
+
 constexpr rlim_t kOpenFiles = 64;
 
 void Limit(__rlimit_resource resource, rlim_t value) {
@@ -172,14 +175,14 @@ void AllowReadingFiles(Filter* filter) {
 }  // namespace
 
 void LimitResources(uint64 memory) {
-    if (!KIRTO_IS_SANITIZED) Limit(RLIMIT_AS, AddressSpace() + memory);
+    if (!kIsSanitized) Limit(RLIMIT_AS, AddressSpace() + memory);
     Limit(RLIMIT_FSIZE, memory);
     Limit(RLIMIT_NOFILE, kOpenFiles);
     Limit(RLIMIT_CORE, 0);
 }
 
 bool ForbidSystemCalls(bool reads_files) {
-    if (KIRTO_IS_SANITIZED) return false;
+    if (kIsSanitized) return false;
     if (prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) != 0) return false;
     Filter filter;
     for (const int call : kAllowed)
