@@ -141,7 +141,9 @@ class Kirto : public IEApplication, public AnimationDocument, public kirto::File
     void SayWhatDiffers(const kirto::Animation& animation, const std::string& loss);
     void SayCanceled(int32 frames_before);
     void InsertAnimations(const BMessage& message);
-    void Load(const entry_ref& ref, int32 position, bool reset);
+    void Load(const entry_ref& ref, int32 position, bool reset, const kirto::VideoCut& cut);
+    bool IsVideo(const entry_ref& ref) const;
+    void AskAboutVideo(const entry_ref& ref, int32 position);
     void KeepStopped(bool reset, int32 frames_before);
     // Reading and saving as browsers do (kirto_faithful.cpp).
     void TurnFaithful(bool on);

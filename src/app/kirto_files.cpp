@@ -76,6 +76,15 @@ void Kirto::Open(BMessage* message) {
     message->FindBool("panel", &from_panel);
     if (from_panel) open_panel_delivered = true;
     if (LoadAwaitedPalette(ref.path)) return;
+    std::string part;
+    if (message->FindString("video", &part) != B_OK && IsVideo(ref)) {
+        BMessage question = *message;
+        question.what = kirto::kAskAboutVideo;
+        question.RemoveName("panel");
+        question.AddBool("panel", false);
+        window.SendMessage(question);
+        return;
+    }
 
     bool reset = true;
     int32 position = 0;
@@ -87,7 +96,22 @@ void Kirto::Open(BMessage* message) {
         message->FindInt32("position", &position);
         position = std::clamp(position, 0, FrameCount());
     }
-    Load(ref, position, reset);
+    Load(ref, position, reset, kirto::ParseVideoCut(part).value_or(kirto::VideoCut{}));
+}
+
+bool Kirto::IsVideo(const entry_ref& ref) const {
+    return kirto::ClassifyFile(ref.path, desktop_.MimeTypeOf(ref.path)) ==
+           kirto::AnimationType::kVideo;
+}
+
+// Which part of it is wanted; it comes behind the frames before the position.
+void Kirto::AskAboutVideo(const entry_ref& ref, int32 position) {
+    BMessage question(kirto::kAskAboutVideo);
+    question.AddRef("refs", ref);
+    question.AddBool("panel", false);
+    question.AddBool("reset", false);
+    question.AddInt32("position", position);
+    window.SendMessage(question);
 }
 
 void Kirto::InsertAnimations(const BMessage& message) {
@@ -95,14 +119,18 @@ void Kirto::InsertAnimations(const BMessage& message) {
     for (int32 i = 0; message.FindRef("refs", &ref, i) == B_OK && !StopRequested(); ++i) {
         const int32 before = FrameCount();
         const int32 position = Selected() + 1;
-        Load(ref, position, false);
+        if (IsVideo(ref)) {
+            AskAboutVideo(ref, position);
+            continue;
+        }
+        Load(ref, position, false, {});
         // The next one goes behind this one.
         if (FrameCount() > before) Select(position + FrameCount() - before - 1);
     }
 }
 
 // reset: in place of a document that was emptied.
-void Kirto::Load(const entry_ref& ref, int32 position, bool reset) {
+void Kirto::Load(const entry_ref& ref, int32 position, bool reset, const kirto::VideoCut& cut) {
     const kirto::AnimationType type = kirto::ClassifyFile(ref.path, desktop_.MimeTypeOf(ref.path));
     if (type == kirto::AnimationType::kNone)
         return kirto::Warn("The animation can't be opened because this file type is unsupported.");
@@ -115,7 +143,7 @@ void Kirto::Load(const entry_ref& ref, int32 position, bool reset) {
     kirto::BrowsersOffer offer;
     bool opened = false;
     if (type == kirto::AnimationType::kVideo) {
-        opened = kirto::OpenVideo(ref.path, position, *this);
+        opened = kirto::OpenVideo(ref.path, cut, position, *this);
     } else if (kirto::IsAnimatedImage(type)) {
         opened = kirto::OpenAnimatedImage(type, &file, position, *this, roster_);
     } else {
@@ -155,7 +183,7 @@ bool Kirto::MayOpenDropped(const BMessage& message, const std::string& path) {
     bool ask = false;
     if (message.FindBool("ask", &ask) != B_OK || !ask) return true;
     if (BFile(path, B_READ_ONLY).InitCheck() != B_OK) {
-        kirto::Warn("The animation can't be opened because it was corrupted or unreadable.");
+        kirto::Warn(kirto::kUnreadableAnimationText);
         return false;
     }
     if (!Modified() || FrameCount() == 0) return true;

@@ -94,7 +94,7 @@ void ShareOutPauses(Animation& animation, FrameRange range, bool in_seconds) {
 }
 
 BAlert DamageAlert(bool offers_browsers) {
-    const char* text = "The animation can't be opened because it was corrupted or unreadable.";
+    const char* text = kUnreadableAnimationText;
     if (offers_browsers) return BAlert("", text, kAsBrowsersLabel, kSalvageLabel, kOkLabel);
     return BAlert("", text, kSalvageLabel, kOkLabel);
 }
@@ -220,17 +220,27 @@ bool OpenAnimatedImage(AnimationType type, BFile* file, int32 position, Animatio
     return false;
 }
 
-bool OpenVideo(const std::string& path, int32 position, AnimationDocument& document) {
+bool OpenVideo(const std::string& path, const VideoCut& cut, int32 position,
+               AnimationDocument& document) {
     const auto programs = FindVideoPrograms();
     if (!programs) {
-        Warn(
-            "The video can't be opened because the program ffmpeg was not found. Install the "
-            "package \"ffmpeg\".");
+        Warn(kNoVideoProgramsText);
         return false;
     }
-    const uint64 room = document.pixel_budget->Left() + PixelBudget::kWorkingRoom;
-    auto reader = std::make_unique<VideoReader>(*programs, path, room, ForeignProcess::Limits{},
-                                                [&document] { return document.StopRequested(); });
+    VideoReader::Job job{path, cut};
+    job.pixel_bytes = document.pixel_budget->Left() + PixelBudget::kWorkingRoom;
+    const auto stopped = [&document] { return document.StopRequested(); };
+    const auto video = ProbeVideo(*programs, path, job.limits, stopped);
+    const auto frames = video ? FramesOf(*video, cut) : std::nullopt;
+    if (video && !frames) {
+        Warn("The video can't be opened because the chosen part is not in it.");
+        return false;
+    }
+    std::unique_ptr<VideoReader> reader;
+    if (frames) {
+        job.frames = *frames;
+        reader = std::make_unique<VideoReader>(programs->decode, std::move(job), stopped);
+    }
     const AnimatedImageLoad loader(std::move(reader), position, document);
     if (!loader.failed) return true;
     if (!document.StopRequested()) AskAboutDamage(loader, position, document, nullptr);

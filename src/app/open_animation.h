@@ -5,10 +5,17 @@
 
 #include "document/animation_document.h"
 #include "formats/gif/harmless_cause.h"
+#include "formats/video/video_cut.h"
 #include "kit/file.h"
 #include "kit/translator_roster.h"
 
 namespace kirto {
+
+inline constexpr const char* kUnreadableAnimationText =
+    "The animation can't be opened because it was corrupted or unreadable.";
+inline constexpr const char* kNoVideoProgramsText =
+    "The video can't be opened because the program ffmpeg was not found. Install the package "
+    "\"ffmpeg\".";
 
 enum class AnimationType { kNone, kGif, kFli, kWebp, kApng, kVideo };
 
@@ -49,9 +56,10 @@ bool OpenFli(BFile* file, int32 position, AnimationDocument& document,
 bool OpenAnimatedImage(AnimationType type, BFile* file, int32 position, AnimationDocument& document,
                        const BTranslatorRoster& roster);
 
-// A video, as above, read by the programs ffprobe and ffmpeg; where they are missing the user is
-// told which package has them.
-bool OpenVideo(const std::string& path, int32 position, AnimationDocument& document);
+// What the cut takes of a video, as above, read by the programs ffprobe and ffmpeg; where they are
+// missing the user is told which package has them.
+bool OpenVideo(const std::string& path, const VideoCut& cut, int32 position,
+               AnimationDocument& document);
 
 // A GIF, FLI or FLC.
 bool OpenAnimation(AnimationType type, BFile* file, int32 position, AnimationDocument& document,

@@ -60,8 +60,12 @@ inline constexpr uint32 kQuitWhenDone = FourCharCode("awqd");
 
 // File panels and desktop to application. Refs "refs"; the first only, but for kInsertFiles.
 // kOpenFile: bool "reset", int32 "position"; bool "ask": about unsaved changes, before a reset;
-// bool "panel": false for files that no panel delivered.
+// bool "panel": false for files that no panel delivered; string "video": which part of a video, as
+// ParseVideoCut reads it.
 inline constexpr uint32 kOpenFile = FourCharCode("aofp");
+// Application to main window: the same command, of a video, without "video": the user is to say
+// which part is wanted.
+inline constexpr uint32 kAskAboutVideo = FourCharCode("wvid");
 inline constexpr uint32 kInsertFiles = FourCharCode("aifp");  // int32 "position"
 // Beside what the panel says, where the fields are there: int32 "tile_width", "tile_height",
 // "margin", "spacing"; bool "skip_empty". A file ".json" describes a sheet, and nothing else

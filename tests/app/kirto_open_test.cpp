@@ -2,6 +2,7 @@
 #include <optional>
 
 #include "app/kirto_fixture.h"
+#include "support/fake_video_programs.h"
 
 namespace kirto::test {
 
@@ -253,6 +254,78 @@ TEST_F(KirtoOpen, AskedToStopKeepsWhatIsDoneAndAsksNothing) {
 
     EXPECT_EQ(TakeLines(), Lines{});
     EXPECT_EQ(app_->CurrentState()->file_name, "untitled");
+}
+
+class KirtoOpenVideo : public KirtoOpen {
+  protected:
+    KirtoOpenVideo() { Write("clip.mp4", {1, 2, 3}); }
+    BMessage OpenPart(const std::string& part) const {
+        BMessage message = Files(kOpenFile, {"clip.mp4"});
+        message.AddString("video", part);
+        return message;
+    }
+
+    // What the window is asked after the command.
+    BMessage QuestionAfter(const BMessage& command) {
+        app_->PostMessage(command);
+        WaitUntilIdle();
+        for (const BMessage& message : desktop_.window->Messages()) {
+            if (message.what == kAskAboutVideo) return message;
+        }
+        return {};
+    }
+
+    const FakeVideoPrograms programs_;
+};
+
+TEST_F(KirtoOpenVideo, AsksWhichPartIsWanted) {
+    Start();
+    Append({"old"});
+
+    const BMessage question = QuestionAfter(Files(kOpenFile, {"clip.mp4"}));
+
+    bool panel = true;
+    EXPECT_EQ(question.FindBool("panel", &panel), B_OK);
+    EXPECT_FALSE(panel);
+    EXPECT_EQ(app_->FrameCount(), 1);
+}
+
+TEST_F(KirtoOpenVideo, OpensThePartThatIsWanted) {
+    Start();
+
+    Do(OpenPart(FakeVideoPrograms::kPart));
+
+    EXPECT_EQ(app_->FrameCount(), 4);
+    EXPECT_EQ(app_->Current()->width, 2);
+    EXPECT_EQ(app_->CurrentState()->file_name, "clip.gif");
+    EXPECT_FALSE(app_->Modified());
+    EXPECT_EQ(TakeLines(), Lines());
+}
+
+TEST_F(KirtoOpenVideo, SaysThatAPartIsNotInTheVideo) {
+    Start();
+
+    Do(OpenPart("2-3"));
+
+    EXPECT_EQ(
+        TakeLines(),
+        Lines{WarningLine("The video can't be opened because the chosen part is not in it.")});
+    EXPECT_EQ(app_->FrameCount(), 0);
+}
+
+TEST_F(KirtoOpenVideo, InsertsItWhereItWasAskedFor) {
+    Start();
+    Append({"first", "last"});
+    app_->Select(0);
+
+    BMessage question = QuestionAfter(Files(kInsertAnimations, {"clip.mp4"}));
+    question.what = kOpenFile;
+    question.AddString("video", "");
+    Do(question);
+
+    EXPECT_EQ(app_->FrameCount(), 22);
+    EXPECT_EQ(app_->Current()->frames.At(21)->name, "last");
+    EXPECT_TRUE(app_->Modified());
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 
 #include "base/md5.h"
 #include "cli/cli_run.h"
+#include "support/fake_video_programs.h"
 
 namespace kirto::test {
 
@@ -449,6 +450,39 @@ TEST(KirtoCli, CountsFramesOfOnePixelForMoreThanThatPixel) {
 
     EXPECT_EQ(home.Run({"--memory-limit", "1", "--open", "many.gif"}).status, 1);
     EXPECT_EQ(home.Info({"--memory-limit", "2", "--open", "many.gif"})["frame_count"], 600);
+}
+
+TEST(KirtoCli, TakesThePartOfAVideoThatIsAskedFor) {
+    const FakeVideoPrograms programs;
+    const CliHome home;
+    home.Write("clip.mp4", {1});
+
+    const Json opened = home.Info({"--open", "clip.mp4", "--video", FakeVideoPrograms::kPart});
+    EXPECT_EQ(opened["global_width"], 2);
+    EXPECT_EQ(opened["frame_count"], 4);
+
+    const Json inserted = home.Info({"--insert-animation", "clip.mp4@0", "--video", ":x1"});
+    EXPECT_EQ(inserted["frames"][0]["width"], 2);
+    EXPECT_EQ(home.Info({"--open", "clip.mp4"})["frame_count"], 20);
+}
+
+TEST(KirtoCli, RefusesPartsOfVideosThatAreNone) {
+    const FakeVideoPrograms programs;
+    const CliHome home;
+    home.Write("clip.mp4", {1});
+    home.Write("three.gif", ThreeFrameGif());
+    const auto expect_refused = [&](const Arguments& arguments, const std::string& line) {
+        const RunResult result = home.Run(arguments);
+        EXPECT_EQ(result.status, 2) << line;
+        EXPECT_EQ(result.err, "kirto-cli: --video: " + line + "\n");
+    };
+
+    expect_refused({"--open", "clip.mp4", "--video", "2-1"},
+                   "\"2-1\": expected [START][-END][@RATE][:WxH][,crop=WxH+X+Y].");
+    expect_refused({"--open", "three.gif", "--video", "0-1"}, "\"three.gif\" is no video.");
+    expect_refused({"--video", "0-1"}, "expected behind --open or --insert-animation.");
+    ExpectFailed(home, {"--quiet", "--open", "clip.mp4", "--video", "2-3"},
+                 "clip.mp4: The video can't be opened because the chosen part is not in it.");
 }
 
 }  // namespace kirto::test

@@ -74,6 +74,9 @@ struct Samples : Shell {
             "--save-sheet tiles.png,columns=4,padding=2");
         MakeImage("photo.jpg", "");
         MakeImage("logo.png", "--resize 40x ");
+        Make(
+            "ffmpeg -v error -nostdin -f lavfi -i testsrc=s=640x480:r=5:d=8 -preset ultrafast "
+            "clip.mp4");
         Make("for i in $(seq 30); do cp logo.png $i.png; done");
     }
 

@@ -1,3 +1,7 @@
+import shutil
+import subprocess
+import unittest
+
 from editor_test import EditorTest, HEIGHT, WIDTH
 
 
@@ -49,3 +53,24 @@ class Opening(EditorTest):
         editor.wait_for_title("Kirto - untitled")
         self.session.key("alt+f", "r", "1")
         editor.wait_for_title("Kirto - colors.gif")
+
+    @unittest.skipUnless(shutil.which("ffmpeg"), "ffmpeg is not installed")
+    def test_opens_a_part_of_a_video_by_keyboard(self):
+        path = self.folder / "clip.mkv"
+        subprocess.run(["ffmpeg", "-v", "error", "-nostdin", "-f", "lavfi",
+                        "-i", "testsrc=s=64x48:r=10:d=4", "-y", path], check=True)
+        editor = self.start_editor()
+        editor.choose("File", "Open...")
+        editor.name_file("Open Animation", path)
+        self.session.wait_until_active("Insert Video")
+        dialog = editor.window("Insert Video")
+        editor.wait_for_name("40 frames of 64 × 48 pixels, at most 1 MB.", dialog)
+        self.session.key("ctrl+a")
+        self.session.type("1")
+        self.session.key("alt+w", "ctrl+a")
+        self.session.type("32")
+        editor.wait_for_name("30 frames of 32 × 24 pixels, at most 1 MB.", dialog)
+        self.session.key("Return")
+        editor.wait_for_status(30, modified=False)
+        editor.wait_for_title("Kirto - clip.gif")
+        editor.wait_for_field("Width:", "32")

@@ -2,17 +2,23 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QCheckBox>
+#include <QDialogButtonBox>
+#include <QDoubleSpinBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QRegularExpression>
+#include <QSpinBox>
 #include <QTabWidget>
 #include <filesystem>
 
 #include "app/recovery/crash_recovery.h"
 #include "document/command_codes.h"
+#include "video_stand_in.h"
 
 namespace kirto {
 
@@ -23,6 +29,7 @@ constexpr int kEditMenu = 1;
 constexpr int kAnimationMenu = 4;
 constexpr int32 kThumbnailHeight = 96;
 constexpr int kMenuOffset = 150;
+constexpr int kRoundsOfReading = 10;  // of a few small pictures
 constexpr const char* kSavedName = "notice.gif";
 constexpr const char* kSheetName = "wheel-4x3.tga";
 
@@ -54,6 +61,7 @@ void DocumentPictures::DrawAll(const std::string& animation) {
     DrawText();
     DrawDialog(kMenuSetPause, "Set Pause", "set-pause");
     DrawSheet();
+    DrawVideo();
     DrawDialog(kMenuSaveAs, "Save Animation", "save");
     DrawPreferences();
     DrawWork();
@@ -94,6 +102,31 @@ void DocumentPictures::DrawSheet() {
         DrivenEditor::WaitUntil([text] { return text->text().contains("4 columns"); });
     }
     folder_.Add(*window, "insert-tiled");
+    window->close();
+    DrivenEditor::Settle();
+}
+
+// The dialog about a video that shows the animation.
+void DocumentPictures::DrawVideo() {
+    const VideoStandIn video(*editor_.Application().Current(), folder_.Path());
+    BMessage question(kAskAboutVideo);
+    question.AddRef("refs", entry_ref(folder_.Path() + "/wheel.mp4"));
+    editor_.Main()->Messenger().SendMessage(question);
+    QWidget* window = nullptr;
+    DrivenEditor::WaitUntil([&] {
+        window = editor_.Main()->findChild<QDialog*>("InsertVideo");
+        const auto* buttons = window ? window->findChild<QDialogButtonBox*>() : nullptr;
+        return buttons && buttons->button(QDialogButtonBox::Ok)->isEnabled();
+    });
+    if (!window) return folder_.Miss();
+    window->findChild<QCheckBox*>("Play")->setChecked(false);
+    window->findChild<QDoubleSpinBox*>("ToTime")->setValue(0.9);
+    window->findChild<QDoubleSpinBox*>("FromTime")->setValue(0.2);
+    window->findChild<QSpinBox*>("CropLeft")->setValue(10);
+    window->findChild<QSpinBox*>("CropWidth")
+        ->setValue(window->findChild<QSpinBox*>("CropWidth")->maximum() - 20);
+    DrivenEditor::Settle(kRoundsOfReading);
+    folder_.Add(*window, "video");
     window->close();
     DrivenEditor::Settle();
 }

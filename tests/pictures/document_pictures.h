@@ -19,6 +19,7 @@ class DocumentPictures {
     void DrawMain();
     void DrawDialog(uint32 command, const char* title, const char* name);
     void DrawSheet();
+    void DrawVideo();
     void DrawText();
     void DrawSelection();
     void DrawPreferences();

@@ -10,6 +10,9 @@ constexpr OptionText kOperations[] = {
     {"--open", "FILE",
      "Open a GIF, FLI, FLC, WebP or APNG animation, or a video, in place of the current one"},
     {"--insert-animation", "FILE@N", "Insert an animation's frames before frame N"},
+    {"--video", "PART",
+     "Take a part of the video named right before this: [START][-END] in seconds, [@N] frames a "
+     "second, [:WxH], [:Wx] or [:xH] pixels large, [,crop=WxH+X+Y] of its pictures"},
     {"--insert", "FILE[@N]", "Insert an image as frame N, or after the current frame"},
     {"--insert-tiled", "FILE,ROWS,COLUMNS[,by-column]",
      "Cut an image into frames; [,margin=N] around and [,spacing=N] between them, [,skip-empty] "

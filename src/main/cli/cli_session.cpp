@@ -89,6 +89,7 @@ CliSession::Handler CliSession::HandlerFor(const std::string& option) {
         {"--faithful", &CliSession::SetFaithful},
         {"--open", &CliSession::Open},
         {"--insert-animation", &CliSession::InsertAnimation},
+        {"--video", &CliSession::RefuseVideoCut},
         {"--insert", &CliSession::InsertImages},
         {"--insert-tiled", &CliSession::InsertTiled},
         {"--fade", &CliSession::FadeFrames},

@@ -47,6 +47,7 @@ class CliSession {
     // Operations on files (cli_session_files.cpp).
     Outcome Open(const std::string& value);
     Outcome InsertAnimation(const std::string& value);
+    Outcome RefuseVideoCut(const std::string& value);
     Outcome InsertImages(const std::string& value);
     Outcome Save(const std::string& value);
     Outcome SaveSequence(const std::string& value);
@@ -120,9 +121,12 @@ class CliSession {
     // failure.
     Outcome Post(const BMessage& message);
     Outcome Post(uint32 what) { return Post(BMessage(what)); }
-    // Posts the command that opens the file. Names the cause where browsers would open what is
-    // refused.
-    Outcome PostOpen(const std::string& path, const BMessage& message);
+    // Posts the command that opens the file, with the part of the video that --video asks for if
+    // that is the next operation. Names the cause where browsers would open what is refused.
+    Outcome PostOpen(const std::string& path, BMessage message);
+    // Tells the command which part of a video is wanted: all, or what --video says where it is the
+    // next operation.
+    Outcome TakeVideoCut(const std::string& path, BMessage* message);
     // Fails, with the reason, when the file can't be opened for reading.
     Outcome CheckReadable(const std::string& path);
     Outcome SaveAs(const std::string& path, translator_id translator);

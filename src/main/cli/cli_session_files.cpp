@@ -77,6 +77,7 @@ CliSession::Outcome CliSession::Open(const std::string& value) {
     BMessage message(kOpenFile);
     message.AddRef("refs", ref);
     const Outcome outcome = PostOpen(value, message);
+    if (outcome == Outcome::kUsage) return outcome;
     // A palette file of the settings that can't be read is told of whenever the document starts
     // afresh, but that is no failure of what is opened: a document named like the file is open.
     const auto state = app_->CurrentState();
@@ -84,7 +85,27 @@ CliSession::Outcome CliSession::Open(const std::string& value) {
     return opened ? Outcome::kDone : outcome;
 }
 
-CliSession::Outcome CliSession::PostOpen(const std::string& path, const BMessage& message) {
+CliSession::Outcome CliSession::TakeVideoCut(const std::string& path, BMessage* message) {
+    const bool follows = !following_.empty() && following_.front().option == "--video";
+    const std::string cut = follows ? following_.front().value : "";
+    message->AddString("video", cut);
+    if (!follows) return Outcome::kDone;
+    if (!ParseVideoCut(cut)) {
+        return Refuse("--video: \"" + cut +
+                      "\": expected [START][-END][@RATE][:WxH][,crop=WxH+X+Y].");
+    }
+    if (ClassifyAnimation(entry_ref(path).Leaf(), "") != AnimationType::kVideo)
+        return Refuse("--video: \"" + path + "\" is no video.");
+    following_ = following_.subspan(1);
+    return Outcome::kDone;
+}
+
+CliSession::Outcome CliSession::RefuseVideoCut(const std::string&) {
+    return Refuse("--video: expected behind --open or --insert-animation.");
+}
+
+CliSession::Outcome CliSession::PostOpen(const std::string& path, BMessage message) {
+    if (TakeVideoCut(path, &message) != Outcome::kDone) return Outcome::kUsage;
     const Outcome outcome = Post(message);
     if (const char* cause = TextOf(app_->Refusal())) {
         desktop_.Complain(path + ": It was refused because " + cause +

@@ -37,10 +37,12 @@ namespace {
 constexpr int kIconDelayMilliseconds = 100;
 constexpr int kExitFailed = 1;
 
-BMessage RefsMessage(const std::vector<std::string>& files) {
+// ask: which part of a video is wanted, as somebody is there.
+BMessage RefsMessage(const std::vector<std::string>& files, bool ask) {
     BMessage refs(B_REFS_RECEIVED);
     for (const std::string& file : kirto::InNaturalOrder(files))
         refs.AddRef("refs", entry_ref(std::filesystem::absolute(file).string()));
+    if (!ask) refs.AddString("video", "");
     return refs;
 }
 
@@ -77,7 +79,8 @@ int RunEditor(const kirto::EditorArguments& arguments, BTranslatorRoster& roster
         termination.emplace([&recovery] { recovery->WriteNow(); });
         application.PostMessage(kirto::kOfferRecovery);
     }
-    if (!arguments.files.empty()) application.Commands().SendMessage(RefsMessage(arguments.files));
+    if (!arguments.files.empty())
+        application.Commands().SendMessage(RefsMessage(arguments.files, for_user));
 
     int status = 0;
     const kirto::Screenshot screenshot(application, *desktop.MainWindow(), arguments.screenshot,

@@ -62,6 +62,12 @@ void PictureArea::ShowArea(const QRect& area) {
     update();
 }
 
+void PictureArea::ShowImage(const QImage& image, QSize canvas) {
+    image_ = image;
+    canvas_ = canvas.expandedTo({1, 1});
+    update();
+}
+
 void PictureArea::ShowOverlay(const QImage& image, QPoint place) {
     overlay_ = image;
     overlay_place_ = place;
@@ -82,6 +88,10 @@ void PictureArea::paintEvent(QPaintEvent*) {
         if (!overlay_.isNull())
             painter.drawImage(PlaceOf({overlay_place_, overlay_.size()}), overlay_);
         painter.setClipping(false);
+    }
+    if (!image_.isNull()) {
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        painter.drawImage(canvas, image_);
     }
     if (pictures.WasCoarse()) update();
     if (area_.isEmpty()) return;

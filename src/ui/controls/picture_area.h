@@ -27,6 +27,8 @@ class PictureArea : public QWidget {
     void LetClick(Clicked clicked) { clicked_ = std::move(clicked); }
     // The rectangle that is shown; what lies outside is dimmed. Empty for none.
     void ShowArea(const QRect& area);
+    // Shows the image, scaled, on a canvas of that size in place of what was shown before.
+    void ShowImage(const QImage& image, QSize canvas);
     // An image over the frame, its first pixel there; null for none.
     void ShowOverlay(const QImage& image, QPoint place);
     // Of rectangles that are drawn from now on, width to height; any without one.
@@ -48,8 +50,9 @@ class PictureArea : public QWidget {
     QRect Canvas() const { return {0, 0, canvas_.width(), canvas_.height()}; }
     QRect Drawing(QPoint to) const;
 
-    const QSize canvas_;
+    QSize canvas_;
     const FramePointer frame_;
+    QImage image_;  // over all of the canvas
     QRect area_;
     QImage overlay_;
     QPoint overlay_place_;

@@ -141,6 +141,7 @@ class KirtoWindow : public QMainWindow, public BWindow {
     void FadeEffects(BMessage* message);
     void InsertAnimation(BMessage* message);
     void ExportSheet(BMessage* message);
+    void AskAboutVideo(BMessage* message);
     void ChooseFrames(BMessage* message);
     void UseClipboard(BMessage* message);
     void Forward(BMessage* message);

@@ -9,6 +9,7 @@
 #include "kit/alert.h"
 #include "ui/dialogs/fade_window.h"
 #include "ui/dialogs/sheet_dialog.h"
+#include "ui/dialogs/video_dialog.h"
 #include "ui/panels/field_panel.h"
 #include "ui/panels/notice_bar.h"
 #include "ui/panels/status_view.h"
@@ -207,6 +208,13 @@ void KirtoWindow::ExportSheet(BMessage*) {
                        [application = editor_.application](const BMessage& command) {
                            application.SendMessage(command);
                        });
+}
+
+void KirtoWindow::AskAboutVideo(BMessage* message) {
+    kirto::AskForVideoPart(*message, this,
+                           [application = editor_.application](const BMessage& command) {
+                               application.SendMessage(command);
+                           });
 }
 
 void KirtoWindow::ChooseFrames(BMessage* message) {

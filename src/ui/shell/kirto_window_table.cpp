@@ -22,6 +22,7 @@ const KirtoWindow::Command* KirtoWindow::CommandFor(uint32 code) {
         {kirto::kStatusUpdate, &KirtoWindow::ShowStatus},
         {kirto::kWorkProgress, &KirtoWindow::ShowWork},
         {kirto::kStopWork, &KirtoWindow::StopWork},
+        {kirto::kAskAboutVideo, &KirtoWindow::AskAboutVideo},
         {kirto::kQuitWhenDone, &KirtoWindow::CloseWhenDone},
         {kirto::kShowNotice, &KirtoWindow::Notice},
         {kirto::kHideNotice, &KirtoWindow::Notice},

@@ -44,9 +44,17 @@ struct VideoRun {
 };
 
 VideoRun ReadVideo(const VideoPrograms& programs, const std::string& path,
-                   ForeignProcess::Limits limits = {}, std::function<bool()> stopped = {}) {
-    VideoReader reader(programs, path, kRoomForAFrame, limits, std::move(stopped));
+                   const std::string& part = "", ForeignProcess::Limits limits = {},
+                   const std::function<bool()>& stopped = {}) {
     VideoRun run;
+    VideoReader::Job job{path, ParseVideoCut(part).value()};
+    job.pixel_bytes = kRoomForAFrame;
+    job.limits = limits;
+    const auto video = ProbeVideo(programs, path, limits, stopped);
+    const auto frames = video ? FramesOf(*video, job.cut) : std::nullopt;
+    if (!frames) return run;
+    job.frames = *frames;
+    VideoReader reader(programs.decode, job, stopped);
     run.header_result = reader.ReadHeader(&run.header);
     if (run.header_result != VideoResult::kFrame) return run;
     while ((run.end = reader.Next()) == VideoResult::kFrame) {
@@ -64,12 +72,12 @@ std::string Saying(const std::string& json) {
 // With both scripts; the probe's is right.
 VideoRun DecodedBy(const std::string& decode, ForeignProcess::Limits limits = {}) {
     const VideoFolder folder;
-    return ReadVideo(folder.Scripts(Saying(kSmallVideo), decode), "any.mp4", limits);
+    return ReadVideo(folder.Scripts(Saying(kSmallVideo), decode), "any.mp4", "", limits);
 }
 
 VideoResult ProbedBy(const std::string& probe, ForeignProcess::Limits limits = {}) {
     const VideoFolder folder;
-    return ReadVideo(folder.Scripts(probe, "true"), "any.mp4", limits).header_result;
+    return ReadVideo(folder.Scripts(probe, "true"), "any.mp4", "", limits).header_result;
 }
 
 int RunLine(const std::string& line) {
@@ -104,7 +112,7 @@ TEST(VideoReader, GivesUpAProgramThatHangs) {
 TEST(VideoReader, EndsWhenStopped) {
     const VideoFolder folder;
     const VideoRun run =
-        ReadVideo(folder.Scripts("sleep 1000", "true"), "any.mp4", {}, [] { return true; });
+        ReadVideo(folder.Scripts("sleep 1000", "true"), "any.mp4", "", {}, [] { return true; });
     EXPECT_EQ(run.header_result, VideoResult::kBroken);
 }
 
@@ -173,6 +181,34 @@ TEST_F(VideoReaderOnFfmpeg, DropsFramesThatBrowsersWouldNotShowInTime) {
     const VideoRun run = ReadVideo(*programs_, Make("a.mp4", "r=100:d=1"));
     EXPECT_EQ(run.end, VideoResult::kEnd);
     EXPECT_EQ(run.pauses, std::vector<double>(50, 20.0));
+}
+
+// The frames of the same file, made by the options.
+TEST_F(VideoReaderOnFfmpeg, ShowsTheChosenPartInItsSize) {
+    const std::string path = Make("a.mkv", "r=10:d=4 -c:v ffv1");
+    const auto expect = [&](const std::string& part, const std::string& input,
+                            const std::string& filter, size_t frames) {
+        const std::string raw = folder_.files.File("raw");
+        ASSERT_EQ(RunLine("ffmpeg -v error -nostdin " + input + " -i '" + path + "' -vf " + filter +
+                          " -f rawvideo -pix_fmt bgra -y '" + raw + "'"),
+                  0);
+        std::ifstream file(raw, std::ios::binary);
+        const std::vector<uint8> expected{std::istreambuf_iterator<char>(file), {}};
+        const VideoRun run = ReadVideo(*programs_, path, part);
+        EXPECT_EQ(run.end, VideoResult::kEnd) << part;
+        EXPECT_EQ(run.pauses.size(), frames) << part;
+        EXPECT_EQ(run.header.frame_count, static_cast<int32>(frames)) << part;
+        EXPECT_TRUE(run.bytes == expected) << part;
+    };
+    expect("1-2.5", "-ss 1 -t 1.5", "fps=10", 15);
+    expect("3", "-ss 3", "fps=10", 10);
+    expect("@5", "", "fps=5", 20);
+    expect(":32x", "", "fps=10,scale=32:24", 40);
+    expect(":x12", "", "fps=10,scale=16:12", 40);
+    expect(":10x40", "", "fps=10,scale=10:40", 40);
+    expect(",crop=20x10+7+5", "", "crop=20:10:7:5:exact=1", 40);
+    expect("0.5-1.5@4:10x,crop=20x10+7+5", "-ss 0.5 -t 1",
+           "fps=4,crop=20:10:7:5:exact=1,scale=10:5", 4);
 }
 
 TEST_F(VideoReaderOnFfmpeg, ReadsFilesOfAnyName) {
