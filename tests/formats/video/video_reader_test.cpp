@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
+#include <random>
 
 #include "support/test_support.h"
 
@@ -221,6 +222,32 @@ TEST_F(VideoReaderOnFfmpeg, ReadsFilesOfAnyName) {
         EXPECT_EQ(ReadVideo(*programs_, name).pauses.size(), 10u) << name;
     }
     std::filesystem::current_path(before);
+}
+
+// KIRTO_MUTATIONS: how many files are tried.
+TEST_F(VideoReaderOnFfmpeg, EndsWithEveryDamagedVideo) {
+    const char* wish = std::getenv("KIRTO_MUTATIONS");
+    const int count = wish ? std::atoi(wish) : 24;
+    std::vector<std::vector<char>> sound;
+    for (const std::string name : {"a.mp4", "a.webm", "a.avi"}) {
+        std::ifstream file(Make(name, "r=5:d=1"), std::ios::binary);
+        sound.emplace_back(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
+    }
+    std::mt19937 random(1);
+    const std::string path = folder_.files.File("damaged.mp4");
+    for (int i = 0; i < count; ++i) {
+        std::vector<char> bytes = sound[static_cast<size_t>(i) % sound.size()];
+        // The first bytes say what all others mean.
+        const size_t reach = i % 2 == 0 ? std::min<size_t>(bytes.size(), 512) : bytes.size();
+        for (auto changes = 1 + random() % 8; changes > 0; --changes)
+            bytes[random() % reach] = static_cast<char>(random());
+        if (random() % 4 == 0) bytes.resize(random() % bytes.size());
+        std::ofstream(path, std::ios::binary)
+            .write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+        const VideoRun run = ReadVideo(*programs_, path);
+        ASSERT_NE(run.end, VideoResult::kFrame) << i;
+        ASSERT_TRUE(run.end != VideoResult::kEnd || !run.pauses.empty()) << i;
+    }
 }
 
 TEST_F(VideoReaderOnFfmpeg, FollowsNoListsOfOtherFiles) {
