@@ -7,7 +7,7 @@
 #include <string>
 
 #include "document_pictures.h"
-#include "driven_editor.h"
+#include "driving/driven_editor.h"
 #include "picture_folder.h"
 #include "state_pictures.h"
 #include "ui/shell/editor_style.h"

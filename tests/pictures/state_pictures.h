@@ -1,6 +1,6 @@
 #pragma once
 
-#include "driven_editor.h"
+#include "driving/driven_editor.h"
 #include "picture_folder.h"
 
 namespace kirto {

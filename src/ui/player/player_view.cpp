@@ -51,8 +51,9 @@ void PlayerView::AddBelow(QWidget* widget) {
 void PlayerView::UpdateDisplay() {
     if (!isVisible()) return;
     if (updated_) updated_();
-    pane_->SetCanvas(CanvasSize());
+    // The pane asks for pictures, of which the player is to know before.
     player_.UpdateDisplay();
+    pane_->SetCanvas(CanvasSize());
 }
 
 // While it plays the picture comes first, at once.
@@ -106,7 +107,7 @@ std::vector<int32> PlayerView::OnionFrames() const {
 std::vector<FrameImages::Wanted> PlayerView::WantedImages() {
     std::vector<FrameImages::Wanted> wanted;
     const auto add = [&](int32 frame) {
-        if (shown_.Frames().At(frame)->bitmap) wanted.push_back(ImageOf(frame));
+        if (HasPicture(frame)) wanted.push_back(ImageOf(frame));
     };
     constexpr int32 kStill = 2;
     const bool behind = player_.IsPlaying() && !IsReady(player_.Frame());
@@ -121,8 +122,15 @@ std::vector<FrameImages::Wanted> PlayerView::WantedImages() {
     return wanted;
 }
 
+// While the view is hidden the player may know frames that are gone.
+bool PlayerView::HasPicture(int32 frame) const {
+    const FramePointer shown = shown_.Frames().At(frame);
+    return shown && shown->bitmap;
+}
+
 bool PlayerView::IsReady(int32 frame) {
-    bool made = !shown_.Frames().At(frame)->bitmap;
+    if (frame >= shown_.FrameCount()) return false;
+    bool made = !HasPicture(frame);
     if (!made) images_.Find(ImageOf(frame), &made);
     return made;
 }

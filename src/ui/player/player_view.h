@@ -54,6 +54,7 @@ class PlayerView : public QWidget {
     QSize CanvasSize() const;
     QRect PlaceOf(int32 frame) const;
     FrameImages::Wanted ImageOf(int32 frame) const;
+    bool HasPicture(int32 frame) const;
     bool IsReady(int32 frame);
     int32 FrameToPaint();
     std::vector<FrameImages::Wanted> WantedImages();

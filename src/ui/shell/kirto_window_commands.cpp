@@ -228,7 +228,9 @@ void KirtoWindow::ChooseFrames(BMessage* message) {
 void KirtoWindow::UseClipboard(BMessage* message) {
     QClipboard& clipboard = *QGuiApplication::clipboard();
     if (message->what == kirto::kMenuPaste) {
-        if (const auto command = kirto::PasteCommand(*clipboard.mimeData()))
+        // Null where nothing has ever been copied.
+        const QMimeData* data = clipboard.mimeData();
+        if (const auto command = data ? kirto::PasteCommand(*data) : std::nullopt)
             PostToApplication(*command);
         return;
     }

@@ -128,6 +128,29 @@ TEST_F(PlayerViewTest, WaitsWhileItIsHiddenAndFollowsWhenItIsShown) {
     EXPECT_TRUE(Shows(kBlue));
 }
 
+TEST_F(PlayerViewTest, FollowsAnAnimationOfFewerFramesAndAnotherCanvas) {
+    Open();
+    view.Playback().Play();
+    fixture.document.Change([](Animation& animation) { animation.width = 4; });
+    ShowFrames(shown, fixture.document, {FrameOf(4, 4, kBlue)}, 0);
+
+    view.UpdateDisplay();
+
+    EXPECT_TRUE(Shows(kBlue));
+}
+
+TEST_F(PlayerViewTest, AsksForNothingThatIsGoneWhileItIsHidden) {
+    Open();
+    view.Playback().Play();
+    view.hide();
+    ShowFrames(shown, fixture.document, {FrameOf(8, 4, kBlue)}, 0);
+
+    view.Pane().SetCanvas(QSize(3, 3));
+    view.show();
+
+    EXPECT_TRUE(Shows(kBlue));
+}
+
 TEST_F(PlayerViewTest, LetsTheFramesBesideItBeSeen) {
     fixture.document.Select(1);
     shown.Take(fixture.document);

@@ -1,3 +1,4 @@
+#include <QClipboard>
 #include <QDropEvent>
 #include <QGuiApplication>
 #include <QListWidget>
@@ -175,6 +176,15 @@ TEST_F(KirtoWindowCommands, EditsOfFramesAreForwardedAndCounted) {
         EXPECT_EQ(document.changes_waiting, ++number);
     }
     EXPECT_EQ(Posted(), "awfr awfu awfd awfv DATA");
+}
+
+TEST_F(KirtoWindowCommands, PastingFromAnEmptyClipboardDoesNothing) {
+    OpenWithFrames(1);
+    QGuiApplication::clipboard()->clear();
+
+    Do(kMenuPaste);
+
+    EXPECT_EQ(Posted(), "");
 }
 
 TEST_F(KirtoWindowCommands, UndoAndRedoAreForwardedAndCounted) {

@@ -1,4 +1,4 @@
-#include "driven_editor.h"
+#include "driving/driven_editor.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -104,7 +104,7 @@ QWidget* DrivenEditor::OpenWindow(uint32 command, const QString& title) {
     Main()->Messenger().SendMessage(command);
     WaitUntil([&] { return WindowTitled(title) != nullptr; });
     QWidget* window = WindowTitled(title);
-    if (!window) std::fprintf(stderr, "kirto-pictures: no window \"%s\".\n", qPrintable(title));
+    if (!window) std::fprintf(stderr, "no window \"%s\".\n", qPrintable(title));
     return window;
 }
 
