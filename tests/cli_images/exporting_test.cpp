@@ -55,6 +55,34 @@ TEST(KirtoCliExport, AFailureLeavesTheOldFile) {
     EXPECT_EQ(home.Files(), (std::vector<std::string>{"old.webp", "three.gif"}));
 }
 
+TEST(KirtoCliExport, SaysWhatWasGivenUpForASize) {
+    const Exporting home;
+    const RunResult all =
+        home.Run({"--quiet", "--open", "three.gif", "--fit", "1KB", "--export", "all.png"});
+    EXPECT_EQ(all.status, 0);
+    EXPECT_EQ(all.out.find("with"), std::string::npos) << all.out;
+
+    const auto size = std::filesystem::file_size(home.File("all.png"));
+    const RunResult less = home.Run({"--quiet", "--open", "three.gif", "--fit",
+                                     std::to_string(size - 1), "--export", "less.png"});
+    EXPECT_EQ(less.status, 0) << less.err;
+    EXPECT_NE(less.out.find(" bytes, with scale="), std::string::npos) << less.out;
+    EXPECT_LT(std::filesystem::file_size(home.File("less.png")), size);
+}
+
+TEST(KirtoCliExport, ASizeThatCanNotBeMetIsToldAndWritesNothing) {
+    const Exporting home;
+    const RunResult result =
+        home.Run({"--quiet", "--open", "three.gif", "--fit", "10B", "--export", "tiny.gif"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.err.rfind("kirto-cli: tiny.gif: The animation can't be made so small. The "
+                               "smallest that was tried has ",
+                               0),
+              0u)
+        << result.err;
+    EXPECT_EQ(home.Files(), (std::vector<std::string>{"three.gif"}));
+}
+
 TEST(KirtoCliExport, AnUpToDateExportIsNotMadeAgain) {
     const Exporting home;
     const Arguments line = {"--quiet", "--if-newer", "--open", "three.gif", "--export", "out.png"};

@@ -9,6 +9,7 @@
 #include "formats/export/apng_export.h"
 #include "formats/export/export_canvas.h"
 #include "formats/faithful/faithful_gif_save.h"
+#include "formats/faithful/pixel_tolerance.h"
 
 namespace kirto {
 
@@ -19,6 +20,11 @@ constexpr int32 kMostPixelsOfAWebp = 16383;
 
 int32 MostPixelsOfASide(ExportFormat format) {
     return format == ExportFormat::kWebp ? kMostPixelsOfAWebp : kMostPixelsOfAGif;
+}
+
+// What is not complete was stopped, or there was no memory for it.
+ExportResult Interrupted(const ExportTask& task) {
+    return task.work.StopRequested() ? ExportResult::kStopped : ExportResult::kNoMemory;
 }
 
 // The bytes of frames that were read are written again only where all is to be as it was.
@@ -42,6 +48,7 @@ ExportResult WriteGif(const ExportTask& task, const ExportSettings& settings, An
     options.matte = settings.matte;
     options.one_table = settings.one_table;
     options.most_colors = settings.colors;
+    options.tolerance = ToleranceOf(settings.loss);
     const std::shared_ptr<BFile> file = BFile::OnMemory();
     FaithfulGifSave(file, FaithfulGifTask{std::make_shared<const Animation>(std::move(animation)),
                                           options,
@@ -68,7 +75,7 @@ ExportResult WriteWebp(const ExportTask& task, const ExportSettings& settings,
         if (task.work.StopRequested()) return ExportResult::kStopped;
         const CanvasPixels canvas = CanvasOf(animation, *animation.frames.At(i));
         if (writer->Add(canvas, pauses[static_cast<size_t>(i)])) continue;
-        return task.work.StopRequested() ? ExportResult::kStopped : ExportResult::kNoMemory;
+        return Interrupted(task);
     }
     *bytes = writer->Finish();
     return bytes->empty() ? ExportResult::kNoMemory : ExportResult::kDone;
@@ -104,9 +111,13 @@ ExportResult Prepare(const ExportTask& task, const ExportSettings& settings,
     const int64 longest = std::max((*animation)->width, (*animation)->height);
     if (longest * settings.scale / 100 > MostPixelsOfASide(settings.format))
         return ExportResult::kTooLarge;
+    const uint64 pixels =
+        static_cast<uint64>((*animation)->width) * static_cast<uint64>((*animation)->height);
+    const auto percent = static_cast<uint64>(settings.scale);
+    if (pixels * percent / 100 * percent / 100 > task.budget->Limit() / sizeof(uint32))
+        return ExportResult::kNoMemory;
     *animation = Scaled(**animation, settings.scale, task.budget, task.work);
-    if (*animation) return ExportResult::kDone;
-    return task.work.StopRequested() ? ExportResult::kStopped : ExportResult::kNoMemory;
+    return *animation ? ExportResult::kDone : Interrupted(task);
 }
 
 }  // namespace
@@ -126,6 +137,8 @@ std::string SentenceOf(ExportResult result, ExportFormat format) {
             return "Out of memory.";
         case ExportResult::kFailed:
             return "The program that writes videos has failed.";
+        case ExportResult::kTooManyBytes:
+            return "The animation can't be made so small.";
         case ExportResult::kStopped:
             return "Stopped.";
     }

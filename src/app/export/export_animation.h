@@ -29,7 +29,8 @@ enum class ExportResult {
     kTooLarge,  // the format has no room for such sides
     kNoWriter,  // nothing here writes the format
     kNoMemory,
-    kFailed,  // of the program that writes videos
+    kFailed,        // of the program that writes videos
+    kTooManyBytes,  // however it is exported, its file is larger than it may be
     kStopped
 };
 

@@ -25,7 +25,7 @@ struct NumberChoice {
 constexpr NumberChoice kNumberChoices[] = {{"colors", &ExportSettings::colors, 2, 256},
                                            {"loss", &ExportSettings::loss, 0, 200},
                                            {"scale", &ExportSettings::scale, 1, 400},
-                                           {"every", &ExportSettings::every, 1, 100}};
+                                           {"every", &ExportSettings::every, 1, kMostFramesAStep}};
 
 constexpr std::pair<const char*, AdaptiveDither> kDithers[] = {
     {"none", AdaptiveDither::kNone},

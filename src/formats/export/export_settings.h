@@ -11,6 +11,9 @@ namespace kirto {
 
 enum class ExportFormat { kGif, kWebp, kApng, kMp4, kWebm };
 
+// Of how many frames one may be kept.
+inline constexpr int32 kMostFramesAStep = 100;
+
 // How an animation is exported: a plain value. Choices that the format does not know count for
 // nothing.
 struct ExportSettings {
@@ -18,12 +21,12 @@ struct ExportSettings {
     int32 colors = 256;      // GIF: of a frame, 2 to 256
     bool one_table = false;  // GIF: all frames have the same colors
     AdaptiveDither dither = AdaptiveDither::kErrorDiffusion;  // GIF
-    int32 loss = 0;                                           // GIF: 0 to 200; see PixelTolerance
+    int32 loss = 0;                                           // GIF: 0 to 200; see ToleranceOf
     // WebP and videos: 0 to 100, the best. Nothing: WebP keeps every pixel, videos are good.
     std::optional<int32> quality;
     rgb_color matte{255, 255, 255, 255};  // GIF and videos: what soft edges are laid on
     int32 scale = 100;                    // percent of the size, 1 to 400
-    int32 every = 1;                      // keeps every n-th frame, and all of the time; 1 to 100
+    int32 every = 1;  // keeps every n-th frame, and all of the time; 1 to kMostFramesAStep
 
     friend bool operator==(const ExportSettings& a, const ExportSettings& b);
 };

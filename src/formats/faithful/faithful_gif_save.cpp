@@ -191,6 +191,7 @@ FrameToPlan FaithfulGifSave::ToPlan(size_t frame, const Prepared& prepared) cons
 
 void FaithfulGifSave::ChooseLayout() {
     layout_.interlaced = task_.options.interlaced;
+    layout_.tolerance = task_.options.tolerance;
     for (const FramePlan& plan : planner_->Plans()) {
         if (plan.source && !plan.source->local_table) layout_.given = plan.source->table;
         if (layout_.given) break;

@@ -23,6 +23,7 @@ struct FaithfulOptions {
     bool joint_colors = false;      // frames of too many colors share those they are given
     bool one_table = false;         // all frames share them where they are too many together
     int32 most_colors = 256;        // of one frame, 2 to 256
+    int64 tolerance = 0;            // colors may be so far off, squared, where it saves bytes
     AdaptiveDither dither = AdaptiveDither::kErrorDiffusion;
     rgb_color matte{255, 255, 255, 255};
     uint8 threshold = AlphaMatte::kFirstVisible;  // pixels of less alpha are transparent

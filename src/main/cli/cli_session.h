@@ -4,7 +4,7 @@
 #include <span>
 #include <string>
 
-#include "app/export/export_animation.h"
+#include "app/export/fit_under.h"
 #include "app/kirto.h"
 #include "app/save_verification.h"
 #include "document/field_table.h"
@@ -63,6 +63,8 @@ class CliSession {
     Outcome Export(const std::string& value);
     Outcome SetExport(const std::string& value);
     Outcome Fit(const std::string& value);
+    // Of the current animation by the settings, within the limit if there is one.
+    ExportResult RunExport(FittedExport* exported);
 
     // Operations in memory (cli_session_edits.cpp).
     Outcome Set(const std::string& value);

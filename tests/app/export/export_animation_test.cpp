@@ -1,9 +1,11 @@
 // What is exported, read back.
 #include "app/export/export_animation.h"
 
+#include <limits>
 #include <set>
 
 #include "app/export/export_fixture.h"
+#include "formats/faithful/pixel_tolerance.h"
 #include "support/random_document.h"
 #include "support/threads.h"
 
@@ -31,6 +33,23 @@ void AddSlopes(ExportFixture* fixture, int32 side, int32 frames) {
                 const auto green = static_cast<uint32>(y * 255 / side);
                 pixels.push_back(0xFF000040U | red << 16 | green << 8);
             }
+        }
+        fixture->Add(pixels, 4);
+    }
+}
+
+// Frames of 216 colors in no order, half of whose pixels stay the same.
+void AddNoise(ExportFixture* fixture, int32 side, int32 frames) {
+    fixture->animation.width = side;
+    fixture->animation.height = side;
+    SeededChoices choices(1);
+    std::vector<uint32> pixels(static_cast<size_t>(side) * static_cast<size_t>(side));
+    for (int32 i = 0; i < frames; ++i) {
+        for (uint32& pixel : pixels) {
+            if (i > 0 && choices.OneIn(2)) continue;
+            pixel = 0xFF000000;
+            for (uint32 j = 0; j < 3; ++j)
+                pixel |= 12 * choices.Below(6) << (8 * j);
         }
         fixture->Add(pixels, 4);
     }
@@ -142,6 +161,28 @@ TEST(ExportAnimation, AGifHasNoMoreColorsThanAllowed) {
     }
 }
 
+// Frames of few enough colors to be written as they are.
+TEST(ExportAnimation, LossKeepsPixelsNearAndMakesTheFileSmaller) {
+    ExportFixture fixture;
+    AddNoise(&fixture, 48, 4);
+    size_t last = std::numeric_limits<size_t>::max();
+    for (const int32 loss : {0, 40, 100, 200}) {
+        ExportSettings settings;
+        settings.loss = loss;
+        ASSERT_EQ(fixture.Export(settings), ExportResult::kDone);
+        const auto shown = ReadGif(fixture.bytes).Frames();
+        ASSERT_EQ(shown.size(), 4u);
+        for (size_t i = 0; i < shown.size(); ++i) {
+            const auto meant =
+                PixelsOf(*fixture.animation.frames.At(static_cast<int32>(i))->bitmap);
+            for (size_t pixel = 0; pixel < meant.size(); ++pixel)
+                ASSERT_LE(SquareDistance(meant[pixel], shown[i][pixel]), ToleranceOf(loss));
+        }
+        EXPECT_LT(fixture.bytes.size(), last) << loss;
+        last = fixture.bytes.size();
+    }
+}
+
 TEST(ExportAnimation, OneTableIsSharedByAllFrames) {
     ExportFixture fixture;
     AddSlopes(&fixture, 40, 4);
@@ -220,6 +261,7 @@ TEST(ExportAnimation, MakesTheSameBytesWithAnyNumberOfThreads) {
         ExportSettings settings = SettingsFor(format);
         settings.scale = 70;
         settings.colors = 50;
+        settings.loss = 30;
         std::vector<uint8> first;
         for (const int32 count : kThreadCounts) {
             const ScopedThreads threads(count);
