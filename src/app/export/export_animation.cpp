@@ -8,12 +8,17 @@
 #include "app/export/export_frames.h"
 #include "formats/export/apng_export.h"
 #include "formats/export/export_canvas.h"
+#include "formats/export/video_export.h"
 #include "formats/faithful/faithful_gif_save.h"
 #include "formats/faithful/pixel_tolerance.h"
 
 namespace kirto {
 
 namespace {
+
+constexpr const char* kNoVideoWriterText =
+    "The video can't be written because the program ffmpeg was not found. Install the package "
+    "\"ffmpeg\".";
 
 constexpr int32 kMostPixelsOfAGif = 65535;
 constexpr int32 kMostPixelsOfAWebp = 16383;
@@ -87,6 +92,24 @@ ExportResult WriteApng(const ExportTask& task, const Animation& animation,
     return bytes->empty() ? ExportResult::kStopped : ExportResult::kDone;
 }
 
+ExportResult WriteVideo(const ExportTask& task, const ExportSettings& settings,
+                        const Animation& animation, std::vector<uint8>* bytes) {
+    const auto program = FindProgram("ffmpeg");
+    if (!program) return ExportResult::kNoWriter;
+    switch (EncodeVideo(animation, task.pause_in_seconds, settings, *program, VideoWriterLimits(),
+                        task.work, bytes)) {
+        case VideoResult::kDone:
+            return ExportResult::kDone;
+        case VideoResult::kTooLong:
+            return ExportResult::kTooLarge;
+        case VideoResult::kFailed:
+            return ExportResult::kFailed;
+        case VideoResult::kStopped:
+            break;
+    }
+    return ExportResult::kStopped;
+}
+
 ExportResult Write(const ExportTask& task, const ExportSettings& settings,
                    const Animation& animation, std::vector<uint8>* bytes) {
     switch (settings.format) {
@@ -98,7 +121,7 @@ ExportResult Write(const ExportTask& task, const ExportSettings& settings,
             return WriteApng(task, animation, bytes);
         case ExportFormat::kMp4:
         case ExportFormat::kWebm:
-            break;
+            return WriteVideo(task, settings, animation, bytes);
     }
     return ExportResult::kNoWriter;
 }
@@ -131,8 +154,9 @@ std::string SentenceOf(ExportResult result, ExportFormat format) {
         case ExportResult::kTooLarge:
             return std::string("The animation is too large for a ") + NameOf(format) + " file.";
         case ExportResult::kNoWriter:
-            return std::string("There is no program here that writes ") + NameOf(format) +
-                   " files.";
+            if (format == ExportFormat::kMp4 || format == ExportFormat::kWebm)
+                return kNoVideoWriterText;
+            return std::string("There is nothing here that writes ") + NameOf(format) + " files.";
         case ExportResult::kNoMemory:
             return "Out of memory.";
         case ExportResult::kFailed:
