@@ -2,6 +2,7 @@
 #include <filesystem>
 
 #include "cli_images/image_home.h"
+#include "kit/foreign_process.h"
 
 namespace kirto::test {
 
@@ -37,6 +38,26 @@ TEST(KirtoCliExport, ChoicesHoldForTheExportsThatFollow) {
     const Json some = home.Info({"--open", "some.png"});
     EXPECT_EQ(some["frames"].size(), 2u);
     EXPECT_EQ(some["global_width"], 4);
+}
+
+TEST(KirtoCliExport, WritesVideosThatComeBackWithTheirPauses) {
+    Exporting home;
+    if (!FindProgram("ffmpeg") || !FindProgram("ffprobe")) GTEST_SKIP() << "without ffmpeg";
+    for (const std::string name : {"out.mp4", "out.webm"}) {
+        const RunResult result = home.Run({"--quiet", "--open", "three.gif", "--export", name});
+        EXPECT_EQ(result.status, 0) << result.err;
+        // 100, 100 and 200 milliseconds at 10 pictures a second.
+        EXPECT_EQ(home.Info({"--open", name})["frames"].size(), 4u) << name;
+    }
+}
+
+TEST(KirtoCliExport, SaysWhatIsMissingForVideos) {
+    Exporting home;
+    home.SetEnvironment("PATH", "/nowhere");
+    home.Fail({"--open", "three.gif", "--export", "out.mp4"},
+              "out.mp4: The video can't be written because the program ffmpeg was not found. "
+              "Install the package \"ffmpeg\".",
+              1);
 }
 
 TEST(KirtoCliExport, RefusesChoicesAndNamesThatMeanNothing) {
