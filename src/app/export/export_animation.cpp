@@ -11,6 +11,7 @@
 #include "formats/export/video_export.h"
 #include "formats/faithful/faithful_gif_save.h"
 #include "formats/faithful/pixel_tolerance.h"
+#include "formats/faithful/still_pixels.h"
 
 namespace kirto {
 
@@ -54,6 +55,12 @@ ExportResult WriteGif(const ExportTask& task, const ExportSettings& settings, An
     options.one_table = settings.one_table;
     options.most_colors = settings.colors;
     options.tolerance = ToleranceOf(settings.loss);
+    if (options.tolerance > 0) {
+        auto still =
+            WithStillPixels(animation, options.Matte(), options.tolerance, task.budget, task.work);
+        if (!still) return Interrupted(task);
+        animation = std::move(*still);
+    }
     const std::shared_ptr<BFile> file = BFile::OnMemory();
     FaithfulGifSave(file, FaithfulGifTask{std::make_shared<const Animation>(std::move(animation)),
                                           options,

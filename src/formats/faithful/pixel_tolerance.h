@@ -16,9 +16,15 @@ inline int64 SquareDistance(uint32 key, uint32 other) {
     return sum;
 }
 
-// The largest square distance that a loss of 0 to 200 allows.
+// The largest square distance that a loss of 0 to 200 allows: between a pixel and what stays there,
+// and once more between that and what is drawn.
 inline int64 ToleranceOf(int32 loss) {
     return int64{5} * loss;
+}
+
+// The largest square distance of both together: twice as far.
+inline int64 FarthestOf(int32 loss) {
+    return 4 * ToleranceOf(loss);
 }
 
 }  // namespace kirto
