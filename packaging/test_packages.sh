@@ -40,6 +40,7 @@ inside apt-get install -qq -y --no-install-recommends /packages/kirto-cli.deb >/
 inside kirto-cli --version
 cp "$packages/walk.gif" "$root/tmp/walk.gif"
 inside kirto-cli --quiet --open /tmp/walk.gif --reverse --save /tmp/back.gif
+inside kirto-cli --quiet --open /tmp/back.gif --export /tmp/back.webp
 inside kirto-cli --quiet --open /tmp/back.gif --select 0 --save-frame /tmp/frame.png
 inside test -s /tmp/frame.png
 inside kirto-cli --quiet --insert /tmp/frame.png --save /tmp/still.gif

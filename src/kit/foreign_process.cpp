@@ -123,8 +123,8 @@ bool ForeignProcess::Start(const std::string& program, const std::vector<std::st
         values.push_back(const_cast<char*>(argument.c_str()));
     values.push_back(nullptr);
     ChildEnds ends;
-    const bool ready = OpenInput(with_input, &input_, &ends.input) &&
-                       OpenPipe(&output_, &ends.output) && OpenPipe(&error_, &ends.error);
+    const bool ready = OpenInput(with_input, &input_, &ends.input) && OpenOutput(&ends.output) &&
+                       OpenPipe(&error_, &ends.error);
     if (ready) {
         const pid_t parent = getpid();
         child_ = fork();
@@ -137,6 +137,12 @@ bool ForeignProcess::Start(const std::string& program, const std::vector<std::st
         CloseDescriptor(descriptor);
     errno = error;
     return child_ > 0;
+}
+
+bool ForeignProcess::OpenOutput(int* theirs) {
+    if (output_file_ < 0) return OpenPipe(&output_, theirs);
+    *theirs = fcntl(output_file_, F_DUPFD_CLOEXEC, 0);
+    return *theirs >= 0;
 }
 
 ForeignProcess::Result ForeignProcess::Read(std::span<uint8> bytes, size_t* count) {

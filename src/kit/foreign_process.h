@@ -44,6 +44,9 @@ class ForeignProcess {
     ForeignProcess(const ForeignProcess&) = delete;
     ForeignProcess& operator=(const ForeignProcess&) = delete;
 
+    // Its output goes to that file, which outlives the call of Start(), and Read is not used.
+    // Called before that.
+    void SendOutputTo(int descriptor) { output_file_ = descriptor; }
     // program: its file. arguments: those behind its name. with_input: whether Write is used; else
     // its input is empty. Called once; false with errno set.
     bool Start(const std::string& program, const std::vector<std::string>& arguments,
@@ -67,6 +70,7 @@ class ForeignProcess {
   private:
     using Clock = std::chrono::steady_clock;
 
+    bool OpenOutput(int* theirs);
     // Waits a little for the events of the descriptor and takes in what standard error tells.
     // Returns the events that came.
     short WaitFor(int descriptor, short events);
@@ -83,6 +87,7 @@ class ForeignProcess {
     pid_t child_ = -1;
     int input_ = -1;
     int output_ = -1;
+    int output_file_ = -1;  // in place of that; not owned
     int error_ = -1;
     std::vector<uint8> pending_;
     std::string error_text_;

@@ -9,6 +9,7 @@
 
 #include "base/types.h"
 #include "kit/animated_image.h"
+#include "kit/animated_image_writer.h"
 #include "kit/bitmap.h"
 #include "kit/file.h"
 #include "kit/message.h"
@@ -52,6 +53,13 @@ class BTranslatorRoster {
     // which outlive the result. pixel_bytes: what its canvas may take.
     virtual std::unique_ptr<kirto::AnimatedImageReader> ReadAnimatedImage(
         kirto::AnimatedImageFormat, std::span<const uint8> /*file*/, uint64 /*pixel_bytes*/) const {
+        return nullptr;
+    }
+
+    // What writes the frames of an animated image; null when nothing does.
+    virtual std::unique_ptr<kirto::AnimatedImageWriter> WriteAnimatedImage(
+        kirto::AnimatedImageFormat, const kirto::AnimatedImageHeader&,
+        const kirto::AnimatedImageQuality&) const {
         return nullptr;
     }
 

@@ -1,6 +1,7 @@
 #include "kit/foreign_process.h"
 
 #include <csignal>
+#include <cstdio>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <unistd.h>
@@ -50,6 +51,23 @@ TEST(ForeignProcess, GivesItsOutputErrorTextAndStatus) {
     EXPECT_EQ(script.result, Result::kEnd);
     EXPECT_EQ(script.process.Finish(), 3);
     EXPECT_EQ(script.process.ErrorText(), "wrong");
+}
+
+TEST(ForeignProcess, WritesIntoTheFileThatItIsGiven) {
+    std::FILE* const file = std::tmpfile();
+    ASSERT_TRUE(file);
+    ForeignProcess::Limits limits;
+    limits.file_size = 100;
+    ForeignProcess process(limits);
+    process.SendOutputTo(fileno(file));
+    ASSERT_TRUE(process.Start("/bin/sh", {"-c", "cat; printf abc"}, true));
+    const std::vector<uint8> input(5, 'x');
+    EXPECT_EQ(process.Write(input), Result::kDone);
+    EXPECT_EQ(process.Finish(), 0);
+    std::string text(9, 0);
+    text.resize(static_cast<size_t>(pread(fileno(file), text.data(), text.size(), 0)));
+    EXPECT_EQ(text, "xxxxxabc");
+    std::fclose(file);
 }
 
 TEST(ForeignProcess, PassesArgumentsAsTheyAre) {

@@ -6,11 +6,16 @@
 //   decoded_frames --make N FOLDER  writes N animations made at random, 0.gif, 1.gif, ...
 //                                   and a quarter as many animated PNG and WebP files each
 //   decoded_frames --save N FOLDER  saves N animations faithfully, saved0.gif, saved1.gif, ...
+//                                   and exports a quarter as many in each format
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <string>
+#include <string_view>
+#include <utility>
 #include <vector>
 
+#include "app/export/export_animation.h"
 #include "app/open_animation.h"
 #include "base/md5.h"
 #include "base/text.h"
@@ -88,6 +93,43 @@ void SaveScenes(uint32 seed, const std::string& path) {
     WriteBytes(path, file->Memory());
 }
 
+// To a reader or to the browser a single picture is no animation.
+bool Moves(const std::vector<uint8>& bytes, ExportFormat format) {
+    static constexpr std::string_view kSecondPicture = "fdAT";
+    const auto file = BFile::OnMemory(bytes);
+    switch (AnimatedImageFormatOf(*file)) {
+        case AnimatedImageFormat::kNone:
+            return format == ExportFormat::kGif;
+        case AnimatedImageFormat::kWebp:
+            return true;
+        case AnimatedImageFormat::kApng:
+            break;
+    }
+    return std::search(bytes.begin(), bytes.end(), kSecondPicture.begin(), kSecondPicture.end()) !=
+           bytes.end();
+}
+
+void ExportScenes(uint32 seed, const std::string& path) {
+    SeededChoices choices(seed);
+    DocumentFixture fixture;
+    FillWithScenes(choices, 40, fixture.document);
+    ExportSettings settings;
+    settings.loss = choices.Between(0, 200);
+    settings.colors = choices.Between(2, 256);
+    const QtTranslatorRoster roster;
+    Work work;
+    const ExportTask task = {fixture.document.Current(), false, fixture.document.pixel_budget,
+                             roster, work};
+    for (const auto& [format, ending] :
+         {std::pair(ExportFormat::kGif, ".gif"), std::pair(ExportFormat::kApng, ".png"),
+          std::pair(ExportFormat::kWebp, ".webp")}) {
+        settings.format = format;
+        std::vector<uint8> bytes;
+        ExportAnimation(task, settings, &bytes);
+        if (Moves(bytes, format)) WriteBytes(path + ending, bytes);
+    }
+}
+
 }  // namespace
 
 }  // namespace kirto::test
@@ -104,8 +146,11 @@ int main(int argc, char** argv) {
         return 0;
     }
     if (arguments.size() == 3 && arguments[0] == "--save") {
-        for (uint32 i = 0; i < std::stoul(arguments[1]); ++i)
+        for (uint32 i = 0; i < std::stoul(arguments[1]); ++i) {
             kirto::test::SaveScenes(i, arguments[2] + "/saved" + std::to_string(i) + ".gif");
+            if (i % 4 == 0)
+                kirto::test::ExportScenes(i, arguments[2] + "/exported" + std::to_string(i));
+        }
         return 0;
     }
     for (const std::string& path : arguments)

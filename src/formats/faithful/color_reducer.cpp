@@ -77,8 +77,9 @@ std::vector<rgb_color> ColorReducer::ColorsFor(const ScreenPixels& before,
         ++item->value;
     }
     AdaptivePalette palette;
-    const status_t status = palette.Make(counts.Items(), kMostColors,
-                                         Occurring(options_.exact, counts.Items()), &work_);
+    const status_t status =
+        palette.Make(counts.Items(), std::min(kMostColors, options_.most_colors),
+                     Occurring(options_.exact, counts.Items()), &work_);
     if (status == B_NO_MEMORY) throw std::bad_alloc();
     return {palette.Colors().begin(), palette.Colors().end()};
 }

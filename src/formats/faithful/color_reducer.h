@@ -20,8 +20,10 @@ class ColorReducer {
 
     struct Options {
         AdaptiveDither dither = AdaptiveDither::kErrorDiffusion;
+        int32 most_colors = 256;  // of a screen, 2 to 256
         // Colors that all screens are given, at most kMostColors; empty: each has its own.
         std::vector<rgb_color> common{};
+        bool always_common = false;  // also those that have few colors
         // Different colors that pixels keep, at most kMostColors.
         std::vector<rgb_color> exact{};
     };
@@ -29,12 +31,18 @@ class ColorReducer {
     // What was made when the work is stopped is of no use. The screen and the work outlive this.
     ColorReducer(const Screen& screen, Options options, const Work& work);
 
+    // Screens that draw no more colors than these are not to be reduced.
+    size_t MostExact() const {
+        const bool never = options_.always_common && !options_.common.empty();
+        return never ? 0 : static_cast<size_t>(options_.most_colors);
+    }
+
     // Those of the colors that are among the counted ones.
     static std::vector<rgb_color> Occurring(std::span<const rgb_color> colors,
                                             std::span<const ColorValues::Item> counts);
 
-    // The screen in at most kMostColors colors that suit the pixels that differ from those of
-    // `before`, which is of the same size. Nothing stays nothing. Throws std::bad_alloc.
+    // The screen in so many colors, at most kMostColors, that suit the pixels that differ from
+    // those of `before`, which is of the same size. Nothing stays nothing. Throws std::bad_alloc.
     ScreenPixels Reduce(const ScreenPixels& before, const ScreenPixels& shown) const;
 
   private:

@@ -10,7 +10,6 @@
 #include "base/run_in_order.h"
 #include "base/text.h"
 #include "color/adaptive/adaptive_palette.h"
-#include "color/adaptive/color_census.h"
 #include "color/color_text.h"
 #include "formats/faithful/frame_delays.h"
 #include "formats/faithful/untouched_frames.h"
@@ -32,7 +31,7 @@ int32 SideOf(int32 canvas, int64 needed) {
 }
 
 // No larger than what any frame shows, so that a few pixels take no memory for many.
-Screen ScreenFor(const Animation& animation, const AlphaMatte& matte, const PixelBudget& budget) {
+Screen ScreenFor(const Animation& animation, const AlphaMatte& matte, uint64 memory_limit) {
     int64 right = 0;
     int64 bottom = 0;
     for (const FramePointer& frame : animation.frames) {
@@ -40,20 +39,20 @@ Screen ScreenFor(const Animation& animation, const AlphaMatte& matte, const Pixe
         bottom = std::max(bottom, int64{frame->y_offset} + frame->height);
     }
     const Screen screen(SideOf(animation.width, right), SideOf(animation.height, bottom), matte);
-    if (screen.At(0, screen.Height()) * sizeof(uint32) > budget.Limit()) throw std::bad_alloc();
+    if (screen.At(0, screen.Height()) * sizeof(uint32) > memory_limit) throw std::bad_alloc();
     return screen;
 }
 
 // Whether the strips, by what they have counted, have no more colors than an image; with alpha or
 // not.
-bool HasFewColors(const Frame& frame) {
+bool HasFewColors(const Frame& frame, size_t most) {
     if (!frame.bitmap) return true;
     std::set<uint32> pixels;
     for (const auto& strip : frame.bitmap->AllStrips()) {
         if (strip->Pixels()) return false;
         for (const PixelCount& item : strip->Counts())
             pixels.insert(item.pixel);
-        if (pixels.size() > FramePlanner::kMostColors) return false;
+        if (pixels.size() > most) return false;
     }
     return true;
 }
@@ -86,22 +85,28 @@ FaithfulOptions FaithfulOptions::Of(const Prefs& prefs) {
 }
 
 FaithfulGifSave::FaithfulGifSave(std::shared_ptr<BFile> file, AnimationDocument& document)
+    : FaithfulGifSave(
+          std::move(file),
+          FaithfulGifTask{document.Current(), FaithfulOptions::Of(document.prefs),
+                          document.pixel_budget->Limit(), document.work,
+                          [&document](const std::string& text) { document.PostStatus(text); }}) {}
+
+FaithfulGifSave::FaithfulGifSave(std::shared_ptr<BFile> file, FaithfulGifTask task)
     : file_(std::move(file)),
-      document_(document),
-      animation_(document.Current()),
-      options_(FaithfulOptions::Of(document.prefs)),
-      frames_(animation_->frames.begin(), animation_->frames.end()),
-      untouched_(UntouchedFrames(*animation_)),
-      delays_(SpreadDelays(*animation_, options_.pause_in_seconds)),
-      screen_(ScreenFor(*animation_, options_.Matte(), *document.pixel_budget)),
-      progress_(document.work, static_cast<int64>(frames_.size()) * (kPlanned + kEncoded)),
+      task_(std::move(task)),
+      frames_(task_.animation->frames.begin(), task_.animation->frames.end()),
+      untouched_(UntouchedFrames(*task_.animation)),
+      delays_(SpreadDelays(*task_.animation, task_.options.pause_in_seconds)),
+      screen_(ScreenFor(*task_.animation, task_.options.Matte(), task_.memory_limit)),
+      progress_(task_.work, static_cast<int64>(frames_.size()) * (kPlanned + kEncoded)),
       reducer_(std::make_unique<ColorReducer>(
           screen_,
-          ColorReducer::Options{
-              .dither = options_.dither,
-              .common = options_.joint_colors ? JointColors() : std::vector<rgb_color>{},
-              .exact = options_.exact_colors},
-          document.work)),
+          ColorReducer::Options{.dither = task_.options.dither,
+                                .most_colors = task_.options.most_colors,
+                                .common = SharesColors() ? JointColors() : std::vector<rgb_color>{},
+                                .always_common = task_.options.one_table,
+                                .exact = task_.options.exact_colors},
+          task_.work)),
       planner_(std::make_unique<FramePlanner>(screen_, *reducer_)) {
     Plan();
     ChooseLayout();
@@ -111,18 +116,26 @@ FaithfulGifSave::FaithfulGifSave(std::shared_ptr<BFile> file, AnimationDocument&
     file_->SetMimeType("image/gif");
 }
 
+// None where all frames together do with so many.
 std::vector<rgb_color> FaithfulGifSave::JointColors() const {
-    ColorCensus census(options_.Matte(), &document_.work);
+    ColorCensus census(task_.options.Matte(), &task_.work);
     for (const FramePointer& frame : frames_) {
         if (!frame->bitmap || !frame->bitmap->HasRows()) continue;
         const status_t counted = census.Add(*frame->bitmap);
         if (counted == B_NO_MEMORY) throw std::bad_alloc();
         if (counted != B_OK) return {};
     }
+    if (task_.options.one_table &&
+        census.Colors().size() <= static_cast<size_t>(task_.options.most_colors))
+        return {};
+    return JointColors(census);
+}
+
+std::vector<rgb_color> FaithfulGifSave::JointColors(const ColorCensus& census) const {
     AdaptivePalette palette;
     const status_t made = palette.Make(
-        census.Colors(), ColorReducer::kMostColors,
-        ColorReducer::Occurring(options_.exact_colors, census.Colors()), &document_.work);
+        census.Colors(), std::min(ColorReducer::kMostColors, task_.options.most_colors),
+        ColorReducer::Occurring(task_.options.exact_colors, census.Colors()), &task_.work);
     if (made == B_NO_MEMORY) throw std::bad_alloc();
     return {palette.Colors().begin(), palette.Colors().end()};
 }
@@ -133,12 +146,12 @@ void FaithfulGifSave::Plan() {
     steps.next = [&] { return next < frames_.size() ? std::optional(next++) : std::nullopt; };
     steps.begin = [&](size_t) {
         progress_.Tell();
-        return !document_.StopRequested();
+        return !Stopped();
     };
     steps.work = [&](size_t frame, int32) { return std::optional(Prepare(frame)); };
     steps.waiting = [&] { progress_.Tell(); };
     steps.take = [&](size_t frame, std::optional<Prepared> prepared) {
-        if (prepared && !document_.StopRequested()) planner_->Add(ToPlan(frame, *prepared));
+        if (prepared && !Stopped()) planner_->Add(ToPlan(frame, *prepared));
         progress_.Add(kPlanned);
         return prepared.has_value();
     };
@@ -154,11 +167,11 @@ FaithfulGifSave::Prepared FaithfulGifSave::Prepare(size_t frame) const {
     Prepared prepared;
     if (!IsWanted(frame)) return prepared;
     ScreenPixels shown = screen_.Show(ScreenImage::Of(*frames_[frame]));
-    if (!untouched_[frame] && !HasFewColors(*frames_[frame])) {
+    if (!untouched_[frame] && !HasFewColors(*frames_[frame], reducer_->MostExact())) {
         const ScreenPixels before =
             frame > 0 ? screen_.Show(ScreenImage::Of(*frames_[frame - 1])) : screen_.Empty();
         const auto few =
-            ColorsToDraw(screen_, screen_.Whole(), before, shown, FramePlanner::kMostColors);
+            ColorsToDraw(screen_, screen_.Whole(), before, shown, reducer_->MostExact());
         if (!few)
             prepared.reduced = std::make_shared<ScreenPixels>(reducer_->Reduce(before, shown));
     }
@@ -177,7 +190,8 @@ FrameToPlan FaithfulGifSave::ToPlan(size_t frame, const Prepared& prepared) cons
 }
 
 void FaithfulGifSave::ChooseLayout() {
-    layout_.interlaced = options_.interlaced;
+    layout_.interlaced = task_.options.interlaced;
+    layout_.tolerance = task_.options.tolerance;
     for (const FramePlan& plan : planner_->Plans()) {
         if (plan.source && !plan.source->local_table) layout_.given = plan.source->table;
         if (layout_.given) break;
@@ -189,8 +203,8 @@ void FaithfulGifSave::ChooseLayout() {
 
 void FaithfulGifSave::WriteHeader() {
     uint8 header[13] = {'G', 'I', 'F', '8', '9', 'a'};
-    WriteLittle16(header + 6, animation_->width);
-    WriteLittle16(header + 8, animation_->height);
+    WriteLittle16(header + 6, task_.animation->width);
+    WriteLittle16(header + 8, task_.animation->height);
     const GifTable& table = layout_.global_table;
     // Of the highest color resolution, unsorted.
     header[10] = 0x70;
@@ -198,8 +212,8 @@ void FaithfulGifSave::WriteHeader() {
     file_->Write(header, sizeof(header));
     ByteWriter bytes;
     if (table.Size() > 0) table.Write(&bytes);
-    if (animation_->use_loop) AppendLoopBlock(animation_->loop_count, &bytes);
-    if (options_.comment) AppendCommentBlock(&bytes);
+    if (task_.animation->use_loop) AppendLoopBlock(task_.animation->loop_count, &bytes);
+    if (task_.options.comment) AppendCommentBlock(&bytes);
     Write(bytes);
 }
 
@@ -209,14 +223,15 @@ void FaithfulGifSave::WriteImages() {
     const int32 threads = std::clamp(count, 1, ThreadCount());
     std::vector<std::unique_ptr<FrameWriter>> writers;
     while (static_cast<int32>(writers.size()) < threads)
-        writers.push_back(std::make_unique<FrameWriter>(screen_, plans, layout_, document_.work));
+        writers.push_back(std::make_unique<FrameWriter>(screen_, plans, layout_, task_.work));
     int32 next = 0;
     OrderedSteps<int32, ByteWriter> steps;
     steps.next = [&] { return next < count ? std::optional(next++) : std::nullopt; };
     steps.begin = [&](int32 plan) {
-        document_.PostStatus(Format("Status: writing frame %d of %d...", plan + 1, count));
+        if (task_.status)
+            task_.status(Format("Status: writing frame %d of %d...", plan + 1, count));
         progress_.Tell();
-        return !document_.StopRequested();
+        return !Stopped();
     };
     steps.work = [&](int32 plan, int32 worker) {
         return std::optional(writers[static_cast<size_t>(worker)]->Encode(plan));

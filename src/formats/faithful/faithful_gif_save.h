@@ -1,10 +1,13 @@
 #pragma once
 
+#include <functional>
 #include <memory>
+#include <string>
 #include <vector>
 
 #include "base/shared_progress.h"
 #include "color/adaptive/adaptive_mapper.h"
+#include "color/adaptive/color_census.h"
 #include "document/animation_document.h"
 #include "formats/faithful/frame_planner.h"
 #include "formats/faithful/frame_writer.h"
@@ -18,6 +21,9 @@ struct FaithfulOptions {
     bool comment = false;           // with a comment of the program's own
     bool pause_in_seconds = false;  // the unit of the animation's pauses; else hundredths
     bool joint_colors = false;      // frames of too many colors share those they are given
+    bool one_table = false;         // all frames share them where they are too many together
+    int32 most_colors = 256;        // of one frame, 2 to 256
+    int64 tolerance = 0;            // colors may be so far off, squared, where it saves bytes
     AdaptiveDither dither = AdaptiveDither::kErrorDiffusion;
     rgb_color matte{255, 255, 255, 255};
     uint8 threshold = AlphaMatte::kFirstVisible;  // pixels of less alpha are transparent
@@ -28,15 +34,26 @@ struct FaithfulOptions {
     static FaithfulOptions Of(const Prefs& prefs);
 };
 
-// Writes a document's animation, as it is at the start, as a GIF file in which browsers show what
-// the document's window shows, as long as 256 colors do for what is new in each frame, and in as
-// few bytes as it finds. First all frames are planned, then they are encoded, both by several
-// threads; the bytes do not depend on their number. The constructor does all the work; the
-// document's work tells how far it is, and when that is stopped the file is not complete. Write
-// results are not checked here: the file remembers its first error. Throws std::bad_alloc.
+// What is written, and what for.
+struct FaithfulGifTask {
+    std::shared_ptr<const Animation> animation;
+    FaithfulOptions options;
+    uint64 memory_limit = 0;  // bytes that a screen may take
+    Work& work;               // hears how far it is; outlives the task
+    // Told what is done, on the working thread; may be empty.
+    std::function<void(const std::string&)> status;
+};
+
+// Writes an animation as a GIF file in which browsers show what the editor's window shows, as long
+// as so many colors do for what is new in each frame, and in as few bytes as it finds. First all
+// frames are planned, then they are encoded, both by several threads; the bytes do not depend on
+// their number. The constructor does all the work; when that is stopped the file is not complete.
+// Write results are not checked here: the file remembers its first error. Throws std::bad_alloc.
 class FaithfulGifSave {
   public:
     // file: empty and writable; this object shares it with the caller, who commits it afterward.
+    FaithfulGifSave(std::shared_ptr<BFile> file, FaithfulGifTask task);
+    // The document's animation, as it is at the start, by its settings and its work.
     FaithfulGifSave(std::shared_ptr<BFile> file, AnimationDocument& document);
 
     const Nearness& HowNear() const { return planner_->HowNear(); }
@@ -48,7 +65,10 @@ class FaithfulGifSave {
         std::shared_ptr<const ScreenPixels> reduced;
     };
 
+    bool Stopped() const { return task_.work.StopRequested(); }
+    bool SharesColors() const { return task_.options.joint_colors || task_.options.one_table; }
     std::vector<rgb_color> JointColors() const;
+    std::vector<rgb_color> JointColors(const ColorCensus& census) const;
     void Plan();
     bool IsWanted(size_t frame) const;
     Prepared Prepare(size_t frame) const;
@@ -59,9 +79,7 @@ class FaithfulGifSave {
     void Write(const ByteWriter& bytes);
 
     const std::shared_ptr<BFile> file_;
-    AnimationDocument& document_;
-    const std::shared_ptr<const Animation> animation_;
-    const FaithfulOptions options_;
+    const FaithfulGifTask task_;
     const std::vector<FramePointer> frames_;
     const std::vector<bool> untouched_;
     const std::vector<uint16> delays_;

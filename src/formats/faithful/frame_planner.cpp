@@ -151,8 +151,8 @@ void FramePlanner::ReduceLast() {
 }
 
 bool FramePlanner::PlanExactly(const Way& way, const FrameToPlan& frame) {
-    auto colors =
-        ColorsToDraw(screen_, way.difference.changed, *way.below, *frame.shown, kMostColors);
+    auto colors = ColorsToDraw(screen_, way.difference.changed, *way.below, *frame.shown,
+                               reducer_.MostExact());
     if (!colors) return false;
     const PixelRect& rect = way.difference.changed;
     const bool skips = way.difference.pixels < AreaOf(rect);

@@ -4,6 +4,7 @@
 #include <bit>
 #include <utility>
 
+#include "formats/faithful/tolerant_strings.h"
 #include "formats/gif/gif_row_order.h"
 
 namespace kirto {
@@ -121,6 +122,7 @@ FrameWriter::Encoding FrameWriter::Smallest(const FramePlan& plan, const ImageAr
         for (const TableUse& use : LocalUses(plan, area, bits))
             Compress(area, use, &best);
     }
+    if (layout_.tolerance > 0) Tolerate(area, &best);
     Refine(area, &best);
     return best;
 }
@@ -148,6 +150,22 @@ ChoiceLzwEncoder::Image FrameWriter::ImageOf(const ImageArea& area, const Encodi
     image.transparent = static_cast<uint8>(std::max(encoding.use.transparent_index, 0));
     image.min_code_size = encoding.use.bits;
     return image;
+}
+
+// Colors that are near one another take each other's place where that makes the codes fewer.
+void FrameWriter::Tolerate(const ImageArea& area, Encoding* best) {
+    const ChoiceLzwEncoder::Image image = ImageOf(area, *best);
+    Encoding tolerant{best->use, best->drawing, {}, {}, false};
+    const std::span<const uint32> keys = best->use.table.Keys();
+    TolerantStrings strings(keys.first(std::min(keys.size(), size_t{1} << best->use.bits)),
+                            best->use.transparent_index, layout_.tolerance, work_);
+    tolerant.drawing.indices = strings.Find(image);
+    const auto codes = encoder_.Encode(ImageOf(area, tolerant), 0, {});
+    if (!encoder_.Complete() || codes.size() >= best->data.size()) return;
+    tolerant.data.assign(codes.begin(), codes.end());
+    tolerant.filled = encoder_.HasFilledTable();
+    tolerant.pace = encoder_.Pace();
+    *best = std::move(tolerant);
 }
 
 // Greedy strings and clearing the table whenever it is full are found soon; more effort is for the

@@ -19,6 +19,7 @@ struct FileLayout {
     // What that table was in the file that images come from, where they have it.
     std::shared_ptr<const std::vector<rgb_color>> given;
     bool interlaced = false;  // images that are made
+    int64 tolerance = 0;      // their pixels may get colors that are no farther away, squared
 };
 
 // Encodes images as planned, each by itself and as small as it gets: the bytes of an image do not
@@ -28,7 +29,7 @@ class FrameWriter {
     // All outlive this.
     FrameWriter(const Screen& screen, const FramePlans& plans, const FileLayout& layout,
                 const Work& work)
-        : screen_(screen), plans_(plans), layout_(layout), encoder_(work) {}
+        : screen_(screen), plans_(plans), layout_(layout), work_(work), encoder_(work) {}
 
     // The image's control block, its header and its data.
     ByteWriter Encode(int32 plan);
@@ -49,12 +50,14 @@ class FrameWriter {
     ImageArea AreaOf(const FramePlan& plan) const;
     Encoding Smallest(const FramePlan& plan, const ImageArea& area);
     void Compress(const ImageArea& area, const TableUse& use, Encoding* best);
+    void Tolerate(const ImageArea& area, Encoding* best);
     static ChoiceLzwEncoder::Image ImageOf(const ImageArea& area, const Encoding& encoding);
     void Refine(const ImageArea& area, Encoding* best);
 
     const Screen& screen_;
     const FramePlans& plans_;
     const FileLayout& layout_;
+    const Work& work_;
     ChoiceLzwEncoder encoder_;
 };
 

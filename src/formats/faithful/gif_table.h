@@ -23,6 +23,8 @@ class GifTable {
     explicit GifTable(std::span<const uint32> keys);
 
     size_t Size() const { return size_; }
+    // Of the colors, by their indices.
+    std::span<const uint32> Keys() const { return {keys_.data(), size_}; }
     // Of the color, or kNone.
     int32 IndexOf(uint32 key) const { return slots_[SlotOf(key)]; }
     // Bits of an index: 1 to 8. The file has 1 << bits entries.

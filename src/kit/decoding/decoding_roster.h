@@ -29,6 +29,11 @@ class DecodingRoster : public BTranslatorRoster {
     std::unique_ptr<AnimatedImageReader> ReadAnimatedImage(AnimatedImageFormat format,
                                                            std::span<const uint8> file,
                                                            uint64 pixel_bytes) const override;
+    std::unique_ptr<AnimatedImageWriter> WriteAnimatedImage(
+        AnimatedImageFormat format, const AnimatedImageHeader& header,
+        const AnimatedImageQuality& quality) const override {
+        return others_.WriteAnimatedImage(format, header, quality);
+    }
 
     status_t Translate(const BBitmap& source, translator_id translator, uint32 format,
                        const BMessage& settings, BFile& destination) override {

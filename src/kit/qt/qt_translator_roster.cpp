@@ -11,6 +11,7 @@
 
 #include "kit/animated/apng_reader.h"
 #include "kit/animated/webp_reader.h"
+#include "kit/animated/webp_writer.h"
 #include "kit/image_header.h"
 #include "kit/qt/file_device.h"
 #include "kit/qt/image_bitmap.h"
@@ -247,6 +248,13 @@ std::unique_ptr<AnimatedImageReader> QtTranslatorRoster::ReadAnimatedImage(
             break;
     }
     return nullptr;
+}
+
+std::unique_ptr<AnimatedImageWriter> QtTranslatorRoster::WriteAnimatedImage(
+    AnimatedImageFormat format, const AnimatedImageHeader& header,
+    const AnimatedImageQuality& quality) const {
+    if (format != AnimatedImageFormat::kWebp) return nullptr;
+    return std::make_unique<WebpWriter>(header, quality);
 }
 
 std::vector<translator_id> QtTranslatorRoster::Translators() const {

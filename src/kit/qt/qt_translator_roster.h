@@ -21,6 +21,9 @@ class QtTranslatorRoster : public BTranslatorRoster {
     std::unique_ptr<AnimatedImageReader> ReadAnimatedImage(AnimatedImageFormat format,
                                                            std::span<const uint8> file,
                                                            uint64 pixel_bytes) const override;
+    std::unique_ptr<AnimatedImageWriter> WriteAnimatedImage(
+        AnimatedImageFormat format, const AnimatedImageHeader& header,
+        const AnimatedImageQuality& quality) const override;
     std::vector<translator_id> Translators() const override;
     bool GetTranslatorInfo(translator_id translator, std::string* name) const override;
     std::vector<translation_format> InputFormats(translator_id translator) const override;

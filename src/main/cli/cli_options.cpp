@@ -58,7 +58,9 @@ constexpr OptionText kOperations[] = {
      "right, bottom-left, bottom or bottom-right"},
     {"--rotate", "90|180|270", "Turn the animation clockwise"},
     {"--flip", "h|v", "Mirror the animation"},
-    {"--fit", "scale|pad|crop", "Make the selected frames fit the canvas"},
+    {"--fit", "scale|pad|crop|SIZE",
+     "Make the selected frames fit the canvas; with a SIZE such as 500KB or 8MiB, what is exported "
+     "from here on is no larger"},
     {"--adjust", "NAME=N[,...]",
      "Change the selected frames' brightness, contrast or saturation by -100 to 100"},
     {"--greyscale", nullptr, "Make the selected frames grey"},
@@ -76,6 +78,13 @@ constexpr OptionText kOperations[] = {
     {"--save-frame", "FILE.EXT", "Save the current frame as an image"},
     {"--save-sheet", "FILE.png[,columns=N][,padding=N][,pot]",
      "Save frames side by side in one image, and FILE.json, which says where they are*"},
+    {"--export", "FILE",
+     "Write the animation as .gif, .webp, .png (animated), .mp4 or .webm, whatever the file's "
+     "name ends in"},
+    {"--export-set", "NAME=VALUE",
+     "From here on, export with colors (2-256), loss (0-200), table (one, each), dither (none, "
+     "diffusion, ordered), quality (0-100, lossless), matte (RRGGBB), scale (percent), every (n-th "
+     "frame)"},
     {"--list-formats", nullptr, "List the image formats that can be read and written"},
     {"--preview", nullptr, "Show the animation in the web browser"},
     {"--info", nullptr, "Describe the animation"},

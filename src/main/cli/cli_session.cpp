@@ -62,6 +62,7 @@ int CliSession::End(int status, bool temporary) const {
 void CliSession::RequestStop() {
     stopped_ = true;
     if (AnimationDocument* document = running_) document->RequestStop();
+    if (Work* work = exporting_) work->StopAll();
     if (SaveVerification* verification = verification_) verification->RequestStop();
 }
 
@@ -124,7 +125,7 @@ CliSession::Handler CliSession::HandlerFor(const std::string& option) {
         {"--canvas", &CliSession::SetCanvas},
         {"--rotate", &CliSession::Rotate},
         {"--flip", &CliSession::Flip},
-        {"--fit", &CliSession::FitFrames},
+        {"--fit", &CliSession::Fit},
         {"--adjust", &CliSession::AdjustColors},
         {"--greyscale", &CliSession::MakeGreyscale},
         {"--opacity", &CliSession::SetOpacity},
@@ -137,6 +138,8 @@ CliSession::Handler CliSession::HandlerFor(const std::string& option) {
         {"--save-sequence", &CliSession::SaveSequence},
         {"--save-frame", &CliSession::SaveFrame},
         {"--save-sheet", &CliSession::SaveSheet},
+        {"--export", &CliSession::Export},
+        {"--export-set", &CliSession::SetExport},
         {"--list-formats", &CliSession::ListFormats},
         {"--preview", &CliSession::Preview},
         {"--info", &CliSession::PrintInfo},

@@ -4,6 +4,7 @@
 #include <span>
 #include <string>
 
+#include "app/export/fit_under.h"
 #include "app/kirto.h"
 #include "app/save_verification.h"
 #include "document/field_table.h"
@@ -58,6 +59,13 @@ class CliSession {
     // (cli_session_sheets.cpp)
     Outcome InsertTiled(const std::string& value);
     Outcome SaveSheet(const std::string& value);
+
+    // (cli_session_export.cpp)
+    Outcome Export(const std::string& value);
+    Outcome SetExport(const std::string& value);
+    Outcome Fit(const std::string& value);
+    // Of the current animation by the settings, within the limit if there is one.
+    ExportResult RunExport(FittedExport* exported);
 
     // Operations in memory (cli_session_edits.cpp).
     Outcome Set(const std::string& value);
@@ -183,10 +191,13 @@ class CliSession {
     std::unique_ptr<Kirto> app_;
     std::atomic<AnimationDocument*> running_ = nullptr;      // app_, for RequestStop
     std::atomic<SaveVerification*> verification_ = nullptr;  // that runs, for the same
+    std::atomic<Work*> exporting_ = nullptr;                 // likewise
     std::atomic<bool> stopped_ = false;
     StandardInput input_;
-    bool write_failed_ = false;  // where files may be written: for want of space
-    bool differs_ = false;       // what was saved and verified from what was shown
+    ExportSettings export_settings_;
+    std::optional<uint64> export_limit_;  // bytes
+    bool write_failed_ = false;           // where files may be written: for want of space
+    bool differs_ = false;                // what was saved and verified from what was shown
 };
 
 }  // namespace kirto

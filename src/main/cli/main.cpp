@@ -20,8 +20,8 @@ namespace {
 constexpr const char* kImageProgram = "kirto-cli-images";
 
 bool UsesImages(const kirto::CliArguments& arguments) {
-    static const std::set<std::string> kImageOptions = {"--text", "--save-sequence", "--save-sheet",
-                                                        "--save-frame", "--list-formats"};
+    static const std::set<std::string> kImageOptions = {
+        "--text", "--save-sequence", "--save-sheet", "--save-frame", "--export", "--list-formats"};
     return std::any_of(
         arguments.operations.begin(), arguments.operations.end(),
         [](const auto& operation) { return kImageOptions.contains(operation.option); });

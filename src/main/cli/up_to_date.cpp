@@ -18,7 +18,7 @@ using Names = std::set<std::string>;
 
 const Names kReaders = {"--open", "--insert", "--insert-animation", "--insert-tiled", "--overlay"};
 const Names kPaletteReaders = {"--palette", "--frame-palette"};
-const Names kWriters = {"--save", "--save-frame", "--save-sheet"};
+const Names kWriters = {"--save", "--save-frame", "--save-sheet", "--export"};
 // What they do is nothing that a file could show to be done.
 const Names kAlwaysDone = {"--save-sequence", "--preview", "--info", "--info-json",
                            "--list-formats"};

@@ -1,0 +1,194 @@
+#include "app/export/export_animation.h"
+
+#include <algorithm>
+#include <new>
+#include <optional>
+#include <utility>
+
+#include "app/export/export_frames.h"
+#include "formats/export/apng_export.h"
+#include "formats/export/export_canvas.h"
+#include "formats/export/video_export.h"
+#include "formats/faithful/faithful_gif_save.h"
+#include "formats/faithful/pixel_tolerance.h"
+#include "formats/faithful/still_pixels.h"
+
+namespace kirto {
+
+namespace {
+
+constexpr const char* kNoVideoWriterText =
+    "The video can't be written because the program ffmpeg was not found. Install the package "
+    "\"ffmpeg\".";
+
+constexpr int32 kMostPixelsOfAGif = 65535;
+constexpr int32 kMostPixelsOfAWebp = 16383;
+
+int32 MostPixelsOfASide(ExportFormat format) {
+    return format == ExportFormat::kWebp ? kMostPixelsOfAWebp : kMostPixelsOfAGif;
+}
+
+// What is not complete was stopped, or there was no memory for it.
+ExportResult Interrupted(const ExportTask& task) {
+    return task.work.StopRequested() ? ExportResult::kStopped : ExportResult::kNoMemory;
+}
+
+// The bytes of frames that were read are written again only where all is to be as it was.
+bool KeepsBytes(const ExportSettings& settings) {
+    return settings.colors == ExportSettings().colors && !settings.one_table && settings.loss == 0;
+}
+
+void ForgetSources(Animation& animation) {
+    for (int32 i = 0; i < animation.frames.Size(); ++i) {
+        if (!animation.frames.At(i)->source) continue;
+        EditFrame(animation, i, [](Frame& frame) { frame.source = nullptr; });
+    }
+}
+
+ExportResult WriteGif(const ExportTask& task, const ExportSettings& settings, Animation animation,
+                      std::vector<uint8>* bytes) {
+    if (!KeepsBytes(settings)) ForgetSources(animation);
+    FaithfulOptions options;
+    options.pause_in_seconds = task.pause_in_seconds;
+    options.dither = settings.dither;
+    options.matte = settings.matte;
+    options.one_table = settings.one_table;
+    options.most_colors = settings.colors;
+    options.tolerance = ToleranceOf(settings.loss);
+    if (options.tolerance > 0) {
+        auto still =
+            WithStillPixels(animation, options.Matte(), options.tolerance, task.budget, task.work);
+        if (!still) return Interrupted(task);
+        animation = std::move(*still);
+    }
+    const std::shared_ptr<BFile> file = BFile::OnMemory();
+    FaithfulGifSave(file, FaithfulGifTask{std::make_shared<const Animation>(std::move(animation)),
+                                          options,
+                                          task.budget->Limit(),
+                                          task.work,
+                                          {}});
+    if (task.work.StopRequested()) return ExportResult::kStopped;
+    if (file->WriteStatus() != B_OK) return ExportResult::kNoMemory;
+    *bytes = file->Memory();
+    return ExportResult::kDone;
+}
+
+ExportResult WriteWebp(const ExportTask& task, const ExportSettings& settings,
+                       const Animation& animation, std::vector<uint8>* bytes) {
+    const int32 count = animation.frames.Size();
+    const AnimatedImageHeader header{animation.width, animation.height, count, PlaysOf(animation)};
+    const auto writer = task.roster.WriteAnimatedImage(
+        AnimatedImageFormat::kWebp, header,
+        {settings.quality, [&task] { return task.work.StopRequested(); }});
+    if (!writer) return ExportResult::kNoWriter;
+    const std::vector<int32> pauses = SpreadMilliseconds(animation, task.pause_in_seconds);
+    for (int32 i = 0; i < count; ++i) {
+        task.work.Report(i, count);
+        if (task.work.StopRequested()) return ExportResult::kStopped;
+        const CanvasPixels canvas = CanvasOf(animation, *animation.frames.At(i));
+        if (writer->Add(canvas, pauses[static_cast<size_t>(i)])) continue;
+        return Interrupted(task);
+    }
+    *bytes = writer->Finish();
+    return bytes->empty() ? ExportResult::kNoMemory : ExportResult::kDone;
+}
+
+ExportResult WriteApng(const ExportTask& task, const Animation& animation,
+                       std::vector<uint8>* bytes) {
+    *bytes = EncodeApng(animation, task.pause_in_seconds, task.work);
+    return bytes->empty() ? ExportResult::kStopped : ExportResult::kDone;
+}
+
+ExportResult WriteVideo(const ExportTask& task, const ExportSettings& settings,
+                        const Animation& animation, std::vector<uint8>* bytes) {
+    const auto program = FindProgram("ffmpeg");
+    if (!program) return ExportResult::kNoWriter;
+    switch (EncodeVideo(animation, task.pause_in_seconds, settings, *program, VideoWriterLimits(),
+                        task.work, bytes)) {
+        case VideoResult::kDone:
+            return ExportResult::kDone;
+        case VideoResult::kTooLong:
+            return ExportResult::kTooLarge;
+        case VideoResult::kFailed:
+            return ExportResult::kFailed;
+        case VideoResult::kStopped:
+            break;
+    }
+    return ExportResult::kStopped;
+}
+
+ExportResult Write(const ExportTask& task, const ExportSettings& settings,
+                   const Animation& animation, std::vector<uint8>* bytes) {
+    switch (settings.format) {
+        case ExportFormat::kGif:
+            return WriteGif(task, settings, animation, bytes);
+        case ExportFormat::kWebp:
+            return WriteWebp(task, settings, animation, bytes);
+        case ExportFormat::kApng:
+            return WriteApng(task, animation, bytes);
+        case ExportFormat::kMp4:
+        case ExportFormat::kWebm:
+            return WriteVideo(task, settings, animation, bytes);
+    }
+    return ExportResult::kNoWriter;
+}
+
+ExportResult Prepare(const ExportTask& task, const ExportSettings& settings,
+                     std::optional<Animation>* animation) {
+    *animation = EveryNthFrame(*task.animation, settings.every);
+    if ((*animation)->frames.Empty() || std::min((*animation)->width, (*animation)->height) < 1)
+        return ExportResult::kNoFrames;
+    const int64 longest = std::max((*animation)->width, (*animation)->height);
+    if (longest * settings.scale / 100 > MostPixelsOfASide(settings.format))
+        return ExportResult::kTooLarge;
+    const uint64 pixels =
+        static_cast<uint64>((*animation)->width) * static_cast<uint64>((*animation)->height);
+    const auto percent = static_cast<uint64>(settings.scale);
+    if (pixels * percent / 100 * percent / 100 > task.budget->Limit() / sizeof(uint32))
+        return ExportResult::kNoMemory;
+    *animation = Scaled(**animation, settings.scale, task.budget, task.work);
+    return *animation ? ExportResult::kDone : Interrupted(task);
+}
+
+}  // namespace
+
+std::string SentenceOf(ExportResult result, ExportFormat format) {
+    switch (result) {
+        case ExportResult::kDone:
+            return {};
+        case ExportResult::kNoFrames:
+            return "There is no frame to export.";
+        case ExportResult::kTooLarge:
+            return std::string("The animation is too large for a ") + NameOf(format) + " file.";
+        case ExportResult::kNoWriter:
+            if (format == ExportFormat::kMp4 || format == ExportFormat::kWebm)
+                return kNoVideoWriterText;
+            return std::string("There is nothing here that writes ") + NameOf(format) + " files.";
+        case ExportResult::kNoMemory:
+            return "Out of memory.";
+        case ExportResult::kFailed:
+            return "The program that writes videos has failed.";
+        case ExportResult::kTooManyBytes:
+            return "The animation can't be made so small.";
+        case ExportResult::kStopped:
+            return "Stopped.";
+    }
+    return {};
+}
+
+ExportResult ExportAnimation(const ExportTask& task, const ExportSettings& settings,
+                             std::vector<uint8>* bytes) {
+    bytes->clear();
+    try {
+        std::optional<Animation> animation;
+        ExportResult result = Prepare(task, settings, &animation);
+        if (result == ExportResult::kDone) result = Write(task, settings, *animation, bytes);
+        if (result != ExportResult::kDone) bytes->clear();
+        return result;
+    } catch (const std::bad_alloc&) {
+        bytes->clear();
+        return ExportResult::kNoMemory;
+    }
+}
+
+}  // namespace kirto

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "app/export/export_animation.h"
+#include "base/types.h"
+#include "formats/export/export_settings.h"
+
+namespace kirto {
+
+// An export that is no larger than it may be.
+struct FittedExport {
+    ExportSettings settings;   // that it was made with
+    std::vector<uint8> bytes;  // empty unless it was made
+    uint64 smallest = 0;       // bytes of the smallest that was tried
+};
+
+// Exports with the settings, or as near to them as the size allows: of colors, loss, quality, scale
+// and frames, in this order, as little is given up as is found to do. The same for the same values.
+// limit: bytes. kTooManyBytes where nothing that is tried is so small.
+ExportResult FitUnder(uint64 limit, const ExportTask& task, const ExportSettings& settings,
+                      FittedExport* fitted);
+
+// The steps from the settings on, each giving up more than the one before; the first is the
+// settings themselves.
+std::vector<ExportSettings> StepsToSmaller(const ExportSettings& settings);
+
+// The choices that differ, as they are now: "colors=64 loss=40". Empty where none does.
+std::string GivenUp(const ExportSettings& wanted, const ExportSettings& given);
+
+}  // namespace kirto

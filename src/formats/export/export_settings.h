@@ -1,0 +1,49 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "base/types.h"
+#include "color/adaptive/adaptive_mapper.h"
+
+namespace kirto {
+
+enum class ExportFormat { kGif, kWebp, kApng, kMp4, kWebm };
+
+// Of how many frames one may be kept.
+inline constexpr int32 kMostFramesAStep = 100;
+
+// How an animation is exported: a plain value. Choices that the format does not know count for
+// nothing.
+struct ExportSettings {
+    ExportFormat format = ExportFormat::kGif;
+    int32 colors = 256;      // GIF: of a frame, 2 to 256
+    bool one_table = false;  // GIF: all frames have the same colors
+    AdaptiveDither dither = AdaptiveDither::kErrorDiffusion;  // GIF
+    int32 loss = 0;                                           // GIF: 0 to 200; see ToleranceOf
+    // WebP and videos: 0 to 100, the best. Nothing: WebP keeps every pixel, videos are good.
+    std::optional<int32> quality;
+    rgb_color matte{255, 255, 255, 255};  // GIF and videos: what soft edges are laid on
+    int32 scale = 100;                    // percent of the size, 1 to 400
+    int32 every = 1;  // keeps every n-th frame, and all of the time; 1 to kMostFramesAStep
+
+    friend bool operator==(const ExportSettings& a, const ExportSettings& b);
+};
+
+// The format of a file by its extension: .gif, .webp, .png or .apng, .mp4, .webm.
+std::optional<ExportFormat> ExportFormatOf(const std::string& path);
+const char* NameOf(ExportFormat format);
+
+// Takes over a choice: "colors=64", "table=one" or "each", "dither=none", "diffusion" or "ordered",
+// "loss=40", "quality=80" or "lossless", "matte=RRGGBB", "scale=50", "every=2". Empty; or, where
+// nothing has changed, a sentence that says what is wrong.
+std::string ReadExportChoice(std::string_view text, ExportSettings* settings);
+// The same as text, every choice, with blanks between.
+std::string TextOf(const ExportSettings& settings);
+
+// Bytes: "500000", "500KB" and "8MB" (thousands), "500KiB" and "8MiB" (of 1024). Nothing for other
+// text, and for 0.
+std::optional<uint64> ParseByteSize(std::string_view text);
+
+}  // namespace kirto

@@ -1,0 +1,72 @@
+// The operations that write animations in other formats.
+#include <cinttypes>
+#include <cstdio>
+#include <unistd.h>
+
+#include "app/export/fit_under.h"
+#include "app/save_animation.h"
+#include "base/terminal_text.h"
+#include "base/text.h"
+#include "main/cli/cli_session.h"
+
+namespace kirto {
+
+CliSession::Outcome CliSession::SetExport(const std::string& value) {
+    const std::string problem = ReadExportChoice(value, &export_settings_);
+    return problem.empty() ? Outcome::kDone : Refuse("--export-set: \"" + value + "\": " + problem);
+}
+
+CliSession::Outcome CliSession::Fit(const std::string& value) {
+    const std::optional<uint64> size = ParseByteSize(value);
+    if (!size) return FitFrames(value);
+    export_limit_ = size;
+    return Outcome::kDone;
+}
+
+ExportResult CliSession::RunExport(FittedExport* exported) {
+    Work work;
+    exporting_ = &work;
+    if (stopped_) work.StopAll();
+    const ExportTask task = {app_->Current(), prefs_.global_pauseinseconds, app_->pixel_budget,
+                             roster_, work};
+    ExportResult result = ExportResult::kDone;
+    if (export_limit_) {
+        result = FitUnder(*export_limit_, task, export_settings_, exported);
+    } else {
+        exported->settings = export_settings_;
+        result = ExportAnimation(task, export_settings_, &exported->bytes);
+    }
+    exporting_ = nullptr;
+    return result;
+}
+
+CliSession::Outcome CliSession::Export(const std::string& value) {
+    const std::optional<ExportFormat> format = ExportFormatOf(value);
+    if (!format)
+        return Refuse("--export: \"" + value + "\": expected .gif, .webp, .png, .mp4 or .webm.");
+    desktop_.SetSubject(value);
+    export_settings_.format = *format;
+    const auto file = BFile::CreateReplacing(AbsoluteRef(value).path);
+    if (file->InitCheck() != B_OK) return Fail(value + ": " + kFileNotCreatedText);
+    file->RemoveLeftovers();
+    FittedExport exported;
+    const ExportResult result = RunExport(&exported);
+    if (result == ExportResult::kStopped) return Outcome::kFailed;
+    if (result == ExportResult::kTooManyBytes)
+        return Fail(
+            value + ": " + SentenceOf(result, *format) +
+            Format(" The smallest that was tried has %" PRIu64 " bytes.", exported.smallest));
+    if (result != ExportResult::kDone) return Fail(value + ": " + SentenceOf(result, *format));
+    file->Write(exported.bytes.data(), exported.bytes.size());
+    if (file->Commit() != B_OK) {
+        write_failed_ = true;
+        return Fail(value + ": " + kFileNotCreatedText);
+    }
+    const std::string given_up = GivenUp(export_settings_, exported.settings);
+    const std::string subject = isatty(STDOUT_FILENO) ? TerminalText(value) : value;
+    std::printf("%s: %zu bytes%s%s\n", subject.c_str(), exported.bytes.size(),
+                given_up.empty() ? "" : ", with ", given_up.c_str());
+    return Outcome::kDone;
+}
+
+}  // namespace kirto
