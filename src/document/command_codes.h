@@ -195,6 +195,7 @@ inline constexpr uint32 kMenuSetPause = FourCharCode("wspa");
 inline constexpr uint32 kMenuDropEvery = FourCharCode("wdev");
 inline constexpr uint32 kMenuRemoveDuplicates = FourCharCode("wrdu");
 inline constexpr uint32 kMenuMoveTo = FourCharCode("wmvt");
+inline constexpr uint32 kMenuExport = FourCharCode("wpex");
 inline constexpr uint32 kMenuExportSheet = FourCharCode("wpsh");
 inline constexpr uint32 kMenuResize = FourCharCode("wprs");
 inline constexpr uint32 kMenuCrop = FourCharCode("wpcr");

@@ -18,6 +18,8 @@
 
 #include "app/recovery/crash_recovery.h"
 #include "document/command_codes.h"
+#include "ui/export/export_dialog.h"
+#include "ui/export/export_view.h"
 #include "video_stand_in.h"
 
 namespace kirto {
@@ -29,6 +31,7 @@ constexpr int kEditMenu = 1;
 constexpr int kAnimationMenu = 4;
 constexpr int32 kThumbnailHeight = 96;
 constexpr int kMenuOffset = 150;
+constexpr int64 kShownMoment = 250;   // milliseconds from the start
 constexpr int kRoundsOfReading = 10;  // of a few small pictures
 constexpr const char* kSavedName = "notice.gif";
 constexpr const char* kSheetName = "wheel-4x3.tga";
@@ -62,6 +65,7 @@ void DocumentPictures::DrawAll(const std::string& animation) {
     DrawDialog(kMenuSetPause, "Set Pause", "set-pause");
     DrawSheet();
     DrawVideo();
+    DrawExport();
     DrawDialog(kMenuSaveAs, "Save Animation", "save");
     DrawPreferences();
     DrawWork();
@@ -128,6 +132,20 @@ void DocumentPictures::DrawVideo() {
     DrivenEditor::Settle(kRoundsOfReading);
     folder_.Add(*window, "video");
     window->close();
+    DrivenEditor::Settle();
+}
+
+// An export in fewer colors, with the size of its file.
+void DocumentPictures::DrawExport() {
+    auto* dialog = dynamic_cast<ExportDialog*>(editor_.OpenWindow(kMenuExport, "Export"));
+    if (!dialog) return folder_.Miss();
+    dialog->findChild<QCheckBox*>("Play")->setChecked(false);
+    dialog->findChild<QSpinBox*>("Colors")->setValue(12);
+    DrivenEditor::WaitUntil([dialog] { return dialog->IsReady(); });
+    dialog->findChild<ExportView*>("ExportView")->ShowTime(kShownMoment);
+    DrivenEditor::Settle(kRoundsOfReading);
+    folder_.Add(*dialog, "export");
+    dialog->close();
     DrivenEditor::Settle();
 }
 

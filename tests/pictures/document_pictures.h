@@ -20,6 +20,7 @@ class DocumentPictures {
     void DrawDialog(uint32 command, const char* title, const char* name);
     void DrawSheet();
     void DrawVideo();
+    void DrawExport();
     void DrawText();
     void DrawSelection();
     void DrawPreferences();

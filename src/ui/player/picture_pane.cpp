@@ -81,6 +81,7 @@ void PicturePane::Fit() {
     zoom_.reset();
     update();
     if (zoomed_) zoomed_();
+    if (moved_) moved_();
 }
 
 void PicturePane::SetZoom(double zoom, std::optional<QPointF> point) {
@@ -112,6 +113,14 @@ void PicturePane::MoveCorner(QPointF corner) {
     corner_ = {place(corner.x(), canvas_.width() * Zoom(), width()),
                place(corner.y(), canvas_.height() * Zoom(), height())};
     update();
+    if (moved_) moved_();
+}
+
+void PicturePane::ShowLike(const PicturePane& other) {
+    zoom_ = other.zoom_;
+    corner_ = other.corner_;
+    update();
+    if (zoomed_) zoomed_();
 }
 
 QRectF PicturePane::PlaceOf(const QRect& area) const {

@@ -53,6 +53,10 @@ class PicturePane : public QWidget {
 
     // Called when the size of pixels has changed.
     void WhenZoomed(std::function<void()> zoomed) { zoomed_ = std::move(zoomed); }
+    // Called when another part of the canvas is seen, or the same part larger or smaller.
+    void WhenMoved(std::function<void()> moved) { moved_ = std::move(moved); }
+    // Shows the same part as the other pane, which is as large and has an equal canvas.
+    void ShowLike(const PicturePane& other);
     // Called with the pixel below the pointer; with none when it leaves the canvas.
     void WhenPointed(std::function<void(std::optional<QPoint>)> pointed) {
         pointed_ = std::move(pointed);
@@ -90,6 +94,7 @@ class PicturePane : public QWidget {
     double wheel_ = 0;  // turned, and not zoomed yet
     ThumbnailCache backdrop_{1};
     std::function<void()> zoomed_;
+    std::function<void()> moved_;
     std::function<void(std::optional<QPoint>)> pointed_;
     std::function<void()> painted_;
 };

@@ -140,6 +140,7 @@ class KirtoWindow : public QMainWindow, public BWindow {
     void InsertTiled(BMessage* message);
     void FadeEffects(BMessage* message);
     void InsertAnimation(BMessage* message);
+    void Export(BMessage* message);
     void ExportSheet(BMessage* message);
     void AskAboutVideo(BMessage* message);
     void ChooseFrames(BMessage* message);

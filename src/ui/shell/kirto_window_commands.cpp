@@ -1,15 +1,18 @@
 // What the main window does on each command.
 #include <QClipboard>
+#include <QFile>
 #include <QGuiApplication>
 #include <QScreen>
 #include <QShortcut>
 #include <algorithm>
+#include <filesystem>
 
 #include "document/command_codes.h"
 #include "kit/alert.h"
 #include "ui/dialogs/fade_window.h"
 #include "ui/dialogs/sheet_dialog.h"
 #include "ui/dialogs/video_dialog.h"
+#include "ui/export/export_dialog.h"
 #include "ui/panels/field_panel.h"
 #include "ui/panels/notice_bar.h"
 #include "ui/panels/status_view.h"
@@ -200,6 +203,18 @@ void KirtoWindow::FadeEffects(BMessage*) {
     place.moveCenter(QGuiApplication::primaryScreen()->geometry().center());
     window->move(place.topLeft());
     window->show();
+}
+
+void KirtoWindow::Export(BMessage*) {
+    if (!shown_.CurrentFrame()) return;
+    const kirto::DocumentState& state = shown_.State();
+    const std::filesystem::path name(state.file_name);
+    auto* dialog = new kirto::ExportDialog(
+        {state.animation, QFile::decodeName(state.file_directory.c_str()),
+         QFile::decodeName(name.stem().c_str()), shown_.Settings().global_pauseinseconds,
+         editor_.document.pixel_budget, editor_.roster},
+        this);
+    dialog->show();
 }
 
 void KirtoWindow::ExportSheet(BMessage*) {

@@ -52,6 +52,7 @@ const KirtoWindow::Command* KirtoWindow::CommandFor(uint32 code) {
         {kirto::kMenuCut, &KirtoWindow::UseClipboard},
         {kirto::kMenuCopy, &KirtoWindow::UseClipboard},
         {kirto::kMenuPaste, &KirtoWindow::UseClipboard},
+        {kirto::kMenuExport, &KirtoWindow::Export},
         {kirto::kMenuExportSheet, &KirtoWindow::ExportSheet},
         {kirto::kMenuSelectAll, &KirtoWindow::ChooseFrames},
         {kirto::kMenuSelectNone, &KirtoWindow::ChooseFrames},

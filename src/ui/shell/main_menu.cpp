@@ -77,12 +77,13 @@ constexpr Item kFrameItems[] = {
 
 constexpr Item kAnimationItems[] = {
     {"&Insert Animation...", 0, kMenuInsertAnimation},
-    {"E&xport Sheet...", 0, kMenuExportSheet, true},
+    {"E&xport...", 'E', kMenuExport, true},
+    {"Export &Sheet...", 0, kMenuExportSheet, true},
     {},
     {"Set &Pause...", 'L', kMenuSetPause, true},
     {},
     {"&Forward and Back", 0, kForwardAndBack, true},
-    {"&Shift Start to Current Frame", 0, kStartAtCurrent, true},
+    {"Shift Start to Curre&nt Frame", 0, kStartAtCurrent, true},
     {"Remove D&uplicates...", 0, kMenuRemoveDuplicates, true},
     {"&Drop Every Nth...", 0, kMenuDropEvery, true},
     {},

@@ -28,6 +28,8 @@ constexpr Tool kTools[] = {
     {"View", "Play or Pause", "Play", "Play the animation, or pause it", ToolSymbol::kTriangle},
     {"File", "Save As...", "Save As", "Save under another name or as images",
      ToolSymbol::kArrowIntoTray},
+    {"Animation", "Export...", "Export", "Write as another format, or smaller",
+     ToolSymbol::kArrowOutOfTray},
     {"View", "Preview", "Preview", "Show the animation in the browser", ToolSymbol::kWindow},
 };
 

@@ -50,6 +50,13 @@ void DrawArrowIntoTray(QPainterPath& path) {
     AddLines(path, {{1.75, 9.5}, {1.75, 13.75}, {14.25, 13.75}, {14.25, 9.5}});
 }
 
+// An arrow up out of a tray.
+void DrawArrowOutOfTray(QPainterPath& path) {
+    AddLines(path, {{8, 9.75}, {8, 1.75}});
+    AddLines(path, {{4.75, 5}, {8, 1.75}, {11.25, 5}});
+    AddLines(path, {{1.75, 9.5}, {1.75, 13.75}, {14.25, 13.75}, {14.25, 9.5}});
+}
+
 // A window with a triangle in it.
 void DrawWindow(QPainterPath& path) {
     path.addRect(1.75, 2.25, 12.5, 11.5);
@@ -75,6 +82,9 @@ QPainterPath PathOf(ToolSymbol symbol) {
             break;
         case ToolSymbol::kArrowIntoTray:
             DrawArrowIntoTray(path);
+            break;
+        case ToolSymbol::kArrowOutOfTray:
+            DrawArrowOutOfTray(path);
             break;
         case ToolSymbol::kWindow:
             DrawWindow(path);

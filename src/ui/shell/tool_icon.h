@@ -11,6 +11,7 @@ enum class ToolSymbol {
     kTurnForward,
     kTriangle,
     kArrowIntoTray,
+    kArrowOutOfTray,
     kWindow
 };
 

@@ -81,6 +81,7 @@ TEST_F(MainMenu, HasTheItemsOfTheAnimationMenu) {
 
     const auto item = [](const char* text, uint32 code) { return text + CodeText(code); };
     EXPECT_EQ(ItemsOf(MenuAt(4)), (Lines{item("Insert Animation...||", kMenuInsertAnimation),
+                                         item("Export...|Ctrl+E|", kMenuExport),
                                          item("Export Sheet...||", kMenuExportSheet),
                                          "-",
                                          item("Set Pause...|Ctrl+L|", kMenuSetPause),
@@ -239,7 +240,7 @@ TEST_F(MainMenu, DisablesWhatNeedsAFrameWithoutOne) {
 
     EXPECT_EQ(enabled(), without_frames);
     EnableFrameItems(*bar, true);
-    EXPECT_EQ(enabled().size(), 51u);
+    EXPECT_EQ(enabled().size(), 52u);
     EnableFrameItems(*bar, false);
     EXPECT_EQ(enabled(), without_frames);
 }

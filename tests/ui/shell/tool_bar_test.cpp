@@ -50,10 +50,10 @@ TEST_F(ToolBarTest, ChoosesTheItemsOfTheMenus) {
         window.Button(i)->click();
     }
 
-    EXPECT_EQ(labels,
-              (QStringList{"Open", "Insert", "Undo", "Redo", "Play", "Save As", "Preview"}));
-    EXPECT_EQ(window.chosen,
-              "awfoawfi" + CodeText(kUndo) + CodeText(kRedo) + CodeText(kPlay) + "awfaawvp");
+    EXPECT_EQ(labels, (QStringList{"Open", "Insert", "Undo", "Redo", "Play", "Save As", "Export",
+                                   "Preview"}));
+    EXPECT_EQ(window.chosen, "awfoawfi" + CodeText(kUndo) + CodeText(kRedo) + CodeText(kPlay) +
+                                 "awfa" + CodeText(kMenuExport) + "awvp");
 }
 
 TEST_F(ToolBarTest, KeepsShortLabelsAndIsDisabledWithTheMenu) {
