@@ -1,4 +1,5 @@
 // The operations that write animations in other formats.
+#include <algorithm>
 #include <cinttypes>
 #include <cstdio>
 #include <unistd.h>
@@ -24,7 +25,11 @@ CliSession::Outcome CliSession::Fit(const std::string& value) {
 }
 
 ExportResult CliSession::RunExport(FittedExport* exported) {
-    Work work;
+    Work work([this](uint64, int64 done, int64 total) {
+        desktop_.ShowProgress(Format("Status: exporting, %d%% of it...",
+                                     static_cast<int>(100 * done / std::max<int64>(total, 1))));
+    });
+    work.Begin();
     exporting_ = &work;
     if (stopped_) work.StopAll();
     const ExportTask task = {app_->Current(), prefs_.global_pauseinseconds, app_->pixel_budget,
@@ -37,6 +42,8 @@ ExportResult CliSession::RunExport(FittedExport* exported) {
         result = ExportAnimation(task, export_settings_, &exported->bytes);
     }
     exporting_ = nullptr;
+    work.End();
+    desktop_.ClearProgress();
     return result;
 }
 
@@ -62,6 +69,9 @@ CliSession::Outcome CliSession::Export(const std::string& value) {
         write_failed_ = true;
         return Fail(value + ": " + kFileNotCreatedText);
     }
+    const std::string cut_short = NumbersCutShort(*app_->Current(), prefs_.global_pauseinseconds);
+    if (*format == ExportFormat::kGif && !cut_short.empty())
+        desktop_.Complain(value + ": Exported, but " + cut_short + ".");
     const std::string given_up = GivenUp(export_settings_, exported.settings);
     const std::string subject = isatty(STDOUT_FILENO) ? TerminalText(value) : value;
     std::printf("%s: %zu bytes%s%s\n", subject.c_str(), exported.bytes.size(),
