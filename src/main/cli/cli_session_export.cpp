@@ -34,13 +34,7 @@ ExportResult CliSession::RunExport(FittedExport* exported) {
     if (stopped_) work.StopAll();
     const ExportTask task = {app_->Current(), prefs_.global_pauseinseconds, app_->pixel_budget,
                              roster_, work};
-    ExportResult result = ExportResult::kDone;
-    if (export_limit_) {
-        result = FitUnder(*export_limit_, task, export_settings_, exported);
-    } else {
-        exported->settings = export_settings_;
-        result = ExportAnimation(task, export_settings_, &exported->bytes);
-    }
+    const ExportResult result = export_(export_limit_, task, export_settings_, exported);
     exporting_ = nullptr;
     work.End();
     desktop_.ClearProgress();
