@@ -118,7 +118,7 @@ TEST(KirtoCli, FitsFramesToTheCanvas) {
               "6x6 6x3 6x3 6x3");
     EXPECT_EQ(SizesIn(home.Edited({"--width", "6", "--fit", "pad"})), "6x1 6x1 2x1 2x1");
     EXPECT_EQ(SizesIn(home.Edited({"--width", "1", "--fit", "crop"})), "1x1 1x1 2x1 2x1");
-    home.ExpectRefused("--fit", "stretch", "scale, pad or crop");
+    home.ExpectRefused("--fit", "stretch", "scale, pad or crop, or a size such as 500KB");
 }
 
 TEST(KirtoCli, RefusesValuesOfColorsOutOfTheirBounds) {

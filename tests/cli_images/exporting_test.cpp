@@ -60,6 +60,21 @@ TEST(KirtoCliExport, SaysWhatIsMissingForVideos) {
               1);
 }
 
+TEST(KirtoCliExport, ItsLineDoesNotMixWithAnAnimation) {
+    const Exporting home;
+    home.Fail({"--open", "three.gif", "--export", "out.png", "--save", "-"},
+              "--save - needs standard output for itself.", 2);
+}
+
+TEST(KirtoCliExport, SaysWhatAGifHasNoRoomFor) {
+    const Exporting home;
+    const RunResult result =
+        home.Run({"--quiet", "--open", "three.gif", "--loop", "70000", "--export", "out.gif"});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.err,
+              "kirto-cli: out.gif: Exported, but loop count 70000 was saved as 4464.\n");
+}
+
 TEST(KirtoCliExport, RefusesChoicesAndNamesThatMeanNothing) {
     const Exporting home;
     home.Fail({"--export-set", "loss=300"}, "--export-set: \"loss=300\": loss is to be 0 to 200.",

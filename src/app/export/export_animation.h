@@ -1,11 +1,10 @@
 #pragma once
 
-#include <functional>
 #include <memory>
-#include <string>
 #include <vector>
 
 #include "animation/animation.h"
+#include "app/export/export_result.h"
 #include "base/pixel_budget.h"
 #include "base/types.h"
 #include "base/work.h"
@@ -22,20 +21,6 @@ struct ExportTask {
     const BTranslatorRoster& roster;      // writes WebP
     Work& work;                           // hears how far it is, and may stop it
 };
-
-enum class ExportResult {
-    kDone,
-    kNoFrames,  // or no canvas
-    kTooLarge,  // the format has no room for such sides
-    kNoWriter,  // nothing here writes the format
-    kNoMemory,
-    kFailed,        // of the program that writes videos
-    kTooManyBytes,  // however it is exported, its file is larger than it may be
-    kStopped
-};
-
-// A sentence for the user, or an empty text for kDone.
-std::string SentenceOf(ExportResult result, ExportFormat format);
 
 // The animation as a file by the settings: the same bytes for the same values, whatever the number
 // of threads. bytes: the whole file; empty unless kDone. Takes as long as it takes; on any thread.

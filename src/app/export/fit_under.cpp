@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <optional>
-#include <sstream>
 #include <utility>
 
 namespace kirto {
@@ -63,14 +62,6 @@ std::optional<ExportSettings> Between(const ExportSettings& larger, const Export
         middle.quality = (*larger.quality + *smaller.quality) / 2;
     if (middle == larger || middle == smaller) return std::nullopt;
     return middle;
-}
-
-std::vector<std::string> WordsOf(const ExportSettings& settings) {
-    std::istringstream text(TextOf(settings));
-    std::vector<std::string> words;
-    for (std::string word; text >> word;)
-        words.push_back(word);
-    return words;
 }
 
 // Tries settings and keeps what fits.
@@ -152,14 +143,11 @@ ExportResult FitUnder(uint64 limit, const ExportTask& task, const ExportSettings
     return result;
 }
 
-std::string GivenUp(const ExportSettings& wanted, const ExportSettings& given) {
-    const std::vector<std::string> before = WordsOf(wanted);
-    const std::vector<std::string> after = WordsOf(given);
-    std::string text;
-    for (size_t i = 0; i < after.size(); ++i) {
-        if (after[i] != before[i]) text += (text.empty() ? "" : " ") + after[i];
-    }
-    return text;
+ExportResult ExportWithin(const std::optional<uint64>& limit, const ExportTask& task,
+                          const ExportSettings& settings, FittedExport* exported) {
+    if (limit) return FitUnder(*limit, task, settings, exported);
+    *exported = {settings, {}, 0};
+    return ExportAnimation(task, settings, &exported->bytes);
 }
 
 }  // namespace kirto

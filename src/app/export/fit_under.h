@@ -1,6 +1,7 @@
 #pragma once
 
-#include <string>
+#include <functional>
+#include <optional>
 #include <vector>
 
 #include "app/export/export_animation.h"
@@ -16,17 +17,23 @@ struct FittedExport {
     uint64 smallest = 0;       // bytes of the smallest that was tried
 };
 
+// What exports: ExportWithin(), or nothing in a program that does not.
+using Exporter =
+    std::function<ExportResult(const std::optional<uint64>& limit, const ExportTask& task,
+                               const ExportSettings& settings, FittedExport* exported)>;
+
 // Exports with the settings, or as near to them as the size allows: of colors, loss, quality, scale
 // and frames, in this order, as little is given up as is found to do. The same for the same values.
 // limit: bytes. kTooManyBytes where nothing that is tried is so small.
 ExportResult FitUnder(uint64 limit, const ExportTask& task, const ExportSettings& settings,
                       FittedExport* fitted);
 
+// Exports within the limit, or, without one, with the settings as they are.
+ExportResult ExportWithin(const std::optional<uint64>& limit, const ExportTask& task,
+                          const ExportSettings& settings, FittedExport* exported);
+
 // The steps from the settings on, each giving up more than the one before; the first is the
 // settings themselves.
 std::vector<ExportSettings> StepsToSmaller(const ExportSettings& settings);
-
-// The choices that differ, as they are now: "colors=64 loss=40". Empty where none does.
-std::string GivenUp(const ExportSettings& wanted, const ExportSettings& given);
 
 }  // namespace kirto

@@ -9,7 +9,7 @@ namespace kirto {
 namespace {
 
 // What a delay holds in thousandths of a second.
-constexpr int64 kLongestDelay = 65535;
+constexpr int64 kLongestApngDelay = 65535;
 constexpr size_t kAlpha = 3;
 
 int64 PixelsIn(const PixelRect& rect) {
@@ -27,7 +27,7 @@ std::optional<ApngPlan> ApngPlanner::Add(SharedCanvas shown, int32 milliseconds)
     }
     Control& last = controls_.back();
     const bool both_last = last.milliseconds > 0 && milliseconds > 0;
-    if (both_last && last.milliseconds + milliseconds <= kLongestDelay && *shown_ == *shown) {
+    if (both_last && last.milliseconds + milliseconds <= kLongestApngDelay && *shown_ == *shown) {
         last.milliseconds += milliseconds;
         return std::nullopt;
     }

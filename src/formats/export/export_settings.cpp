@@ -5,7 +5,9 @@
 #include <cctype>
 #include <filesystem>
 #include <limits>
+#include <sstream>
 #include <utility>
+#include <vector>
 
 #include "base/number.h"
 #include "base/text.h"
@@ -113,6 +115,14 @@ const char* NameOfDither(AdaptiveDither wanted) {
     return kDithers[0].first;
 }
 
+std::vector<std::string> WordsOf(const ExportSettings& settings) {
+    std::istringstream text(TextOf(settings));
+    std::vector<std::string> words;
+    for (std::string word; text >> word;)
+        words.push_back(word);
+    return words;
+}
+
 }  // namespace
 
 bool operator==(const ExportSettings& a, const ExportSettings& b) {
@@ -159,6 +169,16 @@ std::string TextOf(const ExportSettings& settings) {
     text += std::string(" dither=") + NameOfDither(settings.dither) + " quality=";
     text += settings.quality ? std::to_string(*settings.quality) : "lossless";
     return text + " matte=" + TextOfColor(settings.matte).substr(1);
+}
+
+std::string GivenUp(const ExportSettings& wanted, const ExportSettings& given) {
+    const std::vector<std::string> before = WordsOf(wanted);
+    const std::vector<std::string> after = WordsOf(given);
+    std::string text;
+    for (size_t i = 0; i < after.size(); ++i) {
+        if (after[i] != before[i]) text += (text.empty() ? "" : " ") + after[i];
+    }
+    return text;
 }
 
 std::optional<uint64> ParseByteSize(std::string_view text) {

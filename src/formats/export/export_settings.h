@@ -42,6 +42,9 @@ std::string ReadExportChoice(std::string_view text, ExportSettings* settings);
 // The same as text, every choice, with blanks between.
 std::string TextOf(const ExportSettings& settings);
 
+// The choices that differ, as they are now: "colors=64 loss=40". Empty where none does.
+std::string GivenUp(const ExportSettings& wanted, const ExportSettings& given);
+
 // Bytes: "500000", "500KB" and "8MB" (thousands), "500KiB" and "8MiB" (of 1024). Nothing for other
 // text, and for 0.
 std::optional<uint64> ParseByteSize(std::string_view text);

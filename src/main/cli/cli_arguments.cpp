@@ -68,7 +68,8 @@ int EndOfParse(const CLI::App& app, const CLI::ParseError& error, int argc,
 
 // Whether an animation goes to standard output and something else would get in its way there.
 bool MixesStandardOutput(const CliArguments& arguments) {
-    static const std::set<std::string> kPrinters = {"--info", "--info-json", "--list-formats"};
+    static const std::set<std::string> kPrinters = {"--info", "--info-json", "--list-formats",
+                                                    "--export"};
     int animations = 0;
     int texts = arguments.verify ? 1 : 0;
     for (const CliOperation& operation : arguments.operations) {

@@ -20,9 +20,10 @@ void StopOnInterrupt(int) {
     if (CliSession* session = g_session) session->RequestStop();
 }
 
-int RunSession(CliArguments arguments, BTranslatorRoster& roster, CaptionDrawer draw_caption) {
+int RunSession(CliArguments arguments, BTranslatorRoster& roster, CaptionDrawer draw_caption,
+               Exporter exporter) {
     const int retry_status = arguments.retry_status;
-    CliSession session(std::move(arguments), roster, std::move(draw_caption));
+    CliSession session(std::move(arguments), roster, std::move(draw_caption), std::move(exporter));
     g_session = &session;
     struct sigaction action = {};
     action.sa_handler = StopOnInterrupt;
@@ -50,9 +51,10 @@ void PrepareCliProcess() {
     std::signal(SIGXFSZ, SIG_IGN);
 }
 
-int RunCliProgram(CliArguments arguments, BTranslatorRoster& roster, CaptionDrawer draw_caption) {
-    const int status =
-        ExitStatus(RunSession(std::move(arguments), roster, std::move(draw_caption)));
+int RunCliProgram(CliArguments arguments, BTranslatorRoster& roster, CaptionDrawer draw_caption,
+                  Exporter exporter) {
+    const int status = ExitStatus(
+        RunSession(std::move(arguments), roster, std::move(draw_caption), std::move(exporter)));
     if (std::fflush(stdout) == 0 && !std::ferror(stdout)) return status;
     std::fputs("kirto-cli: standard output can't be written.\n", stderr);
     return kExitFailed;

@@ -19,10 +19,11 @@ bool ChangesSettings(const CliOperation& operation) {
 }  // namespace
 
 CliSession::CliSession(CliArguments arguments, BTranslatorRoster& roster,
-                       CaptionDrawer draw_caption)
+                       CaptionDrawer draw_caption, Exporter exporter)
     : arguments_(std::move(arguments)),
       roster_(roster),
       draw_caption_(std::move(draw_caption)),
+      export_(std::move(exporter)),
       desktop_(arguments_.salvage, arguments_.quiet, arguments_.json_errors),
       previous_presenter_(InstallAlertPresenter(&desktop_)) {}
 

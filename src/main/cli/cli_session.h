@@ -24,8 +24,10 @@ namespace kirto {
 // user on standard error; results go to standard output.
 class CliSession {
   public:
-    // The roster outlives the session. draw_caption: empty in a program without texts.
-    CliSession(CliArguments arguments, BTranslatorRoster& roster, CaptionDrawer draw_caption);
+    // The roster outlives the session. draw_caption, exporter: empty in a program without
+    // texts and exports.
+    CliSession(CliArguments arguments, BTranslatorRoster& roster, CaptionDrawer draw_caption,
+               Exporter exporter);
     ~CliSession();
 
     // Runs to the end or to the first operation that fails; the program's exit status.
@@ -183,6 +185,7 @@ class CliSession {
     std::span<const CliOperation> following_;  // those after the operation in hand
     BTranslatorRoster& roster_;
     const CaptionDrawer draw_caption_;
+    const Exporter export_;
     HeadlessDesktop desktop_;
     AlertPresenter* previous_presenter_;
     Prefs prefs_;

@@ -1,4 +1,5 @@
 // The operations that write animations in other formats.
+#include <algorithm>
 #include <cinttypes>
 #include <cstdio>
 #include <unistd.h>
@@ -24,19 +25,19 @@ CliSession::Outcome CliSession::Fit(const std::string& value) {
 }
 
 ExportResult CliSession::RunExport(FittedExport* exported) {
-    Work work;
+    Work work([this](uint64, int64 done, int64 total) {
+        desktop_.ShowProgress(Format("Status: exporting, %d%% of it...",
+                                     static_cast<int>(100 * done / std::max<int64>(total, 1))));
+    });
+    work.Begin();
     exporting_ = &work;
     if (stopped_) work.StopAll();
     const ExportTask task = {app_->Current(), prefs_.global_pauseinseconds, app_->pixel_budget,
                              roster_, work};
-    ExportResult result = ExportResult::kDone;
-    if (export_limit_) {
-        result = FitUnder(*export_limit_, task, export_settings_, exported);
-    } else {
-        exported->settings = export_settings_;
-        result = ExportAnimation(task, export_settings_, &exported->bytes);
-    }
+    const ExportResult result = export_(export_limit_, task, export_settings_, exported);
     exporting_ = nullptr;
+    work.End();
+    desktop_.ClearProgress();
     return result;
 }
 
@@ -62,6 +63,9 @@ CliSession::Outcome CliSession::Export(const std::string& value) {
         write_failed_ = true;
         return Fail(value + ": " + kFileNotCreatedText);
     }
+    const std::string cut_short = NumbersCutShort(*app_->Current(), prefs_.global_pauseinseconds);
+    if (*format == ExportFormat::kGif && !cut_short.empty())
+        desktop_.Complain(value + ": Exported, but " + cut_short + ".");
     const std::string given_up = GivenUp(export_settings_, exported.settings);
     const std::string subject = isatty(STDOUT_FILENO) ? TerminalText(value) : value;
     std::printf("%s: %zu bytes%s%s\n", subject.c_str(), exported.bytes.size(),

@@ -158,7 +158,10 @@ CliSession::Outcome CliSession::PostPictureEdit(const BMessage& message) {
 
 CliSession::Outcome CliSession::FitFrames(const std::string& value) {
     const int32 fit = PositionIn("scale pad crop", value);
-    if (fit < 0) return Refuse("--fit: \"" + value + "\": expected scale, pad or crop.");
+    if (fit < 0) {
+        return Refuse("--fit: \"" + value +
+                      "\": expected scale, pad or crop, or a size such as 500KB.");
+    }
     BMessage message(kFitFrames);
     message.AddInt32("fit", fit);
     message.AddInt32("filter", PositionIn(kFilters, "lanczos"));

@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <cstdio>
 #include <unistd.h>
+#include <utility>
 
 #include "app/open_animation.h"
 #include "base/terminal_text.h"
+#include "document/command_codes.h"
 #include "kit/entry_ref.h"
 #include "kit/file.h"
 #include "main/cli/error_lines.h"
@@ -103,6 +105,12 @@ void HeadlessDesktop::OpenInBrowser(const std::string& path) {
     do {
         character = std::getchar();
     } while (character != EOF && character != '\n');
+}
+
+void HeadlessDesktop::ShowProgress(const std::string& text) {
+    BMessage message(kStatusUpdate);
+    message.AddString("text", text);
+    progress_->Post(std::move(message), 0);
 }
 
 void HeadlessDesktop::Complain(const std::string& text) {

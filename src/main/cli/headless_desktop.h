@@ -46,6 +46,8 @@ class HeadlessDesktop : public Desktop {
     bool LacksMemory() const { return lacks_memory_; }
     // Writes a line on standard error, opening with the program's name.
     void Complain(const std::string& text);
+    // Shows how far the operation in hand is.
+    void ShowProgress(const std::string& text);
     void ClearProgress() { progress_->Clear(); }
 
   private:

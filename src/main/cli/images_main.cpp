@@ -1,9 +1,10 @@
-// kirto-cli-images: kirto-cli that writes the image formats of Qt, and has its fonts.
+// kirto-cli-images: kirto-cli that writes the image formats of Qt, exports, and has Qt's fonts.
 #include <QGuiApplication>
 #include <clocale>
 #include <memory>
 #include <utility>
 
+#include "app/export/fit_under.h"
 #include "kit/decoding/decoder_program.h"
 #include "kit/decoding/decoding_roster.h"
 #include "kit/qt/qt_translator_roster.h"
@@ -56,5 +57,5 @@ int main(int argc, char** argv) {
     const ImageSupport image_support;
     kirto::QtTranslatorRoster writers;
     kirto::DecodingRoster roster(kirto::DecoderProgram(), writers);
-    return kirto::RunCliProgram(std::move(arguments), roster, DrawCaption);
+    return kirto::RunCliProgram(std::move(arguments), roster, DrawCaption, kirto::ExportWithin);
 }
