@@ -8,9 +8,10 @@ namespace {
 constexpr int32 kBlack = 13;
 constexpr int32 kUnknown = 99;
 
-// That many records, all alike: one is built, and its bytes are repeated.
+// A sound frame and that many records, all alike: one is built, and its bytes are repeated.
 std::vector<uint8> Records(int32 side, int32 count, const std::function<void(FliBuilder&)>& add) {
     FliBuilder builder(side, side);
+    builder.Record().Black();
     const size_t head = builder.Data().size();
     add(builder);
     std::vector<uint8> bytes = builder;
@@ -69,11 +70,13 @@ void ForEachPacket(bool few, const std::function<void(const HostileFile& file)>&
 std::vector<HostileSeries> HostileFliSeries() {
     return {
         {"records-of-64x64.flc", 1000000,
-         [](int32 n) { return Records(64, n, [](FliBuilder& b) { b.Record(); }); }},
+         [](int32 n) { return Records(64, n, [](FliBuilder& b) { b.Record().Black(); }); }},
         {"records-of-4096x4096.flc", 100000,
-         [](int32 n) { return Records(4096, n, [](FliBuilder& b) { b.Record(); }); }},
+         [](int32 n) { return Records(4096, n, [](FliBuilder& b) { b.Record().Black(); }); }},
         {"records-of-1x1.flc", 1000000,
-         [](int32 n) { return Records(1, n, [](FliBuilder& b) { b.Record(); }); }},
+         [](int32 n) { return Records(1, n, [](FliBuilder& b) { b.Record().Black(); }); }},
+        {"empty-records.flc", 1000000,
+         [](int32 n) { return Records(64, n, [](FliBuilder& b) { b.Record(); }); }},
         {"chunks-in-records.flc", 100,
          [](int32 n) { return Records(64, n, [](FliBuilder& b) { AddChunks(b, 10000); }); }},
         {"skipped-records.flc", 1000000,

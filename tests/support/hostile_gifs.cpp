@@ -41,14 +41,14 @@ std::vector<uint8> Frames(int32 side, int32 count) {
 }
 
 std::vector<uint8> FramesWithTables(int32 count) {
-    GifBuilder::Image image = Dot();
-    image.local_table.assign(256, 0x123456);
+    GifBuilder::Image image{
+        .indices = {1}, .local_table = std::vector<uint32>(256, 0x123456), .min_code_size = 8};
     return Repeated({1, 1}, BlocksOf([&](GifBuilder& b) { b.Add(image); }), count, {0x3B});
 }
 
-// Images that are one pixel wide, as high as can be and end at once: their rows are asked for, but
-// the file has nothing to put into them.
-std::vector<uint8> EmptyHighFrames(int32 count) {
+// Images that are one pixel wide, as high as can be and end after a pixel: memory is asked for, but
+// the file has nothing to put into it.
+std::vector<uint8> CutHighFrames(int32 count) {
     const GifBuilder::Image image{.width = 1,
                                   .height = 65535,
                                   .indices = {},
@@ -56,7 +56,7 @@ std::vector<uint8> EmptyHighFrames(int32 count) {
                                   .interlaced = true,
                                   .min_code_size = 2};
     return Repeated({1, 65535, kTwoColors}, BlocksOf([&](GifBuilder& b) {
-                        b.AddCodes(image, {4, 5});
+                        b.AddCodes(image, {4, 1, 5});
                     }),
                     count, {0x3B});
 }
@@ -113,7 +113,7 @@ std::vector<HostileSeries> HostileGifSeries() {
         {"frames-on-4096x4096.gif", 100000, [](int32 n) { return Frames(4096, n); }},
         {"frames-of-1x1.gif", 1000000, [](int32 n) { return Frames(1, n); }},
         {"frames-with-tables.gif", 100000, FramesWithTables},
-        {"empty-frames-of-1x65535.gif", 100000, EmptyHighFrames},
+        {"cut-frames-of-1x65535.gif", 100000, CutHighFrames},
         {"sub-blocks-of-one-byte.gif", 10000000, [](int32 n) { return OneByteBlocks(0, n); }},
         {"clear-codes.gif", 10000000, [](int32 n) { return OneByteBlocks(0x80, n); }},
         {"mebibytes-of-comments.gif", 100, Comments},
