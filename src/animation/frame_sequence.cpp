@@ -3,13 +3,14 @@
 #include <algorithm>
 #include <iterator>
 #include <memory>
+#include <vector>
 
 namespace kirto {
 
 FramePointer FrameSequence::At(int32 i) const {
-    if (i < 0 || i >= size_) return nullptr;
-    const size_t leaf = LeafOf(i);
-    return (*leaves_[leaf])[static_cast<size_t>(i - starts_[leaf])];
+    if (i < 0 || i >= Size()) return nullptr;
+    const FrameLeaves::Place& place = leaves_[leaves_.Find(i)];
+    return (*place.leaf)[static_cast<size_t>(i - place.start)];
 }
 
 int32 FrameSequence::Find(FrameId id) const {
@@ -20,35 +21,36 @@ int32 FrameSequence::Find(FrameId id) const {
 
 void FrameSequence::Insert(int32 i, FramePointer frame) {
     // Appending fills the last leaf before it starts another.
-    if (i == size_ && (leaves_.empty() || leaves_.back()->size() == kLeafSize)) {
-        SetLeaf(leaves_.size(), {std::move(frame)});
+    const size_t count = leaves_.Size();
+    if (i == Size() && (count == 0 || leaves_[count - 1].leaf->size() == kLeafSize)) {
+        leaves_.Replace(count, 0, {std::make_shared<const Leaf>(1, std::move(frame))});
         return;
     }
-    const size_t leaf = i == size_ ? leaves_.size() - 1 : LeafOf(i);
-    Leaf frames = *leaves_[leaf];
-    frames.insert(frames.begin() + (i - starts_[leaf]), std::move(frame));
-    if (frames.size() > kLeafSize) {
-        const auto middle = frames.begin() + kLeafSize / 2;
-        Leaf rest(std::make_move_iterator(middle), std::make_move_iterator(frames.end()));
-        frames.erase(middle, frames.end());
-        leaves_.insert(leaves_.begin() + static_cast<std::ptrdiff_t>(leaf) + 1,
-                       std::make_shared<const Leaf>(std::move(rest)));
+    const size_t leaf = i == Size() ? count - 1 : leaves_.Find(i);
+    Leaf frames = *leaves_[leaf].leaf;
+    frames.insert(frames.begin() + (i - leaves_[leaf].start), std::move(frame));
+    if (frames.size() <= kLeafSize) {
+        SetLeaf(leaf, std::move(frames));
+        return;
     }
-    SetLeaf(leaf, std::move(frames));
+    const auto middle = frames.begin() + kLeafSize / 2;
+    leaves_.Replace(leaf, 1,
+                    {std::make_shared<const Leaf>(frames.begin(), middle),
+                     std::make_shared<const Leaf>(middle, frames.end())});
 }
 
 void FrameSequence::Remove(int32 i) {
-    const size_t leaf = LeafOf(i);
-    Leaf frames = *leaves_[leaf];
-    frames.erase(frames.begin() + (i - starts_[leaf]));
+    const size_t leaf = leaves_.Find(i);
+    Leaf frames = *leaves_[leaf].leaf;
+    frames.erase(frames.begin() + (i - leaves_[leaf].start));
     SetLeaf(leaf, std::move(frames));
 }
 
 void FrameSequence::Replace(int32 i, FramePointer frame) {
-    const size_t leaf = LeafOf(i);
-    Leaf frames = *leaves_[leaf];
-    frames[static_cast<size_t>(i - starts_[leaf])] = std::move(frame);
-    SetLeaf(leaf, std::move(frames));
+    const size_t leaf = leaves_.Find(i);
+    Leaf frames = *leaves_[leaf].leaf;
+    frames[static_cast<size_t>(i - leaves_[leaf].start)] = std::move(frame);
+    leaves_.Set(leaf, std::make_shared<const Leaf>(std::move(frames)));
 }
 
 void FrameSequence::Swap(int32 i, int32 j) {
@@ -58,70 +60,49 @@ void FrameSequence::Swap(int32 i, int32 j) {
 }
 
 void FrameSequence::Reverse() {
-    std::vector<std::shared_ptr<const Leaf>> reversed;
-    reversed.reserve(leaves_.size());
-    std::transform(leaves_.rbegin(), leaves_.rend(), std::back_inserter(reversed),
-                   [](const std::shared_ptr<const Leaf>& leaf) {
-                       return std::make_shared<const Leaf>(leaf->rbegin(), leaf->rend());
-                   });
-    leaves_ = std::move(reversed);
-    Renumber();
-}
-
-size_t FrameSequence::LeafOf(int32 i) const {
-    const auto after = std::upper_bound(starts_.begin(), starts_.end(), i);
-    return static_cast<size_t>(after - starts_.begin()) - 1;
-}
-
-// Puts the frames in the leaf's place, adds a last leaf, or takes away an emptied one.
-void FrameSequence::SetLeaf(size_t leaf, Leaf frames) {
-    const auto place = leaves_.begin() + static_cast<std::ptrdiff_t>(leaf);
-    if (frames.empty()) {
-        leaves_.erase(place);
-    } else {
-        auto shared = std::make_shared<const Leaf>(std::move(frames));
-        if (place == leaves_.end()) {
-            leaves_.push_back(std::move(shared));
-        } else {
-            *place = std::move(shared);
-        }
+    std::vector<FrameLeaves::SharedLeaf> reversed;
+    reversed.reserve(leaves_.Size());
+    for (size_t i = leaves_.Size(); i-- > 0;) {
+        const Leaf& leaf = *leaves_[i].leaf;
+        reversed.push_back(std::make_shared<const Leaf>(leaf.rbegin(), leaf.rend()));
     }
-    Renumber();
+    leaves_.Replace(0, leaves_.Size(), std::move(reversed));
 }
 
-void FrameSequence::Renumber() {
-    starts_.resize(leaves_.size());
-    size_ = 0;
-    for (size_t leaf = 0; leaf < leaves_.size(); ++leaf) {
-        starts_[leaf] = size_;
-        size_ += static_cast<int32>(leaves_[leaf]->size());
+// Puts the frames in the leaf's place, or takes it away where there are none.
+void FrameSequence::SetLeaf(size_t leaf, Leaf frames) {
+    if (frames.empty()) {
+        leaves_.Replace(leaf, 1, {});
+    } else {
+        leaves_.Replace(leaf, 1, {std::make_shared<const Leaf>(std::move(frames))});
     }
 }
 
 FrameSequence::Difference FrameSequence::DifferenceTo(const FrameSequence& other) const {
-    const int32 shorter = std::min(size_, other.size_);
+    const int32 size = Size();
+    const int32 other_size = other.Size();
+    const int32 shorter = std::min(size, other_size);
     int32 begin = 0;
-    for (size_t leaf = 0; leaf < leaves_.size() && leaf < other.leaves_.size(); ++leaf) {
-        if (leaves_[leaf] != other.leaves_[leaf]) break;
-        begin += static_cast<int32>(leaves_[leaf]->size());
+    for (size_t i = 0; i < leaves_.Size() && i < other.leaves_.Size(); ++i) {
+        if (leaves_[i].leaf != other.leaves_[i].leaf) break;
+        begin += static_cast<int32>(leaves_[i].leaf->size());
     }
     int32 behind = 0;
-    auto leaf = leaves_.rbegin();
-    auto other_leaf = other.leaves_.rbegin();
-    for (; leaf != leaves_.rend() && other_leaf != other.leaves_.rend(); ++leaf, ++other_leaf) {
-        const auto size = static_cast<int32>((*leaf)->size());
-        if (*leaf != *other_leaf || behind + size > shorter - begin) break;
-        behind += size;
+    for (size_t i = leaves_.Size(), j = other.leaves_.Size(); i > 0 && j > 0; --i, --j) {
+        const auto frames = static_cast<int32>(leaves_[i - 1].leaf->size());
+        if (leaves_[i - 1].leaf != other.leaves_[j - 1].leaf || behind + frames > shorter - begin)
+            break;
+        behind += frames;
     }
     while (begin < shorter - behind && At(begin) == other.At(begin))
         ++begin;
-    while (behind < shorter - begin && At(size_ - 1 - behind) == other.At(other.size_ - 1 - behind))
+    while (behind < shorter - begin && At(size - 1 - behind) == other.At(other_size - 1 - behind))
         ++behind;
-    return {begin, size_ - behind, other.size_ - behind};
+    return {begin, size - behind, other_size - behind};
 }
 
 bool operator==(const FrameSequence& a, const FrameSequence& b) {
-    if (a.size_ != b.size_) return false;
+    if (a.Size() != b.Size()) return false;
     if (a.leaves_ == b.leaves_) return true;
     return std::equal(
         a.begin(), a.end(), b.begin(),

@@ -1,10 +1,10 @@
 #pragma once
 
+#include <cstddef>
 #include <iterator>
-#include <memory>
-#include <vector>
 
 #include "animation/frame.h"
+#include "animation/frame_leaves.h"
 #include "base/types.h"
 
 namespace kirto {
@@ -17,8 +17,8 @@ class FrameSequence {
   public:
     class Iterator;
 
-    int32 Size() const { return size_; }
-    bool Empty() const { return size_ == 0; }
+    int32 Size() const { return leaves_.FrameCount(); }
+    bool Empty() const { return leaves_.Empty(); }
 
     // Null for positions outside 0..Size() - 1.
     FramePointer At(int32 i) const;
@@ -51,17 +51,12 @@ class FrameSequence {
     friend bool operator==(const FrameSequence& a, const FrameSequence& b);
 
   private:
-    using Leaf = std::vector<FramePointer>;
+    using Leaf = FrameLeaves::Leaf;
     static constexpr size_t kLeafSize = 64;
 
-    // The leaf that holds position i; i is below the size.
-    size_t LeafOf(int32 i) const;
     void SetLeaf(size_t leaf, Leaf frames);
-    void Renumber();
 
-    std::vector<std::shared_ptr<const Leaf>> leaves_;  // none of them empty
-    std::vector<int32> starts_;                        // the position of each leaf's first frame
-    int32 size_ = 0;
+    FrameLeaves leaves_;
 };
 
 // Iterates over the frames in order, in constant time per step.
@@ -74,10 +69,10 @@ class FrameSequence::Iterator {
     using reference = const FramePointer&;
 
     Iterator() = default;
-    reference operator*() const { return (*sequence_->leaves_[leaf_])[within_]; }
+    reference operator*() const { return (*sequence_->leaves_[leaf_].leaf)[within_]; }
     pointer operator->() const { return &**this; }
     Iterator& operator++() {
-        if (++within_ == sequence_->leaves_[leaf_]->size()) {
+        if (++within_ == sequence_->leaves_[leaf_].leaf->size()) {
             within_ = 0;
             ++leaf_;
         }
@@ -104,7 +99,7 @@ inline FrameSequence::Iterator FrameSequence::begin() const {
 }
 
 inline FrameSequence::Iterator FrameSequence::end() const {
-    return {*this, leaves_.size()};
+    return {*this, leaves_.Size()};
 }
 
 }  // namespace kirto

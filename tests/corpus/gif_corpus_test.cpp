@@ -9,7 +9,7 @@
 
 #include "base/md5.h"
 #include "corpus/corpus.h"
-#include "formats/gif/reference_gif_decoder.h"
+#include "support/reference_gif_decoder.h"
 
 namespace kirto::test {
 namespace {

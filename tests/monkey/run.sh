@@ -24,8 +24,15 @@ cd "$work/files"
 head -c 3000 ball.gif >cut.gif
 printf 'no animation at all' >text.gif
 cd "$work/desk"
+# The row of a table: what, how many, found.
+row() {
+    [[ -z ${KIRTO_TORTURE_TABLE:-} ]] ||
+        printf 'random actions on the windows, seed %s\t%s\t%s\n' "$seed" "$actions" "$1" >>"$KIRTO_TORTURE_TABLE"
+}
 "$build/kirto-monkey" --seed "$seed" --actions "$actions" "$work"/files/* 2>"$work/errors" || {
     status=$?
+    row 1
     grep -v 'This plugin does not support\|GifLoad\|Created by' "$work/errors" >&2 || true
     exit "$status"
 }
+row 0

@@ -24,6 +24,18 @@ document=$work/folder/doc.gif
 
 cases=0
 failures=0
+all_failures=0
+
+# end_row WHAT: tells how many cases there were since the row before, and adds the row to the table.
+end_row() {
+    echo "$1: $cases cases, $failures failures"
+    if [ -n "${KIRTO_TORTURE_TABLE:-}" ]; then
+        printf '%s\t%s\t%s\n' "$1" "$cases" "$failures" >>"$KIRTO_TORTURE_TABLE"
+    fi
+    all_failures=$((all_failures + failures))
+    cases=0
+    failures=0
+}
 
 save() { "$cli" --quiet --open "$work/old.gif" --reverse --save "$document"; }
 
@@ -151,12 +163,16 @@ power_loss_order() {
 
 if strace -qq -o /dev/null true 2>/dev/null; then
     failing_calls
+    end_row "saves with a call that fails or kills"
     power_loss_order
+    end_row "orders of write, sync and rename"
 else
     echo "skipped: strace can't be used here"
 fi
 random_kills
+end_row "saves killed at random"
 limited_files
+end_row "saves with a limit to files"
 full_disk
-echo "$cases cases, $failures failures"
-[ "$failures" = 0 ]
+if [ "$cases" != 0 ]; then end_row "saves on a full disk"; fi
+[ "$all_failures" = 0 ]

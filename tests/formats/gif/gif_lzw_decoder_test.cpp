@@ -5,8 +5,8 @@
 #include <random>
 
 #include "formats/gif/gif_index_writer.h"
-#include "formats/gif/reference_gif_decoder.h"
 #include "support/gif_builder.h"
+#include "support/reference_gif_decoder.h"
 #include "support/test_support.h"
 
 namespace kirto::test {

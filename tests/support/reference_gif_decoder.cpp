@@ -1,4 +1,4 @@
-#include "formats/gif/reference_gif_decoder.h"
+#include "support/reference_gif_decoder.h"
 
 #include <algorithm>
 
