@@ -225,7 +225,7 @@ QString ExportDialog::ProposedPath() const {
 void ExportDialog::Choose() {
     const QString extension = ExtensionOf(exported_.settings.format);
     QString path = QFileDialog::getSaveFileName(
-        this, "Export", ProposedPath(),
+        this, "Export As", ProposedPath(),
         QString("%1 (*.%2)").arg(NameOf(exported_.settings.format), extension));
     if (path.isEmpty()) return;
     if (!path.contains('.')) path += '.' + extension;

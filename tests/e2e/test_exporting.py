@@ -1,0 +1,34 @@
+import walk_accessibility as accessibility
+from desktop_session import wait_until
+from editor_test import BLUE, EditorTest, GREEN, RED
+
+
+class Exporting(EditorTest):
+    def export(self, format_key, name):
+        """Exports the animation of three colors by keyboard, in the format that the key chooses."""
+        editor = self.start_editor(self.animation())
+        self.session.key("ctrl+e")
+        self.session.wait_until_active("^Export$")
+        dialog = editor.window("Export")
+        editor.focus("combo box", "Format", dialog)
+        self.session.key(format_key)
+        path = self.folder / name
+        button = editor.node("push button", "Export...", dialog)
+        wait_until(lambda: accessibility.has(button, accessibility.Atspi.StateType.ENABLED),
+                   "the file to be made")
+        self.session.key("alt+x")
+        editor.name_file("Export As", path)
+        self.session.wait_for_no_window("^Export$")
+        wait_until(path.exists, f"{name} to be there")
+        return path
+
+    def test_writes_an_animated_webp_by_keyboard(self):
+        path = self.export("w", "colors.webp")
+        self.assertEqual(path.read_bytes()[8:12], b"WEBP")
+        self.assertEqual(self.info(path)["frame_count"], 3)
+        self.assertEqual(self.colors(path), [RED, GREEN, BLUE])
+
+    def test_writes_an_animated_png_by_keyboard(self):
+        path = self.export("a", "colors.png")
+        self.assertEqual(path.read_bytes()[:4], b"\x89PNG")
+        self.assertEqual(self.info(path)["frame_count"], 3)
