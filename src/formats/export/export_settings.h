@@ -20,8 +20,9 @@ struct ExportSettings {
     ExportFormat format = ExportFormat::kGif;
     int32 colors = 256;      // GIF: of a frame, 2 to 256
     bool one_table = false;  // GIF: all frames have the same colors
-    AdaptiveDither dither = AdaptiveDither::kErrorDiffusion;  // GIF
-    int32 loss = 0;                                           // GIF: 0 to 200; see ToleranceOf
+    // GIF: none, as what is mixed of other colors takes more bytes than it is worth
+    AdaptiveDither dither = AdaptiveDither::kNone;
+    int32 loss = 0;  // GIF: 0 to 200; see ToleranceOf
     // WebP and videos: 0 to 100, the best. Nothing: WebP keeps every pixel, videos are good.
     std::optional<int32> quality;
     rgb_color matte{255, 255, 255, 255};  // GIF and videos: what soft edges are laid on

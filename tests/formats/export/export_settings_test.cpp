@@ -18,7 +18,7 @@ TEST(ExportSettings, TheTextOfSettingsReadsAsTheSame) {
     ExportSettings settings;
     settings.colors = 2;
     settings.quality = 0;
-    settings.dither = AdaptiveDither::kNone;
+    settings.dither = AdaptiveDither::kErrorDiffusion;
     ExportSettings read;
     std::string text = TextOf(settings);
     while (!text.empty()) {
