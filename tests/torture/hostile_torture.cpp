@@ -21,7 +21,7 @@ constexpr double kMostSeconds = 5;
 constexpr int64 kMostKibibytes = int64{512} * 1024;
 constexpr double kMostGrowth = 2.5;
 // Below this a time says more about the machine than about the file.
-constexpr double kLeastSeconds = 0.25;
+constexpr double kLeastSeconds = 1;
 // The memory that frames may take; the rest of the limit is the program's.
 constexpr char kFrameMebibytes[] = "256";
 
