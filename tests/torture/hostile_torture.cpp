@@ -1,9 +1,10 @@
-// hostile_torture KIRTO_CLI short|whole
+// hostile_torture KIRTO_CLI short|whole|beside
 //
 // Lets kirto-cli open hostile files, as defined and as browsers do, and demands of each that it is
 // opened or refused with a message, within the time and the memory of the constants below, and that
 // twice as much of anything takes little more than twice the time. The short form has fewer and
-// smaller files and looks at no clock.
+// smaller files and looks at no clock. Beside other programs it demands nothing, and prints what
+// each takes of the GIF files that have much of one thing.
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -20,7 +21,7 @@ constexpr double kMostSeconds = 5;
 constexpr int64 kMostKibibytes = int64{512} * 1024;
 constexpr double kMostGrowth = 2.5;
 // Below this a time says more about the machine than about the file.
-constexpr double kLeastSeconds = 0.25;
+constexpr double kLeastSeconds = 1;
 // The memory that frames may take; the rest of the limit is the program's.
 constexpr char kFrameMebibytes[] = "256";
 
@@ -95,7 +96,7 @@ class HostileTorture {
         std::vector<std::string> command{program_, "--quiet", "--memory-limit", kFrameMebibytes};
         if (faithful) command.emplace_back("--faithful");
         command.insert(command.end(), {"--open", path.string()});
-        WatchedRun run = WatchedRun::Of(command);
+        WatchedRun run = WatchedRun::Of(command, {});
         ++opened_;
         if (run.status != 0 && run.status != 1) {
             Report(path, "is neither opened nor refused", run);
@@ -139,10 +140,62 @@ int Main(const char* program, bool whole) {
     return found == 0 ? 0 : 1;
 }
 
+// One of the programs that read a file whole without writing one.
+struct Reader {
+    std::vector<std::string> command;  // the file's path follows
+    std::vector<std::string> rest;     // behind it
+};
+
+std::string Taken(const WatchedRun& run) {
+    char text[64];
+    if (run.status < 0) {
+        std::snprintf(text, sizeof text, "killed, %lld MiB",
+                      static_cast<long long>(run.kibibytes / 1024));
+    } else {
+        std::snprintf(text, sizeof text, "%s, %.1f s, %lld MiB",
+                      run.status == 0 ? "read" : "refused", run.seconds,
+                      static_cast<long long>(run.kibibytes / 1024));
+    }
+    return text;
+}
+
+// kirto-cli, gifsicle, ImageMagick and ffmpeg, a column each. Ten seconds and 4 GiB are what each
+// of them may take.
+int Compare(const std::string& program) {
+    const Reader readers[] = {{{program, "--quiet", "--faithful", "--open"}, {}},
+                              {{"/usr/bin/gifsicle", "--info"}, {}},
+                              {{"/usr/bin/identify"}, {}},
+                              {{"/usr/bin/ffmpeg", "-v", "error", "-i"}, {"-f", "null", "-"}}};
+    const std::filesystem::path path =
+        std::filesystem::temp_directory_path() / ("hostile-" + std::to_string(getpid()) + ".gif");
+    for (const HostileSeries& series : HostileGifSeries()) {
+        {
+            const std::vector<uint8> bytes = series.bytes(series.count);
+            std::ofstream(path, std::ios::binary)
+                .write(reinterpret_cast<const char*>(bytes.data()),
+                       static_cast<std::streamsize>(bytes.size()));
+        }
+        std::printf("| %d %s |", series.count, series.name.c_str());
+        for (const Reader& reader : readers) {
+            std::vector<std::string> command = reader.command;
+            command.push_back(path.string());
+            command.insert(command.end(), reader.rest.begin(), reader.rest.end());
+            std::printf(" %s |", Taken(WatchedRun::Of(command, {10, uint64{4} << 30})).c_str());
+        }
+        std::printf("\n");
+    }
+    std::filesystem::remove(path);
+    return 0;
+}
+
 }  // namespace
 }  // namespace kirto::test
 
 int main(int count, char** arguments) {
     if (count != 3) return 2;
-    return kirto::test::Main(arguments[1], std::string(arguments[2]) == "whole");
+    // A run that is stopped has told of what it did.
+    std::setvbuf(stdout, nullptr, _IOLBF, 0);
+    const std::string form = arguments[2];
+    if (form == "beside") return kirto::test::Compare(arguments[1]);
+    return kirto::test::Main(arguments[1], form == "whole");
 }

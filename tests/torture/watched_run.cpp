@@ -9,13 +9,12 @@ namespace kirto::test {
 
 namespace {
 
-constexpr unsigned kLongest = 120;  // seconds
-
 double SecondsOf(const timeval& time) {
     return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) / 1e6;
 }
 
-[[noreturn]] void Become(const std::vector<std::string>& command, int errors) {
+[[noreturn]] void Become(const std::vector<std::string>& command, WatchedRun::Limits limits,
+                         int errors) {
     std::vector<char*> arguments;
     for (const std::string& argument : command) {
         arguments.push_back(const_cast<char*>(argument.c_str()));
@@ -26,7 +25,9 @@ double SecondsOf(const timeval& time) {
     dup2(nowhere, STDOUT_FILENO);
     dup2(errors, STDERR_FILENO);
     // The new program keeps the alarm.
-    alarm(kLongest);
+    alarm(limits.seconds);
+    const rlimit space{limits.address_space, limits.address_space};
+    if (limits.address_space > 0) setrlimit(RLIMIT_AS, &space);
     execv(arguments[0], arguments.data());
     _exit(127);
 }
@@ -42,12 +43,12 @@ std::string ReadAll(int file) {
 
 }  // namespace
 
-WatchedRun WatchedRun::Of(const std::vector<std::string>& command) {
+WatchedRun WatchedRun::Of(const std::vector<std::string>& command, Limits limits) {
     WatchedRun run;
     int errors[2];
     if (pipe2(errors, O_CLOEXEC) != 0) return run;
     const pid_t child = fork();
-    if (child == 0) Become(command, errors[1]);
+    if (child == 0) Become(command, limits, errors[1]);
     close(errors[1]);
     run.message = ReadAll(errors[0]);
     close(errors[0]);

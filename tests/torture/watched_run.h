@@ -14,9 +14,14 @@ struct WatchedRun {
     int64 kibibytes = 0;  // of memory at its peak
     std::string message;  // that it wrote to standard error
 
-    // command: a path and arguments. Its output is dropped. A program that is not done in two
-    // minutes is killed.
-    static WatchedRun Of(const std::vector<std::string>& command);
+    // What the program may take at most; it is killed, or fails, when it wants more.
+    struct Limits {
+        unsigned seconds = 120;
+        uint64 address_space = 0;  // bytes; 0: as much as there is
+    };
+
+    // command: a path and arguments. Its output is dropped.
+    static WatchedRun Of(const std::vector<std::string>& command, Limits limits);
 };
 
 }  // namespace kirto::test
