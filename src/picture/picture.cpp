@@ -92,11 +92,16 @@ Picture::~Picture() {
     if (budget_) budget_->Release(Cost());
 }
 
-// What the picture takes beside the pixels of its strips.
+// What the picture takes beside the pixels of its strips: their entries in the lists, and they
+// themselves, as if no other picture had them too. A frame's cost has room for a few.
 uint64 Picture::Cost() const {
-    constexpr size_t kFew = 32;  // of a strip's entry in the lists, a frame's cost has room for
+    constexpr size_t kFew = 32;
     constexpr uint64 kEntry = 24;
-    return PixelBudget::kFrameCost + (std::max(strips_.size(), kFew) - kFew) * kEntry;
+    constexpr uint64 kStrip = sizeof(Strip) + 48;  // with its count of owners and that of the heap
+    uint64 cost = PixelBudget::kFrameCost;
+    for (size_t i = kFew; i < strips_.size(); ++i)
+        cost += kEntry + (strips_[i] == strips_[i - 1] ? 0 : kStrip);
+    return cost;
 }
 
 void Picture::SetStrips(Strips strips) {

@@ -87,6 +87,19 @@ TEST(Picture, CountsItsMemoryUntilItIsGone) {
     EXPECT_EQ(budget->Used(), 0U);
 }
 
+TEST(Picture, CountsTheManyStripsOfAHighOne) {
+    const auto budget = std::make_shared<PixelBudget>(uint64{1} << 30);
+    const auto high = [&](uint32 first) {
+        Picture::Strips strips;
+        for (uint32 i = 0; i < 1000; ++i)
+            strips.push_back(Strip::Solid(first + i, 1, 1));
+        return Picture::Of(std::move(strips), 1, B_RGB32, budget);
+    };
+    const auto picture = high(1);
+    EXPECT_GE(budget->Used(), 900 * sizeof(Strip));
+    EXPECT_LE(budget->Used(), PixelBudget::kFrameCost + 1000 * (sizeof(Strip) + 100));
+}
+
 TEST(Picture, KeepsTheBitmapWhereThereIsNoMemoryToPackIt) {
     std::mt19937 random(4);
     const auto bitmap = BitmapOf(RandomPicture(100, 100, 16, random), B_RGB32);

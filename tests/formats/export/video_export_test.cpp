@@ -70,7 +70,12 @@ TEST(VideoExport, ComesBackWithItsColorsAndPauses) {
             .write(reinterpret_cast<const char*>(fixture.bytes.data()),
                    static_cast<std::streamsize>(fixture.bytes.size()));
 
-        VideoReader reader(*programs, path, uint64{1} << 20, {}, {});
+        VideoReader::Job job{path};
+        const auto video = ProbeVideo(*programs, path, job.limits, {});
+        ASSERT_TRUE(video) << NameOf(format);
+        job.frames = FramesOf(*video, job.cut).value();
+        job.pixel_bytes = uint64{1} << 20;
+        VideoReader reader(programs->decode, job, {});
         AnimatedImageHeader header;
         ASSERT_EQ(reader.ReadHeader(&header), AnimatedImageReader::Result::kFrame);
         EXPECT_EQ(header.width, 34);
