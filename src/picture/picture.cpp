@@ -71,7 +71,8 @@ std::shared_ptr<const Picture> Picture::Of(Strips strips, int32 width, color_spa
         height += strip->Rows();
     const std::shared_ptr<Picture> picture(new Picture(width, height, space));
     picture->SetStrips(std::move(strips));
-    if (budget && !budget->Reserve(picture->Cost())) return nullptr;
+    picture->cost_ = picture->CostNow();
+    if (budget && !budget->Reserve(picture->cost_)) return nullptr;
     picture->budget_ = std::move(budget);
     return picture;
 }
@@ -89,18 +90,18 @@ std::shared_ptr<const Picture> Picture::Solid(uint32 pixel, int32 width, int32 h
 }
 
 Picture::~Picture() {
-    if (budget_) budget_->Release(Cost());
+    if (budget_) budget_->Release(cost_);
 }
 
 // What the picture takes beside the pixels of its strips: their entries in the lists, and they
-// themselves, as if no other picture had them too. A frame's cost has room for a few.
-uint64 Picture::Cost() const {
+// themselves where no other picture has them. A frame's cost has room for a few.
+uint64 Picture::CostNow() const {
     constexpr size_t kFew = 32;
     constexpr uint64 kEntry = 24;
     constexpr uint64 kStrip = sizeof(Strip) + 48;  // with its count of owners and that of the heap
     uint64 cost = PixelBudget::kFrameCost;
     for (size_t i = kFew; i < strips_.size(); ++i)
-        cost += kEntry + (strips_[i] == strips_[i - 1] ? 0 : kStrip);
+        cost += kEntry + (strips_[i].use_count() == 1 ? kStrip : 0);
     return cost;
 }
 

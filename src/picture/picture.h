@@ -66,7 +66,7 @@ class Picture {
     Picture(int32 width, int32 height, color_space space)
         : width_(width), height_(height), space_(space) {}
     void SetStrips(Strips strips);
-    uint64 Cost() const;
+    uint64 CostNow() const;
 
     const int32 width_;
     const int32 height_;
@@ -74,7 +74,8 @@ class Picture {
     Strips strips_;
     std::vector<int32> first_rows_;
     std::shared_ptr<const BBitmap> bitmap_;
-    std::shared_ptr<PixelBudget> budget_;  // holds Cost() of it; null where a bitmap does
+    uint64 cost_ = 0;
+    std::shared_ptr<PixelBudget> budget_;  // holds the cost of it; null where a bitmap does
 };
 
 // Copies as many bytes as both have, without regard to their rows. False when the work was stopped
