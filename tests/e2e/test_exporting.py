@@ -10,7 +10,7 @@ class Exporting(EditorTest):
         self.session.key("ctrl+e")
         self.session.wait_until_active("^Export$")
         dialog = editor.window("Export")
-        editor.focus("combo box", "Format", dialog)
+        editor.focus("combo box", "GIF", dialog)
         self.session.key(format_key)
         path = self.folder / name
         button = editor.node("push button", "Export...", dialog)

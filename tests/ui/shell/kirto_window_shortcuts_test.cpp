@@ -71,7 +71,7 @@ class KirtoWindowShortcuts : public KirtoWindowFixture {
 };
 
 TEST_F(KirtoWindowShortcuts, ChooseTheirItemsWhateverControlHasTheKeyboard) {
-    ASSERT_EQ(items.size(), 28u);
+    ASSERT_EQ(items.size(), 29u);
     size_t fields = 0;
     for (QWidget* control : Controls()) {
         auto* field = dynamic_cast<TextControl*>(control);
