@@ -244,8 +244,8 @@ void KirtoWindow::UseClipboard(BMessage* message) {
     QClipboard& clipboard = *QGuiApplication::clipboard();
     if (message->what == kirto::kMenuPaste) {
         // Null where nothing has ever been copied.
-        const QMimeData* data = clipboard.mimeData();
-        if (const auto command = data ? kirto::PasteCommand(*data) : std::nullopt)
+        const QMimeData* copied = clipboard.mimeData();
+        if (const auto command = copied ? kirto::PasteCommand(*copied) : std::nullopt)
             PostToApplication(*command);
         return;
     }
