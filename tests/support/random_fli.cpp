@@ -25,7 +25,8 @@ class FliMaker {
             if (Below(8) == 0) file.Record(kPrefix).Chunk(1, Noise(Below(9)));
             if (Below(8) == 0) file.Record(FliBuilder::kSkipped);
             file.Record();
-            if (i == 0 || Below(4) == 0) AddColors(file);
+            if (i == 0) AddColors(file, {{0, Colors(256)}});
+            if (Below(4) == 0) AddColors(file, SomeColors());
             for (int32 chunks = Below(3) + (i == 0); chunks > 0; --chunks)
                 AddPicture(file, i == 0);
         }
@@ -49,14 +50,19 @@ class FliMaker {
         return pixels;
     }
 
-    void AddColors(FliBuilder& file) {
+    std::vector<uint32> Colors(int32 count) {
+        std::vector<uint32> colors(static_cast<size_t>(count));
+        for (uint32& color : colors)
+            color = static_cast<uint32>(random_()) & (old_ ? 0x3F3F3F : 0xFFFFFF);
+        return colors;
+    }
+    std::vector<FliColorPacket> SomeColors() {
         std::vector<FliColorPacket> packets(static_cast<size_t>(1 + Below(3)));
-        for (FliColorPacket& packet : packets) {
-            packet.skip = Below(8);
-            packet.colors.resize(static_cast<size_t>(1 + Below(60)));
-            for (uint32& color : packet.colors)
-                color = static_cast<uint32>(random_()) & (old_ ? 0x3F3F3F : 0xFFFFFF);
-        }
+        for (FliColorPacket& packet : packets)
+            packet = {Below(8), Colors(1 + Below(60))};
+        return packets;
+    }
+    void AddColors(FliBuilder& file, const std::vector<FliColorPacket>& packets) {
         old_ ? file.Color64(packets) : file.Color256(packets);
     }
 
@@ -120,7 +126,8 @@ class FliMaker {
                 line.words.push_back(-skipped);
                 y += skipped;
             }
-            if (Below(4) == 0) line.words.push_back(0x8000 | Below(256));
+            // The last pixel of a row of words and a half.
+            if (width_ % 2 != 0 && Below(2) == 0) line.words.push_back(0x8000 | Below(256));
             line.packets = Line(2);
             lines.push_back(line);
         }
