@@ -7,6 +7,9 @@
 #include <QSlider>
 #include <QSpinBox>
 
+#include "base/byte_order.h"
+#include "ui/controls/color_button.h"
+
 namespace kirto {
 
 namespace {
@@ -41,6 +44,8 @@ ExportForm::ExportForm(QWidget* parent)
     AddField("Lossless", "", lossless_);
     quality_ = AddSlider("Quality", "&Quality:", kMostQuality);
     quality_->setValue(kUsualQuality);
+    matte_ = new ColorButton(this);
+    AddField("Matte", "Ma&tte:", matte_);
     scale_ = AddNumber("Scale", "&Scale:", 1, kMostScale, " %");
     every_ = AddNumber("Every", "&Every n-th frame:", 1, kMostFramesAStep);
     fits_ = new QCheckBox("Fit &under", this);
@@ -60,6 +65,7 @@ ExportForm::ExportForm(QWidget* parent)
         Change();
     });
     connect(dither_, &QComboBox::currentIndexChanged, this, [this] { Change(); });
+    matte_->WhenChosen([this] { Change(); });
     for (QCheckBox* box : {one_table_, lossless_, fits_}) {
         connect(box, &QCheckBox::toggled, this, [this] {
             ShowFields();
@@ -117,6 +123,7 @@ void ExportForm::ShowFields() {
                            static_cast<QWidget*>(dither_), loss_->parentWidget()})
         form_->setRowVisible(field, gif);
     form_->setRowVisible(lossless_, webp);
+    form_->setRowVisible(matte_, gif || IsVideo(format));
     form_->setRowVisible(quality_->parentWidget(),
                          IsVideo(format) || (webp && !lossless_->isChecked()));
     kilobytes_->setEnabled(fits_->isChecked());
@@ -136,7 +143,8 @@ ExportWish ExportForm::Wish() const {
     settings.loss = loss_->value();
     const bool kept = settings.format == ExportFormat::kWebp && lossless_->isChecked();
     if (!kept) settings.quality = quality_->value();
-    settings.matte = matte_;
+    const QColor matte = matte_->Color();
+    settings.matte = {LowByte(matte.red()), LowByte(matte.green()), LowByte(matte.blue()), 255};
     settings.scale = scale_->value();
     settings.every = every_->value();
     if (fits_->isChecked()) wish.kilobytes = kilobytes_->value();
@@ -153,7 +161,7 @@ void ExportForm::ShowWish(const ExportWish& wish) {
     loss_->setValue(settings.loss);
     lossless_->setChecked(!settings.quality);
     if (settings.quality) quality_->setValue(*settings.quality);
-    matte_ = settings.matte;
+    matte_->SetColor(QColor(settings.matte.red, settings.matte.green, settings.matte.blue));
     scale_->setValue(settings.scale);
     every_->setValue(settings.every);
     fits_->setChecked(wish.kilobytes.has_value());

@@ -14,6 +14,8 @@ class QSpinBox;
 
 namespace kirto {
 
+class ColorButton;
+
 // What an export is to be like.
 struct ExportWish {
     ExportSettings settings;
@@ -53,13 +55,13 @@ class ExportForm : public QWidget {
     QSlider* loss_;
     QCheckBox* lossless_;
     QSlider* quality_;
+    ColorButton* matte_;
     QSpinBox* scale_;
     QSpinBox* every_;
     QCheckBox* fits_;
     QSpinBox* kilobytes_;
     std::function<void()> changed_;
     std::function<void(ExportFormat format)> format_changed_;
-    rgb_color matte_{255, 255, 255, 255};
     bool showing_ = false;
 };
 

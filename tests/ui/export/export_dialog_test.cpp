@@ -10,11 +10,13 @@
 #include <fstream>
 #include <gtest/gtest.h>
 #include <iterator>
+#include <tuple>
 
 #include "support/colors.h"
 #include "support/environment.h"
 #include "support/fake_roster.h"
 #include "support/test_support.h"
+#include "ui/controls/color_button.h"
 #include "ui/export/export_view.h"
 #include "ui/player/picture_pane.h"
 #include "ui/thumbnails/frame_area_fixture.h"
@@ -135,6 +137,29 @@ TEST_F(ExportDialogTest, ShowsTheChoicesOfTheFormatOnly) {
     EXPECT_FALSE(Named<QSlider>(*dialog, "QualitySlider")->isVisible());
     Named<QCheckBox>(*dialog, "Lossless")->click();
     EXPECT_TRUE(Named<QSlider>(*dialog, "QualitySlider")->isVisible());
+}
+
+TEST_F(ExportDialogTest, LaysSoftEdgesOnTheMatteThatIsChosen) {
+    ASSERT_TRUE(IsDone());
+    auto* matte = Named<ColorButton>(*dialog, "Matte");
+    matte->click();
+    auto* mixer = Named<QDialog>(*matte, "ChooseColor");
+    Named<QSpinBox>(*mixer, "Blue")->setValue(0);
+    mixer->accept();
+    EXPECT_FALSE(dialog->IsReady());
+    ASSERT_TRUE(IsDone());
+    EXPECT_EQ(Write("matte.gif"), "");
+    const rgb_color kept = ExportPresets().Last().settings.matte;
+    EXPECT_EQ(std::tuple(kept.red, kept.green, kept.blue), std::tuple(255, 255, 0));
+}
+
+TEST_F(ExportDialogTest, ShowsTheMatteWhereTransparentPixelsAreLost) {
+    auto* matte = Named<ColorButton>(*dialog, "Matte");
+    for (const auto& [format, shown] : {std::pair(0, true), {1, false}, {2, false}, {3, true}}) {
+        Menu("Format")->setCurrentIndex(format);
+        EXPECT_EQ(matte->isVisible(), shown) << format;
+    }
+    ASSERT_TRUE(IsDone());
 }
 
 TEST_F(ExportDialogTest, SaysWhatNothingCanWrite) {
