@@ -15,6 +15,7 @@ void Check(bool holds) {
 void CheckRanges(const kirto::ExportSettings& settings) {
     Check(settings.colors >= 2 && settings.colors <= 256);
     Check(settings.loss >= 0 && settings.loss <= 200);
+    Check(settings.strength >= 0 && settings.strength <= 100);
     Check(settings.scale >= 1 && settings.scale <= 400);
     Check(settings.every >= 1 && settings.every <= kirto::kMostFramesAStep);
     Check(!settings.quality || (*settings.quality >= 0 && *settings.quality <= 100));

@@ -47,6 +47,7 @@ ExportResult WriteGif(const ExportTask& task, const ExportSettings& settings, An
     FaithfulOptions options;
     options.pause_in_seconds = task.pause_in_seconds;
     options.dither = settings.dither;
+    options.dither_strength = settings.strength;
     options.matte = settings.matte;
     options.one_table = settings.one_table;
     options.most_colors = settings.colors;

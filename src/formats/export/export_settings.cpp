@@ -27,7 +27,8 @@ struct NumberChoice {
 constexpr NumberChoice kNumberChoices[] = {{"colors", &ExportSettings::colors, 2, 256},
                                            {"loss", &ExportSettings::loss, 0, 200},
                                            {"scale", &ExportSettings::scale, 1, 400},
-                                           {"every", &ExportSettings::every, 1, kMostFramesAStep}};
+                                           {"every", &ExportSettings::every, 1, kMostFramesAStep},
+                                           {"strength", &ExportSettings::strength, 0, 100}};
 
 constexpr std::pair<const char*, AdaptiveDither> kDithers[] = {
     {"none", AdaptiveDither::kNone},

@@ -102,6 +102,7 @@ FaithfulGifSave::FaithfulGifSave(std::shared_ptr<BFile> file, FaithfulGifTask ta
       reducer_(std::make_unique<ColorReducer>(
           screen_,
           ColorReducer::Options{.dither = task_.options.dither,
+                                .dither_strength = task_.options.dither_strength,
                                 .most_colors = task_.options.most_colors,
                                 .common = SharesColors() ? JointColors() : std::vector<rgb_color>{},
                                 .always_common = task_.options.one_table,

@@ -25,6 +25,7 @@ struct FaithfulOptions {
     int32 most_colors = 256;        // of one frame, 2 to 256
     int64 tolerance = 0;            // colors may be so far off, squared, where it saves bytes
     AdaptiveDither dither = AdaptiveDither::kErrorDiffusion;
+    int32 dither_strength = 100;  // percent
     rgb_color matte{255, 255, 255, 255};
     uint8 threshold = AlphaMatte::kFirstVisible;  // pixels of less alpha are transparent
     std::vector<rgb_color> exact_colors;          // that stay as they are; different ones

@@ -14,6 +14,7 @@ namespace kirto {
 
 namespace {
 
+constexpr int kFullStrength = 100;  // percent
 constexpr int kMostLoss = 200;
 constexpr int kMostQuality = 100;
 constexpr int kUsualQuality = 80;
@@ -39,6 +40,7 @@ ExportForm::ExportForm(QWidget* parent)
     dither_ = new QComboBox(this);
     dither_->addItems({"none", "diffusion", "ordered"});
     AddField("Dither", "&Dither:", dither_);
+    strength_ = AddSlider("Strength", "Stren&gth:", kFullStrength);
     loss_ = AddSlider("Loss", "&Loss:", kMostLoss);
     lossless_ = new QCheckBox("&Keep every pixel", this);
     AddField("Lossless", "", lossless_);
@@ -64,7 +66,10 @@ ExportForm::ExportForm(QWidget* parent)
             format_changed_(static_cast<ExportFormat>(format_->currentIndex()));
         Change();
     });
-    connect(dither_, &QComboBox::currentIndexChanged, this, [this] { Change(); });
+    connect(dither_, &QComboBox::currentIndexChanged, this, [this] {
+        ShowFields();
+        Change();
+    });
     matte_->WhenChosen([this] { Change(); });
     for (QCheckBox* box : {one_table_, lossless_, fits_}) {
         connect(box, &QCheckBox::toggled, this, [this] {
@@ -122,6 +127,7 @@ void ExportForm::ShowFields() {
     for (QWidget* field : {static_cast<QWidget*>(colors_), static_cast<QWidget*>(one_table_),
                            static_cast<QWidget*>(dither_), loss_->parentWidget()})
         form_->setRowVisible(field, gif);
+    form_->setRowVisible(strength_->parentWidget(), gif && dither_->currentIndex() > 0);
     form_->setRowVisible(lossless_, webp);
     form_->setRowVisible(matte_, gif || IsVideo(format));
     form_->setRowVisible(quality_->parentWidget(),
@@ -140,6 +146,7 @@ ExportWish ExportForm::Wish() const {
     settings.colors = colors_->value();
     settings.one_table = one_table_->isChecked();
     settings.dither = static_cast<AdaptiveDither>(dither_->currentIndex());
+    settings.strength = strength_->value();
     settings.loss = loss_->value();
     const bool kept = settings.format == ExportFormat::kWebp && lossless_->isChecked();
     if (!kept) settings.quality = quality_->value();
@@ -158,6 +165,7 @@ void ExportForm::ShowWish(const ExportWish& wish) {
     colors_->setValue(settings.colors);
     one_table_->setChecked(settings.one_table);
     dither_->setCurrentIndex(static_cast<int>(settings.dither));
+    strength_->setValue(settings.strength);
     loss_->setValue(settings.loss);
     lossless_->setChecked(!settings.quality);
     if (settings.quality) quality_->setValue(*settings.quality);

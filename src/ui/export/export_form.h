@@ -52,6 +52,7 @@ class ExportForm : public QWidget {
     QSpinBox* colors_;
     QCheckBox* one_table_;
     QComboBox* dither_;
+    QSlider* strength_;
     QSlider* loss_;
     QCheckBox* lossless_;
     QSlider* quality_;

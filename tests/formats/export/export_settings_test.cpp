@@ -7,10 +7,10 @@ namespace kirto::test {
 TEST(ExportSettings, ReadsEachChoice) {
     ExportSettings settings;
     for (const char* text : {"colors=64", "loss=40", "scale=50", "every=2", "table=one",
-                             "dither=ordered", "quality=80", "matte=0080ff"})
+                             "dither=ordered", "quality=80", "matte=0080ff", "strength=30"})
         EXPECT_EQ(ReadExportChoice(text, &settings), "") << text;
     EXPECT_EQ(TextOf(settings),
-              "colors=64 loss=40 scale=50 every=2 table=one dither=ordered quality=80 "
+              "colors=64 loss=40 scale=50 every=2 strength=30 table=one dither=ordered quality=80 "
               "matte=0080ff");
 }
 
@@ -39,6 +39,7 @@ TEST(ExportSettings, SaysWhichValuesThereAre) {
              std::pair("loss=-1", "loss is to be 0 to 200."),
              std::pair("scale=0", "scale is to be 1 to 400."),
              std::pair("every=101", "every is to be 1 to 100."),
+             std::pair("strength=101", "strength is to be 0 to 100."),
              std::pair("table=two", "table is to be one or each."),
              std::pair("dither=", "dither is to be none, diffusion or ordered."),
              std::pair("quality=101", "quality is to be 0 to 100, or lossless."),
@@ -52,8 +53,8 @@ TEST(ExportSettings, NamesTheChoicesWhereThereIsNoSuchOne) {
     ExportSettings settings;
     for (const char* text : {"", "colours=3", "colors", "=3"})
         EXPECT_EQ(ReadExportChoice(text, &settings),
-                  "The choices are NAME=VALUE; the names are colors, loss, scale, every, table, "
-                  "dither, quality, matte.");
+                  "The choices are NAME=VALUE; the names are colors, loss, scale, every, "
+                  "strength, table, dither, quality, matte.");
 }
 
 TEST(ExportSettings, TheFormatIsThatOfTheExtension) {

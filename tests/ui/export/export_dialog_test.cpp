@@ -139,6 +139,21 @@ TEST_F(ExportDialogTest, ShowsTheChoicesOfTheFormatOnly) {
     EXPECT_TRUE(Named<QSlider>(*dialog, "QualitySlider")->isVisible());
 }
 
+TEST_F(ExportDialogTest, ShowsTheStrengthOfMixingWhereColorsAreMixed) {
+    ASSERT_TRUE(IsDone());
+    auto* strength = Named<QSlider>(*dialog, "StrengthSlider");
+    EXPECT_FALSE(strength->isVisible());
+    Menu("Dither")->setCurrentIndex(2);
+    EXPECT_TRUE(strength->isVisible());
+    strength->setValue(40);
+    ASSERT_TRUE(IsDone());
+    EXPECT_EQ(Write("mixed.gif"), "");
+    EXPECT_EQ(ExportPresets().Last().settings.strength, 40);
+    Menu("Format")->setCurrentIndex(2);
+    EXPECT_FALSE(strength->isVisible());
+    ASSERT_TRUE(IsDone());
+}
+
 TEST_F(ExportDialogTest, LaysSoftEdgesOnTheMatteThatIsChosen) {
     ASSERT_TRUE(IsDone());
     auto* matte = Named<ColorButton>(*dialog, "Matte");
