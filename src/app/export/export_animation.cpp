@@ -51,8 +51,9 @@ ExportResult WriteGif(const ExportTask& task, const ExportSettings& settings, An
     options.matte = settings.matte;
     options.one_table = settings.one_table;
     options.most_colors = settings.colors;
+    options.areas = settings.areas;
     options.tolerance = ToleranceOf(settings.loss);
-    if (options.tolerance > 0) {
+    if (options.tolerance > 0 && options.areas == FrameAreas::kChanged) {
         auto still =
             WithStillPixels(animation, options.Matte(), options.tolerance, task.budget, task.work);
         if (!still) return Interrupted(task);
@@ -90,9 +91,9 @@ ExportResult WriteWebp(const ExportTask& task, const ExportSettings& settings,
     return bytes->empty() ? ExportResult::kNoMemory : ExportResult::kDone;
 }
 
-ExportResult WriteApng(const ExportTask& task, const Animation& animation,
-                       std::vector<uint8>* bytes) {
-    *bytes = EncodeApng(animation, task.pause_in_seconds, task.work);
+ExportResult WriteApng(const ExportTask& task, const ExportSettings& settings,
+                       const Animation& animation, std::vector<uint8>* bytes) {
+    *bytes = EncodeApng(animation, task.pause_in_seconds, settings.areas, task.work);
     return bytes->empty() ? ExportResult::kStopped : ExportResult::kDone;
 }
 
@@ -122,7 +123,7 @@ ExportResult Write(const ExportTask& task, const ExportSettings& settings,
         case ExportFormat::kWebp:
             return WriteWebp(task, settings, animation, bytes);
         case ExportFormat::kApng:
-            return WriteApng(task, animation, bytes);
+            return WriteApng(task, settings, animation, bytes);
         case ExportFormat::kMp4:
         case ExportFormat::kWebm:
             return WriteVideo(task, settings, animation, bytes);

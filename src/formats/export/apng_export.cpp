@@ -24,11 +24,11 @@ struct ApngImage {
 
 class ApngEncoding {
   public:
-    ApngEncoding(const Animation& animation, bool in_seconds, Work& work)
+    ApngEncoding(const Animation& animation, bool in_seconds, FrameAreas areas, Work& work)
         : animation_(animation),
           work_(work),
           pauses_(SpreadMilliseconds(animation, in_seconds)),
-          planner_(animation.width, animation.height) {}
+          planner_(animation.width, animation.height, areas) {}
 
     std::vector<uint8> Run() {
         if (!CountPixels() || !MakeImages()) return {};
@@ -162,8 +162,9 @@ std::vector<uint8> ApngEncoding::File() const {
 
 }  // namespace
 
-std::vector<uint8> EncodeApng(const Animation& animation, bool in_seconds, Work& work) {
-    return ApngEncoding(animation, in_seconds, work).Run();
+std::vector<uint8> EncodeApng(const Animation& animation, bool in_seconds, FrameAreas areas,
+                              Work& work) {
+    return ApngEncoding(animation, in_seconds, areas, work).Run();
 }
 
 }  // namespace kirto

@@ -67,6 +67,12 @@ std::string ReadTable(std::string_view value, ExportSettings* settings) {
     return {};
 }
 
+std::string ReadAreas(std::string_view value, ExportSettings* settings) {
+    if (value != "changed" && value != "whole") return Expected("areas", "changed or whole");
+    settings->areas = value == "whole" ? FrameAreas::kWhole : FrameAreas::kChanged;
+    return {};
+}
+
 std::string ReadQuality(std::string_view value, ExportSettings* settings) {
     int32 quality = 0;
     if (value == "lossless") {
@@ -85,8 +91,11 @@ std::string ReadMatte(std::string_view value, ExportSettings* settings) {
 }
 
 using Reader = std::string (*)(std::string_view, ExportSettings*);
-constexpr std::pair<const char*, Reader> kReaders[] = {
-    {"table", ReadTable}, {"dither", ReadDither}, {"quality", ReadQuality}, {"matte", ReadMatte}};
+constexpr std::pair<const char*, Reader> kReaders[] = {{"table", ReadTable},
+                                                       {"areas", ReadAreas},
+                                                       {"dither", ReadDither},
+                                                       {"quality", ReadQuality},
+                                                       {"matte", ReadMatte}};
 
 std::string UnknownChoice() {
     std::string names;
@@ -167,6 +176,7 @@ std::string TextOf(const ExportSettings& settings) {
     for (const NumberChoice& choice : kNumberChoices)
         text += Format("%s=%d ", choice.name, settings.*choice.field);
     text += std::string("table=") + (settings.one_table ? "one" : "each");
+    text += std::string(" areas=") + (settings.areas == FrameAreas::kWhole ? "whole" : "changed");
     text += std::string(" dither=") + NameOfDither(settings.dither) + " quality=";
     text += settings.quality ? std::to_string(*settings.quality) : "lossless";
     return text + " matte=" + TextOfColor(settings.matte).substr(1);

@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "animation/frame_areas.h"
 #include "base/types.h"
 #include "color/adaptive/adaptive_mapper.h"
 
@@ -22,8 +23,9 @@ struct ExportSettings {
     bool one_table = false;  // GIF: all frames have the same colors
     // GIF: none, as what is mixed of other colors takes more bytes than it is worth
     AdaptiveDither dither = AdaptiveDither::kNone;
-    int32 strength = 100;  // GIF: of mixing, 0 to 100 percent
-    int32 loss = 0;        // GIF: 0 to 200; see ToleranceOf
+    int32 strength = 100;                     // GIF: of mixing, 0 to 100 percent
+    int32 loss = 0;                           // GIF: 0 to 200; see ToleranceOf
+    FrameAreas areas = FrameAreas::kChanged;  // GIF and APNG
     // WebP and videos: 0 to 100, the best. Nothing: WebP keeps every pixel, videos are good.
     std::optional<int32> quality;
     rgb_color matte{255, 255, 255, 255};  // GIF and videos: what soft edges are laid on
@@ -37,9 +39,10 @@ struct ExportSettings {
 std::optional<ExportFormat> ExportFormatOf(const std::string& path);
 const char* NameOf(ExportFormat format);
 
-// Takes over a choice: "colors=64", "table=one" or "each", "dither=none", "diffusion" or "ordered",
-// "strength=50", "loss=40", "quality=80" or "lossless", "matte=RRGGBB", "scale=50", "every=2".
-// Empty; or, where nothing has changed, a sentence that says what is wrong.
+// Takes over a choice: "colors=64", "table=one" or "each", "areas=changed" or "whole",
+// "dither=none", "diffusion" or "ordered", "strength=50", "loss=40", "quality=80" or "lossless",
+// "matte=RRGGBB", "scale=50", "every=2". Empty; or, where nothing has changed, a sentence that says
+// what is wrong.
 std::string ReadExportChoice(std::string_view text, ExportSettings* settings);
 // The same as text, every choice, with blanks between.
 std::string TextOf(const ExportSettings& settings);

@@ -42,6 +42,10 @@ ExportForm::ExportForm(QWidget* parent)
     AddField("Dither", "&Dither:", dither_);
     strength_ = AddSlider("Strength", "Stren&gth:", kFullStrength);
     loss_ = AddSlider("Loss", "&Loss:", kMostLoss);
+    changed_areas_ = new QCheckBox("Cha&nged areas only", this);
+    changed_areas_->setToolTip(
+        "Off: each frame is written whole, for programs that do not build on the one before");
+    AddField("ChangedAreas", "", changed_areas_);
     lossless_ = new QCheckBox("&Keep every pixel", this);
     AddField("Lossless", "", lossless_);
     quality_ = AddSlider("Quality", "&Quality:", kMostQuality);
@@ -71,7 +75,7 @@ ExportForm::ExportForm(QWidget* parent)
         Change();
     });
     matte_->WhenChosen([this] { Change(); });
-    for (QCheckBox* box : {one_table_, lossless_, fits_}) {
+    for (QCheckBox* box : {one_table_, changed_areas_, lossless_, fits_}) {
         connect(box, &QCheckBox::toggled, this, [this] {
             ShowFields();
             Change();
@@ -128,6 +132,7 @@ void ExportForm::ShowFields() {
                            static_cast<QWidget*>(dither_), loss_->parentWidget()})
         form_->setRowVisible(field, gif);
     form_->setRowVisible(strength_->parentWidget(), gif && dither_->currentIndex() > 0);
+    form_->setRowVisible(changed_areas_, gif || format == ExportFormat::kApng);
     form_->setRowVisible(lossless_, webp);
     form_->setRowVisible(matte_, gif || IsVideo(format));
     form_->setRowVisible(quality_->parentWidget(),
@@ -148,6 +153,7 @@ ExportWish ExportForm::Wish() const {
     settings.dither = static_cast<AdaptiveDither>(dither_->currentIndex());
     settings.strength = strength_->value();
     settings.loss = loss_->value();
+    settings.areas = changed_areas_->isChecked() ? FrameAreas::kChanged : FrameAreas::kWhole;
     const bool kept = settings.format == ExportFormat::kWebp && lossless_->isChecked();
     if (!kept) settings.quality = quality_->value();
     const QColor matte = matte_->Color();
@@ -167,6 +173,7 @@ void ExportForm::ShowWish(const ExportWish& wish) {
     dither_->setCurrentIndex(static_cast<int>(settings.dither));
     strength_->setValue(settings.strength);
     loss_->setValue(settings.loss);
+    changed_areas_->setChecked(settings.areas == FrameAreas::kChanged);
     lossless_->setChecked(!settings.quality);
     if (settings.quality) quality_->setValue(*settings.quality);
     matte_->SetColor(QColor(settings.matte.red, settings.matte.green, settings.matte.blue));

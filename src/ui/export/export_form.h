@@ -54,6 +54,7 @@ class ExportForm : public QWidget {
     QComboBox* dither_;
     QSlider* strength_;
     QSlider* loss_;
+    QCheckBox* changed_areas_;
     QCheckBox* lossless_;
     QSlider* quality_;
     ColorButton* matte_;

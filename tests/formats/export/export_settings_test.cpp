@@ -6,11 +6,13 @@ namespace kirto::test {
 
 TEST(ExportSettings, ReadsEachChoice) {
     ExportSettings settings;
-    for (const char* text : {"colors=64", "loss=40", "scale=50", "every=2", "table=one",
-                             "dither=ordered", "quality=80", "matte=0080ff", "strength=30"})
+    for (const char* text :
+         {"colors=64", "loss=40", "scale=50", "every=2", "table=one", "dither=ordered",
+          "quality=80", "matte=0080ff", "strength=30", "areas=whole"})
         EXPECT_EQ(ReadExportChoice(text, &settings), "") << text;
     EXPECT_EQ(TextOf(settings),
-              "colors=64 loss=40 scale=50 every=2 strength=30 table=one dither=ordered quality=80 "
+              "colors=64 loss=40 scale=50 every=2 strength=30 table=one areas=whole dither=ordered "
+              "quality=80 "
               "matte=0080ff");
 }
 
@@ -41,6 +43,7 @@ TEST(ExportSettings, SaysWhichValuesThereAre) {
              std::pair("every=101", "every is to be 1 to 100."),
              std::pair("strength=101", "strength is to be 0 to 100."),
              std::pair("table=two", "table is to be one or each."),
+             std::pair("areas=all", "areas is to be changed or whole."),
              std::pair("dither=", "dither is to be none, diffusion or ordered."),
              std::pair("quality=101", "quality is to be 0 to 100, or lossless."),
              std::pair("matte=#123456", "matte is to be a color RRGGBB."),
@@ -54,7 +57,7 @@ TEST(ExportSettings, NamesTheChoicesWhereThereIsNoSuchOne) {
     for (const char* text : {"", "colours=3", "colors", "=3"})
         EXPECT_EQ(ReadExportChoice(text, &settings),
                   "The choices are NAME=VALUE; the names are colors, loss, scale, every, "
-                  "strength, table, dither, quality, matte.");
+                  "strength, table, areas, dither, quality, matte.");
 }
 
 TEST(ExportSettings, TheFormatIsThatOfTheExtension) {

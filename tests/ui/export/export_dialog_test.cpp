@@ -154,6 +154,21 @@ TEST_F(ExportDialogTest, ShowsTheStrengthOfMixingWhereColorsAreMixed) {
     ASSERT_TRUE(IsDone());
 }
 
+TEST_F(ExportDialogTest, WritesWholeFramesWhereChangedAreasAreNotEnough) {
+    ASSERT_TRUE(IsDone());
+    auto* changed = Named<QCheckBox>(*dialog, "ChangedAreas");
+    EXPECT_TRUE(changed->isChecked());
+    changed->click();
+    ASSERT_TRUE(IsDone());
+    EXPECT_EQ(Write("whole.gif"), "");
+    EXPECT_EQ(ExportPresets().Last().settings.areas, FrameAreas::kWhole);
+    for (const auto& [format, shown] : {std::pair(0, true), {1, false}, {2, true}, {3, false}}) {
+        Menu("Format")->setCurrentIndex(format);
+        EXPECT_EQ(changed->isVisible(), shown) << format;
+    }
+    ASSERT_TRUE(IsDone());
+}
+
 TEST_F(ExportDialogTest, LaysSoftEdgesOnTheMatteThatIsChosen) {
     ASSERT_TRUE(IsDone());
     auto* matte = Named<ColorButton>(*dialog, "Matte");
