@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "app/export/export_frames.h"
+#include "app/export/export_pictures.h"
 #include "formats/export/apng_export.h"
 #include "formats/export/export_canvas.h"
 #include "formats/export/video_export.h"
@@ -115,8 +116,8 @@ ExportResult WriteVideo(const ExportTask& task, const ExportSettings& settings,
     return ExportResult::kStopped;
 }
 
-ExportResult Write(const ExportTask& task, const ExportSettings& settings,
-                   const Animation& animation, std::vector<uint8>* bytes) {
+ExportResult WriteFile(const ExportTask& task, const ExportSettings& settings,
+                       const Animation& animation, std::vector<uint8>* bytes) {
     switch (settings.format) {
         case ExportFormat::kGif:
             return WriteGif(task, settings, animation, bytes);
@@ -127,8 +128,20 @@ ExportResult Write(const ExportTask& task, const ExportSettings& settings,
         case ExportFormat::kMp4:
         case ExportFormat::kWebm:
             return WriteVideo(task, settings, animation, bytes);
+        case ExportFormat::kSheet:
+        case ExportFormat::kImages:
+            break;
     }
     return ExportResult::kNoWriter;
+}
+
+ExportResult Write(const ExportTask& task, const ExportSettings& settings,
+                   const Animation& animation, ExportFiles* files) {
+    if (settings.format == ExportFormat::kSheet)
+        return ExportSheet(task, settings, animation, files);
+    if (settings.format == ExportFormat::kImages)
+        return ExportImages(task, settings, animation, files);
+    return WriteFile(task, settings, animation, &files->contents.emplace_back());
 }
 
 ExportResult Prepare(const ExportTask& task, const ExportSettings& settings,
@@ -151,16 +164,16 @@ ExportResult Prepare(const ExportTask& task, const ExportSettings& settings,
 }  // namespace
 
 ExportResult ExportAnimation(const ExportTask& task, const ExportSettings& settings,
-                             std::vector<uint8>* bytes) {
-    bytes->clear();
+                             ExportFiles* files) {
+    *files = {};
     try {
         std::optional<Animation> animation;
         ExportResult result = Prepare(task, settings, &animation);
-        if (result == ExportResult::kDone) result = Write(task, settings, *animation, bytes);
-        if (result != ExportResult::kDone) bytes->clear();
+        if (result == ExportResult::kDone) result = Write(task, settings, *animation, files);
+        if (result != ExportResult::kDone) *files = {};
         return result;
     } catch (const std::bad_alloc&) {
-        bytes->clear();
+        *files = {};
         return ExportResult::kNoMemory;
     }
 }

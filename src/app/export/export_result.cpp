@@ -17,14 +17,17 @@ std::string SentenceOf(ExportResult result, ExportFormat format) {
         case ExportResult::kNoFrames:
             return "There is no frame to export.";
         case ExportResult::kTooLarge:
+            if (format == ExportFormat::kSheet) return "The sheet would be too large.";
             return std::string("The animation is too large for a ") + NameOf(format) + " file.";
         case ExportResult::kNoWriter:
             if (format == ExportFormat::kMp4 || format == ExportFormat::kWebm)
                 return kNoVideoWriterText;
+            if (HasPictures(format)) return "There is nothing here that writes this image format.";
             return std::string("There is nothing here that writes ") + NameOf(format) + " files.";
         case ExportResult::kNoMemory:
             return "Out of memory.";
         case ExportResult::kFailed:
+            if (HasPictures(format)) return "The image can't be written in this format.";
             return "The program that writes videos has failed.";
         case ExportResult::kTooManyBytes:
             return "The animation can't be made so small.";

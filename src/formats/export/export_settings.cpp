@@ -28,7 +28,9 @@ constexpr NumberChoice kNumberChoices[] = {{"colors", &ExportSettings::colors, 2
                                            {"loss", &ExportSettings::loss, 0, 200},
                                            {"scale", &ExportSettings::scale, 1, 400},
                                            {"every", &ExportSettings::every, 1, kMostFramesAStep},
-                                           {"strength", &ExportSettings::strength, 0, 100}};
+                                           {"strength", &ExportSettings::strength, 0, 100},
+                                           {"columns", &ExportSettings::columns, 0, kMostColumns},
+                                           {"padding", &ExportSettings::padding, 0, kMostPadding}};
 
 constexpr std::pair<const char*, AdaptiveDither> kDithers[] = {
     {"none", AdaptiveDither::kNone},
@@ -40,6 +42,7 @@ constexpr std::pair<const char*, ExportFormat> kExtensions[] = {
     {".apng", ExportFormat::kApng}, {".mp4", ExportFormat::kMp4},   {".webm", ExportFormat::kWebm}};
 
 constexpr int32 kBestQuality = 100;
+constexpr size_t kLongestExtension = 8;
 
 std::string Expected(std::string_view name, const std::string& values) {
     return Format("%.*s is to be %s.", static_cast<int>(name.size()), name.data(), values.c_str());
@@ -85,24 +88,47 @@ std::string ReadQuality(std::string_view value, ExportSettings* settings) {
     return {};
 }
 
+// Texts are words of letters and digits.
+std::string ReadImage(std::string_view value, ExportSettings* settings) {
+    const bool sound = !value.empty() && value.size() <= kLongestExtension &&
+                       std::all_of(value.begin(), value.end(), [](char c) {
+                           return (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9');
+                       });
+    if (!sound) return Expected("image", "the extension of an image file, such as png");
+    settings->image = value;
+    return {};
+}
+
+std::string ReadFormat(std::string_view value, ExportSettings* settings) {
+    if (value == "sheet") {
+        settings->format = ExportFormat::kSheet;
+    } else if (value == "images") {
+        settings->format = ExportFormat::kImages;
+    } else if (value != "file") {
+        return Expected("format", "sheet, images or file");
+    } else if (HasPictures(settings->format)) {
+        settings->format = ExportFormat::kGif;
+    }
+    return {};
+}
+
 std::string ReadMatte(std::string_view value, ExportSettings* settings) {
     if (ParseColor("#" + std::string(value), &settings->matte)) return {};
     return Expected("matte", "a color RRGGBB");
 }
 
 using Reader = std::string (*)(std::string_view, ExportSettings*);
-constexpr std::pair<const char*, Reader> kReaders[] = {{"table", ReadTable},
-                                                       {"areas", ReadAreas},
-                                                       {"dither", ReadDither},
-                                                       {"quality", ReadQuality},
-                                                       {"matte", ReadMatte}};
+constexpr std::pair<const char*, Reader> kReaders[] = {
+    {"table", ReadTable}, {"areas", ReadAreas}, {"dither", ReadDither}, {"quality", ReadQuality},
+    {"matte", ReadMatte}, {"image", ReadImage}, {"format", ReadFormat}};
 
 std::string UnknownChoice() {
     std::string names;
     for (const NumberChoice& choice : kNumberChoices)
         names += std::string(choice.name) + ", ";
     for (const auto& [name, reader] : kReaders)
-        names += std::string(name) + (name == std::string_view("matte") ? "" : ", ");
+        names += std::string(name) + ", ";
+    names.resize(names.size() - 2);
     return "The choices are NAME=VALUE; the names are " + names + ".";
 }
 
@@ -140,13 +166,22 @@ bool operator==(const ExportSettings& a, const ExportSettings& b) {
 }
 
 std::optional<ExportFormat> ExportFormatOf(const std::string& path) {
-    std::string extension = std::filesystem::path(path).extension().string();
-    std::transform(extension.begin(), extension.end(), extension.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    const std::string extension = '.' + ExtensionOf(path);
     for (const auto& [known, format] : kExtensions) {
         if (extension == known) return format;
     }
     return std::nullopt;
+}
+
+std::string ExtensionOf(const std::string& path) {
+    std::string extension = std::filesystem::path(path).extension().string();
+    std::transform(extension.begin(), extension.end(), extension.begin(),
+                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    return extension.empty() ? extension : extension.substr(1);
+}
+
+bool HasPictures(ExportFormat format) {
+    return format == ExportFormat::kSheet || format == ExportFormat::kImages;
 }
 
 const char* NameOf(ExportFormat format) {
@@ -161,6 +196,10 @@ const char* NameOf(ExportFormat format) {
             return "MP4";
         case ExportFormat::kWebm:
             return "WebM";
+        case ExportFormat::kSheet:
+            return "Sheet";
+        case ExportFormat::kImages:
+            return "Images";
     }
     return "";
 }
@@ -179,7 +218,7 @@ std::string TextOf(const ExportSettings& settings) {
     text += std::string(" areas=") + (settings.areas == FrameAreas::kWhole ? "whole" : "changed");
     text += std::string(" dither=") + NameOfDither(settings.dither) + " quality=";
     text += settings.quality ? std::to_string(*settings.quality) : "lossless";
-    return text + " matte=" + TextOfColor(settings.matte).substr(1);
+    return text + " matte=" + TextOfColor(settings.matte).substr(1) + " image=" + settings.image;
 }
 
 std::string GivenUp(const ExportSettings& wanted, const ExportSettings& given) {

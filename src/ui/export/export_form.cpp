@@ -6,6 +6,7 @@
 #include <QHBoxLayout>
 #include <QSlider>
 #include <QSpinBox>
+#include <algorithm>
 
 #include "base/byte_order.h"
 #include "ui/controls/color_button.h"
@@ -28,10 +29,11 @@ bool IsVideo(ExportFormat format) {
 
 }  // namespace
 
-ExportForm::ExportForm(QWidget* parent)
+ExportForm::ExportForm(const std::vector<ImageKind>& kinds, QWidget* parent)
     : QWidget(parent), form_(new QFormLayout(this)), format_(new QComboBox(this)) {
     form_->setContentsMargins(0, 0, 0, 0);
-    for (const char* name : {"GIF", "WebP", "Animated PNG", "MP4 video", "WebM video"})
+    for (const char* name : {"GIF", "WebP", "Animated PNG", "MP4 video", "WebM video",
+                             "Sheet with JSON", "Numbered images"})
         format_->addItem(name);
     AddField("Format", "F&ormat:", format_);
     colors_ = AddNumber("Colors", "&Colors:", 2, 256);
@@ -52,8 +54,25 @@ ExportForm::ExportForm(QWidget* parent)
     quality_->setValue(kUsualQuality);
     matte_ = new ColorButton(this);
     AddField("Matte", "Ma&tte:", matte_);
+    AddSheetFields(kinds);
     scale_ = AddNumber("Scale", "&Scale:", 1, kMostScale, " %");
     every_ = AddNumber("Every", "&Every n-th frame:", 1, kMostFramesAStep);
+    AddLimit();
+    Listen();
+    ShowWish({});
+}
+
+void ExportForm::AddSheetFields(const std::vector<ImageKind>& kinds) {
+    image_ = new QComboBox(this);
+    for (const ImageKind& kind : kinds)
+        image_->addItem(QString::fromStdString(kind.name), QString::fromStdString(kind.extension));
+    AddField("Image", "&Image format:", image_);
+    columns_ = AddNumber("Columns", "Colum&ns:", 0, kMostColumns);
+    columns_->setSpecialValueText("as many as rows");
+    padding_ = AddNumber("Padding", "Pa&dding:", 0, kMostPadding, " px");
+}
+
+void ExportForm::AddLimit() {
     fits_ = new QCheckBox("Fit &under", this);
     fits_->setObjectName("Fits");
     kilobytes_ = new QSpinBox(this);
@@ -64,12 +83,16 @@ ExportForm::ExportForm(QWidget* parent)
     kilobytes_->setValue(kUsualKilobytes);
     form_->addRow(fits_, kilobytes_);
     connect(kilobytes_, &QSpinBox::valueChanged, this, [this] { Change(); });
+}
+
+void ExportForm::Listen() {
     connect(format_, &QComboBox::currentIndexChanged, this, [this] {
         ShowFields();
         if (!showing_ && format_changed_)
             format_changed_(static_cast<ExportFormat>(format_->currentIndex()));
         Change();
     });
+    connect(image_, &QComboBox::currentIndexChanged, this, [this] { Change(); });
     connect(dither_, &QComboBox::currentIndexChanged, this, [this] {
         ShowFields();
         Change();
@@ -81,7 +104,6 @@ ExportForm::ExportForm(QWidget* parent)
             Change();
         });
     }
-    ShowWish({});
 }
 
 void ExportForm::AddField(const char* name, const char* label, QWidget* field) {
@@ -137,6 +159,9 @@ void ExportForm::ShowFields() {
     form_->setRowVisible(matte_, gif || IsVideo(format));
     form_->setRowVisible(quality_->parentWidget(),
                          IsVideo(format) || (webp && !lossless_->isChecked()));
+    form_->setRowVisible(image_, HasPictures(format));
+    for (QSpinBox* field : {columns_, padding_})
+        form_->setRowVisible(field, format == ExportFormat::kSheet);
     kilobytes_->setEnabled(fits_->isChecked());
 }
 
@@ -158,6 +183,9 @@ ExportWish ExportForm::Wish() const {
     if (!kept) settings.quality = quality_->value();
     const QColor matte = matte_->Color();
     settings.matte = {LowByte(matte.red()), LowByte(matte.green()), LowByte(matte.blue()), 255};
+    settings.image = image_->currentData().toString().toStdString();
+    settings.columns = columns_->value();
+    settings.padding = padding_->value();
     settings.scale = scale_->value();
     settings.every = every_->value();
     if (fits_->isChecked()) wish.kilobytes = kilobytes_->value();
@@ -177,6 +205,9 @@ void ExportForm::ShowWish(const ExportWish& wish) {
     lossless_->setChecked(!settings.quality);
     if (settings.quality) quality_->setValue(*settings.quality);
     matte_->SetColor(QColor(settings.matte.red, settings.matte.green, settings.matte.blue));
+    image_->setCurrentIndex(std::max(image_->findData(QString::fromStdString(settings.image)), 0));
+    columns_->setValue(settings.columns);
+    padding_->setValue(settings.padding);
     scale_->setValue(settings.scale);
     every_->setValue(settings.every);
     fits_->setChecked(wish.kilobytes.has_value());

@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "app/export/fit_under.h"
+#include "app/export/image_encoder.h"
 
 class QCheckBox;
 class QComboBox;
@@ -19,7 +20,7 @@ class ColorButton;
 // What an export is to be like.
 struct ExportWish {
     ExportSettings settings;
-    std::optional<int32> kilobytes;  // that the file may have; thousands of bytes
+    std::optional<int32> kilobytes;  // that the files may have; thousands of bytes
 
     bool operator==(const ExportWish&) const = default;
 };
@@ -28,7 +29,8 @@ struct ExportWish {
 // thread.
 class ExportForm : public QWidget {
   public:
-    explicit ExportForm(QWidget* parent = nullptr);
+    // kinds: of the files of sheets and images; at least one.
+    explicit ExportForm(const std::vector<ImageKind>& kinds, QWidget* parent = nullptr);
 
     ExportWish Wish() const;
     void ShowWish(const ExportWish& wish);
@@ -44,6 +46,9 @@ class ExportForm : public QWidget {
                         const char* unit = "");
     QSlider* AddSlider(const char* name, const char* label, int last);
     void AddField(const char* name, const char* label, QWidget* field);
+    void AddSheetFields(const std::vector<ImageKind>& kinds);
+    void AddLimit();
+    void Listen();
     void ShowFields();
     void Change();
 
@@ -58,6 +63,9 @@ class ExportForm : public QWidget {
     QCheckBox* lossless_;
     QSlider* quality_;
     ColorButton* matte_;
+    QComboBox* image_;  // the data of its items are extensions
+    QSpinBox* columns_;
+    QSpinBox* padding_;
     QSpinBox* scale_;
     QSpinBox* every_;
     QCheckBox* fits_;

@@ -7,6 +7,7 @@
 #include <QPushButton>
 #include <QSlider>
 #include <QSpinBox>
+#include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <iterator>
@@ -190,6 +191,46 @@ TEST_F(ExportDialogTest, ShowsTheMatteWhereTransparentPixelsAreLost) {
         EXPECT_EQ(matte->isVisible(), shown) << format;
     }
     ASSERT_TRUE(IsDone());
+}
+
+TEST_F(ExportDialogTest, WritesASheetWithItsTextAndShowsTheSizeOfBoth) {
+    ASSERT_TRUE(IsDone());
+    Menu("Format")->setCurrentIndex(5);
+    EXPECT_TRUE(Number("Columns")->isVisible());
+    EXPECT_FALSE(Number("Colors")->isVisible());
+    Number("Columns")->setValue(1);
+    Number("Padding")->setValue(3);
+    ASSERT_TRUE(IsDone());
+    EXPECT_EQ(Write("two.png"), "");
+    EXPECT_EQ(Named<QLabel>(*dialog, "Size")->toolTip(),
+              QString("%1 bytes").arg(SizeOf("two.png") + SizeOf("two.json")));
+    const ExportSettings last = ExportPresets().Last().settings;
+    EXPECT_EQ(last.format, ExportFormat::kSheet);
+    EXPECT_EQ(last.columns, 1);
+    EXPECT_EQ(last.padding, 3);
+}
+
+TEST_F(ExportDialogTest, PlaysNumberedImagesOfTheKindThatIsChosen) {
+    ASSERT_TRUE(IsDone());
+    Menu("Format")->setCurrentIndex(6);
+    EXPECT_FALSE(Number("Columns")->isVisible());
+    Menu("Image")->setCurrentIndex(Menu("Image")->findData("raw"));
+    ASSERT_TRUE(IsDone());
+    View()->SetPlaying(false);
+    View()->ShowTime(1500);
+    EXPECT_TRUE(Shows(View()->Result(), kGreen));
+    EXPECT_EQ(Write("two.raw"), "");
+    EXPECT_GT(SizeOf("two0001.raw"), 0u);
+    EXPECT_EQ(ExportPresets().Last(ExportFormat::kImages).settings.image, "raw");
+}
+
+TEST_F(ExportDialogTest, TellsHowManyFilesWereWrittenWhereOneCanNotBe) {
+    ASSERT_TRUE(IsDone());
+    Menu("Format")->setCurrentIndex(6);
+    ASSERT_TRUE(IsDone());
+    std::filesystem::create_directory(folder.File("two0001.png"));
+    EXPECT_TRUE(Write("two.png").ends_with(" 0 of 2 files were written."));
+    EXPECT_EQ(SizeOf("two0000.png"), 0u);
 }
 
 TEST_F(ExportDialogTest, SaysWhatNothingCanWrite) {
