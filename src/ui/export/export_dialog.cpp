@@ -5,6 +5,7 @@
 #include <QDialogButtonBox>
 #include <QFile>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QInputDialog>
 #include <QLabel>
@@ -237,35 +238,37 @@ void ExportDialog::Choose() {
     // Images have other names than the one that is chosen.
     const auto options =
         files_ && files_->numbered ? QFileDialog::DontConfirmOverwrite : QFileDialog::Options();
-    QString path = QFileDialog::getSaveFileName(
+    const QString chosen = QFileDialog::getSaveFileName(
         this, "Export As", source_.folder + '/' + ProposedName(settings),
         QString("%1 (*.%2)").arg(NameOf(settings.format), extension), nullptr, options);
-    if (path.isEmpty()) return;
-    const bool named =
-        HasPictures(settings.format) ? path.endsWith('.' + extension) : path.contains('.');
-    if (!named) path += '.' + extension;
-    if (!MayReplace(path)) return;
+    if (chosen.isEmpty()) return;
+    const QString suffix = QFileInfo(chosen).suffix();
+    const bool named = HasPictures(settings.format)
+                           ? suffix.compare(extension, Qt::CaseInsensitive) == 0
+                           : !suffix.isEmpty();
+    const QString path = named ? chosen : chosen + '.' + extension;
+    if (!MayReplace(path, chosen)) return;
     Write(path, [this](const QString& problem) {
         if (!problem.isEmpty()) return Warn(problem.toStdString());
         accept();
     });
 }
 
-// The file dialog has asked about the file of that name.
-bool ExportDialog::MayReplace(const QString& path) {
+// confirmed: about that file the file dialog has asked.
+bool ExportDialog::MayReplace(const QString& path, const QString& confirmed) {
     if (!files_) return false;
     qsizetype there = 0;
     for (const std::string& each : files_->PathsAt(QFile::encodeName(path).toStdString())) {
         const QString other = QFile::decodeName(each.c_str());
-        if (other != path && QFile::exists(other)) ++there;
+        if (other != confirmed && QFile::exists(other)) ++there;
     }
     if (there == 0) return true;
-    BAlert alert("",
-                 QString("Some of the files exist already (%1). Do you want to replace them?")
-                     .arg(there)
-                     .toStdString(),
-                 "Replace", "Cancel");
-    return alert.Go() == 0;
+    const QString question =
+        files_->Count() == 1
+            ? QString("The file exists already. Do you want to replace it?")
+            : QString("Some of the files exist already (%1). Do you want to replace them?")
+                  .arg(there);
+    return BAlert("", question.toStdString(), "Replace", "Cancel").Go() == 0;
 }
 
 void ExportDialog::Write(const QString& path, std::function<void(const QString& problem)> done) {

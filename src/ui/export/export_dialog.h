@@ -52,7 +52,7 @@ class ExportDialog : public QDialog {
     void RemovePreset();
     QString ExtensionOf(const ExportSettings& settings) const;
     QString ProposedName(const ExportSettings& settings) const;
-    bool MayReplace(const QString& path);
+    bool MayReplace(const QString& path, const QString& confirmed);
 
     const Source source_;
     ExportPresets presets_;
