@@ -15,6 +15,10 @@ void Check(bool holds) {
 void CheckRanges(const kirto::ExportSettings& settings) {
     Check(settings.colors >= 2 && settings.colors <= 256);
     Check(settings.loss >= 0 && settings.loss <= 200);
+    Check(settings.strength >= 0 && settings.strength <= 100);
+    Check(settings.columns >= 0 && settings.columns <= kirto::kMostColumns);
+    Check(settings.padding >= 0 && settings.padding <= kirto::kMostPadding);
+    Check(!settings.image.empty() && settings.image.find(' ') == std::string::npos);
     Check(settings.scale >= 1 && settings.scale <= 400);
     Check(settings.every >= 1 && settings.every <= kirto::kMostFramesAStep);
     Check(!settings.quality || (*settings.quality >= 0 && *settings.quality <= 100));
@@ -39,6 +43,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     ReadAll(text, '\n', &settings);
     CheckRanges(settings);
     kirto::ExportSettings again;
+    again.format = settings.format;
     ReadAll(kirto::TextOf(settings), ' ', &again);
     Check(again == settings);
     const auto bytes = kirto::ParseByteSize(text);

@@ -45,7 +45,7 @@ void Kirto::SaveSheet(BMessage* message) {
     int64 translator = 0;
     entry_ref directory;
     std::string name;
-    kirto::SheetSave::Layout layout;
+    kirto::SheetDrawing::Layout layout;
     if (message->FindInt64("translator_id", &translator) != B_OK ||
         message->FindRef("directory", &directory) != B_OK ||
         message->FindString("name", &name) != B_OK) {

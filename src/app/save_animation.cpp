@@ -84,11 +84,6 @@ std::string PathIn(const std::string& directory, const std::string& name) {
     return directory.empty() ? "" : (std::filesystem::path(directory) / name).string();
 }
 
-std::string SequenceFileName(const std::string& file_name, int32 index) {
-    const size_t dot = std::min(file_name.find('.'), file_name.size());
-    return file_name.substr(0, dot) + Format("%04d", index) + file_name.substr(dot);
-}
-
 SaveResult SaveAnimatedGif(AnimationDocument& document, const std::string& path,
                            std::string* loss) {
     if (document.Current()->FrameLargerThanCanvas()) return SaveResult::kFrameTooLarge;

@@ -12,10 +12,6 @@ namespace kirto {
 // the folder that the program happens to run in.
 std::string PathIn(const std::string& directory, const std::string& name);
 
-// The name of one image file of a sequence that is saved as file_name: the number goes before the
-// first dot, "anim.png" gives "anim0007.png".
-std::string SequenceFileName(const std::string& file_name, int32 index);
-
 // The alert when a file can't be created.
 inline constexpr const char* kFileNotCreatedText = CoreText::Later(
     "The animation can't be saved because the file could not be created at this location.");

@@ -3,6 +3,7 @@
 #include <thread>
 #include <utility>
 
+#include "app/export/sequence_name.h"
 #include "app/save_animation.h"
 #include "base/run_in_order.h"
 #include "kit/alert.h"

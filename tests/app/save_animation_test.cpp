@@ -221,13 +221,6 @@ TEST(SavePreviewGif, CanNotBeCreatedInAMissingFolder) {
     EXPECT_EQ(fixture.SavePreview(), SaveResult::kFileNotCreated);
 }
 
-TEST(SequenceFileName, PutsTheNumberBeforeTheFirstDot) {
-    EXPECT_EQ(SequenceFileName("movie.tiff", 2), "movie0002.tiff");
-    EXPECT_EQ(SequenceFileName("a.b.png", 0), "a0000.b.png");
-    EXPECT_EQ(SequenceFileName("movie", 12345), "movie12345");
-    EXPECT_EQ(SequenceFileName(".png", 7), "0007.png");
-}
-
 TEST(SaveAnimation, OfColorsThatNoPaletteHasIsExactOnceItIsFaithful) {
     SaveFixture saved;
     AppendFrame(saved.document, PictureOf(2, 1, {0xFF123456, 0}), "odd");

@@ -40,6 +40,51 @@ TEST(KirtoCliExport, ChoicesHoldForTheExportsThatFollow) {
     EXPECT_EQ(some["global_width"], 4);
 }
 
+TEST(KirtoCliExport, WritesSheetsThatComeBackByTheirText) {
+    const Exporting home;
+    for (const std::string ending : {"png", "webp"}) {
+        const RunResult result = home.Run(
+            {"--quiet", "--open", "three.gif", "--export-set", "format=sheet", "--export-set",
+             "columns=2", "--export-set", "padding=1", "--export", "sheet." + ending});
+        EXPECT_EQ(result.status, 0) << result.err;
+        const auto size = std::filesystem::file_size(home.File("sheet." + ending)) +
+                          std::filesystem::file_size(home.File("sheet.json"));
+        EXPECT_EQ(result.out,
+                  "sheet." + ending + ": 2 files, " + std::to_string(size) + " bytes\n");
+        const Json info = home.Info({"--insert-tiled", "sheet.json"});
+        EXPECT_EQ(info["frames"].size(), 3u) << ending;
+        EXPECT_EQ(info["frames"][2]["pause_length"], 20.0);
+        if (ending == "png") {
+            EXPECT_EQ(home.Frames({"--insert-tiled", "sheet.json"}),
+                      home.Frames({"--open", "three.gif"}));
+        }
+    }
+}
+
+TEST(KirtoCliExport, WritesNumberedImagesAndThenFilesByTheirNameAgain) {
+    const Exporting home;
+    const RunResult result = home.Run(
+        {"--quiet", "--open", "three.gif", "--export-set", "format=images", "--export-set",
+         "every=2", "--export", "walk.png", "--export-set", "format=file", "--export", "walk.gif"});
+    EXPECT_EQ(result.status, 0) << result.err;
+    EXPECT_EQ(home.Files(),
+              (std::vector<std::string>{"three.gif", "walk.gif", "walk0000.png", "walk0001.png"}));
+    const auto frames = home.Frames({"--open", "three.gif"});
+    EXPECT_EQ(home.Frames({"--insert", "walk0000.png", "--insert", "walk0001.png"}),
+              (std::vector<Colors>{frames[0], frames[2]}));
+}
+
+TEST(KirtoCliExport, SaysWhichImagesCanNotBeWritten) {
+    const Exporting home;
+    home.Fail({"--open", "three.gif", "--export-set", "format=images", "--export", "walk.nothing"},
+              "walk.nothing: There is nothing here that writes this image format.", 1);
+    std::filesystem::create_directory(home.File("walk0001.png"));
+    home.Fail({"--open", "three.gif", "--export-set", "format=images", "--export", "walk.png"},
+              "walk.png: The animation can't be saved because the file could not be created at "
+              "this location. 0 of 3 files were written.",
+              1);
+}
+
 TEST(KirtoCliExport, WritesVideosThatComeBackWithTheirPauses) {
     Exporting home;
     if (!FindProgram("ffmpeg") || !FindProgram("ffprobe")) GTEST_SKIP() << "without ffmpeg";

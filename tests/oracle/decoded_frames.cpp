@@ -116,7 +116,7 @@ void ExportScenes(uint32 seed, const std::string& path) {
     ExportSettings settings;
     settings.loss = choices.Between(0, 200);
     settings.colors = choices.Between(2, 256);
-    const QtTranslatorRoster roster;
+    QtTranslatorRoster roster;
     Work work;
     const ExportTask task = {fixture.document.Current(), false, fixture.document.pixel_budget,
                              roster, work};
@@ -124,8 +124,9 @@ void ExportScenes(uint32 seed, const std::string& path) {
          {std::pair(ExportFormat::kGif, ".gif"), std::pair(ExportFormat::kApng, ".png"),
           std::pair(ExportFormat::kWebp, ".webp")}) {
         settings.format = format;
-        std::vector<uint8> bytes;
-        ExportAnimation(task, settings, &bytes);
+        ExportFiles files;
+        ExportAnimation(task, settings, &files);
+        const std::vector<uint8>& bytes = files.contents.at(0);
         if (Moves(bytes, format)) WriteBytes(path + ending, bytes);
     }
 }

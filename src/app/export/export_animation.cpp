@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "app/export/export_frames.h"
+#include "app/export/export_pictures.h"
 #include "formats/export/apng_export.h"
 #include "formats/export/export_canvas.h"
 #include "formats/export/video_export.h"
@@ -47,11 +48,13 @@ ExportResult WriteGif(const ExportTask& task, const ExportSettings& settings, An
     FaithfulOptions options;
     options.pause_in_seconds = task.pause_in_seconds;
     options.dither = settings.dither;
+    options.dither_strength = settings.strength;
     options.matte = settings.matte;
     options.one_table = settings.one_table;
     options.most_colors = settings.colors;
+    options.areas = settings.areas;
     options.tolerance = ToleranceOf(settings.loss);
-    if (options.tolerance > 0) {
+    if (options.tolerance > 0 && options.areas == FrameAreas::kChanged) {
         auto still =
             WithStillPixels(animation, options.Matte(), options.tolerance, task.budget, task.work);
         if (!still) return Interrupted(task);
@@ -89,9 +92,9 @@ ExportResult WriteWebp(const ExportTask& task, const ExportSettings& settings,
     return bytes->empty() ? ExportResult::kNoMemory : ExportResult::kDone;
 }
 
-ExportResult WriteApng(const ExportTask& task, const Animation& animation,
-                       std::vector<uint8>* bytes) {
-    *bytes = EncodeApng(animation, task.pause_in_seconds, task.work);
+ExportResult WriteApng(const ExportTask& task, const ExportSettings& settings,
+                       const Animation& animation, std::vector<uint8>* bytes) {
+    *bytes = EncodeApng(animation, task.pause_in_seconds, settings.areas, task.work);
     return bytes->empty() ? ExportResult::kStopped : ExportResult::kDone;
 }
 
@@ -113,20 +116,32 @@ ExportResult WriteVideo(const ExportTask& task, const ExportSettings& settings,
     return ExportResult::kStopped;
 }
 
-ExportResult Write(const ExportTask& task, const ExportSettings& settings,
-                   const Animation& animation, std::vector<uint8>* bytes) {
+ExportResult WriteFile(const ExportTask& task, const ExportSettings& settings,
+                       const Animation& animation, std::vector<uint8>* bytes) {
     switch (settings.format) {
         case ExportFormat::kGif:
             return WriteGif(task, settings, animation, bytes);
         case ExportFormat::kWebp:
             return WriteWebp(task, settings, animation, bytes);
         case ExportFormat::kApng:
-            return WriteApng(task, animation, bytes);
+            return WriteApng(task, settings, animation, bytes);
         case ExportFormat::kMp4:
         case ExportFormat::kWebm:
             return WriteVideo(task, settings, animation, bytes);
+        case ExportFormat::kSheet:
+        case ExportFormat::kImages:
+            break;
     }
     return ExportResult::kNoWriter;
+}
+
+ExportResult Write(const ExportTask& task, const ExportSettings& settings,
+                   const Animation& animation, ExportFiles* files) {
+    if (settings.format == ExportFormat::kSheet)
+        return ExportSheet(task, settings, animation, files);
+    if (settings.format == ExportFormat::kImages)
+        return ExportImages(task, settings, animation, files);
+    return WriteFile(task, settings, animation, &files->contents.emplace_back());
 }
 
 ExportResult Prepare(const ExportTask& task, const ExportSettings& settings,
@@ -149,16 +164,16 @@ ExportResult Prepare(const ExportTask& task, const ExportSettings& settings,
 }  // namespace
 
 ExportResult ExportAnimation(const ExportTask& task, const ExportSettings& settings,
-                             std::vector<uint8>* bytes) {
-    bytes->clear();
+                             ExportFiles* files) {
+    *files = {};
     try {
         std::optional<Animation> animation;
         ExportResult result = Prepare(task, settings, &animation);
-        if (result == ExportResult::kDone) result = Write(task, settings, *animation, bytes);
-        if (result != ExportResult::kDone) bytes->clear();
+        if (result == ExportResult::kDone) result = Write(task, settings, *animation, files);
+        if (result != ExportResult::kDone) *files = {};
         return result;
     } catch (const std::bad_alloc&) {
-        bytes->clear();
+        *files = {};
         return ExportResult::kNoMemory;
     }
 }

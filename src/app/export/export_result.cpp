@@ -19,16 +19,22 @@ std::string SentenceOf(ExportResult result, ExportFormat format) {
         case ExportResult::kNoFrames:
             return CoreText::tr("There is no frame to export.");
         case ExportResult::kTooLarge:
+            if (format == ExportFormat::kSheet)
+                return CoreText::tr("The sheet would be too large.");
             return CoreText::With(CoreText::tr("The animation is too large for a %1 file."),
                                   {NameOf(format)});
         case ExportResult::kNoWriter:
             if (format == ExportFormat::kMp4 || format == ExportFormat::kWebm)
                 return CoreText::tr(kNoVideoWriterText);
+            if (HasPictures(format))
+                return CoreText::tr("There is nothing here that writes this image format.");
             return CoreText::With(CoreText::tr("There is nothing here that writes %1 files."),
                                   {NameOf(format)});
         case ExportResult::kNoMemory:
             return CoreText::tr("Out of memory.");
         case ExportResult::kFailed:
+            if (HasPictures(format))
+                return CoreText::tr("The image can't be written in this format.");
             return CoreText::tr("The program that writes videos has failed.");
         case ExportResult::kTooManyBytes:
             return CoreText::tr("The animation can't be made so small.");

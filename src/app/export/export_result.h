@@ -12,7 +12,7 @@ enum class ExportResult {
     kTooLarge,  // the format has no room for such sides
     kNoWriter,  // nothing here writes the format
     kNoMemory,
-    kFailed,        // of the program that writes videos
+    kFailed,        // of what writes videos or image files
     kTooManyBytes,  // however it is exported, its file is larger than it may be
     kStopped
 };

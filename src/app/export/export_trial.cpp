@@ -6,9 +6,12 @@
 #include <unistd.h>
 #include <utility>
 
+#include "app/export/export_frames.h"
+#include "app/export/read_pictures.h"
 #include "base/debug_line.h"
 #include "base/file_descriptor.h"
 #include "base/text.h"
+#include "formats/export/export_canvas.h"
 #include "formats/gif/gif_load.h"
 #include "formats/images/animated_image_load.h"
 #include "formats/video/video_reader.h"
@@ -49,25 +52,35 @@ void ExportTrial::Stop() {
 
 ExportTrial::Outcome ExportTrial::Run() {
     Outcome outcome;
-    const ExportTask export_task = {task_.animation, task_.pause_in_seconds, task_.budget,
-                                    task_.roster, work_};
+    const ExportTask export_task = {
+        task_.animation, task_.pause_in_seconds, task_.budget, task_.roster, work_, task_.name};
     if (task_.limit) {
-        outcome.result = FitUnder(*task_.limit, export_task, task_.settings, &outcome.file);
+        outcome.result = FitUnder(*task_.limit, export_task, task_.settings, &outcome.made);
     } else {
-        outcome.file.settings = task_.settings;
-        outcome.result = ExportAnimation(export_task, task_.settings, &outcome.file.bytes);
+        outcome.made.settings = task_.settings;
+        outcome.result = ExportAnimation(export_task, task_.settings, &outcome.made.files);
     }
     if (outcome.result != ExportResult::kDone) return outcome;
     try {
-        Read(outcome.file.bytes);
-        if (read_.FrameCount() > 0) outcome.shown = read_.Current();
+        outcome.shown = Read(outcome.made);
     } catch (const std::bad_alloc&) {
-        // The file is there; its picture is not.
+        // The files are there; their pictures are not.
     }
     return outcome;
 }
 
-void ExportTrial::Read(const std::vector<uint8>& bytes) {
+std::shared_ptr<const Animation> ExportTrial::Read(const FittedExport& made) {
+    if (HasPictures(made.settings.format)) {
+        const Animation kept = EveryNthFrame(*task_.animation, made.settings.every);
+        return ReadPictures(
+            made.files, {task_.roster, read_.pixel_budget, [this] { return read_.StopRequested(); },
+                         SpreadMilliseconds(kept, task_.pause_in_seconds)});
+    }
+    ReadFile(made.files.contents.front());
+    return read_.FrameCount() > 0 ? read_.Current() : nullptr;
+}
+
+void ExportTrial::ReadFile(const std::vector<uint8>& bytes) {
     const DebugLineCapture lines;
     const auto file = BFile::OnMemory(bytes);
     switch (task_.settings.format) {
@@ -83,6 +96,9 @@ void ExportTrial::Read(const std::vector<uint8>& bytes) {
         case ExportFormat::kMp4:
         case ExportFormat::kWebm:
             ReadVideo(bytes);
+            break;
+        case ExportFormat::kSheet:
+        case ExportFormat::kImages:
             break;
     }
 }

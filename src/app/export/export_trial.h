@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <optional>
+#include <string>
 
 #include "animation/animation.h"
 #include "app/export/fit_under.h"
@@ -19,13 +20,14 @@ class ExportTrial {
         std::shared_ptr<const Animation> animation;
         bool pause_in_seconds = false;
         std::shared_ptr<PixelBudget> budget;
-        const BTranslatorRoster& roster;  // outlives the trial
+        BTranslatorRoster& roster;  // outlives the trial
         ExportSettings settings;
-        std::optional<uint64> limit;  // bytes that the file may have
+        std::optional<uint64> limit;  // bytes that the files may have
+        std::string name{};           // that the file is proposed to have
     };
     struct Outcome {
         ExportResult result = ExportResult::kStopped;
-        FittedExport file;  // empty unless the result is kDone
+        FittedExport made;  // empty unless the result is kDone
         // Its pauses are in hundredths; null where it can't be shown.
         std::shared_ptr<const Animation> shown;
     };
@@ -38,7 +40,8 @@ class ExportTrial {
     void Stop();
 
   private:
-    void Read(const std::vector<uint8>& bytes);
+    std::shared_ptr<const Animation> Read(const FittedExport& made);
+    void ReadFile(const std::vector<uint8>& bytes);
     void ReadVideo(const std::vector<uint8>& bytes);
 
     const Task task_;

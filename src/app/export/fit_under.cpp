@@ -20,7 +20,8 @@ constexpr int32 kSmallest[] = {40, 30, 20, 10};
 constexpr int kRefinements = 3;
 
 bool HasQuality(ExportFormat format) {
-    return format != ExportFormat::kGif && format != ExportFormat::kApng;
+    return format == ExportFormat::kWebp || format == ExportFormat::kMp4 ||
+           format == ExportFormat::kWebm;
 }
 
 void AddColors(std::vector<ExportSettings>* steps) {
@@ -72,14 +73,14 @@ class FittingRun {
 
     // False where the export is too large, or has failed.
     bool Fits(const ExportSettings& settings) {
-        std::vector<uint8> bytes;
-        result_ = ExportAnimation(task_, settings, &bytes);
+        ExportFiles files;
+        result_ = ExportAnimation(task_, settings, &files);
         if (result_ != ExportResult::kDone) return false;
-        const uint64 size = bytes.size();
+        const uint64 size = files.Size(task_.name);
         fitted_->smallest = fitted_->smallest == 0 ? size : std::min(fitted_->smallest, size);
         if (size > limit_) return false;
         fitted_->settings = settings;
-        fitted_->bytes = std::move(bytes);
+        fitted_->files = std::move(files);
         return true;
     }
     // Of the last export.
@@ -139,7 +140,7 @@ ExportResult FitUnder(uint64 limit, const ExportTask& task, const ExportSettings
     *fitted = {settings, {}, 0};
     FittingRun run(limit, task, fitted);
     const ExportResult result = FindStep(StepsToSmaller(settings), run);
-    if (result != ExportResult::kDone) fitted->bytes.clear();
+    if (result != ExportResult::kDone) fitted->files = {};
     return result;
 }
 
@@ -147,7 +148,7 @@ ExportResult ExportWithin(const std::optional<uint64>& limit, const ExportTask& 
                           const ExportSettings& settings, FittedExport* exported) {
     if (limit) return FitUnder(*limit, task, settings, exported);
     *exported = {settings, {}, 0};
-    return ExportAnimation(task, settings, &exported->bytes);
+    return ExportAnimation(task, settings, &exported->files);
 }
 
 }  // namespace kirto

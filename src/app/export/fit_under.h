@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "app/export/export_animation.h"
+#include "app/export/export_files.h"
 #include "base/types.h"
 #include "formats/export/export_settings.h"
 
@@ -12,9 +13,9 @@ namespace kirto {
 
 // An export that is no larger than it may be.
 struct FittedExport {
-    ExportSettings settings;   // that it was made with
-    std::vector<uint8> bytes;  // empty unless it was made
-    uint64 smallest = 0;       // bytes of the smallest that was tried
+    ExportSettings settings;  // that it was made with
+    ExportFiles files{};      // empty unless it was made
+    uint64 smallest = 0;      // bytes of the smallest that was tried, all files together
 };
 
 // What exports: ExportWithin(), or nothing in a program that does not.

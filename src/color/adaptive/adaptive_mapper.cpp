@@ -15,6 +15,7 @@ constexpr int32 kSixteenths = 16;
 // side of the colors, and cost photographs in 256 colors 2 dB; this keeps their mean colors as well
 // or better, measured after blurring both.
 constexpr int32 kPassedOn = 13;
+constexpr int32 kPercent = 100;
 
 }  // namespace
 
@@ -25,7 +26,7 @@ AdaptiveMapper::AdaptiveMapper(std::span<const rgb_color> colors, int32 width, c
       width_(static_cast<size_t>(std::max(width, 0))),
       big_endian_(IsBigEndian(space)),
       nearest_(colors, options.transparent_index) {
-    if (options.dither != AdaptiveDither::kErrorDiffusion) return;
+    if (Dither() != AdaptiveDither::kErrorDiffusion) return;
     errors_ = AllocateArray<ColorComponents>(2 * (width_ + 2));
     this_row_ = errors_.get();
     next_row_ = errors_ ? this_row_ + width_ + 2 : nullptr;
@@ -36,7 +37,7 @@ uint32 AdaptiveMapper::KeyAt(const uint8* pixel) const {
 }
 
 void AdaptiveMapper::MapRow(int32 y, const uint8* pixels, uint8* indices) {
-    if (options_.dither == AdaptiveDither::kOrdered) {
+    if (Dither() == AdaptiveDither::kOrdered) {
         MapOrdered(y, pixels, indices);
     } else if (errors_) {
         Diffuse(y, pixels, indices);
@@ -98,7 +99,11 @@ AdaptiveMapper::Pair AdaptiveMapper::PairFor(const ColorComponents& color) {
     for (size_t i = 0; i < 3; ++i)
         along += int64{kColorWeights[i]} * (color[i] - first[i]) * (second[i] - first[i]);
     const int64 length = std::max(ColorDistance(first, second), 1);
-    pair.threshold = static_cast<int32>((2 * along - length / 2) * BlueNoise::kRanks / length);
+    const auto threshold =
+        static_cast<int32>((2 * along - length / 2) * BlueNoise::kRanks / length);
+    // The weaker, the nearer to the middle between both they have to be to be mixed.
+    constexpr int32 kMiddle = BlueNoise::kRanks / 2;
+    pair.threshold = kMiddle + (threshold - kMiddle) * kPercent / options_.strength;
     return pair;
 }
 
@@ -141,7 +146,7 @@ void AdaptiveMapper::Spread(ColorComponents error, size_t column, bool leftward)
     const size_t ahead = leftward ? column - 1 : column + 1;
     const size_t behind = leftward ? column + 1 : column - 1;
     for (size_t k = 0; k < 3; ++k) {
-        const int32 passed_on = error[k] * kPassedOn / kSixteenths;
+        const int32 passed_on = error[k] * kPassedOn * options_.strength / (kSixteenths * kPercent);
         const int32 one = passed_on / 16;
         const int32 three = passed_on * 3 / 16;
         const int32 five = passed_on * 5 / 16;

@@ -28,6 +28,9 @@ class AdaptiveMapper {
   public:
     struct Options {
         AdaptiveDither dither = AdaptiveDither::kNone;
+        // How much of it, 0 to 100 percent: of the error that is diffused, or of the way between
+        // two entries on which they are mixed. 0: as without dithering.
+        int32 strength = 100;
         // What transparent pixels become, and nothing else; none: all are laid on the matte.
         int32 transparent_index = NearestEntry::kNone;
         rgb_color matte{255, 255, 255, 255};
@@ -39,7 +42,7 @@ class AdaptiveMapper {
                    const Options& options);
 
     // False when memory is short, so that errors are not diffused. The rest works all the same.
-    bool HasMemory() const { return options_.dither != AdaptiveDither::kErrorDiffusion || errors_; }
+    bool HasMemory() const { return Dither() != AdaptiveDither::kErrorDiffusion || errors_; }
     // Maps a row to as many indices. y: 0 or more; where errors are diffused, a row that is not the
     // one below the last begins a new picture. Otherwise rows come in any order.
     void MapRow(int32 y, const uint8* pixels, uint8* indices);
@@ -52,6 +55,9 @@ class AdaptiveMapper {
         int32 threshold = 0;  // in ranks; places of lower ranks get the second
     };
 
+    AdaptiveDither Dither() const {
+        return options_.strength > 0 ? options_.dither : AdaptiveDither::kNone;
+    }
     uint32 KeyAt(const uint8* pixel) const;
     uint8 TransparentIndex() const { return static_cast<uint8>(options_.transparent_index); }
     void MapNearest(const uint8* pixels, uint8* indices);

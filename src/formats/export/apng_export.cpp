@@ -1,6 +1,6 @@
 #include "formats/export/apng_export.h"
 
-#include <array>
+#include <algorithm>
 #include <optional>
 #include <utility>
 
@@ -8,13 +8,12 @@
 #include "formats/export/apng_planner.h"
 #include "formats/export/export_canvas.h"
 #include "formats/export/png_data.h"
+#include "formats/export/png_file.h"
 #include "formats/export/png_pixels.h"
 
 namespace kirto {
 
 namespace {
-
-constexpr std::array<uint8, 8> kPngStart = {0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n'};
 
 // The data of a frame, and how it is drawn.
 struct ApngImage {
@@ -24,11 +23,11 @@ struct ApngImage {
 
 class ApngEncoding {
   public:
-    ApngEncoding(const Animation& animation, bool in_seconds, Work& work)
+    ApngEncoding(const Animation& animation, bool in_seconds, FrameAreas areas, Work& work)
         : animation_(animation),
           work_(work),
           pauses_(SpreadMilliseconds(animation, in_seconds)),
-          planner_(animation.width, animation.height) {}
+          planner_(animation.width, animation.height, areas) {}
 
     std::vector<uint8> Run() {
         if (!CountPixels() || !MakeImages()) return {};
@@ -44,7 +43,6 @@ class ApngEncoding {
     std::optional<ApngPlan> NextPlan();
     ApngImage Make(const ApngPlan& plan) const;
     std::vector<uint8> File() const;
-    std::vector<uint8> Header() const;
     std::vector<uint8> ControlOf(size_t frame, uint32 sequence) const;
 
     const Animation& animation_;
@@ -61,7 +59,7 @@ bool ApngEncoding::CountPixels() {
         if (work_.StopRequested()) return false;
         pixels_.Count(CanvasAt(i));
     }
-    pixels_.Settle();
+    pixels_.Settle(true);
     return true;
 }
 
@@ -96,22 +94,12 @@ bool ApngEncoding::MakeImages() {
 ApngImage ApngEncoding::Make(const ApngPlan& plan) const {
     const auto compressed = [&](const CanvasPixels* below) {
         return CompressPngRows(pixels_.Rows(*plan.shown, animation_.width, plan.rect, below),
-                               pixels_.RowBytes(plan.rect.width), pixels_.PixelBytes());
+                               pixels_.RowBytes(plan.rect.width), pixels_.PixelBytes(), work_);
     };
     ApngImage image{compressed(nullptr), false};
     if (!plan.below || !pixels_.HasTransparent()) return image;
     ApngImage over{compressed(plan.below.get()), true};
     return over.data.size() < image.data.size() ? over : image;
-}
-
-std::vector<uint8> ApngEncoding::Header() const {
-    std::vector<uint8> content;
-    AppendBig32(static_cast<uint32>(animation_.width), &content);
-    AppendBig32(static_cast<uint32>(animation_.height), &content);
-    content.push_back(static_cast<uint8>(pixels_.BitDepth()));
-    content.push_back(pixels_.ColorType());
-    content.insert(content.end(), 3, 0);  // the only ways to compress and to filter; not interlaced
-    return content;
 }
 
 std::vector<uint8> ApngEncoding::ControlOf(size_t frame, uint32 sequence) const {
@@ -134,16 +122,12 @@ std::vector<uint8> ApngEncoding::ControlOf(size_t frame, uint32 sequence) const 
 }
 
 std::vector<uint8> ApngEncoding::File() const {
-    std::vector<uint8> file(kPngStart.begin(), kPngStart.end());
-    AppendPngChunk("IHDR", Header(), &file);
+    std::vector<uint8> file = PngStart(animation_.width, animation_.height, pixels_);
     std::vector<uint8> sequence;
     AppendBig32(static_cast<uint32>(images_.size()), &sequence);
     AppendBig32(static_cast<uint32>(PlaysOf(animation_)), &sequence);
     AppendPngChunk("acTL", sequence, &file);
-    if (const auto palette = pixels_.Palette(); !palette.empty())
-        AppendPngChunk("PLTE", palette, &file);
-    if (const auto alpha = pixels_.PaletteAlpha(); !alpha.empty())
-        AppendPngChunk("tRNS", alpha, &file);
+    AppendPngColors(pixels_, &file);
     uint32 number = 0;
     for (size_t i = 0; i < images_.size(); ++i) {
         AppendPngChunk("fcTL", ControlOf(i, number++), &file);
@@ -162,8 +146,9 @@ std::vector<uint8> ApngEncoding::File() const {
 
 }  // namespace
 
-std::vector<uint8> EncodeApng(const Animation& animation, bool in_seconds, Work& work) {
-    return ApngEncoding(animation, in_seconds, work).Run();
+std::vector<uint8> EncodeApng(const Animation& animation, bool in_seconds, FrameAreas areas,
+                              Work& work) {
+    return ApngEncoding(animation, in_seconds, areas, work).Run();
 }
 
 }  // namespace kirto

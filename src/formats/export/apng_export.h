@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "animation/animation.h"
+#include "animation/frame_areas.h"
 #include "base/types.h"
 #include "base/work.h"
 
@@ -14,6 +15,7 @@ namespace kirto {
 // pauses, else hundredths. Empty when the work was stopped, which is told how far it is; throws
 // std::bad_alloc.
 // Format: PNG specification, third edition, "11.3.6 APNG: animated PNG".
-std::vector<uint8> EncodeApng(const Animation& animation, bool in_seconds, Work& work);
+std::vector<uint8> EncodeApng(const Animation& animation, bool in_seconds, FrameAreas areas,
+                              Work& work);
 
 }  // namespace kirto

@@ -19,18 +19,14 @@ int64 PixelsIn(const PixelRect& rect) {
 }  // namespace
 
 std::optional<ApngPlan> ApngPlanner::Add(SharedCanvas shown, int32 milliseconds) {
-    if (controls_.empty()) {
-        const PixelRect whole{0, 0, width_, height_};
-        controls_.push_back({whole, ApngPlan::Dispose::kNone, milliseconds});
-        shown_ = std::move(shown);
-        return ApngPlan{whole, shown_, nullptr};
-    }
+    if (controls_.empty()) return AddWhole(std::move(shown), milliseconds);
     Control& last = controls_.back();
     const bool both_last = last.milliseconds > 0 && milliseconds > 0;
     if (both_last && last.milliseconds + milliseconds <= kLongestApngDelay && *shown_ == *shown) {
         last.milliseconds += milliseconds;
         return std::nullopt;
     }
+    if (areas_ == FrameAreas::kWhole) return AddWhole(std::move(shown), milliseconds);
     Way way = BestWay(*shown);
     last.dispose = way.dispose;
     ApngPlan plan{way.rect, shown, MayShowThrough(way, *shown) ? way.below : nullptr};
@@ -38,6 +34,13 @@ std::optional<ApngPlan> ApngPlanner::Add(SharedCanvas shown, int32 milliseconds)
     below_ = std::move(way.below);
     shown_ = std::move(shown);
     return plan;
+}
+
+ApngPlan ApngPlanner::AddWhole(SharedCanvas shown, int32 milliseconds) {
+    const PixelRect whole{0, 0, width_, height_};
+    controls_.push_back({whole, ApngPlan::Dispose::kNone, milliseconds});
+    shown_ = std::move(shown);
+    return {whole, shown_, nullptr};
 }
 
 ApngPlanner::Way ApngPlanner::BestWay(const CanvasPixels& shown) const {

@@ -3,6 +3,7 @@
 #include <optional>
 #include <vector>
 
+#include "animation/frame_areas.h"
 #include "base/types.h"
 #include "formats/export/export_canvas.h"
 #include "picture/pixel_rect.h"
@@ -33,7 +34,8 @@ class ApngPlanner {
     };
 
     // In pixels, above 0.
-    ApngPlanner(int32 width, int32 height) : width_(width), height_(height) {}
+    ApngPlanner(int32 width, int32 height, FrameAreas areas = FrameAreas::kChanged)
+        : width_(width), height_(height), areas_(areas) {}
 
     // Nothing where the frame makes the one before last longer.
     std::optional<ApngPlan> Add(SharedCanvas shown, int32 milliseconds);
@@ -48,6 +50,8 @@ class ApngPlanner {
         PixelRect rect;  // around what differs from that
     };
 
+    // Takes the place of all that is below.
+    ApngPlan AddWhole(SharedCanvas shown, int32 milliseconds);
     PixelRect Changed(const CanvasPixels& below, const CanvasPixels& shown) const;
     Way WayOver(ApngPlan::Dispose dispose, SharedCanvas below, const CanvasPixels& shown) const;
     Way BestWay(const CanvasPixels& shown) const;
@@ -60,6 +64,7 @@ class ApngPlanner {
 
     const int32 width_;
     const int32 height_;
+    const FrameAreas areas_;
     std::vector<Control> controls_;
     SharedCanvas below_;  // the last frame
     SharedCanvas shown_;  // with it

@@ -27,7 +27,10 @@ struct NumberChoice {
 constexpr NumberChoice kNumberChoices[] = {{"colors", &ExportSettings::colors, 2, 256},
                                            {"loss", &ExportSettings::loss, 0, 200},
                                            {"scale", &ExportSettings::scale, 1, 400},
-                                           {"every", &ExportSettings::every, 1, kMostFramesAStep}};
+                                           {"every", &ExportSettings::every, 1, kMostFramesAStep},
+                                           {"strength", &ExportSettings::strength, 0, 100},
+                                           {"columns", &ExportSettings::columns, 0, kMostColumns},
+                                           {"padding", &ExportSettings::padding, 0, kMostPadding}};
 
 constexpr std::pair<const char*, AdaptiveDither> kDithers[] = {
     {"none", AdaptiveDither::kNone},
@@ -39,6 +42,7 @@ constexpr std::pair<const char*, ExportFormat> kExtensions[] = {
     {".apng", ExportFormat::kApng}, {".mp4", ExportFormat::kMp4},   {".webm", ExportFormat::kWebm}};
 
 constexpr int32 kBestQuality = 100;
+constexpr size_t kLongestExtension = 8;
 
 std::string Expected(std::string_view name, const std::string& values) {
     return Format("%.*s is to be %s.", static_cast<int>(name.size()), name.data(), values.c_str());
@@ -66,6 +70,12 @@ std::string ReadTable(std::string_view value, ExportSettings* settings) {
     return {};
 }
 
+std::string ReadAreas(std::string_view value, ExportSettings* settings) {
+    if (value != "changed" && value != "whole") return Expected("areas", "changed or whole");
+    settings->areas = value == "whole" ? FrameAreas::kWhole : FrameAreas::kChanged;
+    return {};
+}
+
 std::string ReadQuality(std::string_view value, ExportSettings* settings) {
     int32 quality = 0;
     if (value == "lossless") {
@@ -78,6 +88,30 @@ std::string ReadQuality(std::string_view value, ExportSettings* settings) {
     return {};
 }
 
+// Texts are words of letters and digits.
+std::string ReadImage(std::string_view value, ExportSettings* settings) {
+    const bool sound = !value.empty() && value.size() <= kLongestExtension &&
+                       std::all_of(value.begin(), value.end(), [](char c) {
+                           return (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9');
+                       });
+    if (!sound) return Expected("image", "the extension of an image file, such as png");
+    settings->image = value;
+    return {};
+}
+
+std::string ReadFormat(std::string_view value, ExportSettings* settings) {
+    if (value == "sheet") {
+        settings->format = ExportFormat::kSheet;
+    } else if (value == "images") {
+        settings->format = ExportFormat::kImages;
+    } else if (value != "file") {
+        return Expected("format", "sheet, images or file");
+    } else if (HasPictures(settings->format)) {
+        settings->format = ExportFormat::kGif;
+    }
+    return {};
+}
+
 std::string ReadMatte(std::string_view value, ExportSettings* settings) {
     if (ParseColor("#" + std::string(value), &settings->matte)) return {};
     return Expected("matte", "a color RRGGBB");
@@ -85,14 +119,16 @@ std::string ReadMatte(std::string_view value, ExportSettings* settings) {
 
 using Reader = std::string (*)(std::string_view, ExportSettings*);
 constexpr std::pair<const char*, Reader> kReaders[] = {
-    {"table", ReadTable}, {"dither", ReadDither}, {"quality", ReadQuality}, {"matte", ReadMatte}};
+    {"table", ReadTable}, {"areas", ReadAreas}, {"dither", ReadDither}, {"quality", ReadQuality},
+    {"matte", ReadMatte}, {"image", ReadImage}, {"format", ReadFormat}};
 
 std::string UnknownChoice() {
     std::string names;
     for (const NumberChoice& choice : kNumberChoices)
         names += std::string(choice.name) + ", ";
     for (const auto& [name, reader] : kReaders)
-        names += std::string(name) + (name == std::string_view("matte") ? "" : ", ");
+        names += std::string(name) + ", ";
+    names.resize(names.size() - 2);
     return "The choices are NAME=VALUE; the names are " + names + ".";
 }
 
@@ -130,13 +166,22 @@ bool operator==(const ExportSettings& a, const ExportSettings& b) {
 }
 
 std::optional<ExportFormat> ExportFormatOf(const std::string& path) {
-    std::string extension = std::filesystem::path(path).extension().string();
-    std::transform(extension.begin(), extension.end(), extension.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    const std::string extension = '.' + ExtensionOf(path);
     for (const auto& [known, format] : kExtensions) {
         if (extension == known) return format;
     }
     return std::nullopt;
+}
+
+std::string ExtensionOf(const std::string& path) {
+    std::string extension = std::filesystem::path(path).extension().string();
+    std::transform(extension.begin(), extension.end(), extension.begin(),
+                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    return extension.empty() ? extension : extension.substr(1);
+}
+
+bool HasPictures(ExportFormat format) {
+    return format == ExportFormat::kSheet || format == ExportFormat::kImages;
 }
 
 const char* NameOf(ExportFormat format) {
@@ -151,6 +196,10 @@ const char* NameOf(ExportFormat format) {
             return "MP4";
         case ExportFormat::kWebm:
             return "WebM";
+        case ExportFormat::kSheet:
+            return "Sheet";
+        case ExportFormat::kImages:
+            return "Images";
     }
     return "";
 }
@@ -166,9 +215,10 @@ std::string TextOf(const ExportSettings& settings) {
     for (const NumberChoice& choice : kNumberChoices)
         text += Format("%s=%d ", choice.name, settings.*choice.field);
     text += std::string("table=") + (settings.one_table ? "one" : "each");
+    text += std::string(" areas=") + (settings.areas == FrameAreas::kWhole ? "whole" : "changed");
     text += std::string(" dither=") + NameOfDither(settings.dither) + " quality=";
     text += settings.quality ? std::to_string(*settings.quality) : "lossless";
-    return text + " matte=" + TextOfColor(settings.matte).substr(1);
+    return text + " matte=" + TextOfColor(settings.matte).substr(1) + " image=" + settings.image;
 }
 
 std::string GivenUp(const ExportSettings& wanted, const ExportSettings& given) {

@@ -54,13 +54,13 @@ uint64 FilterRow(int filter, std::span<const uint8> row, const uint8* above, siz
 }
 
 std::vector<uint8> Filtered(std::span<const uint8> rows, size_t row_bytes, size_t pixel_bytes,
-                            bool chooses) {
+                            bool chooses, const Work& work) {
     std::vector<uint8> filtered;
     filtered.reserve(rows.size() + rows.size() / row_bytes);
     std::vector<uint8> tried(row_bytes);
     std::vector<uint8> best(row_bytes);
     const uint8* above = nullptr;
-    for (size_t start = 0; start < rows.size(); start += row_bytes) {
+    for (size_t start = 0; start < rows.size() && !work.StopRequested(); start += row_bytes) {
         const std::span<const uint8> row = rows.subspan(start, row_bytes);
         uint64 least = std::numeric_limits<uint64>::max();
         uint8 chosen = 0;
@@ -78,7 +78,7 @@ std::vector<uint8> Filtered(std::span<const uint8> rows, size_t row_bytes, size_
     return filtered;
 }
 
-std::vector<uint8> Deflate(std::span<const uint8> bytes) {
+std::vector<uint8> Deflate(std::span<const uint8> bytes, const Work& work) {
     constexpr int kMostMemory = 9;
     constexpr int kWindowBits = 15;
     z_stream stream{};
@@ -89,7 +89,7 @@ std::vector<uint8> Deflate(std::span<const uint8> bytes) {
     constexpr size_t kPiece = size_t{1} << 16;
     std::vector<uint8> piece(kPiece);
     int result = Z_OK;
-    while (result == Z_OK) {
+    while (result == Z_OK && !work.StopRequested()) {
         const size_t more = std::min<size_t>(bytes.size(), size_t{1} << 30);
         stream.next_in = const_cast<Bytef*>(bytes.data());
         stream.avail_in = static_cast<uInt>(more);
@@ -100,18 +100,18 @@ std::vector<uint8> Deflate(std::span<const uint8> bytes) {
         packed.insert(packed.end(), piece.data(), piece.data() + piece.size() - stream.avail_out);
     }
     deflateEnd(&stream);
-    if (result != Z_STREAM_END) throw std::bad_alloc();
+    if (result != Z_STREAM_END && !work.StopRequested()) throw std::bad_alloc();
     return packed;
 }
 
 }  // namespace
 
 std::vector<uint8> CompressPngRows(std::span<const uint8> rows, size_t row_bytes,
-                                   size_t pixel_bytes) {
-    std::vector<uint8> plain = Deflate(Filtered(rows, row_bytes, pixel_bytes, false));
+                                   size_t pixel_bytes, const Work& work) {
+    std::vector<uint8> plain = Deflate(Filtered(rows, row_bytes, pixel_bytes, false, work), work);
     // Neighboring indices say nothing of each other.
     if (pixel_bytes == 1) return plain;
-    std::vector<uint8> chosen = Deflate(Filtered(rows, row_bytes, pixel_bytes, true));
+    std::vector<uint8> chosen = Deflate(Filtered(rows, row_bytes, pixel_bytes, true, work), work);
     return chosen.size() < plain.size() ? chosen : plain;
 }
 

@@ -31,12 +31,12 @@ void PngPixels::Count(std::span<const uint8> canvas) {
 }
 
 // Colors with alpha come first: opaque ones at the end need no entry in tRNS.
-void PngPixels::Settle() {
+void PngPixels::Settle(bool skips) {
     if (!few_) {
         index_of_.clear();
         return;
     }
-    if (colors_.size() < kMostColors && index_of_.try_emplace(0, uint8{0}).second)
+    if (skips && colors_.size() < kMostColors && index_of_.try_emplace(0, uint8{0}).second)
         colors_.push_back(0);
     std::sort(colors_.begin(), colors_.end());
     for (size_t i = 0; i < colors_.size(); ++i)

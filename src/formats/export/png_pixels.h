@@ -18,8 +18,8 @@ class PngPixels {
   public:
     // Takes the pixels of a canvas into account.
     void Count(std::span<const uint8> canvas);
-    // No more canvases come.
-    void Settle();
+    // No more canvases come. skips: pixels of no alpha are needed in any case.
+    void Settle(bool skips);
 
     uint8 ColorType() const;
     int32 BitDepth() const { return few_ ? depth_ : 8; }

@@ -48,7 +48,9 @@ ScreenPixels ColorReducer::Reduce(const ScreenPixels& before, const ScreenPixels
     std::erase_if(exact, [&](uint32 key) { return !Contains(keys, key); });
     const size_t width = static_cast<size_t>(screen_.Width());
     AdaptiveMapper mapper(colors, screen_.Width(), B_RGB32,
-                          {.dither = options_.dither, .transparent_index = kMostColors});
+                          {.dither = options_.dither,
+                           .strength = options_.dither_strength,
+                           .transparent_index = kMostColors});
     if (!mapper.HasMemory()) throw std::bad_alloc();
     std::vector<uint8> row(width * 4);
     std::vector<uint8> indices(width);

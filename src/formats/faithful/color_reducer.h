@@ -20,7 +20,8 @@ class ColorReducer {
 
     struct Options {
         AdaptiveDither dither = AdaptiveDither::kErrorDiffusion;
-        int32 most_colors = 256;  // of a screen, 2 to 256
+        int32 dither_strength = 100;  // percent
+        int32 most_colors = 256;      // of a screen, 2 to 256
         // Colors that all screens are given, at most kMostColors; empty: each has its own.
         std::vector<rgb_color> common{};
         bool always_common = false;  // also those that have few colors

@@ -31,15 +31,18 @@ int32 SideOf(int32 canvas, int64 needed) {
     return static_cast<int32>(std::clamp<int64>(std::min<int64>(canvas, needed), 1, kLargestSide));
 }
 
-// No larger than what any frame shows, so that a few pixels take no memory for many.
-Screen ScreenFor(const Animation& animation, const AlphaMatte& matte, uint64 memory_limit) {
-    int64 right = 0;
-    int64 bottom = 0;
+// No larger than what any frame shows, so that a few pixels take no memory for many; all of the
+// canvas where each image is to have that.
+Screen ScreenFor(const Animation& animation, const FaithfulOptions& options, uint64 memory_limit) {
+    const bool whole = options.areas == FrameAreas::kWhole;
+    int64 right = whole ? animation.width : 0;
+    int64 bottom = whole ? animation.height : 0;
     for (const FramePointer& frame : animation.frames) {
         right = std::max(right, int64{frame->x_offset} + frame->width);
         bottom = std::max(bottom, int64{frame->y_offset} + frame->height);
     }
-    const Screen screen(SideOf(animation.width, right), SideOf(animation.height, bottom), matte);
+    const Screen screen(SideOf(animation.width, right), SideOf(animation.height, bottom),
+                        options.Matte());
     if (screen.At(0, screen.Height()) * sizeof(uint32) > memory_limit) throw std::bad_alloc();
     return screen;
 }
@@ -96,19 +99,21 @@ FaithfulGifSave::FaithfulGifSave(std::shared_ptr<BFile> file, FaithfulGifTask ta
     : file_(std::move(file)),
       task_(std::move(task)),
       frames_(task_.animation->frames.begin(), task_.animation->frames.end()),
-      untouched_(UntouchedFrames(*task_.animation)),
+      untouched_(DrawsWhole() ? std::vector<bool>(frames_.size())
+                              : UntouchedFrames(*task_.animation)),
       delays_(SpreadDelays(*task_.animation, task_.options.pause_in_seconds)),
-      screen_(ScreenFor(*task_.animation, task_.options.Matte(), task_.memory_limit)),
+      screen_(ScreenFor(*task_.animation, task_.options, task_.memory_limit)),
       progress_(task_.work, static_cast<int64>(frames_.size()) * (kPlanned + kEncoded)),
       reducer_(std::make_unique<ColorReducer>(
           screen_,
           ColorReducer::Options{.dither = task_.options.dither,
+                                .dither_strength = task_.options.dither_strength,
                                 .most_colors = task_.options.most_colors,
                                 .common = SharesColors() ? JointColors() : std::vector<rgb_color>{},
                                 .always_common = task_.options.one_table,
                                 .exact = task_.options.exact_colors},
           task_.work)),
-      planner_(std::make_unique<FramePlanner>(screen_, *reducer_)) {
+      planner_(std::make_unique<FramePlanner>(screen_, *reducer_, task_.options.areas)) {
     Plan();
     ChooseLayout();
     WriteHeader();
@@ -169,8 +174,9 @@ FaithfulGifSave::Prepared FaithfulGifSave::Prepare(size_t frame) const {
     if (!IsWanted(frame)) return prepared;
     ScreenPixels shown = screen_.Show(ScreenImage::Of(*frames_[frame]));
     if (!untouched_[frame] && !HasFewColors(*frames_[frame], reducer_->MostExact())) {
-        const ScreenPixels before =
-            frame > 0 ? screen_.Show(ScreenImage::Of(*frames_[frame - 1])) : screen_.Empty();
+        const ScreenPixels before = frame > 0 && !DrawsWhole()
+                                        ? screen_.Show(ScreenImage::Of(*frames_[frame - 1]))
+                                        : screen_.Empty();
         const auto few =
             ColorsToDraw(screen_, screen_.Whole(), before, shown, reducer_->MostExact());
         if (!few)

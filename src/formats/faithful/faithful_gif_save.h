@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "animation/frame_areas.h"
 #include "base/shared_progress.h"
 #include "color/adaptive/adaptive_mapper.h"
 #include "color/adaptive/color_census.h"
@@ -23,8 +24,10 @@ struct FaithfulOptions {
     bool joint_colors = false;      // frames of too many colors share those they are given
     bool one_table = false;         // all frames share them where they are too many together
     int32 most_colors = 256;        // of one frame, 2 to 256
-    int64 tolerance = 0;            // colors may be so far off, squared, where it saves bytes
+    FrameAreas areas = FrameAreas::kChanged;
+    int64 tolerance = 0;  // colors may be so far off, squared, where it saves bytes
     AdaptiveDither dither = AdaptiveDither::kErrorDiffusion;
+    int32 dither_strength = 100;  // percent
     rgb_color matte{255, 255, 255, 255};
     uint8 threshold = AlphaMatte::kFirstVisible;  // pixels of less alpha are transparent
     std::vector<rgb_color> exact_colors;          // that stay as they are; different ones
@@ -67,6 +70,7 @@ class FaithfulGifSave {
 
     bool Stopped() const { return task_.work.StopRequested(); }
     bool SharesColors() const { return task_.options.joint_colors || task_.options.one_table; }
+    bool DrawsWhole() const { return task_.options.areas == FrameAreas::kWhole; }
     std::vector<rgb_color> JointColors() const;
     std::vector<rgb_color> JointColors(const ColorCensus& census) const;
     void Plan();

@@ -99,6 +99,7 @@ bool FramePlanner::LengthensLast(const FrameToPlan& frame) {
 }
 
 std::vector<FramePlanner::Way> FramePlanner::WaysTo(const ScreenPixels& shown) const {
+    if (DrawsWhole()) return {WholeWay(shown)};
     const auto way_over = [&](Disposal disposal, const Pixels& below) {
         const PixelRect rect = plans_.empty() ? PixelRect{} : plans_.back().rect;
         return Way{disposal, rect, below, ScreenDifference::Between(screen_, *below, shown)};
@@ -113,6 +114,18 @@ std::vector<FramePlanner::Way> FramePlanner::WaysTo(const ScreenPixels& shown) c
     std::stable_sort(ways.begin(), ways.end(),
                      [](const Way& a, const Way& b) { return CostOf(a) < CostOf(b); });
     return ways;
+}
+
+// What was there is cleared where it would show through.
+FramePlanner::Way FramePlanner::WholeWay(const ScreenPixels& shown) const {
+    auto nothing = std::make_shared<const ScreenPixels>(screen_.Empty());
+    const bool hides =
+        plans_.empty() || ScreenDifference::Between(screen_, *shown_, shown).Possible();
+    const Disposal disposal = hides ? Disposal::kKeep : Disposal::kBackground;
+    Way way{disposal, screen_.Whole(), nothing,
+            ScreenDifference::Between(screen_, *nothing, shown)};
+    way.difference.changed = screen_.Whole();
+    return way;
 }
 
 FramePlanner::Way FramePlanner::ClearingWay(const ScreenPixels& shown,
@@ -168,6 +181,7 @@ void FramePlanner::PlanNearly(const Way& way, const FrameToPlan& frame) {
     CountDifference(*frame.shown, *shown_);
     Way nearly = way;
     nearly.difference = ScreenDifference::Between(screen_, *way.below, *shown_);
+    if (DrawsWhole()) nearly.difference.changed = screen_.Whole();
     FrameToPlan reduced = frame;
     reduced.image = {screen_.PictureOf(*shown_), 0, 0, screen_.Width(), screen_.Height()};
     auto colors =
@@ -178,11 +192,12 @@ void FramePlanner::PlanNearly(const Way& way, const FrameToPlan& frame) {
 // Only what is new is reduced: what stands still keeps the colors that it has been given.
 ScreenPixels FramePlanner::Nearly(const Way& way, const FrameToPlan& frame) const {
     const ScreenPixels& wanted = *frame.shown;
-    ScreenPixels before = wanted_ ? *wanted_ : *way.below;
-    for (size_t i = 0; shown_ && i < before.size(); ++i) {
+    const bool has_before = wanted_ && !DrawsWhole();
+    ScreenPixels before = has_before ? *wanted_ : *way.below;
+    for (size_t i = 0; has_before && i < before.size(); ++i) {
         if ((*way.below)[i] != (*shown_)[i]) before[i] = kUnlike;
     }
-    const bool foreseen = frame.reduced && way.disposal == Disposal::kKeep;
+    const bool foreseen = frame.reduced && (DrawsWhole() || way.disposal == Disposal::kKeep);
     ScreenPixels nearly = foreseen ? *frame.reduced : reducer_.Reduce(before, wanted);
     for (size_t i = 0; i < nearly.size(); ++i) {
         if (before[i] == wanted[i] || (*way.below)[i] == wanted[i]) nearly[i] = (*way.below)[i];
@@ -195,7 +210,8 @@ void FramePlanner::Append(const Way& way, const FrameToPlan& frame,
     if (!plans_.empty()) SetDisposal(way);
     FramePlan plan;
     plan.shown = frame.image;
-    if (!plans_.empty()) plan.below = BackdropAfter(plans_, static_cast<int32>(plans_.size()) - 1);
+    if (!plans_.empty() && !DrawsWhole())
+        plan.below = BackdropAfter(plans_, static_cast<int32>(plans_.size()) - 1);
     plan.rect = OrOnePixel(way.difference.changed);
     plan.delay = frame.delay;
     plan.skips = way.difference.pixels < AreaOf(plan.rect) && colors.size() < kMostColors;

@@ -3,6 +3,7 @@
 #include <memory>
 #include <vector>
 
+#include "animation/frame_areas.h"
 #include "animation/save_differences.h"
 #include "base/types.h"
 #include "formats/faithful/color_reducer.h"
@@ -19,7 +20,8 @@ struct FrameToPlan {
     std::shared_ptr<const GifSource> source;
     // What the screen is to show; null where both this frame and the one after it have a source.
     std::shared_ptr<const ScreenPixels> shown;
-    // That in few colors, as ColorReducer does it with the frame before; may be null.
+    // That in few colors, as ColorReducer does it with the frame before, or, for whole images, with
+    // nothing; may be null.
     std::shared_ptr<const ScreenPixels> reduced;
 };
 
@@ -40,9 +42,11 @@ class FramePlanner {
     // Most colors of one image.
     static constexpr size_t kMostColors = 256;
 
-    // Both outlive this.
-    FramePlanner(const Screen& screen, const ColorReducer& reducer)
-        : screen_(screen), reducer_(reducer) {}
+    // Both outlive this. areas: kWhole: each image has all that is shown, nothing lies below it,
+    // and none is written as it was read.
+    FramePlanner(const Screen& screen, const ColorReducer& reducer,
+                 FrameAreas areas = FrameAreas::kChanged)
+        : screen_(screen), reducer_(reducer), areas_(areas) {}
 
     void Add(const FrameToPlan& frame);
     const FramePlans& Plans() const { return plans_; }
@@ -64,6 +68,9 @@ class FramePlanner {
     static int64 CostOf(const Way& way);
     // The cheapest first.
     std::vector<Way> WaysTo(const ScreenPixels& shown) const;
+    // The only one for whole images.
+    Way WholeWay(const ScreenPixels& shown) const;
+    bool DrawsWhole() const { return areas_ == FrameAreas::kWhole; }
     Way ClearingWay(const ScreenPixels& shown, const PixelRect& lost) const;
     bool HasRoomFor(const Way& way) const;
     // Takes a color from the last image, so that there is room for an index that skips pixels.
@@ -80,6 +87,7 @@ class FramePlanner {
 
     const Screen& screen_;
     const ColorReducer& reducer_;
+    const FrameAreas areas_;
     FramePlans plans_;
     Pixels below_;   // the last image; null where it is written as it was read
     Pixels shown_;   // with it

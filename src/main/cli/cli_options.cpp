@@ -83,8 +83,9 @@ constexpr OptionText kOperations[] = {
      "name ends in"},
     {"--export-set", "NAME=VALUE",
      "From here on, export with colors (2-256), loss (0-200), table (one, each), dither (none, "
-     "diffusion, ordered), quality (0-100, lossless), matte (RRGGBB), scale (percent), every (n-th "
-     "frame)"},
+     "diffusion, ordered), strength (percent), areas (changed, whole), quality (0-100, lossless), "
+     "matte (RRGGBB), scale (percent), every (n-th frame), format (sheet, images, file), columns, "
+     "padding"},
     {"--list-formats", nullptr, "List the image formats that can be read and written"},
     {"--preview", nullptr, "Show the animation in the web browser"},
     {"--info", nullptr, "Describe the animation"},

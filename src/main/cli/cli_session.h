@@ -67,7 +67,10 @@ class CliSession {
     Outcome SetExport(const std::string& value);
     Outcome Fit(const std::string& value);
     // Of the current animation by the settings, within the limit if there is one.
-    ExportResult RunExport(FittedExport* exported);
+    ExportResult RunExport(const std::string& path, FittedExport* exported);
+    // The format by the file's name, unless one is chosen. False where the name says none.
+    bool TakeExportFormat(const std::string& path);
+    void TellOfExport(const std::string& value, const FittedExport& exported);
 
     // Operations in memory (cli_session_edits.cpp).
     Outcome Set(const std::string& value);

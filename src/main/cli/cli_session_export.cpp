@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <cinttypes>
 #include <cstdio>
+#include <filesystem>
 #include <unistd.h>
 
 #include "app/export/fit_under.h"
@@ -11,6 +12,14 @@
 #include "main/cli/cli_session.h"
 
 namespace kirto {
+
+namespace {
+
+std::string LeafOf(const std::string& path) {
+    return std::filesystem::path(path).filename().string();
+}
+
+}  // namespace
 
 CliSession::Outcome CliSession::SetExport(const std::string& value) {
     const std::string problem = ReadExportChoice(value, &export_settings_);
@@ -24,7 +33,7 @@ CliSession::Outcome CliSession::Fit(const std::string& value) {
     return Outcome::kDone;
 }
 
-ExportResult CliSession::RunExport(FittedExport* exported) {
+ExportResult CliSession::RunExport(const std::string& path, FittedExport* exported) {
     Work work([this](uint64, int64 done, int64 total) {
         desktop_.ShowProgress(Format("Status: exporting, %d%% of it...",
                                      static_cast<int>(100 * done / std::max<int64>(total, 1))));
@@ -32,8 +41,9 @@ ExportResult CliSession::RunExport(FittedExport* exported) {
     work.Begin();
     exporting_ = &work;
     if (stopped_) work.StopAll();
-    const ExportTask task = {app_->Current(), prefs_.global_pauseinseconds, app_->pixel_budget,
-                             roster_, work};
+    const ExportTask task = {
+        app_->Current(), prefs_.global_pauseinseconds, app_->pixel_budget, roster_, work,
+        LeafOf(path)};
     const ExportResult result = export_(export_limit_, task, export_settings_, exported);
     exporting_ = nullptr;
     work.End();
@@ -41,36 +51,53 @@ ExportResult CliSession::RunExport(FittedExport* exported) {
     return result;
 }
 
+bool CliSession::TakeExportFormat(const std::string& path) {
+    if (HasPictures(export_settings_.format)) {
+        export_settings_.image = ExtensionOf(path);
+        return true;
+    }
+    const std::optional<ExportFormat> format = ExportFormatOf(path);
+    export_settings_.format = format.value_or(export_settings_.format);
+    return format.has_value();
+}
+
 CliSession::Outcome CliSession::Export(const std::string& value) {
-    const std::optional<ExportFormat> format = ExportFormatOf(value);
-    if (!format)
+    if (!TakeExportFormat(value))
         return Refuse("--export: \"" + value + "\": expected .gif, .webp, .png, .mp4 or .webm.");
     desktop_.SetSubject(value);
-    export_settings_.format = *format;
-    const auto file = BFile::CreateReplacing(AbsoluteRef(value).path);
-    if (file->InitCheck() != B_OK) return Fail(value + ": " + kFileNotCreatedText);
-    file->RemoveLeftovers();
+    const std::string path = AbsoluteRef(value).path;
+    // What can't be written there is not made.
+    if (BFile::CreateReplacing(path)->InitCheck() != B_OK)
+        return Fail(value + ": " + kFileNotCreatedText);
     FittedExport exported;
-    const ExportResult result = RunExport(&exported);
+    const ExportResult result = RunExport(value, &exported);
     if (result == ExportResult::kStopped) return Outcome::kFailed;
+    const std::string sentence = SentenceOf(result, export_settings_.format);
     if (result == ExportResult::kTooManyBytes)
         return Fail(
-            value + ": " + SentenceOf(result, *format) +
+            value + ": " + sentence +
             Format(" The smallest that was tried has %" PRIu64 " bytes.", exported.smallest));
-    if (result != ExportResult::kDone) return Fail(value + ": " + SentenceOf(result, *format));
-    file->Write(exported.bytes.data(), exported.bytes.size());
-    if (file->Commit() != B_OK) {
+    if (result != ExportResult::kDone) return Fail(value + ": " + sentence);
+    const WrittenExport written = WriteExport(exported.files, path);
+    if (!written.IsComplete()) {
         write_failed_ = true;
-        return Fail(value + ": " + kFileNotCreatedText);
+        return Fail(value + ": " + kFileNotCreatedText + written.Remark());
     }
+    TellOfExport(value, exported);
+    return Outcome::kDone;
+}
+
+void CliSession::TellOfExport(const std::string& value, const FittedExport& exported) {
     const std::string cut_short = NumbersCutShort(*app_->Current(), prefs_.global_pauseinseconds);
-    if (*format == ExportFormat::kGif && !cut_short.empty())
+    if (export_settings_.format == ExportFormat::kGif && !cut_short.empty())
         desktop_.Complain(value + ": Exported, but " + cut_short + ".");
     const std::string given_up = GivenUp(export_settings_, exported.settings);
     const std::string subject = isatty(STDOUT_FILENO) ? TerminalText(value) : value;
-    std::printf("%s: %zu bytes%s%s\n", subject.c_str(), exported.bytes.size(),
-                given_up.empty() ? "" : ", with ", given_up.c_str());
-    return Outcome::kDone;
+    const size_t count = exported.files.Count();
+    std::printf("%s: %s%" PRIu64 " bytes%s%s\n", subject.c_str(),
+                count > 1 ? Format("%zu files, ", count).c_str() : "",
+                exported.files.Size(LeafOf(value)), given_up.empty() ? "" : ", with ",
+                given_up.c_str());
 }
 
 }  // namespace kirto

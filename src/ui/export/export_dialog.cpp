@@ -5,6 +5,7 @@
 #include <QDialogButtonBox>
 #include <QFile>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QInputDialog>
 #include <QLabel>
@@ -26,7 +27,8 @@ constexpr int kExportWidth = 1000;
 constexpr int kExportHeight = 620;
 constexpr double kLargeLetters = 1.8;
 
-const char* ExtensionOf(ExportFormat format) {
+// Of those that are one file.
+const char* UsualExtension(ExportFormat format) {
     switch (format) {
         case ExportFormat::kGif:
             return "gif";
@@ -38,6 +40,9 @@ const char* ExtensionOf(ExportFormat format) {
             return "mp4";
         case ExportFormat::kWebm:
             return "webm";
+        case ExportFormat::kSheet:
+        case ExportFormat::kImages:
+            break;
     }
     return "";
 }
@@ -51,17 +56,15 @@ QString SentenceOfFailure(const ExportTrial::Outcome& outcome, ExportFormat form
     QString text = QString::fromStdString(SentenceOf(outcome.result, format));
     if (outcome.result == ExportResult::kTooManyBytes)
         text += UiText::tr(" The smallest that was tried has %1.")
-                    .arg(SizeTextOf(static_cast<size_t>(outcome.file.smallest)));
+                    .arg(SizeTextOf(static_cast<size_t>(outcome.made.smallest)));
     return text;
 }
 
-// Empty where it is written.
-QString WriteBytes(const std::string& path, const std::vector<uint8>& bytes) {
-    const auto file = BFile::CreateReplacing(path);
-    if (file->InitCheck() != B_OK) return kFileNotCreatedText;
-    file->RemoveLeftovers();
-    file->Write(bytes.data(), bytes.size());
-    return file->Commit() == B_OK ? "" : kFileNotCreatedText;
+// Empty where all are written.
+QString WriteFiles(const std::string& path, const ExportFiles& files) {
+    const WrittenExport written = WriteExport(files, path);
+    if (written.IsComplete()) return {};
+    return QString::fromStdString(kFileNotCreatedText + written.Remark());
 }
 
 }  // namespace
@@ -70,7 +73,7 @@ ExportDialog::ExportDialog(Source source, QWidget* parent)
     : QDialog(parent),
       source_(std::move(source)),
       view_(new ExportView(this)),
-      form_(new ExportForm(this)),
+      form_(new ExportForm(ImageKindsOf(source_.roster), this)),
       preset_(new QComboBox(this)),
       remove_(new QPushButton(UiText::tr("Remo&ve"), this)),
       size_(new QLabel(this)),
@@ -187,11 +190,11 @@ void ExportDialog::TryAgain() {
     const ExportWish wish = form_->Wish();
     std::optional<uint64> limit;
     if (wish.kilobytes) limit = static_cast<uint64>(*wish.kilobytes) * 1000;
-    trial_ = std::make_shared<ExportTrial>(
-        ExportTrial::Task{source_.animation, source_.pause_in_seconds, source_.budget,
-                          source_.roster, wish.settings, limit});
+    trial_ = std::make_shared<ExportTrial>(ExportTrial::Task{
+        source_.animation, source_.pause_in_seconds, source_.budget, source_.roster, wish.settings,
+        limit, QFile::encodeName(ProposedName(wish.settings)).toStdString()});
     size_->setEnabled(false);
-    if (!bytes_) size_->setText(UiText::tr("Working..."));
+    if (!files_) size_->setText(UiText::tr("Working..."));
     export_->setEnabled(false);
     trials_.Do([this, wish, trial = trial_](const std::atomic<bool>&) -> std::function<void()> {
         auto outcome = std::make_shared<ExportTrial::Outcome>(trial->Run());
@@ -206,45 +209,79 @@ void ExportDialog::Take(const ExportTrial::Outcome& outcome) {
     trial_.reset();
     size_->setEnabled(true);
     if (outcome.result != ExportResult::kDone) {
-        bytes_.reset();
+        files_.reset();
         size_->setText(UiText::tr("No file"));
         given_up_->setText(SentenceOfFailure(outcome, exported_.settings.format));
         return;
     }
-    bytes_ = std::make_shared<const std::vector<uint8>>(outcome.file.bytes);
-    size_->setText(SizeTextOf(bytes_->size()));
-    size_->setToolTip(UiText::tr("%1 bytes").arg(bytes_->size()));
-    const std::string given_up = GivenUp(exported_.settings, outcome.file.settings);
+    files_ = std::make_shared<const ExportFiles>(outcome.made.files);
+    const std::string name = QFile::encodeName(ProposedName(exported_.settings)).toStdString();
+    const uint64 size = files_->Size(name);
+    size_->setText(SizeTextOf(size));
+    size_->setToolTip(UiText::tr("%1 bytes").arg(size));
+    const std::string given_up = GivenUp(exported_.settings, outcome.made.settings);
     given_up_->setText(given_up.empty() ? ""
                                         : UiText::tr("With ") + QString::fromStdString(given_up));
     export_->setEnabled(true);
     view_->ShowResult(outcome.shown);
 }
 
-QString ExportDialog::ProposedPath() const {
-    return source_.folder + '/' + source_.name + '.' + ExtensionOf(exported_.settings.format);
+QString ExportDialog::ExtensionOf(const ExportSettings& settings) const {
+    return HasPictures(settings.format) ? QString::fromStdString(settings.image)
+                                        : QString(UsualExtension(settings.format));
+}
+
+QString ExportDialog::ProposedName(const ExportSettings& settings) const {
+    return source_.name + '.' + ExtensionOf(settings);
 }
 
 void ExportDialog::Choose() {
-    const QString extension = ExtensionOf(exported_.settings.format);
-    QString path = QFileDialog::getSaveFileName(
-        this, UiText::tr("Export As"), ProposedPath(),
-        QString("%1 (*.%2)").arg(NameOf(exported_.settings.format), extension));
-    if (path.isEmpty()) return;
-    if (!path.contains('.')) path += '.' + extension;
+    const ExportSettings& settings = exported_.settings;
+    const QString extension = ExtensionOf(settings);
+    // Images have other names than the one that is chosen.
+    const auto options =
+        files_ && files_->numbered ? QFileDialog::DontConfirmOverwrite : QFileDialog::Options();
+    const QString chosen = QFileDialog::getSaveFileName(
+        this, UiText::tr("Export As"), source_.folder + '/' + ProposedName(settings),
+        QString("%1 (*.%2)").arg(NameOf(settings.format), extension), nullptr, options);
+    if (chosen.isEmpty()) return;
+    const QString suffix = QFileInfo(chosen).suffix();
+    const bool named = HasPictures(settings.format)
+                           ? suffix.compare(extension, Qt::CaseInsensitive) == 0
+                           : !suffix.isEmpty();
+    const QString path = named ? chosen : chosen + '.' + extension;
+    if (!MayReplace(path, chosen)) return;
     Write(path, [this](const QString& problem) {
         if (!problem.isEmpty()) return Warn(problem.toStdString());
         accept();
     });
 }
 
+// confirmed: about that file the file dialog has asked.
+bool ExportDialog::MayReplace(const QString& path, const QString& confirmed) {
+    if (!files_) return false;
+    qsizetype there = 0;
+    for (const std::string& each : files_->PathsAt(QFile::encodeName(path).toStdString())) {
+        const QString other = QFile::decodeName(each.c_str());
+        if (other != confirmed && QFile::exists(other)) ++there;
+    }
+    if (there == 0) return true;
+    const QString question =
+        files_->Count() == 1
+            ? UiText::tr("The file exists already. Do you want to replace it?")
+            : UiText::tr("Some of the files exist already (%1). Do you want to replace them?")
+                  .arg(there);
+    return BAlert("", question.toStdString(), CoreText::Later("Replace"), CoreText::Later("Cancel"))
+               .Go() == 0;
+}
+
 void ExportDialog::Write(const QString& path, std::function<void(const QString& problem)> done) {
-    if (!bytes_) return;
+    if (!files_) return;
     presets_.StoreLast(exported_);
     export_->setEnabled(false);
-    writing_.Do([this, bytes = bytes_, path = QFile::encodeName(path).toStdString(),
+    writing_.Do([this, files = files_, path = QFile::encodeName(path).toStdString(),
                  done = std::move(done)](const std::atomic<bool>&) -> std::function<void()> {
-        const QString problem = WriteBytes(path, *bytes);
+        const QString problem = WriteFiles(path, *files);
         return [this, problem, done] {
             export_->setEnabled(true);
             done(problem);

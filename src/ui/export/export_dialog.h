@@ -28,7 +28,7 @@ class ExportDialog : public QDialog {
         QString name;                                // without extension
         bool pause_in_seconds = false;
         std::shared_ptr<PixelBudget> budget;
-        const BTranslatorRoster& roster;  // outlives the dialog
+        BTranslatorRoster& roster;  // outlives the dialog
     };
 
     ExportDialog(Source source, QWidget* parent);
@@ -36,8 +36,8 @@ class ExportDialog : public QDialog {
 
     // Whether what is shown is what the choices ask for.
     bool IsReady() const { return !trial_; }
-    // Writes what is shown; called on the GUI thread when that is over, with the reason where it
-    // can't be written, else an empty text.
+    // Writes the files that are shown; called on the GUI thread when that is over, with the reason
+    // where they can't be written, else an empty text.
     void Write(const QString& path, std::function<void(const QString& problem)> done);
 
   private:
@@ -50,7 +50,9 @@ class ExportDialog : public QDialog {
     void ListPresets(const QString& chosen);
     void KeepPreset();
     void RemovePreset();
-    QString ProposedPath() const;
+    QString ExtensionOf(const ExportSettings& settings) const;
+    QString ProposedName(const ExportSettings& settings) const;
+    bool MayReplace(const QString& path, const QString& confirmed);
 
     const Source source_;
     ExportPresets presets_;
@@ -63,8 +65,8 @@ class ExportDialog : public QDialog {
     QDialogButtonBox* buttons_;
     QPushButton* export_;
     std::shared_ptr<ExportTrial> trial_;  // under way; null where all is shown
-    std::shared_ptr<const std::vector<uint8>> bytes_;
-    ExportWish exported_;  // what the bytes were made by
+    std::shared_ptr<const ExportFiles> files_;
+    ExportWish exported_;  // what the files were made by
     LatestWork trials_;
     LatestWork writing_;
 };

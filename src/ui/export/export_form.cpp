@@ -6,13 +6,17 @@
 #include <QHBoxLayout>
 #include <QSlider>
 #include <QSpinBox>
+#include <algorithm>
 
+#include "base/byte_order.h"
 #include "kit/qt/ui_text.h"
+#include "ui/controls/color_button.h"
 
 namespace kirto {
 
 namespace {
 
+constexpr int kFullStrength = 100;  // percent
 constexpr int kMostLoss = 200;
 constexpr int kMostQuality = 100;
 constexpr int kUsualQuality = 80;
@@ -26,12 +30,13 @@ bool IsVideo(ExportFormat format) {
 
 }  // namespace
 
-ExportForm::ExportForm(QWidget* parent)
+ExportForm::ExportForm(const std::vector<ImageKind>& kinds, QWidget* parent)
     : QWidget(parent), form_(new QFormLayout(this)), format_(new QComboBox(this)) {
     form_->setContentsMargins(0, 0, 0, 0);
     for (const char* name :
          {UiText::Later("GIF"), UiText::Later("WebP"), UiText::Later("Animated PNG"),
-          UiText::Later("MP4 video"), UiText::Later("WebM video")})
+          UiText::Later("MP4 video"), UiText::Later("WebM video"), UiText::Later("Sheet with JSON"),
+          UiText::Later("Numbered images")})
         format_->addItem(UiText::tr(name));
     AddField("Format", UiText::tr("F&ormat:"), format_);
     colors_ = AddNumber("Colors", UiText::tr("&Colors:"), 2, 256);
@@ -40,13 +45,37 @@ ExportForm::ExportForm(QWidget* parent)
     dither_ = new QComboBox(this);
     dither_->addItems({UiText::tr("none"), UiText::tr("diffusion"), UiText::tr("ordered")});
     AddField("Dither", UiText::tr("&Dither:"), dither_);
+    strength_ = AddSlider("Strength", UiText::tr("Stren&gth:"), kFullStrength);
     loss_ = AddSlider("Loss", UiText::tr("&Loss:"), kMostLoss);
+    changed_areas_ = new QCheckBox(UiText::tr("Cha&nged areas only"), this);
+    changed_areas_->setToolTip(UiText::tr(
+        "Off: each frame is written whole, for programs that do not build on the one before"));
+    AddField("ChangedAreas", "", changed_areas_);
     lossless_ = new QCheckBox(UiText::tr("&Keep every pixel"), this);
     AddField("Lossless", "", lossless_);
     quality_ = AddSlider("Quality", UiText::tr("&Quality:"), kMostQuality);
     quality_->setValue(kUsualQuality);
+    matte_ = new ColorButton(this);
+    AddField("Matte", UiText::tr("Ma&tte:"), matte_);
+    AddSheetFields(kinds);
     scale_ = AddNumber("Scale", UiText::tr("&Scale:"), 1, kMostScale, " %");
     every_ = AddNumber("Every", UiText::tr("&Every n-th frame:"), 1, kMostFramesAStep);
+    AddLimit();
+    Listen();
+    ShowWish({});
+}
+
+void ExportForm::AddSheetFields(const std::vector<ImageKind>& kinds) {
+    image_ = new QComboBox(this);
+    for (const ImageKind& kind : kinds)
+        image_->addItem(QString::fromStdString(kind.name), QString::fromStdString(kind.extension));
+    AddField("Image", UiText::tr("&Image format:"), image_);
+    columns_ = AddNumber("Columns", UiText::tr("Colum&ns:"), 0, kMostColumns);
+    columns_->setSpecialValueText(UiText::tr("as many as rows"));
+    padding_ = AddNumber("Padding", UiText::tr("Pa&dding:"), 0, kMostPadding, UiText::tr(" px"));
+}
+
+void ExportForm::AddLimit() {
     fits_ = new QCheckBox(UiText::tr("Fit &under"), this);
     fits_->setObjectName("Fits");
     kilobytes_ = new QSpinBox(this);
@@ -57,20 +86,27 @@ ExportForm::ExportForm(QWidget* parent)
     kilobytes_->setValue(kUsualKilobytes);
     form_->addRow(fits_, kilobytes_);
     connect(kilobytes_, &QSpinBox::valueChanged, this, [this] { Change(); });
+}
+
+void ExportForm::Listen() {
     connect(format_, &QComboBox::currentIndexChanged, this, [this] {
         ShowFields();
         if (!showing_ && format_changed_)
             format_changed_(static_cast<ExportFormat>(format_->currentIndex()));
         Change();
     });
-    connect(dither_, &QComboBox::currentIndexChanged, this, [this] { Change(); });
-    for (QCheckBox* box : {one_table_, lossless_, fits_}) {
+    connect(image_, &QComboBox::currentIndexChanged, this, [this] { Change(); });
+    connect(dither_, &QComboBox::currentIndexChanged, this, [this] {
+        ShowFields();
+        Change();
+    });
+    matte_->WhenChosen([this] { Change(); });
+    for (QCheckBox* box : {one_table_, changed_areas_, lossless_, fits_}) {
         connect(box, &QCheckBox::toggled, this, [this] {
             ShowFields();
             Change();
         });
     }
-    ShowWish({});
 }
 
 void ExportForm::AddField(const char* name, const QString& label, QWidget* field) {
@@ -120,9 +156,15 @@ void ExportForm::ShowFields() {
     for (QWidget* field : {static_cast<QWidget*>(colors_), static_cast<QWidget*>(one_table_),
                            static_cast<QWidget*>(dither_), loss_->parentWidget()})
         form_->setRowVisible(field, gif);
+    form_->setRowVisible(strength_->parentWidget(), gif && dither_->currentIndex() > 0);
+    form_->setRowVisible(changed_areas_, gif || format == ExportFormat::kApng);
     form_->setRowVisible(lossless_, webp);
+    form_->setRowVisible(matte_, gif || IsVideo(format));
     form_->setRowVisible(quality_->parentWidget(),
                          IsVideo(format) || (webp && !lossless_->isChecked()));
+    form_->setRowVisible(image_, HasPictures(format));
+    for (QSpinBox* field : {columns_, padding_})
+        form_->setRowVisible(field, format == ExportFormat::kSheet);
     kilobytes_->setEnabled(fits_->isChecked());
 }
 
@@ -137,10 +179,16 @@ ExportWish ExportForm::Wish() const {
     settings.colors = colors_->value();
     settings.one_table = one_table_->isChecked();
     settings.dither = static_cast<AdaptiveDither>(dither_->currentIndex());
+    settings.strength = strength_->value();
     settings.loss = loss_->value();
+    settings.areas = changed_areas_->isChecked() ? FrameAreas::kChanged : FrameAreas::kWhole;
     const bool kept = settings.format == ExportFormat::kWebp && lossless_->isChecked();
     if (!kept) settings.quality = quality_->value();
-    settings.matte = matte_;
+    const QColor matte = matte_->Color();
+    settings.matte = {LowByte(matte.red()), LowByte(matte.green()), LowByte(matte.blue()), 255};
+    settings.image = image_->currentData().toString().toStdString();
+    settings.columns = columns_->value();
+    settings.padding = padding_->value();
     settings.scale = scale_->value();
     settings.every = every_->value();
     if (fits_->isChecked()) wish.kilobytes = kilobytes_->value();
@@ -154,10 +202,15 @@ void ExportForm::ShowWish(const ExportWish& wish) {
     colors_->setValue(settings.colors);
     one_table_->setChecked(settings.one_table);
     dither_->setCurrentIndex(static_cast<int>(settings.dither));
+    strength_->setValue(settings.strength);
     loss_->setValue(settings.loss);
+    changed_areas_->setChecked(settings.areas == FrameAreas::kChanged);
     lossless_->setChecked(!settings.quality);
     if (settings.quality) quality_->setValue(*settings.quality);
-    matte_ = settings.matte;
+    matte_->SetColor(QColor(settings.matte.red, settings.matte.green, settings.matte.blue));
+    image_->setCurrentIndex(std::max(image_->findData(QString::fromStdString(settings.image)), 0));
+    columns_->setValue(settings.columns);
+    padding_->setValue(settings.padding);
     scale_->setValue(settings.scale);
     every_->setValue(settings.every);
     fits_->setChecked(wish.kilobytes.has_value());

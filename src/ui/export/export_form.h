@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "app/export/fit_under.h"
+#include "app/export/image_encoder.h"
 
 class QCheckBox;
 class QComboBox;
@@ -14,10 +15,12 @@ class QSpinBox;
 
 namespace kirto {
 
+class ColorButton;
+
 // What an export is to be like.
 struct ExportWish {
     ExportSettings settings;
-    std::optional<int32> kilobytes;  // that the file may have; thousands of bytes
+    std::optional<int32> kilobytes;  // that the files may have; thousands of bytes
 
     bool operator==(const ExportWish&) const = default;
 };
@@ -26,7 +29,8 @@ struct ExportWish {
 // thread.
 class ExportForm : public QWidget {
   public:
-    explicit ExportForm(QWidget* parent = nullptr);
+    // kinds: of the files of sheets and images; at least one.
+    explicit ExportForm(const std::vector<ImageKind>& kinds, QWidget* parent = nullptr);
 
     ExportWish Wish() const;
     void ShowWish(const ExportWish& wish);
@@ -42,6 +46,9 @@ class ExportForm : public QWidget {
                         const QString& unit = {});
     QSlider* AddSlider(const char* name, const QString& label, int last);
     void AddField(const char* name, const QString& label, QWidget* field);
+    void AddSheetFields(const std::vector<ImageKind>& kinds);
+    void AddLimit();
+    void Listen();
     void ShowFields();
     void Change();
 
@@ -50,16 +57,21 @@ class ExportForm : public QWidget {
     QSpinBox* colors_;
     QCheckBox* one_table_;
     QComboBox* dither_;
+    QSlider* strength_;
     QSlider* loss_;
+    QCheckBox* changed_areas_;
     QCheckBox* lossless_;
     QSlider* quality_;
+    ColorButton* matte_;
+    QComboBox* image_;  // the data of its items are extensions
+    QSpinBox* columns_;
+    QSpinBox* padding_;
     QSpinBox* scale_;
     QSpinBox* every_;
     QCheckBox* fits_;
     QSpinBox* kilobytes_;
     std::function<void()> changed_;
     std::function<void(ExportFormat format)> format_changed_;
-    rgb_color matte_{255, 255, 255, 255};
     bool showing_ = false;
 };
 

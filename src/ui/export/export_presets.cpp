@@ -15,8 +15,9 @@ constexpr const char* kPresetGroup = "presets";
 constexpr const char* kLastGroup = "last";
 constexpr const char* kLastFormat = "format";
 constexpr const char* kFitName = "fit=";
-constexpr ExportFormat kFormats[] = {ExportFormat::kGif, ExportFormat::kWebp, ExportFormat::kApng,
-                                     ExportFormat::kMp4, ExportFormat::kWebm};
+constexpr ExportFormat kFormats[] = {
+    ExportFormat::kGif,  ExportFormat::kWebp,  ExportFormat::kApng,  ExportFormat::kMp4,
+    ExportFormat::kWebm, ExportFormat::kSheet, ExportFormat::kImages};
 
 struct Preset {
     const char* name;
@@ -138,6 +139,7 @@ std::optional<ExportWish> ExportPresets::Parse(const QString& text) {
     for (const QString& word : words.mid(1)) {
         if (!Read(word.toStdString(), &wish)) return std::nullopt;
     }
+    if (wish.settings.format != *format) return std::nullopt;
     return wish;
 }
 

@@ -10,7 +10,7 @@
 #include <QPushButton>
 #include <QStandardItemModel>
 
-#include "app/save_animation.h"
+#include "app/export/sequence_name.h"
 #include "base/core_text.h"
 #include "document/command_codes.h"
 #include "kit/alert.h"

@@ -183,6 +183,28 @@ TEST(ExportAnimation, LossKeepsPixelsNearAndMakesTheFileSmaller) {
     }
 }
 
+TEST(ExportAnimation, MixesColorsAsStronglyAsIsAskedFor) {
+    ExportFixture fixture;
+    AddSlopes(&fixture, 40, 2);
+    for (const AdaptiveDither dither :
+         {AdaptiveDither::kErrorDiffusion, AdaptiveDither::kOrdered}) {
+        ExportSettings settings;
+        settings.colors = 8;
+        std::vector<std::vector<uint8>> files;
+        ASSERT_EQ(fixture.Export(settings), ExportResult::kDone);
+        files.push_back(fixture.bytes);
+        settings.dither = dither;
+        for (const int32 strength : {0, 50, 100}) {
+            settings.strength = strength;
+            ASSERT_EQ(fixture.Export(settings), ExportResult::kDone);
+            files.push_back(fixture.bytes);
+        }
+        EXPECT_EQ(files[0], files[1]);
+        EXPECT_NE(files[1], files[2]);
+        EXPECT_NE(files[2], files[3]);
+    }
+}
+
 TEST(ExportAnimation, OneTableIsSharedByAllFrames) {
     ExportFixture fixture;
     AddSlopes(&fixture, 40, 4);

@@ -78,7 +78,8 @@ struct ExportFixture {
     bool in_seconds = false;
     ExportRoster roster;
     Work work;
-    std::vector<uint8> bytes;  // of the last export
+    ExportFiles files;         // of the last export
+    std::vector<uint8> bytes;  // of the first of them
     std::shared_ptr<PixelBudget> budget = std::make_shared<PixelBudget>();
 
     // Of one frame for each picture of the file.
@@ -105,7 +106,9 @@ struct ExportFixture {
         return {std::make_shared<const Animation>(animation), in_seconds, budget, roster, work};
     }
     ExportResult Export(const ExportSettings& settings) {
-        return ExportAnimation(Task(), settings, &bytes);
+        const ExportResult result = ExportAnimation(Task(), settings, &files);
+        bytes = files.Empty() ? std::vector<uint8>() : files.contents.front();
+        return result;
     }
     // What the last export shows.
     ShownCanvases Shown(ExportFormat format, AnimatedImageHeader* header) const {

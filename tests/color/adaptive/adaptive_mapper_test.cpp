@@ -1,5 +1,6 @@
 #include "color/adaptive/adaptive_mapper.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 
 #include "base/allocation.h"
@@ -85,6 +86,45 @@ TEST(AdaptiveMapper, OrderedGivesTheSamePixelInTheSamePlaceTheSameIndex) {
         if (i % 3 == 0) continue;
         ASSERT_EQ(before[i], after[i]) << i;
     }
+}
+
+TEST(AdaptiveMapper, OfNoStrengthItDoesNotDither) {
+    const std::vector<uint32> argb = PhotoPixels(61, 47);
+    const std::vector<rgb_color> colors = PaletteOf(argb, 12);
+    const std::vector<uint8> nearest = Map(argb, 61, colors, {});
+    for (const AdaptiveDither dither :
+         {AdaptiveDither::kErrorDiffusion, AdaptiveDither::kOrdered}) {
+        EXPECT_NE(Map(argb, 61, colors, {.dither = dither}), nearest);
+        EXPECT_EQ(Map(argb, 61, colors, {.dither = dither, .strength = 0}), nearest);
+    }
+}
+
+TEST(AdaptiveMapper, TheWeakerItIsTheFewerPixelsItMixes) {
+    const std::vector<uint32> argb = PhotoPixels(61, 47);
+    const std::vector<rgb_color> colors = PaletteOf(argb, 12);
+    const std::vector<uint8> nearest = Map(argb, 61, colors, {});
+    for (const AdaptiveDither dither :
+         {AdaptiveDither::kErrorDiffusion, AdaptiveDither::kOrdered}) {
+        std::vector<size_t> mixed;
+        for (const int32 strength : {1, 25, 50, 75, 100}) {
+            const auto indices = Map(argb, 61, colors, {.dither = dither, .strength = strength});
+            size_t others = 0;
+            for (size_t i = 0; i < indices.size(); ++i)
+                others += indices[i] != nearest[i] ? 1u : 0u;
+            mixed.push_back(others);
+        }
+        EXPECT_TRUE(std::is_sorted(mixed.begin(), mixed.end()));
+        EXPECT_LT(mixed.front(), mixed[2]);
+        EXPECT_LT(mixed[2], mixed.back());
+    }
+}
+
+TEST(AdaptiveMapper, OfHalfTheStrengthAMiddleGreyIsStillMixedEvenly) {
+    const std::vector<uint32> argb(64 * 64, 0xFF7F7F7F);
+    const auto indices =
+        Map(argb, 64, kBlackAndWhite, {.dither = AdaptiveDither::kOrdered, .strength = 50});
+    const auto white = std::count(indices.begin(), indices.end(), 1);
+    EXPECT_NEAR(static_cast<double>(white), 64 * 32, 64);
 }
 
 TEST(AdaptiveMapper, OrderedTakesRowsInAnyOrder) {

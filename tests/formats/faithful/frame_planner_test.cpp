@@ -1,6 +1,7 @@
 #include "formats/faithful/frame_planner.h"
 
 #include <gtest/gtest.h>
+#include <optional>
 
 #include "support/test_support.h"
 
@@ -23,15 +24,16 @@ class Planner : public testing::Test {
             pixels.push_back(pixel == ' ' ? kNothing : static_cast<uint32>(pixel));
         frame.image = {screen_.PictureOf(pixels), 0, 0, screen_.Width(), 1};
         frame.shown = std::make_shared<const ScreenPixels>(std::move(pixels));
-        planner_.Add(frame);
+        planner_->Add(frame);
     }
-    const FramePlan& Plan(size_t i) const { return planner_.Plans()[i]; }
+    void DrawWhole() { planner_.emplace(screen_, reducer_, FrameAreas::kWhole); }
+    const FramePlan& Plan(size_t i) const { return planner_->Plans()[i]; }
     PixelRect Columns(int32 first, int32 end) const { return {first, 0, end - first, 1}; }
 
     Work work_;
     const Screen screen_;
     const ColorReducer reducer_;
-    FramePlanner planner_{screen_, reducer_};
+    std::optional<FramePlanner> planner_{std::in_place, screen_, reducer_};
 };
 
 }  // namespace
@@ -44,6 +46,25 @@ TEST_F(Planner, DrawsOnlyWhatIsNew) {
     EXPECT_TRUE(Plan(1).skips);
     ASSERT_EQ(Plan(1).colors.size(), 2u);
     EXPECT_EQ(Plan(1).below, (Backdrop{0, {}}));
+}
+
+TEST_F(Planner, DrawsAllOfEachFrameWhereImagesAreToBeWhole) {
+    DrawWhole();
+    Add("aabbccdd");
+    Add("aabxcydd");
+    Add("aab  ydd");
+    Add("        ");
+    for (size_t i = 0; i < 4; ++i) {
+        EXPECT_EQ(Plan(i).rect, Columns(0, 8)) << i;
+        EXPECT_EQ(Plan(i).below, Backdrop()) << i;
+    }
+    EXPECT_EQ(Plan(0).disposal, Disposal::kKeep);
+    EXPECT_FALSE(Plan(1).skips);
+    EXPECT_EQ(Plan(1).colors.size(), 6u);
+    EXPECT_EQ(Plan(1).disposal, Disposal::kBackground);
+    EXPECT_TRUE(Plan(2).skips);
+    EXPECT_EQ(Plan(2).colors.size(), 4u);
+    EXPECT_EQ(Plan(3).colors.size(), 0u);
 }
 
 TEST_F(Planner, FirstDrawsOnAnEmptyScreen) {
@@ -83,7 +104,7 @@ TEST_F(Planner, LengthensAFrameByOnesThatLookAlike) {
     Add("abcdefgh", 10);
     Add("abcdefgh", 20);
     Add("abcdefgh", 1);
-    ASSERT_EQ(planner_.Plans().size(), 2u);
+    ASSERT_EQ(planner_->Plans().size(), 2u);
     EXPECT_EQ(Plan(0).delay, 30);
     // Browsers do not keep to so short a pause.
     EXPECT_EQ(Plan(1).delay, 1);
@@ -94,15 +115,15 @@ TEST_F(Planner, LengthensAFrameByOnesThatLookAlike) {
 TEST_F(Planner, DoesNotLengthenAFrameBeyondTheLongestPause) {
     Add("abcdefgh", 65530);
     Add("abcdefgh", 6);
-    EXPECT_EQ(planner_.Plans().size(), 2u);
+    EXPECT_EQ(planner_->Plans().size(), 2u);
 }
 
 TEST_F(Planner, TellsOfPausesThatBrowsersLengthen) {
     Add("abcdefgh", 1);
     Add("hgfedcba", 2);
-    EXPECT_EQ(planner_.HowNear().short_pauses, 1);
-    EXPECT_EQ(planner_.HowNear().changed, 0);
-    EXPECT_EQ(planner_.HowNear().pixels, 16);
+    EXPECT_EQ(planner_->HowNear().short_pauses, 1);
+    EXPECT_EQ(planner_->HowNear().changed, 0);
+    EXPECT_EQ(planner_->HowNear().pixels, 16);
 }
 
 namespace {
@@ -116,7 +137,7 @@ class ColorfulPlanner : public Planner {
         frame.delay = 10;
         frame.image = {screen_.PictureOf(pixels), 0, 0, screen_.Width(), 1};
         frame.shown = std::make_shared<const ScreenPixels>(pixels);
-        planner_.Add(frame);
+        planner_->Add(frame);
     }
     ScreenPixels ShownBy(size_t i) const { return screen_.Show(Plan(i).shown); }
     // So many colors from that column on.
@@ -137,7 +158,7 @@ TEST_F(ColorfulPlanner, ColorsThatStandStillDoNotCount) {
     for (size_t i = 0; i < 4; ++i)
         EXPECT_LE(Plan(i).colors.size(), 251u);
     EXPECT_EQ(ShownBy(3), pixels);
-    EXPECT_EQ(planner_.HowNear().changed, 0);
+    EXPECT_EQ(planner_->HowNear().changed, 0);
 }
 
 TEST_F(ColorfulPlanner, AFrameOfTooManyColorsIsReducedAndWhatStandsStillStaysSo) {
@@ -145,7 +166,7 @@ TEST_F(ColorfulPlanner, AFrameOfTooManyColorsIsReducedAndWhatStandsStillStaysSo)
     Paint(0, 600, 1000, &pixels);
     AddPixels(pixels);
     EXPECT_LE(Plan(0).colors.size(), 255u);
-    EXPECT_GT(planner_.HowNear().changed, 300);
+    EXPECT_GT(planner_->HowNear().changed, 300);
     const ScreenPixels first = ShownBy(0);
     EXPECT_NE(first, pixels);
 

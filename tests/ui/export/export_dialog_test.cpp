@@ -7,14 +7,17 @@
 #include <QPushButton>
 #include <QSlider>
 #include <QSpinBox>
+#include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <iterator>
+#include <tuple>
 
 #include "support/colors.h"
 #include "support/environment.h"
 #include "support/fake_roster.h"
 #include "support/test_support.h"
+#include "ui/controls/color_button.h"
 #include "ui/export/export_view.h"
 #include "ui/player/picture_pane.h"
 #include "ui/thumbnails/frame_area_fixture.h"
@@ -135,6 +138,99 @@ TEST_F(ExportDialogTest, ShowsTheChoicesOfTheFormatOnly) {
     EXPECT_FALSE(Named<QSlider>(*dialog, "QualitySlider")->isVisible());
     Named<QCheckBox>(*dialog, "Lossless")->click();
     EXPECT_TRUE(Named<QSlider>(*dialog, "QualitySlider")->isVisible());
+}
+
+TEST_F(ExportDialogTest, ShowsTheStrengthOfMixingWhereColorsAreMixed) {
+    ASSERT_TRUE(IsDone());
+    auto* strength = Named<QSlider>(*dialog, "StrengthSlider");
+    EXPECT_FALSE(strength->isVisible());
+    Menu("Dither")->setCurrentIndex(2);
+    EXPECT_TRUE(strength->isVisible());
+    strength->setValue(40);
+    ASSERT_TRUE(IsDone());
+    EXPECT_EQ(Write("mixed.gif"), "");
+    EXPECT_EQ(ExportPresets().Last().settings.strength, 40);
+    Menu("Format")->setCurrentIndex(2);
+    EXPECT_FALSE(strength->isVisible());
+    ASSERT_TRUE(IsDone());
+}
+
+TEST_F(ExportDialogTest, WritesWholeFramesWhereChangedAreasAreNotEnough) {
+    ASSERT_TRUE(IsDone());
+    auto* changed = Named<QCheckBox>(*dialog, "ChangedAreas");
+    EXPECT_TRUE(changed->isChecked());
+    changed->click();
+    ASSERT_TRUE(IsDone());
+    EXPECT_EQ(Write("whole.gif"), "");
+    EXPECT_EQ(ExportPresets().Last().settings.areas, FrameAreas::kWhole);
+    for (const auto& [format, shown] : {std::pair(0, true), {1, false}, {2, true}, {3, false}}) {
+        Menu("Format")->setCurrentIndex(format);
+        EXPECT_EQ(changed->isVisible(), shown) << format;
+    }
+    ASSERT_TRUE(IsDone());
+}
+
+TEST_F(ExportDialogTest, LaysSoftEdgesOnTheMatteThatIsChosen) {
+    ASSERT_TRUE(IsDone());
+    auto* matte = Named<ColorButton>(*dialog, "Matte");
+    matte->click();
+    auto* mixer = Named<QDialog>(*matte, "ChooseColor");
+    Named<QSpinBox>(*mixer, "Blue")->setValue(0);
+    mixer->accept();
+    EXPECT_FALSE(dialog->IsReady());
+    ASSERT_TRUE(IsDone());
+    EXPECT_EQ(Write("matte.gif"), "");
+    const rgb_color kept = ExportPresets().Last().settings.matte;
+    EXPECT_EQ(std::tuple(kept.red, kept.green, kept.blue), std::tuple(255, 255, 0));
+}
+
+TEST_F(ExportDialogTest, ShowsTheMatteWhereTransparentPixelsAreLost) {
+    auto* matte = Named<ColorButton>(*dialog, "Matte");
+    for (const auto& [format, shown] : {std::pair(0, true), {1, false}, {2, false}, {3, true}}) {
+        Menu("Format")->setCurrentIndex(format);
+        EXPECT_EQ(matte->isVisible(), shown) << format;
+    }
+    ASSERT_TRUE(IsDone());
+}
+
+TEST_F(ExportDialogTest, WritesASheetWithItsTextAndShowsTheSizeOfBoth) {
+    ASSERT_TRUE(IsDone());
+    Menu("Format")->setCurrentIndex(5);
+    EXPECT_TRUE(Number("Columns")->isVisible());
+    EXPECT_FALSE(Number("Colors")->isVisible());
+    Number("Columns")->setValue(1);
+    Number("Padding")->setValue(3);
+    ASSERT_TRUE(IsDone());
+    EXPECT_EQ(Write("two.png"), "");
+    EXPECT_EQ(Named<QLabel>(*dialog, "Size")->toolTip(),
+              QString("%1 bytes").arg(SizeOf("two.png") + SizeOf("two.json")));
+    const ExportSettings last = ExportPresets().Last().settings;
+    EXPECT_EQ(last.format, ExportFormat::kSheet);
+    EXPECT_EQ(last.columns, 1);
+    EXPECT_EQ(last.padding, 3);
+}
+
+TEST_F(ExportDialogTest, PlaysNumberedImagesOfTheKindThatIsChosen) {
+    ASSERT_TRUE(IsDone());
+    Menu("Format")->setCurrentIndex(6);
+    EXPECT_FALSE(Number("Columns")->isVisible());
+    Menu("Image")->setCurrentIndex(Menu("Image")->findData("raw"));
+    ASSERT_TRUE(IsDone());
+    View()->SetPlaying(false);
+    View()->ShowTime(1500);
+    EXPECT_TRUE(Shows(View()->Result(), kGreen));
+    EXPECT_EQ(Write("two.raw"), "");
+    EXPECT_GT(SizeOf("two0001.raw"), 0u);
+    EXPECT_EQ(ExportPresets().Last(ExportFormat::kImages).settings.image, "raw");
+}
+
+TEST_F(ExportDialogTest, TellsHowManyFilesWereWrittenWhereOneCanNotBe) {
+    ASSERT_TRUE(IsDone());
+    Menu("Format")->setCurrentIndex(6);
+    ASSERT_TRUE(IsDone());
+    std::filesystem::create_directory(folder.File("two0001.png"));
+    EXPECT_TRUE(Write("two.png").ends_with(" 0 of 2 files were written."));
+    EXPECT_EQ(SizeOf("two0000.png"), 0u);
 }
 
 TEST_F(ExportDialogTest, SaysWhatNothingCanWrite) {

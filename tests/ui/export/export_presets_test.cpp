@@ -63,10 +63,27 @@ TEST_F(ExportPresetsTest, RemembersTheLastOfEachFormat) {
 }
 
 TEST_F(ExportPresetsTest, ReadsNothingFromOtherTexts) {
-    for (const char* text :
-         {"", "BMP", "GIF colors=1", "GIF fit=0", "GIF fit=x", "GIF other=1", "colors=4"})
+    for (const char* text : {"", "BMP", "GIF colors=1", "GIF fit=0", "GIF fit=x", "GIF other=1",
+                             "colors=4", "GIF format=sheet", "Sheet image=a/b"})
         EXPECT_FALSE(ExportPresets::Parse(text)) << text;
     EXPECT_EQ(ExportPresets::Parse(ExportPresets::TextOf(SmallWebp())), SmallWebp());
+}
+
+TEST_F(ExportPresetsTest, ReadsTextsOfFewerChoicesThanThereAreNow) {
+    const auto wish = ExportPresets::Parse(
+        "GIF colors=64 loss=0 scale=100 every=1 table=each dither=ordered quality=80 matte=ffffff");
+    ASSERT_TRUE(wish);
+    EXPECT_EQ(wish->settings.dither, AdaptiveDither::kOrdered);
+    EXPECT_EQ(wish->settings.strength, 100);
+    EXPECT_EQ(wish->settings.areas, FrameAreas::kChanged);
+}
+
+TEST_F(ExportPresetsTest, KeepsTheChoicesOfSheets) {
+    ExportWish sheet;
+    sheet.settings.format = ExportFormat::kSheet;
+    sheet.settings.columns = 4;
+    sheet.settings.image = "webp";
+    EXPECT_EQ(ExportPresets::Parse(ExportPresets::TextOf(sheet)), sheet);
 }
 
 }  // namespace kirto::test
