@@ -1,6 +1,8 @@
 #include "ui/dialogs/fade_strip.h"
 
 #include <QPainter>
+#include <QStyle>
+#include <QStyleOptionFrame>
 #include <algorithm>
 #include <chrono>
 #include <utility>
@@ -101,9 +103,10 @@ void FadeStrip::paintEvent(QPaintEvent*) {
     const FadeChoice choice = choice_();
     if (asked_ != choice) Ask(choice);
     QPainter painter(this);
-    painter.setPen(palette().color(QPalette::Mid));
-    painter.setBrush(PixelColor(choice.color));
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    painter.fillRect(rect(), PixelColor(choice.color));
+    QStyleOptionFrame frame;
+    frame.initFrom(this);
+    style()->drawPrimitive(QStyle::PE_Frame, &frame, &painter, this);
     if (images_.empty()) return;
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     QRectF room = QRectF(rect()).adjusted(kStripMargin, kStripMargin, -kStripMargin, -kStripMargin);
