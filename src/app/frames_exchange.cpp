@@ -45,7 +45,8 @@ void KeepPauses(Animation& source, const Animation& target) {
 
 void Refuse(status_t status) {
     if (status == B_NO_MEMORY) return WarnOutOfMemory();
-    Warn("What is on the clipboard can't be pasted because it was damaged or is unsupported.");
+    TellQuietly(
+        "What is on the clipboard can't be pasted because it was damaged or is unsupported.");
 }
 
 int32 PositionIn(const BMessage& message, const AnimationDocument& document) {

@@ -159,8 +159,8 @@ Prefs& WarnOfTrouble(Prefs& settings) {
             "may not be saved.");
     }
     if (!settings.damaged_copy.empty()) {
-        kirto::Warn("The settings file was damaged. It has been put aside as \"" +
-                    settings.damaged_copy + "\", and default values will be used instead.");
+        kirto::TellQuietly("The settings file was damaged. It has been put aside as \"" +
+                           settings.damaged_copy + "\", and default values will be used instead.");
     }
     return settings;
 }

@@ -152,7 +152,8 @@ std::shared_ptr<const Picture> ReadOverlay(Request& request, const entry_ref& re
     } else if (status == B_NO_MEMORY) {
         WarnOutOfMemory();
     } else if (status != B_OK || !Is32Bit(bitmap->ColorSpace())) {
-        Warn("This file can't be drawn because this file type is unsupported: " + ref.Leaf());
+        TellQuietly("This file can't be drawn because this file type is unsupported: " +
+                    ref.Leaf());
     } else {
         return Picture::Of(std::move(bitmap), document.pixel_budget);
     }
