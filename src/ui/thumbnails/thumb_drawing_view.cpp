@@ -88,10 +88,12 @@ void ThumbDrawingView::KeepCurrentInSight() {
 // For those who can't see which thumbnail has the line around it.
 void ThumbDrawingView::Describe() {
     const kirto::FramePointer frame = shown_.CurrentFrame();
-    const std::string text =
+    std::string text =
         frame ? kirto::Format("frame #%04d %s, %d x %d, %d frame(s)", shown_.Selected(),
                               frame->name.c_str(), frame->width, frame->height, shown_.FrameCount())
               : "no frames";
+    const std::string marks = frame ? MarksOf(shown_.Selected()) : "";
+    if (!marks.empty()) text += ", " + marks;
     const int32 several = shown_.Current().several.Count();
     const QString description =
         QString::fromStdString(several > 0 ? text + kirto::Format(", %d selected", several) : text);
@@ -104,6 +106,11 @@ bool ThumbDrawingView::event(QEvent* event) {
     return true;
 }
 
+std::string ThumbDrawingView::MarksOf(int32 index) const {
+    const bool in_seconds = shown_.Settings().global_pauseinseconds;
+    return kirto::FrameLabel::Of(shown_.Current(), index, in_seconds).Marks();
+}
+
 void ThumbDrawingView::ShowToolTip(const QHelpEvent& event) {
     const int32 index = Layout().HitTest(PointOf(event.pos()));
     if (index < 0) {
@@ -113,9 +120,7 @@ void ThumbDrawingView::ShowToolTip(const QHelpEvent& event) {
     const Frame& frame = *shown_.Frames().At(index);
     std::string text = kirto::Format("frame #%04d    %s\n%d x %d", index, frame.name.c_str(),
                                      frame.width, frame.height);
-    const std::string marks =
-        kirto::FrameLabel::Of(shown_.Current(), index, shown_.Settings().global_pauseinseconds)
-            .Marks();
+    const std::string marks = MarksOf(index);
     if (!marks.empty()) text += "\n" + marks;
     // Escaped, as a name may look like markup.
     QToolTip::showText(
