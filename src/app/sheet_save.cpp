@@ -5,6 +5,7 @@
 
 #include "app/save_animation.h"
 #include "app/sequence_save.h"
+#include "base/core_text.h"
 #include "kit/alert.h"
 #include "kit/picture_files.h"
 
@@ -19,8 +20,9 @@ SheetSave::SheetSave(AnimationDocument& document, BTranslatorRoster& roster, Enc
 
 status_t SheetSave::Save(const std::string& path) {
     if (drawing_.IsEmpty() || drawing_.IsTooLarge()) {
-        Warn(drawing_.IsEmpty() ? "There is no frame to save."
-                                : "The sheet can't be saved because it would be too large.");
+        Warn(drawing_.IsEmpty()
+                 ? CoreText::Later("There is no frame to save.")
+                 : CoreText::Later("The sheet can't be saved because it would be too large."));
         return B_BAD_VALUE;
     }
     const std::shared_ptr<BBitmap> picture = drawing_.Draw(document_.pixel_budget, document_.work);

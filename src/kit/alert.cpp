@@ -4,6 +4,8 @@
 #include <new>
 #include <utility>
 
+#include "base/core_text.h"
+
 namespace kirto {
 
 namespace {
@@ -17,7 +19,7 @@ AlertPresenter* InstallAlertPresenter(AlertPresenter* presenter) {
 }
 
 void Warn(const std::string& text) {
-    BAlert("", text, "OK").Go();
+    BAlert("", text, CoreText::Later("OK")).Go();
 }
 
 void WarnOutOfMemory() noexcept {

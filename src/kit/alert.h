@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "base/core_text.h"
 #include "base/types.h"
 
 enum alert_type : int32 {
@@ -65,7 +66,7 @@ namespace kirto {
 // Shows a warning alert without a title and with the one button "OK".
 void Warn(const std::string& text);
 
-inline constexpr const char* kOutOfMemory = "Out of memory.";
+inline constexpr const char* kOutOfMemory = CoreText::Later("Out of memory.");
 
 // Warn(kOutOfMemory). Where memory is too short even for that, nothing happens.
 void WarnOutOfMemory() noexcept;

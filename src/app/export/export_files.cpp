@@ -7,7 +7,7 @@
 #include <utility>
 
 #include "app/export/sequence_name.h"
-#include "base/text.h"
+#include "base/core_text.h"
 #include "kit/file.h"
 
 namespace kirto {
@@ -64,7 +64,8 @@ std::vector<std::string> ExportFiles::PathsAt(const std::string& path) const {
 
 std::string WrittenExport::Remark() const {
     if (count == 1) return {};
-    return Format(" %zu of %zu files were written.", written, count);
+    return CoreText::With(CoreText::tr(" %1 of %2 files were written."),
+                          {std::to_string(written), std::to_string(count)});
 }
 
 WrittenExport WriteExport(const ExportFiles& files, const std::string& path) {

@@ -1,12 +1,14 @@
 #include "app/export/export_result.h"
 
+#include "base/core_text.h"
+
 namespace kirto {
 
 namespace {
 
-constexpr const char* kNoVideoWriterText =
+constexpr const char* kNoVideoWriterText = CoreText::Later(
     "The video can't be written because the program ffmpeg was not found. Install the package "
-    "\"ffmpeg\".";
+    "\"ffmpeg\".");
 
 }  // namespace
 
@@ -15,24 +17,29 @@ std::string SentenceOf(ExportResult result, ExportFormat format) {
         case ExportResult::kDone:
             return {};
         case ExportResult::kNoFrames:
-            return "There is no frame to export.";
+            return CoreText::tr("There is no frame to export.");
         case ExportResult::kTooLarge:
-            if (format == ExportFormat::kSheet) return "The sheet would be too large.";
-            return std::string("The animation is too large for a ") + NameOf(format) + " file.";
+            if (format == ExportFormat::kSheet)
+                return CoreText::tr("The sheet would be too large.");
+            return CoreText::With(CoreText::tr("The animation is too large for a %1 file."),
+                                  {NameOf(format)});
         case ExportResult::kNoWriter:
             if (format == ExportFormat::kMp4 || format == ExportFormat::kWebm)
-                return kNoVideoWriterText;
-            if (HasPictures(format)) return "There is nothing here that writes this image format.";
-            return std::string("There is nothing here that writes ") + NameOf(format) + " files.";
+                return CoreText::tr(kNoVideoWriterText);
+            if (HasPictures(format))
+                return CoreText::tr("There is nothing here that writes this image format.");
+            return CoreText::With(CoreText::tr("There is nothing here that writes %1 files."),
+                                  {NameOf(format)});
         case ExportResult::kNoMemory:
-            return "Out of memory.";
+            return CoreText::tr("Out of memory.");
         case ExportResult::kFailed:
-            if (HasPictures(format)) return "The image can't be written in this format.";
-            return "The program that writes videos has failed.";
+            if (HasPictures(format))
+                return CoreText::tr("The image can't be written in this format.");
+            return CoreText::tr("The program that writes videos has failed.");
         case ExportResult::kTooManyBytes:
-            return "The animation can't be made so small.";
+            return CoreText::tr("The animation can't be made so small.");
         case ExportResult::kStopped:
-            return "Stopped.";
+            return CoreText::tr("Stopped.");
     }
     return {};
 }

@@ -14,7 +14,9 @@
 #include <QVBoxLayout>
 
 #include "app/save_animation.h"
+#include "base/core_text.h"
 #include "kit/alert.h"
+#include "kit/qt/ui_text.h"
 #include "ui/export/export_view.h"
 
 namespace kirto {
@@ -53,7 +55,7 @@ QString SizeTextOf(size_t bytes) {
 QString SentenceOfFailure(const ExportTrial::Outcome& outcome, ExportFormat format) {
     QString text = QString::fromStdString(SentenceOf(outcome.result, format));
     if (outcome.result == ExportResult::kTooManyBytes)
-        text += QString(" The smallest that was tried has %1.")
+        text += UiText::tr(" The smallest that was tried has %1.")
                     .arg(SizeTextOf(static_cast<size_t>(outcome.made.smallest)));
     return text;
 }
@@ -62,7 +64,7 @@ QString SentenceOfFailure(const ExportTrial::Outcome& outcome, ExportFormat form
 QString WriteFiles(const std::string& path, const ExportFiles& files) {
     const WrittenExport written = WriteExport(files, path);
     if (written.IsComplete()) return {};
-    return QString::fromStdString(kFileNotCreatedText + written.Remark());
+    return QString::fromStdString(CoreText::tr(kFileNotCreatedText) + written.Remark());
 }
 
 }  // namespace
@@ -73,13 +75,13 @@ ExportDialog::ExportDialog(Source source, QWidget* parent)
       view_(new ExportView(this)),
       form_(new ExportForm(ImageKindsOf(source_.roster), this)),
       preset_(new QComboBox(this)),
-      remove_(new QPushButton("Remo&ve", this)),
+      remove_(new QPushButton(UiText::tr("Remo&ve"), this)),
       size_(new QLabel(this)),
       given_up_(new QLabel(this)),
       buttons_(new QDialogButtonBox(QDialogButtonBox::Close, this)),
-      export_(buttons_->addButton("E&xport...", QDialogButtonBox::AcceptRole)) {
+      export_(buttons_->addButton(UiText::tr("E&xport..."), QDialogButtonBox::AcceptRole)) {
     setObjectName("Export");
-    setWindowTitle("Export");
+    setWindowTitle(UiText::tr("Export"));
     setAttribute(Qt::WA_DeleteOnClose);
     Arrange();
     resize(kExportWidth, kExportHeight);
@@ -108,7 +110,7 @@ void ExportDialog::Arrange() {
     given_up_->setObjectName("GivenUp");
     given_up_->setWordWrap(true);
     export_->setObjectName("Export");
-    auto* plays = new QCheckBox("Pla&y", this);
+    auto* plays = new QCheckBox(UiText::tr("Pla&y"), this);
     plays->setObjectName("Play");
     plays->setChecked(true);
     connect(plays, &QCheckBox::toggled, view_, &ExportView::SetPlaying);
@@ -131,11 +133,11 @@ QWidget* ExportDialog::MakePresets() {
     auto* row = new QWidget(this);
     auto* layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
-    auto* label = new QLabel("&Preset:", row);
+    auto* label = new QLabel(UiText::tr("&Preset:"), row);
     label->setBuddy(preset_);
     preset_->setObjectName("Preset");
-    preset_->setAccessibleName("Preset");
-    auto* keep = new QPushButton("Keep &As...", row);
+    preset_->setAccessibleName(UiText::tr("Preset"));
+    auto* keep = new QPushButton(UiText::tr("Keep &As..."), row);
     keep->setObjectName("KeepPreset");
     remove_->setObjectName("RemovePreset");
     for (QPushButton* button : {keep, remove_})
@@ -170,11 +172,11 @@ void ExportDialog::ShowPreset(const QString& name) {
 
 void ExportDialog::KeepPreset() {
     bool chosen = false;
-    const QString name =
-        QInputDialog::getText(this, "Keep Preset", "Name:", QLineEdit::Normal, "", &chosen);
+    const QString name = QInputDialog::getText(this, UiText::tr("Keep Preset"), UiText::tr("Name:"),
+                                               QLineEdit::Normal, "", &chosen);
     if (!chosen) return;
     if (presets_.Store(name.trimmed(), form_->Wish())) return ListPresets(name.trimmed());
-    Warn("The preset can't be kept under this name.");
+    Warn(CoreText::tr("The preset can't be kept under this name."));
 }
 
 void ExportDialog::RemovePreset() {
@@ -192,7 +194,7 @@ void ExportDialog::TryAgain() {
         source_.animation, source_.pause_in_seconds, source_.budget, source_.roster, wish.settings,
         limit, QFile::encodeName(ProposedName(wish.settings)).toStdString()});
     size_->setEnabled(false);
-    if (!files_) size_->setText("Working...");
+    if (!files_) size_->setText(UiText::tr("Working..."));
     export_->setEnabled(false);
     trials_.Do([this, wish, trial = trial_](const std::atomic<bool>&) -> std::function<void()> {
         auto outcome = std::make_shared<ExportTrial::Outcome>(trial->Run());
@@ -208,7 +210,7 @@ void ExportDialog::Take(const ExportTrial::Outcome& outcome) {
     size_->setEnabled(true);
     if (outcome.result != ExportResult::kDone) {
         files_.reset();
-        size_->setText("No file");
+        size_->setText(UiText::tr("No file"));
         given_up_->setText(SentenceOfFailure(outcome, exported_.settings.format));
         return;
     }
@@ -216,9 +218,10 @@ void ExportDialog::Take(const ExportTrial::Outcome& outcome) {
     const std::string name = QFile::encodeName(ProposedName(exported_.settings)).toStdString();
     const uint64 size = files_->Size(name);
     size_->setText(SizeTextOf(size));
-    size_->setToolTip(QString("%1 bytes").arg(size));
+    size_->setToolTip(UiText::tr("%1 bytes").arg(size));
     const std::string given_up = GivenUp(exported_.settings, outcome.made.settings);
-    given_up_->setText(given_up.empty() ? "" : "With " + QString::fromStdString(given_up));
+    given_up_->setText(given_up.empty() ? ""
+                                        : UiText::tr("With ") + QString::fromStdString(given_up));
     export_->setEnabled(true);
     view_->ShowResult(outcome.shown);
 }
@@ -239,7 +242,7 @@ void ExportDialog::Choose() {
     const auto options =
         files_ && files_->numbered ? QFileDialog::DontConfirmOverwrite : QFileDialog::Options();
     const QString chosen = QFileDialog::getSaveFileName(
-        this, "Export As", source_.folder + '/' + ProposedName(settings),
+        this, UiText::tr("Export As"), source_.folder + '/' + ProposedName(settings),
         QString("%1 (*.%2)").arg(NameOf(settings.format), extension), nullptr, options);
     if (chosen.isEmpty()) return;
     const QString suffix = QFileInfo(chosen).suffix();
@@ -265,10 +268,11 @@ bool ExportDialog::MayReplace(const QString& path, const QString& confirmed) {
     if (there == 0) return true;
     const QString question =
         files_->Count() == 1
-            ? QString("The file exists already. Do you want to replace it?")
-            : QString("Some of the files exist already (%1). Do you want to replace them?")
+            ? UiText::tr("The file exists already. Do you want to replace it?")
+            : UiText::tr("Some of the files exist already (%1). Do you want to replace them?")
                   .arg(there);
-    return BAlert("", question.toStdString(), "Replace", "Cancel").Go() == 0;
+    return BAlert("", question.toStdString(), CoreText::Later("Replace"), CoreText::Later("Cancel"))
+               .Go() == 0;
 }
 
 void ExportDialog::Write(const QString& path, std::function<void(const QString& problem)> done) {

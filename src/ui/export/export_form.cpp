@@ -9,6 +9,7 @@
 #include <algorithm>
 
 #include "base/byte_order.h"
+#include "kit/qt/ui_text.h"
 #include "ui/controls/color_button.h"
 
 namespace kirto {
@@ -32,31 +33,33 @@ bool IsVideo(ExportFormat format) {
 ExportForm::ExportForm(const std::vector<ImageKind>& kinds, QWidget* parent)
     : QWidget(parent), form_(new QFormLayout(this)), format_(new QComboBox(this)) {
     form_->setContentsMargins(0, 0, 0, 0);
-    for (const char* name : {"GIF", "WebP", "Animated PNG", "MP4 video", "WebM video",
-                             "Sheet with JSON", "Numbered images"})
-        format_->addItem(name);
-    AddField("Format", "F&ormat:", format_);
-    colors_ = AddNumber("Colors", "&Colors:", 2, 256);
-    one_table_ = new QCheckBox("The same colors in all fra&mes", this);
+    for (const char* name :
+         {UiText::Later("GIF"), UiText::Later("WebP"), UiText::Later("Animated PNG"),
+          UiText::Later("MP4 video"), UiText::Later("WebM video"), UiText::Later("Sheet with JSON"),
+          UiText::Later("Numbered images")})
+        format_->addItem(UiText::tr(name));
+    AddField("Format", UiText::tr("F&ormat:"), format_);
+    colors_ = AddNumber("Colors", UiText::tr("&Colors:"), 2, 256);
+    one_table_ = new QCheckBox(UiText::tr("The same colors in all fra&mes"), this);
     AddField("OneTable", "", one_table_);
     dither_ = new QComboBox(this);
-    dither_->addItems({"none", "diffusion", "ordered"});
-    AddField("Dither", "&Dither:", dither_);
-    strength_ = AddSlider("Strength", "Stren&gth:", kFullStrength);
-    loss_ = AddSlider("Loss", "&Loss:", kMostLoss);
-    changed_areas_ = new QCheckBox("Cha&nged areas only", this);
-    changed_areas_->setToolTip(
-        "Off: each frame is written whole, for programs that do not build on the one before");
+    dither_->addItems({UiText::tr("none"), UiText::tr("diffusion"), UiText::tr("ordered")});
+    AddField("Dither", UiText::tr("&Dither:"), dither_);
+    strength_ = AddSlider("Strength", UiText::tr("Stren&gth:"), kFullStrength);
+    loss_ = AddSlider("Loss", UiText::tr("&Loss:"), kMostLoss);
+    changed_areas_ = new QCheckBox(UiText::tr("Cha&nged areas only"), this);
+    changed_areas_->setToolTip(UiText::tr(
+        "Off: each frame is written whole, for programs that do not build on the one before"));
     AddField("ChangedAreas", "", changed_areas_);
-    lossless_ = new QCheckBox("&Keep every pixel", this);
+    lossless_ = new QCheckBox(UiText::tr("&Keep every pixel"), this);
     AddField("Lossless", "", lossless_);
-    quality_ = AddSlider("Quality", "&Quality:", kMostQuality);
+    quality_ = AddSlider("Quality", UiText::tr("&Quality:"), kMostQuality);
     quality_->setValue(kUsualQuality);
     matte_ = new ColorButton(this);
-    AddField("Matte", "Ma&tte:", matte_);
+    AddField("Matte", UiText::tr("Ma&tte:"), matte_);
     AddSheetFields(kinds);
-    scale_ = AddNumber("Scale", "&Scale:", 1, kMostScale, " %");
-    every_ = AddNumber("Every", "&Every n-th frame:", 1, kMostFramesAStep);
+    scale_ = AddNumber("Scale", UiText::tr("&Scale:"), 1, kMostScale, " %");
+    every_ = AddNumber("Every", UiText::tr("&Every n-th frame:"), 1, kMostFramesAStep);
     AddLimit();
     Listen();
     ShowWish({});
@@ -66,20 +69,20 @@ void ExportForm::AddSheetFields(const std::vector<ImageKind>& kinds) {
     image_ = new QComboBox(this);
     for (const ImageKind& kind : kinds)
         image_->addItem(QString::fromStdString(kind.name), QString::fromStdString(kind.extension));
-    AddField("Image", "&Image format:", image_);
-    columns_ = AddNumber("Columns", "Colum&ns:", 0, kMostColumns);
-    columns_->setSpecialValueText("as many as rows");
-    padding_ = AddNumber("Padding", "Pa&dding:", 0, kMostPadding, " px");
+    AddField("Image", UiText::tr("&Image format:"), image_);
+    columns_ = AddNumber("Columns", UiText::tr("Colum&ns:"), 0, kMostColumns);
+    columns_->setSpecialValueText(UiText::tr("as many as rows"));
+    padding_ = AddNumber("Padding", UiText::tr("Pa&dding:"), 0, kMostPadding, UiText::tr(" px"));
 }
 
 void ExportForm::AddLimit() {
-    fits_ = new QCheckBox("Fit &under", this);
+    fits_ = new QCheckBox(UiText::tr("Fit &under"), this);
     fits_->setObjectName("Fits");
     kilobytes_ = new QSpinBox(this);
     kilobytes_->setObjectName("Kilobytes");
-    kilobytes_->setAccessibleName("Fit under");
+    kilobytes_->setAccessibleName(UiText::tr("Fit under"));
     kilobytes_->setRange(1, kMostKilobytes);
-    kilobytes_->setSuffix(" KB");
+    kilobytes_->setSuffix(UiText::tr(" KB"));
     kilobytes_->setValue(kUsualKilobytes);
     form_->addRow(fits_, kilobytes_);
     connect(kilobytes_, &QSpinBox::valueChanged, this, [this] { Change(); });
@@ -106,14 +109,14 @@ void ExportForm::Listen() {
     }
 }
 
-void ExportForm::AddField(const char* name, const char* label, QWidget* field) {
+void ExportForm::AddField(const char* name, const QString& label, QWidget* field) {
     field->setObjectName(name);
     field->setAccessibleName(QString(label).remove('&').remove(':'));
     form_->addRow(label, field);
 }
 
-QSpinBox* ExportForm::AddNumber(const char* name, const char* label, int first, int last,
-                                const char* unit) {
+QSpinBox* ExportForm::AddNumber(const char* name, const QString& label, int first, int last,
+                                const QString& unit) {
     auto* number = new QSpinBox(this);
     number->setRange(first, last);
     number->setSuffix(unit);
@@ -122,7 +125,7 @@ QSpinBox* ExportForm::AddNumber(const char* name, const char* label, int first, 
     return number;
 }
 
-QSlider* ExportForm::AddSlider(const char* name, const char* label, int last) {
+QSlider* ExportForm::AddSlider(const char* name, const QString& label, int last) {
     auto* row = new QWidget(this);
     auto* slider = new QSlider(Qt::Horizontal, row);
     auto* number = new QSpinBox(row);

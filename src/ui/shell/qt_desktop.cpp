@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "app/kirto.h"
+#include "base/core_text.h"
 #include "desktop/qt/browser.h"
 #include "desktop/qt/mime_types.h"
 #include "document/command_codes.h"
@@ -56,7 +57,7 @@ void QtDesktop::RememberFile(const std::string& path) {
 
 void QtDesktop::OpenInBrowser(const std::string& path) {
     if (kirto::OpenInBrowser(path)) return;
-    Warn("The preview was written, but no program to show it was found.");
+    Warn(CoreText::tr("The preview was written, but no program to show it was found."));
 }
 
 }  // namespace kirto
