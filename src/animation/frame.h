@@ -35,6 +35,9 @@ class Frame {
     double pause_length = 0.0;   // hundredths of a second, or seconds ("global_pauseinseconds")
     bool local_palette = false;  // written with its own color table
     bool use_pause = false;      // pause_length overrides the animation's
+    // Its data in the file ended early or was wrong, and what was good was kept. Told to the user,
+    // neither saved nor compared.
+    bool damaged = false;
     std::shared_ptr<const Palette> palette;  // never null
     // How it stood in its file; null unless it was read as browsers do.
     std::shared_ptr<const kirto::GifSource> source;
@@ -49,7 +52,7 @@ class Frame {
     // Stores the name, cut at a whole UTF-8 character where it is too long.
     void SetName(std::string_view frame_name);
 
-    // Equal fields and palettes, the same id, and the same pixels in memory.
+    // Equal fields and palettes, the same id, and the same pixels in memory, damaged or not.
     friend bool operator==(const Frame& a, const Frame& b);
 };
 

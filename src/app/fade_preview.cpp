@@ -2,9 +2,12 @@
 
 #include <algorithm>
 #include <cstring>
+#include <memory>
 #include <new>
+#include <utility>
+#include <vector>
 
-#include "document/animation_document.h"
+#include "base/work.h"
 #include "document/command_codes.h"
 #include "picture/picture_builder.h"
 
@@ -28,27 +31,42 @@ FramePointer Thinned(const FramePointer& frame, int32 step) {
         if (!builder.AddRow(row.data())) return nullptr;
     }
     auto small = std::make_shared<Frame>(frame->name, width, height);
+    small->use_pause = frame->use_pause;
+    small->pause_length = frame->pause_length;
     small->bitmap = builder.Take();
     return small->bitmap ? small : nullptr;
 }
 
-// The current frame with the neighbor that the fade needs.
-Animation SmallFrames(const Animation& animation, FadeMode mode, int32 side) {
-    Animation small;
-    const FramePointer current = animation.CurrentFrame();
-    if (!current || !current->bitmap) return small;
+// How many pixels of the current frame stand for one.
+int32 StepOf(const FramePointer& current, int32 side) {
+    if (!current || !current->bitmap) return 1;
     const int32 longer = std::max(current->bitmap->Width(), current->bitmap->Height());
-    const int32 step = std::max((longer + side - 1) / side, 1);
-    const auto add = [&](int32 position) {
-        if (const FramePointer frame = Thinned(animation.frames.At(position), step))
-            InsertFrame(small, small.frames.Size(), frame);
+    return std::max((longer + side - 1) / side, 1);
+}
+
+rgb_color ColorOf(uint32 color) {
+    return {static_cast<uint8>(color >> 24), static_cast<uint8>(color >> 16),
+            static_cast<uint8>(color >> 8), 255};
+}
+
+// The frames and what they are faded to or from.
+bool AddFade(Animation& made, const FadePlan& plan, int32 count, const std::atomic<bool>& stop) {
+    const auto add = [&made](FramePointer frame) {
+        InsertFrame(made, made.frames.Size(), std::move(frame));
     };
-    if (mode == FadeMode::kFromPrevious) add(animation.selected - 1);
-    const int32 place = small.frames.Size();
-    add(animation.selected);
-    if (small.frames.Size() > place) small.selected = place;
-    if (mode == FadeMode::kToNext) add(animation.selected + 1);
-    return small;
+    const Work work;
+    if (plan.mode == FadeMode::kFromPrevious) add(plan.other);
+    if (plan.mode == FadeMode::kToColor || plan.mode == FadeMode::kToNext) add(plan.current);
+    for (int32 i = 0; i < count; ++i) {
+        auto frame = std::make_shared<Frame>("", plan.current->width, plan.current->height);
+        frame->bitmap = stop ? nullptr : FadePicture(plan, i, count, nullptr, work);
+        if (!frame->bitmap) return false;
+        add(std::move(frame));
+    }
+    if (plan.mode == FadeMode::kFromColor || plan.mode == FadeMode::kFromPrevious)
+        add(plan.current);
+    if (plan.mode == FadeMode::kToNext) add(plan.other);
+    return true;
 }
 
 }  // namespace
@@ -66,23 +84,23 @@ FadeMode FadeModeOf(uint32 command) {
     }
 }
 
-std::vector<std::shared_ptr<const Picture>> FadePreview(const Animation& animation, uint32 command,
-                                                        int32 count, uint32 color, int32 side) {
+Animation FadePreview(const Animation& animation, const FadeChoice& choice, int32 side,
+                      const std::atomic<bool>& stop) {
     try {
-        const FadeMode mode = FadeModeOf(command);
-        Prefs settings{Prefs::BuiltIn{}};
-        AnimationDocument document(settings);
-        document.Commit(SmallFrames(animation, mode, side));
-        const bool two = mode == FadeMode::kToNext || mode == FadeMode::kFromPrevious;
-        if (document.FrameCount() != (two ? 2 : 1)) return {};
-        int32 name = 0;
-        const rgb_color target{static_cast<uint8>(color >> 24), static_cast<uint8>(color >> 16),
-                               static_cast<uint8>(color >> 8), 255};
-        if (!Fade(document, mode, count, target, &name)) return {};
-        std::vector<std::shared_ptr<const Picture>> pictures;
-        for (const FramePointer& frame : document.Current()->frames)
-            pictures.push_back(frame->bitmap);
-        return pictures;
+        const FadeMode mode = FadeModeOf(choice.command);
+        const int32 step = StepOf(animation.CurrentFrame(), side);
+        FadePlan plan{mode, ColorOf(choice.color), Thinned(animation.CurrentFrame(), step),
+                      nullptr};
+        if (!plan.current) return {};
+        if (mode == FadeMode::kToNext || mode == FadeMode::kFromPrevious) {
+            const int32 neighbor = animation.selected + (mode == FadeMode::kToNext ? 1 : -1);
+            plan.other = Thinned(animation.frames.At(neighbor), step);
+            if (!plan.other) return {};
+        }
+        Animation made;
+        made.use_pause = animation.use_pause;
+        made.pause_length = animation.pause_length;
+        return AddFade(made, plan, choice.count, stop) ? made : Animation();
     } catch (const std::bad_alloc&) {
         return {};
     }

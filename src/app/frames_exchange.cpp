@@ -46,7 +46,7 @@ void KeepPauses(Animation& source, const Animation& target) {
 
 void Refuse(status_t status) {
     if (status == B_NO_MEMORY) return WarnOutOfMemory();
-    Warn(CoreText::Later(
+    TellQuietly(CoreText::Later(
         "What is on the clipboard can't be pasted because it was damaged or is unsupported."));
 }
 

@@ -160,7 +160,7 @@ Prefs& WarnOfTrouble(Prefs& settings) {
             "may not be saved."));
     }
     if (!settings.damaged_copy.empty()) {
-        kirto::Warn(
+        kirto::TellQuietly(
             CoreText::With(CoreText::tr("The settings file was damaged. It has been put aside as "
                                         "\"%1\", and default values will be used instead."),
                            {settings.damaged_copy}));

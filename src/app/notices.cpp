@@ -6,6 +6,16 @@
 
 namespace kirto {
 
+BMessage MakeNotice(const std::string& text, const std::vector<NoticeButton>& buttons) {
+    BMessage message(kShowNotice);
+    message.AddString("text", text);
+    for (const NoticeButton& button : buttons) {
+        message.AddString("button", button.label);
+        message.AddInt32("command", static_cast<int32>(button.command));
+    }
+    return message;
+}
+
 void Notices::ShowOpened(bool inserted) {
     Show(inserted ? Kind::kInserted : Kind::kOpened,
          CoreText::Later(
@@ -26,22 +36,16 @@ void Notices::ShowDifferences(const SaveDifferences& differences) {
     std::string text;
     for (const std::string& sentence : differences.Sentences())
         text += (text.empty() ? "" : "; ") + sentence;
-    std::vector<Button> buttons = {{CoreText::Later("Save Faithfully"), kSaveFaithfully},
-                                   {CoreText::Later("Close"), kCloseNotice}};
+    std::vector<NoticeButton> buttons = {{CoreText::Later("Save Faithfully"), kSaveFaithfully},
+                                         {CoreText::Later("Close"), kCloseNotice}};
     // Where the pictures are the same there is nothing to see.
     if (!differences.pairs.empty())
         buttons.insert(buttons.begin() + 1, {CoreText::Later("Show"), kShowDifferences});
     Show(Kind::kSaved, CoreText::With(CoreText::tr("In browsers %1."), {text}), buttons);
 }
 
-void Notices::Show(Kind kind, const std::string& text, const std::vector<Button>& buttons) {
-    BMessage message(kShowNotice);
-    message.AddString("text", text);
-    for (const Button& button : buttons) {
-        message.AddString("button", button.label);
-        message.AddInt32("command", static_cast<int32>(button.command));
-    }
-    document_.window.SendMessage(message);
+void Notices::Show(Kind kind, const std::string& text, const std::vector<NoticeButton>& buttons) {
+    document_.window.SendMessage(MakeNotice(text, buttons));
     shown_ = kind;
 }
 

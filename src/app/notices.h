@@ -9,6 +9,15 @@
 
 namespace kirto {
 
+// A button of a notice.
+struct NoticeButton {
+    const char* label;
+    uint32 command;
+};
+
+// What shows a notice when the main window receives it.
+BMessage MakeNotice(const std::string& text, const std::vector<NoticeButton>& buttons);
+
 // What the main window says quietly, one notice in place of the other. Used on the application's
 // thread.
 class Notices {
@@ -39,11 +48,7 @@ class Notices {
     void HideLarger();
 
   private:
-    struct Button {
-        const char* label;
-        uint32 command;
-    };
-    void Show(Kind kind, const std::string& text, const std::vector<Button>& buttons);
+    void Show(Kind kind, const std::string& text, const std::vector<NoticeButton>& buttons);
 
     const AnimationDocument& document_;
     Kind shown_ = Kind::kNone;

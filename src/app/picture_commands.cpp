@@ -155,7 +155,7 @@ std::shared_ptr<const Picture> ReadOverlay(Request& request, const entry_ref& re
     } else if (status == B_NO_MEMORY) {
         WarnOutOfMemory();
     } else if (status != B_OK || !Is32Bit(bitmap->ColorSpace())) {
-        Warn(CoreText::With(
+        TellQuietly(CoreText::With(
             CoreText::tr("This file can't be drawn because this file type is unsupported: %1"),
             {ref.Leaf()}));
     } else {

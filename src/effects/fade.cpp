@@ -23,14 +23,6 @@ bool IsBlendable(const FramePointer& frame) {
     return frame && frame->bitmap && frame->bitmap->HasRows();
 }
 
-// What a fade is made of.
-struct FadePlan {
-    FadeMode mode;
-    rgb_color color;
-    FramePointer current;
-    FramePointer other;  // the neighbor; null for fades of a color
-};
-
 // The current frame's part of a picture of the fade.
 FadeShare ShareOfCurrent(FadeMode mode, float f) {
     return FadeShare(mode == FadeMode::kToColor ? 1 - static_cast<double>(f)
@@ -94,18 +86,6 @@ class RowBlender {
     std::vector<uint8> target_;
 };
 
-// A picture of the fade, or null when memory is short or the work was stopped.
-std::shared_ptr<const Picture> MakePicture(const FadePlan& plan, float f,
-                                           std::shared_ptr<PixelBudget> budget, const Work& work) {
-    const Picture& current = *plan.current->bitmap;
-    RowBlender blender(plan, f);
-    PictureBuilder builder(current.Width(), current.Height(), B_RGB32, std::move(budget));
-    for (int32 y = 0; y < current.Height(); ++y) {
-        if (work.StopRequested() || !builder.AddRow(blender.Row(y))) return nullptr;
-    }
-    return builder.Take();
-}
-
 // Makes the frames of a fade and inserts them.
 class FadeRun {
   public:
@@ -134,8 +114,7 @@ int32 FadeRun::InsertAt(int32 position) {
     PictureSteps steps;
     steps.begin = [this](int32 i) { return Begin(i); };
     steps.make = [this](int32 i) {
-        const float f = FadeFactor(plan_.mode, i, count_);
-        return MakePicture(plan_, f, document_.pixel_budget, document_.work);
+        return FadePicture(plan_, i, count_, document_.pixel_budget, document_.work);
     };
     steps.take = [this](int32 i, std::optional<MadePicture> made) {
         return Insert(i, std::move(made));
@@ -184,6 +163,17 @@ float FadeFactor(FadeMode mode, int32 i, int32 count) {
             break;
     }
     return static_cast<float>((step + 1) / (steps + 1));
+}
+
+std::shared_ptr<const Picture> FadePicture(const FadePlan& plan, int32 i, int32 count,
+                                           std::shared_ptr<PixelBudget> budget, const Work& work) {
+    const Picture& current = *plan.current->bitmap;
+    RowBlender blender(plan, FadeFactor(plan.mode, i, count));
+    PictureBuilder builder(current.Width(), current.Height(), B_RGB32, std::move(budget));
+    for (int32 y = 0; y < current.Height(); ++y) {
+        if (work.StopRequested() || !builder.AddRow(blender.Row(y))) return nullptr;
+    }
+    return builder.Take();
 }
 
 bool Fade(AnimationDocument& document, FadeMode mode, int32 count, rgb_color color,

@@ -1,6 +1,8 @@
 // Generating runs of frames that blend the current frame with a color or with a neighbor.
 #pragma once
 
+#include <memory>
+
 #include "base/types.h"
 #include "document/animation_document.h"
 
@@ -16,6 +18,19 @@ enum class FadeMode {
 // The share that the kernel is given for frame i of count: of the color (kToColor), of the current
 // frame (all others).
 float FadeFactor(FadeMode mode, int32 i, int32 count);
+
+// What a fade is made of.
+struct FadePlan {
+    FadeMode mode;
+    rgb_color color;
+    FramePointer current;  // has pixels
+    FramePointer other;    // the neighbor, with pixels; null for fades of a color
+};
+
+// The picture of new frame i of count, as large as the current frame. Null when memory is short or
+// the work was stopped. Any thread.
+std::shared_ptr<const Picture> FadePicture(const FadePlan& plan, int32 i, int32 count,
+                                           std::shared_ptr<PixelBudget> budget, const Work& work);
 
 // Inserts count new frames and marks the document modified. Without a current frame or the
 // neighbor that the mode needs, nothing happens. Where the neighbor is smaller than the current

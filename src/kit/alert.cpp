@@ -18,8 +18,16 @@ AlertPresenter* InstallAlertPresenter(AlertPresenter* presenter) {
     return g_presenter.exchange(presenter);
 }
 
+void AlertPresenter::Tell(const std::string& text) {
+    Present(BAlert("", text, "OK"));
+}
+
 void Warn(const std::string& text) {
     BAlert("", text, CoreText::Later("OK")).Go();
+}
+
+void TellQuietly(const std::string& text) {
+    if (AlertPresenter* presenter = g_presenter) presenter->Tell(text);
 }
 
 void WarnOutOfMemory() noexcept {

@@ -18,13 +18,16 @@ class BAlert;
 namespace kirto {
 
 // Shows alerts to whoever sits in front of the program: a dialog, a line on standard error, or a
-// test's script.
+// test's script. Called from any thread.
 class AlertPresenter {
   public:
     virtual ~AlertPresenter() = default;
-    // Shows the alert and returns the index of the button chosen, from the left. May be called from
-    // any thread; blocks the caller until there is an answer.
+    // Shows the alert and returns the index of the button chosen, from the left. Blocks the caller
+    // until there is an answer.
     virtual int32 Present(const BAlert& alert) = 0;
+    // Says that something has failed where nothing is asked: by an alert, unless the presenter has
+    // a way that interrupts nobody.
+    virtual void Tell(const std::string& text);
 };
 
 // Installs the presenter (not owned; null for none) and returns the one before, which may be
@@ -65,6 +68,9 @@ namespace kirto {
 
 // Shows a warning alert without a title and with the one button "OK".
 void Warn(const std::string& text);
+
+// Says the same without waiting for anybody to read it, where the presenter can.
+void TellQuietly(const std::string& text);
 
 inline constexpr const char* kOutOfMemory = CoreText::Later("Out of memory.");
 

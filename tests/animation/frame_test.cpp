@@ -254,6 +254,13 @@ TEST(Frame, EqualsACopyUntilAnyOfItsFieldsChanges) {
     }
 }
 
+TEST(Frame, EqualsACopyThatIsMarkedDamaged) {
+    const Frame frame;
+    Frame copy = frame;
+    copy.damaged = true;
+    EXPECT_EQ(copy, frame);
+}
+
 TEST(Frame, EqualsAFrameWhosePaletteIsTheSameInAnotherPlace) {
     const Frame frame;
     Frame copy = frame;

@@ -1,5 +1,6 @@
 #include "app/fade_preview.h"
 
+#include <atomic>
 #include <cstring>
 #include <gtest/gtest.h>
 
@@ -35,16 +36,21 @@ uint32 FirstPixel(const Picture& picture) {
 
 class FadePreviewTest : public testing::Test {
   protected:
+    Animation Preview(uint32 command, int32 count) {
+        const std::atomic<bool> stop = stopped_;
+        return FadePreview(*frames_.fixture.document.Current(), {command, count, kTarget}, kSide,
+                           stop);
+    }
     std::vector<uint32> Colors(uint32 command, int32 count) {
         std::vector<uint32> colors;
-        const auto animation = frames_.fixture.document.Current();
-        for (const auto& picture : FadePreview(*animation, command, count, kTarget, kSide))
-            colors.push_back(FirstPixel(*picture));
+        for (const FramePointer& frame : Preview(command, count).frames)
+            colors.push_back(FirstPixel(*frame->bitmap));
         return colors;
     }
     void Select(int32 frame) { frames_.fixture.document.Select(frame); }
 
     ThreeFrames frames_;
+    bool stopped_ = false;
 };
 
 // The frames of the same fade in the document itself, the current one and the neighbor.
@@ -79,6 +85,28 @@ TEST_F(FadePreviewTest, IsEmptyWhereThereIsNothingToFade) {
     EXPECT_TRUE(Colors(kFadeFromPrevious, 3).empty());
     frames_.fixture.document.Reset();
     EXPECT_TRUE(Colors(kFadeToColor, 3).empty());
+}
+
+TEST_F(FadePreviewTest, IsEmptyOnceItIsToStop) {
+    stopped_ = true;
+    EXPECT_TRUE(Colors(kFadeToColor, 3).empty());
+}
+
+TEST_F(FadePreviewTest, HasThePausesThatTheFadeWillHave) {
+    frames_.fixture.document.Change([](Animation& animation) {
+        animation.use_pause = true;
+        animation.pause_length = 7;
+        EditFrame(animation, 1, [](Frame& frame) {
+            frame.use_pause = true;
+            frame.pause_length = 30;
+        });
+        return true;
+    });
+    const Animation preview = Preview(kFadeToNext, 1);
+    ASSERT_EQ(preview.frames.Size(), 3);
+    EXPECT_EQ(preview.PauseOf(*preview.frames.At(0)), 30);
+    EXPECT_EQ(preview.PauseOf(*preview.frames.At(1)), 7);
+    EXPECT_EQ(preview.PauseOf(*preview.frames.At(2)), 7);
 }
 
 }  // namespace

@@ -101,9 +101,8 @@ TEST_F(KirtoConstruction, TellsOfADamagedSettingsFile) {
     const Lines lines = TakeLines();
     ASSERT_EQ(lines.size(), 2u);
     EXPECT_EQ(lines[0],
-              WarningLine("The settings file was damaged. It has been put aside as "
-                          "\"/home/ann/Kirto_settings.damaged\", and default values will be used "
-                          "instead."));
+              "told The settings file was damaged. It has been put aside as "
+              "\"/home/ann/Kirto_settings.damaged\", and default values will be used instead.");
 }
 
 TEST_F(KirtoConstruction, GoesOnWithoutASemaphore) {

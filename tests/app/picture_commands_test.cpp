@@ -169,8 +169,8 @@ TEST_F(PictureCommands, TellOfAnImageThatCanNotBeRead) {
     Carry(overlay);
 
     EXPECT_EQ(TakeLines(),
-              Lines{"WARNING [] This file can't be drawn because this file type is unsupported: "
-                    "notes.txt | OK"});
+              Lines{"told This file can't be drawn because this file type is unsupported: "
+                    "notes.txt"});
     EXPECT_EQ(app_->CurrentState()->undo_steps, 0);
 }
 

@@ -43,8 +43,8 @@ class Clipboard(EditorTest):
         peer.wait_for_line("^offered$")
         editor, _ = self.open_colors()
         self.session.key("ctrl+v")
-        editor.answer("What is on the clipboard can't be pasted because it was damaged or is "
-                      "unsupported.", "OK")
+        editor.wait_for_label("What is on the clipboard can't be pasted because it was damaged "
+                              "or is unsupported.")
         editor.wait_for_status(3, modified=False)
 
     def test_another_program_takes_an_animation_or_an_image(self):

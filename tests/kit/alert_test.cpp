@@ -69,4 +69,16 @@ TEST(Warn, ShowsAWarningWithOneButton) {
                                               "WARNING [] Out of memory. | OK"));
 }
 
+TEST(TellQuietly, IsAnAlertWhereThePresenterKnowsNothingQuieter) {
+    const AlertRecorder recorder;
+    TellQuietly("The file can't be written.");
+    EXPECT_THAT(recorder.Lines(), ElementsAre("WARNING [] The file can't be written. | OK"));
+}
+
+TEST(TellQuietly, IsNothingWithoutPresenter) {
+    AlertPresenter* const previous = InstallAlertPresenter(nullptr);
+    TellQuietly("The file can't be written.");
+    InstallAlertPresenter(previous);
+}
+
 }  // namespace kirto::test

@@ -18,6 +18,7 @@
 
 #include "app/recovery/crash_recovery.h"
 #include "document/command_codes.h"
+#include "ui/dialogs/fade_strip.h"
 #include "ui/export/export_dialog.h"
 #include "ui/export/export_view.h"
 #include "video_stand_in.h"
@@ -56,7 +57,7 @@ void DocumentPictures::DrawAll(const std::string& animation) {
     editor_.Main()->SetThumbnailHeight(kThumbnailHeight);
     DrivenEditor::Settle();
     DrawMain();
-    DrawDialog(kMenuFadeEffects, "Fade Effects", "fade");
+    DrawFade();
     DrawDialog(kShowColors, "Colors", "colors");
     DrawSelection();
     DrawDialog(kMenuCrop, "Crop", "crop");
@@ -90,6 +91,18 @@ void DocumentPictures::DrawDialog(uint32 command, const char* title, const char*
     QWidget* window = editor_.OpenWindow(command, title);
     if (!window) return folder_.Miss();
     folder_.Add(*window, name);
+    window->close();
+    DrivenEditor::Settle();
+}
+
+// A fade that stands still.
+void DocumentPictures::DrawFade() {
+    QWidget* window = editor_.OpenWindow(kMenuFadeEffects, "Fade Effects");
+    if (!window) return folder_.Miss();
+    auto* strip = dynamic_cast<FadeStrip*>(window->findChild<QWidget*>("Preview"));
+    strip->SetNow([] { return PlaybackClock::Instant(0); });
+    DrivenEditor::WaitUntil([strip] { return strip->IsReady(); });
+    folder_.Add(*window, "fade");
     window->close();
     DrivenEditor::Settle();
 }

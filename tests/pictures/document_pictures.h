@@ -18,6 +18,7 @@ class DocumentPictures {
   private:
     void DrawMain();
     void DrawDialog(uint32 command, const char* title, const char* name);
+    void DrawFade();
     void DrawSheet();
     void DrawVideo();
     void DrawExport();

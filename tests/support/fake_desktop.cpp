@@ -59,6 +59,10 @@ int32 FakeDesktop::Present(const BAlert& alert) {
     return answer;
 }
 
+void FakeDesktop::Tell(const std::string& text) {
+    AddLine("told " + text);
+}
+
 BMessenger FakeDesktop::OpenMainWindow(Kirto&, const BRect& frame, const std::string& title) {
     AddLine(Format("window %g %g %g %g %s", static_cast<double>(frame.left),
                    static_cast<double>(frame.top), static_cast<double>(frame.right),

@@ -37,7 +37,8 @@ class FakeDesktop : public Desktop {
 
     // Button indices for the next alerts, in order; then the last button answers again.
     void Answer(std::vector<int32> answers);
-    // The lines so far, which are forgotten: alerts as AlertLine gives them, "window LEFT TOP RIGHT
+    // The lines so far, which are forgotten: alerts as AlertLine gives them, "told
+    // TEXT", "window LEFT TOP RIGHT
     // BOTTOM TITLE", "panel KIND made", "panel KIND deleted", "pending command abandoned",
     // "browser PATH".
     std::vector<std::string> TakeLines();
@@ -46,6 +47,7 @@ class FakeDesktop : public Desktop {
     std::vector<std::string> TakeRemembered();
 
     int32 Present(const BAlert& alert) override;
+    void Tell(const std::string& text) override;
     BMessenger OpenMainWindow(Kirto& application, const BRect& frame,
                               const std::string& title) override;
     void AbandonPendingCommand() override;

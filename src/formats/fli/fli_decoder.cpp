@@ -302,6 +302,7 @@ bool FliDecoder::ReadFliLCChunk(int64 size) {
     ByteReader reader(data);
     FliPixelWriter writer = Writer();
     DrawLcChunk(reader, writer, work_);
+    frame_.damaged |= reader.Overrun();
     return true;
 }
 
@@ -311,6 +312,7 @@ bool FliDecoder::ReadFliBRUNChunk(int64 size) {
     ByteReader reader(data);
     FliPixelWriter writer = Writer();
     DrawBrunChunk(reader, writer, width_, height_, rules_, work_);
+    frame_.damaged |= reader.Overrun();
     return true;
 }
 
@@ -322,6 +324,7 @@ bool FliDecoder::ReadFliCOPYChunk(int64 size) {
         return false;
     FliPixelWriter writer = Writer();
     DrawCopyChunk(data, writer, width_, work_);
+    frame_.damaged |= data.size() < static_cast<uint64>(whole);
     return true;
 }
 
@@ -331,6 +334,7 @@ bool FliDecoder::ReadFliDELTAChunk(int64 size) {
     ByteReader reader(data);
     FliPixelWriter writer = Writer();
     DrawDeltaChunk(reader, writer, width_, rules_, work_);
+    frame_.damaged |= reader.Overrun();
     return true;
 }
 

@@ -6,9 +6,12 @@ namespace kirto {
 
 namespace {
 
+// What is missing counts as read past the end.
 void DrawLiterals(int32 count, ByteReader& reader, FliPixelWriter& writer) {
-    const size_t available = std::min(static_cast<size_t>(count), reader.Left());
+    const size_t wanted = static_cast<size_t>(count);
+    const size_t available = std::min(wanted, reader.Left());
     writer.Copy(reader.Bytes(available));
+    if (available < wanted) reader.Bytes(wanted - available);
 }
 
 void DrawRepeat(int32 count, ByteReader& reader, FliPixelWriter& writer) {

@@ -80,6 +80,7 @@ status_t GifBrowserComposer::Compose(const GifImage& image, GifIndices* ahead, i
     if (!picture) return B_NO_MEMORY;
     frame->width = width_;
     frame->height = height_;
+    frame->damaged = !decoded.row_lengths.empty();
     frame->source = SourceOf(image, colors, picture);
     frame->bitmap = std::move(picture);
     control_ = GifControl();

@@ -66,6 +66,7 @@ status_t GifDefinedComposer::Compose(const GifImage& image, GifIndices* ahead, i
     frame->height = height;
     frame->x_offset = options_.full_frame ? 0 : image.left;
     frame->y_offset = options_.full_frame ? 0 : image.top;
+    frame->damaged = !decoded.row_lengths.empty();
     previous_ = picture;
     frame->bitmap = std::move(picture);
     return work_.StopRequested() ? B_CANCELED : B_OK;

@@ -2,7 +2,9 @@
 
 #include <QCoreApplication>
 #include <QLibraryInfo>
+#include <QLocale>
 #include <QTranslator>
+#include <memory>
 
 #include "base/core_text.h"
 
@@ -20,14 +22,12 @@ std::string TranslatedOfCore(const char* english) {
     return Translated(kCoreContext, english).toStdString();
 }
 
-// "zh-Hans-CN" is tried as "zh_Hans_CN", "zh_Hans" and "zh".
-bool Load(const QString& language, const QString& name, const QString& folder) {
-    auto* translator = new QTranslator(QCoreApplication::instance());
-    QString code = language;
-    if (translator->load(name + code.replace('-', '_'), folder))
-        return QCoreApplication::installTranslator(translator);
-    delete translator;
-    return false;
+// "de-AT" is tried as "de_AT" and "de".
+bool Load(QString language, const QString& name, const QString& folder) {
+    auto translator = std::make_unique<QTranslator>();
+    if (!translator->load(name + language.replace('-', '_'), folder)) return false;
+    translator->setParent(QCoreApplication::instance());
+    return QCoreApplication::installTranslator(translator.release());
 }
 
 bool IsEnglish(const QString& language) {
@@ -45,6 +45,13 @@ QString UiText::Count(const char* one, const char* other, int count) {
     const QString text = QCoreApplication::translate(kUiContext, one, other, count);
     if (text != QString::fromUtf8(one)) return text;
     return count == 1 ? text : QString::fromUtf8(other).replace("%n", QString::number(count));
+}
+
+QStringList UiText::UserLanguages() {
+    QStringList languages;
+    for (QString code : qEnvironmentVariable("LANGUAGE").split(':', Qt::SkipEmptyParts))
+        languages << code.section('.', 0, 0).replace('_', '-');
+    return languages + QLocale::system().uiLanguages();
 }
 
 void UiText::UseLanguage(const QStringList& languages) {

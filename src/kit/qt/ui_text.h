@@ -18,8 +18,10 @@ class UiText {
     // The same of a text that stands in a table, and is translated when it is shown.
     static constexpr const char* Later(const char* english) { return english; }
 
+    // What the user wants to read: the variable LANGUAGE, "de:fr", then the languages of the
+    // system; best first, as "de-AT" or "de".
+    static QStringList UserLanguages();
     // Loads the translations into the first of these languages that there are any, where it is not
-    // English, and lets texts of layers without windows be translated. languages: "de-AT", "de",
-    // ..., as QLocale::uiLanguages() has them, best first. Once, before there are windows.
+    // English, and lets texts of layers without windows be translated. languages: as above. Once, before there are windows.
     static void UseLanguage(const QStringList& languages);
 };

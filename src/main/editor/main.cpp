@@ -24,6 +24,7 @@
 #include "kit/decoding/decoder_program.h"
 #include "kit/decoding/decoding_roster.h"
 #include "kit/qt/qt_translator_roster.h"
+#include "kit/qt/ui_text.h"
 #include "main/editor/editor_arguments.h"
 #include "main/editor/printed_alerts.h"
 #include "main/editor/screenshot.h"
@@ -123,6 +124,7 @@ int main(int argc, char** argv) {
     kirto::QtTranslatorRoster::RestrictPluginFolders();
     // The application object takes over the user's locale; numbers stay as they are without it.
     std::setlocale(LC_NUMERIC, "C");
+    UiText::UseLanguage(UiText::UserLanguages());
     QApplication::setStyle(new kirto::EditorStyle(QApplication::style()->name()));
     QApplication::setApplicationName("kirto");
     QApplication::setApplicationVersion(KIRTO_VERSION);

@@ -74,7 +74,7 @@ void FadeWindow::MakeControls() {
     color_->setToolTip(UiText::tr("The color to fade to or from"));
     preview_ = new kirto::FadeStrip(
         "Preview",
-        [this]() -> kirto::FadeStrip::Choice {
+        [this]() -> kirto::FadeChoice {
             return {mode_->currentData().toUInt(), Count(), static_cast<uint32>(color_->Value())};
         },
         panel);
@@ -119,8 +119,8 @@ void FadeWindow::Arrange(QWidget* panel) {
     layout->addWidget(buttons, 5, 0, 1, 3);
 }
 
-void FadeWindow::ShowFadeOf(std::shared_ptr<const kirto::Animation> animation) {
-    preview_->SetAnimation(std::move(animation));
+void FadeWindow::ShowFadeOf(std::shared_ptr<const kirto::Animation> animation, bool in_seconds) {
+    preview_->SetAnimation(std::move(animation), in_seconds);
 }
 
 void FadeWindow::MessageReceived(BMessage* message) {

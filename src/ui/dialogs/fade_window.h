@@ -25,8 +25,9 @@ class FadeWindow : public QDialog, public BWindow {
     FadeWindow(BMessenger application, QWidget* parent);
     ~FadeWindow() override;
 
-    // Shows what the fade would make of the current frame.
-    void ShowFadeOf(std::shared_ptr<const kirto::Animation> animation);
+    // Shows what the fade would make of the current frame. in_seconds: the unit of the pauses; else
+    // hundredths.
+    void ShowFadeOf(std::shared_ptr<const kirto::Animation> animation, bool in_seconds);
     // The commands of the window's own controls.
     void MessageReceived(BMessage* message) override;
     // Asks the application for the fade, with the count as it stands.

@@ -84,6 +84,12 @@ void FormDialog::Check() {
     if (make_) buttons_->button(QDialogButtonBox::Ok)->setEnabled(make_().has_value());
 }
 
+void FormDialog::resizeEvent(QResizeEvent* event) {
+    QDialog::resizeEvent(event);
+    const int least = layout()->totalMinimumHeightForWidth(width());
+    if (least > 0 && least != minimumHeight()) setMinimumHeight(least);
+}
+
 void FormDialog::Finish() {
     const std::optional<BMessage> command = make_();
     if (!command) return;

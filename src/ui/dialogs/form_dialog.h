@@ -40,6 +40,10 @@ class FormDialog : public QDialog {
     // Looks at the fields again.
     void Check();
 
+  protected:
+    // Keeps it high enough for its texts, which take more lines the narrower it is.
+    void resizeEvent(QResizeEvent* event) override;
+
   private:
     void Finish();
 

@@ -51,6 +51,8 @@ GuideWindow::GuideWindow(const QString& folder, QWidget* parent)
     const QSize wanted(fontMetrics().averageCharWidth() * kGuideWidthInLetters,
                        fontMetrics().lineSpacing() * kGuideHeightInLines);
     resize(wanted.boundedTo(screen()->availableSize()));
+    // The page is laid out once, as wide as it will be shown.
+    layout->activate();
 
     page_->WhenMissing([this](const QString& path) {
         note_->setText(UiText::tr("The page \"%1\" is not part of the installed guide.")

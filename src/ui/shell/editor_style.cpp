@@ -4,6 +4,8 @@
 #include <QIconEngine>
 #include <QPainter>
 #include <QStyleOption>
+#include <QWidget>
+#include <algorithm>
 #include <cstdlib>
 
 namespace kirto {
@@ -67,6 +69,36 @@ void DrawOutline(const QStyleOption& option, bool round, QPainter& painter) {
     painter.restore();
 }
 
+// The groove, left and right of the handle, and the handle.
+void DrawSlider(const QStyle& style, const QStyleOptionComplex& option, QPainter& painter,
+                const QWidget* widget) {
+    const auto place = [&](QStyle::SubControl part) {
+        return style.subControlRect(QStyle::CC_Slider, &option, part, widget);
+    };
+    QStyleOption part = option;
+    part.rect = place(QStyle::SC_SliderHandle);
+    DrawOutline(part, false, painter);
+    painter.save();
+    painter.setClipRegion(QRegion(option.rect) - part.rect);
+    part.rect = place(QStyle::SC_SliderGroove);
+    DrawOutline(part, false, painter);
+    painter.restore();
+}
+
+// Whether the style outlines it, though not so that it could be seen in high contrast.
+bool IsFaint(QStyle::PrimitiveElement element) {
+    switch (element) {
+        case QStyle::PE_Frame:
+        case QStyle::PE_FrameGroupBox:
+        case QStyle::PE_FrameLineEdit:
+        case QStyle::PE_FrameTabWidget:
+        case QStyle::PE_PanelButtonCommand:
+            return true;
+        default:
+            return false;
+    }
+}
+
 }  // namespace
 
 QIcon EditorStyle::standardIcon(StandardPixmap icon, const QStyleOption* option,
@@ -75,14 +107,25 @@ QIcon EditorStyle::standardIcon(StandardPixmap icon, const QStyleOption* option,
     return QProxyStyle::standardIcon(icon, option, widget);
 }
 
+int EditorStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
+                             const QWidget* widget) const {
+    // Of the height of a line: what the usual boxes have of the usual font.
+    constexpr double kBoxShare = 0.8;
+    const int own = QProxyStyle::pixelMetric(metric, option, widget);
+    const bool box = metric == PM_IndicatorWidth || metric == PM_IndicatorHeight ||
+                     metric == PM_ExclusiveIndicatorWidth || metric == PM_ExclusiveIndicatorHeight;
+    if (!box || (!option && !widget)) return own;
+    const QFontMetrics letters = widget ? widget->fontMetrics() : option->fontMetrics;
+    return std::max(own, static_cast<int>(letters.height() * kBoxShare));
+}
+
 void EditorStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                                 QPainter* painter, const QWidget* widget) const {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
     const bool round = element == PE_IndicatorRadioButton;
     const bool box = round || element == PE_IndicatorCheckBox;
-    const bool field = element == PE_FrameLineEdit || element == PE_Frame;
     const bool contrast = IsHighContrast(option->palette);
-    if (!(box && (contrast || IsDark(option->palette))) && !(field && contrast)) return;
+    if (!(box && (contrast || IsDark(option->palette))) && !(IsFaint(element) && contrast)) return;
     // What has the keyboard shows it by an outline of the style's own.
     const State focus = box ? State_HasFocus | State_KeyboardFocusChange : State(State_HasFocus);
     if ((option->state & focus) == focus) return;
@@ -92,9 +135,10 @@ void EditorStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* op
 void EditorStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                                      QPainter* painter, const QWidget* widget) const {
     QProxyStyle::drawComplexControl(control, option, painter, widget);
+    if (!IsHighContrast(option->palette)) return;
+    if (control == CC_Slider) return DrawSlider(*this, *option, *painter, widget);
     if (control != CC_SpinBox && control != CC_ComboBox) return;
-    if (!IsHighContrast(option->palette) || (option->state & State_HasFocus)) return;
-    DrawOutline(*option, false, *painter);
+    if (!(option->state & State_HasFocus)) DrawOutline(*option, false, *painter);
 }
 
 }  // namespace kirto

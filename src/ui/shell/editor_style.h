@@ -4,12 +4,12 @@
 
 namespace kirto {
 
-// The desktop's style, with three exceptions. The arrow of a menu bar that is too narrow is drawn:
+// The desktop's style, with four exceptions. The arrow of a menu bar that is too narrow is drawn:
 // the desktop's styles read it from a picture, and for the first picture the toolkit opens each
-// image plugin there is, which takes a third of the startup time. And in dark colors check boxes
-// have an outline that is lighter than the window, since a darker one is invisible there. In
-// colors of high contrast, boxes, fields, menus and lists have one in the color of texts. GUI
-// thread.
+// image plugin there is, which takes a third of the startup time. Check boxes and radio buttons are
+// as large as the letters beside them. In dark colors they have an outline that is lighter than the
+// window, since a darker one is invisible there. And in colors of high contrast, whatever has an
+// outline has one in the color of texts. GUI thread.
 class EditorStyle : public QProxyStyle {
   public:
     // base: the style's name, as QStyle::name has it.
@@ -17,6 +17,8 @@ class EditorStyle : public QProxyStyle {
 
     QIcon standardIcon(StandardPixmap icon, const QStyleOption* option,
                        const QWidget* widget) const override;
+    int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                    const QWidget* widget) const override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,

@@ -202,7 +202,7 @@ void KirtoWindow::InsertAnimation(BMessage*) {
 void KirtoWindow::FadeEffects(BMessage*) {
     if (!shown_.CurrentFrame()) return;
     auto* window = new FadeWindow(editor_.application, this);
-    window->ShowFadeOf(shown_.State().animation);
+    window->ShowFadeOf(shown_.State().animation, shown_.Settings().global_pauseinseconds);
     QRect place = window->frameGeometry();
     place.moveCenter(QGuiApplication::primaryScreen()->geometry().center());
     window->move(place.topLeft());

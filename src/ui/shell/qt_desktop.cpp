@@ -3,8 +3,10 @@
 #include <QGuiApplication>
 #include <QScreen>
 #include <cmath>
+#include <utility>
 
 #include "app/kirto.h"
+#include "app/notices.h"
 #include "base/core_text.h"
 #include "desktop/qt/browser.h"
 #include "desktop/qt/mime_types.h"
@@ -12,6 +14,11 @@
 #include "ui/file_panels/qt_file_panel.h"
 
 namespace kirto {
+
+QtDesktop::QtDesktop(BTranslatorRoster& roster, RecentList* recent)
+    : roster_(roster), recent_(recent) {
+    InstallAlertPresenter(this);
+}
 
 BMessenger QtDesktop::OpenMainWindow(Kirto& application, const BRect& frame,
                                      const std::string& title) {
@@ -23,7 +30,17 @@ BMessenger QtDesktop::OpenMainWindow(Kirto& application, const BRect& frame,
     window_messenger_ = window_->Messenger();
     alerts_.SetParentWindow(window_.get());
     window_->show();
+    for (const std::string& text : std::exchange(untold_, {}))
+        Tell(text);
     return window_messenger_;
+}
+
+void QtDesktop::Tell(const std::string& text) {
+    if (!window_messenger_.IsValid()) {
+        untold_.push_back(text);
+        return;
+    }
+    window_messenger_.SendMessage(MakeNotice(text, {{CoreText::Later("Close"), kCloseNotice}}));
 }
 
 void QtDesktop::CloseWindows() {
@@ -57,7 +74,8 @@ void QtDesktop::RememberFile(const std::string& path) {
 
 void QtDesktop::OpenInBrowser(const std::string& path) {
     if (kirto::OpenInBrowser(path)) return;
-    Warn(CoreText::tr("The preview was written, but no program to show it was found."));
+    TellQuietly(
+        CoreText::Later("The preview was written, but no program to show it was found."));
 }
 
 }  // namespace kirto

@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "app/desktop.h"
 #include "kit/translator_roster.h"
@@ -15,12 +16,13 @@ namespace kirto {
 // thread; the application is constructed there as well and asks from its own thread later.
 class QtDesktop : public Desktop {
   public:
-    // The roster outlives the desktop, and so does the list of recent files; null: none are
-    // remembered.
-    explicit QtDesktop(BTranslatorRoster& roster, RecentList* recent = nullptr)
-        : roster_(roster), recent_(recent) {}
+    // Presents alerts from now on. The roster outlives the desktop, and so does the list of recent
+    // files; null: none are remembered.
+    explicit QtDesktop(BTranslatorRoster& roster, RecentList* recent = nullptr);
 
     int32 Present(const BAlert& alert) override { return alerts_.Present(alert); }
+    // In the main window's bar of notices; once it is there, what was told before.
+    void Tell(const std::string& text) override;
     BMessenger OpenMainWindow(Kirto& application, const BRect& frame,
                               const std::string& title) override;
     void AbandonPendingCommand() override;
@@ -42,6 +44,7 @@ class QtDesktop : public Desktop {
     RecentList* const recent_;
     std::unique_ptr<KirtoWindow> window_;
     BMessenger window_messenger_;
+    std::vector<std::string> untold_;  // before there was a window, on the GUI thread
 };
 
 }  // namespace kirto

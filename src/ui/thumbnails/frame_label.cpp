@@ -53,6 +53,22 @@ void PaintDisposalMark(QPainter& painter, const QRectF& place, const QColor& ink
     painter.fillRect(place.adjusted(inset, inset, -inset, -inset), ink);
 }
 
+// The usual sign of a warning.
+void PaintDamageMark(QPainter& painter, const QRectF& place, const QColor& ink) {
+    const QPointF corners[] = {QPointF(place.center().x(), place.top()), place.bottomRight(),
+                               place.bottomLeft()};
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(ink, 1));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawConvexPolygon(corners, 3);
+    const qreal middle = place.center().x();
+    const qreal height = place.height();
+    painter.drawLine(QPointF(middle, place.top() + height * 0.35),
+                     QPointF(middle, place.top() + height * 0.65));
+    painter.drawPoint(QPointF(middle, place.top() + height * 0.83));
+    painter.setRenderHint(QPainter::Antialiasing, false);
+}
+
 }  // namespace
 
 FrameLabel FrameLabel::Of(const Animation& animation, int32 index, bool in_seconds) {
@@ -63,6 +79,7 @@ FrameLabel FrameLabel::Of(const Animation& animation, int32 index, bool in_secon
     label.pause = UiText::tr("%1 s").arg(seconds, 0, 'f', 2);
     label.own_pause = frame.use_pause;
     label.own_palette = frame.local_palette;
+    label.damaged = frame.damaged;
     if (frame.source) label.disposal = frame.source->disposal;
     return label;
 }
@@ -72,6 +89,7 @@ QString FrameLabel::Marks() const {
     const auto add = [&](bool holds, const char* words) {
         if (holds) text += (text.isEmpty() ? "" : ", ") + UiText::tr(words);
     };
+    add(damaged, UiText::Later("damaged, what was good was kept"));
     add(own_pause, UiText::Later("own pause"));
     add(own_palette, UiText::Later("own palette"));
     add(disposal == Disposal::kBackground, UiText::Later("cleared after it was shown"));
@@ -107,19 +125,32 @@ void FrameLabel::PaintBehind(QPainter& painter, const QRectF& room) const {
     QFont font = painter.font();
     font.setBold(own_pause);
     const qreal pause_width = QFontMetricsF(font, painter.device()).horizontalAdvance(pause);
-    const int marks = (own_palette ? 1 : 0) + (IsCleared(disposal) ? 1 : 0);
-    const qreal marks_width = marks * (side + kLabelMargin);
+    const qreal marks_width = MarkCount() * (side + kLabelMargin);
     if (marks_width > room.width()) return;
-    QRectF mark(room.left(), std::round(room.center().y() - side / 2), side, side);
-    if (own_palette) {
-        PaintPaletteMark(painter, mark, ink);
-        mark.translate(side + kLabelMargin, 0);
-    }
-    if (IsCleared(disposal)) PaintDisposalMark(painter, mark, ink, disposal == Disposal::kPrevious);
+    PaintMarks(painter, {room.left(), std::round(room.center().y() - side / 2), side, side});
     if (marks_width + pause_width > room.width()) return;
     painter.setPen(ink);
     painter.setFont(font);
     painter.drawText(room, Qt::AlignRight | Qt::AlignVCenter, pause);
+}
+
+int FrameLabel::MarkCount() const {
+    return (damaged ? 1 : 0) + (own_palette ? 1 : 0) + (IsCleared(disposal) ? 1 : 0);
+}
+
+// mark: the place of the first one.
+void FrameLabel::PaintMarks(QPainter& painter, QRectF mark) const {
+    const QColor ink = painter.pen().color();
+    const auto next = [&mark] { mark.translate(mark.width() + kLabelMargin, 0); };
+    if (damaged) {
+        PaintDamageMark(painter, mark, ink);
+        next();
+    }
+    if (own_palette) {
+        PaintPaletteMark(painter, mark, ink);
+        next();
+    }
+    if (IsCleared(disposal)) PaintDisposalMark(painter, mark, ink, disposal == Disposal::kPrevious);
 }
 
 }  // namespace kirto

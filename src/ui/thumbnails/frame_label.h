@@ -21,6 +21,7 @@ struct FrameLabel {
     QString pause;  // in seconds
     bool own_pause = false;
     bool own_palette = false;
+    bool damaged = false;
     Disposal disposal = Disposal::kNone;  // how it stood in its file
 
     // in_seconds: the unit of pause lengths; index: 0 to the number of frames - 1.
@@ -33,6 +34,8 @@ struct FrameLabel {
 
   private:
     void PaintBehind(QPainter& painter, const QRectF& room) const;
+    int MarkCount() const;
+    void PaintMarks(QPainter& painter, QRectF mark) const;
 };
 
 }  // namespace kirto

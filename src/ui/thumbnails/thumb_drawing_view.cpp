@@ -97,6 +97,8 @@ void ThumbDrawingView::Describe() {
                      QString::fromStdString(frame->name), QString::number(frame->width),
                      QString::number(frame->height), QString::number(shown_.FrameCount()));
     }
+    const QString marks = frame ? MarksOf(shown_.Selected()) : "";
+    if (!marks.isEmpty()) description += ", " + marks;
     const int32 several = shown_.Current().several.Count();
     if (several > 0) description += UiText::tr(", %1 selected").arg(several);
     if (accessibleDescription() != description) setAccessibleDescription(description);
@@ -106,6 +108,11 @@ bool ThumbDrawingView::event(QEvent* event) {
     if (event->type() != QEvent::ToolTip) return QWidget::event(event);
     ShowToolTip(*static_cast<QHelpEvent*>(event));
     return true;
+}
+
+QString ThumbDrawingView::MarksOf(int32 index) const {
+    const bool in_seconds = shown_.Settings().global_pauseinseconds;
+    return kirto::FrameLabel::Of(shown_.Current(), index, in_seconds).Marks();
 }
 
 void ThumbDrawingView::ShowToolTip(const QHelpEvent& event) {
@@ -119,9 +126,7 @@ void ThumbDrawingView::ShowToolTip(const QHelpEvent& event) {
         UiText::tr("frame #%1    %2\n%3 x %4")
             .arg(QString("%1").arg(index, 4, 10, QChar('0')), QString::fromStdString(frame.name),
                  QString::number(frame.width), QString::number(frame.height));
-    const QString marks =
-        kirto::FrameLabel::Of(shown_.Current(), index, shown_.Settings().global_pauseinseconds)
-            .Marks();
+    const QString marks = MarksOf(index);
     if (!marks.isEmpty()) text += "\n" + marks;
     // Escaped, as a name may look like markup.
     QToolTip::showText(event.globalPos(),

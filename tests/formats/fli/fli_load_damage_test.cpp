@@ -90,6 +90,7 @@ TEST_F(FliLoadTest, AChunkEndsWhereItsBytesEndAndTheFrameStays) {
 
         EXPECT_FALSE(load.failed) << chunk.what;
         EXPECT_EQ(PixelsAt(0), chunk.pixels) << chunk.what;
+        EXPECT_TRUE(document_.FrameAt(0)->damaged) << chunk.what;
         document_.Reset();
     }
 }

@@ -36,6 +36,19 @@ TEST_F(FliPlayerLoad, ChunksEndWhereTheySay) {
     EXPECT_EQ(PixelsAt(0), (Pixels{kRed, kBlue}));
 }
 
+TEST_F(FliPlayerLoad, ACopyWithoutAllOfItsPixelsDamagesItsFrameOnly) {
+    FliBuilder file(2, 1);
+    file.Record().Color256(kColors).Copy({1, 2});
+    file.Record().Copy({3});
+    file.Record().Copy({3, 4});
+
+    EXPECT_FALSE(LoadFile(file).failed);
+    EXPECT_EQ(PixelsAt(1), (Pixels{kBlue, kGreen}));
+    EXPECT_FALSE(document_.FrameAt(0)->damaged);
+    EXPECT_TRUE(document_.FrameAt(1)->damaged);
+    EXPECT_FALSE(document_.FrameAt(2)->damaged);
+}
+
 TEST_F(FliPlayerLoad, ColorsHoldForThePictureAsAWholeWhereverTheyStand) {
     FliBuilder file(2, 1);
     file.Record().Copy({1, 2}).Color256(kColors);

@@ -157,6 +157,8 @@ TEST_F(GifBrowserLoad, ShowsWhatThereIsOfATruncatedLastImage) {
     const std::vector<uint32> pixels = Pixels(1);
     EXPECT_EQ(pixels.front(), kGreen);
     EXPECT_EQ(pixels.back(), kRed);
+    EXPECT_FALSE(document.FrameAt(0)->damaged);
+    EXPECT_TRUE(document.FrameAt(1)->damaged);
 }
 
 TEST_F(GifBrowserLoad, TakesAnyVersionAndFramesWithoutATable) {

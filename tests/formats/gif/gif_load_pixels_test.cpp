@@ -187,6 +187,18 @@ TEST_F(GifLoadPixels, DataThatEndsWithoutAnEndCodeEndsTheImageNormally) {
     EXPECT_THAT(Pixels(1), Each(kGreen));
 }
 
+TEST_F(GifLoadPixels, FramesWithoutAllOfTheirPixelsCountAsDamaged) {
+    EXPECT_TRUE(Load(FourColorGif(2, 2)
+                         .Add(ImageOf(2, 2, {1, 2, 3, 3}))
+                         .Add(ImageOf(2, 2, {1, 2, 3}))
+                         .Add(ImageOf(2, 2, {1, 2, 3, 3}))
+                         .Trailer()));
+
+    EXPECT_FALSE(document.FrameAt(0)->damaged);
+    EXPECT_TRUE(document.FrameAt(1)->damaged);
+    EXPECT_FALSE(document.FrameAt(2)->damaged);
+}
+
 TEST_F(GifLoadPixels, AClearCodeFollowedByTheEndCodeFails) {
     EXPECT_FALSE(Load(FourColorGif(1, 1)
                           .Add(ImageOf(1, 1, {1}))

@@ -5,6 +5,7 @@
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFile>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPushButton>
@@ -104,6 +105,20 @@ TEST_F(PictureDialogs, CropToWhatIsDrawn) {
     EXPECT_EQ(Number("top"), 20);
     EXPECT_EQ(Number("width"), 20);
     EXPECT_EQ(Number("height"), 30);
+}
+
+TEST_F(PictureDialogs, LeaveRoomForThePictureBelowWordsOfManyLines) {
+    QFont large = parent.font();
+    large.setPointSizeF(large.pointSizeF() * 2);
+    parent.setFont(large);
+    parent.show();
+    AskForCrop(animation, &parent, receive);
+    auto& dialog = *parent.findChild<QDialog*>();
+    dialog.resize(1, 1);
+    HandleEvents();
+
+    EXPECT_LE(Find<QLabel>("Scope").geometry().bottom(), Area().geometry().top());
+    EXPECT_LE(Area().geometry().bottom(), Find<QSpinBox>("Left").geometry().top());
 }
 
 TEST_F(PictureDialogs, CropWithinTheCanvasInAnyDirection) {

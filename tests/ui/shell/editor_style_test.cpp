@@ -58,7 +58,8 @@ TEST(EditorStyle, OutlinesFieldsListsAndBoxesLikeTextInHighContrast) {
     const EditorStyle style("fusion");
     constexpr double kReadable = 7;
     for (const auto element : {QStyle::PE_IndicatorCheckBox, QStyle::PE_IndicatorRadioButton,
-                               QStyle::PE_FrameLineEdit, QStyle::PE_Frame}) {
+                               QStyle::PE_FrameLineEdit, QStyle::PE_Frame, QStyle::PE_FrameGroupBox,
+                               QStyle::PE_FrameTabWidget, QStyle::PE_PanelButtonCommand}) {
         const QImage image = Drawn(style, element, kContrast);
         for (const QPoint edge : {QPoint(8, 0), QPoint(0, 8), QPoint(8, 15), QPoint(15, 8)}) {
             EXPECT_GE(Contrast(image.pixelColor(edge), Qt::black), kReadable)
@@ -85,6 +86,54 @@ TEST(EditorStyle, OutlinesSpinBoxesAndMenusLikeTextInHighContrast) {
     };
     expect_outline(QStyle::CC_SpinBox, spin_box);
     expect_outline(QStyle::CC_ComboBox, menu);
+}
+
+TEST(EditorStyle, OutlinesTheHandleAndTheGrooveOfSlidersLikeTextInHighContrast) {
+    const EditorStyle editor_style("fusion");
+    const QStyle& style = editor_style;
+    constexpr double kReadable = 7;
+    QStyleOptionSlider option;
+    option.rect = QRect(0, 0, 100, 24);
+    option.palette = kContrast;
+    option.state = QStyle::State_Enabled | QStyle::State_Horizontal;
+    option.orientation = Qt::Horizontal;
+    option.maximum = 10;
+    option.sliderPosition = 5;
+    option.subControls = QStyle::SC_SliderGroove | QStyle::SC_SliderHandle;
+    QImage image(100, 24, QImage::Format_RGB32);
+    image.fill(Qt::black);
+    QPainter painter(&image);
+
+    style.drawComplexControl(QStyle::CC_Slider, &option, &painter, nullptr);
+
+    const QRect handle = style.subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle);
+    const QRect groove = style.subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderGroove);
+    const QPoint beside(handle.left() / 2, groove.top());
+    for (const QPoint edge : {QPoint(handle.left(), handle.center().y()),
+                              QPoint(handle.center().x(), handle.bottom()), beside})
+        EXPECT_GE(Contrast(image.pixelColor(edge), Qt::black), kReadable)
+            << edge.x() << ' ' << edge.y();
+}
+
+TEST(EditorStyle, BoxesGrowWithTheLettersAndAreNeverSmallerThanTheDesktops) {
+    const EditorStyle editor_style("fusion");
+    const QStyle& style = editor_style;
+    const QStyle& base = *editor_style.baseStyle();
+    QStyleOptionButton small;
+    QFont font;
+    font.setPixelSize(6);
+    small.fontMetrics = QFontMetrics(font);
+    font.setPixelSize(40);
+    QStyleOptionButton large;
+    large.fontMetrics = QFontMetrics(font);
+    for (const auto metric :
+         {QStyle::PM_IndicatorWidth, QStyle::PM_IndicatorHeight, QStyle::PM_ExclusiveIndicatorWidth,
+          QStyle::PM_ExclusiveIndicatorHeight}) {
+        EXPECT_EQ(style.pixelMetric(metric, &small), base.pixelMetric(metric, &small)) << metric;
+        EXPECT_GE(style.pixelMetric(metric, &large), 30) << metric;
+    }
+    EXPECT_EQ(style.pixelMetric(QStyle::PM_ScrollBarExtent, &large),
+              base.pixelMetric(QStyle::PM_ScrollBarExtent, &large));
 }
 
 TEST(EditorStyle, DrawsFieldsAndListsAsTheDesktopDoesInOtherColors) {

@@ -126,13 +126,29 @@ TEST_F(QtDesktopTest, ShowsFilesInTheBrowser) {
 TEST_F(QtDesktopTest, TellsTheUserWhenNoProgramShowsThePreview) {
     const ScopedEnvironment browser("BROWSER", nullptr);
     const ScopedEnvironment nothing("PATH", folder.Path().c_str());
-    const AlertRecorder alerts;
 
     desktop.OpenInBrowser("/some/file.gif");
 
-    EXPECT_EQ(alerts.Lines(),
-              std::vector<std::string>{"WARNING [] The preview was written, but no program to show "
-                                       "it was found. | OK"});
+    const auto* notice = Named<QLabel>(Window(), "Notice");
+    EXPECT_TRUE(WaitFor([notice] { return notice->isVisible(); }));
+    EXPECT_EQ(notice->text(), "The preview was written, but no program to show it was found.");
+    EXPECT_EQ(Alert(), nullptr);
+}
+
+TEST_F(QtDesktopTest, SaysWhatWasToldBeforeThereWasAWindow) {
+    desktop.CloseWindows();
+    app.reset();
+    QtDesktop next(roster);
+    TellQuietly("Something was damaged.");
+    app = std::make_unique<Kirto>(prefs, next, roster);
+
+    const auto* notice = Named<QLabel>(*next.MainWindow(), "Notice");
+    EXPECT_TRUE(WaitFor([notice] { return notice->isVisible(); }));
+    EXPECT_EQ(notice->text(), "Something was damaged.");
+    Named<QAbstractButton>(*next.MainWindow(), "NoticeClose")->click();
+    EXPECT_TRUE(WaitFor([notice] { return !notice->isVisible(); }));
+    next.CloseWindows();
+    app.reset();
 }
 
 TEST_F(QtDesktopTest, OpensAnAnimationAndShowsIt) {

@@ -51,6 +51,7 @@ TEST(FrameLabel, TellsTheNumberAndThePause) {
 TEST(FrameLabel, MarksWhatTheFrameDoesNotShare) {
     const Animation animation = OneFrame([](Frame& frame) {
         frame.local_palette = true;
+        frame.damaged = true;
         frame.use_pause = true;
         frame.pause_length = 4;
         GifSource source;
@@ -61,7 +62,9 @@ TEST(FrameLabel, MarksWhatTheFrameDoesNotShare) {
     const FrameLabel label = FrameLabel::Of(animation, 0, false);
 
     EXPECT_EQ(label.pause, "0.04 s");
-    EXPECT_EQ(label.Marks(), "own pause, own palette, what was before comes back after it");
+    EXPECT_EQ(label.Marks(),
+              "damaged, what was good was kept, own pause, own palette, what was before comes back "
+              "after it");
 }
 
 TEST(FrameLabel, CoversTheFootOfTheThumbnailOnly) {
@@ -96,9 +99,11 @@ TEST(FrameLabel, PaintsEachMark) {
     cleared.disposal = Disposal::kBackground;
     FrameLabel restored = plain;
     restored.disposal = Disposal::kPrevious;
+    FrameLabel damaged = plain;
+    damaged.damaged = true;
 
     const QList<QImage> images{Painted(plain), Painted(palette), Painted(cleared),
-                               Painted(restored)};
+                               Painted(restored), Painted(damaged)};
 
     for (int i = 0; i < images.size(); ++i)
         EXPECT_EQ(images.indexOf(images[i]), i);

@@ -314,6 +314,16 @@ TEST(ThumbDrawingView, TellsThoseWhoCanNotSeeItWhichFrameIsCurrent) {
     EXPECT_EQ(fixture.Grid().accessibleDescription(), "no frames");
 }
 
+TEST(ThumbDrawingView, TellsThoseWhoCanNotSeeItThatTheCurrentFrameIsDamaged) {
+    auto damaged = std::make_shared<Frame>(*FrameOf(100, 50));
+    damaged->damaged = true;
+    ThumbnailFixture fixture({damaged, FrameOf(100, 50)});
+    EXPECT_EQ(fixture.Grid().accessibleDescription(),
+              "frame #0000 frame, 100 x 50, 2 frame(s), damaged, what was good was kept");
+    fixture.Select(1);
+    EXPECT_EQ(fixture.Grid().accessibleDescription(), "frame #0001 frame, 100 x 50, 2 frame(s)");
+}
+
 TEST(ThumbDrawingView, TellsTheNameOfTheFrameBelowThePointer) {
     ThumbnailFixture fixture({FrameOf(100, 50, 0xFF000000, "<b>")});
     const auto ask = [&](QPoint point) {
