@@ -8,7 +8,6 @@
 
 #include "app/export/sequence_name.h"
 #include "base/core_text.h"
-#include "base/text.h"
 #include "kit/file.h"
 
 namespace kirto {

@@ -64,7 +64,7 @@ QString SentenceOfFailure(const ExportTrial::Outcome& outcome, ExportFormat form
 QString WriteFiles(const std::string& path, const ExportFiles& files) {
     const WrittenExport written = WriteExport(files, path);
     if (written.IsComplete()) return {};
-    return QString::fromStdString(kFileNotCreatedText + written.Remark());
+    return QString::fromStdString(CoreText::tr(kFileNotCreatedText) + written.Remark());
 }
 
 }  // namespace

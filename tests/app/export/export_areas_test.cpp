@@ -8,17 +8,17 @@ namespace kirto::test {
 
 namespace {
 
-constexpr int32 kSide = 12;
+constexpr int32 kCanvasSide = 12;
 
 // Frames of a few colors and of holes, of which a quarter changes from one to the next.
 void AddHoles(ExportFixture* fixture, uint32 seed, int32 frames) {
-    fixture->animation.width = kSide;
-    fixture->animation.height = kSide;
+    fixture->animation.width = kCanvasSide;
+    fixture->animation.height = kCanvasSide;
     SeededChoices choices(seed);
-    std::vector<uint32> pixels(kSide * kSide, 0xFF204060);
+    std::vector<uint32> pixels(kCanvasSide * kCanvasSide, 0xFF204060);
     for (int32 i = 0; i < frames; ++i) {
         for (int32 j = 0; j < 9; ++j)
-            pixels[choices.Below(3 * kSide)] =
+            pixels[choices.Below(3 * kCanvasSide)] =
                 choices.OneIn(3) ? 0 : 0xFF000000 | choices.Below(5) * 0x301020;
         fixture->Add(pixels, 4);
     }
@@ -40,7 +40,7 @@ void ExpectWholeFrames(const ExportFixture& fixture, uint32 seed) {
     for (size_t i = 0; i < gif.images.size(); ++i) {
         const ReferenceImage& image = gif.images[i];
         EXPECT_EQ(std::tuple(image.x, image.y, image.width, image.height),
-                  std::tuple(0, 0, kSide, kSide));
+                  std::tuple(0, 0, kCanvasSide, kCanvasSide));
         const FramePointer frame = fixture.animation.frames.At(static_cast<int32>(i));
         EXPECT_EQ(PixelsOfImage(image), PixelsOf(*frame->bitmap)) << i << " of seed " << seed;
     }
@@ -112,10 +112,10 @@ TEST(ExportAreas, ImagesThatWereReadAreMadeWholeAsWell) {
 TEST(ExportAreas, AWholeImageIsAsLargeAsTheCanvas) {
     ExportFixture fixture;
     AddHoles(&fixture, 1, 2);
-    fixture.animation.width = 2 * kSide;
+    fixture.animation.width = 2 * kCanvasSide;
     ASSERT_EQ(fixture.Export(WholeSettings(ExportFormat::kGif)), ExportResult::kDone);
     for (const ReferenceImage& image : DecodeReferenceGif(fixture.bytes).images)
-        EXPECT_EQ(image.width, 2 * kSide);
+        EXPECT_EQ(image.width, 2 * kCanvasSide);
 }
 
 TEST(ExportAreas, WholeImagesOfManyColorsAreReducedEachByItself) {
@@ -152,7 +152,7 @@ TEST(ExportAreas, WholeFramesOfAnAnimatedPngCoverTheCanvas) {
         ExportSettings settings = WholeSettings(ExportFormat::kApng);
         ASSERT_EQ(fixture.Export(settings), ExportResult::kDone);
         const auto rects = RectsOf(fixture.bytes);
-        EXPECT_EQ(rects, (std::vector<std::array<uint32, 4>>(6, {kSide, kSide, 0, 0})));
+        EXPECT_EQ(rects, (std::vector<std::array<uint32, 4>>(6, {kCanvasSide, kCanvasSide, 0, 0})));
         const ShownCanvases whole = fixture.Shown(ExportFormat::kApng);
         settings.areas = FrameAreas::kChanged;
         ASSERT_EQ(fixture.Export(settings), ExportResult::kDone);
