@@ -22,8 +22,14 @@ std::optional<FliPiece> FliAhead::Next() {
     return piece;
 }
 
-void FliAhead::Pass(const FliPiece& piece) {
+bool FliAhead::RepeatsPrevious(const Frame& frame) const {
+    return previous_ && previous_->bitmap && frame.bitmap->Repeats(*previous_->bitmap) &&
+           frame.local_palette == previous_->local_palette;
+}
+
+void FliAhead::Pass(FliPiece& piece) {
     if (piece.kind == Record::kFrame) {
+        piece.repeats = RepeatsPrevious(piece.frame);
         ++position_;
         previous_ = std::make_shared<const Frame>(piece.frame);
     }
