@@ -17,6 +17,7 @@ FliLoad::FliLoad(BFile* file, int32 start, AnimationDocument& document)
     kirto::FliHeader header;
     if (file->InitCheck() != B_OK || !decoder_.ReadFliHeader(&header)) {
         failed = true;
+        out_of_memory = file->RanOutOfMemory();
         return;
     }
     TakeHeader(header);

@@ -38,6 +38,7 @@ GifLoad::GifLoad(BFile* file, int32 start, AnimationDocument& document)
     Init();
     failed = !ReadScreen() || !StartFrame();
     if (!failed) ReadFrames();
+    out_of_memory = out_of_memory || (failed && file->RanOutOfMemory());
 }
 
 void GifLoad::Init() {
