@@ -345,6 +345,9 @@ bool Kirto::SaveGif() {
         case kirto::SaveResult::kWriteFailed:
             kirto::Warn(kirto::kFileNotCreatedText);
             break;
+        case kirto::SaveResult::kNoMemory:
+            kirto::WarnOutOfMemory();
+            break;
     }
     SetFile("", "untitled", std::nullopt);
     return false;
@@ -383,7 +386,12 @@ bool Kirto::SaveSequence(uint32 translator) {
     }
     const int32 count = FrameCount();
     kirto::SequenceSave save(*this, roster_, {translator, format, translator_settings[translator]});
-    const status_t status = save.Save();
+    status_t status = B_NO_MEMORY;
+    try {
+        status = save.Save();
+    } catch (const std::bad_alloc&) {
+        kirto::WarnOutOfMemory();
+    }
     if (status == B_CANCELED) {
         save_stopped_ = true;
         last_word_ = CoreText::With(CoreText::tr("saving was canceled, %1 of %2 file(s) written"),

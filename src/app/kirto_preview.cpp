@@ -54,6 +54,10 @@ void Kirto::Preview() {
         last_word_ = CoreText::tr("the preview was canceled");
         return;
     }
+    if (result == kirto::SaveResult::kNoMemory) {
+        kirto::WarnOutOfMemory();
+        return;
+    }
     if (result != kirto::SaveResult::kSaved) {
         kirto::Warn(CoreText::Later(
             "The animation can't be previewed because a temporary file could not be created."));

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <memory>
+#include <new>
 
 #include "animation/save_differences.h"
 #include "base/core_text.h"
@@ -40,7 +41,18 @@ SaveResult Encode(AnimationDocument& document, const std::shared_ptr<BFile>& fil
         GifSave(file, document);
     }
     if (document.StopRequested()) return SaveResult::kStopped;
-    return file->Commit() == B_OK ? SaveResult::kSaved : SaveResult::kWriteFailed;
+    const status_t status = file->Commit();
+    if (status == B_NO_MEMORY) return SaveResult::kNoMemory;
+    return status == B_OK ? SaveResult::kSaved : SaveResult::kWriteFailed;
+}
+
+SaveResult EncodeAsFarAsMemoryGoes(AnimationDocument& document, const std::shared_ptr<BFile>& file,
+                                   std::string* loss) {
+    try {
+        return Encode(document, file, loss);
+    } catch (const std::bad_alloc&) {
+        return SaveResult::kNoMemory;
+    }
 }
 
 constexpr int32 kLargestNumber = 0xFFFF;
@@ -88,11 +100,11 @@ SaveResult SaveAnimatedGif(AnimationDocument& document, const std::string& path,
                            std::string* loss) {
     if (document.Current()->FrameLargerThanCanvas()) return SaveResult::kFrameTooLarge;
     if (!SizeOutOfRange(*document.Current()).empty()) return SaveResult::kSizeOutOfRange;
-    return Encode(document, BFile::CreateReplacing(path), loss);
+    return EncodeAsFarAsMemoryGoes(document, BFile::CreateReplacing(path), loss);
 }
 
 SaveResult SavePreviewGif(AnimationDocument& document, const std::string& path) {
-    return Encode(document, BFile::CreatePrivate(path), nullptr);
+    return EncodeAsFarAsMemoryGoes(document, BFile::CreatePrivate(path), nullptr);
 }
 
 }  // namespace kirto

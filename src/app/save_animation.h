@@ -29,6 +29,7 @@ enum class SaveResult {
     kSizeOutOfRange,  // SizeOutOfRange() names a field; nothing was written
     kFileNotCreated,  // the file can't be created there
     kWriteFailed,     // writing failed; an existing file is untouched
+    kNoMemory,        // the same for lack of memory
     kStopped,         // the user asked to stop; an existing file is untouched
 };
 

@@ -61,10 +61,7 @@ status_t SequenceSave::Write(int32 index, const Ahead& ahead) {
     const std::string name = SequenceFileName(state_->file_name, index);
     const std::shared_ptr<BFile> file =
         BFile::CreateReplacing(PathIn(state_->file_directory, name));
-    if (file->InitCheck() != B_OK) {
-        Warn(kFileNotCreatedText);
-        return B_IO_ERROR;
-    }
+    if (file->InitCheck() != B_OK) return TellOfFailure(file->InitCheck());
     // Once a sequence is enough.
     if (index == 0) file->RemoveLeftovers();
     status_t status = B_OK;
@@ -74,12 +71,19 @@ status_t SequenceSave::Write(int32 index, const Ahead& ahead) {
         status = Encode(*state_->animation->frames.At(index), file);
     }
     if (status != B_OK) return status;
-    if (file->Commit() != B_OK) {
-        Warn(kFileNotCreatedText);
-        return B_IO_ERROR;
-    }
+    const status_t committed = file->Commit();
+    if (committed != B_OK) return TellOfFailure(committed);
     ++written_;
     return B_OK;
+}
+
+status_t SequenceSave::TellOfFailure(status_t status) {
+    if (status == B_NO_MEMORY) {
+        WarnOutOfMemory();
+        return B_NO_MEMORY;
+    }
+    Warn(kFileNotCreatedText);
+    return B_IO_ERROR;
 }
 
 status_t SequenceSave::Encode(const Frame& frame, const std::shared_ptr<BFile>& file) {

@@ -42,6 +42,9 @@ class SequenceSave {
     // Pictures of more pixels are encoded at their turn, straight into their file.
     static constexpr uint64 kMostPixelsAhead = uint64{1} << 23;
 
+    // Tells the user why a file can't be written, and returns B_NO_MEMORY or B_IO_ERROR.
+    static status_t TellOfFailure(status_t status);
+
     // A file's bytes, or null where it is to be encoded at its turn.
     using Ahead = std::shared_ptr<BFile>;
 

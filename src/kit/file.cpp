@@ -218,7 +218,10 @@ status_t BFile::FillBuffer() {
     if (flushed != B_OK || position_ > kMaxPosition - static_cast<int64>(kBufferSize)) {
         return flushed;
     }
-    if (!MakeReadBuffer()) return B_NO_MEMORY;
+    if (!MakeReadBuffer()) {
+        ran_out_of_memory_ = true;
+        return B_NO_MEMORY;
+    }
     ssize_t count = 0;
     do {
         count = pread(descriptor_, buffer_.data(), buffer_.size(), position_);

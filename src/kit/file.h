@@ -57,6 +57,8 @@ class BFile {
     // Reads at most size bytes at the position and moves it. Returns the bytes read (fewer at the
     // end of the file or before an error), or a negative status.
     int64 Read(void* buffer, size_t size);
+    // Whether memory has been too short for a read.
+    bool RanOutOfMemory() const { return ran_out_of_memory_; }
     // True when exactly size bytes were read.
     bool ReadExactly(void* buffer, size_t size);
     // Writes at the position and moves it; a gap before the position is filled with zeros. Returns
@@ -119,5 +121,6 @@ class BFile {
     int64 position_ = 0;
     std::vector<uint8> buffer_;  // memory: the bytes; else a window of the file
     int64 buffer_start_ = 0;     // file offset of the window's first byte
+    bool ran_out_of_memory_ = false;
     bool buffer_dirty_ = false;  // the window holds bytes not yet written
 };

@@ -18,6 +18,7 @@ struct Reading {
     void Read(BFile& file, BTranslatorRoster& roster, std::shared_ptr<PixelBudget> budget) {
         status = roster.TranslateUnless([this] { return given_up.load(); }, file, std::move(budget),
                                         &picture);
+        if (status != B_OK && file.RanOutOfMemory()) status = B_NO_MEMORY;
     }
 };
 

@@ -19,6 +19,8 @@ class WatchedInput {
     bool Skip(int64 distance) { return file_.Seek(distance, SEEK_FROM_CURRENT) >= 0; }
     int64 Position() const { return file_.Position(); }
     int64 Size() const { return file_.Size(); }
+    // Whether memory has been too short for a read.
+    bool RanOutOfMemory() const { return file_.RanOutOfMemory(); }
 
   private:
     BFile& file_;

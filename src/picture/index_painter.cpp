@@ -59,6 +59,15 @@ bool Covers(const IndexImage& image, int32 first, int32 end, int32 picture_width
                                [picture_width](int32 length) { return length >= picture_width; });
 }
 
+// Whether the image has no pixels in these rows, all of which are its own.
+bool IsEmpty(const IndexImage& image, int32 first, int32 end) {
+    if (image.row_lengths.empty() || first < image.top || end > image.top + image.height)
+        return false;
+    const auto lengths = image.row_lengths.subspan(static_cast<size_t>(first - image.top),
+                                                   static_cast<size_t>(end - first));
+    return std::ranges::all_of(lengths, [](int32 length) { return length == 0; });
+}
+
 int32 IndexOf(uint32 pixel, const PixelTable& table) {
     const auto* const place = std::find(table.pixels.begin(), table.pixels.end(), pixel);
     return place == table.pixels.end() ? -1 : static_cast<int32>(place - table.pixels.begin());
@@ -94,6 +103,15 @@ void CopyBelow(const Picture& picture, int32 first, int32 end, const PixelTable&
     });
 }
 
+// Whether the picture has these very strips from that row on.
+bool AreThere(const Picture::Strips& strips, const Picture& picture, int32 row) {
+    const size_t place = picture.StripAt(row);
+    const Picture::Strips& all = picture.AllStrips();
+    return picture.FirstRows()[place] == row && strips.size() <= all.size() - place &&
+           std::equal(strips.begin(), strips.end(),
+                      all.begin() + static_cast<std::ptrdiff_t>(place));
+}
+
 // Whether the image's indices mean in that table what they mean in its own.
 bool Agree(const SharedPixelTable& table, const IndexImage& image) {
     if (table == image.table) return true;
@@ -108,7 +126,7 @@ bool Agree(const SharedPixelTable& table, const IndexImage& image) {
 
 std::shared_ptr<const Picture> IndexPainter::Paint(const std::shared_ptr<const Picture>& base,
                                                    const IndexImage& image) {
-    return PaintBands(*base, image, [&](const Band& band, PictureBuilder& builder) {
+    return PaintBands(base, image, [&](const Band& band, PictureBuilder& builder) {
         return AddBand(*base, image, band, builder);
     });
 }
@@ -121,31 +139,37 @@ std::shared_ptr<const Picture> IndexPainter::Fill(const std::shared_ptr<const Pi
     image.width = rect.width;
     image.height = rect.height;
     image.repeats = true;
-    return PaintBands(*base, image, [&](const Band& band, PictureBuilder& builder) {
+    return PaintBands(base, image, [&](const Band& band, PictureBuilder& builder) {
         return AddFilledBand(*base, image, pixel, band, builder);
     });
 }
 
 // Leaves the base as it is but for the bands of rows that the image touches, which add() adds.
 template <typename Add>
-std::shared_ptr<const Picture> IndexPainter::PaintBands(const Picture& base,
-                                                        const IndexImage& image, const Add& add) {
+std::shared_ptr<const Picture> IndexPainter::PaintBands(
+    const std::shared_ptr<const Picture>& shared_base, const IndexImage& image, const Add& add) {
+    const Picture& base = *shared_base;
     const int32 width = base.Width();
     const int32 height = base.Height();
-    PictureBuilder builder(width, height, base.ColorSpace(), budget_);
     const bool empty = image.width == 0 || image.height == 0;
-    if (empty || image.left >= width || image.top >= height)
-        return AddRows(base, {0, height}, builder) ? builder.Take() : nullptr;
+    if (empty || image.left >= width || image.top >= height) return Picture::Again(base, budget_);
     const Band touched = TouchedRows(base, image);
-    if (!AddRows(base, {0, touched.first}, builder)) return nullptr;
+    PictureBuilder builder(width, height, base.ColorSpace(), budget_, shared_base);
+    builder.StartAt(touched.first);
     // What is painted is cut anew, so that strips do not become ever smaller.
     const int32 step = Strip::RowsFor(width);
     for (Band band{touched.first, 0}; band.first < touched.end; band.first = band.end) {
         band.end = std::min((band.first / step + 1) * step, touched.end);
         if (!add(band, builder)) return nullptr;
     }
-    if (!AddRows(base, {touched.end, height}, builder)) return nullptr;
-    return builder.Take();
+    const Picture::Strips painted = builder.TakeStrips();
+    if (painted.empty()) return nullptr;
+    if (AreThere(painted, base, touched.first)) return Picture::Again(base, budget_);
+    Picture::Strips strips;
+    AddRows(base, {0, touched.first}, &strips);
+    strips.insert(strips.end(), painted.begin(), painted.end());
+    AddRows(base, {touched.end, height}, &strips);
+    return Picture::Of(std::move(strips), width, base.ColorSpace(), budget_);
 }
 
 // The pixel in place of the image, by its index in the table that the rows below have, so that they
@@ -159,7 +183,7 @@ bool IndexPainter::AddFilledBand(const Picture& base, const IndexImage& image, u
         if (row.indices) table = *row.table;
         filled = filled && !row.indices && !row.pixels && row.solid == pixel;
     }
-    if (filled) return AddRows(base, band, builder);
+    if (filled) return AddBelow(base, band, builder);
     int32 index = table ? IndexOf(pixel, *table) : -1;
     if (index < 0) {
         auto own = std::make_shared<PixelTable>();
@@ -186,7 +210,7 @@ IndexPainter::Band IndexPainter::TouchedRows(const Picture& base, const IndexIma
 }
 
 // Adds rows of the base as they are.
-bool IndexPainter::AddRows(const Picture& base, const Band& rows, PictureBuilder& builder) {
+void IndexPainter::AddRows(const Picture& base, const Band& rows, Picture::Strips* strips) {
     for (size_t i = base.StripAt(rows.first); i < base.AllStrips().size(); ++i) {
         const std::shared_ptr<const Strip>& strip = base.AllStrips()[i];
         const int32 first = base.FirstRows()[i];
@@ -194,14 +218,20 @@ bool IndexPainter::AddRows(const Picture& base, const Band& rows, PictureBuilder
         const int32 end = std::min(rows.end, first + strip->Rows());
         if (begin >= end) break;
         const bool whole = end - begin == strip->Rows();
-        if (!builder.AddStrip(whole ? strip : strip->Slice(begin - first, end - begin)))
-            return false;
+        strips->push_back(whole ? strip : strip->Slice(begin - first, end - begin));
     }
-    return true;
+}
+
+bool IndexPainter::AddBelow(const Picture& base, const Band& band, PictureBuilder& builder) {
+    Picture::Strips below;
+    AddRows(base, band, &below);
+    return std::ranges::all_of(below,
+                               [&builder](const auto& strip) { return builder.AddStrip(strip); });
 }
 
 bool IndexPainter::AddBand(const Picture& base, const IndexImage& image, const Band& band,
                            PictureBuilder& builder) {
+    if (IsEmpty(image, band.first, band.end)) return AddBelow(base, band, builder);
     const SharedPixelTable table = TableFor(base, image, band);
     if (!table) return AddPixels(base, image, band, builder);
     std::shared_ptr<const Strip> strip = MakeStrip(
@@ -290,12 +320,14 @@ std::shared_ptr<const Strip> IndexPainter::MakeStrip(const Picture& base, const 
                                                      const IndexCounts* counts) {
     if (indices.empty()) return nullptr;
     const int32 rows = band.end - band.first;
-    if (std::memcmp(indices.data(), indices.data() + 1, indices.size() - 1) == 0)
-        return Strip::Solid(table->pixels[indices[0]], base.Width(), rows);
     const size_t place = base.StripAt(band.first);
     const std::shared_ptr<const Strip>& below = base.AllStrips()[place];
-    const bool similar =
-        base.FirstRows()[place] == band.first && below->Rows() == rows && below->Table() == table;
+    const bool in_place = base.FirstRows()[place] == band.first && below->Rows() == rows;
+    if (std::memcmp(indices.data(), indices.data() + 1, indices.size() - 1) == 0) {
+        const uint32 pixel = table->pixels[indices[0]];
+        return in_place && below->IsSolid(pixel) ? below : Strip::Solid(pixel, base.Width(), rows);
+    }
+    const bool similar = in_place && below->Table() == table;
     if (similar && std::memcmp(below->Indices(), indices.data(), indices.size()) == 0) return below;
     std::shared_ptr<PixelStorage> storage = TakeStorage(indices);
     if (!storage) return nullptr;

@@ -53,12 +53,13 @@ class IndexPainter {
     };
 
     template <typename Add>
-    std::shared_ptr<const Picture> PaintBands(const Picture& base, const IndexImage& image,
-                                              const Add& add);
+    std::shared_ptr<const Picture> PaintBands(const std::shared_ptr<const Picture>& shared_base,
+                                              const IndexImage& image, const Add& add);
     bool AddFilledBand(const Picture& base, const IndexImage& image, uint32 pixel, const Band& band,
                        PictureBuilder& builder);
     static Band TouchedRows(const Picture& base, const IndexImage& image);
-    static bool AddRows(const Picture& base, const Band& rows, PictureBuilder& builder);
+    static void AddRows(const Picture& base, const Band& rows, Picture::Strips* strips);
+    static bool AddBelow(const Picture& base, const Band& band, PictureBuilder& builder);
     bool AddBand(const Picture& base, const IndexImage& image, const Band& band,
                  PictureBuilder& builder);
     SharedPixelTable TableFor(const Picture& base, const IndexImage& image, const Band& band);

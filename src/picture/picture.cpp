@@ -58,23 +58,38 @@ std::shared_ptr<const Picture> Picture::Of(std::shared_ptr<const BBitmap> bitmap
             if (auto packed = Of(std::move(strips), width, space, budget)) return packed;
         }
     }
-    const std::shared_ptr<Picture> picture(new Picture(width, bitmap->Height(), space));
-    if (has_rows) picture->SetStrips(Borrowed(bitmap));
+    std::shared_ptr<const StripList> strips =
+        StripList::Of(has_rows ? Borrowed(bitmap) : Strips(), nullptr);
+    const std::shared_ptr<Picture> picture(
+        new Picture(width, bitmap->Height(), space, std::move(strips)));
     picture->bitmap_ = std::move(bitmap);
     return picture;
 }
 
 std::shared_ptr<const Picture> Picture::Of(Strips strips, int32 width, color_space space,
                                            std::shared_ptr<PixelBudget> budget) {
-    int32 height = 0;
-    for (const std::shared_ptr<const Strip>& strip : strips)
-        height += strip->Rows();
-    const std::shared_ptr<Picture> picture(new Picture(width, height, space));
-    picture->SetStrips(std::move(strips));
-    picture->cost_ = picture->CostNow();
-    if (budget && !budget->Reserve(picture->cost_)) return nullptr;
-    picture->budget_ = std::move(budget);
-    return picture;
+    const std::shared_ptr<const StripList> list = StripList::Of(std::move(strips), budget);
+    if (!list) return nullptr;
+    const std::shared_ptr<Picture> picture(new Picture(width, list->Height(), space, list));
+    return picture->LetCount(std::move(budget)) ? picture : nullptr;
+}
+
+std::shared_ptr<const Picture> Picture::Again(const Picture& picture,
+                                              std::shared_ptr<PixelBudget> budget) {
+    const std::shared_ptr<Picture> again(
+        new Picture(picture.width_, picture.height_, picture.space_, picture.strips_));
+    again->bitmap_ = picture.bitmap_;
+    return again->LetCount(std::move(budget)) ? again : nullptr;
+}
+
+bool Picture::LetCount(std::shared_ptr<PixelBudget> budget) {
+    if (budget && !budget->Reserve(PixelBudget::kFrameCost)) return false;
+    budget_ = std::move(budget);
+    return true;
+}
+
+bool Picture::Repeats(const Picture& other) const {
+    return strips_ == other.strips_ && width_ == other.width_ && space_ == other.space_;
 }
 
 std::shared_ptr<const Picture> Picture::Solid(uint32 pixel, int32 width, int32 height,
@@ -90,45 +105,24 @@ std::shared_ptr<const Picture> Picture::Solid(uint32 pixel, int32 width, int32 h
 }
 
 Picture::~Picture() {
-    if (budget_) budget_->Release(cost_);
-}
-
-// What the picture takes beside the pixels of its strips: their entries in the lists, and they
-// themselves where no other picture has them. A frame's cost has room for a few.
-uint64 Picture::CostNow() const {
-    constexpr size_t kFew = 32;
-    constexpr uint64 kEntry = 24;
-    constexpr uint64 kStrip = sizeof(Strip) + 48;  // with its count of owners and that of the heap
-    uint64 cost = PixelBudget::kFrameCost;
-    for (size_t i = kFew; i < strips_.size(); ++i)
-        cost += kEntry + (strips_[i].use_count() == 1 ? kStrip : 0);
-    return cost;
-}
-
-void Picture::SetStrips(Strips strips) {
-    strips_ = std::move(strips);
-    first_rows_.reserve(strips_.size());
-    int32 row = 0;
-    for (const std::shared_ptr<const Strip>& strip : strips_) {
-        first_rows_.push_back(row);
-        row += strip->Rows();
-    }
+    if (budget_) budget_->Release(PixelBudget::kFrameCost);
 }
 
 PixelRow Picture::Row(int32 y) const {
     const size_t strip = StripAt(y);
-    return strips_[strip]->Row(y - first_rows_[strip]);
+    return AllStrips()[strip]->Row(y - FirstRows()[strip]);
 }
 
 size_t Picture::StripAt(int32 y) const {
-    if (y >= height_) return strips_.size();
-    const auto after = std::upper_bound(first_rows_.begin(), first_rows_.end(), y);
-    return static_cast<size_t>(after - first_rows_.begin()) - 1;
+    if (y >= height_) return AllStrips().size();
+    const std::vector<int32>& first_rows = FirstRows();
+    const auto after = std::upper_bound(first_rows.begin(), first_rows.end(), y);
+    return static_cast<size_t>(after - first_rows.begin()) - 1;
 }
 
 bool Picture::IsOpaque() const {
     const bool big_endian = IsBigEndian(space_);
-    return std::all_of(strips_.begin(), strips_.end(), [&](const auto& strip) {
+    return std::ranges::all_of(AllStrips(), [&](const auto& strip) {
         if (const uint8* pixels = strip->Pixels()) {
             return AreOpaque(pixels,
                              static_cast<size_t>(strip->Rows()) * static_cast<size_t>(width_),

@@ -1,12 +1,14 @@
 #pragma once
 
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include "base/types.h"
 #include "base/work.h"
 #include "kit/bitmap.h"
 #include "picture/strip.h"
+#include "picture/strip_list.h"
 
 namespace kirto {
 
@@ -15,7 +17,7 @@ namespace kirto {
 // several threads.
 class Picture {
   public:
-    using Strips = std::vector<std::shared_ptr<const Strip>>;
+    using Strips = StripList::Strips;
 
     // The bitmap's pixels. They are packed into indices where each strip has few enough colors, and
     // the bitmap is let go; else it is kept, and goes on being counted by its budget. budget:
@@ -31,6 +33,9 @@ class Picture {
     static std::shared_ptr<const Picture> Solid(uint32 pixel, int32 width, int32 height,
                                                 color_space space,
                                                 std::shared_ptr<PixelBudget> budget);
+    // The same picture once more, in constant time. Null as above.
+    static std::shared_ptr<const Picture> Again(const Picture& picture,
+                                                std::shared_ptr<PixelBudget> budget);
     ~Picture();
     Picture(const Picture&) = delete;
     Picture& operator=(const Picture&) = delete;
@@ -41,15 +46,18 @@ class Picture {
     // What the four bytes of a pixel mean.
     color_space ColorSpace() const { return space_; }
     // False for a bitmap without bits or in a space that is not 32-bit: there are no rows then.
-    bool HasRows() const { return !strips_.empty(); }
+    bool HasRows() const { return !AllStrips().empty(); }
 
     // y: 0 to Height() - 1. Only while this lives.
     PixelRow Row(int32 y) const;
     // All of a row's pixels, 4 bytes each.
     void ReadRow(int32 y, uint8* target) const { Row(y).Expand(width_, target); }
-    const Strips& AllStrips() const { return strips_; }
+    const Strips& AllStrips() const { return strips_->All(); }
     // The first row of each strip.
-    const std::vector<int32>& FirstRows() const { return first_rows_; }
+    const std::vector<int32>& FirstRows() const { return strips_->FirstRows(); }
+    // Whether this and the other one are made by Again() of one picture: their pixels are the same
+    // then. Others may be the same, too.
+    bool Repeats(const Picture& other) const;
     // The strip that row y is in, its position in the list. y: 0 to Height(), past which there is
     // none.
     size_t StripAt(int32 y) const;
@@ -63,19 +71,17 @@ class Picture {
     const std::shared_ptr<const BBitmap>& KeptBitmap() const { return bitmap_; }
 
   private:
-    Picture(int32 width, int32 height, color_space space)
-        : width_(width), height_(height), space_(space) {}
-    void SetStrips(Strips strips);
-    uint64 CostNow() const;
+    Picture(int32 width, int32 height, color_space space, std::shared_ptr<const StripList> strips)
+        : width_(width), height_(height), space_(space), strips_(std::move(strips)) {}
+    // False when the budget, if any, refuses what a frame costs.
+    bool LetCount(std::shared_ptr<PixelBudget> budget);
 
     const int32 width_;
     const int32 height_;
     const color_space space_;
-    Strips strips_;
-    std::vector<int32> first_rows_;
+    const std::shared_ptr<const StripList> strips_;
     std::shared_ptr<const BBitmap> bitmap_;
-    uint64 cost_ = 0;
-    std::shared_ptr<PixelBudget> budget_;  // holds the cost of it; null where a bitmap does
+    std::shared_ptr<PixelBudget> budget_;  // holds a frame's cost; null where a bitmap does
 };
 
 // Copies as many bytes as both have, without regard to their rows. False when the work was stopped

@@ -23,6 +23,9 @@ class PictureBuilder {
                    std::shared_ptr<PixelBudget> budget,
                    std::shared_ptr<const Picture> earlier = nullptr);
 
+    // Leaves out the rows up to that one: they will not be in what is taken. Before anything is
+    // added.
+    void StartAt(int32 row) { first_row_ = row; }
     // Takes a row of 4-byte pixels. False when memory is short; the picture can't be made then.
     bool AddRow(const uint8* pixels);
     // Takes a strip as it is. False as above.

@@ -93,8 +93,8 @@ std::vector<PixelCount> Strip::Counts() const {
     if (!indices_) return {{solid_, static_cast<uint32>(Size())}};
     std::call_once(counting_, [this] { CountIndices(); });
     std::vector<PixelCount> result;
-    result.reserve(counts_.size());
-    for (const IndexCount& each : counts_)
+    result.reserve(counts_->size());
+    for (const IndexCount& each : *counts_)
         result.push_back({table_->pixels[each.index], each.count});
     return result;
 }
@@ -110,17 +110,25 @@ void Strip::CountIndices() const {
 bool Strip::CountChanges() const {
     const std::shared_ptr<const Strip> similar = similar_.lock();
     if (!similar || !similar->counted_) return false;
+    if (similar->indices_ == indices_) {
+        SetCounts(similar->counts_);
+        return true;
+    }
     const std::span<const uint8> before{similar->indices_, Size()};
     if (!AreMostlySame(before, {indices_, Size()})) return false;
-    IndexCounts counts(similar->counts_);
+    IndexCounts counts(*similar->counts_);
     counts.Change(before, {indices_, Size()});
     SetCounts(counts);
     return true;
 }
 
-void Strip::SetCounts(const IndexCounts& counts) const {
-    counts_ = counts.Listed();
+void Strip::SetCounts(Listed counts) const {
+    counts_ = std::move(counts);
     counted_ = true;
+}
+
+Strip::Listed Strip::ListOf(const IndexCounts& counts) {
+    return std::make_shared<const std::vector<IndexCount>>(counts.Listed());
 }
 
 }  // namespace kirto

@@ -53,8 +53,9 @@ class Strip {
     // All pixels are the same.
     static std::shared_ptr<const Strip> Solid(uint32 pixel, int32 width, int32 rows);
     // An index a pixel, from the storage's first byte on. counts: of these indices, where somebody
-    // has counted them, else null. similar: of the same size and table, which may tell most of the
-    // counts if it has been counted and still exists when they are asked for; or null.
+    // has counted them, else null. similar: of the same size, and of the same table or storage,
+    // which may tell most of the counts if it has been counted and still exists when they are asked
+    // for; or null.
     static std::shared_ptr<const Strip> Indexed(
         std::shared_ptr<const PixelStorage> storage, SharedPixelTable table, int32 width,
         int32 rows, const IndexCounts* counts = nullptr,
@@ -68,6 +69,8 @@ class Strip {
     std::shared_ptr<const Strip> WithTable(SharedPixelTable table) const;
 
     int32 Rows() const { return rows_; }
+    // Whether it was made of that one pixel.
+    bool IsSolid(uint32 pixel) const { return !pixels_ && !indices_ && solid_ == pixel; }
     // y: 0 to Rows() - 1.
     PixelRow Row(int32 y) const;
     // The bytes of all rows, one after the other; null unless they are pixels of 4 bytes.
@@ -82,7 +85,11 @@ class Strip {
   private:
     Strip(int32 width, int32 rows) : width_(width), rows_(rows) {}
     size_t Size() const { return static_cast<size_t>(width_) * static_cast<size_t>(rows_); }
-    void SetCounts(const IndexCounts& counts) const;
+    using Listed = std::shared_ptr<const std::vector<IndexCount>>;
+
+    void SetCounts(const IndexCounts& counts) const { SetCounts(ListOf(counts)); }
+    void SetCounts(Listed counts) const;
+    static Listed ListOf(const IndexCounts& counts);
     void CountIndices() const;
     bool CountChanges() const;
 
@@ -95,7 +102,7 @@ class Strip {
     uint32 solid_ = 0;
     std::weak_ptr<const Strip> similar_;
     mutable std::once_flag counting_;
-    mutable std::vector<IndexCount> counts_;  // of the indices
+    mutable Listed counts_;  // of the indices; shared by strips of one storage
     mutable std::atomic<bool> counted_ = false;
 };
 

@@ -242,6 +242,28 @@ TEST(IndexPainter, SharesAllWhereNothingIsPaintedButCountsThePicture) {
     EXPECT_EQ(budget->Used(), 2 * PixelBudget::kFrameCost);
 }
 
+TEST(IndexPainter, RepeatsThePictureWherePaintingChangesNothing) {
+    std::mt19937 random(16);
+    const auto budget = std::make_shared<PixelBudget>();
+    IndexPainter painter(budget);
+    const SharedPixelTable table = RandomTable(random);
+    const uint8 index = 1;
+    const IndexImage dot = OnePixel(table, index, 30, 40);
+    const auto base = Picture::Solid(0, 100, 500, B_RGB32, nullptr);
+    const auto once = painter.Paint(base, dot);
+    const uint64 used = budget->Used();
+    const auto twice = painter.Paint(once, dot);
+    EXPECT_FALSE(once->Repeats(*base));
+    EXPECT_TRUE(twice->Repeats(*once));
+    EXPECT_EQ(budget->Used(), used + PixelBudget::kFrameCost);
+
+    // In one color, and with what is filled as in what is painted.
+    const auto filled = painter.Fill(once, {0, 0, 100, 500}, table->pixels[1]);
+    EXPECT_TRUE(painter.Fill(filled, {0, 0, 100, 500}, table->pixels[1])->Repeats(*filled));
+    const auto dotted = painter.Paint(filled, dot);
+    EXPECT_TRUE(painter.Paint(dotted, dot)->Repeats(*dotted));
+}
+
 TEST(IndexPainter, GivesNothingWithoutMemory) {
     std::mt19937 random(15);
     const auto base = Built(RandomPicture(10, 10, 30, random));

@@ -100,6 +100,24 @@ TEST(Picture, CountsTheManyStripsOfAHighOne) {
     EXPECT_LE(budget->Used(), PixelBudget::kFrameCost + 1000 * (sizeof(Strip) + 100));
 }
 
+TEST(Picture, RepeatedTakesNoMoreThanAFrameHoweverManyStripsItHas) {
+    const auto budget = std::make_shared<PixelBudget>(uint64{1} << 30);
+    const auto picture = Picture::Solid(0xFF102030, 1, 60000, B_RGB32, budget);
+    const uint64 before = budget->Used();
+    ASSERT_GT(before, 2 * PixelBudget::kFrameCost);
+
+    auto again = Picture::Again(*picture, budget);
+    EXPECT_TRUE(again->Repeats(*picture));
+    EXPECT_EQ(&again->AllStrips(), &picture->AllStrips());
+    EXPECT_EQ(again->Height(), 60000);
+    EXPECT_EQ(budget->Used(), before + PixelBudget::kFrameCost);
+
+    again = nullptr;
+    EXPECT_EQ(budget->Used(), before);
+    budget->SetLimit(before);
+    EXPECT_EQ(Picture::Again(*picture, budget), nullptr);
+}
+
 TEST(Picture, KeepsTheBitmapWhereThereIsNoMemoryToPackIt) {
     std::mt19937 random(4);
     const auto bitmap = BitmapOf(RandomPicture(100, 100, 16, random), B_RGB32);
@@ -172,6 +190,28 @@ TEST(Strip, CountsItsPixelsInTheOrderInWhichTheyAppear) {
         EXPECT_EQ(counts[i].pixel, expected[i].first);
         EXPECT_EQ(counts[i].count, expected[i].second);
     }
+}
+
+TEST(Strip, CountsOfOneStorageAreSharedWhateverItsIndicesMean) {
+    const auto storage = PixelStorage::Make(6, nullptr);
+    for (size_t i = 0; i < 6; ++i)
+        storage->Bytes()[i] = static_cast<uint8>(i / 4);
+    PixelTable table;
+    table.pixels[0] = 7;
+    table.pixels[1] = 8;
+    const auto strip = Strip::Indexed(storage, std::make_shared<PixelTable>(table), 3, 2);
+    ASSERT_EQ(strip->Counts().size(), 2U);
+    table.pixels[0] = 9;
+    const auto recolored =
+        Strip::Indexed(storage, std::make_shared<PixelTable>(table), 3, 2, nullptr, strip);
+    // Counted anew they would be others now.
+    storage->Bytes()[0] = 1;
+
+    const std::vector<PixelCount> counts = recolored->Counts();
+    ASSERT_EQ(counts.size(), 2U);
+    EXPECT_EQ(counts[0].pixel, 9U);
+    EXPECT_EQ(counts[0].count, 4U);
+    EXPECT_EQ(counts[1].pixel, 8U);
 }
 
 TEST(Strip, SlicesShowTheirRows) {

@@ -24,6 +24,19 @@ std::vector<uint8> Records(int32 side, int32 count, const std::function<void(Fli
     return bytes;
 }
 
+// A picture of 4096 x 4096 with many colors, and that many records that change what they are.
+std::vector<uint8> RecoloredRecords(int32 count) {
+    constexpr int32 kSide = 4096;
+    std::vector<uint8> indices(size_t{kSide} * kSide);
+    for (size_t i = 0; i < indices.size(); ++i)
+        indices[i] = static_cast<uint8>(i * i >> 5);
+    FliBuilder builder(kSide, kSide);
+    builder.Record().Copy(indices);
+    for (int32 i = 0; i < count; ++i)
+        builder.Record().Color256({{0, {static_cast<uint32>(i), 0xFFFFFF}}});
+    return builder;
+}
+
 void AddChunks(FliBuilder& builder, int32 count) {
     builder.Record();
     for (int32 i = 0; i < count; ++i)
@@ -73,6 +86,13 @@ std::vector<HostileSeries> HostileFliSeries() {
          [](int32 n) { return Records(64, n, [](FliBuilder& b) { b.Record().Black(); }); }},
         {"records-of-4096x4096.flc", 100000,
          [](int32 n) { return Records(4096, n, [](FliBuilder& b) { b.Record().Black(); }); }},
+        {"dots-on-black-of-4096x4096.flc", 100000,
+         [](int32 n) {
+             return Records(4096, n, [](FliBuilder& b) {
+                 b.Record().Black().Lc(0, {{{0, 1, {7}}}});
+             });
+         }},
+        {"recolored-records-of-4096x4096.flc", 2000, RecoloredRecords},
         {"records-of-1x1.flc", 1000000,
          [](int32 n) { return Records(1, n, [](FliBuilder& b) { b.Record().Black(); }); }},
         {"empty-records.flc", 1000000,

@@ -24,8 +24,11 @@ double SecondsOf(const timeval& time) {
     dup2(nowhere, STDIN_FILENO);
     dup2(nowhere, STDOUT_FILENO);
     dup2(errors, STDERR_FILENO);
-    // The new program keeps the alarm.
-    alarm(limits.seconds);
+    // Of a processor, as a machine that is busy with other things must not matter.
+    const rlimit time{limits.seconds, limits.seconds};
+    if (limits.seconds > 0) setrlimit(RLIMIT_CPU, &time);
+    // One that waits for ever takes none; the new program keeps the alarm.
+    alarm(limits.seconds * 10);
     const rlimit space{limits.address_space, limits.address_space};
     if (limits.address_space > 0) setrlimit(RLIMIT_AS, &space);
     execv(arguments[0], arguments.data());

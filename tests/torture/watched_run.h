@@ -16,7 +16,7 @@ struct WatchedRun {
 
     // What the program may take at most; it is killed, or fails, when it wants more.
     struct Limits {
-        unsigned seconds = 120;
+        unsigned seconds = 120;    // of a processor; ten times that by the clock
         uint64 address_space = 0;  // bytes; 0: as much as there is
     };
 

@@ -43,6 +43,8 @@ std::vector<std::string> EncoderOf(const ExportSettings& settings) {
 std::vector<std::string> ArgumentsFor(const Animation& animation, int64 step,
                                       const ExportSettings& settings) {
     std::vector<std::string> arguments = {
+        // Without it a file that could not be written to its end counts as a success.
+        "-xerror",
         "-v",
         "error",
         "-f",

@@ -18,6 +18,7 @@ struct FliPiece {
     FliDecoder::Record kind = FliDecoder::Record::kBroken;
     Frame frame;                       // where there is one
     std::shared_ptr<Palette> palette;  // the frame's, to be completed
+    bool repeats = false;              // picture and kind of palette of the frame before
     std::optional<Palette> global;     // the animation's, where it may have changed
     std::string lines;                 // that reading printed
     bool out_of_memory = false;        // as the decoder says of a broken one
@@ -42,7 +43,8 @@ class FliAhead {
     std::optional<FliPiece> Next();
 
   private:
-    void Pass(const FliPiece& piece);
+    bool RepeatsPrevious(const Frame& frame) const;
+    void Pass(FliPiece& piece);
 
     FliDecoder& decoder_;
     const FliRules rules_;

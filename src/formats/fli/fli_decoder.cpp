@@ -371,7 +371,7 @@ void FliDecoder::StartPicture() {
         return;
     }
     canvas_->SetTable(CurrentTable());
-    canvas_->Blacken(work_);
+    canvas_->Blacken();
 }
 
 }  // namespace kirto

@@ -54,8 +54,8 @@ class FliDecoder {
                       std::shared_ptr<Palette>* palette);
     // As it is after the records read so far.
     const Palette& GlobalPalette() const { return global_; }
-    // Whether the last record broke off for lack of memory; the file may be intact.
-    bool OutOfMemory() const { return out_of_memory_; }
+    // Whether the header or the last record broke off for lack of memory; the file may be intact.
+    bool OutOfMemory() const { return out_of_memory_ || input_.RanOutOfMemory(); }
     // Why the last record is broken where players would not mind.
     HarmlessCause Cause() const { return cause_; }
 

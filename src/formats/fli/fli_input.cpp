@@ -33,6 +33,7 @@ bool FliInput::ReadBlock(int64 size, std::span<const uint8>* block) {
     if (count > capacity_) {
         block_ = AllocateArray<uint8>(count);
         capacity_ = block_ ? count : 0;
+        ran_out_of_memory_ = ran_out_of_memory_ || !block_;
     }
     if (!block_ || !Read({block_.get(), count})) return false;
     *block = {block_.get(), count};

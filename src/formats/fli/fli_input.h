@@ -28,6 +28,8 @@ class FliInput {
 
     int64 Position() const { return input_.Position(); }
     int64 Size() const { return input_.Size(); }
+    // Whether memory has been too short for a read.
+    bool RanOutOfMemory() const { return ran_out_of_memory_ || input_.RanOutOfMemory(); }
 
     // Notes that a record starts here. False where the file has led back: a record has started here
     // or further on before.
@@ -44,6 +46,7 @@ class FliInput {
     int64 furthest_record_ = -1;  // where the record furthest on starts
     AllocatedArray<uint8> block_;
     size_t capacity_ = 0;  // of block_
+    bool ran_out_of_memory_ = false;
 };
 
 }  // namespace kirto

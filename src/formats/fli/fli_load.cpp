@@ -18,6 +18,7 @@ FliLoad::FliLoad(BFile* file, int32 start, AnimationDocument& document)
     kirto::FliHeader header;
     if (file->InitCheck() != B_OK || !decoder_.ReadFliHeader(&header)) {
         failed = true;
+        out_of_memory = file->RanOutOfMemory();
         return;
     }
     TakeHeader(header);
@@ -64,7 +65,7 @@ bool FliLoad::BeginPiece(const kirto::FliPiece& piece, int32 count) {
 // What takes time of a frame's palette.
 FliLoad::Finished FliLoad::Finish(const kirto::FliPiece& piece) const {
     Finished finished;
-    if (piece.kind != Record::kFrame) return finished;
+    if (piece.kind != Record::kFrame || piece.repeats) return finished;
     const kirto::Picture& picture = *piece.frame.bitmap;
     if (piece.frame.local_palette) {
         // Its colors are counted in a moment; that goes by these.
@@ -98,13 +99,18 @@ bool FliLoad::TakePiece(const kirto::FliPiece& piece, const Finished& finished) 
     return false;
 }
 
+// Frames that repeat a picture take what was found out about it, as large pictures take long.
 void FliLoad::CompletePalette(const kirto::FliPiece& piece, const Finished& finished) {
     if (piece.frame.local_palette) {
-        piece.palette->unique_colors =
-            piece.palette->CountUniqueColors(piece.frame.bitmap.get(), &document_.work);
+        if (!piece.repeats || last_.palette.unique_colors == 0) {
+            last_.palette.unique_colors =
+                piece.palette->CountUniqueColors(piece.frame.bitmap.get(), &document_.work);
+        }
+        piece.palette->unique_colors = last_.palette.unique_colors;
     } else {
-        *piece.palette = finished.palette;
-        Palette::TellOfFailure(finished.status);
+        if (!piece.repeats) last_ = finished;
+        *piece.palette = last_.palette;
+        Palette::TellOfFailure(last_.status);
     }
 }
 

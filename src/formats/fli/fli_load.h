@@ -44,4 +44,5 @@ class FliLoad {
     kirto::FliDecoder decoder_;
     int32 position_;
     double pause_ = 0.0;  // after each frame, in the unit of the settings
+    Finished last_;       // what the last frame's palette became
 };

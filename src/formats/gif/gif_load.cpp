@@ -39,6 +39,7 @@ GifLoad::GifLoad(BFile* file, int32 start, AnimationDocument& document)
     Init();
     failed = !ReadScreen() || !StartFrame();
     if (!failed) ReadFrames();
+    out_of_memory = out_of_memory || (failed && file->RanOutOfMemory());
 }
 
 void GifLoad::Init() {
@@ -173,13 +174,26 @@ bool GifLoad::StartFrame() {
 
 // Gives the frame its palette, and the document the frame.
 bool GifLoad::FinishFrame() {
-    const kirto::Picture* picture = frame_.bitmap.get();
-    if (frame_.local_palette) {
-        local_palette_->unique_colors = local_palette_->CountUniqueColors(picture, &document_.work);
-    } else {
-        local_palette_->Set(picture, &document_.work);
-    }
+    CompletePalette();
     if (document_.StopRequested()) return false;
     frame_.palette = std::move(local_palette_);
+    last_.picture = frame_.bitmap;
     return document_.InsertFrame(next_position_, std::move(frame_));
+}
+
+// Frames that repeat a picture take what was found out about it, as large pictures take long.
+void GifLoad::CompletePalette() {
+    const kirto::Picture& picture = *frame_.bitmap;
+    const bool repeats = last_.picture && picture.Repeats(*last_.picture);
+    if (!repeats) last_ = {};
+    if (frame_.local_palette) {
+        if (last_.unique_colors == 0)
+            last_.unique_colors = local_palette_->CountUniqueColors(&picture, &document_.work);
+        local_palette_->unique_colors = last_.unique_colors;
+    } else if (last_.optimal) {
+        *local_palette_ = *last_.optimal;
+    } else {
+        local_palette_->Set(&picture, &document_.work);
+        if (local_palette_->mode == kirto::kPaletteOptimal) last_.optimal = *local_palette_;
+    }
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 
 #include "animation/frame.h"
 #include "base/types.h"
@@ -42,6 +43,7 @@ class GifLoad {
     bool TakeImage(const kirto::GifImage& image, kirto::GifIndices* ahead);
     bool StartFrame();
     bool FinishFrame();
+    void CompletePalette();
     void TakeControl(const kirto::GifControl& control);
     void TakeLoop(int32 loop_count);
     void CommitPalette();
@@ -60,4 +62,10 @@ class GifLoad {
     // marked local.
     Frame frame_;
     std::shared_ptr<Palette> local_palette_;
+    // What was found out about the last frame's picture.
+    struct {
+        std::shared_ptr<const kirto::Picture> picture;
+        int32 unique_colors = 0;
+        std::optional<Palette> optimal;
+    } last_;
 };

@@ -29,11 +29,18 @@ TEST(FliCanvas, KeepsTheColorsOfWhatIsDrawnWhateverIndicesMeanLater) {
         // Black is an index in some tables only.
         if (round % 2 == 0) table.pixels[9] = 0xFF000000;
         canvas.SetTable(table);
-        canvas.Blacken(work);
+        canvas.Blacken();
         plain.assign(plain.size(), 0xFF000000);
         for (int32 frame = 0; frame < 8; ++frame) {
             if (round % 3 > 0 && random() % 4 == 0) table = RandomTable(random);
             canvas.SetTable(table);
+            if (random() % 4 == 0) {
+                canvas.Clear();
+                plain.assign(plain.size(), table.pixels[0]);
+            } else if (random() % 4 == 0) {
+                canvas.Blacken();
+                plain.assign(plain.size(), 0xFF000000);
+            }
             for (auto run = random() % 9; run > 0; --run) {
                 const size_t position = random() % plain.size();
                 const size_t count = std::min(random() % 200, plain.size() - position);
@@ -75,6 +82,43 @@ TEST(FliCanvas, SharesTheStripsWithoutAChange) {
         ASSERT_EQ(second->AllStrips().size(), 4U);
         for (size_t strip = 0; strip < 4; ++strip)
             EXPECT_EQ(second->AllStrips()[strip] == first->AllStrips()[strip], strip != 1);
+    }
+}
+
+TEST(FliCanvas, RepeatsThePictureWhereNothingHasChanged) {
+    std::mt19937 random(6);
+    const Work work;
+    for (const bool pixels : {false, true}) {
+        FliCanvas canvas(100, 200, nullptr);
+        canvas.SetTable(RandomTable(random));
+        canvas.Put(0, std::vector<uint8>{1, 2, 3});
+        if (pixels) canvas.SetTable(RandomTable(random));
+        const auto drawn = canvas.MakePicture(work);
+        EXPECT_TRUE(canvas.MakePicture(work)->Repeats(*drawn));
+
+        canvas.Blacken();
+        const auto black = canvas.MakePicture(work);
+        EXPECT_FALSE(black->Repeats(*drawn));
+        canvas.Blacken();
+        EXPECT_TRUE(canvas.MakePicture(work)->Repeats(*black));
+    }
+}
+
+TEST(FliCanvas, RecoloredPicturesKeepTheirIndices) {
+    std::mt19937 random(7);
+    const Work work;
+    FliCanvas canvas(100, 200, nullptr);
+    std::vector<uint8> indices(100 * 200);
+    for (size_t i = 0; i < indices.size(); ++i)
+        indices[i] = i < 10000 ? static_cast<uint8>(random()) : 5;
+    canvas.Put(0, indices);
+    for (int32 round = 0; round < 3; ++round) {
+        const PixelTable table = RandomTable(random);
+        canvas.Recolor(table);
+        std::vector<uint32> expected(indices.size());
+        for (size_t i = 0; i < indices.size(); ++i)
+            expected[i] = table.pixels[indices[i]];
+        EXPECT_EQ(PixelsOf(*canvas.MakePicture(work)), expected);
     }
 }
 

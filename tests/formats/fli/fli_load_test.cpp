@@ -421,5 +421,28 @@ TEST_F(FliLoadTest, APictureAboveTheDocumentsCeilingFails) {
     EXPECT_EQ(document_.FrameCount(), 2);
 }
 
+TEST_F(FliLoadTest, ARecordThatChangesNothingCostsAFrameOnALargePicture) {
+    for (const bool local : {false, true}) {
+        DocumentFixture fixture;
+        FliBuilder fli(3000, 3000);
+        fli.Record().Color256(kColors).Black();
+        if (local) fli.Record().Color256({{1, {0x123456}}}).Black();
+        ASSERT_FALSE(LoadInto(fixture.document, fli).failed);
+        const int32 before = fixture.document.FrameCount();
+        const uint64 used = fixture.document.pixel_budget->Used();
+
+        DocumentFixture longer;
+        for (int32 i = 0; i < 20; ++i)
+            fli.Record().Black();
+        ASSERT_FALSE(LoadInto(longer.document, fli).failed);
+        ASSERT_EQ(longer.document.FrameCount(), before + 20);
+        EXPECT_EQ(longer.document.pixel_budget->Used(), used + 20 * PixelBudget::kFrameCost);
+        const FramePointer last = longer.document.FrameAt(before + 19);
+        const FramePointer first = longer.document.FrameAt(before - 1);
+        EXPECT_EQ(*last->palette, *first->palette);
+        EXPECT_EQ(last->palette->unique_colors, 1);
+    }
+}
+
 }  // namespace
 }  // namespace kirto::test

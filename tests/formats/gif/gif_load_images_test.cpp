@@ -372,5 +372,18 @@ TEST_F(GifLoadImages, FramesThatWereThereBeforeAreNotPartOfThePicture) {
     EXPECT_THAT(Pixels(1), ElementsAre(kRed, kUnpainted));
 }
 
+TEST_F(GifLoadImages, FramesThatRepeatAPictureHaveItsPalette) {
+    const GifBuilder::Image dot = ImageOf(1, 1, {1});
+    EXPECT_TRUE(
+        Load(FourColorGif(2, 1).Add(dot).Add(dot).Add(dot).Add(ImageOf(1, 1, {2})).Trailer()));
+
+    ASSERT_EQ(document.FrameCount(), 4);
+    EXPECT_TRUE(FrameOf(2).bitmap->Repeats(*FrameOf(0).bitmap));
+    EXPECT_EQ(*FrameOf(2).palette, *FrameOf(0).palette);
+    EXPECT_EQ(FrameOf(2).palette->unique_colors, 2);
+    EXPECT_FALSE(FrameOf(3).bitmap->Repeats(*FrameOf(2).bitmap));
+    EXPECT_NE(*FrameOf(3).palette, *FrameOf(2).palette);
+}
+
 }  // namespace
 }  // namespace kirto::test
