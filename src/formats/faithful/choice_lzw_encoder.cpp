@@ -68,8 +68,11 @@ void ChoiceLzwEncoder::ClearTable(size_t shorter) {
 }
 
 std::span<const uint8> ChoiceLzwEncoder::End() {
-    Put({static_cast<uint16>((1U << image_.min_code_size) + 1),
-         static_cast<uint16>(parser_.CodeSize())});
+    // The code that ends the image has a leading zero where the last string made codes longer. That
+    // is not worth a byte of its own: readers have all pixels by then.
+    const uint32 end_code = (1U << image_.min_code_size) + 1;
+    const uint32 size = std::min(parser_.CodeSize(), parser_.LastCodeSize());
+    Put({static_cast<uint16>(end_code), static_cast<uint16>(size)});
     for (; bit_count_ > 0; bit_count_ -= std::min(bit_count_, 8U), bit_buffer_ >>= 8)
         bytes_.push_back(static_cast<uint8>(bit_buffer_));
     return bytes_;

@@ -24,6 +24,7 @@ void LzwParser::Start(const ChoiceImage& image, size_t shorter, size_t from) {
     at_ = from;
     bits_ = 0;
     code_size_ = static_cast<uint32>(image.min_code_size) + 1;
+    last_code_size_ = code_size_;
     pending_ = kNoCode;
     ahead_ = {};
     strings_.Clear(image.min_code_size);
@@ -40,6 +41,7 @@ LzwParser::Code LzwParser::Take() {
     at_ += pending_length_;
     const Code taken{static_cast<uint16>(code), static_cast<uint16>(code_size_)};
     bits_ += code_size_;
+    last_code_size_ = code_size_;
     if (!Full() && strings_.NextFree() >> code_size_ != 0) ++code_size_;
     return taken;
 }

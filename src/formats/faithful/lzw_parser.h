@@ -46,6 +46,8 @@ class LzwParser {
     bool Full() const { return strings_.Full(); }
     // Of the next code.
     uint32 CodeSize() const { return code_size_; }
+    // Of the last code; before the first one, of that.
+    uint32 LastCodeSize() const { return last_code_size_; }
 
   private:
     static constexpr uint32 kNoCode = ~uint32{0};
@@ -85,6 +87,7 @@ class LzwParser {
     size_t shorter_ = 0;
     size_t at_ = 0;
     uint32 code_size_ = 0;
+    uint32 last_code_size_ = 0;
     uint64 bits_ = 0;
     // The last string's code, which the next index makes a new string, and its length.
     uint32 pending_ = kNoCode;

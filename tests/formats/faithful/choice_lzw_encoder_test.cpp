@@ -86,6 +86,15 @@ TEST_F(ChoiceLzw, WrapsOnePixelIntoClearAndEndCode) {
     EXPECT_EQ(Encode(Plain(indices, 2), {}), (Bytes{0x4C, 0x01}));
 }
 
+TEST_F(ChoiceLzw, TheLeadingZeroOfTheEndCodeTakesNoByte) {
+    // The eleventh string makes codes longer, 44 bits from the start: the end code has 4 bits left
+    // in the sixth byte, and needs no more.
+    const Bytes indices(64, 0);
+    const Bytes codes = Encode(Plain(indices, 2), {});
+    EXPECT_EQ(codes, (Bytes{0x84, 0x8F, 0xA9, 0xCB, 0xED, 0x5D}));
+    EXPECT_EQ(Decoded(codes, 2, indices.size()), indices);
+}
+
 TEST_F(ChoiceLzw, IndicesWithoutAChoiceComeBack) {
     Random random(1);
     for (int32 round = 0; round < 40; ++round) {
