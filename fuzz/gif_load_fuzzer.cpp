@@ -1,6 +1,6 @@
-// Arbitrary bytes as a GIF file, by the defined rules and by those of browsers. The first byte
-// chooses how the former are meant: odd, every frame at the size of the screen; even, every image
-// at its own.
+// Arbitrary bytes as a GIF file, by the defined rules and by those of browsers. The first byte's
+// bits, from the lowest: every frame is as large as the screen, not as its image; there is little
+// memory; the frames come behind another one; the work is stopped.
 #include <cstdlib>
 
 #include "base/debug_line.h"
@@ -9,6 +9,7 @@
 namespace {
 
 constexpr uint64 kMemoryLimit = uint64{64} << 20;
+constexpr uint64 kLittleMemory = uint64{12} << 10;
 
 void Check(bool holds) {
     if (!holds) std::abort();
@@ -33,14 +34,18 @@ void CheckList(const AnimationDocument& document) {
     Check(visited == count);
 }
 
-void Load(const uint8_t* data, size_t size, Prefs& prefs) {
+void Load(uint8_t how, const uint8_t* data, size_t size, Prefs& prefs) {
     AnimationDocument document(prefs);
-    document.pixel_budget->SetLimit(kMemoryLimit);
+    const uint64 limit = (how & 2) != 0 ? kLittleMemory : kMemoryLimit;
+    document.pixel_budget->SetLimit(limit);
     const auto file = BFile::OnMemory({data, data + size});
-    const GifLoad loader(file.get(), 0, document);
+    if ((how & 4) != 0) const GifLoad before(file.get(), 0, document);
+    if ((how & 8) != 0) document.RequestStop();
+    const int32 start = document.FrameCount();
+    const GifLoad loader(file.get(), start, document);
     Check(loader.End() == document.FrameCount());
     CheckList(document);
-    Check(document.pixel_budget->Used() <= kMemoryLimit);
+    Check(document.pixel_budget->Used() <= limit);
 }
 
 }  // namespace
@@ -50,8 +55,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     kirto::InstallDebugSink([](const std::string&) {});
     Prefs prefs{Prefs::BuiltIn{}};
     prefs.animation_gifloadfullframe = (data[0] & 1) != 0;
-    Load(data + 1, size - 1, prefs);
+    Load(data[0], data + 1, size - 1, prefs);
     prefs.animation_faithful = true;
-    Load(data + 1, size - 1, prefs);
+    Load(data[0], data + 1, size - 1, prefs);
     return 0;
 }

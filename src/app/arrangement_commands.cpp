@@ -7,6 +7,7 @@
 
 #include "animation/arrangement.h"
 #include "animation/pauses.h"
+#include "base/core_text.h"
 #include "document/command_codes.h"
 
 namespace kirto {
@@ -92,14 +93,14 @@ bool SetPauses(Animation& animation, const BMessage& message, AnimationDocument&
 }
 
 constexpr Row kRows[] = {
-    {kMoveFramesTo, "Move Frames", MoveTo},
-    {kCopyFramesTo, "Copy Frames", CopyTo},
-    {kDuplicateFrames, "Duplicate", Duplicate},
-    {kForwardAndBack, "Forward and Back", ForwardAndBack},
-    {kRemoveDuplicates, "Remove Duplicates", MergeDuplicates},
-    {kDropEveryNth, "Drop Every Nth", Drop},
-    {kStartAtCurrent, "Shift Start", Rotate},
-    {kSetPauses, "Set Pause", SetPauses},
+    {kMoveFramesTo, CoreText::Later("Move Frames"), MoveTo},
+    {kCopyFramesTo, CoreText::Later("Copy Frames"), CopyTo},
+    {kDuplicateFrames, CoreText::Later("Duplicate"), Duplicate},
+    {kForwardAndBack, CoreText::Later("Forward and Back"), ForwardAndBack},
+    {kRemoveDuplicates, CoreText::Later("Remove Duplicates"), MergeDuplicates},
+    {kDropEveryNth, CoreText::Later("Drop Every Nth"), Drop},
+    {kStartAtCurrent, CoreText::Later("Shift Start"), Rotate},
+    {kSetPauses, CoreText::Later("Set Pause"), SetPauses},
 };
 
 const Row* RowOf(uint32 code) {

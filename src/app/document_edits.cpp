@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <optional>
 
+#include "base/core_text.h"
 #include "document/command_codes.h"
 #include "document/field_table.h"
 
@@ -62,8 +63,8 @@ bool SetFrameKind(Animation& animation, int32 kind) {
 
 const char* EditName(uint32 code) {
     if (const Field* field = FieldOf(code)) return field->step;
-    if (KindOf(kPaletteKinds, code)) return "Change Palette";
-    return KindOf(kFramePaletteKinds, code) ? "Change Frame Palette" : nullptr;
+    if (KindOf(kPaletteKinds, code)) return CoreText::Later("Change Palette");
+    return KindOf(kFramePaletteKinds, code) ? CoreText::Later("Change Frame Palette") : nullptr;
 }
 
 bool ApplyEdit(AnimationDocument& document, const BMessage& message) {

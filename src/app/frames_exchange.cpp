@@ -8,6 +8,7 @@
 #include "animation/arrangement.h"
 #include "animation/frame_image.h"
 #include "app/open_animation.h"
+#include "base/core_text.h"
 #include "formats/faithful/faithful_gif_save.h"
 #include "formats/recovery/recovery_file_reader.h"
 #include "formats/recovery/recovery_file_writer.h"
@@ -45,8 +46,8 @@ void KeepPauses(Animation& source, const Animation& target) {
 
 void Refuse(status_t status) {
     if (status == B_NO_MEMORY) return WarnOutOfMemory();
-    TellQuietly(
-        "What is on the clipboard can't be pasted because it was damaged or is unsupported.");
+    TellQuietly(CoreText::Later(
+        "What is on the clipboard can't be pasted because it was damaged or is unsupported."));
 }
 
 int32 PositionIn(const BMessage& message, const AnimationDocument& document) {

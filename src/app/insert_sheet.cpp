@@ -5,6 +5,7 @@
 
 #include "animation/pauses.h"
 #include "app/save_animation.h"
+#include "base/core_text.h"
 #include "effects/cut_sheet.h"
 #include "kit/alert.h"
 #include "kit/file.h"
@@ -60,7 +61,9 @@ entry_ref PictureOfSheet(const entry_ref& ref, const SheetDescription& descripti
 bool InsertSheet(AnimationDocument& document, const entry_ref& ref, BTranslatorRoster& roster) {
     const std::optional<SheetDescription> description = ReadSheetText(ref);
     if (!description) {
-        Warn("This file can't be inserted because it does not describe a sheet: " + ref.Leaf());
+        Warn(CoreText::With(
+            CoreText::tr("This file can't be inserted because it does not describe a sheet: %1"),
+            {ref.Leaf()}));
         return true;
     }
     const auto sheet = ReadSheet(document, PictureOfSheet(ref, *description), roster);
@@ -68,7 +71,9 @@ bool InsertSheet(AnimationDocument& document, const entry_ref& ref, BTranslatorR
     const auto& frames = description->frames;
     if (!std::all_of(frames.begin(), frames.end(),
                      [&](const SheetFrame& frame) { return IsOn(*sheet, frame); })) {
-        Warn("This file can't be inserted because a frame is not on the sheet: " + ref.Leaf());
+        Warn(CoreText::With(
+            CoreText::tr("This file can't be inserted because a frame is not on the sheet: %1"),
+            {ref.Leaf()}));
         return true;
     }
     const double pauses = PauseUnitsPerSecond(document.prefs.global_pauseinseconds);

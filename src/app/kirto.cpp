@@ -11,6 +11,7 @@
 #include "app/fade_preview.h"
 #include "app/frames_exchange.h"
 #include "app/picture_commands.h"
+#include "base/core_text.h"
 #include "base/text.h"
 #include "document/command_codes.h"
 #include "effects/fade.h"
@@ -51,17 +52,17 @@ const Kirto::Command* Kirto::CommandFor(uint32 code) {
         {B_SIMPLE_DATA, [](Kirto& app, BMessage* message) { app.RefsReceived(message); },
          kUpdateAll, kInsertion},
         {B_CANCEL, cancel, kNothing},
-        {kirto::kOpenFile, open_file, kUpdateAll, kInsertion, "Insert Animation"},
+        {kirto::kOpenFile, open_file, kUpdateAll, kInsertion, CoreText::Later("Insert Animation")},
         {kirto::kInsertAnimations,
          [](Kirto& app, BMessage* message) { app.InsertAnimations(*message); }, kUpdateAll,
-         kInsertion, "Insert Animation"},
+         kInsertion, CoreText::Later("Insert Animation")},
         {kirto::kPasteFrames, [](Kirto& app, BMessage* message) { app.PasteFrames(*message); },
-         kUpdateAll, kInsertion, "Paste"},
+         kUpdateAll, kInsertion, CoreText::Later("Paste")},
         {kirto::kInsertFiles, [](Kirto& app, BMessage* message) { app.InsertFrame(message); },
-         kUpdateAll, kInsertion, "Insert"},
+         kUpdateAll, kInsertion, CoreText::Later("Insert")},
         {kirto::kInsertTiledFile,
          [](Kirto& app, BMessage* message) { app.InsertTiledFrame(message); }, kUpdateAll,
-         kInsertion, "Insert Tiled"},
+         kInsertion, CoreText::Later("Insert Tiled")},
         {kirto::kSaveFile, [](Kirto& app, BMessage* message) { app.Save(message); }, kUpdateAll},
         {kirto::kSaveSheet, [](Kirto& app, BMessage* message) { app.SaveSheet(message); },
          kUpdateAll},
@@ -79,30 +80,30 @@ const Kirto::Command* Kirto::CommandFor(uint32 code) {
          },
          kNothing},
         {kirto::kRemoveFrame, [](Kirto& app, BMessage*) { app.RemoveFrame(); }, kUpdateFrames,
-         kEdit, "Remove Frame"},
+         kEdit, CoreText::Later("Remove Frame")},
         {kirto::kMoveFrameUp, [](Kirto& app, BMessage*) { app.MoveFrame(true); }, kUpdateFrames,
-         kEdit, "Move Frame Up"},
+         kEdit, CoreText::Later("Move Frame Up")},
         {kirto::kMoveFrameDown, [](Kirto& app, BMessage*) { app.MoveFrame(false); }, kUpdateFrames,
-         kEdit, "Move Frame Down"},
+         kEdit, CoreText::Later("Move Frame Down")},
         {kirto::kReverseFrames, [](Kirto& app, BMessage*) { app.ReverseFrames(); }, kUpdateFrames,
-         kEdit, "Reverse All"},
+         kEdit, CoreText::Later("Reverse All")},
         {kirto::kUndo, [](Kirto& app, BMessage*) { app.Undo(); }, kUpdateAll, kEdit},
         {kirto::kRedo, [](Kirto& app, BMessage*) { app.Redo(); }, kUpdateAll, kEdit},
         {kirto::kUndoOpening, [](Kirto& app, BMessage*) { app.UndoOpening(); }, kUpdateAll, kEdit},
         {kirto::kSaveChecked, [](Kirto& app, BMessage*) { app.TellOfCheckedSave(); }, kNothing},
         {kirto::kScaleLargerFrames,
          [](Kirto& app, BMessage*) { app.FitLargerFrames(kirto::Fit::kScale); }, kUpdateAll, kEdit,
-         "Fit Frames"},
+         CoreText::Later("Fit Frames")},
         {kirto::kCropLargerFrames,
          [](Kirto& app, BMessage*) { app.FitLargerFrames(kirto::Fit::kCrop); }, kUpdateAll, kEdit,
-         "Fit Frames"},
+         CoreText::Later("Fit Frames")},
         {kirto::kSaveFaithfully, [](Kirto& app, BMessage*) { app.SaveFaithfully(); }, kUpdateAll},
         {kirto::kCloseNotice, [](Kirto& app, BMessage*) { app.CloseNotice(); }, kNothing},
         {kirto::kPreview, [](Kirto& app, BMessage*) { app.Preview(); }, kUpdateAll},
-        {kirto::kFadeToNext, fade, kUpdateFrames, kEdit, "Fade"},
-        {kirto::kFadeFromPrevious, fade, kUpdateFrames, kEdit, "Fade"},
-        {kirto::kFadeFromColor, fade, kUpdateFrames, kEdit, "Fade"},
-        {kirto::kFadeToColor, fade, kUpdateFrames, kEdit, "Fade"},
+        {kirto::kFadeToNext, fade, kUpdateFrames, kEdit, CoreText::Later("Fade")},
+        {kirto::kFadeFromPrevious, fade, kUpdateFrames, kEdit, CoreText::Later("Fade")},
+        {kirto::kFadeFromColor, fade, kUpdateFrames, kEdit, CoreText::Later("Fade")},
+        {kirto::kFadeToColor, fade, kUpdateFrames, kEdit, CoreText::Later("Fade")},
         {kirto::kStoreSettings, [](Kirto& app, BMessage* message) { app.StoreSettings(*message); },
          kUpdateAll},
         {kirto::kTranslatorSettings,
@@ -154,13 +155,15 @@ namespace {
 // Told before the document takes its properties from the settings, which may fail in turn.
 Prefs& WarnOfTrouble(Prefs& settings) {
     if (settings.failed) {
-        kirto::Warn(
+        kirto::Warn(CoreText::Later(
             "Unable to open or create a settings file. Default values will be used instead, but "
-            "may not be saved.");
+            "may not be saved."));
     }
     if (!settings.damaged_copy.empty()) {
-        kirto::TellQuietly("The settings file was damaged. It has been put aside as \"" +
-                           settings.damaged_copy + "\", and default values will be used instead.");
+        kirto::TellQuietly(
+            CoreText::With(CoreText::tr("The settings file was damaged. It has been put aside as "
+                                        "\"%1\", and default values will be used instead."),
+                           {settings.damaged_copy}));
     }
     return settings;
 }
@@ -239,7 +242,8 @@ void Kirto::DispatchMessage(BMessage* message, BHandler* handler) {
         PostToWindow(kirto::kEditDone);
     }
     // After the refreshes, which write the status line too.
-    if (!last_word_.empty()) PostStatus("Status: " + std::exchange(last_word_, {}));
+    if (!last_word_.empty())
+        PostStatus(CoreText::With(CoreText::tr("Status: %1"), {std::exchange(last_word_, {})}));
 }
 
 void Kirto::EndWork() {
@@ -320,7 +324,8 @@ void Kirto::PasteFrames(const BMessage& message) {
 
 // To be called where the work was stopped before it was done.
 void Kirto::SayCanceled(int32 frames_before) {
-    last_word_ = kirto::Format("canceled, %d new frame(s) kept", FrameCount() - frames_before);
+    last_word_ = CoreText::With(CoreText::tr("canceled, %1 new frame(s) kept"),
+                                {std::to_string(FrameCount() - frames_before)});
 }
 
 void Kirto::Fade(BMessage* message) {

@@ -8,6 +8,7 @@
 #include "app/open_animation.h"
 #include "app/save_animation.h"
 #include "app/sequence_save.h"
+#include "base/core_text.h"
 #include "base/debug_line.h"
 #include "base/text.h"
 #include "document/command_codes.h"
@@ -53,10 +54,13 @@ void Kirto::RefsReceived(BMessage* message) {
     command.RemoveName("panel");
     command.AddBool("panel", false);
     if (animation && dropped) {
-        BAlert alert("",
-                     "Do you wish to insert this image into the current animation or open it as a "
-                     "new animation?",
-                     "Cancel", "Open", "Insert", B_INFO_ALERT);
+        BAlert alert(
+            "",
+            CoreText::Later(
+                "Do you wish to insert this image into the current animation or open it as a "
+                "new animation?"),
+            CoreText::Later("Cancel"), CoreText::Later("Open"), CoreText::Later("Insert"),
+            B_INFO_ALERT);
         const int32 answer = alert.Go();
         if (answer != kOpenButton && answer != kInsertButton) return;
         command.RemoveName("reset");
@@ -133,7 +137,8 @@ void Kirto::InsertAnimations(const BMessage& message) {
 void Kirto::Load(const entry_ref& ref, int32 position, bool reset, const kirto::VideoCut& cut) {
     const kirto::AnimationType type = kirto::ClassifyFile(ref.path, desktop_.MimeTypeOf(ref.path));
     if (type == kirto::AnimationType::kNone)
-        return kirto::Warn("The animation can't be opened because this file type is unsupported.");
+        return kirto::Warn(CoreText::Later(
+            "The animation can't be opened because this file type is unsupported."));
     // What a reset leaves is where the history starts. A load that is stopped is its first edit.
     if (reset) BeginStep();
     const auto before_load = Current();
@@ -170,7 +175,7 @@ void Kirto::Load(const entry_ref& ref, int32 position, bool reset, const kirto::
 void Kirto::KeepStopped(bool reset, int32 frames_before) {
     SayCanceled(frames_before);
     if (reset) {
-        EndStep("Open");
+        EndStep(CoreText::Later("Open"));
         MarkSaved();
     } else if (FrameCount() > frames_before) {
         SetModified(true);
@@ -187,7 +192,8 @@ bool Kirto::MayOpenDropped(const BMessage& message, const std::string& path) {
         return false;
     }
     if (!Modified() || FrameCount() == 0) return true;
-    BAlert alert("", "Do you want to save your changes?", "Cancel", "Discard", "Save");
+    BAlert alert("", CoreText::Later("Do you want to save your changes?"),
+                 CoreText::Later("Cancel"), CoreText::Later("Discard"), CoreText::Later("Save"));
     const int32 answer = alert.Go();
     waiting_drop_.reset();
     if (answer == kSaveFirstButton) {
@@ -231,7 +237,8 @@ bool Kirto::LoadAwaitedPalette(const std::string& path) {
     // Asking for a file and reading it are one edit.
     EndStepWithinLast();
     if (!loaded) {
-        kirto::Warn("The palette can't be loaded because the file was corrupted or unreadable.");
+        kirto::Warn(CoreText::Later(
+            "The palette can't be loaded because the file was corrupted or unreadable."));
     }
     return true;
 }
@@ -294,9 +301,11 @@ bool Kirto::MayOverwrite() {
     const auto stamp = kirto::FileStamp::Of(FilePath());
     if (!stamp || stamp == file_stamp_) return true;
     BAlert alert("",
-                 "Another program has changed the file \"" + state->file_name +
-                     "\" since it was opened or saved. Do you want to overwrite it?",
-                 "Overwrite", "Save As...", "Cancel");
+                 CoreText::With(CoreText::tr("Another program has changed the file \"%1\" since it "
+                                             "was opened or saved. Do you want to overwrite it?"),
+                                {state->file_name}),
+                 CoreText::Later("Overwrite"), CoreText::Later("Save As..."),
+                 CoreText::Later("Cancel"));
     const int32 answer = alert.Go();
     if (answer == kSaveAsButton) {
         PostToWindow(kirto::kMenuSaveAs);
@@ -320,16 +329,17 @@ bool Kirto::SaveGif() {
             return true;
         case kirto::SaveResult::kStopped:
             save_stopped_ = true;
-            last_word_ = "saving was canceled, the file is as it was before";
+            last_word_ = CoreText::tr("saving was canceled, the file is as it was before");
             return false;
         case kirto::SaveResult::kFrameTooLarge:
-            kirto::Warn(
+            kirto::Warn(CoreText::Later(
                 "The animation can't be saved because one of the frames has a larger size than the "
-                "animation.");
+                "animation."));
             break;
         case kirto::SaveResult::kSizeOutOfRange:
-            kirto::Warn("The animation can't be saved because " +
-                        kirto::SizeOutOfRange(*state->animation) + " is not between 0 and 65535.");
+            kirto::Warn(CoreText::With(
+                CoreText::tr("The animation can't be saved because %1 is not between 0 and 65535."),
+                {kirto::SizeOutOfRange(*state->animation)}));
             break;
         case kirto::SaveResult::kFileNotCreated:
         case kirto::SaveResult::kWriteFailed:
@@ -344,7 +354,8 @@ bool Kirto::SaveGif() {
 void Kirto::SayWhatDiffers(const kirto::Animation& animation, const std::string& loss) {
     const std::string cut = kirto::NumbersCutShort(animation, prefs.global_pauseinseconds);
     const std::string both = loss.empty() || cut.empty() ? "" : ", ";
-    if (!loss.empty() || !cut.empty()) last_word_ = "saved, but " + loss + both + cut;
+    if (!loss.empty() || !cut.empty())
+        last_word_ = CoreText::With(CoreText::tr("saved, but %1"), {loss + both + cut});
 }
 
 void Kirto::SetFile(const std::string& directory, const std::string& name,
@@ -375,8 +386,8 @@ bool Kirto::SaveSequence(uint32 translator) {
     const status_t status = save.Save();
     if (status == B_CANCELED) {
         save_stopped_ = true;
-        last_word_ =
-            kirto::Format("saving was canceled, %d of %d file(s) written", save.Written(), count);
+        last_word_ = CoreText::With(CoreText::tr("saving was canceled, %1 of %2 file(s) written"),
+                                    {std::to_string(save.Written()), std::to_string(count)});
     }
     return status == B_OK;
 }

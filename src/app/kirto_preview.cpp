@@ -5,6 +5,7 @@
 
 #include "app/kirto.h"
 #include "app/save_animation.h"
+#include "base/core_text.h"
 #include "base/directories.h"
 #include "kit/alert.h"
 
@@ -31,14 +32,15 @@ std::string PreviewPath(const std::string& directory) {
 
 void Kirto::Preview() {
     if (Current()->FrameLargerThanCanvas()) {
-        kirto::Warn(
+        kirto::Warn(CoreText::Later(
             "The animation can't be previewed because one of the frames has a larger size than the "
-            "animation.");
+            "animation."));
         return;
     }
     if (const std::string field = kirto::SizeOutOfRange(*Current()); !field.empty()) {
-        kirto::Warn("The animation can't be previewed because " + field +
-                    " is not between 0 and 65535.");
+        kirto::Warn(CoreText::With(
+            CoreText::tr("The animation can't be previewed because %1 is not between 0 and 65535."),
+            {field}));
         return;
     }
     UpdateGlobalPalette();
@@ -49,12 +51,12 @@ void Kirto::Preview() {
     const std::string path = PreviewPath(prefs.misc_tempfilelocation);
     const kirto::SaveResult result = kirto::SavePreviewGif(*this, path);
     if (result == kirto::SaveResult::kStopped) {
-        last_word_ = "the preview was canceled";
+        last_word_ = CoreText::tr("the preview was canceled");
         return;
     }
     if (result != kirto::SaveResult::kSaved) {
-        kirto::Warn(
-            "The animation can't be previewed because a temporary file could not be created.");
+        kirto::Warn(CoreText::Later(
+            "The animation can't be previewed because a temporary file could not be created."));
         return;
     }
     previews_[path] = kirto::FileStamp::Of(path);

@@ -1,6 +1,7 @@
 // Taking over documents that an editor has left that did not come to its end.
 #include "app/kirto.h"
 #include "app/recovery/crash_recovery.h"
+#include "base/core_text.h"
 #include "document/command_codes.h"
 #include "kit/alert.h"
 
@@ -9,12 +10,15 @@ namespace {
 const char* FailureText(status_t status) {
     switch (status) {
         case B_BAD_DATA:
-            return "The animation can't be recovered because its copy was damaged. The copy has "
-                   "been put aside.";
+            return CoreText::Later(
+                "The animation can't be recovered because its copy was damaged. The copy has "
+                "been put aside.");
         case B_NO_MEMORY:
-            return "The animation can't be recovered because it needs more memory than there is.";
+            return CoreText::Later(
+                "The animation can't be recovered because it needs more memory than there is.");
         default:
-            return "The animation can't be recovered because its copy can't be read.";
+            return CoreText::Later(
+                "The animation can't be recovered because its copy can't be read.");
     }
 }
 
@@ -33,9 +37,9 @@ void Kirto::Recover(BMessage* message) {
     std::string path;
     if (!recovery_ || message->FindString("path", &path) != B_OK) return;
     if (Modified() && FrameCount() > 0) {
-        kirto::Warn(
+        kirto::Warn(CoreText::Later(
             "The animation can't be recovered because the open one has unsaved changes. It will be "
-            "offered again when the editor is started next.");
+            "offered again when the editor is started next."));
         return;
     }
     kirto::RecoveryStore::Outcome outcome = recovery_->Read(path, pixel_budget);

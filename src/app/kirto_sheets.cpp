@@ -6,6 +6,7 @@
 #include "app/save_animation.h"
 #include "app/sequence_save.h"
 #include "app/sheet_save.h"
+#include "base/core_text.h"
 #include "base/number.h"
 #include "effects/insert_tiles.h"
 #include "kit/alert.h"
@@ -63,5 +64,5 @@ void Kirto::SaveSheet(BMessage* message) {
                                        : animation->several;
     kirto::SheetSave save(*this, roster_, {id, format, translator_settings[id]}, frames, layout);
     if (save.Save(kirto::PathIn(directory.path, name)) == B_CANCELED)
-        last_word_ = "saving was canceled";
+        last_word_ = CoreText::tr("saving was canceled");
 }

@@ -1,5 +1,6 @@
 #include "app/notices.h"
 
+#include "base/core_text.h"
 #include "base/text.h"
 #include "document/command_codes.h"
 
@@ -17,24 +18,30 @@ BMessage MakeNotice(const std::string& text, const std::vector<NoticeButton>& bu
 
 void Notices::ShowOpened(bool inserted) {
     Show(inserted ? Kind::kInserted : Kind::kOpened,
-         "Opened as browsers do. Animations are read and saved that way from now on.",
-         {{"Undo", kUndoOpening}, {"Close", kCloseNotice}});
+         CoreText::Later(
+             "Opened as browsers do. Animations are read and saved that way from now on."),
+         {{CoreText::Later("Undo"), kUndoOpening}, {CoreText::Later("Close"), kCloseNotice}});
 }
 
 void Notices::ShowLarger(int32 frames) {
-    Show(Kind::kLarger, Format("%d frame(s) are larger than the animation.", frames),
-         {{"Scale", kScaleLargerFrames}, {"Crop", kCropLargerFrames}, {"Close", kCloseNotice}});
+    Show(Kind::kLarger,
+         CoreText::With(CoreText::tr("%1 frame(s) are larger than the animation."),
+                        {std::to_string(frames)}),
+         {{CoreText::Later("Scale"), kScaleLargerFrames},
+          {CoreText::Later("Crop"), kCropLargerFrames},
+          {CoreText::Later("Close"), kCloseNotice}});
 }
 
 void Notices::ShowDifferences(const SaveDifferences& differences) {
     std::string text;
     for (const std::string& sentence : differences.Sentences())
-        text += (text.empty() ? "In browsers " : "; ") + sentence;
-    std::vector<NoticeButton> buttons = {{"Save Faithfully", kSaveFaithfully},
-                                         {"Close", kCloseNotice}};
+        text += (text.empty() ? "" : "; ") + sentence;
+    std::vector<NoticeButton> buttons = {{CoreText::Later("Save Faithfully"), kSaveFaithfully},
+                                         {CoreText::Later("Close"), kCloseNotice}};
     // Where the pictures are the same there is nothing to see.
-    if (!differences.pairs.empty()) buttons.insert(buttons.begin() + 1, {"Show", kShowDifferences});
-    Show(Kind::kSaved, text + ".", buttons);
+    if (!differences.pairs.empty())
+        buttons.insert(buttons.begin() + 1, {CoreText::Later("Show"), kShowDifferences});
+    Show(Kind::kSaved, CoreText::With(CoreText::tr("In browsers %1."), {text}), buttons);
 }
 
 void Notices::Show(Kind kind, const std::string& text, const std::vector<NoticeButton>& buttons) {

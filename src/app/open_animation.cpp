@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "base/core_text.h"
 #include "base/text.h"
 #include "color/sf_hash.h"
 #include "formats/fli/fli_load.h"
@@ -16,9 +17,9 @@ namespace {
 
 constexpr int32 kPauseBuckets = 100;
 constexpr int32 kAsBrowsersButton = 0;
-constexpr const char* kAsBrowsersLabel = "Open as Browsers Do";
-constexpr const char* kSalvageLabel = "Salvage";
-constexpr const char* kOkLabel = "OK";
+constexpr const char* kAsBrowsersLabel = CoreText::Later("Open as Browsers Do");
+constexpr const char* kSalvageLabel = CoreText::Later("Salvage");
+constexpr const char* kOkLabel = CoreText::Later("OK");
 
 bool ContainsAny(const std::string& text, std::initializer_list<const char*> parts) {
     for (const char* part : parts) {
@@ -168,13 +169,13 @@ AnimationType ClassifyFile(const std::string& path, const std::string& mime_type
 const char* TextOf(HarmlessCause cause) {
     switch (cause) {
         case HarmlessCause::kShortCodes:
-            return "an image has codes for fewer colors than its palette has";
+            return CoreText::Later("an image has codes for fewer colors than its palette has");
         case HarmlessCause::kImageBeyondScreen:
-            return "an image is larger than the screen";
+            return CoreText::Later("an image is larger than the screen");
         case HarmlessCause::kMissingTrailer:
-            return "the file ends without its trailer";
+            return CoreText::Later("the file ends without its trailer");
         case HarmlessCause::kUnknownRecord:
-            return "it has a record of an unknown type";
+            return CoreText::Later("it has a record of an unknown type");
         case HarmlessCause::kNone:
             break;
     }
@@ -233,7 +234,7 @@ bool OpenVideo(const std::string& path, const VideoCut& cut, int32 position,
     const auto video = ProbeVideo(*programs, path, job.limits, stopped);
     const auto frames = video ? FramesOf(*video, cut) : std::nullopt;
     if (video && !frames) {
-        Warn("The video can't be opened because the chosen part is not in it.");
+        Warn(CoreText::Later("The video can't be opened because the chosen part is not in it."));
         return false;
     }
     std::unique_ptr<VideoReader> reader;

@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "base/core_text.h"
 #include "document/animation_document.h"
 #include "formats/gif/harmless_cause.h"
 #include "formats/video/video_cut.h"
@@ -12,10 +13,10 @@
 namespace kirto {
 
 inline constexpr const char* kUnreadableAnimationText =
-    "The animation can't be opened because it was corrupted or unreadable.";
-inline constexpr const char* kNoVideoProgramsText =
+    CoreText::Later("The animation can't be opened because it was corrupted or unreadable.");
+inline constexpr const char* kNoVideoProgramsText = CoreText::Later(
     "The video can't be opened because the program ffmpeg was not found. Install the package "
-    "\"ffmpeg\".";
+    "\"ffmpeg\".");
 
 enum class AnimationType { kNone, kGif, kFli, kWebp, kApng, kVideo };
 

@@ -5,6 +5,7 @@
 #include <memory>
 #include <optional>
 
+#include "base/core_text.h"
 #include "document/command_codes.h"
 #include "effects/pictures/color_edit.h"
 #include "effects/pictures/color_maps.h"
@@ -66,10 +67,10 @@ EditPointer Trim(Request& request, bool to_changes) {
     const PlaneRect area =
         to_changes ? ChangedArea(*request.before, work) : VisibleArea(*request.before, work);
     if (request.document.StopRequested()) {
-        request.last_word = "canceled, nothing changed";
+        request.last_word = CoreText::tr("canceled, nothing changed");
     } else if (area.Empty()) {
-        request.last_word = to_changes ? "no frame shows anything else than another"
-                                       : "all frames are transparent everywhere";
+        request.last_word = to_changes ? CoreText::tr("no frame shows anything else than another")
+                                       : CoreText::tr("all frames are transparent everywhere");
     } else {
         return std::make_unique<CropEdit>(area);
     }
@@ -121,13 +122,15 @@ EditPointer Adjust(Request& request) {
     request.message.FindInt32("saturation", &adjustment.saturation);
     request.message.FindBool("greyscale", &adjustment.greyscale);
     if (!adjustment.IsSound()) return nullptr;
-    return std::make_unique<ColorEdit>(std::make_unique<AdjustmentMap>(adjustment), "adjusting");
+    return std::make_unique<ColorEdit>(std::make_unique<AdjustmentMap>(adjustment),
+                                       CoreText::Later("Status: adjusting frame %1 of %2..."));
 }
 
 EditPointer SetOpacity(Request& request) {
     const auto percent = request.Number("percent", 0, 100);
     if (!percent) return nullptr;
-    return std::make_unique<ColorEdit>(std::make_unique<OpacityMap>(*percent), "fading");
+    return std::make_unique<ColorEdit>(std::make_unique<OpacityMap>(*percent),
+                                       CoreText::Later("Status: fading frame %1 of %2..."));
 }
 
 EditPointer MakeTransparent(Request& request) {
@@ -138,7 +141,7 @@ EditPointer MakeTransparent(Request& request) {
     const rgb_color wanted = {static_cast<uint8>(color >> 24), static_cast<uint8>(color >> 16),
                               static_cast<uint8>(color >> 8), 255};
     return std::make_unique<ColorEdit>(std::make_unique<TransparencyMap>(wanted, *tolerance),
-                                       "changing");
+                                       CoreText::Later("Status: changing frame %1 of %2..."));
 }
 
 // The file's picture, or null: because the work was stopped, or after telling the user why.
@@ -148,12 +151,13 @@ std::shared_ptr<const Picture> ReadOverlay(Request& request, const entry_ref& re
     const status_t status =
         ReadPicture(ref.path, request.roster, document.pixel_budget, &document.work, &bitmap);
     if (status == B_CANCELED) {
-        request.last_word = "canceled, nothing changed";
+        request.last_word = CoreText::tr("canceled, nothing changed");
     } else if (status == B_NO_MEMORY) {
         WarnOutOfMemory();
     } else if (status != B_OK || !Is32Bit(bitmap->ColorSpace())) {
-        TellQuietly("This file can't be drawn because this file type is unsupported: " +
-                    ref.Leaf());
+        TellQuietly(CoreText::With(
+            CoreText::tr("This file can't be drawn because this file type is unsupported: %1"),
+            {ref.Leaf()}));
     } else {
         return Picture::Of(std::move(bitmap), document.pixel_budget);
     }
@@ -204,17 +208,17 @@ struct PictureRow {
 };
 
 constexpr PictureRow kPictureRows[] = {
-    {kResizeAnimation, "Resize Animation", true, Resize},
-    {kCropAnimation, "Crop", true, Crop},
-    {kSetCanvasSize, "Canvas Size", true, SetCanvas},
-    {kRotateAnimation, "Rotate", true, RotateCanvas},
-    {kFlipAnimation, "Flip", true, Flip},
-    {kFitFrames, "Fit Frames", false, FitToCanvas},
-    {kAdjustColors, "Adjust Colors", false, Adjust},
-    {kSetOpacity, "Opacity", false, SetOpacity},
-    {kOverlayImage, "Overlay Image", false, Overlay},
-    {kDrawText, "Text", false, DrawText},
-    {kMakeTransparent, "Make Transparent", false, MakeTransparent},
+    {kResizeAnimation, CoreText::Later("Resize Animation"), true, Resize},
+    {kCropAnimation, CoreText::Later("Crop"), true, Crop},
+    {kSetCanvasSize, CoreText::Later("Canvas Size"), true, SetCanvas},
+    {kRotateAnimation, CoreText::Later("Rotate"), true, RotateCanvas},
+    {kFlipAnimation, CoreText::Later("Flip"), true, Flip},
+    {kFitFrames, CoreText::Later("Fit Frames"), false, FitToCanvas},
+    {kAdjustColors, CoreText::Later("Adjust Colors"), false, Adjust},
+    {kSetOpacity, CoreText::Later("Opacity"), false, SetOpacity},
+    {kOverlayImage, CoreText::Later("Overlay Image"), false, Overlay},
+    {kDrawText, CoreText::Later("Text"), false, DrawText},
+    {kMakeTransparent, CoreText::Later("Make Transparent"), false, MakeTransparent},
 };
 
 const PictureRow* PictureRowOf(uint32 code) {
@@ -240,7 +244,7 @@ std::string ApplyPictureEdit(AnimationDocument& document, const BMessage& messag
     const FrameSet frames = row->of_all_frames ? FrameSet::AllOf(request.before->frames.Size())
                                                : request.before->Selection();
     const EditEnd end = EditPictures(document, *edit, frames);
-    return end == EditEnd::kStopped ? "canceled, nothing changed" : "";
+    return end == EditEnd::kStopped ? CoreText::tr("canceled, nothing changed") : "";
 }
 
 }  // namespace kirto

@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "animation/save_differences.h"
+#include "base/core_text.h"
 #include "base/text.h"
 #include "formats/faithful/faithful_gif_save.h"
 #include "formats/gif/gif_save.h"
@@ -19,9 +20,10 @@ std::string LossOf(const Nearness& near) {
     if (near.changed > 0) {
         constexpr double kParts = 3;
         const auto changed = static_cast<double>(near.changed);
-        text = Format("%.1f%% of the pixels got another color, by %.1f of 255 on average",
-                      100 * changed / static_cast<double>(near.pixels),
-                      static_cast<double>(near.distance) / kParts / changed);
+        text = CoreText::With(
+            CoreText::tr("%1% of the pixels got another color, by %2 of 255 on average"),
+            {Format("%.1f", 100 * changed / static_cast<double>(near.pixels)),
+             Format("%.1f", static_cast<double>(near.distance) / kParts / changed)});
     }
     if (near.short_pauses == 0) return text;
     return text + (text.empty() ? "" : ", ") + SlowFramesSentence(near.short_pauses);
@@ -50,11 +52,13 @@ bool Fits(int64 number) {
 }  // namespace
 
 std::string SizeOutOfRange(const Animation& animation) {
-    if (!Fits(animation.width)) return "Width";
-    if (!Fits(animation.height)) return "Height";
+    if (!Fits(animation.width)) return CoreText::tr("Width");
+    if (!Fits(animation.height)) return CoreText::tr("Height");
     for (const FramePointer& frame : animation.frames) {
-        if (!Fits(frame->x_offset)) return "XOffset of " + frame->name;
-        if (!Fits(frame->y_offset)) return "YOffset of " + frame->name;
+        if (!Fits(frame->x_offset))
+            return CoreText::With(CoreText::tr("XOffset of %1"), {frame->name});
+        if (!Fits(frame->y_offset))
+            return CoreText::With(CoreText::tr("YOffset of %1"), {frame->name});
     }
     return {};
 }
@@ -62,8 +66,9 @@ std::string SizeOutOfRange(const Animation& animation) {
 std::string NumbersCutShort(const Animation& animation, bool in_seconds) {
     std::string text;
     if (animation.use_loop && !Fits(animation.loop_count)) {
-        text = Format("loop count %d was saved as %d", animation.loop_count,
-                      animation.loop_count & kLargestNumber);
+        text = CoreText::With(CoreText::tr("loop count %1 was saved as %2"),
+                              {std::to_string(animation.loop_count),
+                               std::to_string(animation.loop_count & kLargestNumber)});
     }
     const auto pauses =
         std::count_if(animation.frames.begin(), animation.frames.end(), [&](const auto& frame) {
@@ -71,7 +76,8 @@ std::string NumbersCutShort(const Animation& animation, bool in_seconds) {
         });
     if (pauses == 0) return text;
     return text + (text.empty() ? "" : ", ") +
-           Format("%d pause(s) above 655.35 seconds were saved shorter", static_cast<int>(pauses));
+           CoreText::With(CoreText::tr("%1 pause(s) above 655.35 seconds were saved shorter"),
+                          {std::to_string(pauses)});
 }
 
 std::string PathIn(const std::string& directory, const std::string& name) {

@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "base/core_text.h"
 #include "document/animation_document.h"
 
 namespace kirto {
@@ -16,8 +17,8 @@ std::string PathIn(const std::string& directory, const std::string& name);
 std::string SequenceFileName(const std::string& file_name, int32 index);
 
 // The alert when a file can't be created.
-inline constexpr const char* kFileNotCreatedText =
-    "The animation can't be saved because the file could not be created at this location.";
+inline constexpr const char* kFileNotCreatedText = CoreText::Later(
+    "The animation can't be saved because the file could not be created at this location.");
 
 // The first size or offset that does not fit into a GIF, by the name of its field: "Width", or
 // "XOffset of frame0003". Empty when all are between 0 and 65535.

@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 
+#include "base/core_text.h"
 #include "document/animation_document.h"
 #include "kit/file.h"
 #include "kit/message.h"
@@ -13,7 +14,7 @@ namespace kirto {
 
 // The alert when there is no such translator, or it can't write a frame.
 inline constexpr const char* kInvalidTranslatorText =
-    "The animation can't be saved because the selected translator is not valid.";
+    CoreText::Later("The animation can't be saved because the selected translator is not valid.");
 
 // Saves a document as one image file per frame, several of which are encoded at a time. They are
 // created, written and told of in the order of the frames, so that none is there unless all before

@@ -10,6 +10,7 @@
 #include "animation/pauses.h"
 #include "app/save_animation.h"
 #include "app/sequence_save.h"
+#include "base/core_text.h"
 #include "effects/pictures/cut_plan.h"
 #include "effects/pictures/pixel_order.h"
 #include "kit/alert.h"
@@ -122,8 +123,9 @@ std::shared_ptr<BBitmap> SheetSave::Draw() const {
 
 status_t SheetSave::Save(const std::string& path) {
     if (frames_.empty() || std::max(width_, height_) > kMostPixelsOfASide) {
-        Warn(frames_.empty() ? "There is no frame to save."
-                             : "The sheet can't be saved because it would be too large.");
+        Warn(frames_.empty()
+                 ? CoreText::Later("There is no frame to save.")
+                 : CoreText::Later("The sheet can't be saved because it would be too large."));
         return B_BAD_VALUE;
     }
     const std::shared_ptr<BBitmap> picture = Draw();

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "app/open_animation.h"
+#include "base/core_text.h"
 #include "base/text.h"
 #include "formats/video/video_reader.h"
 
@@ -55,11 +56,14 @@ std::string ReadVideoToShow(const std::string& path, const VideoViewer& viewer) 
 }
 
 std::string DescribeFrames(const VideoFrames& frames) {
-    const std::string size = Format("%d × %d pixels", frames.width, frames.height);
-    if (frames.count == 0) return "Frames of " + size;
+    const std::string size =
+        CoreText::With(CoreText::tr("%1 × %2 pixels"),
+                       {std::to_string(frames.width), std::to_string(frames.height)});
+    if (frames.count == 0) return CoreText::With(CoreText::tr("Frames of %1"), {size});
     const uint64 megabytes = (frames.Bytes() + kBytesPerMegabyte - 1) / kBytesPerMegabyte;
-    return Format("%d frame%s of %s, at most %llu MB", frames.count, frames.count == 1 ? "" : "s",
-                  size.c_str(), static_cast<unsigned long long>(megabytes));
+    return CoreText::With(frames.count == 1 ? CoreText::tr("%1 frame of %2, at most %3 MB")
+                                            : CoreText::tr("%1 frames of %2, at most %3 MB"),
+                          {std::to_string(frames.count), size, std::to_string(megabytes)});
 }
 
 }  // namespace kirto

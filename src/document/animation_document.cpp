@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "animation/arrangement.h"
+#include "base/core_text.h"
 #include "base/text.h"
 #include "document/command_codes.h"
 #include "document/document_scope.h"
@@ -193,7 +194,8 @@ void AnimationDocument::Reset() {
         state.modified = false;
     });
     if (palette_read) return;
-    kirto::Warn("The palette can't be loaded because the file was corrupted or unreadable.");
+    kirto::Warn(CoreText::Later(
+        "The palette can't be loaded because the file was corrupted or unreadable."));
     PostToWindow(kirto::kUpdateAll);
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/core_text.h"
 #include "document/command_codes.h"
 
 namespace kirto {
@@ -11,26 +12,37 @@ namespace {
 using Bound = Field::Bound;
 
 constexpr Field kFields[] = {
-    {kSetWidth, "Width", "Change Width", &Animation::width, Bound::kFromZero},
-    {kSetHeight, "Height", "Change Height", &Animation::height, Bound::kFromZero},
-    {kUsePause, "Pause", "Change Pause", &Animation::use_pause, Bound::kNone},
-    {kSetPauseLength, "Pause length", "Change Pause Length", &Animation::pause_length,
+    {kSetWidth, CoreText::Later("Width"), CoreText::Later("Change Width"), &Animation::width,
      Bound::kFromZero},
-    {kUseLoop, "Loop", "Change Loop", &Animation::use_loop, Bound::kNone},
-    {kSetLoopCount, "Loop count", "Change Loop Count", &Animation::loop_count, Bound::kFromZero},
-    {kSetBackgroundIndex, "Background index", "Change Background Index", &Palette::background_index,
-     Bound::kPaletteIndex},
-    {kUseTransparent, "Transparent", "Change Transparency", &Palette::use_transparent,
+    {kSetHeight, CoreText::Later("Height"), CoreText::Later("Change Height"), &Animation::height,
+     Bound::kFromZero},
+    {kUsePause, CoreText::Later("Pause"), CoreText::Later("Change Pause"), &Animation::use_pause,
      Bound::kNone},
-    {kSetTransparentIndex, "Transparent index", "Change Transparent Index",
-     &Palette::transparent_index, Bound::kPaletteIndex},
-    {kSetDither, "Dither", "Change Dither", &Palette::dither, Bound::kNone},
-    {kFrameSetXOffset, "XOffset", "Change X Offset", &Frame::x_offset, Bound::kFromZero},
-    {kFrameSetYOffset, "YOffset", "Change Y Offset", &Frame::y_offset, Bound::kFromZero},
-    {kFrameUsePause, "Pause", "Change Frame Pause", &Frame::use_pause, Bound::kNone},
-    {kFrameSetPauseLength, "Pause length", "Change Frame Pause Length", &Frame::pause_length,
-     Bound::kFromZero},
-    {kFrameUsePalette, "Palette", "Change Local Palette", &Frame::local_palette, Bound::kNone},
+    {kSetPauseLength, CoreText::Later("Pause length"), CoreText::Later("Change Pause Length"),
+     &Animation::pause_length, Bound::kFromZero},
+    {kUseLoop, CoreText::Later("Loop"), CoreText::Later("Change Loop"), &Animation::use_loop,
+     Bound::kNone},
+    {kSetLoopCount, CoreText::Later("Loop count"), CoreText::Later("Change Loop Count"),
+     &Animation::loop_count, Bound::kFromZero},
+    {kSetBackgroundIndex, CoreText::Later("Background index"),
+     CoreText::Later("Change Background Index"), &Palette::background_index, Bound::kPaletteIndex},
+    {kUseTransparent, CoreText::Later("Transparent"), CoreText::Later("Change Transparency"),
+     &Palette::use_transparent, Bound::kNone},
+    {kSetTransparentIndex, CoreText::Later("Transparent index"),
+     CoreText::Later("Change Transparent Index"), &Palette::transparent_index,
+     Bound::kPaletteIndex},
+    {kSetDither, CoreText::Later("Dither"), CoreText::Later("Change Dither"), &Palette::dither,
+     Bound::kNone},
+    {kFrameSetXOffset, CoreText::Later("XOffset"), CoreText::Later("Change X Offset"),
+     &Frame::x_offset, Bound::kFromZero},
+    {kFrameSetYOffset, CoreText::Later("YOffset"), CoreText::Later("Change Y Offset"),
+     &Frame::y_offset, Bound::kFromZero},
+    {kFrameUsePause, CoreText::Later("Pause"), CoreText::Later("Change Frame Pause"),
+     &Frame::use_pause, Bound::kNone},
+    {kFrameSetPauseLength, CoreText::Later("Pause length"),
+     CoreText::Later("Change Frame Pause Length"), &Frame::pause_length, Bound::kFromZero},
+    {kFrameUsePalette, CoreText::Later("Palette"), CoreText::Later("Change Local Palette"),
+     &Frame::local_palette, Bound::kNone},
 };
 
 bool Find(const BMessage& command, int32* value) {

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "base/core_text.h"
 #include "base/text.h"
 #include "effects/make_pictures.h"
 #include "kit/alert.h"
@@ -58,7 +59,8 @@ SheetEnd TileRun::InsertAt(int32 position) {
 
 bool TileRun::Begin(int32 i) {
     if (document_.StopRequested()) return false;
-    document_.PostStatus(Format("Status: loading tile %d of %d...", i + 1, cut_.count));
+    document_.PostStatus(CoreText::With(CoreText::tr("Status: loading tile %1 of %2..."),
+                                        {std::to_string(i + 1), std::to_string(cut_.count)}));
     document_.work.Report(i, cut_.count);
     palette_ = SharePalette();
     out_of_memory_ = !palette_ && !document_.StopRequested();
@@ -103,11 +105,14 @@ std::shared_ptr<BBitmap> ReadSheet(AnimationDocument& document, const entry_ref&
         return nullptr;
     }
     if (status != B_OK) {
-        Warn("This file can't be inserted because this file type is unsupported: " + ref.Leaf());
+        Warn(CoreText::With(
+            CoreText::tr("This file can't be inserted because this file type is unsupported: %1"),
+            {ref.Leaf()}));
         return nullptr;
     }
     if (!Is32Bit(picture->ColorSpace())) {
-        Warn("This file can't be inserted because the color space is unsupported.");
+        Warn(
+            CoreText::Later("This file can't be inserted because the color space is unsupported."));
         return nullptr;
     }
     return picture;

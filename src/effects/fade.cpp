@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "base/core_text.h"
 #include "base/text.h"
 #include "effects/fade_kernels.h"
 #include "effects/make_pictures.h"
@@ -126,7 +127,8 @@ bool FadeRun::Begin(int32 i) {
     palette_ = SharePalette();
     out_of_memory_ = !palette_;
     if (out_of_memory_) return false;
-    document_.PostStatus(Format("Status: generating frame %d of %d...", i + 1, count_));
+    document_.PostStatus(CoreText::With(CoreText::tr("Status: generating frame %1 of %2..."),
+                                        {std::to_string(i + 1), std::to_string(count_)}));
     document_.work.Report(i, count_);
     return true;
 }

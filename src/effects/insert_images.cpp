@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "animation/frame.h"
+#include "base/core_text.h"
 #include "base/text.h"
 #include "kit/alert.h"
 
@@ -36,11 +37,14 @@ class UnsupportedFiles {
     void TellTheRest() const {
         if (names_.empty()) return;
         if (names_.size() == 1) return Tell(names_.front());
-        std::string text = "These files can't be inserted because their types are unsupported:";
+        std::string text =
+            CoreText::tr("These files can't be inserted because their types are unsupported:");
         const size_t listed = std::min(names_.size(), kListed);
         for (size_t i = 0; i < listed; ++i)
             text += "\n" + names_[i];
-        if (names_.size() > listed) text += Format("\nand %zu more", names_.size() - listed);
+        if (names_.size() > listed)
+            text += "\n" + CoreText::With(CoreText::tr("and %1 more"),
+                                          {std::to_string(names_.size() - listed)});
         Warn(text);
     }
 
@@ -49,7 +53,9 @@ class UnsupportedFiles {
     static constexpr size_t kListed = 20;  // what still fits a screen
 
     static void Tell(const std::string& name) {
-        Warn("This file can't be inserted because this file type is unsupported: " + name);
+        Warn(CoreText::With(
+            CoreText::tr("This file can't be inserted because this file type is unsupported: %1"),
+            {name}));
     }
 
     int told_ = 0;
@@ -96,7 +102,8 @@ class ImageRun {
 status_t ImageRun::Run() {
     for (int32 i = 0; i < count_; ++i) {
         if (document_.StopRequested()) return B_CANCELED;
-        document_.PostStatus(Format("Status: loading frame %d of %d...", i + 1, count_));
+        document_.PostStatus(CoreText::With(CoreText::tr("Status: loading frame %1 of %2..."),
+                                            {std::to_string(i + 1), std::to_string(count_)}));
         document_.work.Report(i, count_);
         entry_ref ref;
         if (message_.FindRef("refs", &ref, i) != B_OK) break;

@@ -3,6 +3,7 @@
 #include <optional>
 #include <vector>
 
+#include "base/core_text.h"
 #include "base/text.h"
 #include "effects/cut_sheet.h"
 #include "kit/alert.h"
@@ -11,8 +12,8 @@ namespace kirto {
 
 namespace {
 
-constexpr const char* kIllegalGrid =
-    "This frame can't be inserted because the number of rows or columns is illegal.";
+constexpr const char* kIllegalGrid = CoreText::Later(
+    "This frame can't be inserted because the number of rows or columns is illegal.");
 
 // The numbers of the tiles that become frames; nothing when the work was stopped.
 std::optional<std::vector<int32>> TilesWithPixels(const BBitmap& picture, const TileLayout& layout,

@@ -4,6 +4,8 @@
 #include <new>
 #include <utility>
 
+#include "base/core_text.h"
+
 namespace kirto {
 
 namespace {
@@ -17,11 +19,11 @@ AlertPresenter* InstallAlertPresenter(AlertPresenter* presenter) {
 }
 
 void AlertPresenter::Tell(const std::string& text) {
-    Present(BAlert("", text, "OK"));
+    Present(BAlert("", text, CoreText::Later("OK")));
 }
 
 void Warn(const std::string& text) {
-    BAlert("", text, "OK").Go();
+    BAlert("", text, CoreText::Later("OK")).Go();
 }
 
 void TellQuietly(const std::string& text) {

@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "base/core_text.h"
 #include "base/types.h"
 
 enum alert_type : int32 {
@@ -71,7 +72,7 @@ void Warn(const std::string& text);
 // Says the same without waiting for anybody to read it, where the presenter can.
 void TellQuietly(const std::string& text);
 
-inline constexpr const char* kOutOfMemory = "Out of memory.";
+inline constexpr const char* kOutOfMemory = CoreText::Later("Out of memory.");
 
 // Warn(kOutOfMemory). Where memory is too short even for that, nothing happens.
 void WarnOutOfMemory() noexcept;

@@ -1,4 +1,4 @@
-// Holds the README against what the programs say about themselves.
+// Holds the documents against what the programs say about themselves.
 #include <cstdio>
 #include <gtest/gtest.h>
 #include <memory>
@@ -38,10 +38,10 @@ std::set<std::string> OptionsOf(const std::string& program) {
     return OptionsIn(OutputOf("'" + program + "' --help"));
 }
 
-TEST(ProgramOptions, TheReadmeNamesExactlyThoseOfKirtoCli) {
+TEST(ProgramOptions, TheirPageNamesExactlyThoseOfKirtoCli) {
     const std::set<std::string> options = OptionsOf(KIRTO_CLI);
     EXPECT_EQ(options.count("--save"), 1u);
-    EXPECT_EQ(OptionsIn(Section(ReadText(ProjectRoot() / "README.md"), "kirto-cli")), options);
+    EXPECT_EQ(OptionsIn(ReadText(ProjectRoot() / "docs/options.md")), options);
 }
 
 TEST(ProgramOptions, TheReadmeNamesExactlyThoseOfTheEditor) {

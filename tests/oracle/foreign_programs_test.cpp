@@ -9,8 +9,10 @@
 
 #include "base/text.h"
 #include "formats/faithful/faithful_gif_save.h"
+#include "formats/fli/fli_load.h"
 #include "oracle/giflib_reader.h"
 #include "support/meant_picture.h"
+#include "support/random_fli.h"
 #include "support/shown_animation.h"
 
 namespace kirto::test {
@@ -115,12 +117,15 @@ TEST(Gifsicle, UnfoldsEveryFileToTheCanvasesThatWereMeant) {
 #endif
 }
 
-// What ffmpeg shows of each file, frame by frame, as 0xAARRGGBB.
-std::vector<Pixels> DecodedByFfmpeg(const std::vector<std::string>& paths) {
-    // All pauses are read as equally short: it takes a low bit rate for a mistake.
-    std::string command = "ffmpeg -nostdin -y -v warning";
-    for (const std::string& path : paths)
-        command += " -max_gif_delay 2 -default_delay 2 -i " + path;
+// What ffmpeg shows of each file, frame by frame, as 0xAARRGGBB. level: of what it must not say.
+std::vector<Pixels> DecodedByFfmpeg(const std::vector<std::string>& paths,
+                                    const std::string& level = "warning") {
+    std::string command = "ffmpeg -nostdin -y -v " + level;
+    for (const std::string& path : paths) {
+        // All pauses are read as equally short: it takes a low bit rate for a mistake.
+        if (path.ends_with(".gif")) command += " -max_gif_delay 2 -default_delay 2";
+        command += " -i " + path;
+    }
     for (size_t i = 0; i < paths.size(); ++i) {
         command += Format(" -map %zu -fps_mode passthrough -f rawvideo -pix_fmt bgra ", i) +
                    paths[i] + ".raw";
@@ -187,6 +192,56 @@ TEST(Ffmpeg, ShowsWhatIsSavedFaithfully) {
     const std::vector<Pixels> decoded = DecodedByFfmpeg(paths);
     for (size_t i = 0; i < paths.size(); ++i)
         EXPECT_TRUE(decoded[i] == meant[i]) << paths[i];
+}
+
+// Frames of so many pixels, each but once where it is shown several times in a row.
+std::vector<Pixels> WithoutRepeats(const Pixels& frames, size_t pixels) {
+    std::vector<Pixels> different;
+    for (size_t at = 0; at + pixels <= frames.size(); at += pixels) {
+        const auto first = frames.begin() + static_cast<std::ptrdiff_t>(at);
+        Pixels frame(first, first + static_cast<std::ptrdiff_t>(pixels));
+        if (different.empty() || different.back() != frame) different.push_back(std::move(frame));
+    }
+    return different;
+}
+
+// The different frames of a file as players show them.
+std::vector<Pixels> ShownOfFli(const std::vector<uint8>& bytes) {
+    DocumentFixture read;
+    read.prefs.animation_faithful = true;
+    const auto file = BFile::OnMemory(bytes);
+    const FliLoad loader(file.get(), 0, read.document);
+    std::vector<Pixels> shown;
+    for (const ShownFrame& frame : ShownFrames(*read.document.Current()))
+        if (shown.empty() || shown.back() != frame.pixels) shown.push_back(frame.pixels);
+    return shown;
+}
+
+// ffmpeg refuses whole pictures of other widths, as it counts bytes that it takes for padding.
+bool FfmpegReads(const std::vector<uint8>& fli) {
+    constexpr size_t kWidthAt = 8;
+    return fli[kWidthAt] % 4 == 0;
+}
+
+TEST(Ffmpeg, PlaysFliAndFlcFilesAsWeReadThem) {
+    if (!IsInstalled("ffmpeg")) GTEST_SKIP() << "ffmpeg is not installed";
+    const TemporaryFolder folder;
+    std::vector<std::string> paths;
+    std::vector<std::vector<uint8>> files;
+    for (uint32 seed = 0; paths.size() < 100; ++seed) {
+        const std::vector<uint8> bytes = RandomFli(seed);
+        if (!FfmpegReads(bytes)) continue;
+        paths.push_back(folder.File(std::to_string(seed) + ".flc"));
+        WriteBytes(paths.back(), bytes);
+        files.push_back(bytes);
+    }
+    // It takes chunks that it does not know for errors.
+    const std::vector<Pixels> decoded = DecodedByFfmpeg(paths, "fatal");
+    for (size_t i = 0; i < paths.size(); ++i) {
+        const std::vector<Pixels> shown = ShownOfFli(files[i]);
+        ASSERT_FALSE(shown.empty()) << paths[i];
+        EXPECT_TRUE(WithoutRepeats(decoded[i], shown[0].size()) == shown) << paths[i];
+    }
 }
 
 }  // namespace

@@ -10,6 +10,7 @@
 #include "driving/driven_editor.h"
 #include "picture_folder.h"
 #include "state_pictures.h"
+#include "tour.h"
 #include "ui/shell/editor_style.h"
 
 namespace {
@@ -23,6 +24,7 @@ struct Wishes {
     bool states = false;
     std::string compare;
     std::string approve;
+    std::string tour;
 };
 
 QPalette DarkColors() {
@@ -54,6 +56,8 @@ int Parse(int argc, char** argv, Wishes* wishes) {
     app.add_flag("--states", wishes->states, "Before, draw the main window's states");
     app.add_option("--compare", wishes->compare, "Tell what differs from these fingerprints");
     app.add_option("--approve", wishes->approve, "Write the fingerprints");
+    app.add_option("--tour", wishes->tour,
+                   "Write a walk through the editor to this GIF file alone");
     app.add_option("folder", wishes->folder, "Where the pictures go")->required();
     app.add_option("animation", wishes->animation, "What the windows show")->required();
     try {
@@ -89,6 +93,8 @@ int main(int argc, char** argv) {
     Dress(wishes);
     kirto::PictureFolder folder(wishes.folder);
     kirto::DrivenEditor editor;
+    if (!wishes.tour.empty())
+        return kirto::Tour(editor).Make(wishes.animation, wishes.tour) ? 0 : 1;
     if (wishes.states) kirto::StatePictures(editor, folder).DrawAll(wishes.animation);
     kirto::DocumentPictures(editor, folder).DrawAll(wishes.animation);
     if (!wishes.approve.empty() && !folder.WriteFingerprints(wishes.approve)) {

@@ -1,12 +1,14 @@
 #include "app/export/export_result.h"
 
+#include "base/core_text.h"
+
 namespace kirto {
 
 namespace {
 
-constexpr const char* kNoVideoWriterText =
+constexpr const char* kNoVideoWriterText = CoreText::Later(
     "The video can't be written because the program ffmpeg was not found. Install the package "
-    "\"ffmpeg\".";
+    "\"ffmpeg\".");
 
 }  // namespace
 
@@ -15,21 +17,23 @@ std::string SentenceOf(ExportResult result, ExportFormat format) {
         case ExportResult::kDone:
             return {};
         case ExportResult::kNoFrames:
-            return "There is no frame to export.";
+            return CoreText::tr("There is no frame to export.");
         case ExportResult::kTooLarge:
-            return std::string("The animation is too large for a ") + NameOf(format) + " file.";
+            return CoreText::With(CoreText::tr("The animation is too large for a %1 file."),
+                                  {NameOf(format)});
         case ExportResult::kNoWriter:
             if (format == ExportFormat::kMp4 || format == ExportFormat::kWebm)
-                return kNoVideoWriterText;
-            return std::string("There is nothing here that writes ") + NameOf(format) + " files.";
+                return CoreText::tr(kNoVideoWriterText);
+            return CoreText::With(CoreText::tr("There is nothing here that writes %1 files."),
+                                  {NameOf(format)});
         case ExportResult::kNoMemory:
-            return "Out of memory.";
+            return CoreText::tr("Out of memory.");
         case ExportResult::kFailed:
-            return "The program that writes videos has failed.";
+            return CoreText::tr("The program that writes videos has failed.");
         case ExportResult::kTooManyBytes:
-            return "The animation can't be made so small.";
+            return CoreText::tr("The animation can't be made so small.");
         case ExportResult::kStopped:
-            return "Stopped.";
+            return CoreText::tr("Stopped.");
     }
     return {};
 }

@@ -2,6 +2,7 @@
 
 #include <ctime>
 
+#include "base/core_text.h"
 #include "base/text.h"
 #include "kit/alert.h"
 
@@ -23,11 +24,13 @@ std::string TimeText(int64 seconds) {
 }
 
 int32 Ask(const RecoveryHead& head) {
-    BAlert alert("",
-                 "The editor ended unexpectedly. \"" + head.file_name + "\" (" +
-                     std::to_string(head.frame_count) + " frame(s), " + TimeText(head.written) +
-                     ") can be recovered.",
-                 "Discard", "Later", "Recover");
+    BAlert alert(
+        "",
+        CoreText::With(
+            CoreText::tr(
+                "The editor ended unexpectedly. \"%1\" (%2 frame(s), %3) can be recovered."),
+            {head.file_name, std::to_string(head.frame_count), TimeText(head.written)}),
+        CoreText::Later("Discard"), CoreText::Later("Later"), CoreText::Later("Recover"));
     return alert.Go();
 }
 

@@ -11,20 +11,20 @@ namespace kirto {
 // Maps the colors of frames.
 class ColorEdit : public PictureEdit {
   public:
-    // verb: a literal, as in PictureEdit::Verb.
-    ColorEdit(std::unique_ptr<const ColorMap> map, const char* verb)
-        : map_(std::move(map)), verb_(verb) {}
+    // status: a literal, as in PictureEdit::Status.
+    ColorEdit(std::unique_ptr<const ColorMap> map, const char* status)
+        : map_(std::move(map)), status_(status) {}
 
     PicturePlan PlanOf(const Animation& animation, int32 position) const override;
     std::shared_ptr<const Picture> Make(const Picture& picture, const PictureVariant& variant,
                                         const std::shared_ptr<PixelBudget>& budget,
                                         const Work& work) const override;
     bool MakesColors() const override { return true; }
-    const char* Verb() const override { return verb_; }
+    const char* Status() const override { return status_; }
 
   private:
     const std::unique_ptr<const ColorMap> map_;
-    const char* const verb_;
+    const char* const status_;
 };
 
 }  // namespace kirto

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/core_text.h"
 #include "effects/pictures/cut_picture.h"
 #include "effects/pictures/picture_edit.h"
 
@@ -24,7 +25,9 @@ class CropEdit : public PictureEdit {
                                         const std::shared_ptr<PixelBudget>& budget,
                                         const Work& work) const override;
     void SetCanvas(Animation& animation) const override;
-    const char* Verb() const override { return "cropping"; }
+    const char* Status() const override {
+        return CoreText::Later("Status: cropping frame %1 of %2...");
+    }
 
   private:
     const PlaneRect part_;

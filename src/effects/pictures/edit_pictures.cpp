@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "base/core_text.h"
 #include "base/run_in_order.h"
 #include "base/text.h"
 #include "effects/pictures/share_strips.h"
@@ -97,7 +98,8 @@ bool PictureRun::MakePictures() {
     steps.next = [&] { return next < count ? std::optional(next++) : std::nullopt; };
     steps.begin = [&](int32 i) {
         if (document_.StopRequested()) return false;
-        document_.PostStatus(Format("Status: %s frame %d of %d...", edit_.Verb(), i + 1, count));
+        document_.PostStatus(CoreText::With(CoreText::tr(edit_.Status()),
+                                            {std::to_string(i + 1), std::to_string(count)}));
         document_.work.Report(i, count);
         return true;
     };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/core_text.h"
 #include "effects/pictures/picture_edit.h"
 #include "effects/pictures/scale_picture.h"
 
@@ -25,7 +26,9 @@ class FitEdit : public PictureEdit {
     bool MakesColors() const override {
         return fit_ == Fit::kScale && filter_ != ScaleFilter::kNearest;
     }
-    const char* Verb() const override { return "fitting"; }
+    const char* Status() const override {
+        return CoreText::Later("Status: fitting frame %1 of %2...");
+    }
 
   private:
     const Fit fit_;

@@ -3,6 +3,7 @@
 #include <memory>
 #include <vector>
 
+#include "base/core_text.h"
 #include "effects/pictures/cut_picture.h"
 #include "effects/pictures/picture_edit.h"
 
@@ -29,7 +30,9 @@ class OverlayEdit : public PictureEdit {
                                         const std::shared_ptr<PixelBudget>& budget,
                                         const Work& work) const override;
     bool MakesColors() const override { return true; }
-    const char* Verb() const override { return "drawing on"; }
+    const char* Status() const override {
+        return CoreText::Later("Status: drawing on frame %1 of %2...");
+    }
 
   private:
     // 0 to 255.

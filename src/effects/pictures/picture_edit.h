@@ -40,8 +40,8 @@ class PictureEdit {
     virtual void SetCanvas(Animation&) const {}
     // Whether pictures get colors that they did not have: optimal palettes are made anew then.
     virtual bool MakesColors() const { return false; }
-    // As in "Status: resizing frame 1 of 5...".
-    virtual const char* Verb() const = 0;
+    // "Status: resizing frame %1 of %2...", for CoreText.
+    virtual const char* Status() const = 0;
 };
 
 }  // namespace kirto

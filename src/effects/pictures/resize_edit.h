@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/core_text.h"
 #include "effects/pictures/picture_edit.h"
 #include "effects/pictures/scale_picture.h"
 
@@ -24,7 +25,9 @@ class ResizeEdit : public PictureEdit {
                                         const Work& work) const override;
     void SetCanvas(Animation& animation) const override;
     bool MakesColors() const override { return filter_ != ScaleFilter::kNearest; }
-    const char* Verb() const override { return "resizing"; }
+    const char* Status() const override {
+        return CoreText::Later("Status: resizing frame %1 of %2...");
+    }
 
   private:
     // One of the axes of the canvas.

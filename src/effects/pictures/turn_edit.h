@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/core_text.h"
 #include "effects/pictures/picture_edit.h"
 #include "effects/pictures/turn_picture.h"
 
@@ -16,7 +17,9 @@ class TurnEdit : public PictureEdit {
                                         const std::shared_ptr<PixelBudget>& budget,
                                         const Work& work) const override;
     void SetCanvas(Animation& animation) const override;
-    const char* Verb() const override { return "turning"; }
+    const char* Status() const override {
+        return CoreText::Later("Status: turning frame %1 of %2...");
+    }
 
   private:
     const Turn turn_;

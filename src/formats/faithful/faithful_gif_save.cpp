@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "base/byte_order.h"
+#include "base/core_text.h"
 #include "base/run_in_order.h"
 #include "base/text.h"
 #include "color/adaptive/adaptive_palette.h"
@@ -229,7 +230,8 @@ void FaithfulGifSave::WriteImages() {
     steps.next = [&] { return next < count ? std::optional(next++) : std::nullopt; };
     steps.begin = [&](int32 plan) {
         if (task_.status)
-            task_.status(Format("Status: writing frame %d of %d...", plan + 1, count));
+            task_.status(CoreText::With(CoreText::tr("Status: writing frame %1 of %2..."),
+                                        {std::to_string(plan + 1), std::to_string(count)}));
         progress_.Tell();
         return !Stopped();
     };

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "base/core_text.h"
 #include "base/debug_line.h"
 #include "base/run_in_order.h"
 #include "base/text.h"
@@ -53,8 +54,8 @@ void FliLoad::ReadFrames(int32 count) {
 }
 
 bool FliLoad::BeginPiece(const kirto::FliPiece& piece, int32 count) {
-    document_.PostStatus(
-        kirto::Format("Status: loading frame %d of %d...", piece.index + 1, count));
+    document_.PostStatus(CoreText::With(CoreText::tr("Status: loading frame %1 of %2..."),
+                                        {std::to_string(piece.index + 1), std::to_string(count)}));
     if (document_.StopRequested()) return false;
     if (!piece.lines.empty()) kirto::DebugLine("%s", piece.lines.c_str());
     return true;

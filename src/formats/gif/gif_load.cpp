@@ -1,5 +1,6 @@
 #include "formats/gif/gif_load.h"
 
+#include "base/core_text.h"
 #include "base/debug_line.h"
 #include "base/run_in_order.h"
 #include "base/text.h"
@@ -95,7 +96,8 @@ void GifLoad::BeginPiece(const kirto::GifPiece& piece) {
         if (block.loop_count) TakeLoop(*block.loop_count);
     }
     if (piece.end == End::kImage || piece.end == End::kBrokenImage)
-        document_.PostStatus(kirto::Format("Status: loading frame %d...", next_position_ + 1));
+        document_.PostStatus(CoreText::With(CoreText::tr("Status: loading frame %1..."),
+                                            {std::to_string(next_position_ + 1)}));
 }
 
 bool GifLoad::TakePiece(const kirto::GifPiece& piece, kirto::GifIndices* ahead) {

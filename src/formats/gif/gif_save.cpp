@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "base/byte_order.h"
+#include "base/core_text.h"
 #include "base/run_in_order.h"
 #include "base/text.h"
 #include "formats/gif/gif_extensions.h"
@@ -60,7 +61,8 @@ void GifSave::WriteFrames(AnimationDocument& document) {
     kirto::OrderedSteps<kirto::FramePointer, kirto::ByteWriter> steps;
     steps.next = [&] { return frame != frames.end() ? std::optional(*frame++) : std::nullopt; };
     steps.begin = [&](const kirto::FramePointer&) {
-        document.PostStatus(kirto::Format("Status: writing frame %d of %d...", ++number, count));
+        document.PostStatus(CoreText::With(CoreText::tr("Status: writing frame %1 of %2..."),
+                                           {std::to_string(++number), std::to_string(count)}));
         progress.Tell();
         return !document.StopRequested();
     };

@@ -4,6 +4,7 @@
 #include <cstring>
 #include <utility>
 
+#include "base/core_text.h"
 #include "base/run_in_order.h"
 #include "base/text.h"
 #include "kit/watched_input.h"
@@ -86,7 +87,8 @@ void AnimatedImageLoad::ReadFrames() {
     steps.next = [this] { return Draw(); };
     steps.begin = [this](const Piece&) {
         document_.PostStatus(
-            Format("Status: loading frame %d of %d...", position_ + 1, header_.frame_count));
+            CoreText::With(CoreText::tr("Status: loading frame %1 of %2..."),
+                           {std::to_string(position_ + 1), std::to_string(header_.frame_count)}));
         return true;
     };
     steps.work = [this](const Piece& piece, int32) {

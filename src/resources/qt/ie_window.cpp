@@ -9,6 +9,7 @@
 #include <cmath>
 
 #include "base/text.h"
+#include "kit/qt/ui_text.h"
 #include "resources/ie_variable_handler.h"
 #include "resources/qt/view_factory.h"
 #include "resources/rescale_archive.h"
@@ -116,7 +117,7 @@ IEWindow::~IEWindow() {
 void IEWindow::TakeShape(const BMessage& archive) {
     std::string title;
     archive.FindString(kirto::kArchiveTitle, &title);
-    setWindowTitle(QString::fromStdString(title));
+    setWindowTitle(UiText::tr(title.c_str()));
     setModal(IsModal());
     kirto::ViewFactory(Messenger()).MakeChildren(archive, *this);
     layout()->setContentsMargins(0, 0, 0, 0);

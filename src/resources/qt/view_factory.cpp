@@ -7,6 +7,7 @@
 #include <QStackedWidget>
 #include <QTabWidget>
 
+#include "kit/qt/ui_text.h"
 #include "resources/qt/bottom_view.h"
 #include "resources/qt/text_control.h"
 #include "resources/window_archive.h"
@@ -14,6 +15,13 @@
 namespace kirto {
 
 namespace {
+
+// In the user's language; see layout_texts.h.
+QString LabelOf(const BMessage& archive) {
+    std::string label;
+    archive.FindString(kArchiveLabel, &label);
+    return UiText::tr(label.c_str());
+}
 
 QString TextOf(const BMessage& archive, const char* field) {
     std::string text;
@@ -65,7 +73,7 @@ PlacedView ViewFactory::MakeView(const BMessage& archive, QWidget& parent) {
         if (class_name == known.name) make = known.make;
     }
     QLabel* label = nullptr;
-    const QString text = TextOf(archive, kArchiveLabel);
+    const QString text = LabelOf(archive);
     if (make == &ViewFactory::MakeTextControl && !text.isEmpty()) {
         label = new QLabel(text, &parent);
         label->setTextFormat(Qt::PlainText);
@@ -84,7 +92,7 @@ QWidget* ViewFactory::MakePlainView(const BMessage& archive, QWidget& parent) {
 }
 
 QWidget* ViewFactory::MakeBox(const BMessage& archive, QWidget& parent) {
-    auto* box = new QGroupBox(WithoutShortcut(TextOf(archive, kArchiveLabel)), &parent);
+    auto* box = new QGroupBox(WithoutShortcut(LabelOf(archive)), &parent);
     MakeChildren(archive, *box);
     return box;
 }
@@ -93,14 +101,16 @@ QWidget* ViewFactory::MakeTabView(const BMessage& archive, QWidget& parent) {
     auto* tabs = new QTabWidget(&parent);
     // The window is as wide as its tabs.
     tabs->setUsesScrollButtons(false);
-    tabs->setAccessibleName("Pages");
+    tabs->setAccessibleName(UiText::tr("Pages"));
     BMessage page, container;
     for (int32 i = 0; archive.FindMessage(kArchiveTabViews, &page, i) == B_OK; ++i) {
         BMessage tab;
         archive.FindMessage(kArchiveTabs, &tab, i);
         QWidget* const shown = MakeView(page, *tabs).view;
-        const QString label = TextOf(tab, kArchiveLabel);
-        tabs->addTab(shown, WithoutShortcut(label.isEmpty() ? shown->objectName() : label));
+        const QString label = LabelOf(tab);
+        tabs->addTab(
+            shown,
+            WithoutShortcut(label.isEmpty() ? UiText::tr(shown->objectName().toUtf8()) : label));
     }
     // The view that the shown tab's view lies in is part of the widget already.
     if (archive.FindMessage(kArchiveViews, &container) == B_OK) {
@@ -111,7 +121,7 @@ QWidget* ViewFactory::MakeTabView(const BMessage& archive, QWidget& parent) {
 }
 
 QWidget* ViewFactory::MakeStringView(const BMessage& archive, QWidget& parent) {
-    auto* label = new QLabel(TextOf(archive, kArchiveLabel), &parent);
+    auto* label = new QLabel(LabelOf(archive), &parent);
     label->setTextFormat(Qt::PlainText);
     return label;
 }
@@ -125,7 +135,7 @@ QWidget* ViewFactory::MakeTextControl(const BMessage& archive, QWidget& parent) 
 
 template <typename Button>
 QWidget* ViewFactory::MakeButton(const BMessage& archive, QWidget& parent) {
-    auto* button = new Button(WithoutShortcut(TextOf(archive, kArchiveLabel)), &parent);
+    auto* button = new Button(WithoutShortcut(LabelOf(archive)), &parent);
     BMessage command;
     if (archive.FindMessage(kArchiveMessage, &command) == B_OK) {
         QObject::connect(button, &QAbstractButton::clicked, button,

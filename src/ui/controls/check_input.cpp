@@ -2,6 +2,7 @@
 
 #include <string_view>
 
+#include "base/core_text.h"
 #include "base/number.h"
 #include "base/text.h"
 #include "kit/alert.h"
@@ -28,19 +29,21 @@ std::string Shown(double number) {
 
 template <typename Number>
 Number CheckBounds(TextControl& control, Number min, Number max, Number no_bound,
-                   const std::string& subject) {
+                   const char* subject) {
     const std::string text = control.text().toStdString();
     Number value = NumberIn(text, Number());
-    std::string complaint;
+    const char* complaint = nullptr;
     if (value < min) {
-        complaint = " can't be less than ";
+        complaint = CoreText::Later("%1 can't be less than %2.");
         value = min;
     } else if (max != no_bound && value > max) {
-        complaint = " can't be greater than ";
+        complaint = CoreText::Later("%1 can't be greater than %2.");
         value = max;
     }
-    if (!complaint.empty()) {
-        BAlert("", subject + complaint + Shown(value) + ".", "OK").Go();
+    if (complaint) {
+        BAlert("", CoreText::With(CoreText::tr(complaint), {CoreText::tr(subject), Shown(value)}),
+               CoreText::Later("OK"))
+            .Go();
     }
     const std::string shown = Shown(value);
     control.SetText(QString::fromStdString(shown));
@@ -49,11 +52,11 @@ Number CheckBounds(TextControl& control, Number min, Number max, Number no_bound
 
 }  // namespace
 
-int32 CheckInput(TextControl& control, int32 min, int32 max, const std::string& subject) {
+int32 CheckInput(TextControl& control, int32 min, int32 max, const char* subject) {
     return CheckBounds(control, min, max, kNoUpperBound, subject);
 }
 
-double CheckInput(TextControl& control, double min, double max, const std::string& subject) {
+double CheckInput(TextControl& control, double min, double max, const char* subject) {
     return CheckBounds(control, min, max, kNoUpperBoundReal, subject);
 }
 

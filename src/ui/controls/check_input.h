@@ -15,8 +15,8 @@ inline constexpr double kNoUpperBoundReal = -1.0;
 // follows the number is dropped, an empty field becomes 0, and a number out of bounds is
 // replaced by the bound, with an alert ("Width can't be less than 0."). subject: the name of the
 // field in the alert.
-int32 CheckInput(TextControl& control, int32 min, int32 max, const std::string& subject);
+int32 CheckInput(TextControl& control, int32 min, int32 max, const char* subject);
 // The same with two decimals; further ones are rounded away.
-double CheckInput(TextControl& control, double min, double max, const std::string& subject);
+double CheckInput(TextControl& control, double min, double max, const char* subject);
 
 }  // namespace kirto

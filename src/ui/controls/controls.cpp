@@ -14,11 +14,11 @@ QString Text(const char* text) {
 }
 
 template <typename Button>
-Button* MakeAnyButton(const char* name, const char* label, uint32 command, const BMessenger& target,
-                      QWidget* parent) {
-    auto* button = new Button(Text(label), parent);
+Button* MakeAnyButton(const char* name, const QString& label, uint32 command,
+                      const BMessenger& target, QWidget* parent) {
+    auto* button = new Button(label, parent);
     button->setObjectName(Text(name));
-    button->setAccessibleName(Text(label));
+    button->setAccessibleName(label);
     QObject::connect(button, &QAbstractButton::clicked,
                      [command, target] { target.SendMessage(command); });
     return button;
@@ -26,8 +26,8 @@ Button* MakeAnyButton(const char* name, const char* label, uint32 command, const
 
 }  // namespace
 
-QLabel* MakeLabel(const char* name, const char* text, QWidget* parent) {
-    auto* label = new QLabel(Text(text), parent);
+QLabel* MakeLabel(const char* name, const QString& text, QWidget* parent) {
+    auto* label = new QLabel(text, parent);
     label->setObjectName(Text(name));
     // What is shown may be a name from a file; none of it is markup.
     label->setTextFormat(Qt::PlainText);
@@ -38,17 +38,17 @@ TextControl* MakeField(const char* name, uint32 command, BMessenger target, QWid
     return new TextControl(name, BMessage(command), std::move(target), parent);
 }
 
-QCheckBox* MakeCheckBox(const char* name, const char* label, uint32 command,
+QCheckBox* MakeCheckBox(const char* name, const QString& label, uint32 command,
                         const BMessenger& target, QWidget* parent) {
     return MakeAnyButton<QCheckBox>(name, label, command, target, parent);
 }
 
-QRadioButton* MakeRadioButton(const char* name, const char* label, uint32 command,
+QRadioButton* MakeRadioButton(const char* name, const QString& label, uint32 command,
                               const BMessenger& target, QWidget* parent) {
     return MakeAnyButton<QRadioButton>(name, label, command, target, parent);
 }
 
-QPushButton* MakeButton(const char* name, const char* label, uint32 command,
+QPushButton* MakeButton(const char* name, const QString& label, uint32 command,
                         const BMessenger& target, QWidget* parent) {
     return MakeAnyButton<QPushButton>(name, label, command, target, parent);
 }
@@ -58,7 +58,7 @@ QComboBox* MakePopUpMenu(const char* name, const std::vector<MenuChoice>& choice
     auto* menu = new QComboBox(parent);
     menu->setObjectName(Text(name));
     for (const MenuChoice& choice : choices) {
-        menu->addItem(Text(choice.label), choice.command);
+        menu->addItem(choice.label, choice.command);
         menu->setItemData(menu->count() - 1, choice.value, kValueRole);
     }
     QObject::connect(menu, &QComboBox::activated, [menu, target](int item) {

@@ -17,18 +17,18 @@ namespace kirto {
 
 // An item of a pop-up menu: its text, the command it sends and the value it stands for.
 struct MenuChoice {
-    const char* label;
+    QString label;
     uint32 command;
     int32 value;
 };
 
-QLabel* MakeLabel(const char* name, const char* text, QWidget* parent);
+QLabel* MakeLabel(const char* name, const QString& text, QWidget* parent);
 TextControl* MakeField(const char* name, uint32 command, BMessenger target, QWidget* parent);
-QCheckBox* MakeCheckBox(const char* name, const char* label, uint32 command,
+QCheckBox* MakeCheckBox(const char* name, const QString& label, uint32 command,
                         const BMessenger& target, QWidget* parent);
-QRadioButton* MakeRadioButton(const char* name, const char* label, uint32 command,
+QRadioButton* MakeRadioButton(const char* name, const QString& label, uint32 command,
                               const BMessenger& target, QWidget* parent);
-QPushButton* MakeButton(const char* name, const char* label, uint32 command,
+QPushButton* MakeButton(const char* name, const QString& label, uint32 command,
                         const BMessenger& target, QWidget* parent);
 // Choosing an item sends its command, also when it was chosen already.
 QComboBox* MakePopUpMenu(const char* name, const std::vector<MenuChoice>& choices,

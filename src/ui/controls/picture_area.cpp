@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "kit/qt/ui_text.h"
 #include "ui/controls/picture_painter.h"
 
 namespace kirto {
@@ -29,7 +30,7 @@ PictureArea::PictureArea(const Animation& animation, QWidget* parent)
       canvas_(std::max(animation.width, 1), std::max(animation.height, 1)),
       frame_(animation.CurrentFrame()) {
     setObjectName("PictureArea");
-    setAccessibleName("Picture");
+    setAccessibleName(UiText::tr("Picture"));
     setCursor(Qt::CrossCursor);
     setMinimumSize(kSide / 2, kSide / 2);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);

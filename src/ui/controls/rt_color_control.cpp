@@ -6,6 +6,7 @@
 #include <QSlider>
 #include <QSpinBox>
 
+#include "kit/qt/ui_text.h"
 #include "ui/controls/screen_color_button.h"
 
 namespace {
@@ -29,8 +30,9 @@ RTColorControl::RTColorControl(const char* name, QWidget* parent) : QWidget(pare
     setObjectName(QString::fromUtf8(name));
     auto* layout = new QGridLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    channels_ = {MakeChannel("Red", 24, *layout), MakeChannel("Green", 16, *layout),
-                 MakeChannel("Blue", 8, *layout)};
+    channels_ = {MakeChannel(UiText::Later("Red"), 24, *layout),
+                 MakeChannel(UiText::Later("Green"), 16, *layout),
+                 MakeChannel(UiText::Later("Blue"), 8, *layout)};
     auto* pick = new kirto::ScreenColorButton(this);
     pick->WhenPicked([this](const QColor& color) { SetValue(ValueOf(color)); });
     layout->addWidget(pick, layout->rowCount(), 1, 1, 2, Qt::AlignRight);
@@ -38,7 +40,7 @@ RTColorControl::RTColorControl(const char* name, QWidget* parent) : QWidget(pare
 
 RTColorControl::Channel RTColorControl::MakeChannel(const char* name, int shift,
                                                     QGridLayout& layout) {
-    const QString label_text = QString::fromUtf8(name) + ":";
+    const QString label_text = UiText::tr(name) + ":";
     auto* label = new QLabel(label_text, this);
     auto* slider = new QSlider(Qt::Horizontal, this);
     slider->setObjectName(QString::fromUtf8(name) + "Slider");

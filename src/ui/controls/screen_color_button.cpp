@@ -8,6 +8,8 @@
 #include <QScreen>
 #include <utility>
 
+#include "kit/qt/ui_text.h"
+
 namespace kirto {
 
 namespace {
@@ -23,13 +25,13 @@ QColor ColorOnScreen(const QPoint& place) {
 }  // namespace
 
 ScreenColorButton::ScreenColorButton(QWidget* parent, Eye eye)
-    : QPushButton("Pick from &Screen", parent), eye_(std::move(eye)) {
+    : QPushButton(UiText::tr("Pick from &Screen"), parent), eye_(std::move(eye)) {
     setObjectName("PickFromScreen");
     setAutoDefault(false);
     setFocusPolicy(Qt::TabFocus);
     setEnabled(eye_ != nullptr);
-    setToolTip(eye_ ? "Takes the color that is clicked next, anywhere on the screen"
-                    : "This desktop lets no program see the screen");
+    setToolTip(eye_ ? UiText::tr("Takes the color that is clicked next, anywhere on the screen")
+                    : UiText::tr("This desktop lets no program see the screen"));
     connect(this, &QPushButton::clicked, this, [this] { StartPicking(); });
 }
 

@@ -8,6 +8,7 @@
 #include <numeric>
 #include <tuple>
 
+#include "kit/qt/ui_text.h"
 #include "ui/controls/swatch_grid_accessible.h"
 
 namespace kirto {
@@ -29,7 +30,7 @@ auto HueOf(const QColor& color) {
 SwatchGrid::SwatchGrid(QWidget* parent) : QWidget(parent) {
     InstallSwatchAccessibility();
     setObjectName("Swatches");
-    setAccessibleName("Colors");
+    setAccessibleName(UiText::tr("Colors"));
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
@@ -97,12 +98,12 @@ int SwatchGrid::IndexAt(QPoint point) const {
 QString SwatchGrid::NameOf(int index) const {
     if (PlaceOf(index) < 0) return {};
     const Swatch& swatch = swatches_[static_cast<size_t>(index)];
-    QString name = QString("Color %1, %2, %3 pixels")
+    QString name = UiText::tr("Color %1, %2, %3 pixels")
                        .arg(index)
                        .arg(swatch.color.name())
                        .arg(qlonglong{swatch.pixels});
-    if (index == marks_.background) name += ", background";
-    if (index == marks_.transparent) name += ", transparent";
+    if (index == marks_.background) name += UiText::tr(", background");
+    if (index == marks_.transparent) name += UiText::tr(", transparent");
     return name;
 }
 

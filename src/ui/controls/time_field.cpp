@@ -5,6 +5,8 @@
 #include <QSlider>
 #include <cmath>
 
+#include "kit/qt/ui_text.h"
+
 namespace kirto {
 
 namespace {
@@ -15,7 +17,7 @@ constexpr double kTimeStep = 0.1;        // of the number's arrows, seconds
 
 }  // namespace
 
-TimeField::TimeField(const char* name, const char* label, QWidget* parent)
+TimeField::TimeField(const char* name, const QString& label, QWidget* parent)
     : QWidget(parent),
       slider_(new QSlider(Qt::Horizontal, this)),
       number_(new QDoubleSpinBox(this)) {
@@ -26,7 +28,7 @@ TimeField::TimeField(const char* name, const char* label, QWidget* parent)
     number_->setAccessibleName(label);
     number_->setDecimals(kTimeDecimals);
     number_->setSingleStep(kTimeStep);
-    number_->setSuffix(" s");
+    number_->setSuffix(UiText::tr(" s"));
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(slider_, 1);

@@ -12,7 +12,7 @@ namespace kirto {
 class TimeField : public QWidget {
   public:
     // name: the object's; label: for those who can't see it.
-    TimeField(const char* name, const char* label, QWidget* parent);
+    TimeField(const char* name, const QString& label, QWidget* parent);
 
     // From 0 to last, in seconds.
     void SetRange(double last, double value);

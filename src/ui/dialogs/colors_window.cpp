@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "document/command_codes.h"
+#include "kit/qt/ui_text.h"
 #include "ui/controls/controls.h"
 
 namespace {
@@ -23,14 +24,17 @@ ColorsWindow::ColorsWindow(const kirto::ShownDocument& shown, BMessenger applica
                            QWidget* parent)
     : QDialog(parent), shown_(shown), application_(std::move(application)) {
     setObjectName("ColorsWindow");
-    setWindowTitle("Colors");
-    scope = MakeMenu("ColorScope", "Colors of:", {"current frame", "all frames"},
-                     "All frames are those without a palette of their own");
-    order = MakeMenu("ColorOrder", "Sorted by:", {"index", "hue", "use"},
-                     "Use is the number of pixels that have the color");
-    click = MakeMenu("ColorClick",
-                     "A click:", {"only tells", "makes it the background", "makes it transparent"},
-                     "What a click or the Enter key does with a color");
+    setWindowTitle(UiText::tr("Colors"));
+    scope = MakeMenu("ColorScope", UiText::tr("Colors of:"),
+                     {UiText::tr("current frame"), UiText::tr("all frames")},
+                     UiText::tr("All frames are those without a palette of their own"));
+    order = MakeMenu("ColorOrder", UiText::tr("Sorted by:"),
+                     {UiText::tr("index"), UiText::tr("hue"), UiText::tr("use")},
+                     UiText::tr("Use is the number of pixels that have the color"));
+    click = MakeMenu("ColorClick", UiText::tr("A click:"),
+                     {UiText::tr("only tells"), UiText::tr("makes it the background"),
+                      UiText::tr("makes it transparent")},
+                     UiText::tr("What a click or the Enter key does with a color"));
     swatches = new kirto::SwatchGrid(this);
     told = kirto::MakeLabel("ToldColor", "", this);
     connect(scope, &QComboBox::currentIndexChanged, this, [this] { UpdateDisplay(); });
@@ -42,8 +46,8 @@ ColorsWindow::ColorsWindow(const kirto::ShownDocument& shown, BMessenger applica
     Arrange();
 }
 
-QComboBox* ColorsWindow::MakeMenu(const char* name, const char* label, const QStringList& items,
-                                  const char* tip) {
+QComboBox* ColorsWindow::MakeMenu(const char* name, const QString& label, const QStringList& items,
+                                  const QString& tip) {
     auto* menu = new QComboBox(this);
     menu->setObjectName(name);
     menu->setAccessibleName(label);

@@ -34,8 +34,8 @@ class ColorsWindow : public QDialog {
 
   private:
     void Arrange();
-    QComboBox* MakeMenu(const char* name, const char* label, const QStringList& items,
-                        const char* tip);
+    QComboBox* MakeMenu(const char* name, const QString& label, const QStringList& items,
+                        const QString& tip);
     void Show(const kirto::PaletteUse& use, const kirto::Animation& animation);
     void Choose(int index);
 

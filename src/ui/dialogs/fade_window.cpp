@@ -5,9 +5,11 @@
 #include <QGridLayout>
 #include <QKeyEvent>
 
+#include "base/core_text.h"
 #include "base/number.h"
 #include "document/command_codes.h"
 #include "kit/alert.h"
+#include "kit/qt/ui_text.h"
 #include "ui/controls/controls.h"
 #include "ui/controls/rt_color_control.h"
 #include "ui/controls/toolbar.h"
@@ -40,7 +42,7 @@ FadeWindow::FadeWindow(BMessenger application, QWidget* parent,
       application_(std::move(application)),
       port_(std::move(port)) {
     setObjectName("FadeWindow");
-    setWindowTitle("Fade Effects");
+    setWindowTitle(UiText::tr("Fade Effects"));
     setAttribute(Qt::WA_DeleteOnClose);
     MakeControls();
     setMinimumSize(sizeHint().expandedTo({kMinWidth, kMinHeight}));
@@ -56,20 +58,20 @@ FadeWindow::~FadeWindow() {
 void FadeWindow::MakeControls() {
     auto* panel = new Toolbar("Toolbar", this);
     mode_ = kirto::MakePopUpMenu("ModeMenuField",
-                                 {{"to an rgb color", kirto::kFadeToColor, 0},
-                                  {"from an rgb color", kirto::kFadeFromColor, 1},
-                                  {"to next frame", kirto::kFadeToNext, 2},
-                                  {"from previous frame", kirto::kFadeFromPrevious, 3}},
+                                 {{UiText::tr("to an rgb color"), kirto::kFadeToColor, 0},
+                                  {UiText::tr("from an rgb color"), kirto::kFadeFromColor, 1},
+                                  {UiText::tr("to next frame"), kirto::kFadeToNext, 2},
+                                  {UiText::tr("from previous frame"), kirto::kFadeFromPrevious, 3}},
                                  Messenger(), panel);
     mode_->view()->setObjectName("ModeMenu");
-    mode_->setToolTip("What to blend the current frame with");
+    mode_->setToolTip(UiText::tr("What to blend the current frame with"));
     frame_count_ = kirto::MakeField("FrameCount", kirto::kFadeCount, Messenger(), panel);
     frame_count_->setText("1");
     frame_count_->setFixedWidth(kCountDigits * frame_count_->fontMetrics().horizontalAdvance("0"));
-    frame_count_->setToolTip("The number of new frames, from 1 to 100");
+    frame_count_->setToolTip(UiText::tr("The number of new frames, from 1 to 100"));
     frame_count_->installEventFilter(this);
     color_ = new RTColorControl("ColorControl", panel);
-    color_->setToolTip("The color to fade to or from");
+    color_->setToolTip(UiText::tr("The color to fade to or from"));
     preview_ = new kirto::FadeStrip(
         "Preview",
         [this]() -> kirto::FadeChoice {
@@ -82,7 +84,7 @@ void FadeWindow::MakeControls() {
 }
 
 void FadeWindow::Arrange(QWidget* panel) {
-    const auto label_for = [panel](const char* name, const char* text, QWidget* control) {
+    const auto label_for = [panel](const char* name, const QString& text, QWidget* control) {
         QLabel* label = kirto::MakeLabel(name, text, panel);
         label->setBuddy(control);
         control->setAccessibleName(label->text());
@@ -90,23 +92,24 @@ void FadeWindow::Arrange(QWidget* panel) {
     };
     auto* layout = new QGridLayout(panel);
     QLabel* scope = kirto::MakeLabel(
-        "Scope", "Blends the current frame alone, whatever else is selected.", panel);
+        "Scope", UiText::tr("Blends the current frame alone, whatever else is selected."), panel);
     scope->setWordWrap(true);
     layout->addWidget(scope, 0, 0, 1, 3);
-    layout->addWidget(label_for("ModeMenuLabel", "Fade mode:", mode_), 1, 0);
+    layout->addWidget(label_for("ModeMenuLabel", UiText::tr("Fade mode:"), mode_), 1, 0);
     layout->addWidget(mode_, 1, 1, 1, 2, Qt::AlignLeft);
-    layout->addWidget(label_for("FrameCountLabel", "Frame count:", frame_count_), 2, 0);
+    layout->addWidget(label_for("FrameCountLabel", UiText::tr("Frame count:"), frame_count_), 2, 0);
     layout->addWidget(frame_count_, 2, 1, 1, 2, Qt::AlignLeft);
     layout->addWidget(color_, 3, 0, 1, 3);
-    layout->addWidget(label_for("PreviewString", "Preview:", preview_), 4, 0, Qt::AlignTop);
+    layout->addWidget(label_for("PreviewString", UiText::tr("Preview:"), preview_), 4, 0,
+                      Qt::AlignTop);
     layout->addWidget(preview_, 4, 1, 1, 2);
     layout->setColumnStretch(1, 1);
     layout->setRowStretch(4, 1);
 
     auto* buttons = new QDialogButtonBox(panel);
-    QPushButton* ok = kirto::MakeButton("OK", "OK", kirto::kFadeOk, Messenger(), panel);
+    QPushButton* ok = kirto::MakeButton("OK", UiText::tr("OK"), kirto::kFadeOk, Messenger(), panel);
     QPushButton* cancel =
-        kirto::MakeButton("Cancel", "Cancel", kirto::kFadeCancel, Messenger(), panel);
+        kirto::MakeButton("Cancel", UiText::tr("Cancel"), kirto::kFadeCancel, Messenger(), panel);
     buttons->addButton(ok, QDialogButtonBox::AcceptRole);
     buttons->addButton(cancel, QDialogButtonBox::RejectRole);
     ok->setDefault(true);
@@ -174,6 +177,6 @@ bool FadeWindow::CheckCount() {
     const int32 count = Count();
     if (count >= kMinCount && count <= kMaxCount) return true;
     frame_count_->SetText("1");
-    kirto::Warn("Frame count must be between 1 and 100.");
+    kirto::Warn(CoreText::tr("Frame count must be between 1 and 100."));
     return false;
 }

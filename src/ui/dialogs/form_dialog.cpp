@@ -9,6 +9,8 @@
 #include <QSpinBox>
 #include <QVBoxLayout>
 
+#include "kit/qt/ui_text.h"
+
 namespace kirto {
 
 FormDialog::FormDialog(const char* name, const QString& title, const QString& scope,
@@ -37,7 +39,7 @@ void FormDialog::AddField(const QString& label, QWidget* field) {
     field->setAccessibleName(QString(label).remove(':').remove('&'));
 }
 
-QSpinBox* FormDialog::AddNumber(const char* name, const char* label, int first, int last,
+QSpinBox* FormDialog::AddNumber(const char* name, const QString& label, int first, int last,
                                 int value) {
     auto* number = new QSpinBox(this);
     number->setObjectName(name);
@@ -47,11 +49,11 @@ QSpinBox* FormDialog::AddNumber(const char* name, const char* label, int first, 
     return number;
 }
 
-QLineEdit* FormDialog::AddFile(const char* label, std::function<QString()> choose) {
+QLineEdit* FormDialog::AddFile(const QString& label, std::function<QString()> choose) {
     auto* row = new QWidget(this);
     auto* path = new QLineEdit(row);
     path->setObjectName("File");
-    auto* button = new QPushButton("C&hoose...", row);
+    auto* button = new QPushButton(UiText::tr("C&hoose..."), row);
     button->setAutoDefault(false);
     auto* layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);

@@ -29,10 +29,10 @@ class FormDialog : public QDialog {
     // Adds a field with its label, which names it for those who can't see it.
     void AddField(const QString& label, QWidget* field);
     // Adds a field for a whole number from first to last.
-    QSpinBox* AddNumber(const char* name, const char* label, int first, int last, int value);
+    QSpinBox* AddNumber(const char* name, const QString& label, int first, int last, int value);
     // Adds a field, named "File", for a path, with a button that asks for one. choose: shows a file
     // dialog and returns the path; empty when it was canceled.
-    QLineEdit* AddFile(const char* label, std::function<QString()> choose);
+    QLineEdit* AddFile(const QString& label, std::function<QString()> choose);
     // Adds a field that says by itself what it is.
     void AddWide(QWidget* field);
     // Called once, when all fields are there.

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "document/command_codes.h"
+#include "kit/qt/ui_text.h"
 #include "ui/controls/picture_area.h"
 
 namespace kirto {
@@ -25,16 +26,17 @@ struct Ratio {
     const char* name;
     double value;  // width to height; 0 for any
 };
-constexpr Ratio kRatios[] = {{"any", 0},           {"1 : 1", 1},         {"4 : 3", 4.0 / 3},
-                             {"3 : 2", 3.0 / 2},   {"16 : 9", 16.0 / 9}, {"3 : 4", 3.0 / 4},
-                             {"9 : 16", 9.0 / 16}, {"2 : 3", 2.0 / 3}};
+constexpr Ratio kRatios[] = {{UiText::Later("any"), 0}, {"1 : 1", 1},         {"4 : 3", 4.0 / 3},
+                             {"3 : 2", 3.0 / 2},        {"16 : 9", 16.0 / 9}, {"3 : 4", 3.0 / 4},
+                             {"9 : 16", 9.0 / 16},      {"2 : 3", 2.0 / 3}};
 
 // Left, top, width and height.
 using Sides = std::array<QSpinBox*, 4>;
 
 Sides AddSides(FormDialog& dialog, const QRect& area) {
     constexpr const char* kNames[] = {"Left", "Top", "Width", "Height"};
-    constexpr const char* kLabels[] = {"&Left:", "&Top:", "&Width:", "&Height:"};
+    constexpr const char* kLabels[] = {UiText::Later("&Left:"), UiText::Later("&Top:"),
+                                       UiText::Later("&Width:"), UiText::Later("&Height:")};
     const std::array<int, 4> first = {0, 0, 1, 1};
     const std::array<int, 4> last = {area.width() - 1, area.height() - 1, area.width(),
                                      area.height()};
@@ -45,7 +47,7 @@ Sides AddSides(FormDialog& dialog, const QRect& area) {
         sides[i]->setObjectName(kNames[i]);
         sides[i]->setRange(first[i], last[i]);
         sides[i]->setValue(values[i]);
-        dialog.AddField(kLabels[i], sides[i]);
+        dialog.AddField(UiText::tr(kLabels[i]), sides[i]);
     }
     return sides;
 }
@@ -66,8 +68,8 @@ void AddRatios(FormDialog& dialog, PictureArea& picture) {
     auto* menu = new QComboBox(&dialog);
     menu->setObjectName("Ratio");
     for (const Ratio& ratio : kRatios)
-        menu->addItem(ratio.name);
-    dialog.AddField("&Ratio:", menu);
+        menu->addItem(UiText::tr(ratio.name));
+    dialog.AddField(UiText::tr("&Ratio:"), menu);
     QObject::connect(menu, &QComboBox::currentIndexChanged, &picture, [&picture](int chosen) {
         const double ratio = kRatios[chosen].value;
         picture.KeepRatio(ratio > 0 ? std::optional(ratio) : std::nullopt);
@@ -79,7 +81,7 @@ void AddTrims(FormDialog& dialog, const FormDialog::Receiver& receive) {
     auto* row = new QWidget(&dialog);
     auto* layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
-    const auto add = [&](const char* name, const char* label, int trim) {
+    const auto add = [&](const char* name, const QString& label, int trim) {
         auto* button = new QPushButton(label, row);
         button->setObjectName(name);
         button->setAutoDefault(false);
@@ -91,8 +93,8 @@ void AddTrims(FormDialog& dialog, const FormDialog::Receiver& receive) {
             dialog.accept();
         });
     };
-    add("TrimTransparent", "Trim Transparent &Edges", kTrimTransparent);
-    add("TrimToChanges", "Trim to &Changes", kTrimToChanges);
+    add("TrimTransparent", UiText::tr("Trim Transparent &Edges"), kTrimTransparent);
+    add("TrimToChanges", UiText::tr("Trim to &Changes"), kTrimToChanges);
     dialog.AddWide(row);
 }
 
@@ -114,10 +116,11 @@ QColor ColorAt(const Frame& frame, QPoint point) {
 }  // namespace
 
 void AskForCrop(const Animation& shown, QWidget* parent, FormDialog::Receiver receive) {
-    auto* dialog = new FormDialog("CropAnimation", "Crop",
-                                  "Works on all frames and the canvas. Draw a rectangle on the "
-                                  "picture, or type where it is.",
-                                  parent);
+    auto* dialog =
+        new FormDialog("CropAnimation", UiText::tr("Crop"),
+                       UiText::tr("Works on all frames and the canvas. Draw a rectangle on the "
+                                  "picture, or type where it is."),
+                       parent);
     const QRect canvas(0, 0, std::max(shown.width, 1), std::max(shown.height, 1));
     auto* picture = new PictureArea(shown, dialog);
     dialog->AddWide(picture);
@@ -151,21 +154,22 @@ void AskForCrop(const Animation& shown, QWidget* parent, FormDialog::Receiver re
 
 void AskForTransparentColor(const Animation& shown, QWidget* parent, FormDialog::Receiver receive) {
     const int32 several = shown.several.Count();
-    const QString scope =
-        several > 0 ? QString("the %1 selected frames").arg(several) : QString("the current frame");
+    const QString scope = several > 0 ? UiText::tr("the %1 selected frames").arg(several)
+                                      : UiText::tr("the current frame");
     auto* dialog = new FormDialog(
-        "MakeTransparent", "Make Transparent",
-        QString("Works on %1. Click on the color in the picture, or type it.").arg(scope), parent);
+        "MakeTransparent", UiText::tr("Make Transparent"),
+        UiText::tr("Works on %1. Click on the color in the picture, or type it.").arg(scope),
+        parent);
     auto* picture = new PictureArea(shown, dialog);
     dialog->AddWide(picture);
     auto* color = new QLineEdit(dialog);
     color->setObjectName("Color");
     color->setPlaceholderText("#rrggbb");
-    dialog->AddField("&Color:", color);
+    dialog->AddField(UiText::tr("&Color:"), color);
     auto* tolerance = new QSpinBox(dialog);
     tolerance->setObjectName("Tolerance");
     tolerance->setRange(0, 255);
-    dialog->AddField("&Tolerance:", tolerance);
+    dialog->AddField(UiText::tr("&Tolerance:"), tolerance);
     picture->LetClick([=, frame = shown.CurrentFrame()](QPoint point) {
         const QColor clicked = ColorAt(*frame, point);
         if (clicked.isValid()) color->setText(clicked.name());

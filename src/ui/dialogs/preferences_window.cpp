@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <type_traits>
 
+#include "base/core_text.h"
 #include "base/directories.h"
 #include "base/text.h"
 #include "color/color_text.h"
@@ -19,7 +20,7 @@
 
 namespace {
 
-constexpr char kSubject[] = "This value";
+constexpr const char* kSubject = CoreText::Later("This value");
 constexpr int32 kLargestIndex = 255;
 constexpr int32 kLargestAlpha = 255;
 constexpr int32 kLeastThumbnail = 10;      // pixels
@@ -326,7 +327,7 @@ bool PreferencesWindow::CheckPath(uint32 command) {
     if (command == kirto::kPrefsPaletteFile) {
         kirto::TextControl& field = Field("palette_filename");
         if (!CheckIfExists(field.text().toStdString(), true)) {
-            kirto::Warn("You must enter a valid, absolute path and file name.");
+            kirto::Warn(CoreText::tr("You must enter a valid, absolute path and file name."));
             field.SetText("");
         }
         return true;
@@ -334,7 +335,7 @@ bool PreferencesWindow::CheckPath(uint32 command) {
     if (command == kirto::kPrefsTemporaryFolder) {
         kirto::TextControl& field = Field("misc_filelocation");
         if (!CheckIfExists(field.text().toStdString(), false)) {
-            kirto::Warn("You must enter a valid absolute path.");
+            kirto::Warn(CoreText::tr("You must enter a valid absolute path."));
             field.SetText(QString::fromStdString(kirto::HomeDirectory()));
         }
         return true;
@@ -346,7 +347,7 @@ bool PreferencesWindow::CheckColors(uint32 command) {
     if (command == kirto::kPrefsMatte) {
         rgb_color color{};
         if (!kirto::ParseColor(Field("animation_matte").text().toStdString(), &color)) {
-            kirto::Warn("You must enter a color as #rrggbb.");
+            kirto::Warn(CoreText::tr("You must enter a color as #rrggbb."));
             ShowMatte();
         }
         return true;
@@ -355,7 +356,8 @@ bool PreferencesWindow::CheckColors(uint32 command) {
         kirto::TextControl& field = Field("animation_exactcolors");
         std::vector<rgb_color> colors;
         if (!kirto::ParseColors(field.text().toStdString(), kLongestColors, &colors)) {
-            kirto::Warn("You must enter colors as #rrggbb, with blanks between them.");
+            kirto::Warn(
+                CoreText::tr("You must enter colors as #rrggbb, with blanks between them."));
             field.SetText(QString::fromStdString(prefs_.animation_exactcolors));
         }
         return true;

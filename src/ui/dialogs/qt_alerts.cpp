@@ -7,6 +7,8 @@
 #include <future>
 #include <memory>
 
+#include "kit/qt/ui_text.h"
+
 namespace kirto {
 
 namespace {
@@ -36,11 +38,10 @@ std::unique_ptr<QMessageBox> MakeDialog(const BAlert& alert, QWidget* parent) {
     box->setIcon(IconOf(alert.Type()));
     box->setWindowTitle(alert.Title().empty() ? "Kirto" : QString::fromStdString(alert.Title()));
     box->setTextFormat(Qt::PlainText);
-    box->setText(QString::fromStdString(alert.Text()));
+    box->setText(UiText::tr(alert.Text().c_str()));
     for (const std::string& label : alert.Buttons()) {
         // The order of the buttons is the alert's, not one of the desktop's for roles.
-        QPushButton* button =
-            box->addButton(QString::fromStdString(label), QMessageBox::ActionRole);
+        QPushButton* button = box->addButton(UiText::tr(label.c_str()), QMessageBox::ActionRole);
         // A desktop may put its mark into the text.
         const int32 index = static_cast<int32>(box->buttons().size()) - 1;
         button->setProperty(kIndex, index);

@@ -7,6 +7,7 @@
 #include <QSpinBox>
 
 #include "document/command_codes.h"
+#include "kit/qt/ui_text.h"
 
 namespace kirto {
 
@@ -30,19 +31,23 @@ void AskForSheet(const Animation& shown, const BTranslatorRoster& roster, QWidge
                  FormDialog::Receiver receive) {
     const int32 several = shown.several.Count();
     const int32 count = several > 0 ? several : shown.frames.Size();
-    auto* dialog = new FormDialog("ExportSheet", "Export Sheet",
-                                  QString("Writes the %1 %2frames side by side into one PNG image, "
-                                          "and a JSON text beside it that says where each is.")
-                                      .arg(count)
-                                      .arg(several > 0 ? "selected " : ""),
-                                  parent);
-    QLineEdit* path = dialog->AddFile("&Image:", [dialog] {
-        return QFileDialog::getSaveFileName(dialog, "Export Sheet", {}, "PNG (*.png)");
+    const QString scope =
+        several > 0 ? UiText::tr(
+                          "Writes the %1 selected frames side by side into one PNG image, and a "
+                          "JSON text beside it that says where each is.")
+                    : UiText::tr(
+                          "Writes the %1 frames side by side into one PNG image, and a JSON text "
+                          "beside it that says where each is.");
+    auto* dialog =
+        new FormDialog("ExportSheet", UiText::tr("Export Sheet"), scope.arg(count), parent);
+    QLineEdit* path = dialog->AddFile(UiText::tr("&Image:"), [dialog] {
+        return QFileDialog::getSaveFileName(dialog, UiText::tr("Export Sheet"), {}, "PNG (*.png)");
     });
-    QSpinBox* columns = dialog->AddNumber("Columns", "&Columns:", 0, count, 0);
-    columns->setSpecialValueText("as many as rows");
-    QSpinBox* padding = dialog->AddNumber("Padding", "&Padding in pixels:", 0, kMostPadding, 0);
-    auto* power = new QCheckBox("Sides are powers of &two", dialog);
+    QSpinBox* columns = dialog->AddNumber("Columns", UiText::tr("&Columns:"), 0, count, 0);
+    columns->setSpecialValueText(UiText::tr("as many as rows"));
+    QSpinBox* padding =
+        dialog->AddNumber("Padding", UiText::tr("&Padding in pixels:"), 0, kMostPadding, 0);
+    auto* power = new QCheckBox(UiText::tr("Sides are powers of &two"), dialog);
     power->setObjectName("PowerOfTwo");
     dialog->AddWide(power);
     path->setFocus();

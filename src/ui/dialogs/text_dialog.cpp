@@ -8,6 +8,7 @@
 #include "app/caption_layout.h"
 #include "document/command_codes.h"
 #include "kit/qt/text_picture.h"
+#include "kit/qt/ui_text.h"
 #include "ui/controls/picture_area.h"
 
 namespace kirto {
@@ -67,7 +68,7 @@ std::optional<BMessage> TextFields::Command() const {
     return message;
 }
 
-QLineEdit* AddText(FormDialog& dialog, const char* name, const char* label, const char* text) {
+QLineEdit* AddText(FormDialog& dialog, const char* name, const QString& label, const char* text) {
     auto* field = new QLineEdit(text, &dialog);
     field->setObjectName(name);
     dialog.AddField(label, field);
@@ -79,20 +80,20 @@ TextFields AddFields(FormDialog& dialog, const Animation& shown) {
     TextFields fields;
     fields.picture = new PictureArea(shown, &dialog);
     dialog.AddWide(fields.picture);
-    fields.text = AddText(dialog, "Text", "&Text:", "");
+    fields.text = AddText(dialog, "Text", UiText::tr("&Text:"), "");
     fields.font = new QFontComboBox(&dialog);
     fields.font->setObjectName("Font");
-    dialog.AddField("&Font:", fields.font);
-    fields.size = dialog.AddNumber("Size", "&Size in pixels:", kSmallestCaption, kLargestCaption,
-                                   UsualCaptionSize(shown));
-    fields.color = AddText(dialog, "Color", "&Color:", "#ffffff");
-    fields.outline_width =
-        dialog.AddNumber("OutlineWidth", "&Outline in pixels:", 0, kWidestOutline, kUsualOutline);
-    fields.outline = AddText(dialog, "Outline", "Out&line color:", "#000000");
-    fields.x = dialog.AddNumber("X", "&X offset:", -kLargestPlace, kLargestPlace, 0);
-    fields.y = dialog.AddNumber("Y", "&Y offset:", -kLargestPlace, kLargestPlace, 0);
-    fields.fade_in = dialog.AddNumber("FadeIn", "Frames to fade &in:", 0, frames, 0);
-    fields.fade_out = dialog.AddNumber("FadeOut", "Frames to fade o&ut:", 0, frames, 0);
+    dialog.AddField(UiText::tr("&Font:"), fields.font);
+    fields.size = dialog.AddNumber("Size", UiText::tr("&Size in pixels:"), kSmallestCaption,
+                                   kLargestCaption, UsualCaptionSize(shown));
+    fields.color = AddText(dialog, "Color", UiText::tr("&Color:"), "#ffffff");
+    fields.outline_width = dialog.AddNumber("OutlineWidth", UiText::tr("&Outline in pixels:"), 0,
+                                            kWidestOutline, kUsualOutline);
+    fields.outline = AddText(dialog, "Outline", UiText::tr("Out&line color:"), "#000000");
+    fields.x = dialog.AddNumber("X", UiText::tr("&X offset:"), -kLargestPlace, kLargestPlace, 0);
+    fields.y = dialog.AddNumber("Y", UiText::tr("&Y offset:"), -kLargestPlace, kLargestPlace, 0);
+    fields.fade_in = dialog.AddNumber("FadeIn", UiText::tr("Frames to fade &in:"), 0, frames, 0);
+    fields.fade_out = dialog.AddNumber("FadeOut", UiText::tr("Frames to fade o&ut:"), 0, frames, 0);
     return fields;
 }
 
@@ -107,10 +108,11 @@ void Preview(FormDialog& dialog, const TextFields& fields) {
 void AskForText(const Animation& shown, QWidget* parent, FormDialog::Receiver receive) {
     const int32 several = shown.several.Count();
     const QString scope =
-        several > 0 ? QString("Draws on the %1 selected frames.").arg(several)
-                    : QString("Draws on the current frame, the only one that is selected.");
-    auto* dialog = new FormDialog("Text", "Text",
-                                  scope + " Click on the picture where it is to begin.", parent);
+        several > 0 ? UiText::tr("Draws on the %1 selected frames.").arg(several)
+                    : UiText::tr("Draws on the current frame, the only one that is selected.");
+    auto* dialog =
+        new FormDialog("Text", UiText::tr("Text"),
+                       scope + UiText::tr(" Click on the picture where it is to begin."), parent);
     const TextFields fields = AddFields(*dialog, shown);
     const auto preview = [=] { Preview(*dialog, fields); };
     // Placed by hand, it stays there whatever is typed.

@@ -11,6 +11,7 @@
 #include <array>
 
 #include "document/command_codes.h"
+#include "kit/qt/ui_text.h"
 #include "ui/controls/picture_area.h"
 #include "ui/controls/time_field.h"
 #include "ui/dialogs/video_pictures.h"
@@ -61,19 +62,19 @@ class VideoDialog : public FormDialog {
 };
 
 VideoDialog::VideoDialog(const BMessage& command, const entry_ref& ref, QWidget* parent)
-    : FormDialog("InsertVideo", "Insert Video",
-                 QString("Makes frames of a part of the video \"%1\". Draw a rectangle on the "
-                         "picture to cut it.")
+    : FormDialog("InsertVideo", UiText::tr("Insert Video"),
+                 UiText::tr("Makes frames of a part of the video \"%1\". Draw a rectangle on the "
+                            "picture to cut it.")
                      .arg(QFile::decodeName(ref.Leaf().c_str())),
                  parent),
       command_(command),
       picture_(new PictureArea(Animation(), this)),
-      start_(new TimeField("From", "From", this)),
-      end_(new TimeField("To", "To", this)),
-      plays_(new QCheckBox("Pla&y", this)),
+      start_(new TimeField("From", UiText::tr("From"), this)),
+      end_(new TimeField("To", UiText::tr("To"), this)),
+      plays_(new QCheckBox(UiText::tr("Pla&y"), this)),
       rate_(new QDoubleSpinBox(this)),
       width_(new QSpinBox(this)),
-      summary_(new QLabel("Reading the video...", this)),
+      summary_(new QLabel(UiText::tr("Reading the video..."), this)),
       pictures_(ref.path,
                 {[this](const PreviewedVideo& video) { Begin(video); }, [this] { TakePicture(); },
                  [this](const QString& reason) { Fail(reason); }}) {
@@ -82,11 +83,11 @@ VideoDialog::VideoDialog(const BMessage& command, const entry_ref& ref, QWidget*
     AddTimes();
     rate_->setObjectName("Rate");
     rate_->setRange(VideoCut::kFewestFramesPerSecond, VideoCut::kMostFramesPerSecond);
-    AddField("Frames a &second:", rate_);
+    AddField(UiText::tr("Frames a &second:"), rate_);
     width_->setObjectName("Width");
     width_->setRange(1, 65535);
-    width_->setSuffix(" px");
-    AddField("&Width:", width_);
+    width_->setSuffix(UiText::tr(" px"));
+    AddField(UiText::tr("&Width:"), width_);
     AddCrop();
     summary_->setObjectName("Summary");
     summary_->setWordWrap(true);
@@ -106,8 +107,8 @@ void VideoDialog::OpenFor(Receiver receive) {
 }
 
 void VideoDialog::AddTimes() {
-    AddField("&From:", start_);
-    AddField("&To:", end_);
+    AddField(UiText::tr("&From:"), start_);
+    AddField(UiText::tr("&To:"), end_);
     start_->OnChange([this] {
         if (end_->Seconds() < start_->Seconds()) end_->SetSeconds(start_->Seconds());
         ShowMoment(start_->Seconds());
@@ -129,19 +130,21 @@ void VideoDialog::AddTimes() {
 
 void VideoDialog::AddCrop() {
     constexpr const char* kNames[] = {"CropLeft", "CropTop", "CropWidth", "CropHeight"};
-    constexpr const char* kWords[] = {"Left", "Top", "Width of the cut", "Height of the cut"};
+    constexpr const char* kWords[] = {UiText::Later("Left"), UiText::Later("Top"),
+                                      UiText::Later("Width of the cut"),
+                                      UiText::Later("Height of the cut")};
     auto* row = new QWidget(this);
     auto* layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
     for (size_t i = 0; i < sides_.size(); ++i) {
         sides_[i] = new QSpinBox(row);
         sides_[i]->setObjectName(kNames[i]);
-        sides_[i]->setAccessibleName(kWords[i]);
-        sides_[i]->setToolTip(kWords[i]);
+        sides_[i]->setAccessibleName(UiText::tr(kWords[i]));
+        sides_[i]->setToolTip(UiText::tr(kWords[i]));
         layout->addWidget(sides_[i], 1);
         connect(sides_[i], &QSpinBox::valueChanged, this, [this] { KeepScale(); });
     }
-    AddField("C&ut (x, y, w, h):", row);
+    AddField(UiText::tr("C&ut (x, y, w, h):"), row);
     row->setFocusProxy(sides_[0]);
     picture_->LetDraw([this](const QRect& area) {
         const std::array<int, 4> values = {area.left(), area.top(), area.width(), area.height()};
@@ -239,7 +242,7 @@ void VideoDialog::Changed() {
     if (!video_) return;
     const auto frames = FramesOf(video_->video, Cut());
     summary_->setText(frames ? QString::fromStdString(DescribeFrames(*frames)) + '.'
-                             : QString("This part is not in the video."));
+                             : UiText::tr("This part is not in the video."));
     const bool whole = Area().size() == QSize(static_cast<int>(video_->video.width),
                                               static_cast<int>(video_->video.height));
     picture_->ShowArea(whole ? QRect() : Area());

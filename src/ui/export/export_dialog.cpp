@@ -13,7 +13,9 @@
 #include <QVBoxLayout>
 
 #include "app/save_animation.h"
+#include "base/core_text.h"
 #include "kit/alert.h"
+#include "kit/qt/ui_text.h"
 #include "ui/export/export_view.h"
 
 namespace kirto {
@@ -48,7 +50,7 @@ QString SizeTextOf(size_t bytes) {
 QString SentenceOfFailure(const ExportTrial::Outcome& outcome, ExportFormat format) {
     QString text = QString::fromStdString(SentenceOf(outcome.result, format));
     if (outcome.result == ExportResult::kTooManyBytes)
-        text += QString(" The smallest that was tried has %1.")
+        text += UiText::tr(" The smallest that was tried has %1.")
                     .arg(SizeTextOf(static_cast<size_t>(outcome.file.smallest)));
     return text;
 }
@@ -70,13 +72,13 @@ ExportDialog::ExportDialog(Source source, QWidget* parent)
       view_(new ExportView(this)),
       form_(new ExportForm(this)),
       preset_(new QComboBox(this)),
-      remove_(new QPushButton("Remo&ve", this)),
+      remove_(new QPushButton(UiText::tr("Remo&ve"), this)),
       size_(new QLabel(this)),
       given_up_(new QLabel(this)),
       buttons_(new QDialogButtonBox(QDialogButtonBox::Close, this)),
-      export_(buttons_->addButton("E&xport...", QDialogButtonBox::AcceptRole)) {
+      export_(buttons_->addButton(UiText::tr("E&xport..."), QDialogButtonBox::AcceptRole)) {
     setObjectName("Export");
-    setWindowTitle("Export");
+    setWindowTitle(UiText::tr("Export"));
     setAttribute(Qt::WA_DeleteOnClose);
     Arrange();
     resize(kExportWidth, kExportHeight);
@@ -105,7 +107,7 @@ void ExportDialog::Arrange() {
     given_up_->setObjectName("GivenUp");
     given_up_->setWordWrap(true);
     export_->setObjectName("Export");
-    auto* plays = new QCheckBox("Pla&y", this);
+    auto* plays = new QCheckBox(UiText::tr("Pla&y"), this);
     plays->setObjectName("Play");
     plays->setChecked(true);
     connect(plays, &QCheckBox::toggled, view_, &ExportView::SetPlaying);
@@ -128,11 +130,11 @@ QWidget* ExportDialog::MakePresets() {
     auto* row = new QWidget(this);
     auto* layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
-    auto* label = new QLabel("&Preset:", row);
+    auto* label = new QLabel(UiText::tr("&Preset:"), row);
     label->setBuddy(preset_);
     preset_->setObjectName("Preset");
-    preset_->setAccessibleName("Preset");
-    auto* keep = new QPushButton("Keep &As...", row);
+    preset_->setAccessibleName(UiText::tr("Preset"));
+    auto* keep = new QPushButton(UiText::tr("Keep &As..."), row);
     keep->setObjectName("KeepPreset");
     remove_->setObjectName("RemovePreset");
     for (QPushButton* button : {keep, remove_})
@@ -167,11 +169,11 @@ void ExportDialog::ShowPreset(const QString& name) {
 
 void ExportDialog::KeepPreset() {
     bool chosen = false;
-    const QString name =
-        QInputDialog::getText(this, "Keep Preset", "Name:", QLineEdit::Normal, "", &chosen);
+    const QString name = QInputDialog::getText(this, UiText::tr("Keep Preset"), UiText::tr("Name:"),
+                                               QLineEdit::Normal, "", &chosen);
     if (!chosen) return;
     if (presets_.Store(name.trimmed(), form_->Wish())) return ListPresets(name.trimmed());
-    Warn("The preset can't be kept under this name.");
+    Warn(CoreText::tr("The preset can't be kept under this name."));
 }
 
 void ExportDialog::RemovePreset() {
@@ -189,7 +191,7 @@ void ExportDialog::TryAgain() {
         ExportTrial::Task{source_.animation, source_.pause_in_seconds, source_.budget,
                           source_.roster, wish.settings, limit});
     size_->setEnabled(false);
-    if (!bytes_) size_->setText("Working...");
+    if (!bytes_) size_->setText(UiText::tr("Working..."));
     export_->setEnabled(false);
     trials_.Do([this, wish, trial = trial_](const std::atomic<bool>&) -> std::function<void()> {
         auto outcome = std::make_shared<ExportTrial::Outcome>(trial->Run());
@@ -205,15 +207,16 @@ void ExportDialog::Take(const ExportTrial::Outcome& outcome) {
     size_->setEnabled(true);
     if (outcome.result != ExportResult::kDone) {
         bytes_.reset();
-        size_->setText("No file");
+        size_->setText(UiText::tr("No file"));
         given_up_->setText(SentenceOfFailure(outcome, exported_.settings.format));
         return;
     }
     bytes_ = std::make_shared<const std::vector<uint8>>(outcome.file.bytes);
     size_->setText(SizeTextOf(bytes_->size()));
-    size_->setToolTip(QString("%1 bytes").arg(bytes_->size()));
+    size_->setToolTip(UiText::tr("%1 bytes").arg(bytes_->size()));
     const std::string given_up = GivenUp(exported_.settings, outcome.file.settings);
-    given_up_->setText(given_up.empty() ? "" : "With " + QString::fromStdString(given_up));
+    given_up_->setText(given_up.empty() ? ""
+                                        : UiText::tr("With ") + QString::fromStdString(given_up));
     export_->setEnabled(true);
     view_->ShowResult(outcome.shown);
 }
@@ -225,7 +228,7 @@ QString ExportDialog::ProposedPath() const {
 void ExportDialog::Choose() {
     const QString extension = ExtensionOf(exported_.settings.format);
     QString path = QFileDialog::getSaveFileName(
-        this, "Export As", ProposedPath(),
+        this, UiText::tr("Export As"), ProposedPath(),
         QString("%1 (*.%2)").arg(NameOf(exported_.settings.format), extension));
     if (path.isEmpty()) return;
     if (!path.contains('.')) path += '.' + extension;

@@ -7,6 +7,8 @@
 #include <QSlider>
 #include <QSpinBox>
 
+#include "kit/qt/ui_text.h"
+
 namespace kirto {
 
 namespace {
@@ -27,29 +29,31 @@ bool IsVideo(ExportFormat format) {
 ExportForm::ExportForm(QWidget* parent)
     : QWidget(parent), form_(new QFormLayout(this)), format_(new QComboBox(this)) {
     form_->setContentsMargins(0, 0, 0, 0);
-    for (const char* name : {"GIF", "WebP", "Animated PNG", "MP4 video", "WebM video"})
-        format_->addItem(name);
-    AddField("Format", "F&ormat:", format_);
-    colors_ = AddNumber("Colors", "&Colors:", 2, 256);
-    one_table_ = new QCheckBox("The same colors in all fra&mes", this);
+    for (const char* name :
+         {UiText::Later("GIF"), UiText::Later("WebP"), UiText::Later("Animated PNG"),
+          UiText::Later("MP4 video"), UiText::Later("WebM video")})
+        format_->addItem(UiText::tr(name));
+    AddField("Format", UiText::tr("F&ormat:"), format_);
+    colors_ = AddNumber("Colors", UiText::tr("&Colors:"), 2, 256);
+    one_table_ = new QCheckBox(UiText::tr("The same colors in all fra&mes"), this);
     AddField("OneTable", "", one_table_);
     dither_ = new QComboBox(this);
-    dither_->addItems({"none", "diffusion", "ordered"});
-    AddField("Dither", "&Dither:", dither_);
-    loss_ = AddSlider("Loss", "&Loss:", kMostLoss);
-    lossless_ = new QCheckBox("&Keep every pixel", this);
+    dither_->addItems({UiText::tr("none"), UiText::tr("diffusion"), UiText::tr("ordered")});
+    AddField("Dither", UiText::tr("&Dither:"), dither_);
+    loss_ = AddSlider("Loss", UiText::tr("&Loss:"), kMostLoss);
+    lossless_ = new QCheckBox(UiText::tr("&Keep every pixel"), this);
     AddField("Lossless", "", lossless_);
-    quality_ = AddSlider("Quality", "&Quality:", kMostQuality);
+    quality_ = AddSlider("Quality", UiText::tr("&Quality:"), kMostQuality);
     quality_->setValue(kUsualQuality);
-    scale_ = AddNumber("Scale", "&Scale:", 1, kMostScale, " %");
-    every_ = AddNumber("Every", "&Every n-th frame:", 1, kMostFramesAStep);
-    fits_ = new QCheckBox("Fit &under", this);
+    scale_ = AddNumber("Scale", UiText::tr("&Scale:"), 1, kMostScale, " %");
+    every_ = AddNumber("Every", UiText::tr("&Every n-th frame:"), 1, kMostFramesAStep);
+    fits_ = new QCheckBox(UiText::tr("Fit &under"), this);
     fits_->setObjectName("Fits");
     kilobytes_ = new QSpinBox(this);
     kilobytes_->setObjectName("Kilobytes");
-    kilobytes_->setAccessibleName("Fit under");
+    kilobytes_->setAccessibleName(UiText::tr("Fit under"));
     kilobytes_->setRange(1, kMostKilobytes);
-    kilobytes_->setSuffix(" KB");
+    kilobytes_->setSuffix(UiText::tr(" KB"));
     kilobytes_->setValue(kUsualKilobytes);
     form_->addRow(fits_, kilobytes_);
     connect(kilobytes_, &QSpinBox::valueChanged, this, [this] { Change(); });
@@ -69,14 +73,14 @@ ExportForm::ExportForm(QWidget* parent)
     ShowWish({});
 }
 
-void ExportForm::AddField(const char* name, const char* label, QWidget* field) {
+void ExportForm::AddField(const char* name, const QString& label, QWidget* field) {
     field->setObjectName(name);
     field->setAccessibleName(QString(label).remove('&').remove(':'));
     form_->addRow(label, field);
 }
 
-QSpinBox* ExportForm::AddNumber(const char* name, const char* label, int first, int last,
-                                const char* unit) {
+QSpinBox* ExportForm::AddNumber(const char* name, const QString& label, int first, int last,
+                                const QString& unit) {
     auto* number = new QSpinBox(this);
     number->setRange(first, last);
     number->setSuffix(unit);
@@ -85,7 +89,7 @@ QSpinBox* ExportForm::AddNumber(const char* name, const char* label, int first, 
     return number;
 }
 
-QSlider* ExportForm::AddSlider(const char* name, const char* label, int last) {
+QSlider* ExportForm::AddSlider(const char* name, const QString& label, int last) {
     auto* row = new QWidget(this);
     auto* slider = new QSlider(Qt::Horizontal, row);
     auto* number = new QSpinBox(row);

@@ -38,10 +38,10 @@ class ExportForm : public QWidget {
     }
 
   private:
-    QSpinBox* AddNumber(const char* name, const char* label, int first, int last,
-                        const char* unit = "");
-    QSlider* AddSlider(const char* name, const char* label, int last);
-    void AddField(const char* name, const char* label, QWidget* field);
+    QSpinBox* AddNumber(const char* name, const QString& label, int first, int last,
+                        const QString& unit = {});
+    QSlider* AddSlider(const char* name, const QString& label, int last);
+    void AddField(const char* name, const QString& label, QWidget* field);
     void ShowFields();
     void Change();
 

@@ -4,6 +4,7 @@
 #include <filesystem>
 
 #include "base/number.h"
+#include "kit/qt/ui_text.h"
 #include "settings/prefs.h"
 
 namespace kirto {
@@ -22,9 +23,9 @@ struct Preset {
     const char* text;
 };
 constexpr Preset kPresets[] = {
-    {"Chat 8 MB", "GIF colors=256 fit=8000"},
-    {"E-mail 1 MB", "GIF colors=128 fit=1000"},
-    {"Documentation", "WebP quality=lossless"},
+    {UiText::Later("Chat 8 MB"), "GIF colors=256 fit=8000"},
+    {UiText::Later("E-mail 1 MB"), "GIF colors=128 fit=1000"},
+    {UiText::Later("Documentation"), "WebP quality=lossless"},
 };
 
 std::optional<ExportFormat> FormatNamed(const QString& name) {
@@ -57,7 +58,7 @@ QString ExportPresets::UsualPath() {
 QStringList ExportPresets::Names() const {
     QStringList names;
     for (const Preset& preset : kPresets)
-        names << preset.name;
+        names << UiText::tr(preset.name);
     QSettings file(path_, QSettings::IniFormat);
     file.beginGroup(kPresetGroup);
     for (const QString& name : file.childKeys()) {
@@ -68,7 +69,7 @@ QStringList ExportPresets::Names() const {
 
 std::optional<ExportWish> ExportPresets::Find(const QString& name) const {
     for (const Preset& preset : kPresets) {
-        if (name == preset.name) return Parse(preset.text);
+        if (name == UiText::tr(preset.name)) return Parse(preset.text);
     }
     QSettings file(path_, QSettings::IniFormat);
     file.beginGroup(kPresetGroup);

@@ -7,6 +7,7 @@
 #include <chrono>
 #include <utility>
 
+#include "kit/qt/ui_text.h"
 #include "ui/player/picture_pane.h"
 
 namespace kirto {
@@ -25,8 +26,8 @@ ExportView::ExportView(QWidget* parent) : QWidget(parent), images_([this] { Show
     setObjectName("ExportView");
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    AddSide(&sides_[0], "Original", "Original");
-    AddSide(&sides_[1], "Result", "Result");
+    AddSide(&sides_[0], "Original", UiText::tr("Original"));
+    AddSide(&sides_[1], "Result", UiText::tr("Result"));
     for (size_t i = 0; i < sides_.size(); ++i) {
         PicturePane& pane = *sides_[i].pane;
         PicturePane& other = *sides_[1 - i].pane;
@@ -44,7 +45,7 @@ ExportView::~ExportView() {
         side.pane->WhenMoved({});
 }
 
-void ExportView::AddSide(Side* side, const char* name, const char* title) {
+void ExportView::AddSide(Side* side, const char* name, const QString& title) {
     auto* column = new QVBoxLayout;
     column->addWidget(new QLabel(title, this));
     side->pane = new PicturePane(this);

@@ -45,7 +45,7 @@ class ExportView : public QWidget {
         int32 shown = -1;  // the frame in the pane
     };
 
-    void AddSide(Side* side, const char* name, const char* title);
+    void AddSide(Side* side, const char* name, const QString& title);
     void Follow(const PicturePane& from, PicturePane& to);
     void ShowFrames();
     void ShowFrame(Side& side);

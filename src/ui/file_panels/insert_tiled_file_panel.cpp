@@ -9,8 +9,10 @@
 #include <QRadioButton>
 #include <QRegularExpressionValidator>
 
+#include "base/core_text.h"
 #include "base/number.h"
 #include "document/command_codes.h"
+#include "kit/qt/ui_text.h"
 #include "ui/controls/leading_key.h"
 #include "ui/file_panels/image_filter.h"
 
@@ -18,15 +20,15 @@ namespace {
 
 constexpr int kMaxDigits = 5;
 
-QLabel* MakeLabelFor(QWidget* field, const char* text, QWidget* parent) {
-    auto* label = new QLabel(QString::fromUtf8(text), parent);
+QLabel* MakeLabelFor(QWidget* field, const QString& text, QWidget* parent) {
+    auto* label = new QLabel(text, parent);
     label->setBuddy(field);
     field->setAccessibleName(label->text().remove('&'));
     return label;
 }
 
-QRadioButton* MakeOrder(const char* name, const char* label, QWidget* parent) {
-    auto* button = new QRadioButton(QString::fromUtf8(label), parent);
+QRadioButton* MakeOrder(const char* name, const QString& label, QWidget* parent) {
+    auto* button = new QRadioButton(label, parent);
     button->setObjectName(QString::fromUtf8(name));
     return button;
 }
@@ -35,9 +37,10 @@ QRadioButton* MakeOrder(const char* name, const char* label, QWidget* parent) {
 
 InsertTiledFilePanel::InsertTiledFilePanel(BMessenger target, BTranslatorRoster& roster,
                                            QPointer<QWidget> parent)
-    : OpenFilePanel({"Insert Tiled Frame", kirto::kInsertTiledFile, "Insert", false,
-                     [&roster] { return std::make_unique<ImageFilter>(roster); }},
-                    std::move(target), std::move(parent)),
+    : OpenFilePanel(
+          {CoreText::tr("Insert Tiled Frame"), kirto::kInsertTiledFile, CoreText::tr("Insert"),
+           false, [&roster] { return std::make_unique<ImageFilter>(roster); }},
+          std::move(target), std::move(parent)),
       roster_(roster) {}
 
 std::string InsertTiledFilePanel::RowsText() const {
@@ -78,11 +81,11 @@ void InsertTiledFilePanel::Prepare(kirto::FileDialog& dialog) {
     OpenFilePanel::Prepare(dialog);
     auto* controls = new QWidget(&dialog);
     QLineEdit* rows = MakeNumberField("Rows", &rows_, controls);
-    rows->setToolTip("Number of rows of tiles in the image");
+    rows->setToolTip(UiText::tr("Number of rows of tiles in the image"));
     QLineEdit* columns = MakeNumberField("Columns", &columns_, controls);
-    columns->setToolTip("Number of columns of tiles in the image");
-    QRadioButton* by_row = MakeOrder("RowByRow", "Row by row", controls);
-    QRadioButton* by_column = MakeOrder("ColumnByColumn", "Column by column", controls);
+    columns->setToolTip(UiText::tr("Number of columns of tiles in the image"));
+    QRadioButton* by_row = MakeOrder("RowByRow", UiText::tr("Row by row"), controls);
+    QRadioButton* by_column = MakeOrder("ColumnByColumn", UiText::tr("Column by column"), controls);
     (column_by_column_ ? by_column : by_row)->setChecked(true);
     QObject::connect(by_column, &QRadioButton::toggled, [this](bool on) {
         const std::lock_guard lock(mutex_);
@@ -91,10 +94,10 @@ void InsertTiledFilePanel::Prepare(kirto::FileDialog& dialog) {
 
     auto* layout = new QGridLayout(controls);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(MakeLabelFor(rows, "Rows:", controls), 0, 0);
+    layout->addWidget(MakeLabelFor(rows, UiText::tr("Rows:"), controls), 0, 0);
     layout->addWidget(rows, 0, 1);
     layout->addWidget(by_row, 0, 2);
-    layout->addWidget(MakeLabelFor(columns, "Columns:", controls), 1, 0);
+    layout->addWidget(MakeLabelFor(columns, UiText::tr("Columns:"), controls), 1, 0);
     layout->addWidget(columns, 1, 1);
     layout->addWidget(by_column, 1, 2);
     AddTileFields(*layout, controls);
@@ -141,8 +144,8 @@ void InsertTiledFilePanel::KeepSquare(QLineEdit* width, QLineEdit* height) {
 }
 
 void InsertTiledFilePanel::AddTileFields(QGridLayout& layout, QWidget* controls) {
-    const auto add = [&](const char* name, const char* label, const char* tip, std::string* text,
-                         int row, int column) {
+    const auto add = [&](const char* name, const QString& label, const QString& tip,
+                         std::string* text, int row, int column) {
         QLineEdit* field = MakeNumberField(name, text, controls);
         field->setToolTip(tip);
         QLabel* name_label = MakeLabelFor(field, label, controls);
@@ -158,20 +161,22 @@ void InsertTiledFilePanel::AddTileFields(QGridLayout& layout, QWidget* controls)
         layout.addLayout(pair, row, column);
         return field;
     };
-    constexpr const char* kTileTip =
+    const QString tile_tip = UiText::tr(
         "Size of a tile in pixels, in place of rows and columns; 0: by rows and columns. Width, "
-        "height and spacing may be typed at once: 64x48+2, or 64+2 for squares";
-    QLineEdit* width = add("TileWidth", "Tile &width:", kTileTip, &tile_width_, 2, 0);
-    QLineEdit* height = add("TileHeight", "Tile &height:", kTileTip, &tile_height_, 3, 0);
-    add("Margin", "&Margin:", "Pixels around all tiles", &margin_, 2, 2);
-    QLineEdit* spacing = add("Spacing", "&Spacing:", "Pixels between two tiles", &spacing_, 3, 2);
+        "height and spacing may be typed at once: 64x48+2, or 64+2 for squares");
+    QLineEdit* width = add("TileWidth", UiText::tr("Tile &width:"), tile_tip, &tile_width_, 2, 0);
+    QLineEdit* height =
+        add("TileHeight", UiText::tr("Tile &height:"), tile_tip, &tile_height_, 3, 0);
+    add("Margin", UiText::tr("&Margin:"), UiText::tr("Pixels around all tiles"), &margin_, 2, 2);
+    QLineEdit* spacing = add("Spacing", UiText::tr("&Spacing:"),
+                             UiText::tr("Pixels between two tiles"), &spacing_, 3, 2);
     KeepSquare(width, height);
     new kirto::LeadingKey(width, 'x', height);
     for (QLineEdit* field : {width, height})
         new kirto::LeadingKey(field, '+', spacing);
-    auto* skip = new QCheckBox("Skip &empty tiles", controls);
+    auto* skip = new QCheckBox(UiText::tr("Skip &empty tiles"), controls);
     skip->setObjectName("SkipEmpty");
-    skip->setToolTip("Makes no frames of tiles that are transparent everywhere");
+    skip->setToolTip(UiText::tr("Makes no frames of tiles that are transparent everywhere"));
     skip->setChecked(skip_empty_);
     QObject::connect(skip, &QCheckBox::toggled, [this](bool on) {
         {

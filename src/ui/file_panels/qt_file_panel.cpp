@@ -1,5 +1,6 @@
 #include "ui/file_panels/qt_file_panel.h"
 
+#include "base/core_text.h"
 #include "document/command_codes.h"
 #include "ui/file_panels/image_filter.h"
 #include "ui/file_panels/insert_tiled_file_panel.h"
@@ -15,12 +16,14 @@ std::unique_ptr<FilePanel> MakeQtFilePanel(FilePanelKind kind, BMessenger target
                                            std::function<void()> show_preferences) {
     switch (kind) {
         case FilePanelKind::kInsert: {
-            OpenPanelSetup setup{"Insert Frames", kInsertFiles, "Insert", true,
+            OpenPanelSetup setup{CoreText::tr("Insert Frames"), kInsertFiles,
+                                 CoreText::tr("Insert"), true,
                                  [&roster] { return std::make_unique<ImageFilter>(roster); }};
             return std::make_unique<OpenFilePanel>(std::move(setup), std::move(target), parent);
         }
         case FilePanelKind::kInsertAnimation: {
-            OpenPanelSetup setup{"Insert Animation", kInsertAnimations, "Insert", true,
+            OpenPanelSetup setup{CoreText::tr("Insert Animation"), kInsertAnimations,
+                                 CoreText::tr("Insert"), true,
                                  [] { return std::make_unique<KirtoFilter>(); }};
             return std::make_unique<OpenFilePanel>(std::move(setup), std::move(target), parent);
         }
@@ -32,7 +35,7 @@ std::unique_ptr<FilePanel> MakeQtFilePanel(FilePanelKind kind, BMessenger target
         case FilePanelKind::kOpen:
             break;
     }
-    OpenPanelSetup setup{"Open Animation", kOpenFile, "", false,
+    OpenPanelSetup setup{CoreText::tr("Open Animation"), kOpenFile, "", false,
                          [] { return std::make_unique<KirtoFilter>(); }};
     return std::make_unique<OpenFilePanel>(std::move(setup), std::move(target), parent);
 }

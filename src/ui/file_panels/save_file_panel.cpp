@@ -11,14 +11,20 @@
 #include <QStandardItemModel>
 
 #include "app/save_animation.h"
+#include "base/core_text.h"
 #include "document/command_codes.h"
 #include "kit/alert.h"
+#include "kit/qt/ui_text.h"
 #include "ui/file_panels/translator_menu_item.h"
 #include "ui/file_panels/translator_settings_window.h"
 
 namespace {
 
 constexpr int32 kReplace = 1;  // the alert's second button
+constexpr const char* kReplaceFile =
+    CoreText::Later("A file named \"%1\" already exists. Do you want to replace it?");
+constexpr const char* kReplaceSequence = CoreText::Later(
+    "A file named \"%1\" already exists. Do you want to replace the files of this sequence?");
 
 BMessage SaveMessage(int32 translator) {
     BMessage message(kirto::kSaveFile);
@@ -26,10 +32,10 @@ BMessage SaveMessage(int32 translator) {
     return message;
 }
 
-bool MayReplace(const QString& name, const char* what) {
-    const std::string text = "A file named \"" + name.toStdString() +
-                             "\" already exists. Do you want to replace " + what + "?";
-    BAlert alert("", text, "Cancel", "Replace");
+// question: with the name in it.
+bool MayReplace(const QString& name, const char* question) {
+    BAlert alert("", CoreText::With(CoreText::tr(question), {name.toStdString()}),
+                 CoreText::Later("Cancel"), CoreText::Later("Replace"));
     return alert.Go() == kReplace;
 }
 
@@ -37,7 +43,7 @@ bool MayReplace(const QString& name, const char* what) {
 
 SaveFilePanel::SaveFilePanel(BMessenger target, const BTranslatorRoster& roster,
                              QPointer<QWidget> parent, std::function<void()> show_preferences)
-    : FileDialogPanel("Save Animation", std::move(target), std::move(parent)),
+    : FileDialogPanel(CoreText::tr("Save Animation"), std::move(target), std::move(parent)),
       BHandler("SaveFilePanel"),
       roster_(roster),
       show_preferences_(std::move(show_preferences)),
@@ -77,16 +83,16 @@ void SaveFilePanel::Closed(bool chosen) {
 
 void SaveFilePanel::MakeControls(kirto::FileDialog& dialog) {
     auto* controls = new QWidget(&dialog);
-    auto* label = new QLabel("Format:", controls);
+    auto* label = new QLabel(UiText::tr("Format:"), controls);
     format_ = new QComboBox(controls);
     format_->setObjectName("FormatMenuField");
     format_->view()->setObjectName("FormatPopUpMenu");
     format_->setAccessibleName(label->text());
-    format_->setToolTip("One animation, or one image file per frame");
+    format_->setToolTip(UiText::tr("One animation, or one image file per frame"));
     label->setBuddy(format_);
-    auto* settings = new QPushButton("Settings...", controls);
+    auto* settings = new QPushButton(UiText::tr("Settings..."), controls);
     settings->setObjectName("Settings");
-    settings->setToolTip("Options of the chosen format");
+    settings->setToolTip(UiText::tr("Options of the chosen format"));
     settings->setAutoDefault(false);
     QObject::connect(format_, &QComboBox::activated, [this] {
         BMessage chosen(MarkedItem()->Command());
@@ -108,7 +114,8 @@ void SaveFilePanel::MakeControls(kirto::FileDialog& dialog) {
 
 void SaveFilePanel::BuildMenu() {
     auto* items = new QStandardItemModel(format_);
-    items->appendRow(new TranslatorMenuItem("Animated GIF", kirto::kSaveFormat, 0, 0));
+    items->appendRow(
+        new TranslatorMenuItem(CoreText::tr("Animated GIF"), kirto::kSaveFormat, 0, 0));
     for (const translator_id translator : roster_.Translators())
         AddTranslator(translator, *items);
     format_->setModel(items);
@@ -119,8 +126,9 @@ void SaveFilePanel::BuildMenu() {
 void SaveFilePanel::AddTranslator(translator_id translator, QStandardItemModel& items) {
     for (const translation_format& format : roster_.OutputFormats(translator)) {
         if (format.type == B_TRANSLATOR_BITMAP) continue;
-        items.appendRow(new TranslatorMenuItem(format.name + " sequence", kirto::kSaveFormat,
-                                               static_cast<int32>(translator), format.type));
+        items.appendRow(new TranslatorMenuItem(
+            CoreText::With(CoreText::tr("%1 sequence"), {format.name}), kirto::kSaveFormat,
+            static_cast<int32>(translator), format.type));
     }
 }
 
@@ -206,10 +214,10 @@ BMessage SaveFilePanel::CommandFor(const QStringList& files) const {
 
 bool SaveFilePanel::MayWrite(const QString& path) const {
     const QFileInfo file(path);
-    if (GetOutputFormat() == 0) return !file.exists() || MayReplace(file.fileName(), "it");
+    if (GetOutputFormat() == 0) return !file.exists() || MayReplace(file.fileName(), kReplaceFile);
     const std::string name = kirto::SequenceFileName(file.fileName().toStdString(), 0);
     const QFileInfo first(file.dir(), QString::fromStdString(name));
-    return !first.exists() || MayReplace(first.fileName(), "the files of this sequence");
+    return !first.exists() || MayReplace(first.fileName(), kReplaceSequence);
 }
 
 void SaveFilePanel::TranslatorSettings() {

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "kit/qt/ui_text.h"
 #include "ui/controls/picture_painter.h"
 
 namespace kirto {
@@ -30,7 +31,7 @@ SheetView::SheetView(BTranslatorRoster& roster, QWidget* parent)
       text_(new QLabel(this)),
       reader_(roster, [this](const ReadSheet& sheet) { Receive(sheet); }) {
     setObjectName("SheetView");
-    setAccessibleName("Sheet");
+    setAccessibleName(UiText::tr("Sheet"));
     text_->setObjectName("SheetText");
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

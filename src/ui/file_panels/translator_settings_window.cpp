@@ -8,6 +8,8 @@
 #include <QSpinBox>
 #include <limits>
 
+#include "kit/qt/ui_text.h"
+
 namespace kirto {
 
 namespace {
@@ -21,10 +23,10 @@ struct KnownSetting {
 };
 
 constexpr KnownSetting kKnownSettings[] = {
-    {"quality", "Quality", 0, 100},
-    {"compression", "Compression", 0, 9},
-    {"lossless", "Lossless", 0, 0},
-    {"rle", "Run-length encoding", 0, 0},
+    {"quality", UiText::Later("Quality"), 0, 100},
+    {"compression", UiText::Later("Compression"), 0, 9},
+    {"lossless", UiText::Later("Lossless"), 0, 0},
+    {"rle", UiText::Later("Run-length encoding"), 0, 0},
 };
 
 constexpr double kMaxReal = 1e9;
@@ -39,7 +41,7 @@ const KnownSetting* FindKnown(const std::string& name) {
 
 QString LabelFor(const std::string& name) {
     const KnownSetting* known = FindKnown(name);
-    return known ? QString::fromUtf8(known->label) : QString::fromStdString(name);
+    return known ? UiText::tr(known->label) : QString::fromStdString(name);
 }
 
 QDoubleSpinBox* MakeRealField(double value) {
@@ -56,7 +58,7 @@ TranslatorSettingsWindow::TranslatorSettingsWindow(BMessage settings,
                                                    std::function<void(const BMessage&)> changed,
                                                    QWidget* parent)
     : QDialog(parent), settings_(std::move(settings)), changed_(std::move(changed)) {
-    setWindowTitle("Translator Settings");
+    setWindowTitle(UiText::tr("Translator Settings"));
     setAttribute(Qt::WA_DeleteOnClose);
     auto* form = new QFormLayout(this);
     for (int32 i = 0; i < settings_.CountNames(); ++i) {

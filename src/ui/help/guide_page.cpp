@@ -7,6 +7,8 @@
 #include <QTextDocument>
 #include <utility>
 
+#include "kit/qt/ui_text.h"
+
 namespace kirto {
 
 namespace {
@@ -19,7 +21,7 @@ constexpr int kSmallestRoom = 64;  // pixels
 
 GuidePage::GuidePage(QWidget* parent) : QTextBrowser(parent) {
     setObjectName("GuidePage");
-    setAccessibleName("Guide");
+    setAccessibleName(UiText::tr("Guide"));
     setOpenExternalLinks(true);
     // Or the room for pictures would depend on them.
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);

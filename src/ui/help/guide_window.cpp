@@ -11,6 +11,7 @@
 #include <QUrl>
 #include <QVBoxLayout>
 
+#include "kit/qt/ui_text.h"
 #include "ui/help/guide_folder.h"
 #include "ui/help/guide_page.h"
 
@@ -21,7 +22,8 @@ namespace {
 constexpr int kGuideWidthInLetters = 110;
 constexpr int kGuideHeightInLines = 40;
 
-QPushButton* MakeButton(const char* name, const char* label, const char* tip, QWidget* parent) {
+QPushButton* MakeButton(const char* name, const QString& label, const QString& tip,
+                        QWidget* parent) {
     auto* button = new QPushButton(label, parent);
     button->setObjectName(name);
     button->setToolTip(tip);
@@ -33,7 +35,7 @@ QPushButton* MakeButton(const char* name, const char* label, const char* tip, QW
 GuideWindow::GuideWindow(const QString& folder, QWidget* parent)
     : QWidget(parent, Qt::Window), page_(new GuidePage(this)), note_(new QLabel(this)) {
     setObjectName("GuideWindow");
-    setWindowTitle("Kirto - Guide");
+    setWindowTitle(UiText::tr("Kirto - Guide"));
     setAttribute(Qt::WA_DeleteOnClose);
     note_->setObjectName("GuideNote");
     note_->setWordWrap(true);
@@ -53,13 +55,13 @@ GuideWindow::GuideWindow(const QString& folder, QWidget* parent)
     layout->activate();
 
     page_->WhenMissing([this](const QString& path) {
-        note_->setText(QString("The page \"%1\" is not part of the installed guide.")
+        note_->setText(UiText::tr("The page \"%1\" is not part of the installed guide.")
                            .arg(QFileInfo(path).fileName()));
         note_->show();
     });
     connect(page_, &QTextBrowser::sourceChanged, note_, &QWidget::hide);
     if (folder.isEmpty()) {
-        page_->setPlainText("The guide is not installed with this program.");
+        page_->setPlainText(UiText::tr("The guide is not installed with this program."));
     } else {
         page_->setSource(QUrl::fromLocalFile(folder + "/README.md"));
     }
@@ -68,14 +70,17 @@ GuideWindow::GuideWindow(const QString& folder, QWidget* parent)
 
 QWidget* GuideWindow::MakeControls(const QString& folder) {
     auto* controls = new QWidget(this);
-    auto* contents = MakeButton("Contents", "&Contents", "The first page", controls);
-    auto* back = MakeButton("Back", "&Back", "The page before this one (Alt+Left)", controls);
-    auto* forward = MakeButton("Forward", "&Forward", "The page after it (Alt+Right)", controls);
-    auto* label = new QLabel("F&ind:", controls);
+    auto* contents =
+        MakeButton("Contents", UiText::tr("&Contents"), UiText::tr("The first page"), controls);
+    auto* back = MakeButton("Back", UiText::tr("&Back"),
+                            UiText::tr("The page before this one (Alt+Left)"), controls);
+    auto* forward = MakeButton("Forward", UiText::tr("&Forward"),
+                               UiText::tr("The page after it (Alt+Right)"), controls);
+    auto* label = new QLabel(UiText::tr("F&ind:"), controls);
     wanted_ = new QLineEdit(controls);
     wanted_->setObjectName("Find");
-    wanted_->setAccessibleName("Find on this page");
-    wanted_->setToolTip("Finds a text on this page; Return finds the next place");
+    wanted_->setAccessibleName(UiText::tr("Find on this page"));
+    wanted_->setToolTip(UiText::tr("Finds a text on this page; Return finds the next place"));
     wanted_->setClearButtonEnabled(true);
     label->setBuddy(wanted_);
 
@@ -110,7 +115,7 @@ void GuideWindow::FindNext() {
         page_->moveCursor(QTextCursor::Start);
         found = page_->find(text);
     }
-    note_->setText(QString("\"%1\" is not on this page.").arg(text));
+    note_->setText(UiText::tr("\"%1\" is not on this page.").arg(text));
     note_->setVisible(!found);
 }
 

@@ -5,6 +5,7 @@
 
 #include "animation/pauses.h"
 #include "document/new_animation.h"
+#include "kit/qt/ui_text.h"
 #include "ui/controls/check_input.h"
 
 namespace kirto {
@@ -24,7 +25,7 @@ FieldPanel::FieldPanel(const char* name, const QString& title, const ShownDocume
     setObjectName(name);
 }
 
-TextControl* FieldPanel::MakeNumber(uint32 command, const char* tip, QCheckBox* box) {
+TextControl* FieldPanel::MakeNumber(uint32 command, const QString& tip, QCheckBox* box) {
     const Field* field = FieldOf(command);
     TextControl* number = MakeField(field->name, command, window_, this);
     number->SetText("0");
@@ -34,15 +35,15 @@ TextControl* FieldPanel::MakeNumber(uint32 command, const char* tip, QCheckBox* 
     return number;
 }
 
-TextControl* FieldPanel::AddNumber(uint32 command, Unit unit, const char* tip, const char* label,
-                                   QCheckBox* box) {
+TextControl* FieldPanel::AddNumber(uint32 command, Unit unit, const QString& tip,
+                                   const QString& label, QCheckBox* box) {
     TextControl* number = MakeNumber(command, tip, box);
-    const QString text = label ? QString(label) : number->objectName() + ":";
+    const QString text = label.isEmpty() ? UiText::tr(FieldOf(command)->name) + ":" : label;
     rows_->AddField(text, number, MakeUnit(unit));
     return number;
 }
 
-TextControl* FieldPanel::AddNumber(uint32 command, Unit unit, const char* tip, QCheckBox* box) {
+TextControl* FieldPanel::AddNumber(uint32 command, Unit unit, const QString& tip, QCheckBox* box) {
     TextControl* number = MakeNumber(command, tip, box);
     rows_->AddField(box, number, MakeUnit(unit));
     return number;
@@ -50,16 +51,17 @@ TextControl* FieldPanel::AddNumber(uint32 command, Unit unit, const char* tip, Q
 
 QLabel* FieldPanel::MakeUnit(Unit unit) {
     if (unit == Unit::kNone) return nullptr;
-    QLabel* label = MakeLabel("Unit", unit == Unit::kPixels ? "px" : "1/100 s", this);
+    QLabel* label =
+        MakeLabel("Unit", unit == Unit::kPixels ? UiText::tr("px") : UiText::tr("1/100 s"), this);
     if (unit == Unit::kPause) pause_unit_ = label;
     return label;
 }
 
 void FieldPanel::AddPauseText() {
-    pause_text_ = MakeLabel("PauseText", "0 ms", this);
+    pause_text_ = MakeLabel("PauseText", UiText::tr("%1 ms").arg(0), this);
     // It must not make the panel wider and narrower as the number changes.
     pause_text_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    pause_text_->setAccessibleDescription("What the pause is in other units");
+    pause_text_->setAccessibleDescription(UiText::tr("What the pause is in other units"));
     rows_->AddBelow(pause_text_);
 }
 
@@ -70,21 +72,22 @@ void FieldPanel::ShowPause(const Animation& animation) {
     if (ShowsFrame()) pause = frame ? animation.PauseOf(*frame) : 0;
     const double milliseconds = pause * kMillisecondsPerSecond /
                                 PauseUnitsPerSecond(shown_.Settings().global_pauseinseconds);
-    QString text = QString("%1 ms").arg(milliseconds, 0, 'g', 6);
+    QString text = UiText::tr("%1 ms").arg(milliseconds, 0, 'g', 6);
     if (milliseconds > 0)
-        text += QString(", %1 fps").arg(kMillisecondsPerSecond / milliseconds, 0, 'g', 3);
+        text += UiText::tr(", %1 fps").arg(kMillisecondsPerSecond / milliseconds, 0, 'g', 3);
     kirto::ShowText(*pause_text_, text);
 }
 
-QCheckBox* FieldPanel::MakeSwitch(uint32 command, const char* tip, const char* label) {
+QCheckBox* FieldPanel::MakeSwitch(uint32 command, const QString& tip, const QString& label) {
     const Field* field = FieldOf(command);
-    QCheckBox* box = MakeCheckBox(field->name, label ? label : field->name, command, window_, this);
+    QCheckBox* box = MakeCheckBox(field->name, label.isEmpty() ? UiText::tr(field->name) : label,
+                                  command, window_, this);
     box->setToolTip(tip);
     fields_.push_back({field, nullptr, box, false});
     return box;
 }
 
-QComboBox* FieldPanel::MakePaletteMenu(const std::vector<MenuChoice>& kinds, const char* tip) {
+QComboBox* FieldPanel::MakePaletteMenu(const std::vector<MenuChoice>& kinds, const QString& tip) {
     palette_menu_ = MakePopUpMenu("PaletteMenuField", kinds, window_, this);
     palette_menu_->view()->setObjectName("WhichPalette");
     palette_menu_->setToolTip(tip);
@@ -103,7 +106,9 @@ void FieldPanel::ResetDisplay() {
 void FieldPanel::Show(const Animation& animation, bool end_edits) {
     if (pause_text_) ShowPause(animation);
     if (pause_unit_)
-        kirto::ShowText(*pause_unit_, shown_.Settings().global_pauseinseconds ? "s" : "1/100 s");
+        kirto::ShowText(*pause_unit_, shown_.Settings().global_pauseinseconds
+                                          ? UiText::tr("s")
+                                          : UiText::tr("1/100 s"));
     const bool has_frame = animation.CurrentFrame() != nullptr;
     for (const Row& row : fields_) {
         const Field::Value value = row.field->In(animation);
@@ -127,7 +132,7 @@ void FieldPanel::ShowMixed(const Row& row) {
     if (row.box) {
         row.box->setCheckState(Qt::PartiallyChecked);
     } else {
-        row.number->setPlaceholderText("mixed");
+        row.number->setPlaceholderText(UiText::tr("mixed"));
         row.number->ShowText({});
     }
 }

@@ -41,16 +41,16 @@ class FieldPanel : public QGroupBox {
 
     // In a row of its own, behind the label; without one, behind the field's name. The box switches
     // it, if there is one.
-    TextControl* AddNumber(uint32 command, Unit unit, const char* tip, const char* label = nullptr,
+    TextControl* AddNumber(uint32 command, Unit unit, const QString& tip, const QString& label = {},
                            QCheckBox* box = nullptr);
     // Behind the box that switches it.
-    TextControl* AddNumber(uint32 command, Unit unit, const char* tip, QCheckBox* box);
+    TextControl* AddNumber(uint32 command, Unit unit, const QString& tip, QCheckBox* box);
     // A line for what the pause is in milliseconds and frames per second.
     void AddPauseText();
     // Not placed yet. Without a label it is the field's name.
-    QCheckBox* MakeSwitch(uint32 command, const char* tip, const char* label = nullptr);
+    QCheckBox* MakeSwitch(uint32 command, const QString& tip, const QString& label = {});
     // Not placed yet. Of the kinds of palette, of which the panel has one menu.
-    QComboBox* MakePaletteMenu(const std::vector<MenuChoice>& kinds, const char* tip);
+    QComboBox* MakePaletteMenu(const std::vector<MenuChoice>& kinds, const QString& tip);
 
     // end_edits: also those numbers that the user is typing.
     virtual void Show(const Animation& animation, bool end_edits);
@@ -70,7 +70,7 @@ class FieldPanel : public QGroupBox {
     };
 
     static void ShowMixed(const Row& row);
-    TextControl* MakeNumber(uint32 command, const char* tip, QCheckBox* box);
+    TextControl* MakeNumber(uint32 command, const QString& tip, QCheckBox* box);
     QLabel* MakeUnit(Unit unit);
     BMessage Checked(const Row& row) const;
 

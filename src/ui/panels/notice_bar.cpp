@@ -3,6 +3,7 @@
 #include <QAccessible>
 #include <QPainter>
 
+#include "kit/qt/ui_text.h"
 #include "ui/controls/controls.h"
 
 namespace {
@@ -19,7 +20,7 @@ QColor Mixed(const QColor& first, const QColor& second, int percent) {
 NoticeBar::NoticeBar(BMessenger window, QWidget* parent)
     : QWidget(parent), window_(std::move(window)), layout_(new QHBoxLayout(this)) {
     setObjectName("NoticeBar");
-    setAccessibleName("Notice");
+    setAccessibleName(UiText::tr("Notice"));
     text = kirto::MakeLabel("Notice", "", this);
     text->setWordWrap(true);
     layout_->setContentsMargins(8, 4, 8, 4);
@@ -31,7 +32,7 @@ void NoticeBar::ShowNotice(const BMessage& message) {
     HideNotice();
     std::string words;
     message.FindString("text", &words);
-    text->setText(QString::fromStdString(words));
+    text->setText(UiText::tr(words.c_str()));
     setAccessibleDescription(text->text());
     std::string label;
     int32 command = 0;
@@ -54,7 +55,8 @@ void NoticeBar::HideNotice() {
 
 void NoticeBar::AddButton(const std::string& label, uint32 command) {
     const std::string name = "Notice" + label;
-    buttons.push_back(kirto::MakeButton(name.c_str(), label.c_str(), command, window_, this));
+    buttons.push_back(
+        kirto::MakeButton(name.c_str(), UiText::tr(label.c_str()), command, window_, this));
     layout_->addWidget(buttons.back());
 }
 

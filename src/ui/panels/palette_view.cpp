@@ -1,27 +1,30 @@
 #include "ui/panels/palette_view.h"
 
 #include "document/command_codes.h"
+#include "kit/qt/ui_text.h"
 
 PaletteView::PaletteView(const kirto::ShownDocument& shown, const BMessenger& window,
                          QWidget* parent)
-    : FieldPanel("PaletteView", "Palette:", shown, window, parent) {
+    : FieldPanel("PaletteView", UiText::tr("Palette:"), shown, window, parent) {
     menu = MakePaletteMenu(
-        {{"BeOS system", kirto::kPaletteToSystem, kirto::kPaletteSystem},
-         {"web safe", kirto::kPaletteToWebSafe, kirto::kPaletteWebSafe},
-         {"greyscale", kirto::kPaletteToGreyscale, kirto::kPaletteGreyscale},
-         {"first frame", kirto::kPaletteToFirstFrame, kirto::kPaletteFirstFrame},
-         {"current frame", kirto::kPaletteToCurrentFrame, kirto::kPaletteCurrentFrame},
-         {"from a file", kirto::kPaletteToFile, kirto::kPaletteFromFile}},
-        "The colors used to save all frames that have no palette of their own");
-    Rows().AddField("Mapping:", menu);
-    dither = MakeSwitch(kirto::kSetDither, "Approximate missing colors by dithering");
+        {{UiText::tr("BeOS system"), kirto::kPaletteToSystem, kirto::kPaletteSystem},
+         {UiText::tr("web safe"), kirto::kPaletteToWebSafe, kirto::kPaletteWebSafe},
+         {UiText::tr("greyscale"), kirto::kPaletteToGreyscale, kirto::kPaletteGreyscale},
+         {UiText::tr("first frame"), kirto::kPaletteToFirstFrame, kirto::kPaletteFirstFrame},
+         {UiText::tr("current frame"), kirto::kPaletteToCurrentFrame, kirto::kPaletteCurrentFrame},
+         {UiText::tr("from a file"), kirto::kPaletteToFile, kirto::kPaletteFromFile}},
+        UiText::tr("The colors used to save all frames that have no palette of their own"));
+    Rows().AddField(UiText::tr("Mapping:"), menu);
+    dither = MakeSwitch(kirto::kSetDither, UiText::tr("Approximate missing colors by dithering"));
     Rows().AddWide(dither);
-    background_index =
-        AddNumber(kirto::kSetBackgroundIndex, Unit::kNone, "Palette index of the background color");
-    transparent = MakeSwitch(kirto::kUseTransparent, "Make one color of the palette transparent",
-                             "Transparent index:");
-    transparent_index = AddNumber(kirto::kSetTransparentIndex, Unit::kNone,
-                                  "Palette index of the transparent color", transparent);
+    background_index = AddNumber(kirto::kSetBackgroundIndex, Unit::kNone,
+                                 UiText::tr("Palette index of the background color"));
+    transparent =
+        MakeSwitch(kirto::kUseTransparent, UiText::tr("Make one color of the palette transparent"),
+                   UiText::tr("Transparent index:"));
+    transparent_index =
+        AddNumber(kirto::kSetTransparentIndex, Unit::kNone,
+                  UiText::tr("Palette index of the transparent color"), transparent);
 }
 
 void PaletteView::AllowDither(bool allow) {

@@ -4,12 +4,15 @@
 #include <array>
 #include <cmath>
 
+#include "kit/qt/ui_text.h"
+
 namespace kirto {
 
 QString SizeText(int64 bytes, int digits) {
     constexpr int64 kThousand = 1000;
-    if (bytes < kThousand) return QString("%1 bytes").arg(bytes);
-    static constexpr std::array<const char*, 3> kUnits = {"kB", "MB", "GB"};
+    if (bytes < kThousand) return UiText::tr("%1 bytes").arg(bytes);
+    static constexpr std::array<const char*, 3> kUnits = {
+        UiText::Later("%1 kB"), UiText::Later("%1 MB"), UiText::Later("%1 GB")};
     size_t unit = 0;
     double value = static_cast<double>(bytes) / kThousand;
     const auto rounded = [digits](double number) {
@@ -23,9 +26,7 @@ QString SizeText(int64 bytes, int digits) {
     }
     value = rounded(value);
     const int whole = static_cast<int>(std::floor(std::log10(value))) + 1;
-    return QString("%1 %2")
-        .arg(value, 0, 'f', std::max(digits - whole, 0))
-        .arg(QString::fromUtf8(kUnits[unit]));
+    return UiText::tr(kUnits[unit]).arg(value, 0, 'f', std::max(digits - whole, 0));
 }
 
 }  // namespace kirto

@@ -6,6 +6,7 @@
 
 #include "animation/pauses.h"
 #include "document/command_codes.h"
+#include "kit/qt/ui_text.h"
 #include "ui/controls/controls.h"
 #include "ui/panels/size_text.h"
 
@@ -18,7 +19,7 @@ constexpr int kSizesIndent = 8;  // tells them from what stands before
 StatusView::StatusView(const kirto::ShownDocument& shown, const BMessenger& window, QWidget* parent)
     : QWidget(parent), shown_(shown) {
     setObjectName("StatusView");
-    status = kirto::MakeLabel("Status", "Status: 0 frame(s), unmodified", this);
+    status = kirto::MakeLabel("Status", UiText::tr("Status: 0 frame(s), unmodified"), this);
     // Long names in the text must not widen the window.
     status->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     selection = kirto::MakeLabel("Selection", "", this);
@@ -26,10 +27,10 @@ StatusView::StatusView(const kirto::ShownDocument& shown, const BMessenger& wind
     sizes->setIndent(kSizesIndent);
     progress = new QProgressBar(this);
     progress->setObjectName("Progress");
-    progress->setAccessibleName("Progress");
+    progress->setAccessibleName(UiText::tr("Progress"));
     progress->setMaximumWidth(fontMetrics().horizontalAdvance("0") * 24);
-    cancel = kirto::MakeButton("Cancel", "Cancel", kirto::kStopWork, window, this);
-    cancel->setToolTip("Stops what is being done; what is complete is kept");
+    cancel = kirto::MakeButton("Cancel", UiText::tr("Cancel"), kirto::kStopWork, window, this);
+    cancel->setToolTip(UiText::tr("Stops what is being done; what is complete is kept"));
     // The keyboard stays where it is: Escape does the same.
     cancel->setFocusPolicy(Qt::NoFocus);
     HideWork();
@@ -52,9 +53,10 @@ void StatusView::UpdateDisplay(const char* text) {
     if (text) {
         kirto::ShowText(*status, QString::fromUtf8(text));
     } else {
-        kirto::ShowText(*status, QString("Status: %1 frame(s), %2")
+        kirto::ShowText(*status, UiText::tr("Status: %1 frame(s), %2")
                                      .arg(shown_.FrameCount())
-                                     .arg(shown_.State().modified ? "modified" : "unmodified"));
+                                     .arg(shown_.State().modified ? UiText::tr("modified")
+                                                                  : UiText::tr("unmodified")));
     }
     if (meter_) meter_->Measure(shown_.StatePointer());
     UpdateSizes();
@@ -85,16 +87,16 @@ void StatusView::UpdateSizes() {
         return sizes->setToolTip({});
     }
     constexpr int kDigits = 3;
-    const QString memory =
-        kirto::SizeText(static_cast<int64>(memory_->Used()), kDigits) + " in memory";
+    const QString memory = UiText::tr("%1 in memory")
+                               .arg(kirto::SizeText(static_cast<int64>(memory_->Used()), kDigits));
     QString file;
-    QString bytes = "The size of the file is not known yet.";
+    QString bytes = UiText::tr("The size of the file is not known yet.");
     if (const auto size = meter_->Last()) {
-        file = (size->is_exact ? "file " : "file about ") +
-               kirto::SizeText(size->bytes, size->is_exact ? kDigits : kDigits - 1);
-        bytes = QString("Saved as a GIF file, it has %1%2 bytes.")
-                    .arg(size->is_exact ? "" : "about ")
-                    .arg(QLocale::c().toString(qlonglong{size->bytes}));
+        file = (size->is_exact ? UiText::tr("file %1") : UiText::tr("file about %1"))
+                   .arg(kirto::SizeText(size->bytes, size->is_exact ? kDigits : kDigits - 1));
+        bytes = (size->is_exact ? UiText::tr("Saved as a GIF file, it has %1 bytes.")
+                                : UiText::tr("Saved as a GIF file, it has about %1 bytes."))
+                    .arg(QLocale().toString(qlonglong{size->bytes}));
     }
     const QString all = file.isEmpty() ? memory : memory + ", " + file;
     const int room = RoomForSizes();
@@ -103,7 +105,8 @@ void StatusView::UpdateSizes() {
     for (const QString& choice : {file, all})
         if (metrics.horizontalAdvance(choice) <= room) text = choice;
     kirto::ShowText(*sizes, text);
-    sizes->setToolTip("The animation and what can be undone take " + memory + ".\n" + bytes);
+    sizes->setToolTip(UiText::tr("The animation and what can be undone take %1.").arg(memory) +
+                      "\n" + bytes);
 }
 
 void StatusView::resizeEvent(QResizeEvent* event) {
@@ -121,21 +124,21 @@ void StatusView::ShowSelection() {
     };
     const int32 count = animation.frames.Size();
     const double seconds = seconds_of(kirto::FrameSet::AllOf(count));
-    QString text = QString("%1 s").arg(seconds, 0, 'f', 2);
+    QString text = UiText::tr("%1 s").arg(seconds, 0, 'f', 2);
     if (!animation.several.Empty()) {
-        text = QString("%1 of %2 selected, %3 s of ")
+        text = UiText::tr("%1 of %2 selected, %3 s of %4")
                    .arg(animation.several.Count())
                    .arg(count)
-                   .arg(seconds_of(animation.several), 0, 'f', 2) +
-               text;
+                   .arg(seconds_of(animation.several), 0, 'f', 2)
+                   .arg(text);
     }
-    if (seconds > 0) text += QString(", %1 fps").arg(count / seconds, 0, 'g', 3);
+    if (seconds > 0) text += UiText::tr(", %1 fps").arg(count / seconds, 0, 'g', 3);
     kirto::ShowText(*selection, text);
 }
 
 void StatusView::ResetDisplay() {
     kirto::ShowText(*selection, {});
-    kirto::ShowText(*status, "Status: 0 frame(s), unmodified");
+    kirto::ShowText(*status, UiText::tr("Status: 0 frame(s), unmodified"));
     HideWork();
     if (meter_) meter_->Measure(shown_.StatePointer());
 }

@@ -4,6 +4,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include "kit/qt/ui_text.h"
 #include "ui/controls/controls.h"
 #include "ui/controls/folding_row.h"
 
@@ -41,15 +42,15 @@ QLayout* LookBar::MakeZoom() {
         connect(button, &QToolButton::clicked, this, act);
         row->addWidget(button);
     };
-    add("ZoomOut", QString(QChar(0x2212)), "Smaller", "-", [this] { pane_.ZoomOut(); });
+    add("ZoomOut", QString(QChar(0x2212)), UiText::tr("Smaller"), "-", [this] { pane_.ZoomOut(); });
     zoom_ = MakeLabel("PlayerZoom", "", this);
     zoom_->setAlignment(Qt::AlignCenter);
-    zoom_->setAccessibleDescription("How large pixels are shown");
+    zoom_->setAccessibleDescription(UiText::tr("How large pixels are shown"));
     zoom_->setMinimumWidth(fontMetrics().horizontalAdvance("3200%"));
     row->addWidget(zoom_);
-    add("ZoomIn", "+", "Larger", "+", [this] { pane_.ZoomIn(); });
-    add("ZoomFit", "Fit", "As large as fits", "0", [this] { pane_.Fit(); });
-    add("ZoomWhole", "100%", "In its own size", "1", [this] { pane_.SetZoom(1); });
+    add("ZoomIn", "+", UiText::tr("Larger"), "+", [this] { pane_.ZoomIn(); });
+    add("ZoomFit", UiText::tr("Fit"), UiText::tr("As large as fits"), "0", [this] { pane_.Fit(); });
+    add("ZoomWhole", "100%", UiText::tr("In its own size"), "1", [this] { pane_.SetZoom(1); });
     pixel_ = MakeLabel("PlayerPixel", "", this);
     pixel_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     pixel_->setMinimumWidth(fontMetrics().horizontalAdvance("0000, 0000  #FFFFFF"));
@@ -61,14 +62,15 @@ QLayout* LookBar::MakeZoom() {
 QLayout* LookBar::MakeLooks(const std::function<void()>& changed) {
     onion_ = new QComboBox(this);
     onion_->setObjectName("OnionSkin");
-    onion_->setAccessibleName("Onion skin");
-    onion_->setToolTip("Let the frames beside this one be seen through it");
-    onion_->addItems({"No onion skin", "Previous frame", "Next frame", "Both frames"});
+    onion_->setAccessibleName(UiText::tr("Onion skin"));
+    onion_->setToolTip(UiText::tr("Let the frames beside this one be seen through it"));
+    onion_->addItems({UiText::tr("No onion skin"), UiText::tr("Previous frame"),
+                      UiText::tr("Next frame"), UiText::tr("Both frames")});
     connect(onion_, &QComboBox::currentIndexChanged, this, changed);
     opacity_ = new QSlider(Qt::Horizontal, this);
     opacity_->setObjectName("OnionOpacity");
-    opacity_->setAccessibleName("Opacity of the onion skin");
-    opacity_->setToolTip("How much of the frames beside this one is seen");
+    opacity_->setAccessibleName(UiText::tr("Opacity of the onion skin"));
+    opacity_->setToolTip(UiText::tr("How much of the frames beside this one is seen"));
     opacity_->setRange(10, 90);
     opacity_->setValue(kFirstOpacity);
     opacity_->setFixedWidth(fontMetrics().horizontalAdvance("0") * 10);
@@ -76,10 +78,10 @@ QLayout* LookBar::MakeLooks(const std::function<void()>& changed) {
     connect(opacity_, &QSlider::valueChanged, this, changed);
     connect(onion_, &QComboBox::currentIndexChanged, opacity_,
             [this](int choice) { opacity_->setEnabled(choice != kNone); });
-    saved_ = new QCheckBox("Saved colors", this);
+    saved_ = new QCheckBox(UiText::tr("Saved colors"), this);
     saved_->setObjectName("SavedColors");
     saved_->setAccessibleName(saved_->text());
-    saved_->setToolTip("Show the frame with the colors that a GIF file will have");
+    saved_->setToolTip(UiText::tr("Show the frame with the colors that a GIF file will have"));
     connect(saved_, &QCheckBox::toggled, this, changed);
     auto* row = new QHBoxLayout;
     row->addWidget(onion_);

@@ -10,6 +10,7 @@
 #include <cmath>
 #include <iterator>
 
+#include "kit/qt/ui_text.h"
 #include "ui/controls/picture_painter.h"
 
 namespace kirto {
@@ -30,7 +31,7 @@ BRect ExactRectOf(const QRectF& rectangle) {
 
 PicturePane::PicturePane(QWidget* parent) : QWidget(parent) {
     setObjectName("PicturePane");
-    setAccessibleName("Picture");
+    setAccessibleName(UiText::tr("Picture"));
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
     setMinimumSize(120, 80);

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <vector>
 
+#include "kit/qt/ui_text.h"
+
 namespace kirto {
 
 namespace {
@@ -36,17 +38,17 @@ QString PixelText(const Animation& animation, const Frame& frame, QPoint pixel) 
     const int32 y = pixel.y() - frame.y_offset;
     const bool inside = picture && picture->HasRows() && x >= 0 && y >= 0 && x < picture->Width() &&
                         y < picture->Height();
-    if (!inside) return "no frame";
+    if (!inside) return UiText::tr("no frame");
     const rgb_color color = ColorAt(*picture, x, y);
-    if (color.alpha == 0) return "transparent";
+    if (color.alpha == 0) return UiText::tr("transparent");
     const QString text = QString("#%1%2%3")
                              .arg(color.red, 2, 16, QChar('0'))
                              .arg(color.green, 2, 16, QChar('0'))
                              .arg(color.blue, 2, 16, QChar('0'))
                              .toUpper();
-    if (color.alpha < kOpaque) return text + QString(", alpha %1").arg(color.alpha);
+    if (color.alpha < kOpaque) return text + UiText::tr(", alpha %1").arg(color.alpha);
     const int32 index = IndexOf(frame.local_palette ? *frame.palette : *animation.palette, color);
-    return index < 0 ? text : text + QString(", index %1").arg(index);
+    return index < 0 ? text : text + UiText::tr(", index %1").arg(index);
 }
 
 }  // namespace kirto

@@ -4,6 +4,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "kit/qt/ui_text.h"
 #include "ui/player/look_bar.h"
 #include "ui/player/pixel_text.h"
 #include "ui/player/transport_bar.h"
@@ -173,7 +174,7 @@ void PlayerView::ShowPictures() {
     if (!all_made) return;
     painted_frame_ = frame;
     pane_->SetLayers(std::move(layers));
-    pane_->setAccessibleDescription(QString("frame %1").arg(frame));
+    pane_->setAccessibleDescription(UiText::tr("frame %1").arg(frame));
 }
 
 void PlayerView::ShowPixel(std::optional<QPoint> pixel) {

@@ -3,6 +3,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include "kit/qt/ui_text.h"
 #include "ui/controls/controls.h"
 #include "ui/controls/folding_row.h"
 
@@ -46,16 +47,17 @@ QLayout* TransportBar::MakeButtons() {
     auto* buttons = new QHBoxLayout;
     buttons->setSpacing(0);
     using Symbol = TransportSymbol;
-    buttons->addWidget(MakeButton("ToStart", Symbol::kToStart, "To the start", "Home",
-                                  [this] { player_.ToStart(); }));
-    buttons->addWidget(MakeButton("StepBack", Symbol::kBack, "Previous frame", "Left",
-                                  [this] { player_.Step(-1); }));
-    play_ = MakeButton("Play", Symbol::kPlay, "Play", "Space", [this] { player_.Toggle(); });
+    buttons->addWidget(MakeButton("ToStart", Symbol::kToStart, UiText::tr("To the start"),
+                                  UiText::tr("Home"), [this] { player_.ToStart(); }));
+    buttons->addWidget(MakeButton("StepBack", Symbol::kBack, UiText::tr("Previous frame"),
+                                  UiText::tr("Left"), [this] { player_.Step(-1); }));
+    play_ = MakeButton("Play", Symbol::kPlay, UiText::tr("Play"), "Space",
+                       [this] { player_.Toggle(); });
     buttons->addWidget(play_);
-    buttons->addWidget(MakeButton("StepForward", Symbol::kForward, "Next frame", "Right",
-                                  [this] { player_.Step(1); }));
-    buttons->addWidget(
-        MakeButton("ToEnd", Symbol::kToEnd, "To the end", "End", [this] { player_.ToEnd(); }));
+    buttons->addWidget(MakeButton("StepForward", Symbol::kForward, UiText::tr("Next frame"),
+                                  UiText::tr("Right"), [this] { player_.Step(1); }));
+    buttons->addWidget(MakeButton("ToEnd", Symbol::kToEnd, UiText::tr("To the end"),
+                                  UiText::tr("End"), [this] { player_.ToEnd(); }));
     time_ = MakeLabel("PlayerTime", "", this);
     // Its end may be cut before the window grows.
     time_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
@@ -68,9 +70,9 @@ QLayout* TransportBar::MakeButtons() {
 QComboBox* TransportBar::MakeLoopMenu() {
     auto* loop = new QComboBox(this);
     loop->setObjectName("PlayerLoop");
-    loop->setAccessibleName("Repeat");
-    loop->setToolTip("How often the animation is played");
-    loop->addItems({"As saved", "Always", "Once"});
+    loop->setAccessibleName(UiText::tr("Repeat"));
+    loop->setToolTip(UiText::tr("How often the animation is played"));
+    loop->addItems({UiText::tr("As saved"), UiText::tr("Always"), UiText::tr("Once")});
     connect(loop, &QComboBox::currentIndexChanged, this,
             [this](int choice) { player_.SetLoop(static_cast<Player::Loop>(choice)); });
     return loop;
@@ -79,8 +81,8 @@ QComboBox* TransportBar::MakeLoopMenu() {
 QDoubleSpinBox* TransportBar::MakeSpeedField() {
     auto* speed = new QDoubleSpinBox(this);
     speed->setObjectName("PlayerSpeed");
-    speed->setAccessibleName("Speed");
-    speed->setToolTip("How many times as fast as the animation says");
+    speed->setAccessibleName(UiText::tr("Speed"));
+    speed->setToolTip(UiText::tr("How many times as fast as the animation says"));
     speed->setRange(PlaybackClock::kSlowest, PlaybackClock::kFastest);
     speed->setSingleStep(0.25);
     speed->setDecimals(2);
@@ -93,14 +95,15 @@ QDoubleSpinBox* TransportBar::MakeSpeedField() {
 }
 
 QLayout* TransportBar::MakeChoices() {
-    auto* selection = new QCheckBox("Selection", this);
+    auto* selection = new QCheckBox(UiText::tr("Selection"), this);
     selection->setObjectName("PlaySelection");
-    selection->setToolTip("Play the selected frames only");
+    selection->setToolTip(UiText::tr("Play the selected frames only"));
     connect(selection, &QCheckBox::toggled, this,
             [this](bool on) { player_.SetPlaysSelection(on); });
-    auto* browser = new QCheckBox("Like a browser", this);
+    auto* browser = new QCheckBox(UiText::tr("Like a browser"), this);
     browser->setObjectName("LikeABrowser");
-    browser->setToolTip("Show frames for 0.10 s whose pause is below 0.02 s, as browsers do");
+    browser->setToolTip(
+        UiText::tr("Show frames for 0.10 s whose pause is below 0.02 s, as browsers do"));
     connect(browser, &QCheckBox::toggled, this, [this](bool on) { player_.SetLikeABrowser(on); });
     for (QCheckBox* box : {selection, browser})
         box->setAccessibleName(box->text());
@@ -116,17 +119,17 @@ QLayout* TransportBar::MakeChoices() {
 void TransportBar::UpdateDisplay(int32 frames) {
     if (player_.IsPlaying() != shows_pause_) {
         shows_pause_ = player_.IsPlaying();
-        const QString name = shows_pause_ ? "Pause" : "Play";
+        const QString name = shows_pause_ ? UiText::tr("Pause") : UiText::tr("Play");
         play_->setIcon(
             MakeTransportIcon(shows_pause_ ? TransportSymbol::kPause : TransportSymbol::kPlay));
-        play_->setToolTip(name + " (Space)");
+        play_->setToolTip(name + " (" + UiText::tr("Space") + ")");
         play_->setAccessibleName(name);
     }
     const auto buttons = findChildren<QToolButton*>();
     for (QToolButton* button : buttons)
         button->setEnabled(frames > 0);
     if (player_.Frame() < 0) return ShowText(*time_, {});
-    ShowText(*time_, QString("#%1 of %2, %3 s of %4 s")
+    ShowText(*time_, UiText::tr("#%1 of %2, %3 s of %4 s")
                          .arg(player_.Frame())
                          .arg(frames)
                          .arg(SecondsText(player_.Time()), SecondsText(player_.Length())));

@@ -7,6 +7,8 @@
 
 #include "base/directories.h"
 #include "base/types.h"
+#include "kit/qt/ui_text.h"
+#include "ui/controls/menu_names.h"
 #include "ui/help/guide_window.h"
 #include "ui/shortcuts/menu_shortcuts.h"
 #include "ui/shortcuts/shortcuts_dialog.h"
@@ -14,12 +16,18 @@
 namespace kirto {
 
 void AddHelpMenu(QMenuBar& bar, const MenuCommand& choose) {
-    QMenu* menu = bar.addMenu("&Help");
-    QAction* guide = menu->addAction("&Guide");
+    QMenu* menu = bar.addMenu(QString());
+    const auto name = [](QAction* action, const char* label) {
+        action->setText(UiText::tr(label));
+        SetEnglishName(*action, label);
+        return action;
+    };
+    name(menu->menuAction(), UiText::Later("&Help"));
+    QAction* guide = name(menu->addAction(QString()), UiText::Later("&Guide"));
     guide->setShortcut(Qt::Key_F1);
-    QAction* keys = menu->addAction("&Keyboard Shortcuts...");
+    QAction* keys = name(menu->addAction(QString()), UiText::Later("&Keyboard Shortcuts..."));
     menu->addSeparator();
-    QAction* about = menu->addAction("&About...");
+    QAction* about = name(menu->addAction(QString()), UiText::Later("&About..."));
     for (QAction* action : menu->actions())
         action->setMenuRole(QAction::NoRole);
 

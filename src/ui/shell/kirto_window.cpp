@@ -15,8 +15,10 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "base/core_text.h"
 #include "document/command_codes.h"
 #include "kit/alert.h"
+#include "kit/qt/ui_text.h"
 #include "ui/dialogs/colors_window.h"
 #include "ui/dialogs/preferences_window.h"
 #include "ui/panels/global_view.h"
@@ -204,7 +206,7 @@ BRect KirtoWindow::ScreenPlace() const {
 
 void KirtoWindow::ResetDisplay() {
     shown_.Reset();
-    setWindowTitle("Kirto - untitled");
+    setWindowTitle(UiText::tr("Kirto - untitled"));
     for (kirto::FieldPanel* panel : panels_)
         panel->ResetDisplay();
     thumbnail_view_->ResetDisplay();
@@ -308,7 +310,8 @@ bool KirtoWindow::LoseChanges(uint32 command) {
         pending_command_ = 0;
         return true;
     }
-    BAlert alert("", "Do you want to save your changes?", "Cancel", "Discard", "Save");
+    BAlert alert("", CoreText::tr("Do you want to save your changes?"), CoreText::Later("Cancel"),
+                 CoreText::Later("Discard"), CoreText::Later("Save"));
     constexpr int32 kDiscard = 1;
     constexpr int32 kSaveFirst = 2;
     const int32 answer = alert.Go();

@@ -104,7 +104,7 @@ class KirtoWindow : public QMainWindow, public BWindow {
     void SaveOrAsk();
     void ShowSavePanel();
     void StartNew();
-    void ShowOpenPanel(const char* title);
+    void ShowOpenPanel(const std::string& title);
     void ShowMode(bool frame_list);
     void ShowPlayer(bool shown);
     void ShowLabels(bool shown);

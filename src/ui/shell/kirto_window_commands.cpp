@@ -7,8 +7,10 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "base/core_text.h"
 #include "document/command_codes.h"
 #include "kit/alert.h"
+#include "kit/qt/ui_text.h"
 #include "ui/dialogs/fade_window.h"
 #include "ui/dialogs/sheet_dialog.h"
 #include "ui/dialogs/video_dialog.h"
@@ -53,7 +55,7 @@ void KirtoWindow::Resume(BMessage*) {
             StartNew();
             break;
         case kirto::kMenuOpen:
-            ShowOpenPanel("Open Animation");
+            ShowOpenPanel(CoreText::tr("Open Animation"));
             break;
         case B_QUIT_REQUESTED:
             close();
@@ -120,10 +122,10 @@ void KirtoWindow::StartNew() {
 }
 
 void KirtoWindow::Open(BMessage*) {
-    if (LoseChanges(kirto::kMenuOpen)) ShowOpenPanel("Open Animation");
+    if (LoseChanges(kirto::kMenuOpen)) ShowOpenPanel(CoreText::tr("Open Animation"));
 }
 
-void KirtoWindow::ShowOpenPanel(const char* title) {
+void KirtoWindow::ShowOpenPanel(const std::string& title) {
     kirto::FilePanel* panel = editor_.panels.GetPanel(kirto::FilePanelKind::kOpen);
     panel->SetTitle(title);
     panel->Show();
@@ -156,14 +158,16 @@ void KirtoWindow::ShowSavePanel() {
 }
 
 void KirtoWindow::About(BMessage*) {
-    BAlert alert("",
-                 "Kirto v1.4\n"
-                 "An editor for frame animations, by Morvik\n"
-                 "https://kirto.example.org\n\n"
-                 "Please send in bug reports and feature requests.\n\n"
-                 "Thanks to all who shared their code for GIF files, and for a long conversation "
-                 "about dithering.",
-                 "OK", {}, {}, B_INFO_ALERT);
+    BAlert alert(
+        "",
+        CoreText::tr(
+            "Kirto v1.4\n"
+            "An editor for frame animations, by Morvik\n"
+            "https://kirto.example.org\n\n"
+            "Please send in bug reports and feature requests.\n\n"
+            "Thanks to all who shared their code for GIF files, and for a long conversation "
+            "about dithering."),
+        CoreText::Later("OK"), {}, {}, B_INFO_ALERT);
     alert.Go();
 }
 
@@ -259,7 +263,7 @@ void KirtoWindow::Forward(BMessage* message) {
 }
 
 void KirtoWindow::PaletteFromFile(BMessage* message) {
-    if (PostEdit(message->what)) ShowOpenPanel("Open Paletted File");
+    if (PostEdit(message->what)) ShowOpenPanel(CoreText::tr("Open Paletted File"));
 }
 
 void KirtoWindow::ChooseMode(BMessage* message) {

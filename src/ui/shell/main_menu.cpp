@@ -3,6 +3,8 @@
 #include <QAction>
 
 #include "document/command_codes.h"
+#include "kit/qt/ui_text.h"
+#include "ui/controls/menu_names.h"
 
 namespace kirto {
 
@@ -21,91 +23,94 @@ constexpr const char* kNeedsFrame = "needs_frame";
 constexpr const char* kReverse = "Reverse";
 constexpr const char* kPlayer = "Player";
 constexpr const char* kLabels = "Labels";
+constexpr const char* kUndoLabel = UiText::Later("&Undo");
+constexpr const char* kRedoLabel = UiText::Later("&Redo");
 
 constexpr Item kFileItems[] = {
-    {"&New", 'N', kMenuNew},
-    {"&Open...", 'O', kMenuOpen},
+    {UiText::Later("&New"), 'N', kMenuNew},
+    {UiText::Later("&Open..."), 'O', kMenuOpen},
     {},
-    {"&Save", 'S', kMenuSave},
-    {"Save &As...", 'A', kMenuSaveAs, true},
+    {UiText::Later("&Save"), 'S', kMenuSave},
+    {UiText::Later("Save &As..."), 'A', kMenuSaveAs, true},
     {},
-    {"A&bout...", 0, B_ABOUT_REQUESTED},
+    {UiText::Later("A&bout..."), 0, B_ABOUT_REQUESTED},
     {},
-    {"&Quit", 'Q', B_QUIT_REQUESTED},
+    {UiText::Later("&Quit"), 'Q', B_QUIT_REQUESTED},
 };
 
 // Below "Undo" and "Redo".
 constexpr Item kEditItems[] = {
     {},
-    {"Cu&t", 'X', kMenuCut, true},
-    {"&Copy", 'C', kMenuCopy, true},
-    {"&Paste", 'V', kMenuPaste},
-    {"&Duplicate", 'U', kDuplicateFrames, true, true},
-    {"&Move To...", 'B', kMenuMoveTo, true},
+    {UiText::Later("Cu&t"), 'X', kMenuCut, true},
+    {UiText::Later("&Copy"), 'C', kMenuCopy, true},
+    {UiText::Later("&Paste"), 'V', kMenuPaste},
+    {UiText::Later("&Duplicate"), 'U', kDuplicateFrames, true, true},
+    {UiText::Later("&Move To..."), 'B', kMenuMoveTo, true},
     {},
-    {"Select &All", 'A', kMenuSelectAll, true, true},
-    {"Select &None", 0, kMenuSelectNone, true},
-    {"&Invert Selection", 'I', kMenuInvertSelection, true, true},
-    {"Select &Every Nth...", 0, kMenuSelectEvery, true},
-    {"Select Ran&ge...", 'G', kMenuSelectRange, true},
-    {"Go to &Frame...", 'J', kMenuGoToFrame, true},
+    {UiText::Later("Select &All"), 'A', kMenuSelectAll, true, true},
+    {UiText::Later("Select &None"), 0, kMenuSelectNone, true},
+    {UiText::Later("&Invert Selection"), 'I', kMenuInvertSelection, true, true},
+    {UiText::Later("Select &Every Nth..."), 0, kMenuSelectEvery, true},
+    {UiText::Later("Select Ran&ge..."), 'G', kMenuSelectRange, true},
+    {UiText::Later("Go to &Frame..."), 'J', kMenuGoToFrame, true},
 };
 
 constexpr Item kViewItems[] = {
-    {"&Preview", 'P', kPreview, true},
-    {"Toggle &Mode", 'M', kToggleMode},
+    {UiText::Later("&Preview"), 'P', kPreview, true},
+    {UiText::Later("Toggle &Mode"), 'M', kToggleMode},
     {},
-    {"P&references...", 0, kMenuPreferences},
+    {UiText::Later("P&references..."), 0, kMenuPreferences},
     {},
-    {"Show Pla&yer", 'P', kShowPlayer, false, true},
-    {"Pl&ay or Pause", 'K', kPlay, true},
-    {"Hide Frame &Labels", 0, kShowLabels},
-    {"&Colors...", 0, kShowColors},
+    {UiText::Later("Show Pla&yer"), 'P', kShowPlayer, false, true},
+    {UiText::Later("Pl&ay or Pause"), 'K', kPlay, true},
+    {UiText::Later("Hide Frame &Labels"), 0, kShowLabels},
+    {UiText::Later("&Colors..."), 0, kShowColors},
 };
 
 constexpr Item kFrameItems[] = {
-    {"&Insert...", 'I', kMenuInsert},
-    {"Insert &Tiled...", 'T', kMenuInsertTiled},
-    {"&Remove", 'R', kRemoveFrame, true},
+    {UiText::Later("&Insert..."), 'I', kMenuInsert},
+    {UiText::Later("Insert &Tiled..."), 'T', kMenuInsertTiled},
+    {UiText::Later("&Remove"), 'R', kRemoveFrame, true},
     {},
-    {"Move &Up", 'U', kMoveFrameUp, true},
-    {"Move &Down", 'D', kMoveFrameDown, true},
-    {"Re&verse All", 0, kReverseFrames, true},
+    {UiText::Later("Move &Up"), 'U', kMoveFrameUp, true},
+    {UiText::Later("Move &Down"), 'D', kMoveFrameDown, true},
+    {UiText::Later("Re&verse All"), 0, kReverseFrames, true},
     {},
-    {"&Fade Effects...", 'F', kMenuFadeEffects, true},
+    {UiText::Later("&Fade Effects..."), 'F', kMenuFadeEffects, true},
 };
 
 constexpr Item kAnimationItems[] = {
-    {"&Insert Animation...", 0, kMenuInsertAnimation},
-    {"E&xport...", 'E', kMenuExport, true},
-    {"Export &Sheet...", 0, kMenuExportSheet, true},
+    {UiText::Later("&Insert Animation..."), 0, kMenuInsertAnimation},
+    {UiText::Later("E&xport..."), 'E', kMenuExport, true},
+    {UiText::Later("Export &Sheet..."), 0, kMenuExportSheet, true},
     {},
-    {"Set &Pause...", 'L', kMenuSetPause, true},
+    {UiText::Later("Set &Pause..."), 'L', kMenuSetPause, true},
     {},
-    {"&Forward and Back", 0, kForwardAndBack, true},
-    {"Shift Start to Curre&nt Frame", 0, kStartAtCurrent, true},
-    {"Remove D&uplicates...", 0, kMenuRemoveDuplicates, true},
-    {"&Drop Every Nth...", 0, kMenuDropEvery, true},
+    {UiText::Later("&Forward and Back"), 0, kForwardAndBack, true},
+    {UiText::Later("Shift Start to Curre&nt Frame"), 0, kStartAtCurrent, true},
+    {UiText::Later("Remove D&uplicates..."), 0, kMenuRemoveDuplicates, true},
+    {UiText::Later("&Drop Every Nth..."), 0, kMenuDropEvery, true},
     {},
-    {"&Resize Animation...", 0, kMenuResize, true},
-    {"&Crop...", 0, kMenuCrop, true},
-    {"Can&vas Size...", 0, kMenuCanvasSize, true},
-    {"Rotate Ri&ght", 0, kMenuRotateRight, true},
-    {"Rotate &Left", 0, kMenuRotateLeft, true},
-    {"Flip &Horizontally", 0, kMenuFlipAcross, true},
-    {"Flip Verticall&y", 0, kMenuFlipDown, true},
+    {UiText::Later("&Resize Animation..."), 0, kMenuResize, true},
+    {UiText::Later("&Crop..."), 0, kMenuCrop, true},
+    {UiText::Later("Can&vas Size..."), 0, kMenuCanvasSize, true},
+    {UiText::Later("Rotate Ri&ght"), 0, kMenuRotateRight, true},
+    {UiText::Later("Rotate &Left"), 0, kMenuRotateLeft, true},
+    {UiText::Later("Flip &Horizontally"), 0, kMenuFlipAcross, true},
+    {UiText::Later("Flip Verticall&y"), 0, kMenuFlipDown, true},
     {},
-    {"Fit Fra&mes to Animation...", 0, kMenuFitFrames, true},
-    {"&Adjust Colors...", 0, kMenuAdjustColors, true},
-    {"&Opacity...", 0, kMenuOpacity, true},
-    {"Overlay Imag&e...", 0, kMenuOverlay, true},
-    {"&Text...", 0, kMenuText, true},
-    {"Ma&ke Transparent...", 0, kMenuMakeTransparent, true},
+    {UiText::Later("Fit Fra&mes to Animation..."), 0, kMenuFitFrames, true},
+    {UiText::Later("&Adjust Colors..."), 0, kMenuAdjustColors, true},
+    {UiText::Later("&Opacity..."), 0, kMenuOpacity, true},
+    {UiText::Later("Overlay Imag&e..."), 0, kMenuOverlay, true},
+    {UiText::Later("&Text..."), 0, kMenuText, true},
+    {UiText::Later("Ma&ke Transparent..."), 0, kMenuMakeTransparent, true},
 };
 
 // Otherwise a desktop may take "Quit" and its like for items of its own.
 QAction* AddItem(QMenu& menu, const char* label, uint32 command, const MenuCommand& choose) {
-    QAction* action = menu.addAction(QString::fromUtf8(label));
+    QAction* action = menu.addAction(UiText::tr(label));
+    SetEnglishName(*action, label);
     action->setMenuRole(QAction::NoRole);
     QObject::connect(action, &QAction::triggered, [choose, command] { choose(command); });
     return action;
@@ -131,25 +136,29 @@ void AddItems(QMenu& menu, const Item (&items)[Count], const MenuCommand& choose
 template <size_t Count>
 void AddMenu(QMenuBar& bar, const char* title, const Item (&items)[Count],
              const MenuCommand& choose) {
-    AddItems(*bar.addMenu(QString::fromUtf8(title)), items, choose);
+    QMenu* menu = bar.addMenu(UiText::tr(title));
+    SetEnglishName(*menu->menuAction(), title);
+    AddItems(*menu, items, choose);
 }
 
 void AddEditMenu(QMenuBar& bar, const MenuCommand& choose) {
-    QMenu* menu = bar.addMenu("&Edit");
-    QAction* undo = AddItem(*menu, "&Undo", kUndo, choose);
+    constexpr const char* kTitle = UiText::Later("&Edit");
+    QMenu* menu = bar.addMenu(UiText::tr(kTitle));
+    SetEnglishName(*menu->menuAction(), kTitle);
+    QAction* undo = AddItem(*menu, kUndoLabel, kUndo, choose);
     undo->setObjectName("Undo");
     undo->setShortcut(Qt::CTRL | Qt::Key_Z);
-    QAction* redo = AddItem(*menu, "&Redo", kRedo, choose);
+    QAction* redo = AddItem(*menu, kRedoLabel, kRedo, choose);
     redo->setObjectName("Redo");
     redo->setShortcuts({Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y});
     AddItems(*menu, kEditItems, choose);
 }
 
-void NameEdit(const QMenuBar& menu_bar, const char* label, const std::string& edit) {
-    auto* action = menu_bar.findChild<QAction*>(label);
-    const QString name = QString::fromStdString(edit);
-    action->setText("&" + QString(label) + (name.isEmpty() ? name : " " + name));
-    action->setEnabled(!name.isEmpty());
+// with_name: the label, with "%1" for the edit's name.
+void NameEdit(QAction& action, const char* label, const char* with_name, const std::string& edit) {
+    const QString name = edit.empty() ? QString() : UiText::tr(edit.c_str());
+    action.setText(edit.empty() ? UiText::tr(label) : UiText::tr(with_name).arg(name));
+    action.setEnabled(!edit.empty());
 }
 
 }  // namespace
@@ -157,19 +166,21 @@ void NameEdit(const QMenuBar& menu_bar, const char* label, const std::string& ed
 QMenuBar* MakeMainMenu(QWidget* parent, const MenuCommand& choose) {
     auto* bar = new QMenuBar(parent);
     bar->setObjectName("MenuBar");
-    AddMenu(*bar, "&File", kFileItems, choose);
+    AddMenu(*bar, UiText::Later("&File"), kFileItems, choose);
     AddEditMenu(*bar, choose);
-    AddMenu(*bar, "&View", kViewItems, choose);
-    AddMenu(*bar, "F&rame", kFrameItems, choose);
-    AddMenu(*bar, "&Animation", kAnimationItems, choose);
+    AddMenu(*bar, UiText::Later("&View"), kViewItems, choose);
+    AddMenu(*bar, UiText::Later("F&rame"), kFrameItems, choose);
+    AddMenu(*bar, UiText::Later("&Animation"), kAnimationItems, choose);
     EnableFrameItems(*bar, false);
     ShowHistory(*bar, {}, {});
     return bar;
 }
 
 void ShowHistory(QMenuBar& menu_bar, const std::string& undo_name, const std::string& redo_name) {
-    NameEdit(menu_bar, "Undo", undo_name);
-    NameEdit(menu_bar, "Redo", redo_name);
+    NameEdit(*menu_bar.findChild<QAction*>("Undo"), kUndoLabel, UiText::Later("&Undo %1"),
+             undo_name);
+    NameEdit(*menu_bar.findChild<QAction*>("Redo"), kRedoLabel, UiText::Later("&Redo %1"),
+             redo_name);
 }
 
 void EnableUndo(QMenuBar& menu_bar) {
@@ -177,17 +188,18 @@ void EnableUndo(QMenuBar& menu_bar) {
 }
 
 void ShowReversing(QMenuBar& menu_bar, bool selected) {
-    menu_bar.findChild<QAction*>(kReverse)->setText(selected ? "Re&verse Selected"
-                                                             : "Re&verse All");
+    menu_bar.findChild<QAction*>(kReverse)->setText(selected ? UiText::tr("Re&verse Selected")
+                                                             : UiText::tr("Re&verse All"));
 }
 
 void ShowPlayer(QMenuBar& menu_bar, bool shown) {
-    menu_bar.findChild<QAction*>(kPlayer)->setText(shown ? "Hide Pla&yer" : "Show Pla&yer");
+    menu_bar.findChild<QAction*>(kPlayer)->setText(shown ? UiText::tr("Hide Pla&yer")
+                                                         : UiText::tr("Show Pla&yer"));
 }
 
 void ShowLabels(QMenuBar& menu_bar, bool shown) {
-    menu_bar.findChild<QAction*>(kLabels)->setText(shown ? "Hide Frame &Labels"
-                                                         : "Show Frame &Labels");
+    menu_bar.findChild<QAction*>(kLabels)->setText(shown ? UiText::tr("Hide Frame &Labels")
+                                                         : UiText::tr("Show Frame &Labels"));
 }
 
 void EnableFrameItems(QMenuBar& menu_bar, bool enable) {

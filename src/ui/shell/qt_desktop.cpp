@@ -7,6 +7,7 @@
 
 #include "app/kirto.h"
 #include "app/notices.h"
+#include "base/core_text.h"
 #include "desktop/qt/browser.h"
 #include "desktop/qt/mime_types.h"
 #include "document/command_codes.h"
@@ -39,7 +40,7 @@ void QtDesktop::Tell(const std::string& text) {
         untold_.push_back(text);
         return;
     }
-    window_messenger_.SendMessage(MakeNotice(text, {{"Close", kCloseNotice}}));
+    window_messenger_.SendMessage(MakeNotice(text, {{CoreText::Later("Close"), kCloseNotice}}));
 }
 
 void QtDesktop::CloseWindows() {
@@ -73,7 +74,7 @@ void QtDesktop::RememberFile(const std::string& path) {
 
 void QtDesktop::OpenInBrowser(const std::string& path) {
     if (kirto::OpenInBrowser(path)) return;
-    TellQuietly("The preview was written, but no program to show it was found.");
+    TellQuietly(CoreText::tr("The preview was written, but no program to show it was found."));
 }
 
 }  // namespace kirto

@@ -7,6 +7,8 @@
 #include <QToolButton>
 
 #include "base/directories.h"
+#include "kit/qt/ui_text.h"
+#include "ui/controls/menu_names.h"
 
 namespace kirto {
 
@@ -34,16 +36,17 @@ void Fill(QMenu& menu, RecentList& list, const BMessenger& application) {
             [application, command = OpeningOf(file.path)] { application.SendMessage(command); });
     }
     menu.addSeparator();
-    QObject::connect(menu.addAction("&Clear List"), &QAction::triggered, [&list] { list.Clear(); });
+    QObject::connect(menu.addAction(UiText::tr("&Clear List")), &QAction::triggered,
+                     [&list] { list.Clear(); });
     menu.menuAction()->setEnabled(number > 0);
 }
 
-// The item of that label in any menu; null for none.
+// The item of that English label in any menu; null for none.
 QAction* ItemOf(const QMenuBar& bar, const QString& label) {
     for (const QAction* title : bar.actions()) {
         if (!title->menu()) continue;
         for (QAction* action : title->menu()->actions()) {
-            if (action->text().remove('&') == label) return action;
+            if (EnglishNameOf(*action) == label) return action;
         }
     }
     return nullptr;
@@ -60,7 +63,7 @@ QAction* Following(const QMenu& menu, const QAction* action) {
 void AddRecentMenu(QMainWindow& window, RecentList& list, const BMessenger& application) {
     QAction* open_item = ItemOf(*window.menuBar(), "Open...");
     QMenu* file_menu = window.menuBar()->actions().front()->menu();
-    auto* menu = new QMenu("Open &Recent", &window);
+    auto* menu = new QMenu(UiText::tr("Open &Recent"), &window);
     menu->setObjectName("OpenRecent");
     menu->setToolTipsVisible(true);
     menu->menuAction()->setMenuRole(QAction::NoRole);

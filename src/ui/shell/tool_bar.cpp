@@ -5,6 +5,8 @@
 #include <QMenuBar>
 #include <QStyle>
 
+#include "kit/qt/ui_text.h"
+#include "ui/controls/menu_names.h"
 #include "ui/shell/tool_icon.h"
 #include "ui/shell/window_state.h"
 
@@ -13,37 +15,43 @@ namespace kirto {
 namespace {
 
 struct Tool {
-    const char* menu;   // its title, without &
-    const char* item;   // its label there, without &
+    const char* menu;   // its English title, without &
+    const char* item;   // its English label there, without &
     const char* label;  // on the tool bar
     const char* tip;
     ToolSymbol symbol;
 };
 
 constexpr Tool kTools[] = {
-    {"File", "Open...", "Open", "Open an animation", ToolSymbol::kFolder},
-    {"Frame", "Insert...", "Insert", "Insert images as frames", ToolSymbol::kFrameAndPlus},
-    {"Edit", "Undo", "Undo", "Take the last change back", ToolSymbol::kTurnBack},
-    {"Edit", "Redo", "Redo", "Make it again", ToolSymbol::kTurnForward},
-    {"View", "Play or Pause", "Play", "Play the animation, or pause it", ToolSymbol::kTriangle},
-    {"File", "Save As...", "Save As", "Save under another name or as images",
-     ToolSymbol::kArrowIntoTray},
-    {"Animation", "Export...", "Export", "Write as another format, or smaller",
-     ToolSymbol::kArrowOutOfTray},
-    {"View", "Preview", "Preview", "Show the animation in the browser", ToolSymbol::kWindow},
+    {"File", "Open...", UiText::Later("Open"), UiText::Later("Open an animation"),
+     ToolSymbol::kFolder},
+    {"Frame", "Insert...", UiText::Later("Insert"), UiText::Later("Insert images as frames"),
+     ToolSymbol::kFrameAndPlus},
+    {"Edit", "Undo", UiText::Later("Undo"), UiText::Later("Take the last change back"),
+     ToolSymbol::kTurnBack},
+    {"Edit", "Redo", UiText::Later("Redo"), UiText::Later("Make it again"),
+     ToolSymbol::kTurnForward},
+    {"View", "Play or Pause", UiText::Later("Play"),
+     UiText::Later("Play the animation, or pause it"), ToolSymbol::kTriangle},
+    {"File", "Save As...", UiText::Later("Save As"),
+     UiText::Later("Save under another name or as images"), ToolSymbol::kArrowIntoTray},
+    {"Animation", "Export...", UiText::Later("Export"),
+     UiText::Later("Write as another format, or smaller"), ToolSymbol::kArrowOutOfTray},
+    {"View", "Preview", UiText::Later("Preview"),
+     UiText::Later("Show the animation in the browser"), ToolSymbol::kWindow},
 };
 
 // Null for none.
 QMenu* MenuOf(const QMenuBar& bar, const QString& title) {
     for (const QAction* action : bar.actions()) {
-        if (action->text().remove('&') == title) return action->menu();
+        if (EnglishNameOf(*action) == title) return action->menu();
     }
     return nullptr;
 }
 
 QAction* ItemOf(const QMenu& menu, const QString& label) {
     for (QAction* action : menu.actions()) {
-        if (action->text().remove('&') == label) return action;
+        if (EnglishNameOf(*action) == label) return action;
     }
     return nullptr;
 }
@@ -61,19 +69,20 @@ void AddTool(const Tool& tool, const QMenuBar& bar, QToolBar& tools) {
     if (!action) return;
     action->setIcon(MakeToolIcon(tool.symbol));
     action->setIconVisibleInMenu(false);
-    action->setIconText(tool.label);
-    ShowTip(*action, tool.tip);
-    QObject::connect(action, &QAction::changed, &tools,
-                     [action, tip = QString(tool.tip)] { ShowTip(*action, tip); });
+    const QString label = UiText::tr(tool.label);
+    const QString tip = UiText::tr(tool.tip);
+    action->setIconText(label);
+    ShowTip(*action, tip);
+    QObject::connect(action, &QAction::changed, &tools, [action, tip] { ShowTip(*action, tip); });
     tools.addAction(action);
     // Other controls have the same labels.
-    tools.widgetForAction(action)->setAccessibleName(QString("%1 (tool bar)").arg(tool.label));
+    tools.widgetForAction(action)->setAccessibleName(UiText::tr("%1 (tool bar)").arg(label));
 }
 
 }  // namespace
 
 QToolBar* AddToolBar(QMainWindow& window) {
-    auto* tools = new QToolBar("Tool Bar", &window);
+    auto* tools = new QToolBar(UiText::tr("Tool Bar"), &window);
     tools->setObjectName("Tools");
     tools->setMovable(false);
     const int style = window.style()->styleHint(QStyle::SH_ToolButtonStyle, nullptr, tools);
@@ -83,7 +92,7 @@ QToolBar* AddToolBar(QMainWindow& window) {
     window.addToolBar(tools);
 
     QAction* shown = tools->toggleViewAction();
-    shown->setText("&Tool Bar");
+    shown->setText(UiText::tr("&Tool Bar"));
     shown->setMenuRole(QAction::NoRole);
     if (QMenu* view = MenuOf(*window.menuBar(), "View")) view->addAction(shown);
     tools->setVisible(RestoreToolBar());

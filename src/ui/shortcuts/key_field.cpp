@@ -3,6 +3,8 @@
 #include <QKeyEvent>
 #include <utility>
 
+#include "kit/qt/ui_text.h"
+
 namespace kirto {
 
 namespace {
@@ -54,7 +56,7 @@ QKeySequence KeyOf(const QKeyEvent& event) {
 KeyField::KeyField(QWidget* parent) : QLineEdit(parent) {
     setReadOnly(true);
     setContextMenuPolicy(Qt::NoContextMenu);
-    setPlaceholderText("Hit a key");
+    setPlaceholderText(UiText::tr("Hit a key"));
 }
 
 void KeyField::WhenHit(std::function<void(const QKeySequence& key)> hit) {

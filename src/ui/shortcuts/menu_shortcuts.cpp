@@ -5,16 +5,13 @@
 #include <QStringList>
 #include <utility>
 
+#include "ui/controls/menu_names.h"
+
 namespace kirto {
 
 namespace {
 
 constexpr const char* kGroup = "keys";
-
-// How the file names an item.
-QString NameOf(const MenuShortcuts::Item& item) {
-    return item.menu + ": " + item.label;
-}
 
 // The usable keys among those that the file lists, in the form that all desktops share.
 MenuShortcuts::Keys KeysOf(const QStringList& texts) {
@@ -33,7 +30,8 @@ MenuShortcuts::MenuShortcuts(const QMenuBar& bar, QString path) : path_(std::mov
         if (!title->menu()) continue;
         for (QAction* action : title->menu()->actions()) {
             if (action->isSeparator() || action->menu()) continue;
-            items_.push_back({title->text().remove('&'), action->text().remove('&'), action,
+            items_.push_back({title->text().remove('&'), action->text().remove('&'),
+                              EnglishNameOf(*title) + ": " + EnglishNameOf(*action), action,
                               action->shortcuts()});
         }
     }
@@ -88,8 +86,8 @@ void MenuShortcuts::Load() {
     QSettings file(path_, QSettings::IniFormat);
     file.beginGroup(kGroup);
     for (size_t i = 0; i < items_.size(); ++i) {
-        if (!file.contains(NameOf(items_[i]))) continue;
-        Give(i, KeysOf(file.value(NameOf(items_[i])).toStringList()));
+        if (!file.contains(items_[i].name)) continue;
+        Give(i, KeysOf(file.value(items_[i].name).toStringList()));
     }
 }
 
@@ -104,7 +102,7 @@ bool MenuShortcuts::Store() const {
         QStringList texts;
         for (const QKeySequence& key : keys)
             texts.append(key.toString(QKeySequence::PortableText));
-        file.setValue(NameOf(item), texts);
+        file.setValue(item.name, texts);
     }
     file.sync();
     return file.status() == QSettings::NoError;

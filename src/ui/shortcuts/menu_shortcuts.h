@@ -21,6 +21,7 @@ class MenuShortcuts {
     struct Item {
         QString menu;   // its title
         QString label;  // as it was at first: some items change theirs
+        QString name;   // of both in English, which the file knows it by
         QAction* action = nullptr;
         Keys usual;  // the program's
     };

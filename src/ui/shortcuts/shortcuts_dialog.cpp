@@ -10,7 +10,9 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+#include "base/core_text.h"
 #include "kit/alert.h"
+#include "kit/qt/ui_text.h"
 #include "ui/shortcuts/key_field.h"
 
 namespace kirto {
@@ -35,12 +37,12 @@ ShortcutsDialog::ShortcutsDialog(std::shared_ptr<MenuShortcuts> shortcuts, QWidg
       list_(new QTreeWidget(this)),
       note_(new QLabel(this)) {
     setObjectName(kName);
-    setWindowTitle("Keyboard Shortcuts");
+    setWindowTitle(UiText::tr("Keyboard Shortcuts"));
     setAttribute(Qt::WA_DeleteOnClose);
     search_->setObjectName("Search");
-    search_->setAccessibleName("Search");
-    search_->setPlaceholderText("Search for an action or a key");
-    search_->setToolTip("Shows only the actions with this in their name or key");
+    search_->setAccessibleName(UiText::tr("Search"));
+    search_->setPlaceholderText(UiText::tr("Search for an action or a key"));
+    search_->setToolTip(UiText::tr("Shows only the actions with this in their name or key"));
     search_->setClearButtonEnabled(true);
     connect(search_, &QLineEdit::textChanged, this, [this](const QString& text) { Search(text); });
     note_->setObjectName("Note");
@@ -62,8 +64,8 @@ ShortcutsDialog::ShortcutsDialog(std::shared_ptr<MenuShortcuts> shortcuts, QWidg
 
 void ShortcutsDialog::MakeList() {
     list_->setObjectName("Shortcuts");
-    list_->setAccessibleName("Actions and their keys");
-    list_->setHeaderLabels({"Menu", "Action", "Key"});
+    list_->setAccessibleName(UiText::tr("Actions and their keys"));
+    list_->setHeaderLabels({UiText::tr("Menu"), UiText::tr("Action"), UiText::tr("Key")});
     list_->setRootIsDecorated(false);
     list_->setUniformRowHeights(true);
     list_->setAllColumnsShowFocus(true);
@@ -77,21 +79,21 @@ void ShortcutsDialog::MakeList() {
 
 QWidget* ShortcutsDialog::MakeKeyRow() {
     auto* row = new QWidget(this);
-    auto* label = new QLabel("&Key:", row);
+    auto* label = new QLabel(UiText::tr("&Key:"), row);
     key_ = new KeyField(row);
     key_->setObjectName("Key");
-    key_->setAccessibleName("Key of the chosen action");
-    key_->setToolTip("Hit the key that the action is to have; Backspace for none");
+    key_->setAccessibleName(UiText::tr("Key of the chosen action"));
+    key_->setToolTip(UiText::tr("Hit the key that the action is to have; Backspace for none"));
     label->setBuddy(key_);
     key_->WhenHit([this](const QKeySequence& key) { Propose(key); });
-    take_ = new QPushButton("&Take Over", row);
+    take_ = new QPushButton(UiText::tr("&Take Over"), row);
     take_->setObjectName("TakeOver");
-    take_->setToolTip("Takes the key from the other action");
+    take_->setToolTip(UiText::tr("Takes the key from the other action"));
     take_->setAutoDefault(false);
     connect(take_, &QPushButton::clicked, this, [this] { Take(); });
-    restore_ = new QPushButton("&Default", row);
+    restore_ = new QPushButton(UiText::tr("&Default"), row);
     restore_->setObjectName("Default");
-    restore_->setToolTip("The key that this action has at first");
+    restore_->setToolTip(UiText::tr("The key that this action has at first"));
     restore_->setAutoDefault(false);
     connect(restore_, &QPushButton::clicked, this, [this] { RestoreChosen(); });
     auto* layout = new QHBoxLayout(row);
@@ -105,9 +107,10 @@ QWidget* ShortcutsDialog::MakeKeyRow() {
 
 QWidget* ShortcutsDialog::MakeButtons() {
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
-    QPushButton* all = buttons->addButton("&Restore Defaults", QDialogButtonBox::ResetRole);
+    QPushButton* all =
+        buttons->addButton(UiText::tr("&Restore Defaults"), QDialogButtonBox::ResetRole);
     all->setObjectName("RestoreDefaults");
-    all->setToolTip("The keys that all actions have at first");
+    all->setToolTip(UiText::tr("The keys that all actions have at first"));
     all->setAutoDefault(false);
     connect(all, &QPushButton::clicked, this, [this] { RestoreAll(); });
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::close);
@@ -162,8 +165,8 @@ void ShortcutsDialog::Propose(const QKeySequence& key) {
     take_->hide();
     if (!key.isEmpty() && !MenuShortcuts::IsUsable(key)) {
         note_->setText(
-            "Such a key is needed for typing, moving or opening menus. Hit one with "
-            "Ctrl, or a function key.");
+            UiText::tr("Such a key is needed for typing, moving or opening menus. Hit one with "
+                       "Ctrl, or a function key."));
         return;
     }
     const auto owner = shortcuts_->OwnerOf(key);
@@ -172,7 +175,7 @@ void ShortcutsDialog::Propose(const QKeySequence& key) {
         return;
     }
     proposed_ = key;
-    note_->setText(QString(R"(%1 is the key of "%2" in the menu "%3".)")
+    note_->setText(UiText::tr(R"(%1 is the key of "%2" in the menu "%3".)")
                        .arg(key.toString(QKeySequence::NativeText),
                             shortcuts_->Items()[*owner].label, shortcuts_->Items()[*owner].menu));
     take_->show();
@@ -185,7 +188,7 @@ void ShortcutsDialog::Take() {
     const QString loser = shortcuts_->Items()[*owner].label;
     const QString key = proposed_.toString(QKeySequence::NativeText);
     const bool stored = shortcuts_->SetKey(*chosen, proposed_);
-    ShowResult(stored, QString("\"%1\" no longer has %2.").arg(loser, key));
+    ShowResult(stored, UiText::tr("\"%1\" no longer has %2.").arg(loser, key));
     key_->setFocus();
 }
 
@@ -195,16 +198,18 @@ void ShortcutsDialog::RestoreChosen() {
 
 void ShortcutsDialog::RestoreAll() {
     constexpr int32 kRestore = 1;
-    BAlert alert("", "Do you want all actions to have the keys again that they had at first?",
-                 "Cancel", "Restore");
+    BAlert alert(
+        "", CoreText::tr("Do you want all actions to have the keys again that they had at first?"),
+        CoreText::Later("Cancel"), CoreText::Later("Restore"));
     if (alert.Go() == kRestore) ShowResult(shortcuts_->RestoreAll(), {});
 }
 
 void ShortcutsDialog::ShowResult(bool stored, const QString& note) {
     ShowKeys();
     ShowChosen();
-    note_->setText(stored ? note
-                          : "The keys could not be stored; they hold until the program ends.");
+    note_->setText(
+        stored ? note
+               : UiText::tr("The keys could not be stored; they hold until the program ends."));
 }
 
 void ShowShortcuts(const std::shared_ptr<MenuShortcuts>& shortcuts, QWidget* parent) {

@@ -7,6 +7,7 @@
 #include <cstring>
 #include <vector>
 
+#include "kit/qt/ui_text.h"
 #include "picture/picture_builder.h"
 #include "ui/controls/controls.h"
 
@@ -33,24 +34,24 @@ void DrawRow(const kirto::Picture& picture, int32 y, int32 left, std::vector<uin
 DifferenceWindow::DifferenceWindow(Finding finding, bool draw_transparent, QWidget* parent)
     : QDialog(parent), finding_(std::move(finding)), draw_transparent_(draw_transparent) {
     setObjectName("DifferenceWindow");
-    setWindowTitle("Differences");
+    setWindowTitle(UiText::tr("Differences"));
     setAttribute(Qt::WA_DeleteOnClose);
     saved = new kirto::FramePreview([](int32) {}, this);
-    saved->setAccessibleName("The frame in Kirto");
+    saved->setAccessibleName(UiText::tr("The frame in Kirto"));
     read = new kirto::FramePreview([](int32) {}, this);
-    read->setAccessibleName("The frame in browsers");
-    saved_label = kirto::MakeLabel("SavedLabel", "In Kirto", this);
-    read_label = kirto::MakeLabel("ReadLabel", "In browsers", this);
+    read->setAccessibleName(UiText::tr("The frame in browsers"));
+    saved_label = kirto::MakeLabel("SavedLabel", UiText::tr("In Kirto"), this);
+    read_label = kirto::MakeLabel("ReadLabel", UiText::tr("In browsers"), this);
     position = kirto::MakeLabel("Position", "", this);
     slider = new QSlider(Qt::Horizontal, this);
     slider->setObjectName("Pair");
-    slider->setAccessibleName("Frame that differs");
+    slider->setAccessibleName(UiText::tr("Frame that differs"));
     slider->setRange(0, std::max(static_cast<int>(finding_->differences.pairs.size()) - 1, 0));
     slider->setPageStep(1);
-    turns = new QCheckBox("&In turns", this);
+    turns = new QCheckBox(UiText::tr("&In turns"), this);
     turns->setObjectName("Turns");
-    turns->setAccessibleName("In turns");
-    turns->setToolTip("Shows both in one place, one after the other");
+    turns->setAccessibleName(UiText::tr("In turns"));
+    turns->setToolTip(UiText::tr("Shows both in one place, one after the other"));
     Arrange();
     connect(slider, &QSlider::valueChanged, this, [this](int number) { ShowPair(number); });
     connect(turns, &QCheckBox::toggled, this, [this](bool on) { ShowInTurns(on); });
@@ -87,7 +88,7 @@ void DifferenceWindow::ShowPair(int32 number) {
     saved->ShowFrame(OnScreen(finding_->saved->frames.At(pair.saved)), draw_transparent_);
     read->ShowFrame(finding_->read->frames.At(pair.read), draw_transparent_);
     position->setText(
-        QString("Frame %1 of %2").arg(pair.saved + 1).arg(finding_->saved->frames.Size()));
+        UiText::tr("Frame %1 of %2").arg(pair.saved + 1).arg(finding_->saved->frames.Size()));
 }
 
 void DifferenceWindow::ShowInTurns(bool in_turns) {

@@ -6,6 +6,7 @@
 
 #include "animation/gif_source.h"
 #include "animation/pauses.h"
+#include "kit/qt/ui_text.h"
 
 namespace kirto {
 
@@ -75,7 +76,7 @@ FrameLabel FrameLabel::Of(const Animation& animation, int32 index, bool in_secon
     FrameLabel label;
     label.number = QString::number(index);
     const double seconds = animation.PauseOf(frame) / PauseUnitsPerSecond(in_seconds);
-    label.pause = QString::number(seconds, 'f', 2) + " s";
+    label.pause = UiText::tr("%1 s").arg(seconds, 0, 'f', 2);
     label.own_pause = frame.use_pause;
     label.own_palette = frame.local_palette;
     label.damaged = frame.damaged;
@@ -83,16 +84,16 @@ FrameLabel FrameLabel::Of(const Animation& animation, int32 index, bool in_secon
     return label;
 }
 
-std::string FrameLabel::Marks() const {
-    std::string text;
+QString FrameLabel::Marks() const {
+    QString text;
     const auto add = [&](bool holds, const char* words) {
-        if (holds) text += (text.empty() ? "" : ", ") + std::string(words);
+        if (holds) text += (text.isEmpty() ? "" : ", ") + UiText::tr(words);
     };
-    add(damaged, "damaged, what was good was kept");
-    add(own_pause, "own pause");
-    add(own_palette, "own palette");
-    add(disposal == Disposal::kBackground, "cleared after it was shown");
-    add(disposal == Disposal::kPrevious, "what was before comes back after it");
+    add(damaged, UiText::Later("damaged, what was good was kept"));
+    add(own_pause, UiText::Later("own pause"));
+    add(own_palette, UiText::Later("own palette"));
+    add(disposal == Disposal::kBackground, UiText::Later("cleared after it was shown"));
+    add(disposal == Disposal::kPrevious, UiText::Later("what was before comes back after it"));
     return text;
 }
 

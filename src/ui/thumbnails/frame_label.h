@@ -28,7 +28,7 @@ struct FrameLabel {
     static FrameLabel Of(const Animation& animation, int32 index, bool in_seconds);
 
     // What the marks mean, in words; empty where there are none.
-    std::string Marks() const;
+    QString Marks() const;
     // Into the thumbnail, whose place it is given; of a narrow one whatever fits, the number first.
     void Paint(QPainter& painter, const QRectF& thumbnail, const QPalette& palette) const;
 

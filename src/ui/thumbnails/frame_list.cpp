@@ -5,11 +5,14 @@
 
 #include "base/text.h"
 #include "document/command_codes.h"
+#include "kit/qt/ui_text.h"
 
 namespace {
 
 QString RowText(int32 row, const std::string& name) {
-    return QString::fromStdString(kirto::Format("frame #%04d    %s", row, name.c_str()));
+    return UiText::tr("frame #%1    %2")
+        .arg(row, 4, 10, QChar('0'))
+        .arg(QString::fromStdString(name));
 }
 
 }  // namespace
@@ -17,7 +20,7 @@ QString RowText(int32 row, const std::string& name) {
 FrameList::FrameList(BMessenger window, QWidget* parent)
     : QListWidget(parent), window_(std::move(window)) {
     setObjectName("FrameList");
-    setAccessibleName("Frames");
+    setAccessibleName(UiText::tr("Frames"));
     setSelectionMode(QAbstractItemView::ExtendedSelection);
     setUniformItemSizes(true);
     connect(this, &QListWidget::itemSelectionChanged, this, [this] {

@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 
 #include "document/command_codes.h"
+#include "kit/qt/ui_text.h"
 #include "ui/controls/controls.h"
 
 namespace {
@@ -35,34 +36,39 @@ QLayout* FrameListView::MakeStrip(const BMessenger& window) {
 }
 
 QLayout* FrameListView::MakeButtons(const BMessenger& window) {
-    const auto make = [&](const char* name, const char* label, uint32 command,
-                          const char* tool_tip) {
+    const auto make = [&](const char* name, const QString& label, uint32 command,
+                          const QString& tool_tip) {
         QPushButton* button = kirto::MakeButton(name, label, command, window, this);
         button->setToolTip(tool_tip);
         return button;
     };
     auto* buttons = new QGridLayout;
-    buttons->addWidget(make("Insert", "Insert", kirto::kMenuInsert, "Insert image files"), 0, 0);
-    buttons->addWidget(make("Remove", "Remove", kirto::kRemoveFrame, "Remove the current frame"), 0,
-                       1);
     buttons->addWidget(
-        make("MoveUp", "Move Up", kirto::kMoveFrameUp, "Move the current frame toward the start"),
-        1, 0);
-    buttons->addWidget(make("MoveDown", "Move Down", kirto::kMoveFrameDown,
-                            "Move the current frame toward the end"),
+        make("Insert", UiText::tr("Insert"), kirto::kMenuInsert, UiText::tr("Insert image files")),
+        0, 0);
+    buttons->addWidget(make("Remove", UiText::tr("Remove"), kirto::kRemoveFrame,
+                            UiText::tr("Remove the current frame")),
+                       0, 1);
+    buttons->addWidget(make("MoveUp", UiText::tr("Move Up"), kirto::kMoveFrameUp,
+                            UiText::tr("Move the current frame toward the start")),
+                       1, 0);
+    buttons->addWidget(make("MoveDown", UiText::tr("Move Down"), kirto::kMoveFrameDown,
+                            UiText::tr("Move the current frame toward the end")),
                        1, 1);
     return buttons;
 }
 
 QLayout* FrameListView::MakePreview() {
-    title_ = kirto::MakeLabel("Title", "Preview: 100%", this);
+    title_ = kirto::MakeLabel("Title", UiText::tr("Preview: 100%"), this);
     // Its end may be cut before the list is.
     title_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     preview_ = new kirto::FramePreview(
-        [this](int32 percent) { kirto::ShowText(*title_, QString("Preview: %1%").arg(percent)); },
+        [this](int32 percent) {
+            kirto::ShowText(*title_, UiText::tr("Preview: %1%").arg(percent));
+        },
         this);
     preview_->setObjectName("Preview");
-    preview_->setAccessibleName("Preview");
+    preview_->setAccessibleName(UiText::tr("Preview"));
     auto* layout = new QVBoxLayout;
     layout->addWidget(title_);
     layout->addWidget(preview_, 1);

@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 
 #include "document/command_codes.h"
+#include "kit/qt/ui_text.h"
 
 namespace kirto {
 
@@ -18,9 +19,10 @@ RangeEntry::RangeEntry(const ShownDocument& shown, BMessenger application, QWidg
       application_(std::move(application)),
       thumbnails_(thumbnails) {
     setObjectName("RangeEntry");
-    setAccessibleName("Select frames");
-    setPlaceholderText("Select frames");
-    setToolTip("Frames as 3-7, 0-20/2 or 0,4,7; Return selects them, Escape leaves the selection");
+    setAccessibleName(UiText::tr("Select frames"));
+    setPlaceholderText(UiText::tr("Select frames"));
+    setToolTip(UiText::tr(
+        "Frames as 3-7, 0-20/2 or 0,4,7; Return selects them, Escape leaves the selection"));
     setFixedWidth(fontMetrics().horizontalAdvance("0") * kCharacters);
     hide();
 }

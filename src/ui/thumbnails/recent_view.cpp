@@ -10,6 +10,7 @@
 #include "base/pixel_budget.h"
 #include "kit/picture_files.h"
 #include "kit/qt/picture_image.h"
+#include "kit/qt/ui_text.h"
 
 namespace kirto {
 
@@ -63,7 +64,7 @@ RecentView::RecentView(RecentList& list, BTranslatorRoster& roster, const BMesse
                        QWidget* parent)
     : QListWidget(parent), list_(list), roster_(roster) {
     setObjectName("RecentAnimations");
-    setAccessibleName("Recent animations");
+    setAccessibleName(UiText::tr("Recent animations"));
     setViewMode(QListView::IconMode);
     setMovement(QListView::Static);
     setResizeMode(QListView::Adjust);
@@ -92,7 +93,7 @@ void RecentView::Fill() {
                                          info.fileName() + '\n' + date, this);
         item->setData(Qt::UserRole, QByteArray::fromStdString(file.path));
         item->setData(Qt::AccessibleTextRole,
-                      QString("%1 in %2, %3").arg(info.fileName(), info.path(), date));
+                      UiText::tr("%1 in %2, %3").arg(info.fileName(), info.path(), date));
         item->setToolTip(info.filePath());
         item->setTextAlignment(Qt::AlignHCenter);
     }
@@ -124,7 +125,7 @@ void RecentView::ShowPicture(const std::string& path, const QImage& picture, boo
         if (found->data(Qt::UserRole).toByteArray() != bytes) continue;
         found->setIcon(QIcon(Framed(picture, devicePixelRatioF())));
         found->setFlags(exists ? Qt::ItemIsEnabled | Qt::ItemIsSelectable : Qt::NoItemFlags);
-        if (!exists) found->setToolTip(found->toolTip() + "\nThe file is not there.");
+        if (!exists) found->setToolTip(found->toolTip() + UiText::tr("\nThe file is not there."));
     }
 }
 

@@ -6,6 +6,7 @@
 #include <QToolTip>
 
 #include "base/text.h"
+#include "kit/qt/ui_text.h"
 #include "ui/thumbnails/frame_label.h"
 
 BPoint ThumbDrawingView::PointOf(const QPoint& point) {
@@ -24,7 +25,7 @@ ThumbDrawingView::ThumbDrawingView(const kirto::ShownDocument& shown, const kirt
           kirto::RunFrameDrag(this, std::move(drag), image, grab);
       }) {
     setObjectName("ThumbDrawingView");
-    setAccessibleName("Thumbnails");
+    setAccessibleName(UiText::tr("Thumbnails"));
     setFocusPolicy(Qt::StrongFocus);
     setAcceptDrops(true);
     setBackgroundRole(QPalette::Base);
@@ -88,15 +89,18 @@ void ThumbDrawingView::KeepCurrentInSight() {
 // For those who can't see which thumbnail has the line around it.
 void ThumbDrawingView::Describe() {
     const kirto::FramePointer frame = shown_.CurrentFrame();
-    std::string text =
-        frame ? kirto::Format("frame #%04d %s, %d x %d, %d frame(s)", shown_.Selected(),
-                              frame->name.c_str(), frame->width, frame->height, shown_.FrameCount())
-              : "no frames";
-    const std::string marks = frame ? MarksOf(shown_.Selected()) : "";
-    if (!marks.empty()) text += ", " + marks;
+    QString description = UiText::tr("no frames");
+    if (frame) {
+        description =
+            UiText::tr("frame #%1 %2, %3 x %4, %5 frame(s)")
+                .arg(QString("%1").arg(shown_.Selected(), 4, 10, QChar('0')),
+                     QString::fromStdString(frame->name), QString::number(frame->width),
+                     QString::number(frame->height), QString::number(shown_.FrameCount()));
+        const QString marks = MarksOf(shown_.Selected());
+        if (!marks.isEmpty()) description += ", " + marks;
+    }
     const int32 several = shown_.Current().several.Count();
-    const QString description =
-        QString::fromStdString(several > 0 ? text + kirto::Format(", %d selected", several) : text);
+    if (several > 0) description += UiText::tr(", %1 selected").arg(several);
     if (accessibleDescription() != description) setAccessibleDescription(description);
 }
 
@@ -106,7 +110,7 @@ bool ThumbDrawingView::event(QEvent* event) {
     return true;
 }
 
-std::string ThumbDrawingView::MarksOf(int32 index) const {
+QString ThumbDrawingView::MarksOf(int32 index) const {
     const bool in_seconds = shown_.Settings().global_pauseinseconds;
     return kirto::FrameLabel::Of(shown_.Current(), index, in_seconds).Marks();
 }
@@ -118,15 +122,15 @@ void ThumbDrawingView::ShowToolTip(const QHelpEvent& event) {
         return;
     }
     const Frame& frame = *shown_.Frames().At(index);
-    std::string text = kirto::Format("frame #%04d    %s\n%d x %d", index, frame.name.c_str(),
-                                     frame.width, frame.height);
-    const std::string marks = MarksOf(index);
-    if (!marks.empty()) text += "\n" + marks;
+    QString text =
+        UiText::tr("frame #%1    %2\n%3 x %4")
+            .arg(QString("%1").arg(index, 4, 10, QChar('0')), QString::fromStdString(frame.name),
+                 QString::number(frame.width), QString::number(frame.height));
+    const QString marks = MarksOf(index);
+    if (!marks.isEmpty()) text += "\n" + marks;
     // Escaped, as a name may look like markup.
-    QToolTip::showText(
-        event.globalPos(),
-        "<div style='white-space: pre'>" + QString::fromStdString(text).toHtmlEscaped() + "</div>",
-        this);
+    QToolTip::showText(event.globalPos(),
+                       "<div style='white-space: pre'>" + text.toHtmlEscaped() + "</div>", this);
 }
 
 void ThumbDrawingView::resizeEvent(QResizeEvent* event) {
@@ -169,7 +173,7 @@ void ThumbDrawingView::DrawInvitation(QPainter& painter) {
     painter.setPen(palette().color(QPalette::PlaceholderText));
     painter.drawText(
         rect(), Qt::AlignCenter | Qt::TextWordWrap,
-        "Drop images or an animation here,\nor choose Insert...\nfrom the Frame menu.");
+        UiText::tr("Drop images or an animation here,\nor choose Insert...\nfrom the Frame menu."));
 }
 
 // The current frame has a line around it. Where several are selected all of them are tinted, and

@@ -84,7 +84,7 @@ class ThumbDrawingView : public QWidget {
     static BPoint PointOf(const QPoint& point);
     void MakeMenu();
     void Describe();
-    std::string MarksOf(int32 index) const;
+    QString MarksOf(int32 index) const;
     void ShowToolTip(const QHelpEvent& event);
     void DrawThumbnails(QPainter& painter, const QRect& area);
     void DrawInvitation(QPainter& painter);

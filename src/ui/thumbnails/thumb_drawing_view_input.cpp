@@ -7,8 +7,10 @@
 #include <QStyleHints>
 #include <utility>
 
+#include "base/core_text.h"
 #include "document/command_codes.h"
 #include "kit/alert.h"
+#include "kit/qt/ui_text.h"
 #include "ui/thumbnails/file_urls.h"
 #include "ui/thumbnails/frames_mime_data.h"
 #include "ui/thumbnails/targa_file.h"
@@ -30,24 +32,25 @@ bool CarriesFiles(const QDropEvent& event) {
 void ThumbDrawingView::MakeMenu() {
     menu_.setObjectName("ModifyFrame");
     const std::pair<const char*, uint32> items[] = {
-        {"Insert Frame", kirto::kMenuInsert},
-        {"Remove Frame", kirto::kRemoveFrame},
-        {"Move Up", kirto::kMoveFrameUp},
-        {"Move Down", kirto::kMoveFrameDown},
-        {"Fade Effects...", kirto::kMenuFadeEffects},
+        {UiText::Later("Insert Frame"), kirto::kMenuInsert},
+        {UiText::Later("Remove Frame"), kirto::kRemoveFrame},
+        {UiText::Later("Move Up"), kirto::kMoveFrameUp},
+        {UiText::Later("Move Down"), kirto::kMoveFrameDown},
+        {UiText::Later("Fade Effects..."), kirto::kMenuFadeEffects},
         {nullptr, 0},
-        {"Cut", kirto::kMenuCut},
-        {"Copy", kirto::kMenuCopy},
-        {"Paste", kirto::kMenuPaste},
-        {"Duplicate", kirto::kDuplicateFrames},
-        {"Set Pause...", kirto::kMenuSetPause},
+        {UiText::Later("Cut"), kirto::kMenuCut},
+        {UiText::Later("Copy"), kirto::kMenuCopy},
+        {UiText::Later("Paste"), kirto::kMenuPaste},
+        {UiText::Later("Duplicate"), kirto::kDuplicateFrames},
+        {UiText::Later("Set Pause..."), kirto::kMenuSetPause},
     };
     for (const auto& [label, command] : items) {
         if (!label) {
             menu_.addSeparator();
             continue;
         }
-        menu_.addAction(label, this, [this, code = command] { window_.SendMessage(code); });
+        menu_.addAction(UiText::tr(label), this,
+                        [this, code = command] { window_.SendMessage(code); });
     }
 }
 
@@ -271,9 +274,9 @@ void ThumbDrawingView::ReportFailedSave() {
     save_failed_ = dragging_;
     if (dragging_) return;
     QTimer::singleShot(0, this, [] {
-        kirto::Warn(
+        kirto::Warn(CoreText::tr(
             "The file could not be saved because the Targa translator is either missing or "
-            "failed.");
+            "failed."));
     });
 }
 

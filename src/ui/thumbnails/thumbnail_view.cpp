@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 
 #include "document/command_codes.h"
+#include "kit/qt/ui_text.h"
 #include "ui/controls/controls.h"
 #include "ui/controls/folding_row.h"
 #include "ui/thumbnails/recent_view.h"
@@ -17,7 +18,7 @@ namespace {
 constexpr int32 kFirstHeight = 100;
 
 QString HeightText(int32 pixels) {
-    return QString("Thumbnail height: %1").arg(pixels);
+    return UiText::tr("Thumbnail height: %1").arg(pixels);
 }
 
 }  // namespace
@@ -38,12 +39,12 @@ ThumbnailView::ThumbnailView(const kirto::ShownDocument& shown, const kirto::Edi
 
 void ThumbnailView::MakeBeginning(const BMessenger& window) {
     beginning_ = new QWidget(this);
-    QPushButton* open =
-        kirto::MakeButton("BeginByOpening", "Open...", kirto::kMenuOpen, window, beginning_);
-    open->setToolTip("Open an animation");
-    QPushButton* insert = kirto::MakeButton("BeginByInserting", "Insert Images...",
+    QPushButton* open = kirto::MakeButton("BeginByOpening", UiText::tr("Open..."), kirto::kMenuOpen,
+                                          window, beginning_);
+    open->setToolTip(UiText::tr("Open an animation"));
+    QPushButton* insert = kirto::MakeButton("BeginByInserting", UiText::tr("Insert Images..."),
                                             kirto::kMenuInsert, window, beginning_);
-    insert->setToolTip("Make an animation of images");
+    insert->setToolTip(UiText::tr("Make an animation of images"));
     auto* layout = new QHBoxLayout(beginning_);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addStretch();
@@ -55,7 +56,7 @@ void ThumbnailView::MakeBeginning(const BMessenger& window) {
 // Files are opened as the menu opens them, by the application.
 void ThumbnailView::MakeRecent(const kirto::Editor& editor) {
     if (!editor.recent) return;
-    recent_label_ = kirto::MakeLabel("RecentLabel", "Recent animations:", this);
+    recent_label_ = kirto::MakeLabel("RecentLabel", UiText::tr("Recent animations:"), this);
     recent_ = new kirto::RecentView(*editor.recent, editor.roster, editor.application, this);
     recent_label_->setBuddy(recent_);
     editor.recent->Watch(this, [this] { ShowBeginning(); });
@@ -63,10 +64,10 @@ void ThumbnailView::MakeRecent(const kirto::Editor& editor) {
 
 // The setting is changed as the preferences do it.
 void ThumbnailView::MakeFaithfulChoice(const BMessenger& window) {
-    faithful_ = new QCheckBox("Read and save as browsers show it", this);
+    faithful_ = new QCheckBox(UiText::tr("Read and save as browsers show it"), this);
     faithful_->setObjectName("FaithfulChoice");
     faithful_->setAccessibleName(faithful_->text());
-    faithful_->setToolTip("Also found in the preferences, under Compatibility");
+    faithful_->setToolTip(UiText::tr("Also found in the preferences, under Compatibility"));
     connect(faithful_, &QCheckBox::clicked, this, [this, window](bool on) {
         Prefs settings = shown_.Settings();
         settings.animation_faithful = on;
@@ -81,24 +82,26 @@ void ThumbnailView::MakeControls(const BMessenger& window) {
     height_label_->setText(HeightText(kFirstHeight));
     slider_ = new QSlider(Qt::Horizontal, this);
     slider_->setObjectName("Slider");
-    slider_->setAccessibleName("Thumbnail height");
-    slider_->setToolTip("Height of the thumbnails in pixels");
+    slider_->setAccessibleName(UiText::tr("Thumbnail height"));
+    slider_->setToolTip(UiText::tr("Height of the thumbnails in pixels"));
     slider_->setRange(shown_.Settings().thumbnail_minheight, shown_.Settings().thumbnail_maxheight);
     slider_->setValue(kFirstHeight);
     slider_->setPageStep(20);
     connect(slider_, &QSlider::valueChanged, this,
             [window] { window.SendMessage(kirto::kThumbnailSlider); });
-    QLabel* menu_label = kirto::MakeLabel("HeightLabel", "Use frame:", this);
-    QComboBox* menu = kirto::MakePopUpMenu("HeightField",
-                                           {{"first half sized", kirto::kThumbnailFirstHalf, 0},
-                                            {"current half sized", kirto::kThumbnailCurrentHalf, 1},
-                                            {"first full sized", kirto::kThumbnailFirstFull, 2},
-                                            {"current full sized", kirto::kThumbnailCurrentFull, 3},
-                                            {"Fit", kirto::kThumbnailFit, 4}},
-                                           window, this);
+    QLabel* menu_label = kirto::MakeLabel("HeightLabel", UiText::tr("Use frame:"), this);
+    QComboBox* menu =
+        kirto::MakePopUpMenu("HeightField",
+                             {{UiText::tr("first half sized"), kirto::kThumbnailFirstHalf, 0},
+                              {UiText::tr("current half sized"), kirto::kThumbnailCurrentHalf, 1},
+                              {UiText::tr("first full sized"), kirto::kThumbnailFirstFull, 2},
+                              {UiText::tr("current full sized"), kirto::kThumbnailCurrentFull, 3},
+                              {UiText::tr("Fit"), kirto::kThumbnailFit, 4}},
+                             window, this);
     menu->view()->setObjectName("HeightMenu");
-    menu->setAccessibleName("Use frame:");
-    menu->setToolTip("Set the thumbnail height from a frame, or so that all frames fit");
+    menu->setAccessibleName(UiText::tr("Use frame:"));
+    menu->setToolTip(
+        UiText::tr("Set the thumbnail height from a frame, or so that all frames fit"));
     menu_label->setBuddy(menu);
 
     auto* height = new QHBoxLayout;

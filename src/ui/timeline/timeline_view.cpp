@@ -7,6 +7,7 @@
 #include <cmath>
 
 #include "animation/pauses.h"
+#include "kit/qt/ui_text.h"
 #include "ui/timeline/timeline_accessible.h"
 
 namespace kirto {
@@ -30,10 +31,10 @@ TimelineView::TimelineView(const ShownDocument& shown, BMessenger commands, QWid
       thumbnails_([this] { viewport()->update(); }) {
     InstallTimelineAccessibility();
     setObjectName("Timeline");
-    setAccessibleName("Timeline");
-    setToolTip(
+    setAccessibleName(UiText::tr("Timeline"));
+    setToolTip(UiText::tr(
         "Drag a block to move its frame, its right edge to change its pause, the ruler to "
-        "go to a frame. Ctrl and the wheel zoom.");
+        "go to a frame. Ctrl and the wheel zoom."));
     setFocusPolicy(Qt::StrongFocus);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
@@ -74,7 +75,7 @@ QRect TimelineView::PlaceOf(int32 frame) const {
 }
 
 QString TimelineView::NameOf(int32 frame) const {
-    return QString("Frame %1, %2").arg(frame).arg(SecondsText(layout_.SecondsOf(frame)));
+    return UiText::tr("Frame %1, %2").arg(frame).arg(SecondsText(layout_.SecondsOf(frame)));
 }
 
 bool TimelineView::IsSelected(int32 frame) const {

@@ -1,3 +1,4 @@
+#include "base/core_text.h"
 #include "effects/pictures/edit_pictures.h"
 
 #include <gtest/gtest.h>
@@ -38,7 +39,7 @@ EditPointer AnyEdit(ChoiceSource& choices, int32 kind, const Animation& before) 
             return std::make_unique<FitEdit>(static_cast<Fit>(choices.Below(3)), filter);
         case 4:
             return std::make_unique<ColorEdit>(
-                std::make_unique<AdjustmentMap>(ColorAdjustment{20, -10, 30, false}), "adjusting");
+                std::make_unique<AdjustmentMap>(ColorAdjustment{20, -10, 30, false}), "Status: adjusting frame %1 of %2...");
         default:
             return std::make_unique<OverlayEdit>(
                 FramePictureOf(4, 3, std::vector<uint32>(12, 0x80123456), B_RGBA32),
@@ -50,14 +51,14 @@ EditPointer AnyEdit(ChoiceSource& choices, int32 kind, const Animation& before) 
 // A made-up document to which an edit is applied.
 struct EditRun {
     EditRun(uint32 seed, int32 kind, int32 thread_count, int64 bytes_left = -1,
-            const std::string& stop_at = {}) {
+            bool stops = false) {
         const ScopedThreads threads(thread_count);
         SeededChoices choices(seed);
         FillSomehow(choices, document);
         before = document.Current();
         const EditPointer edit = AnyEdit(choices, kind, *before);
         port->TakeTranscript();
-        if (!stop_at.empty()) port->StopAt(document, "Status: " + (edit->Verb() + stop_at));
+        if (stops) port->StopAt(document, CoreText::With(edit->Status(), {"2", "3"}));
         if (bytes_left >= 0) {
             document.pixel_budget->SetLimit(document.pixel_budget->Used() +
                                             static_cast<uint64>(bytes_left));
@@ -119,14 +120,14 @@ TEST(EditPictures, ChangesNothingWhenStopped) {
     int32 stopped = 0;
     for (int32 kind = 0; kind < kKinds; ++kind) {
         for (uint32 seed = 1; seed <= 8; ++seed) {
-            const EditRun alone(seed, kind, 1, -1, " frame 2 of 3...");
+            const EditRun alone(seed, kind, 1, -1, true);
             if (alone.end == EditEnd::kStopped) {
                 ++stopped;
                 EXPECT_EQ(alone.document.Current(), alone.before);
                 EXPECT_TRUE(alone.alerts.Lines().empty());
             }
             for (const int32 threads : kThreadCounts) {
-                ASSERT_TRUE(Same(EditRun(seed, kind, threads, -1, " frame 2 of 3..."), alone))
+                ASSERT_TRUE(Same(EditRun(seed, kind, threads, -1, true), alone))
                     << kind << ',' << seed;
             }
         }
@@ -196,7 +197,7 @@ TEST(EditPictures, WorksOnTheNamedFramesOnly) {
     EditOf(fixture.document)->width = 1;
     EditOf(fixture.document)->height = 1;
     const auto before = fixture.document.Current();
-    EditPictures(fixture.document, ColorEdit(std::make_unique<OpacityMap>(50), "fading"),
+    EditPictures(fixture.document, ColorEdit(std::make_unique<OpacityMap>(50), "Status: fading frame %1 of %2..."),
                  FrameSet::Of(0, 2, 2));
     EXPECT_EQ(PixelsOf(*fixture.document.FrameAt(0)->bitmap).front(), 0x80102030);
     EXPECT_EQ(fixture.document.FrameAt(1), before->frames.At(1));

@@ -44,7 +44,7 @@ TEST(FrameLabel, TellsTheNumberAndThePause) {
 
     EXPECT_EQ(label.number, "0");
     EXPECT_EQ(label.pause, "0.25 s");
-    EXPECT_EQ(label.Marks(), "");
+    EXPECT_TRUE(label.Marks().isEmpty());
     EXPECT_EQ(FrameLabel::Of(animation, 0, true).pause, "25.00 s");
 }
 
