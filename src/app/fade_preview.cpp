@@ -44,7 +44,7 @@ int32 StepOf(const FramePointer& current, int32 side) {
     return std::max((longer + side - 1) / side, 1);
 }
 
-rgb_color ColorOf(uint32 color) {
+rgb_color FadeColorOf(uint32 color) {
     return {static_cast<uint8>(color >> 24), static_cast<uint8>(color >> 16),
             static_cast<uint8>(color >> 8), 255};
 }
@@ -89,7 +89,7 @@ Animation FadePreview(const Animation& animation, const FadeChoice& choice, int3
     try {
         const FadeMode mode = FadeModeOf(choice.command);
         const int32 step = StepOf(animation.CurrentFrame(), side);
-        FadePlan plan{mode, ColorOf(choice.color), Thinned(animation.CurrentFrame(), step),
+        FadePlan plan{mode, FadeColorOf(choice.color), Thinned(animation.CurrentFrame(), step),
                       nullptr};
         if (!plan.current) return {};
         if (mode == FadeMode::kToNext || mode == FadeMode::kFromPrevious) {

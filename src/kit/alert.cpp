@@ -19,7 +19,7 @@ AlertPresenter* InstallAlertPresenter(AlertPresenter* presenter) {
 }
 
 void AlertPresenter::Tell(const std::string& text) {
-    Present(BAlert("", text, "OK"));
+    Present(BAlert("", text, CoreText::Later("OK")));
 }
 
 void Warn(const std::string& text) {

@@ -20,7 +20,7 @@ constexpr int kStripMargin = 3;
 constexpr int32 kStripSide = 128;  // of a picture, pixels
 constexpr int32 kMostFrames = 100;
 
-PlaybackClock::Instant SteadyNow() {
+PlaybackClock::Instant MonotonicNow() {
     return std::chrono::steady_clock::now().time_since_epoch();
 }
 
@@ -38,7 +38,7 @@ void DrawFitted(QPainter& painter, const QImage& image, const QRectF& room) {
 }  // namespace
 
 FadeStrip::FadeStrip(const char* name, std::function<FadeChoice()> choice, QWidget* parent)
-    : QWidget(parent), choice_(std::move(choice)), now_(SteadyNow) {
+    : QWidget(parent), choice_(std::move(choice)), now_(MonotonicNow) {
     setObjectName(QString::fromUtf8(name));
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     timer_.setSingleShot(true);

@@ -96,9 +96,9 @@ void ThumbDrawingView::Describe() {
                 .arg(QString("%1").arg(shown_.Selected(), 4, 10, QChar('0')),
                      QString::fromStdString(frame->name), QString::number(frame->width),
                      QString::number(frame->height), QString::number(shown_.FrameCount()));
+        const QString marks = MarksOf(shown_.Selected());
+        if (!marks.isEmpty()) description += ", " + marks;
     }
-    const QString marks = frame ? MarksOf(shown_.Selected()) : "";
-    if (!marks.isEmpty()) description += ", " + marks;
     const int32 several = shown_.Current().several.Count();
     if (several > 0) description += UiText::tr(", %1 selected").arg(several);
     if (accessibleDescription() != description) setAccessibleDescription(description);
