@@ -8,7 +8,7 @@ namespace kirto::test {
 
 namespace {
 
-RefusedMemory::Which t_which;  // constant while memory is refused
+RefusedMemory::Which g_which;  // constant while memory is refused
 std::atomic<bool> g_refusing = false;
 std::atomic<int64> g_count = 0;
 std::atomic<int64> g_refused = 0;
@@ -16,11 +16,11 @@ thread_local bool t_spared = false;
 thread_local bool t_marked = false;
 
 bool IsRefused(size_t size) {
-    if (!g_refusing || t_spared || size < t_which.least) return false;
-    if (t_which.marked_only && !t_marked) return false;
+    if (!g_refusing || t_spared || size < g_which.least) return false;
+    if (g_which.marked_only && !t_marked) return false;
     const int64 number = ++g_count;
-    if (t_which.first == 0) return false;
-    const bool refused = t_which.all_later ? number >= t_which.first : number == t_which.first;
+    if (g_which.first == 0) return false;
+    const bool refused = g_which.all_later ? number >= g_which.first : number == g_which.first;
     if (refused) ++g_refused;
     return refused;
 }
@@ -29,7 +29,7 @@ bool IsRefused(size_t size) {
 
 RefusedMemory::RefusedMemory(const Which& which) {
     t_spared = true;
-    t_which = which;
+    g_which = which;
     g_count = 0;
     g_refused = 0;
     g_refusing = true;

@@ -16,7 +16,7 @@ namespace {
 constexpr size_t kLarge = 64 << 10;
 constexpr int32 kSide = 300;
 constexpr char kAlert[] = "Out of memory.";
-// Of the small allocations of an operation every so manieth is refused; all of the large ones are.
+// Each 17th of all allocations is refused in its turn, but each one of the large ones.
 constexpr int64 kStep = 17;
 
 std::vector<uint8> Noise(uint32 seed, uint32 colors) {
@@ -52,7 +52,7 @@ std::vector<uint8> LargeImage() {
     return RawPicture(*PictureOf(kSide, kSide, pixels));
 }
 
-// What the handler's own thread is to refuse is refused there alone.
+// Marks the application's thread, which is the one that it is handled on.
 class Marker : public BHandler {
   public:
     void MessageReceived(BMessage*) override { RefusedMemory::MarkThread(); }

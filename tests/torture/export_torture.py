@@ -129,21 +129,20 @@ class Torture:
             self.check(status, True, f"{kind}, killed")
 
     def full_disk(self, kind):
-        """The folder is a disk that the old files fit, and not much else."""
-        size = sum(map(len, self.old.values())) // 1024 + 12
+        """The folder is a disk that the old files fill, which are a page each."""
+        size = 4 * len(self.old)
         self.empty()
         mounted = subprocess.run(["mount", "-t", "tmpfs", "-o", f"size={size}k", "none", self.folder],
                                  stderr=subprocess.DEVNULL, check=False)
         if mounted.returncode != 0:
             return
         try:
-            if sum(map(len, self.new.values())) > size * 1024:
-                self.reset()
-                status = self.run(kind)
-                self.check(status, False, f"{kind}, full disk")
-                if status == 0:
-                    self.failures += 1
-                    print(f"FAILED: {kind}: the full disk took the files")
+            self.reset()
+            status = self.run(kind)
+            self.check(status, False, f"{kind}, full disk")
+            if status == 0:
+                self.failures += 1
+                print(f"FAILED: {kind}: the full disk took the files")
         finally:
             subprocess.run(["umount", self.folder], check=True)
 

@@ -96,7 +96,7 @@ failing_calls() {
 
 random_kills() {
     local runs=10 status pid
-    [ "$size" = whole ] && runs=200
+    [ "$size" = whole ] && runs=2000
     for _ in $(seq "$runs"); do
         reset
         status=0
