@@ -26,9 +26,9 @@ void MovingPicture::Add(const QImage& picture, double hundredths) {
 }
 
 bool MovingPicture::Write(const std::string& path) const {
-    const QtTranslatorRoster roster;
+    QtTranslatorRoster roster;
     Work work;
-    std::vector<uint8> bytes;
+    ExportFiles files;
     ExportSettings settings;
     settings.one_table = true;
     const ExportResult result = ExportAnimation(
@@ -39,6 +39,7 @@ bool MovingPicture::Write(const std::string& path) const {
                      SentenceOf(result, ExportFormat::kGif).c_str());
         return false;
     }
+    const std::vector<uint8>& bytes = files.contents.front();
     std::ofstream file(path, std::ios::binary);
     file.write(reinterpret_cast<const char*>(bytes.data()),
                static_cast<std::streamsize>(bytes.size()));
