@@ -33,7 +33,7 @@ bool MovingPicture::Write(const std::string& path) const {
     settings.one_table = true;
     const ExportResult result = ExportAnimation(
         {std::make_shared<const Animation>(animation_), false, budget_, roster, work}, settings,
-        &bytes);
+        &files);
     if (result != ExportResult::kDone) {
         std::fprintf(stderr, "kirto-pictures: %s\n",
                      SentenceOf(result, ExportFormat::kGif).c_str());
