@@ -33,7 +33,8 @@ times, recolors and fades frames, and writes animated GIFs or images.
 This is the editor with its windows.")
 set(CPACK_DEBIAN_KIRTO_PACKAGE_DEPENDS
     "kirto-cli (= ${PROJECT_VERSION}), qt6-qpa-plugins, libqt6svg6, fonts-dejavu-core")
-set(CPACK_DEBIAN_KIRTO_PACKAGE_RECOMMENDS "ffmpeg, qt6-image-formats-plugins, qt6-wayland")
+set(CPACK_DEBIAN_KIRTO_PACKAGE_RECOMMENDS
+    "ffmpeg, qt6-image-formats-plugins, qt6-translations-l10n, qt6-wayland")
 
 set(CPACK_DEBIAN_KIRTO-CLI_PACKAGE_NAME kirto-cli)
 set(CPACK_COMPONENT_KIRTO-CLI_DESCRIPTION

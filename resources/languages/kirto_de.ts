@@ -3274,5 +3274,9 @@ im Menü „Bild“.</translation>
         <source>damaged, what was good was kept</source>
         <translation>beschädigt, das Gute wurde behalten</translation>
     </message>
+    <message>
+        <source>%1:</source>
+        <translation>%1:</translation>
+    </message>
 </context>
 </TS>

@@ -3274,5 +3274,9 @@ en el menú «Fotograma».</translation>
         <source>damaged, what was good was kept</source>
         <translation>dañado, se conservó lo bueno</translation>
     </message>
+    <message>
+        <source>%1:</source>
+        <translation>%1:</translation>
+    </message>
 </context>
 </TS>

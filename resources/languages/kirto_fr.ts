@@ -3274,5 +3274,9 @@ dans le menu « Image ».</translation>
         <source>damaged, what was good was kept</source>
         <translation>endommagée, ce qui était bon a été gardé</translation>
     </message>
+    <message>
+        <source>%1:</source>
+        <translation>%1 :</translation>
+    </message>
 </context>
 </TS>

@@ -3273,5 +3273,9 @@ from the Frame menu.</source>
         <source>damaged, what was good was kept</source>
         <translation>已损坏，保留了完好的部分</translation>
     </message>
+    <message>
+        <source>%1:</source>
+        <translation>%1：</translation>
+    </message>
 </context>
 </TS>

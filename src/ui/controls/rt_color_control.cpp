@@ -40,7 +40,7 @@ RTColorControl::RTColorControl(const char* name, QWidget* parent) : QWidget(pare
 
 RTColorControl::Channel RTColorControl::MakeChannel(const char* name, int shift,
                                                     QGridLayout& layout) {
-    const QString label_text = UiText::tr(name) + ":";
+    const QString label_text = UiText::tr("%1:").arg(UiText::tr(name));
     auto* label = new QLabel(label_text, this);
     auto* slider = new QSlider(Qt::Horizontal, this);
     slider->setObjectName(QString::fromUtf8(name) + "Slider");

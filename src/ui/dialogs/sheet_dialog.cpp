@@ -13,7 +13,7 @@ namespace kirto {
 
 namespace {
 
-constexpr int kMostPadding = 1000;  // pixels
+constexpr int kMostSheetPadding = 1000;  // pixels
 
 // The translator that writes PNG files; 0 without one.
 translator_id PngWriter(const BTranslatorRoster& roster) {
@@ -46,7 +46,7 @@ void AskForSheet(const Animation& shown, const BTranslatorRoster& roster, QWidge
     QSpinBox* columns = dialog->AddNumber("Columns", UiText::tr("&Columns:"), 0, count, 0);
     columns->setSpecialValueText(UiText::tr("as many as rows"));
     QSpinBox* padding =
-        dialog->AddNumber("Padding", UiText::tr("&Padding in pixels:"), 0, kMostPadding, 0);
+        dialog->AddNumber("Padding", UiText::tr("&Padding in pixels:"), 0, kMostSheetPadding, 0);
     auto* power = new QCheckBox(UiText::tr("Sides are powers of &two"), dialog);
     power->setObjectName("PowerOfTwo");
     dialog->AddWide(power);

@@ -38,7 +38,8 @@ TextControl* FieldPanel::MakeNumber(uint32 command, const QString& tip, QCheckBo
 TextControl* FieldPanel::AddNumber(uint32 command, Unit unit, const QString& tip,
                                    const QString& label, QCheckBox* box) {
     TextControl* number = MakeNumber(command, tip, box);
-    const QString text = label.isEmpty() ? UiText::tr(FieldOf(command)->name) + ":" : label;
+    const QString text =
+        label.isEmpty() ? UiText::tr("%1:").arg(UiText::tr(FieldOf(command)->name)) : label;
     rows_->AddField(text, number, MakeUnit(unit));
     return number;
 }
