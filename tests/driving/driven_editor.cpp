@@ -6,6 +6,7 @@
 #include <cstdio>
 
 #include "document/command_codes.h"
+#include "kit/qt/ui_text.h"
 #include "resources/resource_file_path.h"
 
 namespace kirto {
@@ -22,9 +23,12 @@ void WorkFor(int milliseconds) {
         QApplication::processEvents(QEventLoop::AllEvents, 10);
 }
 
+// title: English.
 QWidget* WindowTitled(const QString& title) {
+    const QString translated = UiText::tr(title.toUtf8());
     for (QWidget* window : QApplication::topLevelWidgets()) {
-        if (window->isVisible() && window->windowTitle() == title) return window;
+        const QString shown = window->windowTitle();
+        if (window->isVisible() && (shown == title || shown == translated)) return window;
     }
     return nullptr;
 }

@@ -40,7 +40,8 @@ class DrivenEditor {
     // Repeats the frames, or removes the last ones, until there are so many. There is one at least.
     void SetLength(int32 frames);
 
-    // The window with the title that the command opens; null, and said so, where none comes.
+    // The window with the English title that the command opens; null, and said so, where none
+    // comes.
     QWidget* OpenWindow(uint32 command, const QString& title);
 
     // Lets the windows work.

@@ -186,7 +186,8 @@ void DocumentPictures::DrawPreferences() {
     for (int i = 0; tabs && i < tabs->count(); ++i) {
         tabs->setCurrentIndex(i);
         DrivenEditor::Settle();
-        folder_.Add(*window, "preferences-" + tabs->tabText(i).toLower().toStdString());
+        folder_.Add(*window,
+                    "preferences-" + tabs->widget(i)->objectName().toLower().toStdString());
     }
     window->close();
 }

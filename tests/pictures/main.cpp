@@ -8,6 +8,7 @@
 
 #include "document_pictures.h"
 #include "driving/driven_editor.h"
+#include "driving/long_words.h"
 #include "picture_folder.h"
 #include "state_pictures.h"
 #include "tour.h"
@@ -21,6 +22,7 @@ struct Wishes {
     std::string colors = "desktop";
     double font = 1.0;  // times the desktop's size
     bool right_to_left = false;
+    bool long_words = false;
     bool states = false;
     std::string compare;
     std::string approve;
@@ -53,6 +55,7 @@ int Parse(int argc, char** argv, Wishes* wishes) {
         ->check(CLI::IsMember({"desktop", "dark", "contrast"}));
     app.add_option("--font", wishes->font, "How large letters are, times the desktop's size");
     app.add_flag("--right-to-left", wishes->right_to_left, "Mirror the windows");
+    app.add_flag("--long-words", wishes->long_words, "In a language of long words");
     app.add_flag("--states", wishes->states, "Before, draw the main window's states");
     app.add_option("--compare", wishes->compare, "Tell what differs from these fingerprints");
     app.add_option("--approve", wishes->approve, "Write the fingerprints");
@@ -79,6 +82,7 @@ void Dress(const Wishes& wishes) {
     font.setPointSizeF(wishes.font * font.pointSizeF());
     QApplication::setFont(font);
     if (wishes.right_to_left) QApplication::setLayoutDirection(Qt::RightToLeft);
+    if (wishes.long_words) QApplication::installTranslator(new kirto::LongWords);
     // A cursor that blinks is there in some pictures only.
     QApplication::setCursorFlashTime(0);
 }

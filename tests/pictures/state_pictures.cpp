@@ -6,6 +6,7 @@
 #include <filesystem>
 
 #include "document/command_codes.h"
+#include "ui/controls/menu_names.h"
 
 namespace kirto {
 
@@ -100,7 +101,7 @@ void StatePictures::DrawMenus() {
         QMenu* menu = title->menu();
         menu->popup(editor_.Main()->mapToGlobal(QPoint()));
         DrivenEditor::Settle();
-        folder_.Add(*menu, "menu-" + title->text().remove('&').toLower().toStdString());
+        folder_.Add(*menu, "menu-" + EnglishNameOf(*title).toLower().toStdString());
         menu->close();
     }
 }

@@ -1,12 +1,14 @@
 // The windows in each language that there are translations of, and in one whose words are longer
 // than those of any.
 #include <QComboBox>
+#include <QDialog>
 #include <QMenu>
 #include <QMenuBar>
 #include <QTranslator>
 #include <map>
 #include <memory>
 
+#include "driving/long_words.h"
 #include "ui/shell/help_menu.h"
 #include "ui/shell/kirto_window_fixture.h"
 #include "ui/shell/main_menu.h"
@@ -15,17 +17,6 @@
 namespace kirto::test {
 
 namespace {
-
-// Letters of all kinds, and half as much text again.
-class LongWords : public QTranslator {
-  public:
-    QString translate(const char*, const char* source, const char*, int) const override {
-        const QString text = QString::fromUtf8(source);
-        if (text.isEmpty()) return {};
-        return "[" + text + QString(text.size() / 2, QChar(0x00E5)) + "]";
-    }
-    bool isEmpty() const override { return false; }
-};
 
 class InLanguage : public KirtoWindowFixture, public ::testing::WithParamInterface<const char*> {
   protected:
@@ -81,6 +72,42 @@ TEST_P(InLanguage, TheMenuBarIsInThatLanguage) {
     EXPECT_EQ(first, names.at(GetParam()));
 }
 
+// What can be chosen by Alt and a letter in a window: labels of fields, buttons and boxes.
+std::vector<QString> TextsWithKeys(const QWidget& dialog) {
+    std::vector<QString> texts;
+    for (const auto* label : dialog.findChildren<QLabel*>()) {
+        if (label->buddy() && !label->isHidden()) texts.push_back(label->text());
+    }
+    for (const auto* button : dialog.findChildren<QAbstractButton*>()) {
+        if (!button->isHidden() && !button->window()->isHidden()) texts.push_back(button->text());
+    }
+    return texts;
+}
+
+TEST_P(InLanguage, NoTwoFieldsOfADialogHaveTheSameKey) {
+    Open();
+    for (int i = 0; i < 3; ++i)
+        AddFrame(8, 8);
+    window->UpdateDisplay();
+    for (const uint32 command :
+         {kMenuSelectEvery, kMenuSelectRange, kMenuGoToFrame, kMenuSetPause, kMenuDropEvery,
+          kMenuRemoveDuplicates, kMenuMoveTo, kMenuResize, kMenuCrop, kMenuCanvasSize,
+          kMenuFitFrames, kMenuAdjustColors, kMenuOpacity, kMenuOverlay, kMenuText,
+          kMenuMakeTransparent, kMenuExport, kMenuExportSheet}) {
+        Do(command);
+        const auto dialogs = window->findChildren<QDialog*>();
+        ASSERT_EQ(dialogs.size(), 1) << CodeText(command);
+        std::map<QChar, QString> owners;
+        for (const QString& text : TextsWithKeys(*dialogs.front())) {
+            if (KeyOf(text).isNull()) continue;
+            const auto [owner, added] = owners.try_emplace(KeyOf(text), text);
+            EXPECT_TRUE(added) << dialogs.front()->windowTitle().toStdString() << ": "
+                               << owner->second.toStdString() << " and " << text.toStdString();
+        }
+        delete dialogs.front();
+    }
+}
+
 INSTANTIATE_TEST_SUITE_P(All, InLanguage, ::testing::Values("", "de", "fr", "es", "zh_CN"));
 
 class InALongerLanguage : public KirtoWindowFixture {
@@ -104,8 +131,7 @@ TEST_F(InALongerLanguage, NothingInThePanelsIsCut) {
             const bool has_text = qobject_cast<const QLabel*>(widget) ||
                                   qobject_cast<const QAbstractButton*>(widget) ||
                                   qobject_cast<const QComboBox*>(widget);
-            const bool may_be_cut =
-                widget->sizePolicy().horizontalPolicy() == QSizePolicy::Ignored;
+            const bool may_be_cut = widget->sizePolicy().horizontalPolicy() == QSizePolicy::Ignored;
             if (!has_text || may_be_cut || !widget->isVisible()) continue;
             EXPECT_GE(widget->width(), widget->minimumSizeHint().width())
                 << panel << ' ' << widget->objectName().toStdString();
