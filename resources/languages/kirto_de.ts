@@ -1684,7 +1684,7 @@ Dank an alle, die ihren Code für GIF-Dateien geteilt haben, und für ein langes
     </message>
     <message>
         <source>&amp;Font:</source>
-        <translation>Schri&amp;ft:</translation>
+        <translation>Sch&amp;rift:</translation>
     </message>
     <message>
         <source>&amp;Size in pixels:</source>
@@ -1868,7 +1868,7 @@ Dank an alle, die ihren Code für GIF-Dateien geteilt haben, und für ein langes
     </message>
     <message>
         <source>&amp;Colors:</source>
-        <translation>Far&amp;ben:</translation>
+        <translation>Fa&amp;rben:</translation>
     </message>
     <message>
         <source>The same colors in all fra&amp;mes</source>
@@ -3256,7 +3256,7 @@ im Menü „Bild“.</translation>
     </message>
     <message>
         <source>Ma&amp;tte:</source>
-        <translation>Unter&amp;grund:</translation>
+        <translation>Unt&amp;ergrund:</translation>
     </message>
     <message>
         <source>&amp;Image format:</source>
@@ -3268,7 +3268,7 @@ im Menü „Bild“.</translation>
     </message>
     <message>
         <source>Pa&amp;dding:</source>
-        <translation>A&amp;bstand:</translation>
+        <translation>Abstan&amp;d:</translation>
     </message>
     <message>
         <source>damaged, what was good was kept</source>

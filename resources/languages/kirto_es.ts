@@ -1868,7 +1868,7 @@ Gracias a todos los que compartieron su código para archivos GIF, y por una lar
     </message>
     <message>
         <source>&amp;Colors:</source>
-        <translation>&amp;Colores:</translation>
+        <translation>Co&amp;lores:</translation>
     </message>
     <message>
         <source>The same colors in all fra&amp;mes</source>
@@ -1896,11 +1896,11 @@ Gracias a todos los que compartieron su código para archivos GIF, y por una lar
     </message>
     <message>
         <source>&amp;Keep every pixel</source>
-        <translation>Conservar cada pí&amp;xel</translation>
+        <translation>Conservar ca&amp;da píxel</translation>
     </message>
     <message>
         <source>&amp;Quality:</source>
-        <translation>Cali&amp;dad:</translation>
+        <translation>Ca&amp;lidad:</translation>
     </message>
     <message>
         <source>&amp;Scale:</source>
@@ -3268,7 +3268,7 @@ en el menú «Fotograma».</translation>
     </message>
     <message>
         <source>Pa&amp;dding:</source>
-        <translation>&amp;Espacio:</translation>
+        <translation>Es&amp;pacio:</translation>
     </message>
     <message>
         <source>damaged, what was good was kept</source>

@@ -1892,11 +1892,11 @@ Merci à tous ceux qui ont partagé leur code pour les fichiers GIF, et pour une
     </message>
     <message>
         <source>&amp;Loss:</source>
-        <translation>Per&amp;te :</translation>
+        <translation>P&amp;erte :</translation>
     </message>
     <message>
         <source>&amp;Keep every pixel</source>
-        <translation>Garder chaque pi&amp;xel</translation>
+        <translation>Garder ch&amp;aque pixel</translation>
     </message>
     <message>
         <source>&amp;Quality:</source>
@@ -1904,7 +1904,7 @@ Merci à tous ceux qui ont partagé leur code pour les fichiers GIF, et pour une
     </message>
     <message>
         <source>&amp;Scale:</source>
-        <translation>É&amp;chelle :</translation>
+        <translation>Éche&amp;lle :</translation>
     </message>
     <message>
         <source>&amp;Every n-th frame:</source>
@@ -3244,7 +3244,7 @@ dans le menu « Image ».</translation>
     </message>
     <message>
         <source>Stren&amp;gth:</source>
-        <translation>&amp;Force :</translation>
+        <translation>Fo&amp;rce :</translation>
     </message>
     <message>
         <source>Cha&amp;nged areas only</source>
@@ -3264,11 +3264,11 @@ dans le menu « Image ».</translation>
     </message>
     <message>
         <source>Colum&amp;ns:</source>
-        <translation>Colo&amp;nnes :</translation>
+        <translation>Colonn&amp;es :</translation>
     </message>
     <message>
         <source>Pa&amp;dding:</source>
-        <translation>&amp;Espacement :</translation>
+        <translation>Espacemen&amp;t :</translation>
     </message>
     <message>
         <source>damaged, what was good was kept</source>
