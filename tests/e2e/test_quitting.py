@@ -1,3 +1,4 @@
+from desktop_session import wait_until
 from editor_test import BLUE, EditorTest, GREEN, RED
 
 QUESTION = "Do you want to save your changes?"
