@@ -126,7 +126,8 @@ void Waits::Work(int32 frames) {
         "thumbnails", [&] { editor_.Send(kirto::kToggleMode); },
         [&] { return !editor_.Main()->ShowsFrameList(); });
     Do(
-        "begun anew", [&] { editor_.Post(kirto::kResetDocument); }, [&] { return shown() == 0; });
+        "begun anew", [&] { editor_.Post(kirto::kResetDocument); },
+        [&] { return editor_.Frames() == 0; });
     Do(
         "opened", [&] { editor_.Open(folder + "/waits.gif"); },
         [&] { return shown() == frames + kFadeFrames; });
