@@ -10,6 +10,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <functional>
+#include <utility>
 #include <vector>
 
 #include "document/command_codes.h"
@@ -79,10 +80,12 @@ void Waits::Do(const char* name, const std::function<void()>& start,
 }
 
 void Waits::Show(int32 frames) {
+    // Made before the time counts.
+    kirto::Animation animation = MovingSquare(frames);
     Do(
         "shown",
         [&] {
-            editor_.Application().Commit(MovingSquare(frames));
+            editor_.Application().Commit(std::move(animation));
             editor_.Main()->Messenger().SendMessage(kirto::kUpdateAll);
         },
         [&] { return editor_.Main()->Shown().FrameCount() == frames; });
