@@ -82,6 +82,7 @@ void Waits::Do(const char* name, const std::function<void()>& start,
 void Waits::Show(int32 frames) {
     // Made before the time counts.
     kirto::Animation animation = MovingSquare(frames);
+    kirto::DrivenEditor::Settle();
     Do(
         "shown",
         [&] {
