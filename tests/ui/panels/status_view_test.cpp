@@ -132,7 +132,9 @@ TEST_F(StatusViewTest, LeavesOutSizesWhereThereIsNoRoom) {
     Take();
     line.resize(2000, 30);
     line.ShowSizes(document.pixel_budget);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return line.sizes->text().contains(", file "); }));
+    const QString exact =
+        QString(", file %1 bytes").arg(*SavedSize(*document.CurrentState()).Exact());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return line.sizes->text().endsWith(exact); }));
     const QString all = line.sizes->text();
 
     const auto narrow_while = [&](auto holds) {

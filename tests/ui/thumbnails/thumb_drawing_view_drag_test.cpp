@@ -49,12 +49,14 @@ bool DragOver(ThumbDrawingView& grid, const QMimeData& data, QPoint point) {
                           Qt::NoModifier);
     enter.ignore();
     QApplication::sendEvent(&grid, &enter);
+    // Moves go to whoever took the drag last, so none is sent when nobody did.
+    if (!enter.isAccepted()) return false;
     QDragMoveEvent move(point, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton,
                         Qt::NoModifier);
     move.ignore();
     QApplication::sendEvent(&grid, &move);
-    EXPECT_EQ(enter.isAccepted(), move.isAccepted());
-    return move.isAccepted();
+    EXPECT_TRUE(move.isAccepted());
+    return true;
 }
 
 Qt::DropAction Drop(ThumbDrawingView& grid, const QMimeData& data, QPoint point) {
@@ -303,6 +305,7 @@ TEST(ThumbDrawingViewDrag, InsertsAtTheStartWithoutFrames) {
     EXPECT_EQ(image.pixel(3, 101), bar);
     EXPECT_NE(image.pixel(4, 50), bar);
     EXPECT_NE(image.pixel(2, 102), bar);
+    Leave(fixture.Grid());
 }
 
 TEST(ThumbDrawingViewDrag, DoesNothingButSayHowWhenAThumbnailIsDraggedBackOntoTheGrid) {
@@ -325,7 +328,7 @@ TEST(ThumbDrawingViewDrag, LeavesEverythingButFilesOfThisMachineAlone) {
     text.setText("text");
     EXPECT_FALSE(DragOver(fixture.Grid(), text, fixture.MiddleOf(2)));
     const auto files = Files({QUrl("https://example.org/a.png")});
-    DragOver(fixture.Grid(), *files, fixture.MiddleOf(2));
+    EXPECT_TRUE(DragOver(fixture.Grid(), *files, fixture.MiddleOf(2)));
     Drop(fixture.Grid(), *files, fixture.MiddleOf(2));
     EXPECT_EQ(fixture.window->Transcript(), "");
     EXPECT_EQ(fixture.Grid().DropPosition(), -1);
