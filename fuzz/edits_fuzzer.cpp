@@ -12,7 +12,7 @@ namespace {
 using kirto::Animation;
 
 constexpr int32 kMostFrames = 200;
-constexpr size_t kMostBytes = 2000;
+constexpr size_t kMostBytes = 400;
 
 void Check(bool holds) {
     if (!holds) std::abort();

@@ -8,7 +8,8 @@
 
 namespace {
 
-constexpr uint64 kPixelBytes = uint64{64} << 20;
+// Room for 2^18 pixels of a canvas.
+constexpr uint64 kPixelBytes = uint64{1} << 20;
 constexpr uint64 kLittleMemory = uint64{12} << 10;
 constexpr size_t kLastOfHeader = 127;
 

@@ -8,7 +8,8 @@
 
 namespace {
 
-constexpr uint64 kMemoryLimit = uint64{64} << 20;
+// Room for 2^18 pixels of a canvas.
+constexpr uint64 kMemoryLimit = uint64{1} << 20;
 constexpr uint64 kLittleMemory = uint64{12} << 10;
 
 void Check(bool holds) {
@@ -18,9 +19,15 @@ void Check(bool holds) {
 void CheckFrame(const Frame& frame, const AnimationDocument& document) {
     Check(frame.bitmap && frame.bitmap->HasRows() && frame.palette);
     Check(frame.bitmap->Width() == frame.width && frame.bitmap->Height() == frame.height);
-    Check(frame.width <= document.Current()->width && frame.height <= document.Current()->height);
     Check(frame.palette->bits >= 1 && frame.palette->bits <= 8);
     Check(frame.use_pause == (document.prefs.animation_faithful || frame.pause_length != 0));
+}
+
+// Not so where a file that comes behind another one has the last word on the size.
+void CheckCanvas(const AnimationDocument& document) {
+    for (const kirto::FramePointer& frame : document.Current()->frames)
+        Check(frame->width <= document.Current()->width &&
+              frame->height <= document.Current()->height);
 }
 
 void CheckList(const AnimationDocument& document) {
@@ -38,13 +45,17 @@ void Load(uint8_t how, const uint8_t* data, size_t size, Prefs& prefs) {
     AnimationDocument document(prefs);
     const uint64 limit = (how & 2) != 0 ? kLittleMemory : kMemoryLimit;
     document.pixel_budget->SetLimit(limit);
-    const auto file = BFile::OnMemory({data, data + size});
-    if ((how & 4) != 0) const GifLoad before(file.get(), 0, document);
+    if ((how & 4) != 0) {
+        const auto same = BFile::OnMemory({data, data + size});
+        const GifLoad before(same.get(), 0, document);
+    }
     if ((how & 8) != 0) document.RequestStop();
+    const auto file = BFile::OnMemory({data, data + size});
     const int32 start = document.FrameCount();
     const GifLoad loader(file.get(), start, document);
     Check(loader.End() == document.FrameCount());
     CheckList(document);
+    if (start == 0) CheckCanvas(document);
     Check(document.pixel_budget->Used() <= limit);
 }
 

@@ -11,6 +11,7 @@
 namespace {
 
 constexpr size_t kNumbers = 10;
+constexpr int32 kLongestSide = 24;
 
 void Check(bool holds) {
     if (!holds) std::abort();
@@ -128,8 +129,8 @@ void CheckCut(const BBitmap& picture, const std::vector<kirto::TilePlace>& place
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     if (size < kNumbers) return 0;
     constexpr color_space kSpaces[] = {B_RGB32, B_RGBA32, B_RGB32_BIG, B_RGBA32_BIG};
-    const auto picture = PictureOf(data + kNumbers, size - kNumbers, 1 + data[0] % 40,
-                                   1 + data[1] % 40, kSpaces[data[9] % 4]);
+    const auto picture = PictureOf(data + kNumbers, size - kNumbers, 1 + data[0] % kLongestSide,
+                                   1 + data[1] % kLongestSide, kSpaces[data[9] % 4]);
     const kirto::TileGrid grid = GridOf(data + 2);
     if (!grid.IsSound()) return 0;
     const std::vector<kirto::TilePlace> places = PlainPlaces(*picture, grid);
