@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "kit/qt/ui_text.h"
+#include "ui/controls/color_portal.h"
 
 namespace kirto {
 
@@ -24,14 +25,20 @@ QColor ColorOnScreen(const QPoint& place) {
 
 }  // namespace
 
-ScreenColorButton::ScreenColorButton(QWidget* parent, Eye eye)
+ScreenColorButton::ScreenColorButton(QWidget* parent)
+    : ScreenColorButton(parent, EyeOfDesktop(), BusOfDesktop()) {}
+
+ScreenColorButton::ScreenColorButton(QWidget* parent, Eye eye,
+                                     const std::optional<QDBusConnection>& bus)
     : QPushButton(UiText::tr("Pick from &Screen"), parent), eye_(std::move(eye)) {
     setObjectName("PickFromScreen");
     setAutoDefault(false);
     setFocusPolicy(Qt::TabFocus);
-    setEnabled(eye_ != nullptr);
-    setToolTip(eye_ ? UiText::tr("Takes the color that is clicked next, anywhere on the screen")
-                    : UiText::tr("This desktop lets no program see the screen"));
+    setToolTip(UiText::tr("Takes the color that is clicked next, anywhere on the screen"));
+    if (!eye_ && bus)
+        portal_ = new ColorPortal(
+            *bus, [this](const QColor& color) { TakeColor(color); }, [this] { Disable(); }, this);
+    if (!eye_ && !portal_) Disable();
     connect(this, &QPushButton::clicked, this, [this] { StartPicking(); });
 }
 
@@ -44,7 +51,23 @@ ScreenColorButton::Eye ScreenColorButton::EyeOfDesktop() {
     return QGuiApplication::platformName() == "xcb" ? Eye(ColorOnScreen) : nullptr;
 }
 
+std::optional<QDBusConnection> ScreenColorButton::BusOfDesktop() {
+    if (!QGuiApplication::platformName().startsWith("wayland")) return std::nullopt;
+    const QDBusConnection bus = QDBusConnection::sessionBus();
+    return bus.isConnected() ? std::optional(bus) : std::nullopt;
+}
+
+void ScreenColorButton::Disable() {
+    setEnabled(false);
+    setToolTip(UiText::tr("This desktop lets no program see the screen"));
+}
+
+void ScreenColorButton::TakeColor(const QColor& color) {
+    if (color.isValid() && picked_) picked_(color);
+}
+
 void ScreenColorButton::StartPicking() {
+    if (portal_) return portal_->Pick();
     if (picking_) return;
     picking_ = true;
     grabMouse(Qt::CrossCursor);
@@ -66,7 +89,7 @@ void ScreenColorButton::mouseReleaseEvent(QMouseEvent* event) {
     if (!picking_) return QPushButton::mouseReleaseEvent(event);
     StopPicking();
     const QColor color = eye_(event->globalPosition().toPoint());
-    if (event->button() == Qt::LeftButton && color.isValid() && picked_) picked_(color);
+    if (event->button() == Qt::LeftButton) TakeColor(color);
 }
 
 void ScreenColorButton::keyPressEvent(QKeyEvent* event) {

@@ -60,8 +60,9 @@ QLayout* FrameListView::MakeButtons(const BMessenger& window) {
 
 QLayout* FrameListView::MakePreview() {
     title_ = kirto::MakeLabel("Title", UiText::tr("Preview: 100%"), this);
-    // Its end may be cut before the list is.
+    // It takes two lines before the list is cut.
     title_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    title_->setWordWrap(true);
     preview_ = new kirto::FramePreview(
         [this](int32 percent) {
             kirto::ShowText(*title_, UiText::tr("Preview: %1%").arg(percent));

@@ -23,10 +23,12 @@ class ScreenColorButtonTest : public ::testing::Test {
 
     QWidget window;
     QColor shown = Qt::red;
-    ScreenColorButton button{&window, [this](const QPoint& place) {
+    ScreenColorButton button{&window,
+                             [this](const QPoint& place) {
                                  seen = place;
                                  return shown;
-                             }};
+                             },
+                             std::nullopt};
     QPoint seen;
     std::vector<QColor> picked;
 };
@@ -69,7 +71,7 @@ TEST_F(ScreenColorButtonTest, TellsNoColorWhereNoneIsSeen) {
 }
 
 TEST_F(ScreenColorButtonTest, IsDisabledAndSaysWhyWhereTheDesktopForbidsIt) {
-    const ScreenColorButton blind(&window);
+    const ScreenColorButton blind(&window, nullptr, std::nullopt);
 
     EXPECT_FALSE(blind.isEnabled());
     EXPECT_EQ(blind.toolTip(), "This desktop lets no program see the screen");
