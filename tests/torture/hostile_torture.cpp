@@ -22,6 +22,8 @@ constexpr int64 kMostKibibytes = int64{512} * 1024;
 constexpr double kMostGrowth = 2.5;
 // Below this a time says more about the machine than about the file.
 constexpr double kLeastSeconds = 1;
+// Of the same, the quickest of which counts.
+constexpr int kMoreTries = 2;
 // The memory that frames may take; the rest of the limit is the program's.
 constexpr char kFrameMebibytes[] = "256";
 
@@ -52,15 +54,19 @@ class HostileTorture {
         const std::filesystem::path half = Write("half-" + series.name, series.bytes(count / 2));
         const std::filesystem::path path = Write(series.name, series.bytes(count));
         for (const bool faithful : {false, true}) {
-            const WatchedRun before = Open(half, faithful);
-            const WatchedRun run = Open(path, faithful);
+            WatchedRun before = Open(half, faithful);
+            WatchedRun run = Open(path, faithful);
+            // What else the machine does slows one and not the other.
+            for (int again = 0; whole_ && again < kMoreTries && Grows(before, run); ++again) {
+                before = Quicker(before, Open(half, faithful));
+                run = Quicker(run, Open(path, faithful));
+            }
             if (whole_) {
                 std::printf("%-32s %-9s exit %d %7.2f s %5lld MiB  %s\n", series.name.c_str(),
                             faithful ? "browsers" : "defined", run.status, run.seconds,
                             static_cast<long long>(run.kibibytes / 1024), FirstLine(run).c_str());
-                if (run.seconds > kLeastSeconds && run.seconds > kMostGrowth * before.seconds) {
+                if (Grows(before, run))
                     Report(path, "twice as much takes more than 2.5 times the time", run);
-                }
             }
         }
         std::filesystem::remove(half);
@@ -80,6 +86,14 @@ class HostileTorture {
     }
 
   private:
+    static bool Grows(const WatchedRun& before, const WatchedRun& run) {
+        return run.seconds > kLeastSeconds && run.seconds > kMostGrowth * before.seconds;
+    }
+
+    static WatchedRun Quicker(const WatchedRun& one, const WatchedRun& other) {
+        return other.seconds < one.seconds ? other : one;
+    }
+
     static std::string FirstLine(const WatchedRun& run) {
         return run.message.substr(0, run.message.find('\n'));
     }
@@ -97,6 +111,8 @@ class HostileTorture {
         if (faithful) command.emplace_back("--faithful");
         command.insert(command.end(), {"--open", path.string()});
         WatchedRun run = WatchedRun::Of(command, {});
+        for (int again = 0; whole_ && again < kMoreTries && run.seconds > kMostSeconds; ++again)
+            run = Quicker(run, WatchedRun::Of(command, {}));
         ++opened_;
         if (run.status != 0 && run.status != 1) {
             Report(path, "is neither opened nor refused", run);
