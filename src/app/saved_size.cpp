@@ -17,7 +17,7 @@ namespace kirto {
 namespace {
 
 // Long enough that the frame before each run, which is encoded for nothing, does not cost too much.
-constexpr int32 kRun = 4;
+constexpr int32 kRun = 3;
 // Nothing is to be read for a document that is filled at once.
 Prefs WithoutPaletteFile(const Prefs& settings) {
     Prefs copy = settings;

@@ -25,7 +25,7 @@ class SavedSizeMeter {
         bool operator==(const Size&) const = default;
     };
     // Edits in so quick a succession are measured once.
-    static constexpr std::chrono::milliseconds kDelay{200};
+    static constexpr std::chrono::milliseconds kDelay{100};
     // A sample of the frames is encoded for about as long as that.
     static constexpr std::chrono::milliseconds kSampleTime{400};
 

@@ -110,7 +110,7 @@ TEST_P(SavedSizeTest, LooksAtAllFramesUnlessAFewAreEnough) {
         return false;
     });
 
-    EXPECT_EQ(asked, 15);
+    EXPECT_EQ(asked, 20);
     ASSERT_TRUE(about);
     const auto saved = static_cast<double>(Saved());
     EXPECT_NEAR(static_cast<double>(*about), saved, GetParam() ? saved * 0.02 : 0);
