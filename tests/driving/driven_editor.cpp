@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QLabel>
 #include <algorithm>
 #include <cstdio>
 
@@ -88,6 +89,16 @@ void DrivenEditor::SelectFrames(const std::string& set) {
     select.AddString("frames", set);
     Post(select);
     Settle(2);
+}
+
+void DrivenEditor::WaitForSizes() {
+    Settle(2);
+    const auto* status = Main()->findChild<QWidget*>("StatusView");
+    WaitUntil([status] {
+        for (const auto* label : status->findChildren<QLabel*>())
+            if (label->text().contains("file about")) return false;
+        return true;
+    });
 }
 
 void DrivenEditor::SetLength(int32 frames) {

@@ -39,6 +39,8 @@ class DrivenEditor {
     void SelectFrames(const std::string& set);  // as ParseFrameSet has it
     // Repeats the frames, or removes the last ones, until there are so many. There is one at least.
     void SetLength(int32 frames);
+    // Until the status line tells the exact size of the file, if it has room for it.
+    void WaitForSizes();
 
     // The window with the English title that the command opens; null, and said so, where none
     // comes.

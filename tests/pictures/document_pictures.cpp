@@ -228,6 +228,7 @@ void DocumentPictures::DrawSaveNotice() {
     editor_.Post(save);
     auto* notice = editor_.Main()->findChild<QWidget*>("NoticeBar");
     DrivenEditor::WaitUntil([notice] { return notice->isVisible(); });
+    editor_.WaitForSizes();
     folder_.Add(*editor_.Main(), "notice");
     DrawDialog(kShowDifferences, "Differences", "differences");
     for (int i = 0; i < 2; ++i)

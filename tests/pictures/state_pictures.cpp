@@ -1,6 +1,5 @@
 #include "state_pictures.h"
 
-#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 #include <filesystem>
@@ -41,13 +40,7 @@ void StatePictures::DrawAll(const std::string& animation) {
 }
 
 void StatePictures::DrawBoth(const std::string& name) {
-    DrivenEditor::Settle(2);
-    const auto* status = editor_.Main()->findChild<QWidget*>("StatusView");
-    DrivenEditor::WaitUntil([status] {
-        for (const auto* label : status->findChildren<QLabel*>())
-            if (label->text().contains("file about")) return false;
-        return true;
-    });
+    editor_.WaitForSizes();
     folder_.Add(*editor_.Main(), name + "-thumbnails");
     editor_.Send(kToggleMode);
     DrivenEditor::Settle();
