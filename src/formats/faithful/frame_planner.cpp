@@ -159,8 +159,16 @@ void FramePlanner::ReduceLast() {
     CountDifference(*shown_, shown);
     shown_ = std::make_shared<const ScreenPixels>(std::move(shown));
     last.shown = {screen_.PictureOf(*shown_), 0, 0, screen_.Width(), screen_.Height()};
-    last.colors = *ColorsToDraw(screen_, last.rect, *below_, *shown_, kMostColors);
+    last.colors = ColorsOfReduced(last.rect, *below_, *shown_);
     last.skips = true;
+}
+
+// None where the work was stopped before all was reduced; nothing is written then.
+std::vector<ColorValues::Item> FramePlanner::ColorsOfReduced(const PixelRect& rect,
+                                                             const ScreenPixels& below,
+                                                             const ScreenPixels& shown) const {
+    return ColorsToDraw(screen_, rect, below, shown, kMostColors)
+        .value_or(std::vector<ColorValues::Item>());
 }
 
 bool FramePlanner::PlanExactly(const Way& way, const FrameToPlan& frame) {
@@ -184,9 +192,7 @@ void FramePlanner::PlanNearly(const Way& way, const FrameToPlan& frame) {
     if (DrawsWhole()) nearly.difference.changed = screen_.Whole();
     FrameToPlan reduced = frame;
     reduced.image = {screen_.PictureOf(*shown_), 0, 0, screen_.Width(), screen_.Height()};
-    auto colors =
-        ColorsToDraw(screen_, nearly.difference.changed, *way.below, *shown_, kMostColors);
-    Append(nearly, reduced, std::move(*colors));
+    Append(nearly, reduced, ColorsOfReduced(nearly.difference.changed, *way.below, *shown_));
 }
 
 // Only what is new is reduced: what stands still keeps the colors that it has been given.

@@ -75,6 +75,8 @@ class FramePlanner {
     bool HasRoomFor(const Way& way) const;
     // Takes a color from the last image, so that there is room for an index that skips pixels.
     void ReduceLast();
+    std::vector<ColorValues::Item> ColorsOfReduced(const PixelRect& rect, const ScreenPixels& below,
+                                                   const ScreenPixels& shown) const;
     // Makes the plan; false when there are too many colors for this way.
     bool PlanExactly(const Way& way, const FrameToPlan& frame);
     void PlanNearly(const Way& way, const FrameToPlan& frame);

@@ -7,6 +7,7 @@
 #include <cmath>
 
 #include "kit/qt/ui_text.h"
+#include "ui/controls/canvas_place.h"
 #include "ui/controls/picture_painter.h"
 
 namespace kirto {
@@ -82,9 +83,7 @@ void PictureArea::paintEvent(QPaintEvent*) {
     pictures.Draw(nullptr, RectOf(canvas));
     if (frame_) {
         painter.setClipRect(canvas);
-        pictures.Draw(
-            frame_->bitmap,
-            RectOf(PlaceOf({frame_->x_offset, frame_->y_offset, frame_->width, frame_->height})));
+        pictures.Draw(frame_->bitmap, RectOf(PlaceOf(PlaceOnCanvas(*frame_))));
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
         if (!overlay_.isNull())
             painter.drawImage(PlaceOf({overlay_place_, overlay_.size()}), overlay_);

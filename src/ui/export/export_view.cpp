@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "kit/qt/ui_text.h"
+#include "ui/controls/canvas_place.h"
 #include "ui/player/picture_pane.h"
 
 namespace kirto {
@@ -158,10 +159,7 @@ void ExportView::ShowFrame(Side& side) {
     const QSize own = CanvasOf(*side.animation);
     const double across = static_cast<double>(canvas_.width()) / own.width();
     const double down = static_cast<double>(canvas_.height()) / own.height();
-    const QRect place(qRound(shown->x_offset * across), qRound(shown->y_offset * down),
-                      qRound(shown->bitmap->Width() * across),
-                      qRound(shown->bitmap->Height() * down));
-    side.pane->SetLayers({{image, place}});
+    side.pane->SetLayers({{image, PlaceOnCanvas(*shown, across, down)}});
     side.shown = frame;
 }
 

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "kit/qt/ui_text.h"
+#include "ui/controls/canvas_place.h"
 #include "ui/player/look_bar.h"
 #include "ui/player/pixel_text.h"
 #include "ui/player/transport_bar.h"
@@ -77,7 +78,7 @@ QSize PlayerView::CanvasSize() const {
 QRect PlayerView::PlaceOf(int32 frame) const {
     const FramePointer shown = shown_.Frames().At(frame);
     if (look_->ShowsSavedColors() || !shown->bitmap) return {QPoint(), CanvasSize()};
-    return {shown->x_offset, shown->y_offset, shown->bitmap->Width(), shown->bitmap->Height()};
+    return PlaceOnCanvas(*shown);
 }
 
 // As large as it is painted, where that is smaller: scaling is too slow for painting.

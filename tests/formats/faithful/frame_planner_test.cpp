@@ -192,4 +192,18 @@ TEST_F(ColorfulPlanner, AFullTableThatHasToClearMoreLosesAColor) {
     EXPECT_EQ(ShownBy(2)[500], kNothing);
 }
 
+TEST_F(ColorfulPlanner, AFrameThatIsNotReducedToTheEndHasNoColors) {
+    ScreenPixels pixels(1000, 7);
+    AddPixels(pixels);
+    Paint(0, 256, 1000, &pixels);
+    AddPixels(pixels);
+    work_.StopAll();
+    // Now the frame before would have to be reduced, and then a new one.
+    pixels[500] = kNothing;
+    AddPixels(pixels);
+    Paint(0, 600, 90000, &pixels);
+    AddPixels(pixels);
+    EXPECT_TRUE(planner_->Plans().back().colors.empty());
+}
+
 }  // namespace kirto::test
