@@ -15,6 +15,10 @@ int NearEnough(double position) {
 
 }  // namespace
 
+QSize PaintedCanvasOf(const Animation& animation) {
+    return QSize(animation.width, animation.height).expandedTo({1, 1}).boundedTo(kLargestCanvas);
+}
+
 QRect PlaceOnCanvas(const Frame& frame, double across, double down) {
     const int32 width = frame.bitmap ? frame.bitmap->Width() : frame.width;
     const int32 height = frame.bitmap ? frame.bitmap->Height() : frame.height;

@@ -27,9 +27,7 @@ BRect RectOf(const QRectF& rectangle) {
 }  // namespace
 
 PictureArea::PictureArea(const Animation& animation, QWidget* parent)
-    : QWidget(parent),
-      canvas_(std::max(animation.width, 1), std::max(animation.height, 1)),
-      frame_(animation.CurrentFrame()) {
+    : QWidget(parent), canvas_(PaintedCanvasOf(animation)), frame_(animation.CurrentFrame()) {
     setObjectName("PictureArea");
     setAccessibleName(UiText::tr("Picture"));
     setCursor(Qt::CrossCursor);

@@ -90,6 +90,8 @@ int32 QtAlerts::Present(const BAlert& alert) {
     }
     std::future<int32> button;
     {
+        const std::lock_guard lock(mutex_);
+        if (closed_) return LastButton(alert);
         auto answer = std::make_shared<Answer>(LastButton(alert));
         button = answer->promise.get_future();
         QMetaObject::invokeMethod(
@@ -97,6 +99,13 @@ int32 QtAlerts::Present(const BAlert& alert) {
             Qt::QueuedConnection);
     }
     return button.get();
+}
+
+void QtAlerts::Close() {
+    const std::lock_guard lock(mutex_);
+    closed_ = true;
+    // With them the waits end.
+    QCoreApplication::removePostedEvents(this);
 }
 
 }  // namespace kirto

@@ -3,6 +3,7 @@
 #include <QObject>
 #include <QPointer>
 #include <QWidget>
+#include <mutex>
 
 #include "kit/alert.h"
 
@@ -21,8 +22,13 @@ class QtAlerts : public QObject, public AlertPresenter {
     void SetParentWindow(QWidget* window) { parent_window_ = window; }
 
     int32 Present(const BAlert& alert) override;
+    // From now on all alerts of other threads get the last button, those that wait to be shown
+    // among them. Called on the GUI thread when it handles no more events.
+    void Close();
 
   private:
+    std::mutex mutex_;
+    bool closed_ = false;  // guarded by it
     QPointer<QWidget> parent_window_;
     AlertPresenter* previous_;
 };

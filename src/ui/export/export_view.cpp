@@ -17,10 +17,6 @@ namespace {
 
 constexpr int kTickMilliseconds = 16;
 
-QSize CanvasOf(const Animation& animation) {
-    return {std::max(animation.width, 1), std::max(animation.height, 1)};
-}
-
 }  // namespace
 
 ExportView::ExportView(QWidget* parent) : QWidget(parent), images_([this] { ShowFrames(); }) {
@@ -66,7 +62,7 @@ void ExportView::Follow(const PicturePane& from, PicturePane& to) {
 void ExportView::ShowOriginal(std::shared_ptr<const Animation> animation, bool in_seconds) {
     Side& side = sides_[0];
     side.animation = std::move(animation);
-    canvas_ = CanvasOf(*side.animation);
+    canvas_ = PaintedCanvasOf(*side.animation);
     side.schedule =
         PlaybackSchedule(*side.animation, FrameSet::AllOf(side.animation->frames.Size()),
                          {.pauses_in_seconds = in_seconds});
@@ -156,7 +152,7 @@ void ExportView::ShowFrame(Side& side) {
     }
     const QImage image = images_.Find({shown->bitmap, QSize()});
     if (image.isNull()) return;
-    const QSize own = CanvasOf(*side.animation);
+    const QSize own = PaintedCanvasOf(*side.animation);
     const double across = static_cast<double>(canvas_.width()) / own.width();
     const double down = static_cast<double>(canvas_.height()) / own.height();
     side.pane->SetLayers({{image, PlaceOnCanvas(*shown, across, down)}});

@@ -72,7 +72,7 @@ QSize PlayerView::CanvasSize() const {
     const FramePointer frame = shown_.CurrentFrame();
     const int32 width = animation.width > 0 ? animation.width : frame ? frame->width : 0;
     const int32 height = animation.height > 0 ? animation.height : frame ? frame->height : 0;
-    return {width, height};
+    return QSize(width, height).boundedTo(kLargestCanvas);
 }
 
 QRect PlayerView::PlaceOf(int32 frame) const {

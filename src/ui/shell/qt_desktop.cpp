@@ -46,6 +46,7 @@ void QtDesktop::Tell(const std::string& text) {
 void QtDesktop::CloseWindows() {
     window_.reset();
     InstallAlertPresenter(nullptr);
+    alerts_.Close();
 }
 
 void QtDesktop::AbandonPendingCommand() {

@@ -14,6 +14,15 @@ Frame FrameAt(int32 x, int32 y) {
     return frame;
 }
 
+TEST(PaintedCanvas, IsThatOfTheAnimationAsFarAsThereAreFilesOfIt) {
+    Animation animation;
+    animation.width = 320;
+    animation.height = 0;
+    EXPECT_EQ(PaintedCanvasOf(animation), QSize(320, 1));
+    animation.width = std::numeric_limits<int32>::max();
+    EXPECT_EQ(PaintedCanvasOf(animation), QSize(65535, 1));
+}
+
 TEST(PlaceOnCanvas, IsTheFramesOwnPlaceAndSize) {
     EXPECT_EQ(PlaceOnCanvas(FrameAt(5, -7)), QRect(5, -7, 30, 20));
 }

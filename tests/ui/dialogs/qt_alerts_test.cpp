@@ -6,6 +6,7 @@
 #include <QTest>
 #include <QTimer>
 #include <algorithm>
+#include <chrono>
 #include <functional>
 #include <future>
 #include <gtest/gtest.h>
@@ -237,6 +238,18 @@ TEST_F(QtAlertsTest, DeleteTheirDialogs) {
     Ask(Question(), [] { Click("Cancel"); });
 
     EXPECT_TRUE(WaitFor([&] { return window.findChildren<QMessageBox*>().isEmpty(); }));
+}
+
+TEST(QtAlerts, AnswerWithTheLastButtonWhenNoEventsAreHandledAnymore) {
+    QtAlerts alerts;
+    const auto ask = [&alerts] { return alerts.Present(Question()); };
+    std::future<int32> waiting = std::async(std::launch::async, ask);
+    EXPECT_EQ(waiting.wait_for(std::chrono::milliseconds(50)), std::future_status::timeout);
+    alerts.Close();
+    EXPECT_EQ(waiting.get(), 2);
+    EXPECT_EQ(std::async(std::launch::async, ask).get(), 2);
+    QApplication::processEvents();
+    EXPECT_EQ(Dialog(), nullptr);
 }
 
 TEST(QtAlerts, PresentTheProgramsAlertsWhileTheyLive) {

@@ -6,6 +6,7 @@
 #include <QTest>
 #include <QToolButton>
 #include <gtest/gtest.h>
+#include <limits>
 
 #include "document/command_codes.h"
 #include "support/colors.h"
@@ -174,6 +175,28 @@ TEST_F(PlayerViewTest, ShowsTheColorsThatASaveWouldHave) {
     EXPECT_TRUE(Shows(0xFFFF0000)) << "web safe";
     saved->setChecked(false);
     EXPECT_TRUE(Shows(kFirstColor));
+}
+
+TEST_F(PlayerViewTest, PaintsCanvasesAndPlacesThatNoFileHas) {
+    constexpr int32 kMost = std::numeric_limits<int32>::max();
+    fixture.document.Change([](Animation& animation) {
+        animation.width = kMost;
+        animation.height = kMost;
+    });
+    frames[0].reset();
+    Frame far("far", 8, 4);
+    far.bitmap = frames[1]->bitmap;
+    far.x_offset = far.y_offset = kMost;
+    frames[0] = std::make_shared<const Frame>(far);
+    ShowFrames(shown, fixture.document, frames, 0);
+    view.show();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&view));
+    for (const double zoom : {1.0, 32.0}) {
+        view.Pane().SetZoom(zoom);
+        view.UpdateDisplay();
+        EXPECT_FALSE(view.grab().isNull()) << zoom;
+        EXPECT_EQ(view.Pane().PixelsOf({0, 0, 65535, 65535}).width(), 65535 * zoom);
+    }
 }
 
 TEST_F(PlayerViewTest, TellsWhatIsBelowThePointer) {
