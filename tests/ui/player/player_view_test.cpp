@@ -195,7 +195,7 @@ TEST_F(PlayerViewTest, PaintsCanvasesAndPlacesThatNoFileHas) {
         view.Pane().SetZoom(zoom);
         view.UpdateDisplay();
         EXPECT_FALSE(view.grab().isNull()) << zoom;
-        EXPECT_EQ(view.Pane().PixelsOf({0, 0, 65535, 65535}).width(), 65535 * zoom);
+        EXPECT_NEAR(view.Pane().PixelsOf({0, 0, 65535, 65535}).width(), 65535 * zoom, 1);
     }
 }
 
