@@ -105,7 +105,7 @@ bool RecoveryFileReader::ReadHeadBlock() {
     const bool flags = TakeFlags(fields, &animation.use_loop, &animation.use_pause);
     animation.pause_length = fields.F64();
     animation.selected = fields.S32();
-    const bool selects_a_frame = head.frame_count == 0
+    const bool selects_a_frame = head.frame_count <= 0
                                      ? animation.selected == -1
                                      : IsWithin(animation.selected, 0, head.frame_count - 1);
     const bool sound = IsUsedUp(fields) && modified <= 1 && flags && selects_a_frame &&
