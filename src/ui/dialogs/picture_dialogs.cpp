@@ -54,6 +54,11 @@ void StartAt(QSpinBox& field) {
     field.selectAll();
 }
 
+// As near as the field goes: a document's own size may be as large as numbers are.
+void SetNearest(QSpinBox& field, double value) {
+    field.setValue(qRound(std::clamp<double>(value, field.minimum(), field.maximum())));
+}
+
 // While the box is ticked, the other side follows the one that is changed.
 void KeepRatio(const QCheckBox& box, QSpinBox& width, QSpinBox& height, double ratio) {
     const auto follow = [&box](QSpinBox& changed, QSpinBox& other, double factor) {
@@ -61,7 +66,7 @@ void KeepRatio(const QCheckBox& box, QSpinBox& width, QSpinBox& height, double r
                          [&box, &other, factor](int value) {
                              if (!box.isChecked() || other.hasFocus()) return;
                              const QSignalBlocker blocker(other);
-                             other.setValue(std::max(qRound(value * factor), 1));
+                             SetNearest(other, value * factor);
                          });
     };
     follow(width, height, 1 / ratio);
@@ -85,8 +90,8 @@ void AskForSize(const Animation& shown, QWidget* parent, FormDialog::Receiver re
     auto* filter = AddChoice(*dialog, "Filter", UiText::tr("&Filter:"), kFilters, kLanczos);
     KeepRatio(*ratio, *width, *height, static_cast<double>(old_width) / old_height);
     QObject::connect(percent, &QSpinBox::valueChanged, dialog, [=](int value) {
-        width->setValue(std::max(qRound(old_width * value / 100.0), 1));
-        height->setValue(std::max(qRound(old_height * value / 100.0), 1));
+        SetNearest(*width, static_cast<double>(old_width) * value / 100);
+        SetNearest(*height, static_cast<double>(old_height) * value / 100);
     });
     StartAt(*width);
     const auto make = [=]() -> std::optional<BMessage> {

@@ -11,6 +11,7 @@
 #include <QPushButton>
 #include <QSpinBox>
 #include <gtest/gtest.h>
+#include <limits>
 
 #include "document/command_codes.h"
 #include "support/fake_roster.h"
@@ -83,6 +84,16 @@ TEST_F(PictureDialogs, ResizeByPercent) {
 
     EXPECT_EQ(Find<QSpinBox>("Width").value(), 120);
     EXPECT_EQ(Find<QSpinBox>("Height").value(), 90);
+}
+
+TEST_F(PictureDialogs, ResizeAnimationsAsLargeAsNumbersGo) {
+    animation.width = std::numeric_limits<int32>::max();
+    animation.height = 1;
+    AskForSize(animation, &parent, receive);
+    Find<QSpinBox>("Height").setValue(2);
+    EXPECT_EQ(Find<QSpinBox>("Width").value(), 65535);
+    Find<QSpinBox>("Percent").setValue(10000);
+    EXPECT_EQ(Find<QSpinBox>("Width").value(), 65535);
 }
 
 TEST_F(PictureDialogs, ResizeToAnyRatio) {
