@@ -16,11 +16,6 @@ namespace {
 
 constexpr int64 kMostBytes = 1 << 24;  // of a text
 
-bool IsOn(const BBitmap& sheet, const SheetFrame& frame) {
-    return int64{frame.left} + frame.width <= sheet.Width() &&
-           int64{frame.top} + frame.height <= sheet.Height();
-}
-
 SheetTile TileOf(const SheetFrame& frame, double pauses_per_second) {
     SheetTile tile;
     tile.name = frame.name;
@@ -69,8 +64,9 @@ bool InsertSheet(AnimationDocument& document, const entry_ref& ref, BTranslatorR
     const auto sheet = ReadSheet(document, PictureOfSheet(ref, *description), roster);
     if (!sheet) return !document.StopRequested();
     const auto& frames = description->frames;
-    if (!std::all_of(frames.begin(), frames.end(),
-                     [&](const SheetFrame& frame) { return IsOn(*sheet, frame); })) {
+    if (!std::all_of(frames.begin(), frames.end(), [&](const SheetFrame& frame) {
+            return frame.LiesOn(sheet->Width(), sheet->Height());
+        })) {
         Warn(CoreText::With(
             CoreText::tr("This file can't be inserted because a frame is not on the sheet: %1"),
             {ref.Leaf()}));

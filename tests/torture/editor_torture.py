@@ -36,7 +36,6 @@ STATES = ("idle", "loading", "saving", "fading", "dialog", "exporting", "playing
 ENDINGS = {"killed": signal.SIGKILL, "told to end": signal.SIGTERM, "hung up": signal.SIGHUP, "without a screen": None}
 KILLS = 200
 LONGEST_SAVE = 0.5  # seconds from the key to the end, about
-FRAMES_TO_SAVE = 30
 IN_SHORT = (("saving", "killed"), ("fading", "told to end"), ("dialog", "without a screen"))
 
 
@@ -207,7 +206,7 @@ def make_kills(count):
     class KilledEditor(make_slow_editor()):
         def test_killed(self):
             path = self.folder / "drawing.gif"
-            self.write_animation(path, FRAMES_TO_SAVE)
+            self.write_animation(path, FRAMES)
             old = path.read_bytes()
             ends = {"old": 0, "new": 0}
             for number in range(count):
@@ -216,7 +215,7 @@ def make_kills(count):
                 now = path.read_bytes()
                 ends["old" if now == old else "new"] += 1
                 if now != old:
-                    self.assertEqual(self.info(path)["frame_count"], FRAMES_TO_SAVE - 1, f"after kill {number}")
+                    self.assertEqual(self.info(path)["frame_count"], FRAMES - 1, f"after kill {number}")
                 for other in self.folder.iterdir():
                     if other != path:
                         other.unlink()

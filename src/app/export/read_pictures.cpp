@@ -28,11 +28,6 @@ std::shared_ptr<const BBitmap> ReadPictureIn(const std::vector<uint8>& bytes,
     return usable ? picture : nullptr;
 }
 
-bool LiesOn(const BBitmap& picture, const SheetFrame& place) {
-    return int64{place.left} + place.width <= picture.Width() &&
-           int64{place.top} + place.height <= picture.Height();
-}
-
 FramePointer FrameOfPart(const SheetPart& part, const std::shared_ptr<PixelBudget>& budget) {
     const SheetFrame& place = part.place;
     PictureBuilder builder(place.width, place.height, part.picture->ColorSpace(), budget);
@@ -55,7 +50,9 @@ class FramesRead {
     explicit FramesRead(const PictureReading& reading) : reading_(reading) {}
 
     bool Add(const SheetPart& part) {
-        if (reading_.stopped() || !LiesOn(*part.picture, part.place)) return false;
+        const BBitmap& picture = *part.picture;
+        if (reading_.stopped() || !part.place.LiesOn(picture.Width(), picture.Height()))
+            return false;
         FramePointer frame = FrameOfPart(part, reading_.budget);
         if (!frame) return false;
         read_.width = std::max(read_.width, part.place.whole_width);

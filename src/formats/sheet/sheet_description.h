@@ -21,6 +21,11 @@ struct SheetFrame {
     int32 whole_width = 0;  // 1 or more, as whole_height
     int32 whole_height = 0;
     std::optional<double> milliseconds;  // how long it is shown; 0 or more
+
+    // Whether all of it is on a sheet of that size.
+    bool LiesOn(int32 sheet_width, int32 sheet_height) const {
+        return int64{left} + width <= sheet_width && int64{top} + height <= sheet_height;
+    }
 };
 
 struct SheetDescription {

@@ -22,6 +22,7 @@ class UiText {
     // system; best first, as "de-AT" or "de".
     static QStringList UserLanguages();
     // Loads the translations into the first of these languages that there are any, where it is not
-    // English, and lets texts of layers without windows be translated. languages: as above. Once, before there are windows.
+    // English, and lets texts of layers without windows be translated. languages: as above. Once,
+    // before there are windows.
     static void UseLanguage(const QStringList& languages);
 };

@@ -19,6 +19,7 @@ class ColorPortal : public QObject {
     // Told once it is known that the desktop offers no such thing.
     using Missing = std::function<void()>;
 
+    // bus: of the session, connected. parent: the owner.
     ColorPortal(const QDBusConnection& bus, Picked picked, Missing missing, QObject* parent);
 
     // Lets the user pick; nothing while one is being picked.
@@ -35,7 +36,7 @@ class ColorPortal : public QObject {
     const Picked picked_;
     const Missing missing_;
     QString request_;  // the path of the one that has no answer yet
-    int32_t count_ = 0;
+    int count_ = 0;    // of requests
 };
 
 }  // namespace kirto

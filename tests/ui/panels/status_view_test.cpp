@@ -16,6 +16,11 @@ class StatusViewTest : public ViewFixture {
             AppendFrame(document, PictureOf(1, 1, {0xFF000001}), "frame");
     }
 
+    // As the line's text ends once the size of the file is known.
+    QString ExactSize() {
+        return QString(", file %1 bytes").arg(*SavedSize(*document.CurrentState()).Exact());
+    }
+
     StatusView line{shown, window};
 };
 
@@ -119,8 +124,7 @@ TEST_F(StatusViewTest, TellsSizesOnceItIsToldTo) {
 
     line.ShowSizes(document.pixel_budget);
     EXPECT_TRUE(line.sizes->text().endsWith(" in memory")) << line.sizes->text().toStdString();
-    const QString exact =
-        QString(", file %1 bytes").arg(*SavedSize(*document.CurrentState()).Exact());
+    const QString exact = ExactSize();
     EXPECT_TRUE(QTest::qWaitFor([&] { return line.sizes->text().endsWith(exact); }));
     EXPECT_TRUE(line.sizes->toolTip().contains("Saved as a GIF file, it has "));
 }
@@ -132,8 +136,7 @@ TEST_F(StatusViewTest, LeavesOutSizesWhereThereIsNoRoom) {
     Take();
     line.resize(2000, 30);
     line.ShowSizes(document.pixel_budget);
-    const QString exact =
-        QString(", file %1 bytes").arg(*SavedSize(*document.CurrentState()).Exact());
+    const QString exact = ExactSize();
     ASSERT_TRUE(QTest::qWaitFor([&] { return line.sizes->text().endsWith(exact); }));
     const QString all = line.sizes->text();
 
