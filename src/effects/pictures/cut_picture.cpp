@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <limits>
 #include <utility>
 #include <vector>
 
@@ -16,8 +17,10 @@ namespace {
 // Of coordinates that may be anything an int32 holds.
 PlaneRect OfEdges(int64 left, int64 top, int64 right, int64 bottom) {
     if (right <= left || bottom <= top) return {};
-    return {static_cast<int32>(left), static_cast<int32>(top), static_cast<int32>(right - left),
-            static_cast<int32>(bottom - top)};
+    constexpr int64 kMost = std::numeric_limits<int32>::max();
+    return {static_cast<int32>(left), static_cast<int32>(top),
+            static_cast<int32>(std::min(right - left, kMost)),
+            static_cast<int32>(std::min(bottom - top, kMost))};
 }
 
 int64 Right(const PlaneRect& rect) {
@@ -113,6 +116,7 @@ std::shared_ptr<const Picture> CutPicture(const Picture& picture, const PlaneRec
     if (!picture.HasRows()) return nullptr;
     const PlaneRect inside = Common(rect, {0, 0, picture.Width(), picture.Height()});
     if (inside == rect) return CutInside(picture, rect, budget, work);
+    if (std::max(rect.width, rect.height) > kMostPixelsOfASide) return nullptr;
     if (inside.Empty()) {
         return Picture::Solid(kTransparentPixel, rect.width, rect.height, picture.ColorSpace(),
                               budget);

@@ -8,6 +8,9 @@
 
 namespace kirto {
 
+// The most pixels that a side of a canvas, or of a picture that grows, may have: what GIF files hold.
+inline constexpr int32 kMostPixelsOfASide = 65535;
+
 // A part of a plane, in pixels; unlike PixelRect it may begin left of it or above.
 struct PlaneRect {
     int32 left = 0;
@@ -21,13 +24,13 @@ struct PlaneRect {
 
 // What both have; empty where that is nothing.
 PlaneRect Common(const PlaneRect& a, const PlaneRect& b);
-// The smallest one with both; an empty one has nothing.
+// The smallest one with both; an empty one has nothing. What is past an int32 is left out.
 PlaneRect Around(const PlaneRect& a, const PlaneRect& b);
 
 // What the picture, whose first pixel is at 0,0, shows of the rectangle; transparent beyond it.
 // Strips of few colors stay what they are, whole rows share their memory. rect: not empty. A pure
-// function, on any thread. Null when the picture has no rows, memory is short or the work was
-// stopped.
+// function, on any thread. Null when the picture has no rows, memory is short, a rectangle that
+// reaches beyond the picture has a side of more than kMostPixelsOfASide, or the work was stopped.
 std::shared_ptr<const Picture> CutPicture(const Picture& picture, const PlaneRect& rect,
                                           const std::shared_ptr<PixelBudget>& budget,
                                           const Work& work);

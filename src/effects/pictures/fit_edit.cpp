@@ -57,6 +57,7 @@ std::shared_ptr<const Picture> FitEdit::Make(const Picture& picture, const Pictu
                                              const std::shared_ptr<PixelBudget>& budget,
                                              const Work& work) const {
     if (fit_ != Fit::kScale) return CutToVariant(picture, variant, budget, work);
+    if (std::max(variant[0], variant[1]) > kMostPixelsOfASide) return nullptr;
     return ScalePicture(picture,
                         ScaleTo(picture.Width(), picture.Height(), variant[0], variant[1], filter_),
                         budget, work);

@@ -1,13 +1,11 @@
 #pragma once
 
 #include "base/core_text.h"
+#include "effects/pictures/cut_picture.h"
 #include "effects/pictures/picture_edit.h"
 #include "effects/pictures/scale_picture.h"
 
 namespace kirto {
-
-// The most pixels that a side of a canvas or a scaled frame may have: what GIF files hold.
-inline constexpr int32 kMostPixelsOfASide = 65535;
 
 // Gives the canvas another size, and scales frames and offsets with it. The edges of a frame come
 // to lie between the nearest pixels, one at least within it, and its pixels are those of the scaled

@@ -21,20 +21,22 @@ class CanvasRows {
   public:
     CanvasRows(const Animation& animation, const Frame& frame)
         : frame_(frame),
-          width_(animation.width),
           rect_(HasPixels(frame) ? Common(RectOf(frame), CanvasOf(animation)) : PlaneRect{}),
           pixels_(HasPixels(frame) ? static_cast<size_t>(frame.bitmap->Width()) : 0) {}
 
     const PlaneRect& Rect() const { return rect_; }
-    const Row& At(int32 y) {
-        row_.assign(static_cast<size_t>(width_), kTransparentPixel);
-        if (y < rect_.top || y >= rect_.top + rect_.height) return row_;
+    // The columns that the part has, of row y.
+    const Row& At(int32 y, const PlaneRect& part) {
+        row_.assign(static_cast<size_t>(part.width), kTransparentPixel);
+        const PlaneRect seen = Common(rect_, {part.left, y, part.width, 1});
+        if (seen.Empty()) return row_;
         frame_.bitmap->ReadRow(y - frame_.y_offset, reinterpret_cast<uint8*>(pixels_.data()));
         const bool big_endian = IsBigEndian(frame_.bitmap->ColorSpace());
-        for (int32 x = 0; x < rect_.width; ++x) {
-            const ColorBytes color =
-                ColorOf(pixels_[static_cast<size_t>(x + rect_.left - frame_.x_offset)], big_endian);
-            if (color.alpha != 0) row_[static_cast<size_t>(rect_.left + x)] = PixelOf(color, false);
+        const uint32* const pixels = &pixels_[static_cast<size_t>(seen.left - frame_.x_offset)];
+        uint32* const row = &row_[static_cast<size_t>(seen.left - part.left)];
+        for (int32 x = 0; x < seen.width; ++x) {
+            const ColorBytes color = ColorOf(pixels[x], big_endian);
+            if (color.alpha != 0) row[x] = PixelOf(color, false);
         }
         return row_;
     }
@@ -47,20 +49,19 @@ class CanvasRows {
 
   private:
     const Frame& frame_;
-    const int32 width_;
     const PlaneRect rect_;  // of the frame, on the canvas
     Row pixels_;
     Row row_;
 };
 
-// The row as a part of the canvas, from the first pixel that differs to the last.
-PlaneRect Difference(const Row& a, const Row& b, int32 y) {
+// What differs of two rows of a part, row y of the canvas.
+PlaneRect Difference(const Row& a, const Row& b, const PlaneRect& part, int32 y) {
     const auto first = std::mismatch(a.begin(), a.end(), b.begin());
     if (first.first == a.end()) return {};
     const auto last = std::mismatch(a.rbegin(), a.rend(), b.rbegin());
     const int32 left = static_cast<int32>(first.first - a.begin());
     const int32 right = static_cast<int32>(last.first.base() - a.begin());
-    return {left, y, right - left, 1};
+    return {part.left + left, y, right - left, 1};
 }
 
 // Whether both have the rows of a strip in the same place, if any.
@@ -74,16 +75,21 @@ bool ShareRow(const Frame& a, CanvasRows& a_rows, const Frame& b, CanvasRows& b_
                b.bitmap->FirstRows()[b.bitmap->StripAt(y - b.y_offset)];
 }
 
+// Looks at no more of the canvas than what the frames have on it.
 PlaneRect DifferenceOf(const Animation& animation, const Frame& a, const Frame& b,
                        const Work& work) {
     CanvasRows a_rows(animation, a);
     CanvasRows b_rows(animation, b);
-    const PlaneRect both = Around(a_rows.Rect(), b_rows.Rect());
     PlaneRect area;
-    for (int32 y = both.top; y < both.top + both.height && !work.StopRequested(); ++y) {
-        if (ShareRow(a, a_rows, b, b_rows, y)) continue;
-        area = Around(area, Difference(a_rows.At(y), b_rows.At(y), y));
-    }
+    const auto look_at = [&](const PlaneRect& part) {
+        for (int32 y = part.top; y < part.top + part.height && !work.StopRequested(); ++y) {
+            if (ShareRow(a, a_rows, b, b_rows, y)) continue;
+            area = Around(area, Difference(a_rows.At(y, part), b_rows.At(y, part), part, y));
+        }
+    };
+    const PlaneRect both = Common(a_rows.Rect(), b_rows.Rect());
+    if (both != b_rows.Rect()) look_at(b_rows.Rect());
+    if (both != a_rows.Rect() || both == b_rows.Rect()) look_at(a_rows.Rect());
     return area;
 }
 

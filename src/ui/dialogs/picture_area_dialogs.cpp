@@ -8,6 +8,7 @@
 #include <QSpinBox>
 #include <algorithm>
 #include <array>
+#include <limits>
 #include <vector>
 
 #include "document/command_codes.h"
@@ -52,8 +53,13 @@ Sides AddSides(FormDialog& dialog, const QRect& area) {
     return sides;
 }
 
+// Its right and bottom edges are numbers, too, however large the canvas is.
 QRect AreaIn(const Sides& sides) {
-    return {sides[0]->value(), sides[1]->value(), sides[2]->value(), sides[3]->value()};
+    constexpr int kMost = std::numeric_limits<int>::max();
+    const int left = sides[0]->value();
+    const int top = sides[1]->value();
+    return {left, top, std::min(sides[2]->value(), kMost - left),
+            std::min(sides[3]->value(), kMost - top)};
 }
 
 void Show(const Sides& sides, const QRect& area) {
@@ -100,13 +106,13 @@ void AddTrims(FormDialog& dialog, const FormDialog::Receiver& receive) {
 
 // The pixel of the frame that stands there on the canvas; invalid where it has none.
 QColor ColorAt(const Frame& frame, QPoint point) {
-    const int32 x = point.x() - frame.x_offset;
-    const int32 y = point.y() - frame.y_offset;
+    const int64 x = int64{point.x()} - frame.x_offset;
+    const int64 y = int64{point.y()} - frame.y_offset;
     const Picture& picture = *frame.bitmap;
     if (!picture.HasRows() || x < 0 || y < 0 || x >= picture.Width() || y >= picture.Height())
         return {};
     std::vector<uint8> row(static_cast<size_t>(picture.Width()) * 4);
-    picture.ReadRow(y, row.data());
+    picture.ReadRow(static_cast<int32>(y), row.data());
     uint8* pixel = row.data() + static_cast<size_t>(x) * 4;
     const color_space space = picture.ColorSpace();
     if (space == B_RGB32_BIG || space == B_RGBA32_BIG) std::reverse(pixel, pixel + 4);

@@ -34,12 +34,12 @@ int32 IndexOf(const Palette& palette, rgb_color color) {
 
 QString PixelText(const Animation& animation, const Frame& frame, QPoint pixel) {
     const Picture* picture = frame.bitmap.get();
-    const int32 x = pixel.x() - frame.x_offset;
-    const int32 y = pixel.y() - frame.y_offset;
+    const int64 x = int64{pixel.x()} - frame.x_offset;
+    const int64 y = int64{pixel.y()} - frame.y_offset;
     const bool inside = picture && picture->HasRows() && x >= 0 && y >= 0 && x < picture->Width() &&
                         y < picture->Height();
     if (!inside) return UiText::tr("no frame");
-    const rgb_color color = ColorAt(*picture, x, y);
+    const rgb_color color = ColorAt(*picture, static_cast<int32>(x), static_cast<int32>(y));
     if (color.alpha == 0) return UiText::tr("transparent");
     const QString text = QString("#%1%2%3")
                              .arg(color.red, 2, 16, QChar('0'))

@@ -1,5 +1,6 @@
 // Cropping, turning, fitting and resizing, held against what each pixel of the canvas shows.
 #include <gtest/gtest.h>
+#include <limits>
 
 #include "effects/pictures/canvas_pixels.h"
 #include "effects/pictures/crop_edit.h"
@@ -215,6 +216,22 @@ TEST(FitEdit, ScalesToTheMiddleOfTheCanvasAndKeepsTheRatio) {
     EXPECT_EQ(ScaledPlace(4, 4), (std::array<int32, 4>{10, 10, 5, 0}));
     EXPECT_EQ(ScaledPlace(40, 4), (std::array<int32, 4>{20, 2, 0, 4}));
     EXPECT_EQ(ScaledPlace(1, 300), (std::array<int32, 4>{1, 10, 9, 0}));
+}
+
+TEST(FitEdit, ChangesNothingWhereTheCanvasIsLargerThanPictures) {
+    DocumentFixture fixture;
+    AppendFrame(fixture.document, PictureOf(2, 1, {~0u, ~0u}), "a");
+    EditOf(fixture.document)->width = std::numeric_limits<int32>::max();
+    EditOf(fixture.document)->height = std::numeric_limits<int32>::max();
+    const auto before = fixture.document.Current();
+    for (const Fit fit : {Fit::kScale, Fit::kPad}) {
+        const FitEdit edit(fit, ScaleFilter::kNearest);
+        EXPECT_EQ(EditPictures(fixture.document, edit, All(fixture.document)),
+                  EditEnd::kOutOfMemory);
+    }
+    const FitEdit crop(Fit::kCrop, ScaleFilter::kNearest);
+    EXPECT_EQ(EditPictures(fixture.document, crop, All(fixture.document)), EditEnd::kDone);
+    EXPECT_EQ(fixture.document.Current(), before);
 }
 
 TEST(ResizeEdit, ShowsEachPixelLargerWhereTheFilterIsTheNearest) {

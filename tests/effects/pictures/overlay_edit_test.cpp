@@ -1,6 +1,7 @@
 #include "effects/pictures/overlay_edit.h"
 
 #include <gtest/gtest.h>
+#include <limits>
 
 #include "effects/pictures/canvas_pixels.h"
 #include "effects/pictures/edit_pictures.h"
@@ -112,6 +113,18 @@ TEST(OverlayEdit, FadesInAndOutOverTheFrames) {
     for (int32 i = 0; i < 6; ++i)
         shades.push_back(fixture.Canvas(i).front() & 255);
     EXPECT_EQ(shades, (Pixels{128, 255, 255, 255, 170, 85}));
+}
+
+TEST(OverlayEdit, ChangesNothingWhereAFrameIsTooFarAwayToReachIt) {
+    OverlayFixture fixture;
+    AppendFrame(fixture.document, PictureOf(2, 1, {~0u, ~0u}), "far");
+    FrameEditOf(fixture.document, 1)->x_offset = std::numeric_limits<int32>::max();
+    const auto before = fixture.document.Current();
+    const FrameSet all = FrameSet::AllOf(2);
+    const OverlayEdit edit(Dot(0xFF123456), 0, 0, {}, *before, all);
+
+    EXPECT_EQ(EditPictures(fixture.document, edit, all), EditEnd::kOutOfMemory);
+    EXPECT_EQ(fixture.document.Current(), before);
 }
 
 TEST(OverlayEdit, LeavesStripsThatItDoesNotTouchAsTheyAre) {

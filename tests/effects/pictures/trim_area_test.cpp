@@ -1,6 +1,7 @@
 #include "effects/pictures/trim_area.h"
 
 #include <gtest/gtest.h>
+#include <limits>
 
 #include "effects/pictures/canvas_pixels.h"
 #include "support/test_support.h"
@@ -71,6 +72,22 @@ TEST(TrimArea, FindsWhatChangesBetweenPicturesThatShareStrips) {
     const auto animation = fixture.document.Current();
     EXPECT_EQ(ChangedArea(*animation, fixture.document.work), ChangedAreaPlainly(*animation));
     EXPECT_EQ(VisibleArea(*animation, fixture.document.work), (PlaneRect{0, 0, 10, 300}));
+}
+
+// Memory and time go by what frames have, not by the canvas.
+TEST(TrimArea, LooksAtNoMoreOfAHugeCanvasThanItsFrames) {
+    constexpr int32 kFarthest = std::numeric_limits<int32>::max();
+    DocumentFixture fixture;
+    AppendFrame(fixture.document, PictureOf(2, 1, {0xFF000000, 0xFF000001}), "near");
+    AppendFrame(fixture.document, PictureOf(1, 2, {0xFF000000, 0xFF000001}), "far");
+    FrameEditOf(fixture.document, 1)->x_offset = kFarthest - 1;
+    FrameEditOf(fixture.document, 1)->y_offset = kFarthest - 1;
+    EditOf(fixture.document)->width = kFarthest;
+    EditOf(fixture.document)->height = kFarthest;
+    const auto animation = fixture.document.Current();
+    const PlaneRect whole = {0, 0, kFarthest, kFarthest};
+    EXPECT_EQ(VisibleArea(*animation, fixture.document.work), whole);
+    EXPECT_EQ(ChangedArea(*animation, fixture.document.work), whole);
 }
 
 TEST(TrimArea, IsEmptyWithoutFramesOrChanges) {

@@ -4,6 +4,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
+#include <QDoubleSpinBox>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
@@ -16,6 +17,7 @@
 #include "document/command_codes.h"
 #include "support/fake_roster.h"
 #include "ui/controls/picture_area.h"
+#include "ui/dialogs/frames_dialogs.h"
 #include "ui/dialogs/picture_area_dialogs.h"
 #include "ui/dialogs/sheet_dialog.h"
 #include "ui/dialogs/text_dialog.h"
@@ -287,6 +289,56 @@ TEST_F(PictureDialogs, ExportNoSheetWithoutAWriterOfPngFiles) {
     Find<QLineEdit>("File").setText("/some/sheet.png");
 
     EXPECT_FALSE(Ok().isEnabled());
+}
+
+// Each number at its ends, each choice, and a rectangle from corner to corner.
+void UseAllOf(QDialog& dialog) {
+    for (QComboBox* box : dialog.findChildren<QComboBox*>()) {
+        for (int i = box->count() - 1; i >= 0; --i)
+            box->setCurrentIndex(i);
+    }
+    for (QSpinBox* box : dialog.findChildren<QSpinBox*>()) {
+        box->setValue(box->minimum());
+        box->stepUp();
+        box->setValue(box->maximum());
+    }
+    for (QDoubleSpinBox* box : dialog.findChildren<QDoubleSpinBox*>()) {
+        box->setValue(box->minimum());
+        box->setValue(box->maximum());
+    }
+}
+
+TEST_F(PictureDialogs, TakeAnimationsAsFarAwayAndLargeAsNumbersGo) {
+    constexpr int32 kFarthest = std::numeric_limits<int32>::max();
+    Frame far = *animation.FirstFrame();
+    far.x_offset = kFarthest;
+    far.y_offset = kFarthest;
+    animation.frames.Insert(1, std::make_shared<const Frame>(far));
+    SelectFrames(animation, FrameSet::Of(0, 2), 1);
+    animation.width = kFarthest;
+    animation.height = kFarthest;
+    animation.loop_count = kFarthest;
+    parent.show();
+    for (const auto& ask :
+         {AskForSize, AskForCanvas, AskForCrop, AskForFit, AskForColors, AskForOpacity,
+          AskForOverlay, AskForTransparentColor, AskForText, AskForEveryNth, AskForRange,
+          AskForFrame, AskForDropping, AskForTolerance, AskForPlace}) {
+        ask(animation, &parent, receive);
+        auto* dialog = parent.findChild<QDialog*>();
+        ASSERT_TRUE(dialog);
+        UseAllOf(*dialog);
+        if (parent.findChild<QWidget*>("PictureArea")) {
+            Draw(0, 0, 65534, 65534);
+            Draw(65534, 65534, 0, 0);
+        }
+        HandleEvents();
+        received = BMessage();
+        if (Ok().isEnabled()) {
+            Ok().click();
+            EXPECT_NE(received.what, 0u) << dialog->objectName().toStdString();
+        }
+        delete dialog;
+    }
 }
 
 TEST_F(PictureDialogs, SayWhichFramesTheyWorkOn) {
