@@ -1,6 +1,7 @@
-// Arbitrary bytes as an FLI or FLC, by the defined rules and by those of players: into an empty
-// document, then once more behind what came of it. The header's last byte, which means nothing to
-// readers, has bits: there is little memory; the work is stopped before the second time.
+// Arbitrary bytes as an FLI or FLC. The header's last byte, which means nothing to readers, has
+// bits, from the lowest: there is little memory; the file is read once more, behind what came of it
+// the first time; the work is stopped before the last time; the file is read as players do, not by
+// the defined rules.
 #include <cstdlib>
 
 #include "base/debug_line.h"
@@ -25,26 +26,23 @@ void Check(const AnimationDocument& document, int32 end) {
     if (document.pixel_budget->Used() > kPixelBytes) std::abort();
 }
 
-void Load(const uint8_t* data, size_t size, Prefs& prefs) {
-    AnimationDocument document(prefs);
-    const uint8 how = size > kLastOfHeader ? data[kLastOfHeader] : 0;
-    document.pixel_budget->SetLimit((how & 1) != 0 ? kLittleMemory : kPixelBytes);
-    for (int32 start : {0, 1}) {
-        const auto file = BFile::OnMemory({data, data + size});
-        if (start > 0) start = document.FrameCount();
-        if (start > 0 && (how & 2) != 0) document.RequestStop();
-        const FliLoad loader(file.get(), start, document);
-        Check(document, loader.End());
-    }
+void LoadAt(int32 start, const uint8_t* data, size_t size, AnimationDocument& document) {
+    const auto file = BFile::OnMemory({data, data + size});
+    const FliLoad loader(file.get(), start, document);
+    Check(document, loader.End());
 }
 
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     kirto::InstallDebugSink([](const std::string&) {});
+    const uint8 how = size > kLastOfHeader ? data[kLastOfHeader] : 0;
     Prefs prefs{Prefs::BuiltIn{}};
-    Load(data, size, prefs);
-    prefs.animation_faithful = true;
-    Load(data, size, prefs);
+    prefs.animation_faithful = (how & 8) != 0;
+    AnimationDocument document(prefs);
+    document.pixel_budget->SetLimit((how & 1) != 0 ? kLittleMemory : kPixelBytes);
+    if ((how & 2) != 0) LoadAt(0, data, size, document);
+    if ((how & 4) != 0) document.RequestStop();
+    LoadAt(document.FrameCount(), data, size, document);
     return 0;
 }

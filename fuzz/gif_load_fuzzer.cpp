@@ -1,6 +1,6 @@
-// Arbitrary bytes as a GIF file, by the defined rules and by those of browsers. The first byte's
-// bits, from the lowest: every frame is as large as the screen, not as its image; there is little
-// memory; the frames come behind another one; the work is stopped.
+// Arbitrary bytes as a GIF file. The first byte's bits, from the lowest: every frame is as large as
+// the screen, not as its image; there is little memory; the frames come behind another one; the
+// work is stopped; the file is read as browsers do, not by the defined rules.
 #include <cstdlib>
 
 #include "base/debug_line.h"
@@ -66,8 +66,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     kirto::InstallDebugSink([](const std::string&) {});
     Prefs prefs{Prefs::BuiltIn{}};
     prefs.animation_gifloadfullframe = (data[0] & 1) != 0;
-    Load(data[0], data + 1, size - 1, prefs);
-    prefs.animation_faithful = true;
+    prefs.animation_faithful = (data[0] & 16) != 0;
     Load(data[0], data + 1, size - 1, prefs);
     return 0;
 }

@@ -24,6 +24,10 @@ constexpr size_t kMostBytes = 4096;
 constexpr size_t kCodeBytes = 400;
 constexpr uint32 kCodeSeeds = 24;
 constexpr size_t kLastOfFliHeader = 127;
+// What says that a file is read as browsers or players do, and how an FLI file is read otherwise.
+constexpr uint8 kFaithfulGif = 16;
+constexpr uint8 kFaithfulFli = 8;
+constexpr uint32 kWaysOfFlis = 16;
 constexpr size_t kWrongAt[] = {4, 5, 8, 12};  // of a FLI file: magic, width, depth
 constexpr int kDamages = 4;                   // bytes at most that are changed in one file
 
@@ -65,9 +69,9 @@ Bytes WithFirst(uint8 first, const Bytes& bytes) {
 }
 
 // As many files as it has bytes, each without its end. from: bytes that all of them have.
-void AddCut(const Bytes& bytes, size_t from, SeedFolder& seeds) {
+void AddCut(const Bytes& bytes, size_t from, const std::string& name, SeedFolder& seeds) {
     for (size_t size = from; size < bytes.size(); ++size)
-        seeds.Add("cut-at-" + std::to_string(size),
+        seeds.Add(name + std::to_string(size),
                   Bytes(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(size)));
 }
 
@@ -104,38 +108,57 @@ Bytes FliOfAllChunks() {
     return fli;
 }
 
+// By the defined rules, and as browsers do.
+void AddBoth(const std::string& name, uint8 first, const Bytes& gif, SeedFolder& seeds) {
+    seeds.Add(name, WithFirst(first & (255 - kFaithfulGif), gif));
+    seeds.Add(name + "-faithful", WithFirst(first | kFaithfulGif, gif));
+}
+
 int AddGifs(const std::filesystem::path& folder) {
     SeedFolder seeds(folder / "gif_load");
     for (uint32 i = 0; i < kSound; ++i) {
         const Bytes gif = kirto::test::RandomGif(i);
         const auto first = static_cast<uint8>(i);
-        seeds.Add("sound-" + std::to_string(i), WithFirst(first, gif));
-        seeds.Add("damaged-" + std::to_string(i), WithFirst(first, Damaged(gif, i)));
+        AddBoth("sound-" + std::to_string(i), first, gif, seeds);
+        AddBoth("damaged-" + std::to_string(i), first, Damaged(gif, i), seeds);
     }
-    AddCut(WithFirst(0, GifOfAllBlocks()), 1, seeds);
+    AddCut(WithFirst(0, GifOfAllBlocks()), 1, "cut-at-", seeds);
+    AddCut(WithFirst(kFaithfulGif, GifOfAllBlocks()), 1, "faithful-cut-at-", seeds);
+    int count = 0;
     kirto::test::ForEachHostileGif(true, [&](const kirto::test::HostileFile& file) {
-        seeds.Add(file.name, WithFirst(static_cast<uint8>(seeds.Count() % 2), file.bytes));
+        AddBoth(file.name, static_cast<uint8>(count++ % 2), file.bytes, seeds);
     });
     return seeds.Count();
+}
+
+// By the defined rules, and as players do.
+void AddBothFlis(const std::string& name, Bytes fli, SeedFolder& seeds) {
+    seeds.Add(name, fli);
+    if (fli.size() <= kLastOfFliHeader) return;
+    fli[kLastOfFliHeader] ^= kFaithfulFli;
+    seeds.Add(name + "-otherwise", fli);
 }
 
 int AddFlis(const std::filesystem::path& folder) {
     SeedFolder seeds(folder / "fli_load");
     for (uint32 i = 0; i < kSound; ++i) {
         Bytes fli = kirto::test::RandomFli(i);
-        fli[kLastOfFliHeader] = static_cast<uint8>(i % 4);
-        seeds.Add("sound-" + std::to_string(i), fli);
-        seeds.Add("damaged-" + std::to_string(i), Damaged(fli, i));
+        fli[kLastOfFliHeader] = static_cast<uint8>(i % kWaysOfFlis);
+        AddBothFlis("sound-" + std::to_string(i), fli, seeds);
+        AddBothFlis("damaged-" + std::to_string(i), Damaged(fli, i), seeds);
     }
-    const Bytes all = FliOfAllChunks();
-    AddCut(all, kLastOfFliHeader, seeds);
+    Bytes all = FliOfAllChunks();
+    AddCut(all, kLastOfFliHeader, "cut-at-", seeds);
     for (const size_t at : kWrongAt) {
         Bytes wrong = all;
         wrong[at] ^= 1;
-        seeds.Add("wrong-at-" + std::to_string(at), wrong);
+        AddBothFlis("wrong-at-" + std::to_string(at), wrong, seeds);
     }
-    kirto::test::ForEachHostileFli(
-        true, [&](const kirto::test::HostileFile& file) { seeds.Add(file.name, file.bytes); });
+    all[kLastOfFliHeader] = kFaithfulFli;
+    AddCut(all, kLastOfFliHeader + 1, "faithful-cut-at-", seeds);
+    kirto::test::ForEachHostileFli(true, [&](const kirto::test::HostileFile& file) {
+        AddBothFlis(file.name, file.bytes, seeds);
+    });
     return seeds.Count();
 }
 

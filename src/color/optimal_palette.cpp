@@ -67,18 +67,15 @@ bool CountPixels(const uint8* pixels, size_t count, kirto::ColorValues& counts) 
     return true;
 }
 
-// Adds pixels that are counted already.
-bool AddCounts(std::span<const kirto::PixelCount> pixels, bool big_endian,
-               kirto::ColorValues& counts) {
-    for (const kirto::PixelCount& each : pixels) {
-        uint8 bytes[4];
-        std::memcpy(bytes, &each.pixel, sizeof(bytes));
-        const uint32 key = big_endian ? ColorKey(bytes[1], bytes[2], bytes[3])
-                                      : ColorKey(bytes[2], bytes[1], bytes[0]);
-        kirto::ColorValues::Item* item = counts.FindOrAdd(key);
-        if (!item) return false;
-        item->value += each.count;
-    }
+// Adds a pixel that is counted already.
+bool AddCount(const kirto::PixelCount& pixel, bool big_endian, kirto::ColorValues& counts) {
+    uint8 bytes[4];
+    std::memcpy(bytes, &pixel.pixel, sizeof(bytes));
+    const uint32 key = big_endian ? ColorKey(bytes[1], bytes[2], bytes[3])
+                                  : ColorKey(bytes[2], bytes[1], bytes[0]);
+    kirto::ColorValues::Item* item = counts.FindOrAdd(key);
+    if (!item) return false;
+    item->value += pixel.count;
     return true;
 }
 
@@ -162,7 +159,11 @@ bool ColorCounts::Count() {
 
 bool ColorCounts::CountStrip(size_t place) {
     const kirto::Strip& strip = *picture_.AllStrips()[place];
-    if (!strip.Pixels()) return AddCounts(strip.Counts(), big_endian_, values_);
+    if (!strip.Pixels()) {
+        return strip.AllCounts([this](const kirto::PixelCount& pixel) {
+            return AddCount(pixel, big_endian_, values_);
+        });
+    }
     const auto count_pixels = big_endian_ ? CountPixels<true> : CountPixels<false>;
     const size_t size = SizeOf(strip);
     for (size_t done = 0; done < size;) {

@@ -128,10 +128,8 @@ bool Picture::IsOpaque() const {
                              static_cast<size_t>(strip->Rows()) * static_cast<size_t>(width_),
                              big_endian);
         }
-        const auto counts = strip->Counts();
-        return std::all_of(counts.begin(), counts.end(), [&](const PixelCount& each) {
-            return IsOpaquePixel(each.pixel, big_endian);
-        });
+        return strip->AllCounts(
+            [&](const PixelCount& each) { return IsOpaquePixel(each.pixel, big_endian); });
     });
 }
 

@@ -89,14 +89,8 @@ PixelRow Strip::Row(int32 y) const {
     return row;
 }
 
-std::vector<PixelCount> Strip::Counts() const {
-    if (!indices_) return {{solid_, static_cast<uint32>(Size())}};
-    std::call_once(counting_, [this] { CountIndices(); });
-    std::vector<PixelCount> result;
-    result.reserve(counts_->size());
-    for (const IndexCount& each : *counts_)
-        result.push_back({table_->pixels[each.index], each.count});
-    return result;
+void Strip::Count() const {
+    if (indices_) std::call_once(counting_, [this] { CountIndices(); });
 }
 
 void Strip::CountIndices() const {

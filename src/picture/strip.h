@@ -38,6 +38,8 @@ struct PixelRow {
 struct PixelCount {
     uint32 pixel = 0;
     uint32 count = 0;
+
+    bool operator==(const PixelCount&) const = default;
 };
 
 // A few rows of a picture, and the smallest unit that pictures share. Never changes; may be used by
@@ -78,9 +80,19 @@ class Strip {
     // The indices of all rows; null unless there are.
     const uint8* Indices() const { return indices_; }
     const SharedPixelTable& Table() const { return table_; }
-    // Every pixel that occurs, in the order of first appearance. Counted when first asked for. Not
-    // for strips of 4-byte pixels, which may have any number of them.
-    std::vector<PixelCount> Counts() const;
+    // Whether the predicate is true for every PixelCount: it is asked in the order in which the
+    // pixels appear first, up to the one it is false for. Counted when first asked for. Not for
+    // strips of 4-byte pixels, which may have any number of them.
+    template <typename Predicate>
+    bool AllCounts(const Predicate& predicate) const {
+        if (!indices_) return predicate(PixelCount{solid_, static_cast<uint32>(Size())});
+        Count();
+        for (const IndexCount& each : *counts_)
+            if (!predicate(PixelCount{table_->pixels[each.index], each.count})) return false;
+        return true;
+    }
+    // Counts now what AllCounts() will ask for.
+    void Count() const;
 
   private:
     Strip(int32 width, int32 rows) : width_(width), rows_(rows) {}

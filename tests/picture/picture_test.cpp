@@ -6,6 +6,7 @@
 #include "base/allocation.h"
 #include "picture/picture_builder.h"
 #include "random_picture.h"
+#include "strip_counts.h"
 
 namespace kirto::test {
 
@@ -182,14 +183,15 @@ TEST(PictureBuilder, GivesNothingAtEachAllocationThatFails) {
 TEST(Strip, CountsItsPixelsInTheOrderInWhichTheyAppear) {
     const PlainPicture plain{3, 2, {5, 9, 5, 5, 0, 9}};
     const auto picture = Built(plain);
-    const auto counts = picture->AllStrips().front()->Counts();
+    const auto& strip = *picture->AllStrips().front();
 
-    ASSERT_EQ(counts.size(), 3U);
-    const std::vector<std::pair<uint32, uint32>> expected = {{5, 3}, {9, 2}, {0, 1}};
-    for (size_t i = 0; i < counts.size(); ++i) {
-        EXPECT_EQ(counts[i].pixel, expected[i].first);
-        EXPECT_EQ(counts[i].count, expected[i].second);
-    }
+    EXPECT_EQ(CountsOf(strip), (std::vector<PixelCount>{{5, 3}, {9, 2}, {0, 1}}));
+    uint32 asked = 0;
+    EXPECT_FALSE(strip.AllCounts([&](const PixelCount& each) {
+        ++asked;
+        return each.pixel != 9;
+    }));
+    EXPECT_EQ(asked, 2U) << "Nothing is asked behind the first that is false.";
 }
 
 TEST(Strip, CountsOfOneStorageAreSharedWhateverItsIndicesMean) {
@@ -200,14 +202,14 @@ TEST(Strip, CountsOfOneStorageAreSharedWhateverItsIndicesMean) {
     table.pixels[0] = 7;
     table.pixels[1] = 8;
     const auto strip = Strip::Indexed(storage, std::make_shared<PixelTable>(table), 3, 2);
-    ASSERT_EQ(strip->Counts().size(), 2U);
+    ASSERT_EQ(CountsOf(*strip).size(), 2U);
     table.pixels[0] = 9;
     const auto recolored =
         Strip::Indexed(storage, std::make_shared<PixelTable>(table), 3, 2, nullptr, strip);
     // Counted anew they would be others now.
     storage->Bytes()[0] = 1;
 
-    const std::vector<PixelCount> counts = recolored->Counts();
+    const std::vector<PixelCount> counts = CountsOf(*recolored);
     ASSERT_EQ(counts.size(), 2U);
     EXPECT_EQ(counts[0].pixel, 9U);
     EXPECT_EQ(counts[0].count, 4U);

@@ -22,7 +22,7 @@ template <bool kBigEndian>
 bool ColorCensus::AddStrip(const Strip& strip, size_t width) {
     const uint8* pixels = strip.Pixels();
     if (!pixels) {
-        return std::ranges::all_of(strip.Counts(), [&](const PixelCount& each) {
+        return strip.AllCounts([&](const PixelCount& each) {
             uint8 bytes[4];
             std::memcpy(bytes, &each.pixel, sizeof(bytes));
             return Count(matte_.KeyAt<kBigEndian>(bytes), each.count);

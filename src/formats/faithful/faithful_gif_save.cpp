@@ -54,9 +54,11 @@ bool HasFewColors(const Frame& frame, size_t most) {
     std::set<uint32> pixels;
     for (const auto& strip : frame.bitmap->AllStrips()) {
         if (strip->Pixels()) return false;
-        for (const PixelCount& item : strip->Counts())
+        const bool few = strip->AllCounts([&](const PixelCount& item) {
             pixels.insert(item.pixel);
-        if (pixels.size() > most) return false;
+            return pixels.size() <= most;
+        });
+        if (!few) return false;
     }
     return true;
 }

@@ -70,7 +70,7 @@ FliLoad::Finished FliLoad::Finish(const kirto::FliPiece& piece) const {
     if (piece.frame.local_palette) {
         // Its colors are counted in a moment; that goes by these.
         for (const auto& strip : picture.AllStrips())
-            if (!strip->Pixels()) static_cast<void>(strip->Counts());
+            strip->Count();
     } else {
         finished.palette = *piece.palette;
         finished.status = finished.palette.SetOptimal(&picture, &document_.work);
