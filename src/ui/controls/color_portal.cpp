@@ -38,7 +38,14 @@ QColor ColorOf(const QVariant& value) {
 
 ColorPortal::ColorPortal(const QDBusConnection& bus, Picked picked, Missing missing,
                          QObject* parent)
-    : QObject(parent), bus_(bus), picked_(std::move(picked)), missing_(std::move(missing)) {}
+    : QObject(parent), bus_(bus), picked_(std::move(picked)), missing_(std::move(missing)) {
+    watcher_.setConnection(bus_);
+    watcher_.setWatchMode(QDBusServiceWatcher::WatchForUnregistration);
+    connect(&watcher_, &QDBusServiceWatcher::serviceUnregistered, this, [this] {
+        Forget();
+        picked_({});
+    });
+}
 
 void ColorPortal::Pick() {
     if (!request_.isEmpty()) return;
@@ -62,6 +69,7 @@ void ColorPortal::Pick() {
 
 void ColorPortal::Listen(const QString& request) {
     request_ = request;
+    watcher_.addWatchedService(kService);
     bus_.connect(kService, request_, kRequest, "Response", this,
                  SLOT(TakeResponse(uint, QVariantMap)));
 }
@@ -69,6 +77,7 @@ void ColorPortal::Listen(const QString& request) {
 void ColorPortal::Forget() {
     bus_.disconnect(kService, request_, kRequest, "Response", this,
                     SLOT(TakeResponse(uint, QVariantMap)));
+    watcher_.removeWatchedService(kService);
     request_.clear();
 }
 

@@ -2,6 +2,7 @@
 
 #include <QColor>
 #include <QDBusConnection>
+#include <QDBusServiceWatcher>
 #include <QObject>
 #include <QVariantMap>
 #include <functional>
@@ -14,7 +15,7 @@ class ColorPortal : public QObject {
     Q_OBJECT
 
   public:
-    // Receives the color; an invalid one when the user gave it up.
+    // Receives the color; an invalid one when the user gave it up, or the portal ended meanwhile.
     using Picked = std::function<void(const QColor& color)>;
     // Told once it is known that the desktop offers no such thing.
     using Missing = std::function<void()>;
@@ -33,6 +34,7 @@ class ColorPortal : public QObject {
     void Forget();
 
     QDBusConnection bus_;
+    QDBusServiceWatcher watcher_;  // of the portal, while it has something to answer
     const Picked picked_;
     const Missing missing_;
     QString request_;  // the path of the one that has no answer yet

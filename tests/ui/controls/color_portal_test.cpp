@@ -14,6 +14,7 @@ namespace kirto::test {
 
 namespace {
 
+constexpr const char* kService = "org.freedesktop.portal.Desktop";
 constexpr const char* kPortal = "/org/freedesktop/portal/desktop";
 
 // A bus of its own, which ends with it.
@@ -45,8 +46,10 @@ class Portal : public QDBusVirtualObject {
   public:
     explicit Portal(const QDBusConnection& bus) : bus_(bus) {
         EXPECT_TRUE(bus_.registerVirtualObject(kPortal, this, QDBusConnection::SubPath));
-        EXPECT_TRUE(bus_.registerService("org.freedesktop.portal.Desktop"));
+        Begin();
     }
+    void Begin() { EXPECT_TRUE(bus_.registerService(kService)); }
+    void End() { EXPECT_TRUE(bus_.unregisterService(kService)); }
 
     QString introspect(const QString&) const override { return {}; }
     bool handleMessage(const QDBusMessage& message, const QDBusConnection& bus) override {
@@ -140,6 +143,20 @@ TEST_F(ColorPortalTest, TakesNothingWhenTheUserGivesUpOrTheAnswerIsNoColor) {
     answer(0, ColorResults(1, 1, 1.5));
     EXPECT_TRUE(picked.empty());
     EXPECT_TRUE(button.isEnabled());
+}
+
+TEST_F(ColorPortalTest, AsksAgainWhereThePortalEndedBeforeItAnswered) {
+    Portal portal(bus.Connect("desktop"));
+    Ask(portal, 1);
+    portal.End();
+    QTest::qWait(50);
+    portal.Begin();
+    EXPECT_TRUE(picked.empty());
+    EXPECT_TRUE(button.isEnabled());
+
+    Ask(portal, 2);
+    portal.Answer(0, ColorResults(0, 0, 1));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !picked.empty(); }));
 }
 
 TEST_F(ColorPortalTest, SaysThatTheDesktopHasNoneOnceThatIsKnown) {
