@@ -27,6 +27,7 @@ constexpr size_t kLastOfFliHeader = 127;
 // What says that a file is read as browsers or players do, and how an FLI file is read otherwise.
 constexpr uint8 kFaithfulGif = 16;
 constexpr uint8 kFaithfulFli = 8;
+constexpr uint8 kTwiceFli = 2;
 constexpr uint32 kWaysOfFlis = 16;
 constexpr size_t kWrongAt[] = {4, 5, 8, 12};  // of a FLI file: magic, width, depth
 constexpr int kDamages = 4;                   // bytes at most that are changed in one file
@@ -148,16 +149,19 @@ int AddFlis(const std::filesystem::path& folder) {
         AddBothFlis("damaged-" + std::to_string(i), Damaged(fli, i), seeds);
     }
     Bytes all = FliOfAllChunks();
+    all[kLastOfFliHeader] = kTwiceFli;
     AddCut(all, kLastOfFliHeader, "cut-at-", seeds);
     for (const size_t at : kWrongAt) {
         Bytes wrong = all;
         wrong[at] ^= 1;
         AddBothFlis("wrong-at-" + std::to_string(at), wrong, seeds);
     }
-    all[kLastOfFliHeader] = kFaithfulFli;
+    all[kLastOfFliHeader] = kTwiceFli | kFaithfulFli;
     AddCut(all, kLastOfFliHeader + 1, "faithful-cut-at-", seeds);
     kirto::test::ForEachHostileFli(true, [&](const kirto::test::HostileFile& file) {
-        AddBothFlis(file.name, file.bytes, seeds);
+        Bytes fli = file.bytes;
+        if (fli.size() > kLastOfFliHeader) fli[kLastOfFliHeader] = kTwiceFli;
+        AddBothFlis(file.name, fli, seeds);
     });
     return seeds.Count();
 }
