@@ -10,6 +10,39 @@ namespace {
 
 // No pixel has it.
 constexpr uint32 kNoColor = ~uint32{0};
+// Pixels that are compared at once.
+constexpr size_t kAtOnce = 16;
+
+// The first place from there on where the rows differ, or end.
+inline size_t SkipSame(const uint32* a, const uint32* b, size_t from, size_t end) {
+    while (end - from >= kAtOnce && std::memcmp(a + from, b + from, kAtOnce * sizeof(*a)) == 0)
+        from += kAtOnce;
+    while (from < end && a[from] == b[from])
+        ++from;
+    return from;
+}
+
+// The end of the last place where the rows differ, which they do.
+size_t EndOfDifference(const uint32* a, const uint32* b, size_t end) {
+    while (end >= kAtOnce &&
+           std::memcmp(a + end - kAtOnce, b + end - kAtOnce, kAtOnce * sizeof(*a)) == 0)
+        end -= kAtOnce;
+    while (a[end - 1] == b[end - 1])
+        --end;
+    return end;
+}
+
+bool Contains(const ScreenPixels& pixels, uint32 wanted) {
+    const uint32* at = pixels.data();
+    const uint32* const end = at + pixels.size();
+    for (; end - at >= static_cast<ptrdiff_t>(kAtOnce); at += kAtOnce) {
+        uint32 found = 0;
+        for (size_t i = 0; i < kAtOnce; ++i)
+            found |= at[i] == wanted ? 1 : 0;
+        if (found != 0) return true;
+    }
+    return std::find(at, end, wanted) != end;
+}
 
 // Columns first to end of a row.
 struct Extent {
@@ -29,18 +62,16 @@ void CompareRow(const uint32* below, const uint32* shown, int32 width, int32 y,
     Extent changed;
     Extent lost;
     uint32 last = kNoColor;
-    int32 x = 0;
-    while (shown[x] == below[x])
-        ++x;
-    while (shown[width - 1] == below[width - 1])
-        --width;
-    for (; x < width; ++x) {
-        if (shown[x] == below[x]) continue;
-        changed.Add(x);
-        ++difference->pixels;
-        if (shown[x] == kNothing) lost.Add(x);
-        if (shown[x] != last) ++difference->runs;
-        last = shown[x];
+    const size_t end = EndOfDifference(below, shown, static_cast<size_t>(width));
+    for (size_t x = SkipSame(below, shown, 0, end); x < end; x = SkipSame(below, shown, x, end)) {
+        changed.Add(static_cast<int32>(x));
+        for (; x < end && shown[x] != below[x]; ++x) {
+            ++difference->pixels;
+            if (shown[x] == kNothing) lost.Add(static_cast<int32>(x));
+            if (shown[x] != last) ++difference->runs;
+            last = shown[x];
+        }
+        changed.Add(static_cast<int32>(x) - 1);
     }
     difference->changed = Around(difference->changed, changed.InRow(y));
     difference->lost = Around(difference->lost, lost.InRow(y));
@@ -58,7 +89,7 @@ ScreenDifference ScreenDifference::Between(const Screen& screen, const ScreenPix
         if (std::memcmp(below_row, shown_row, row_bytes) == 0) continue;
         CompareRow(below_row, shown_row, screen.Width(), y, &difference);
     }
-    difference.transparent = std::find(shown.begin(), shown.end(), kNothing) != shown.end();
+    difference.transparent = Contains(shown, kNothing);
     return difference;
 }
 
@@ -78,7 +109,9 @@ std::optional<std::vector<ColorValues::Item>> ColorsToDraw(const Screen& screen,
     for (int32 y = rect.top; y < rect.top + rect.height; ++y) {
         const size_t end = screen.At(rect.left + rect.width, y);
         for (size_t i = screen.At(rect.left, y); i < end;) {
-            if (shown[i] == below[i] || shown[i] == kNothing) {
+            i = SkipSame(below.data(), shown.data(), i, end);
+            if (i == end) break;
+            if (shown[i] == kNothing) {
                 ++i;
                 continue;
             }
