@@ -8,7 +8,8 @@
 
 namespace kirto {
 
-// The most pixels that a side of a canvas, or of a picture that grows, may have: what GIF files hold.
+// The most pixels that a side of a canvas, or of a picture that grows, may have: what GIF files
+// hold.
 inline constexpr int32 kMostPixelsOfASide = 65535;
 
 // A part of a plane, in pixels; unlike PixelRect it may begin left of it or above.
