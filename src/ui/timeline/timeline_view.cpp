@@ -165,7 +165,9 @@ std::optional<FrameImages::Wanted> TimelineView::ThumbnailOf(int32 frame) const 
     return FrameImages::Wanted{picture, QSize(width, height) * devicePixelRatioF()};
 }
 
+// While the view is hidden its layout may have frames that are gone.
 void TimelineView::WantThumbnails() {
+    if (!isVisible()) return;
     std::vector<FrameImages::Wanted> wanted;
     const auto [first, last] = FramesInSight();
     for (int32 i = first; i < last; ++i) {

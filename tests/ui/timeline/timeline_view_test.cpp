@@ -96,6 +96,20 @@ TEST_F(TimelineViewTest, ShowsThePictureInABlockThatHasRoom) {
     EXPECT_NE(narrow.pixel(view.PlaceOf(1).topLeft() + QPoint(5, 20)), kRed);
 }
 
+TEST_F(TimelineViewTest, FollowsThePlayheadToFramesThatAreGoneWhileItIsHidden) {
+    view.hide();
+    Change([](Animation& animation) {
+        while (animation.frames.Size() > 2)
+            animation.frames.Remove(2);
+    });
+    view.SetPlayhead(9);
+    EXPECT_GT(view.horizontalScrollBar()->value(), 0);
+
+    view.show();
+    EXPECT_EQ(view.FrameCount(), 2);
+    EXPECT_EQ(view.horizontalScrollBar()->value(), 0);
+}
+
 TEST_F(TimelineViewTest, SelectsByClicksAndKeys) {
     QTest::mouseClick(Viewport(), Qt::LeftButton, {}, {MiddleOf(2), kRow});
     EXPECT_EQ(Last().what, kSelectFrame);
